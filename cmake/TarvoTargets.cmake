@@ -1,0 +1,133 @@
+# How every target of this repository is made: language level, warnings, sanitizers, output folders and
+# the level rule (a target links only targets of its own level or below) live here once.
+
+include_guard(GLOBAL)
+
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# The build tree is laid out like an installation, so that programs find their data the same way in both.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib/tarvo)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/archive)
+set(TARVO_PLUGIN_DIR ${CMAKE_BINARY_DIR}/lib/tarvo/plugins)
+set(TARVO_DATA_DIR ${CMAKE_BINARY_DIR}/share/tarvo)
+set(TARVO_INSTALL_LIBDIR ${CMAKE_INSTALL_LIBDIR}/tarvo)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}/tarvo;$ORIGIN;$ORIGIN/..")
+
+add_library(tarvo_flags INTERFACE)
+target_compile_features(tarvo_flags INTERFACE cxx_std_17)
+target_compile_options(tarvo_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wimplicit-fallthrough -Wcast-align)
+target_compile_definitions(tarvo_flags INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00 QT_USE_QSTRINGBUILDER)
+if(TARVO_SANITIZE)
+    target_compile_options(tarvo_flags INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(tarvo_flags INTERFACE -fsanitize=address,undefined)
+endif()
+target_link_options(tarvo_flags INTERFACE -Wl,--no-undefined -Wl,--as-needed)
+
+# Marks a target's level and remembers it for tarvo_check_levels().
+function(tarvo_set_level target level)
+    set_target_properties(${target} PROPERTIES TARVO_LEVEL ${level})
+    set_property(GLOBAL APPEND PROPERTY TARVO_LEVELLED ${target})
+endfunction()
+
+# tarvo_add_library(NAME STATIC|SHARED LEVEL n SOURCES … [LINK …] [PRIVATE_LINK …])
+#
+# A library target whose headers are included as <folder/header.h>.
+function(tarvo_add_library name kind)
+    cmake_parse_arguments(ARG "" "LEVEL" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+    add_library(${name} ${kind} ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK} $<BUILD_INTERFACE:tarvo_flags>)
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH parent)
+    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${parent}>)
+    tarvo_set_level(${name} ${ARG_LEVEL})
+endfunction()
+
+# tarvo_add_host_library(NAME LEVEL n SOURCES … HEADERS … [LINK …] [PRIVATE_LINK …])
+#
+# A shared library of the host platform, also known as TarvoHost::NAME, with its public headers in the package.
+function(tarvo_add_host_library name)
+    cmake_parse_arguments(ARG "" "LEVEL" "SOURCES;HEADERS;LINK;PRIVATE_LINK" ${ARGN})
+    set(target TarvoHost${name})
+    tarvo_add_library(${target} SHARED LEVEL ${ARG_LEVEL} SOURCES ${ARG_SOURCES} ${ARG_HEADERS}
+        LINK ${ARG_LINK} PRIVATE_LINK ${ARG_PRIVATE_LINK})
+    add_library(TarvoHost::${name} ALIAS ${target})
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    string(TOUPPER ${name} upper)
+    target_compile_definitions(${target} PRIVATE TARVO_${upper}_LIBRARY)
+    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
+    target_include_directories(${target} PUBLIC $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tarvo>)
+    install(TARGETS ${target} EXPORT TarvoHostTargets LIBRARY DESTINATION ${TARVO_INSTALL_LIBDIR})
+    install(FILES ${ARG_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tarvo/${folder})
+endfunction()
+
+# tarvo_add_plugin(NAME LEVEL n SOURCES … [PRIVATE_LINK …]): a Qt plug-in library that exports Qt's entry points only.
+function(tarvo_add_plugin name)
+    cmake_parse_arguments(ARG "" "LEVEL" "SOURCES;PRIVATE_LINK" ${ARGN})
+    add_library(${name} MODULE ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_PRIVATE_LINK} tarvo_flags)
+    set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${TARVO_PLUGIN_DIR}
+        LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/qtplugin.map)
+    target_link_options(${name} PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/qtplugin.map)
+    install(TARGETS ${name} LIBRARY DESTINATION ${TARVO_INSTALL_LIBDIR}/plugins)
+    tarvo_set_level(${name} ${ARG_LEVEL})
+endfunction()
+
+# tarvo_add_program(NAME LEVEL n SOURCES … [PRIVATE_LINK …])
+function(tarvo_add_program name)
+    cmake_parse_arguments(ARG "NO_INSTALL" "LEVEL" "SOURCES;PRIVATE_LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_PRIVATE_LINK} tarvo_flags)
+    if(NOT ARG_NO_INSTALL)
+        install(TARGETS ${name} RUNTIME)
+    endif()
+    tarvo_set_level(${name} ${ARG_LEVEL})
+endfunction()
+
+# tarvo_add_test(NAME SOURCES … [LINK …] [TIMEOUT seconds]): a QtTest program and the test that runs it.
+function(tarvo_add_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_flags)
+    add_test(NAME ${name} COMMAND ${name})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false")
+endfunction()
+
+# Stops the configuration when a target links one of a higher level.
+function(tarvo_check_levels)
+    get_property(targets GLOBAL PROPERTY TARVO_LEVELLED)
+    foreach(target IN LISTS targets)
+        get_target_property(level ${target} TARVO_LEVEL)
+        get_target_property(links ${target} LINK_LIBRARIES)
+        foreach(link IN LISTS links)
+            if(NOT TARGET ${link})
+                continue()
+            endif()
+            get_target_property(aliased ${link} ALIASED_TARGET)
+            if(aliased)
+                set(link ${aliased})
+            endif()
+            get_target_property(linkLevel ${link} TARVO_LEVEL)
+            if(linkLevel MATCHES "^[0-9]+$" AND linkLevel GREATER level)
+                message(FATAL_ERROR "${target} (level ${level}) links ${link} (level ${linkLevel}): "
+                    "a target links only its own level or below")
+            endif()
+        endforeach()
+    endforeach()
+endfunction()

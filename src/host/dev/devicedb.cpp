@@ -1,0 +1,163 @@
+#include "devicedb.h"
+
+#include <utils/fileutils.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+static void initDeviceResources()
+{
+    Q_INIT_RESOURCE(devices);
+}
+
+namespace DEV
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("DEV::DeviceDb", text);
+}
+
+const QString packagesFile = QStringLiteral("packages.json");
+
+bool malformed(const QString &path, const QString &reason, QString *error)
+{
+    if (error)
+        *error = tr("Device file \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
+    return false;
+}
+
+bool readObject(const QString &path, QJsonObject *object, QString *error)
+{
+    QByteArray bytes;
+    if (!Utils::FileUtils::readFile(path, &bytes, error))
+        return false;
+    QJsonParseError parseError;
+    *object = QJsonDocument::fromJson(bytes, &parseError).object();
+    return parseError.error == QJsonParseError::NoError ||
+           malformed(path, parseError.errorString(), error);
+}
+
+bool matches(const QString &wanted, const QString &value)
+{
+    return wanted.isEmpty() || wanted == value;
+}
+
+} // namespace
+
+DeviceDb DeviceDb::fromFolder(const QString &folder, QString *error)
+{
+    const QDir dir(folder);
+    if (folder.isEmpty() || !dir.exists()) {
+        if (error)
+            *error = tr("The device folder \"%1\" does not exist.")
+                         .arg(QDir::toNativeSeparators(folder));
+        return {};
+    }
+    const QStringList names =
+        dir.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Readable, QDir::Name);
+    if (names.isEmpty()) {
+        if (error)
+            *error = tr("The device folder \"%1\" holds no device file.")
+                         .arg(QDir::toNativeSeparators(folder));
+        return {};
+    }
+    QHash<QString, QString> packageCodes;
+    QJsonObject packages;
+    if (!readObject(dir.filePath(packagesFile), &packages, error))
+        return {};
+    const QJsonObject codes = packages.value(QLatin1String("packageCodes")).toObject();
+    for (auto it = codes.begin(); it != codes.end(); ++it)
+        packageCodes.insert(it.key(), it.value().toString());
+
+    DeviceDb db;
+    for (const QString &name : names) {
+        if (name != packagesFile && !db.readSeries(dir.filePath(name), packageCodes, error))
+            return {};
+    }
+    return db;
+}
+
+DeviceDb &DeviceDb::bundled()
+{
+    static DeviceDb db = [] {
+        initDeviceResources();
+        QString error;
+        DeviceDb built = fromFolder(QStringLiteral(":/tarvo/devices"), &error);
+        if (built.isEmpty())
+            qFatal("%s", qPrintable(error));
+        return built;
+    }();
+    return db;
+}
+
+bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &packageCodes,
+                          QString *error)
+{
+    const auto fail = [error, &path](const QString &reason) {
+        return malformed(path, reason, error);
+    };
+    QJsonObject root;
+    if (!readObject(path, &root, error))
+        return false;
+    const QJsonArray devices = root.value(QLatin1String("devices")).toArray();
+    if (devices.isEmpty())
+        return fail(tr("it lists no devices"));
+    for (const QJsonValue &value : devices) {
+        const QJsonObject entry = value.toObject();
+        const QString device = entry.value(QLatin1String("device")).toString();
+        const QString version = entry.value(QLatin1String("version")).toString();
+        const QJsonArray packages = entry.value(QLatin1String("packages")).toArray();
+        const QJsonArray speeds = entry.value(QLatin1String("speeds")).toArray();
+        if (device.isEmpty() || packages.isEmpty() || speeds.isEmpty())
+            return fail(tr("an entry lacks its device name, packages or speeds"));
+        if (!device.endsWith(version) || !device.contains(u'-'))
+            return fail(tr("the device name \"%1\" does not fit its version").arg(device));
+        const QString deviceN = device.chopped(version.size());
+        const QString base =
+            deviceN.section(u'-', 0, 0) + QLatin1String("-LV") + deviceN.section(u'-', 1);
+        for (const QJsonValue &packageValue : packages) {
+            const QString package = packageValue.toString();
+            const QString code = packageCodes.value(package);
+            if (code.isEmpty())
+                return fail(tr("the package \"%1\" has no code").arg(package));
+            for (const QJsonValue &speedValue : speeds) {
+                const QString speed = speedValue.toString();
+                const DeviceArg record(device, deviceN, version, package, speed,
+                                       base + code + speed);
+                if (m_indexById.contains(record.id()))
+                    return fail(tr("the id \"%1\" occurs twice").arg(record.id()));
+                m_indexById.insert(record.id(), m_devices.size());
+                m_devices.append(record);
+            }
+        }
+    }
+    return true;
+}
+
+DeviceArg DeviceDb::findDevice(const QString &id) const
+{
+    const int index = m_indexById.value(id, -1);
+    return index < 0 ? DeviceArg() : m_devices.at(index);
+}
+
+QList<DeviceArg> DeviceDb::filterDevice(const ChipFilter &filter) const
+{
+    QList<DeviceArg> found;
+    for (const DeviceArg &record : m_devices) {
+        if ((filter.id.isEmpty() || filter.id == record.id() || filter.id == record.device()) &&
+            matches(filter.series, record.series()) && matches(filter.device, record.device()) &&
+            matches(filter.package, record.package()) && matches(filter.speed, record.speed()) &&
+            matches(filter.partNumber, record.partNumber()))
+            found.append(record);
+    }
+    return found;
+}
+
+} // namespace DEV

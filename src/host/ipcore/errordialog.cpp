@@ -1,0 +1,68 @@
+#include "errordialog.h"
+
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyle>
+
+namespace IPCore
+{
+
+ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidget *parent)
+    : QDialog(parent)
+    , m_title(title)
+    , m_details(new QPlainTextEdit)
+{
+    setWindowTitle(tr("Error"));
+
+    auto *icon = new QLabel;
+    const int extent = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    icon->setPixmap(
+        style()->standardIcon(QStyle::SP_MessageBoxCritical, nullptr, this).pixmap(extent));
+    auto *heading = new QLabel(title);
+    heading->setObjectName(QStringLiteral("titleLabel"));
+    heading->setTextFormat(Qt::PlainText);
+    heading->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    heading->setWordWrap(true);
+
+    QStringList lines = details;
+    lines.removeAll(QString());
+    m_details->setObjectName(QStringLiteral("detailsEdit"));
+    m_details->setAccessibleName(tr("Details"));
+    m_details->setReadOnly(true);
+    m_details->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_details->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_details->setPlainText(lines.join(u'\n'));
+    m_details->setVisible(!lines.isEmpty());
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto *copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
+    copy->setObjectName(QStringLiteral("copyButton"));
+    connect(copy, &QPushButton::clicked, this, &ErrorDialog::copyAll);
+    connect(buttons, &QDialogButtonBox::rejected, this, &ErrorDialog::reject);
+
+    auto *layout = new QGridLayout(this);
+    layout->addWidget(icon, 0, 0, Qt::AlignTop);
+    layout->addWidget(heading, 0, 1);
+    layout->addWidget(m_details, 1, 0, 1, 2);
+    layout->addWidget(buttons, 2, 0, 1, 2);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(1, 1);
+
+    if (!lines.isEmpty()) {
+        const QFontMetrics metrics(m_details->font());
+        resize(metrics.averageCharWidth() * 88, metrics.lineSpacing() * 20);
+    }
+}
+
+void ErrorDialog::copyAll()
+{
+    QGuiApplication::clipboard()->setText(m_title + u'\n' + m_details->toPlainText());
+}
+
+} // namespace IPCore

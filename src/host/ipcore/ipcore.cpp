@@ -1,0 +1,146 @@
+#include "ipcore.h"
+
+#include "errordialog.h"
+
+#include <core/project.h>
+#include <core/projectmanager.h>
+#include <core/viewmanager.h>
+#include <synthesis/simulationmodel.h>
+#include <utils/descriptor.h>
+#include <utils/fileutils.h>
+#include <utils/inifile.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace IPCore
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("IPCore", text);
+}
+
+void report(QWidget *parent, const QString &message)
+{
+    QMessageBox box(QMessageBox::Critical, tr("Error"), message, QMessageBox::Ok,
+                    parent ? parent : Core::ViewManager::dialogParent());
+    // Messages hold paths of the user, which must never be taken for mark-up.
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+bool names(const QString &entry, const DEV::DeviceArg &device)
+{
+    if (entry.endsWith(u'*'))
+        return device.device().startsWith(entry.chopped(1));
+    return entry == device.device() || entry == device.deviceN() || entry == device.series();
+}
+
+bool anyNames(const QStringList &entries, const DEV::DeviceArg &device)
+{
+    for (const QString &entry : entries) {
+        if (names(entry, device))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+QVariantMap processIPInfoSpec(const QString &path, QString *error)
+{
+    QVariantMap ipInfo = Utils::readDescriptor(path, error);
+    const auto help = ipInfo.find(QStringLiteral("ipcore.doc.help"));
+    if (help != ipInfo.end() && !help->toString().isEmpty())
+        *help = QFileInfo(path).absoluteDir().absoluteFilePath(help->toString());
+    return ipInfo;
+}
+
+bool checkCommonInfo(const QVariantMap &ipInfo)
+{
+    for (const char *key :
+         {"ipcore.id", "ipcore.name", "ipcore.version", "ipcore.category", "ipcore.target"}) {
+        const QVariant value = ipInfo.value(QLatin1String(key));
+        if (value.toStringList().join(QString()).isEmpty())
+            return false;
+    }
+    return true;
+}
+
+bool isSupported(const DEV::DeviceArg &device, const QStringList &unsupported,
+                 const QStringList &supported)
+{
+    if (device.isNull() || anyNames(unsupported, device))
+        return false;
+    return supported.isEmpty() || anyNames(supported, device);
+}
+
+void writeIPConfig(const QString &path, const QVariantMap &header, const QVariantMap &options)
+{
+    QString error;
+    if (!Utils::writeIniFile(path, header, QStringLiteral("Config"), options, &error))
+        report(nullptr, error);
+}
+
+bool makeDirs(const QString &path, const QString &ipName)
+{
+    QString error;
+    if (Utils::FileUtils::makePath(path, &error))
+        return true;
+    report(nullptr, tr("%1 cannot be generated. %2").arg(ipName, error));
+    return false;
+}
+
+bool generateFile(const QString &path, const QStringList &lines, QWidget *parent,
+                  const QString &header)
+{
+    QString error;
+    const QStringList text =
+        header.isEmpty() ? lines : header.split(u'\n', Qt::SkipEmptyParts) + lines;
+    if (Utils::FileUtils::writeLines(path, text, &error))
+        return true;
+    report(parent, error);
+    return false;
+}
+
+int decode(const QString &outDir, const QString &netlist, const QString &destination,
+           QString &message)
+{
+    if (!QFileInfo(outDir).isDir()) {
+        message =
+            tr("The output folder \"%1\" does not exist.").arg(QDir::toNativeSeparators(outDir));
+        return -1;
+    }
+    return Synthesis::writeSimulationModel(netlist, destination, &message);
+}
+
+void showErrorMsgs(const QString &title, const QStringList &details)
+{
+    ErrorDialog dialog(title, details, Core::ViewManager::dialogParent());
+    dialog.exec();
+}
+
+void addFilesToProject(const QStringList &paths)
+{
+    if (Core::Project *project = Core::ProjectManager::currentProject())
+        project->addFiles(paths);
+}
+
+bool isSubDirFile(const QString &dir, const QString &path)
+{
+    if (dir.isEmpty() || path.isEmpty())
+        return false;
+    QString folder = QDir::cleanPath(QFileInfo(dir).absoluteFilePath());
+    if (!folder.endsWith(u'/'))
+        folder += u'/';
+    const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    return file.size() > folder.size() && file.startsWith(folder);
+}
+
+} // namespace IPCore

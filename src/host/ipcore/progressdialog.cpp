@@ -1,0 +1,106 @@
+#include "progressdialog.h"
+
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace IPCore
+{
+
+ProgressDialog::ProgressDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_stage(new QLabel)
+    , m_elapsed(new QLabel)
+    , m_bar(new QProgressBar)
+    , m_log(new QPlainTextEdit)
+{
+    setModal(true);
+
+    m_stage->setObjectName(QStringLiteral("stageLabel"));
+    m_elapsed->setObjectName(QStringLiteral("elapsedLabel"));
+    m_log->setObjectName(QStringLiteral("logEdit"));
+
+    m_stage->setTextFormat(Qt::PlainText);
+    m_elapsed->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_elapsed->setToolTip(tr("Elapsed time"));
+    m_bar->setRange(0, 0); // the length of a run is not known
+    m_bar->setTextVisible(false);
+    m_log->setReadOnly(true);
+    m_log->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_log->setMaximumBlockCount(20000);
+    m_log->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_log->setAccessibleName(tr("Output of the synthesis tool"));
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    m_cancel = buttons->button(QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::rejected, this, &ProgressDialog::reject);
+
+    auto *heading = new QHBoxLayout;
+    heading->addWidget(m_stage, 1);
+    heading->addWidget(m_elapsed);
+    auto *layout = new QVBoxLayout(this);
+    layout->addLayout(heading);
+    layout->addWidget(m_bar);
+    layout->addWidget(m_log, 1);
+    layout->addWidget(buttons);
+
+    const QFontMetrics metrics(m_log->font());
+    resize(metrics.averageCharWidth() * 92, metrics.lineSpacing() * 26);
+
+    m_tick.setInterval(200);
+    connect(&m_tick, &QTimer::timeout, this, &ProgressDialog::showElapsed);
+}
+
+void ProgressDialog::setStage(const QString &stage)
+{
+    m_stage->setText(stage);
+}
+
+void ProgressDialog::appendLog(const QString &text)
+{
+    m_log->appendPlainText(text);
+}
+
+void ProgressDialog::startClock()
+{
+    m_log->clear();
+    m_stage->setText(tr("Starting"));
+    m_cancel->setEnabled(true);
+    m_bar->setRange(0, 0);
+    m_clock.start();
+    m_tick.start();
+    showElapsed();
+}
+
+void ProgressDialog::stopClock()
+{
+    m_tick.stop();
+    m_cancel->setEnabled(false);
+    m_bar->setRange(0, 1);
+    m_bar->setValue(1);
+}
+
+void ProgressDialog::reject()
+{
+    if (!m_tick.isActive()) {
+        QDialog::reject();
+        return;
+    }
+    m_stage->setText(tr("Cancelling"));
+    m_cancel->setEnabled(false);
+    Q_EMIT cancelRequested();
+}
+
+void ProgressDialog::showElapsed()
+{
+    const qint64 seconds = m_clock.elapsed() / 1000;
+    m_elapsed->setText(
+        QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0')));
+}
+
+} // namespace IPCore

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QTimer>
+
+QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QPlainTextEdit)
+QT_FORWARD_DECLARE_CLASS(QProgressBar)
+QT_FORWARD_DECLARE_CLASS(QPushButton)
+
+namespace IPCore
+{
+
+// Shows a running tool. Never ends the run itself: Cancel, Escape and the window's close button
+// only ask for it.
+class ProgressDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ProgressDialog(QWidget *parent = nullptr);
+
+    void setStage(const QString &stage);
+    void appendLog(const QString &text);
+    // Empties the window and counts the elapsed time from zero.
+    void startClock();
+    void stopClock();
+
+    void reject() override;
+
+Q_SIGNALS:
+    void cancelRequested();
+
+private:
+    void showElapsed();
+
+    QLabel *m_stage;
+    QLabel *m_elapsed;
+    QProgressBar *m_bar;
+    QPlainTextEdit *m_log;
+    QPushButton *m_cancel;
+    QTimer m_tick;
+    QElapsedTimer m_clock;
+};
+
+} // namespace IPCore

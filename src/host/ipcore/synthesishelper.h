@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ipcore_global.h"
+
+#include <synthesis/job.h>
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+namespace IPCore
+{
+
+// outputDir, ipName, targetName, device, options: see Synthesis::Job for the option keys.
+using SynthesizeArgs = Synthesis::Job;
+
+// Runs a synthesis tool with a progress window: stage, elapsed time, the tool's log as it comes,
+// and Cancel.
+class TARVO_IPCORE_EXPORT SynthesisHelper : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum SynthesizeTool { SynplifyPro = 0, TarvoSynthesis = 1 };
+    Q_ENUM(SynthesizeTool)
+
+    // If `parent` is a widget the progress window belongs to it. Destroying a helper ends its run.
+    explicit SynthesisHelper(QObject *parent = nullptr);
+    ~SynthesisHelper() override;
+
+    // TarvoSynthesis until something else is set. Takes effect at the next start().
+    void setSynthesizeTool(SynthesizeTool tool);
+    SynthesizeTool synthesizeTool() const;
+    void setArgs(const SynthesizeArgs &args);
+
+    void setProgressDlgWindowTitle(const QString &title);
+    // The window blocks its parent window while it is shown. Closing it asks for cancellation, as
+    // its Cancel button does.
+    void showProgressDlg();
+    void hideProgressDlg();
+
+    // Starts a run and returns; finished() follows exactly once. Ignored while a run is active.
+    void start();
+    void cancel();
+    bool isRunning() const;
+
+    // Of the last run: the summary error, empty after a success, and the detailed messages.
+    QString errorMsg() const;
+    QStringList detailErrorMsgs() const;
+
+Q_SIGNALS:
+    // 0 means success.
+    void finished(int exitCode);
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace IPCore

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "job.h"
+#include "synthesis_global.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+namespace Synthesis {
+
+enum class Tool { SynplifyPro = 0, TarvoSynthesis = 1 };
+
+// Runs a synthesis tool on a Job as a process of its own and reports the end. Has no widget and needs a
+// running event loop. A run has no time limit; cancel() ends it. cancel() and the destructor kill the
+// tool's whole process group.
+class TARVO_SYNTHESIS_EXPORT Runner : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Runner(QObject *parent = nullptr);
+    ~Runner() override;
+
+    void setTool(Tool tool);
+    Tool tool() const;
+    void setJob(const Job &job);
+
+    // Starts a run and returns at once; finished() follows exactly once, never from within start(). Does nothing
+    // while a run is active.
+    void start();
+    // Ends the active run: finished() follows with a non-zero code and wasCancelled() is true.
+    void cancel();
+    bool isRunning() const;
+    bool wasCancelled() const;
+
+    // Of the last run: one summary sentence, empty after a success, and the tool's errors, one a line ("file:line: text"
+    // where the tool names a place).
+    QString errorMsg() const;
+    QStringList detailErrorMsgs() const;
+
+Q_SIGNALS:
+    // A short phrase for people ("Reading sources").
+    void stageChanged(const QString &stage);
+    // Output of the tool as it comes, whole lines without their line ends.
+    void logReceived(const QString &text);
+    // The end of a run; 0 is success.
+    void finished(int exitCode);
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace Synthesis

@@ -1,0 +1,10 @@
+#include "simulationmodel.h"
+
+namespace Synthesis {
+
+int writeSimulationModel(const QString &, const QString &, QString *)
+{
+    return 1;
+}
+
+} // namespace Synthesis

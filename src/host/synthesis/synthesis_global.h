@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtGlobal>
+
+#ifdef TARVO_SYNTHESIS_LIBRARY
+#define TARVO_SYNTHESIS_EXPORT Q_DECL_EXPORT
+#else
+#define TARVO_SYNTHESIS_EXPORT Q_DECL_IMPORT
+#endif

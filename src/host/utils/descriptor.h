@@ -1,0 +1,18 @@
+#pragma once
+
+#include "utils_global.h"
+
+#include <QString>
+#include <QVariantMap>
+
+namespace Utils
+{
+
+// Reads a JSON descriptor file as a flat map: the key of a nested value is the chain of its object
+// keys joined with dots ("ipcore.doc.summary"); arrays become string lists, strings, numbers and
+// booleans keep their types, null is an invalid variant. A file that cannot be read or is no JSON
+// object gives an empty map and, in `*error` (may be null), a sentence with the path and, for
+// malformed text, line and column (both from 1).
+TARVO_UTILS_EXPORT QVariantMap readDescriptor(const QString &path, QString *error = nullptr);
+
+} // namespace Utils

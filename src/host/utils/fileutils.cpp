@@ -1,0 +1,113 @@
+#include "fileutils.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace Utils
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Utils::FileUtils", text);
+}
+
+bool fail(QString *error, const char *text, const QString &path, const QString &reason)
+{
+    if (error)
+        *error = tr(text).arg(QDir::toNativeSeparators(path), reason);
+    return false;
+}
+
+bool holds(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (QFileInfo(path).size() != bytes.size() || !file.open(QIODevice::ReadOnly))
+        return false;
+    return file.readAll() == bytes;
+}
+
+} // namespace
+
+bool FileUtils::copyFile(const QString &source, const QString &destination, QString *error)
+{
+    QByteArray bytes;
+    return readFile(source, &bytes, error) && writeFile(destination, bytes, error);
+}
+
+bool FileUtils::writeFile(const QString &path, const QByteArray &bytes, QString *error)
+{
+    if (path.isEmpty()) {
+        if (error)
+            *error = tr("Cannot write a file without a name.");
+        return false;
+    }
+    const QFileInfo info(path);
+    if (info.isDir())
+        return fail(error, "Cannot write \"%1\": %2.", path, tr("it is a folder"));
+    if (info.exists() && holds(path, bytes))
+        return true;
+
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return fail(error, "Cannot write \"%1\": %2.", path, file.errorString());
+    if (file.write(bytes) != bytes.size() || !file.commit())
+        return fail(error, "Cannot write \"%1\": %2.", path, file.errorString());
+    return true;
+}
+
+bool FileUtils::writeLines(const QString &path, const QStringList &lines, QString *error)
+{
+    QByteArray bytes;
+    for (const QString &line : lines)
+        bytes += line.toUtf8() + '\n';
+    return writeFile(path, bytes, error);
+}
+
+bool FileUtils::readFile(const QString &path, QByteArray *bytes, QString *error)
+{
+    if (path.isEmpty()) {
+        if (error)
+            *error = tr("Cannot read a file without a name.");
+        return false;
+    }
+    const QFileInfo info(path);
+    if (info.isDir())
+        return fail(error, "Cannot read \"%1\": %2.", path, tr("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(error, "Cannot read \"%1\": %2.", path, file.errorString());
+    *bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return fail(error, "Cannot read \"%1\": %2.", path, file.errorString());
+    return true;
+}
+
+bool FileUtils::makePath(const QString &path, QString *error)
+{
+    if (path.isEmpty()) {
+        if (error)
+            *error = tr("Cannot make a folder without a name.");
+        return false;
+    }
+    if (QDir().mkpath(path))
+        return true;
+    // mkpath gives no reason: look for the nearest ancestor that stands in the way.
+    QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    while (!info.exists() && info.absolutePath() != info.absoluteFilePath())
+        info.setFile(info.absolutePath());
+    QString reason = tr("the folder cannot be made");
+    if (!info.isDir())
+        reason = tr("\"%1\" is a file").arg(QDir::toNativeSeparators(info.absoluteFilePath()));
+    else if (!info.isWritable())
+        reason =
+            tr("\"%1\" is not writable").arg(QDir::toNativeSeparators(info.absoluteFilePath()));
+    return fail(error, "Cannot make the folder \"%1\": %2.", path, reason);
+}
+
+} // namespace Utils

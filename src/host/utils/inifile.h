@@ -1,0 +1,24 @@
+#pragma once
+
+#include "utils_global.h"
+
+#include <QString>
+#include <QVariantMap>
+
+namespace Utils
+{
+
+// Replaces `path` by an INI file in the QSettings dialect: the entries of `header` at the top
+// level, those of `values` in the group `group`. What stood in the file before is gone; keys are in
+// alphabetical order, so that equal maps give equal bytes. Returns false and stores a sentence with
+// path and reason in `*error` (may be null).
+TARVO_UTILS_EXPORT bool writeIniFile(const QString &path, const QVariantMap &header,
+                                     const QString &group, const QVariantMap &values,
+                                     QString *error);
+
+// Whether `bytes` can be the text of an INI file: every line is blank, a comment, a section or a
+// key with a value, and no control character stands in it. Returns the reason in `*error` (may be
+// null), with the line number.
+TARVO_UTILS_EXPORT bool checkIniText(const QByteArray &bytes, QString *error);
+
+} // namespace Utils
