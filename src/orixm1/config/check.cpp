@@ -1,0 +1,261 @@
+#include "check.h"
+
+#include "core/tcmsizes.h"
+#include "devicerules.h"
+#include "optionkeys.h"
+#include "optiontable.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+// Collects the findings about one configuration.
+class Checker
+{
+public:
+    Checker(const OptionMap &options, const DEV::DeviceArg &device, const QString &createInPath)
+        : m_options(options)
+        , m_device(device)
+        , m_createInPath(createInPath)
+    {
+    }
+
+    QVector<Finding> run()
+    {
+        for (auto it = m_options.cbegin(); it != m_options.cend(); ++it)
+            checkEntry(it.key(), it.value());
+        checkMemoryChoice(Key::internalInstructionMemory, Key::externalInstructionMemory,
+                          QStringLiteral("instruction"));
+        checkMemoryChoice(Key::internalDataMemory, Key::externalDataMemory, QStringLiteral("data"));
+        checkInitialisation();
+        checkInterrupts();
+        checkCan();
+        checkEthernet();
+        if (!m_device.isNull()) {
+            checkDevice();
+            checkSizes();
+        }
+        return m_findings;
+    }
+
+private:
+    void add(Finding::Severity severity, const QString &key, const QString &message)
+    {
+        m_findings.append({severity, key, message});
+    }
+
+    bool isOn(QLatin1String key, bool byDefault = false) const
+    {
+        return m_options.value(key, byDefault).toBool();
+    }
+
+    void checkEntry(const QString &key, const QVariant &value)
+    {
+        if (key == Key::createInPath) {
+            add(Finding::Warning, key, QStringLiteral("is ignored: the folder of the file counts"));
+            return;
+        }
+        const Option *option = findOption(key);
+        if (!option) {
+            const QString nearest = nearestOptionKey(key);
+            add(Finding::Warning, key,
+                nearest.isEmpty()
+                    ? QStringLiteral("unknown key")
+                    : QStringLiteral("unknown key; the nearest known one is \"%1\"").arg(nearest));
+            return;
+        }
+        const QVariant typed = optionValueFromText(*option, value.toString());
+        if (!typed.isValid() || (value.type() == QVariant::StringList)) {
+            add(Finding::Error, key,
+                QLatin1String("\"") + shown(value) + QLatin1String("\" is no ") +
+                    typeName(option->type));
+        } else if (!isInDomain(*option, typed)) {
+            add(Finding::Error, key,
+                QLatin1String("\"") + shown(value) + QLatin1String("\" is out of its domain: ") +
+                    domainText(*option));
+        }
+    }
+
+    static QString shown(const QVariant &value)
+    {
+        constexpr int limit = 60;
+        const QString text = value.type() == QVariant::StringList
+                                 ? value.toStringList().join(QLatin1String(", "))
+                                 : value.toString();
+        return text.size() > limit ? QString(text.left(limit) + QChar(0x2026)) : text;
+    }
+
+    void checkMemoryChoice(QLatin1String internalKey, QLatin1String externalKey,
+                           const QString &memory)
+    {
+        const bool internal = isOn(internalKey, true);
+        const bool external = isOn(externalKey);
+        if (internal && external)
+            add(Finding::Warning, externalKey,
+                QStringLiteral("is ignored: the internal %1 memory is chosen as well").arg(memory));
+        if (!internal && !external)
+            add(Finding::Warning, internalKey,
+                QStringLiteral("neither internal nor external %1 memory is chosen").arg(memory));
+    }
+
+    void checkInitialisation()
+    {
+        if (!isOn(Key::initializeItcm))
+            return;
+        if (!isOn(Key::internalInstructionMemory, true)) {
+            add(Finding::Warning, Key::initializeItcm,
+                QStringLiteral("is ignored: the instruction memory is not internal"));
+            return;
+        }
+        const QString path = m_options.value(Key::itcmInitializationPath).toString();
+        if (path.isEmpty()) {
+            add(Finding::Error, Key::itcmInitializationPath,
+                QStringLiteral("is empty although the ITCM is to be initialised"));
+        } else if (!QDir(QDir(m_createInPath).absoluteFilePath(path)).exists()) {
+            add(Finding::Error, Key::itcmInitializationPath,
+                QLatin1String("the folder \"") + path + QLatin1String("\" does not exist"));
+        }
+        const QString absolute = m_options.value(Key::itcmInitializationAbsolutePath).toString();
+        if (absolute.isEmpty()) {
+            add(Finding::Error, Key::itcmInitializationAbsolutePath,
+                QStringLiteral("is empty, so that generation has no folder to name"));
+        } else if (!QDir(absolute).exists()) {
+            add(Finding::Error, Key::itcmInitializationAbsolutePath,
+                QLatin1String("the folder \"") + absolute + QLatin1String("\" does not exist"));
+        } else if (!QFileInfo(absolute).isAbsolute()) {
+            add(Finding::Warning, Key::itcmInitializationAbsolutePath,
+                QStringLiteral("is not absolute"));
+        }
+    }
+
+    void checkInterrupts()
+    {
+        const int interrupts = m_options.value(Key::numberOfInterrupts, 32).toInt();
+        if (isOn(Key::externalInterrupts) && interrupts < 16)
+            add(Finding::Warning, Key::externalInterrupts,
+                QStringLiteral("needs 16 or 32 interrupts"));
+    }
+
+    void checkCan()
+    {
+        if (isOn(Key::enableCan) && m_options.value(Key::canBufferDepth).toString().isEmpty())
+            add(Finding::Error, Key::canBufferDepth,
+                QStringLiteral(
+                    "is not set although CAN is on: the generated parameter has no value"));
+    }
+
+    void checkEthernet()
+    {
+        if (!isOn(Key::enableEthernet))
+            return;
+        const bool rgmii =
+            m_options.value(Key::ethernetInterface, QString(Value::rgmii)).toString() ==
+            Value::rgmii;
+        if (rgmii && !m_options.contains(Key::ethernetInputDelay))
+            add(Finding::Warning, Key::ethernetInputDelay,
+                QStringLiteral("is not set: 0 is generated"));
+        if (!m_options.contains(Key::ethernetClockDivider))
+            add(Finding::Warning, Key::ethernetClockDivider,
+                QStringLiteral("is not set: 0 is generated"));
+        constexpr int narrowMaximum = 127;
+        const QString name = m_device.device();
+        if (!m_device.isNull() && !isTv5k(name) && !isTv3k(name) &&
+            m_options.value(Key::ethernetInputDelay).toInt() > narrowMaximum)
+            add(Finding::Error, Key::ethernetInputDelay,
+                QStringLiteral("is more than %1, the largest delay of %2")
+                    .arg(QString::number(narrowMaximum), name));
+    }
+
+    void checkDevice()
+    {
+        const QString name = m_device.device();
+        const auto cannotHave = [this, &name](QLatin1String key, const QString &block,
+                                              bool available) {
+            if (!available && isOn(key))
+                add(Finding::Error, key, QStringLiteral("%1 cannot have %2").arg(name, block));
+        };
+        cannotHave(Key::enablePsram, QLatin1String("PSRAM in package ") + m_device.package(),
+                   isPsramAvailable(m_device));
+        cannotHave(Key::enableDdr3, QStringLiteral("DDR3"), isDdr3Available(name));
+        const bool small = isSmallDevice(name);
+        cannotHave(Key::enableEthernet, QStringLiteral("Ethernet"), !small);
+        cannotHave(Key::enableCan, QStringLiteral("CAN"), !small);
+        cannotHave(Key::enableSpiFlash, QStringLiteral("SPI-Flash"), !small);
+        if ((small || isDebugUnavailable(name)) && isOn(Key::enableDebug, true))
+            add(Finding::Error, Key::enableDebug, QStringLiteral("%1 cannot have debug").arg(name));
+        if (isInstructionMemoryExternalOnly(name) && isOn(Key::internalInstructionMemory, true))
+            add(Finding::Error, Key::internalInstructionMemory,
+                QStringLiteral("the instruction memory of %1 is always external").arg(name));
+
+        const QString storedId = m_options.value(Key::ipDeviceId).toString();
+        if (!storedId.isEmpty() && storedId != m_device.id())
+            add(Finding::Warning, Key::ipDeviceId,
+                QLatin1String("is \"") + storedId +
+                    QLatin1String("\", but the target device is \"") + m_device.id() + u'"');
+        const QString storedName = m_options.value(Key::ipDevice).toString();
+        if (!storedName.isEmpty() && storedName != name)
+            add(Finding::Warning, Key::ipDevice,
+                QLatin1String("is \"") + storedName +
+                    QLatin1String("\", but the target device is \"") + name + u'"');
+    }
+
+    // -1: the memory is not internal, or its index is reported already.
+    int internalSize(QLatin1String sizeKey, QLatin1String internalKey, const TcmSizes &sizes)
+    {
+        if (!isOn(internalKey, true) || sizes.full.isEmpty())
+            return -1;
+        const QString name = m_device.device();
+        const int index = m_options.value(sizeKey, defaultTcmSizeIndex(name)).toInt();
+        if (index < 0 || index > 9)
+            return -1;
+        if (index >= sizes.full.size()) {
+            add(Finding::Error, sizeKey,
+                QStringLiteral("%1 is more than %2 has: at most %3")
+                    .arg(tcmSizeList(index).last(), name, sizes.largest));
+            return -1;
+        }
+        return index;
+    }
+
+    void checkSizes()
+    {
+        const TcmSizes sizes = tcmSizes(m_device.device());
+        const int itcm = internalSize(Key::itcmSize, Key::internalInstructionMemory, sizes);
+        const int dtcm = internalSize(Key::dtcmSize, Key::internalDataMemory, sizes);
+        const int largest = sizes.full.size() - 1;
+        if (itcm < 0 || dtcm < 0)
+            return;
+        const bool itcmLimited = dtcm == largest && itcm >= sizes.reduced.size();
+        const bool dtcmLimited = itcm == largest && dtcm >= sizes.reduced.size();
+        if (itcmLimited && dtcmLimited) {
+            add(Finding::Error, Key::dtcmSize,
+                QStringLiteral("both memories have the device's largest size, %1; one may have %2 "
+                               "at most then")
+                    .arg(sizes.largest, sizes.reduced.last()));
+        } else if (itcmLimited || dtcmLimited) {
+            add(Finding::Error, dtcmLimited ? Key::dtcmSize : Key::itcmSize,
+                QStringLiteral("may be %1 at most while the other memory has %2")
+                    .arg(sizes.reduced.last(), sizes.largest));
+        }
+    }
+
+    const OptionMap &m_options;
+    const DEV::DeviceArg &m_device;
+    const QString m_createInPath;
+    QVector<Finding> m_findings;
+};
+
+} // namespace
+
+QVector<Finding> checkOptions(const OptionMap &options, const DEV::DeviceArg &device,
+                              const QString &createInPath)
+{
+    return Checker(options, device, createInPath).run();
+}
+
+} // namespace TARVOORIXM1

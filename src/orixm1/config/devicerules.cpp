@@ -1,0 +1,126 @@
+#include "devicerules.h"
+
+#include <iterator>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+struct DefaultSizeRow {
+    QLatin1String devices;
+    int index;
+};
+
+// The first matching row wins.
+constexpr DefaultSizeRow defaultSizes[] = {
+    {QLatin1String("TV1KL-5A/TV1KL-5B"), 3},
+    {QLatin1String("TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV2KL-9X/TV1KL-9A/TV2KL-18X"), 4},
+    {QLatin1String("TV2K-18/TV2KR-18/TV2K-18C/TV2KR-18C/TV2KLR-18C"), 5},
+    {QLatin1String("TV2K-55/TV2K-55C/TV2KL-55C/TV3K-50A"), 6},
+    {QLatin1String("TV5K-25A/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A/"
+                   "TV5KS-25A/TV5KR-25A"),
+     5},
+    {QLatin1String("TV5K-25B/TV5KS-25B/TV5KR-25B"), 5},
+    {QLatin1String("TV5KT-60ES/TV5KT-60B/TV5K-60B"), 6},
+    {QLatin1String("TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
+                   "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"),
+     7},
+    {QLatin1String("TV3K-20A/TV3KR-20A/TV3K-10A"), 5},
+};
+constexpr int catchAllSizeIndex = 4;
+
+struct PsramRow {
+    QLatin1String device;
+    QLatin1String packages;
+};
+
+constexpr PsramRow psramRows[] = {
+    {QLatin1String("TV2KR-18C"), QLatin1String("QFN88P/QFN88PF/eLQFP144P/eLQFP144PF")},
+    {QLatin1String("TV2KLR-18C"), QLatin1String("QFN88")},
+};
+
+constexpr QLatin1String smallDevices("TV1KL-5A/TV1KL-5B");
+constexpr QLatin1String withoutDdr3("TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/"
+                                    "TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/"
+                                    "TV5KT-15A");
+constexpr QLatin1String withoutDebug("TV1L-9/TV1LR-9");
+constexpr QLatin1String externalOnly("TV5KRT-15A/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A");
+
+} // namespace
+
+bool isInDeviceList(const QString &device, QLatin1String list)
+{
+    for (int from = 0; from <= list.size();) {
+        int to = from;
+        while (to < list.size() && list.data()[to] != '/')
+            ++to;
+        if (device == list.mid(from, to - from))
+            return true;
+        from = to + 1;
+    }
+    return false;
+}
+
+bool DeviceTest::matches(const QString &device) const
+{
+    if (prefix.size() > 0 && device.startsWith(prefix))
+        return true;
+    return list.size() > 0 && isInDeviceList(device, list);
+}
+
+int defaultTcmSizeIndex(const QString &device)
+{
+    for (const DefaultSizeRow &row : defaultSizes) {
+        if (isInDeviceList(device, row.devices))
+            return row.index;
+    }
+    return catchAllSizeIndex;
+}
+
+bool isPsramAvailable(const DEV::DeviceArg &device)
+{
+    for (const PsramRow &row : psramRows) {
+        if (device.device() == row.device && isInDeviceList(device.package(), row.packages))
+            return true;
+    }
+    return false;
+}
+
+bool isDdr3Available(const QString &device)
+{
+    return !isInDeviceList(device, withoutDdr3);
+}
+
+bool isSmallDevice(const QString &device)
+{
+    return isInDeviceList(device, smallDevices);
+}
+
+bool isDebugUnavailable(const QString &device)
+{
+    return isInDeviceList(device, withoutDebug);
+}
+
+bool isInstructionMemoryExternalOnly(const QString &device)
+{
+    return isInDeviceList(device, externalOnly);
+}
+
+bool isTv5k(const QString &device)
+{
+    return device.startsWith(QLatin1String("TV5K"));
+}
+
+bool isTv3k(const QString &device)
+{
+    return device.startsWith(QLatin1String("TV3K"));
+}
+
+bool isTv2k(const QString &device)
+{
+    return device.startsWith(QLatin1String("TV2K"));
+}
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <dev/devicearg.h>
+
+#include <QString>
+
+namespace TARVOORIXM1
+{
+
+// Which devices a rule is about. Every comparison is exact and case-sensitive.
+struct DeviceTest {
+    QLatin1String prefix; // names that start with this, if not empty
+    QLatin1String list;   // or members of this "/"-separated list
+
+    bool matches(const QString &device) const;
+};
+
+// Whether `device` is an element of the "/"-separated literal `list`.
+bool isInDeviceList(const QString &device, QLatin1String list);
+
+// The index of the device's default TCM size; index i means 2^i KB. 4 (16 KB) for a device that no
+// rule names.
+int defaultTcmSizeIndex(const QString &device);
+
+// Which device-dependent blocks a device can have.
+bool isPsramAvailable(const DEV::DeviceArg &device);
+bool isDdr3Available(const QString &device);
+// The smallest devices, which have neither debug, Ethernet, CAN nor SPI-Flash.
+bool isSmallDevice(const QString &device);
+// Devices whose debug can't be switched on.
+bool isDebugUnavailable(const QString &device);
+// Devices whose instruction memory is always external.
+bool isInstructionMemoryExternalOnly(const QString &device);
+
+// Families by name prefix.
+bool isTv5k(const QString &device);
+bool isTv3k(const QString &device);
+bool isTv2k(const QString &device);
+
+} // namespace TARVOORIXM1

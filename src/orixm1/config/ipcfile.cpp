@@ -1,0 +1,70 @@
+#include "ipcfile.h"
+
+#include "optionkeys.h"
+
+#include <dev/devicedb.h>
+
+#include <QSettings>
+
+namespace TARVOORIXM1
+{
+namespace IpcFile
+{
+
+namespace
+{
+
+constexpr QLatin1String targetDevice("target_device");
+constexpr QLatin1String deviceGroup("device");
+constexpr QLatin1String versionEntry("version");
+constexpr QLatin1String typeEntry("type");
+
+} // namespace
+
+bool isVersionAccepted(const QSettings &settings)
+{
+    return settings.value(versionEntry).toString() == acceptedVersion;
+}
+
+DEV::DeviceArg readDevice(QSettings &settings, const DEV::DeviceDb &devices)
+{
+    if (settings.contains(targetDevice))
+        return devices.findDevice(settings.value(targetDevice).toString());
+    if (!settings.childGroups().contains(deviceGroup, Qt::CaseSensitive))
+        return {};
+    settings.beginGroup(deviceGroup);
+    DEV::ChipFilter filter;
+    filter.id = settings.value(QStringLiteral("id")).toString();
+    filter.package = settings.value(QStringLiteral("package")).toString();
+    filter.speed = settings.value(QStringLiteral("speed")).toString();
+    settings.endGroup();
+    return devices.filterDevice(filter).value(0);
+}
+
+void readOptions(QSettings &settings, OptionMap &options)
+{
+    settings.beginGroup(configGroup);
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        if (key != Key::createInPath)
+            options.insert(key, settings.value(key));
+    }
+    settings.endGroup();
+}
+
+QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo)
+{
+    return {
+        {targetDevice, deviceId},
+        {typeEntry, ipInfo.value(InfoKey::id).toString()},
+        {versionEntry, QString(acceptedVersion)},
+    };
+}
+
+QString path(const QString &createInPath, const QVariantMap &ipInfo)
+{
+    return createInPath + u'/' + ipInfo.value(InfoKey::target).toString() + suffix;
+}
+
+} // namespace IpcFile
+} // namespace TARVOORIXM1

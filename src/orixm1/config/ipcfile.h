@@ -1,0 +1,48 @@
+#pragma once
+
+#include "optionmap.h"
+
+#include <dev/chipfilter.h>
+#include <dev/devicearg.h>
+
+#include <QString>
+
+QT_FORWARD_DECLARE_CLASS(QSettings)
+
+namespace DEV
+{
+class DeviceDb;
+}
+
+namespace TARVOORIXM1
+{
+
+// The .ipc file: an INI file with the identity of an IP at the top level and its options in the
+// group "Config".
+namespace IpcFile
+{
+
+inline constexpr QLatin1String acceptedVersion("1.0");
+inline constexpr QLatin1String configGroup("Config");
+inline constexpr QLatin1String suffix(".ipc");
+
+// The text of a file's "version" entry must be exactly this; also false when the entry is missing.
+bool isVersionAccepted(const QSettings &settings);
+
+// The device that the file names: the one with the id "target_device", or, in a file without that
+// entry, the first that matches the group "device". A null record when the file names none or an
+// unknown one.
+DEV::DeviceArg readDevice(QSettings &settings, const DEV::DeviceDb &devices);
+
+// Inserts every entry of the group "Config" into `options`, except the folder of the file's author.
+void readOptions(QSettings &settings, OptionMap &options);
+
+// The top-level entries of a new file.
+QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo);
+
+// createInPath + "/" + the descriptor's target + ".ipc"
+QString path(const QString &createInPath, const QVariantMap &ipInfo);
+
+} // namespace IpcFile
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,293 @@
+#include "optiontable.h"
+
+#include <algorithm>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+struct BoolRow {
+    QLatin1String key;
+    bool byDefault;
+    const char *description;
+};
+
+// Rows of the table up to the memories, and from them on; other types are added between.
+constexpr BoolRow coreSwitches[] = {
+    {Key::osExtension, true, "Operating system extension: SysTick and PendSV"},
+    {Key::smallMultiplier, false, "Small multiplier instead of the fast one"},
+    {Key::bigEndian, false, "Big-endian data (BE8)"},
+    {Key::externalInterrupts, false,
+     "External interrupt inputs EXTINT[3:0]; needs 16 or 32 interrupts"},
+    {Key::enableDebug, true, "Debug unit"},
+};
+
+constexpr BoolRow ahbSwitches[] = {
+    {Key::enableSpiFlash, false, "SPI-Flash block on the AHB bus"},
+    {Key::enablePsram, false, "PSRAM block on the AHB bus"},
+    {Key::enableDdr3, false, "DDR3 block on the AHB bus"},
+};
+
+constexpr BoolRow apbSwitches[] = {
+    {Key::enableUart0, false, "UART 0"},
+    {Key::enableUart1, false, "UART 1"},
+    {Key::enableTimer0, false, "Timer 0"},
+    {Key::enableTimer1, false, "Timer 1"},
+    {Key::enableWatchDog, false, "Watchdog"},
+    {Key::enableRtc, false, "Real-time clock"},
+    {Key::enableI2c, false, "I2C master"},
+    {Key::enableI2cIo, false,
+     "I2C with bidirectional SCL and SDA instead of in/out/enable signals"},
+    {Key::enableSpi, false, "SPI master"},
+    {Key::enableSdCard, false, "SD-Card block"},
+    {Key::enableTrng, false, "True random number generator"},
+    {Key::enableDualTimer, false, "Dual timer"},
+};
+
+QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+Option boolOption(const QString &key, bool byDefault, const QString &description)
+{
+    Option option;
+    option.key = key;
+    option.type = OptionType::Bool;
+    option.defaultValue = byDefault;
+    option.description = description;
+    return option;
+}
+
+Option choiceOption(const QString &key, OptionType type, const QVariant &byDefault,
+                    const QStringList &choices, const char *description)
+{
+    Option option;
+    option.key = key;
+    option.type = type;
+    option.defaultValue = byDefault;
+    option.choices = choices;
+    option.description = text(description);
+    return option;
+}
+
+Option rangeOption(const QString &key, const QVariant &byDefault, int minimum, int maximum,
+                   const char *description)
+{
+    Option option;
+    option.key = key;
+    option.type = OptionType::Int;
+    option.defaultValue = byDefault;
+    option.minimum = minimum;
+    option.maximum = maximum;
+    option.description = text(description);
+    return option;
+}
+
+Option openOption(const QString &key, const QVariant &byDefault, const char *description)
+{
+    Option option;
+    option.key = key;
+    option.type = OptionType::String;
+    option.defaultValue = byDefault;
+    option.description = text(description);
+    return option;
+}
+
+Option bookKeeping(Option option)
+{
+    option.isOption = false;
+    return option;
+}
+
+template <size_t N>
+void append(QVector<Option> &table, const BoolRow (&rows)[N])
+{
+    for (const BoolRow &row : rows)
+        table.append(boolOption(row.key, row.byDefault, text(row.description)));
+}
+
+void appendPorts(QVector<Option> &table, QLatin1String prefix, int count, QLatin1String bus)
+{
+    for (int port = 1; port <= count; ++port) {
+        const QString name = bus + QLatin1String(" extension port ") + QString::number(port);
+        table.append(boolOption(Key::extensionPortKey(prefix, port), false, name));
+    }
+}
+
+QVector<Option> buildTable()
+{
+    const auto string = [](QLatin1String value) { return QString(value); };
+    QStringList canDepths;
+    for (int depth = 16; depth <= 65536; depth *= 2)
+        canDepths.append(QString::number(depth));
+
+    QVector<Option> table;
+    table.append(choiceOption(Key::numberOfInterrupts, OptionType::Int, 32,
+                              {text("1"), text("8"), text("16"), text("32")},
+                              "Interrupt inputs of the core"));
+    append(table, coreSwitches);
+    table.append(
+        choiceOption(Key::debugPortSelect, OptionType::String, string(Value::jtagAndSerialWire),
+                     {Value::jtag, Value::serialWire, Value::jtagAndSerialWire}, "Debug port"));
+    table.append(boolOption(Key::smallDebug, false,
+                            text("Small debug unit with fewer break- and watchpoints")));
+    table.append(
+        boolOption(Key::internalInstructionMemory, true, text("Instruction memory inside: ITCM")));
+    table.append(boolOption(Key::externalInstructionMemory, false,
+                            text("Instruction memory outside, on the EXTFLASH0 port")));
+    table.append(rangeOption(Key::itcmSize, QVariant(), 0, 9,
+                             "ITCM size index: 2^index KB; the device's list may end earlier"));
+    table.append(boolOption(Key::initializeItcm, false, text("Initialise the ITCM from files")));
+    table.append(openOption(
+        Key::itcmInitializationPath, QVariant(),
+        "Folder of the ITCM initialisation files, relative to the output folder or absolute"));
+    table.append(openOption(Key::itcmInitializationAbsolutePath, QString(),
+                            "The same folder as an absolute path, which generation uses"));
+    table.append(boolOption(Key::internalDataMemory, true, text("Data memory inside: DTCM")));
+    table.append(boolOption(Key::externalDataMemory, false,
+                            text("Data memory outside, on the EXTSRAM0 port")));
+    table.append(rangeOption(Key::dtcmSize, QVariant(), 0, 9,
+                             "DTCM size index: 2^index KB; the device's list may end earlier"));
+
+    table.append(boolOption(Key::enableGpio, false, text("GPIO block on the AHB bus")));
+    table.append(boolOption(Key::enableGpioIo, false,
+                            text("GPIO with bidirectional pins instead of in/out/enable signals")));
+    table.append(boolOption(Key::enableCan, false, text("CAN block on the AHB bus")));
+    table.append(choiceOption(Key::canBufferDepth, OptionType::String, QString(), canDepths,
+                              "CAN message buffer depth; must be set when CAN is on"));
+    table.append(boolOption(Key::enableEthernet, false, text("Ethernet MAC on the AHB bus")));
+    table.append(choiceOption(Key::ethernetInterface, OptionType::String, string(Value::rgmii),
+                              {Value::rgmii, Value::gmii, Value::mii, Value::gmiiMii},
+                              "Interface to the Ethernet PHY"));
+    table.append(
+        rangeOption(Key::ethernetInputDelay, 0, 0, 255,
+                    "RGMII input delay in delay steps; up to 127 except on TV5K and TV3K devices"));
+    table.append(rangeOption(Key::ethernetClockDivider, 0, 0, 255, "Divider of the MIIM clock"));
+    append(table, ahbSwitches);
+    appendPorts(table, Key::enableAhbMaster, Key::ahbMasterCount, QLatin1String("AHB"));
+    append(table, apbSwitches);
+    appendPorts(table, Key::enableApbMaster, Key::apbMasterCount, QLatin1String("APB"));
+
+    table.append(
+        bookKeeping(choiceOption(Key::synthesisTool, OptionType::String, QVariant(),
+                                 {Value::tarvoSynthesis, Value::synplifyPro}, "Synthesis tool")));
+    table.append(
+        bookKeeping(choiceOption(Key::lang, OptionType::Int, QVariant(), {text("0"), text("1")},
+                                 "Language of the outputs: 0 Verilog, 1 VHDL")));
+    table.append(bookKeeping(openOption(Key::ipDeviceId, QVariant(), "Id of the target device")));
+    table.append(bookKeeping(openOption(Key::ipDevice, QVariant(), "Name of the target device")));
+    return table;
+}
+
+// Number of single-letter changes between two texts (Levenshtein), letter case apart.
+int editDistance(const QString &a, const QString &b)
+{
+    QVector<int> row(b.size() + 1);
+    for (int j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int change =
+                diagonal + (a.at(i - 1).toCaseFolded() == b.at(j - 1).toCaseFolded() ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, change});
+        }
+    }
+    return row[b.size()];
+}
+
+} // namespace
+
+const QVector<Option> &optionTable()
+{
+    static const QVector<Option> table = buildTable();
+    return table;
+}
+
+const Option *findOption(const QString &key)
+{
+    const QVector<Option> &table = optionTable();
+    const auto it = std::find_if(table.begin(), table.end(),
+                                 [&key](const Option &row) { return row.key == key; });
+    return it == table.end() ? nullptr : &*it;
+}
+
+QString nearestOptionKey(const QString &key)
+{
+    QString nearest;
+    // A key far longer than any known one resembles none; comparing it would only take time.
+    if (key.size() > 100)
+        return nearest;
+    int best = key.size() / 3 + 1;
+    for (const Option &row : optionTable()) {
+        const int distance = editDistance(key, row.key);
+        if (distance < best) {
+            best = distance;
+            nearest = row.key;
+        }
+    }
+    return nearest;
+}
+
+QVariant optionValueFromText(const Option &option, const QString &value)
+{
+    switch (option.type) {
+    case OptionType::Bool:
+        if (value == QLatin1String("1") ||
+            value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
+            return true;
+        if (value == QLatin1String("0") ||
+            value.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
+            return false;
+        return {};
+    case OptionType::Int: {
+        bool ok = false;
+        const int number = value.toInt(&ok);
+        return ok ? QVariant(number) : QVariant();
+    }
+    case OptionType::String:
+        return value;
+    }
+    return {};
+}
+
+bool isInDomain(const Option &option, const QVariant &value)
+{
+    if (!option.choices.isEmpty())
+        return option.choices.contains(value.toString());
+    if (option.type == OptionType::Int && option.minimum <= option.maximum)
+        return value.toInt() >= option.minimum && value.toInt() <= option.maximum;
+    return true;
+}
+
+QString domainText(const Option &option)
+{
+    if (!option.choices.isEmpty())
+        return QLatin1String("one of ") + option.choices.join(QLatin1String(", "));
+    if (option.type == OptionType::Bool)
+        return QStringLiteral("true or false");
+    if (option.minimum <= option.maximum)
+        return QString::number(option.minimum) + QLatin1String(" to ") +
+               QString::number(option.maximum);
+    return {};
+}
+
+QString typeName(OptionType type)
+{
+    switch (type) {
+    case OptionType::Bool:
+        return QStringLiteral("bool");
+    case OptionType::Int:
+        return QStringLiteral("int");
+    case OptionType::String:
+        break;
+    }
+    return QStringLiteral("string");
+}
+
+} // namespace TARVOORIXM1

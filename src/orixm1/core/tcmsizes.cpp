@@ -1,0 +1,87 @@
+#include "tcmsizes.h"
+
+#include "config/devicerules.h"
+
+#include <QtGlobal>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+struct FullRow {
+    QLatin1String devices;
+    int lastIndex;
+    int defaultIndex;
+};
+
+// The first matching row wins; a device that no row names has no sizes.
+constexpr FullRow fullRows[] = {
+    {QLatin1String("TV1KL-5A/TV1KL-5B"), 3, 3},
+    {QLatin1String("TV1L-9/TV1LR-9/TV1L-9C/TV1LR-9C/TV2KL-9X/TV1KL-9A"), 5, 4},
+    {QLatin1String("TV2K-18/TV2KR-18/TV2K-18C/TV2KR-18C/TV2KLR-18C"), 6, 5},
+    {QLatin1String("TV2KL-18X"), 5, 4},
+    {QLatin1String("TV2K-55/TV2K-55C/TV2KL-55C/TV3K-50A"), 8, 6},
+    {QLatin1String("TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/"
+                   "TV5KLT-15A/TV5KLRT-15A/TV5KT-15A/TV5KS-25A/TV5KR-25A"),
+     6, 5},
+    {QLatin1String("TV5KT-75B/TV5KT-75C"), 8, 7},
+    {QLatin1String("TV5KT-60ES/TV5KT-60B/TV5K-60B"), 7, 6},
+    {QLatin1String("TV5KT-138/TV5KT-138B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/TV5KT-138C/"
+                   "TV5K-138B/TV5KS-138B"),
+     9, 7},
+    {QLatin1String("TV3K-20A/TV3KR-20A/TV3K-10A"), 6, 5},
+};
+
+struct ReducedRow {
+    QLatin1String devices;
+    int lastIndex;
+};
+
+constexpr ReducedRow reducedRows[] = {
+    {QLatin1String("TV5KT-138/TV5KT-138B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/TV5KT-138C/"
+                   "TV5K-138B/TV5KS-138B"),
+     7},
+    {QLatin1String("TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A"), 5},
+    {QLatin1String("TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"), 3},
+    {QLatin1String("TV5KT-75B/TV5KT-75C"), 8},
+    {QLatin1String("TV5KT-60ES/TV5KT-60B/TV5K-60B"), 6},
+    {QLatin1String("TV3K-20A/TV3KR-20A/TV3K-10A"), 5},
+};
+// All other devices, also those whose full list is shorter.
+constexpr int catchAllReducedIndex = 4;
+
+} // namespace
+
+QStringList tcmSizeList(int lastIndex)
+{
+    QStringList sizes;
+    for (int i = 0; i <= qMin(lastIndex, 9); ++i)
+        sizes.append(QString::number(1 << i) + QLatin1String(" KB"));
+    return sizes;
+}
+
+TcmSizes tcmSizes(const QString &device)
+{
+    TcmSizes sizes;
+    for (const FullRow &row : fullRows) {
+        if (isInDeviceList(device, row.devices)) {
+            sizes.full = tcmSizeList(row.lastIndex);
+            sizes.largest = sizes.full.last();
+            sizes.defaultSize = sizes.full.at(row.defaultIndex);
+            break;
+        }
+    }
+    int reducedIndex = catchAllReducedIndex;
+    for (const ReducedRow &row : reducedRows) {
+        if (isInDeviceList(device, row.devices)) {
+            reducedIndex = row.lastIndex;
+            break;
+        }
+    }
+    sizes.reduced = tcmSizeList(reducedIndex);
+    return sizes;
+}
+
+} // namespace TARVOORIXM1

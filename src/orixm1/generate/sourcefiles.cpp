@@ -1,0 +1,102 @@
+#include "sourcefiles.h"
+
+#include "config/devicerules.h"
+#include "config/optionkeys.h"
+#include "defines.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <iterator>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+// Which data files a device leaves out.
+struct ExclusionRow {
+    DeviceTest devices;
+    QLatin1String excluded; // "/"-separated file names
+};
+
+// The first matching row wins; the catch-all stands behind each table.
+constexpr ExclusionRow withoutDebugRows[] = {
+    {{QLatin1String("TV5K"), QLatin1String()}, QLatin1String("itcm.v/dtcm.v/itcm_3k.v/dtcm_3k.v")},
+    {{QLatin1String("TV3K"), QLatin1String()}, QLatin1String("itcm.v/dtcm.v/itcm_5k.v/dtcm_5k.v")},
+};
+constexpr QLatin1String withoutDebugOtherwise("itcm_3k.v/dtcm_3k.v/itcm_5k.v/dtcm_5k.v");
+
+constexpr ExclusionRow withDebugRows[] = {
+    {{QLatin1String(), QLatin1String("TV2K-55C/TV2K-18C/TV2KL-55C/TV2KR-18C/TV2KLR-18C")},
+     QLatin1String("itcmdbg.v")},
+};
+constexpr QLatin1String withDebugOtherwise("itcmdbg_2kc.v");
+
+// Included by other sources and never compiled by themselves.
+constexpr QLatin1String supportNames[] = {
+    QLatin1String("tvmc_local_param.v"),
+    QLatin1String("tvmc_param.v"),
+    QLatin1String("ddr3_name.v"),
+    QLatin1String("psram_local_define.v"),
+    QLatin1String("psram_local_param.v"),
+    QLatin1String("define.vh"),
+    QLatin1String("psram_param.v"),
+    QLatin1String("static_macro_define.vh"),
+    QLatin1String("triple_speed_mac_name.v"),
+};
+
+// psram_define.v is left out on purpose: the RTL includes it.
+constexpr QLatin1String compiledIncludeFiles[] = {
+    IncludeFileName::core,     IncludeFileName::bus,       IncludeFileName::param,
+    IncludeFileName::macParam, IncludeFileName::macDefine, IncludeFileName::ddr3,
+};
+
+template <size_t N>
+QLatin1String excludedFor(const QString &device, const ExclusionRow (&rows)[N],
+                          QLatin1String otherwise)
+{
+    for (const ExclusionRow &row : rows) {
+        if (row.devices.matches(device))
+            return row.excluded;
+    }
+    return otherwise;
+}
+
+bool isSupportFile(const QString &name)
+{
+    return std::any_of(std::begin(supportNames), std::end(supportNames),
+                       [&name](QLatin1String support) { return name == support; });
+}
+
+} // namespace
+
+QString generationFolder(const QString &createInPath)
+{
+    return createInPath + QLatin1String("/temp/") + QLatin1String("tv_orix_m1");
+}
+
+QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
+                             const QString &device, const QString &tempDir)
+{
+    const bool debug = options.value(Key::enableDebug, true).toBool();
+    const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
+    const QLatin1String excluded =
+        debug ? excludedFor(device, withDebugRows, withDebugOtherwise)
+              : excludedFor(device, withoutDebugRows, withoutDebugOtherwise);
+    QStringList sourceFiles;
+    // An empty name would list the current folder.
+    const QStringList names =
+        dataDir.isEmpty() ? QStringList()
+                          : QDir(dataDir).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+    for (const QString &name : names) {
+        if (!isInDeviceList(name, excluded) && !isSupportFile(name))
+            sourceFiles.append(dataDir + u'/' + name);
+    }
+    for (const QLatin1String name : compiledIncludeFiles)
+        sourceFiles.append(tempDir + u'/' + name);
+    return sourceFiles;
+}
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,26 @@
+#include "synthesisrequest.h"
+
+#include "config/optionkeys.h"
+
+namespace TARVOORIXM1
+{
+
+SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const QString &tempDir,
+                                       int languageIndex, const QStringList &sourceFiles)
+{
+    SynthesisRequest request;
+    request.outputDir = tempDir;
+    request.ipName = QStringLiteral("tv_orix_m1");
+    request.targetName = ipInfo.value(InfoKey::target).toString();
+    request.options = {
+        {QStringLiteral("impl_name"), QString(implementationName)},
+        {QStringLiteral("write_vhdl"), languageIndex == 1},
+        {QStringLiteral("top_module"), QStringLiteral("Tarvo_ORIX_M1_Top")},
+        {QStringLiteral("disable_io"), true},
+        {QStringLiteral("source_files"), sourceFiles},
+        {QStringLiteral("ip_version"), ipInfo.value(InfoKey::version).toString()},
+    };
+    return request;
+}
+
+} // namespace TARVOORIXM1

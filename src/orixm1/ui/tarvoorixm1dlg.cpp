@@ -1,0 +1,187 @@
+#include "tarvoorixm1dlg.h"
+
+#include "ui_microsysipgendlg.h"
+
+#include "config/devicerules.h"
+#include "config/ipcfile.h"
+#include "config/optionkeys.h"
+#include "diagram/ipview.h"
+#include "generate/defines.h"
+#include "generate/outputs.h"
+#include "generate/sourcefiles.h"
+#include "generate/synthesisrequest.h"
+#include "messagebox.h"
+
+#include <core/editormanager.h>
+#include <ipcore/ipcore.h>
+#include <ipcore/synthesishelper.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace TARVOORIXM1
+{
+
+TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
+    : MicroSysIPGenDlg(parent)
+    , ipInfo(info)
+{
+    setWindowTitle(QStringLiteral("Tarvo ORIX M1"));
+    helpFile = ipInfo.value(InfoKey::help).toString();
+    UpdateCreatinPath();
+    connect(ui->editCreateIn, SIGNAL(textChanged(QString)), this, SLOT(UpdateCreatinPath()));
+
+    view = new IPView(&options, this);
+    setContentWidget(view);
+}
+
+TarvoOrixM1Dlg::~TarvoOrixM1Dlg() = default;
+
+QString TarvoOrixM1Dlg::targetName() const
+{
+    return ipInfo.value(InfoKey::target).toString();
+}
+
+QString TarvoOrixM1Dlg::tempDir() const
+{
+    return generationFolder(createInPath());
+}
+
+void TarvoOrixM1Dlg::UpdateCreatinPath()
+{
+    options[Key::createInPath] = createInText();
+}
+
+void TarvoOrixM1Dlg::accept()
+{
+    const QStringList errors = createInErrors();
+    if (!errors.isEmpty()) {
+        showErrors(errors);
+        return;
+    }
+    if (!confirmOutputFolder() || !checkItcmInitPath())
+        return;
+    if (!IPCore::makeDirs(tempDir(), ipInfo.value(InfoKey::name).toString()))
+        return;
+    saveIPConfig();
+    generateCore();
+}
+
+bool TarvoOrixM1Dlg::checkItcmInitPath()
+{
+    if (!options.value(Key::initializeItcm).toBool())
+        return true;
+    // An absent entry means internal, as it does for generation.
+    if (!options.value(Key::internalInstructionMemory, true).toBool())
+        return true;
+    QString path = options.value(Key::itcmInitializationPath).toString();
+    if (path.isEmpty()) {
+        showErrorBox(this, QStringLiteral("ITCM Initialization Path is empty."));
+        return false;
+    }
+    if (QFileInfo(path).isRelative())
+        path = QFileInfo(createInPath() + u'/' + path).absoluteFilePath();
+    // The option names a folder of files, so a file does not do.
+    if (QDir(path).exists())
+        return true;
+    showErrorBox(this, QStringLiteral("ITCM Initialization Path is not exist."));
+    return false;
+}
+
+void TarvoOrixM1Dlg::updateDeviceDependentState()
+{
+    const DEV::DeviceArg target = currentDevice();
+    options[Key::ipDeviceId] = target.id();
+    options[Key::ipDevice] = target.device();
+    view->setPsramAvailable(isPsramAvailable(target));
+    view->setDdr3Available(isDdr3Available(target.device()));
+    const bool small = isSmallDevice(target.device());
+    view->setEthernetAvailable(!small);
+    view->setCanAvailable(!small);
+    view->setSpiFlashAvailable(!small);
+    view->updateView();
+}
+
+bool TarvoOrixM1Dlg::saveIPConfig()
+{
+    options.remove(Key::createInPath);
+    options[Key::synthesisTool] = synthesisTool();
+    options[Key::lang] = languageIndex();
+    IPCore::writeIPConfig(IpcFile::path(createInPath(), ipInfo),
+                          IpcFile::header(currentDevice().id(), ipInfo), options);
+    return true;
+}
+
+bool TarvoOrixM1Dlg::loadIPConfig(const QString &ipcFile)
+{
+    QSettings settings(ipcFile, QSettings::IniFormat);
+    if (!IpcFile::isVersionAccepted(settings)) {
+        showErrorBox(this,
+                     QStringLiteral("This version of specified IP Config file is incompatible with "
+                                    "current IP Core Generator."));
+        return false;
+    }
+    IpcFile::readOptions(settings, options);
+    selectSynthesisTool(options.value(Key::synthesisTool).toString());
+    setLanguageIndex(options.value(Key::lang).toInt());
+    return true;
+}
+
+void TarvoOrixM1Dlg::generateCore()
+{
+    const QString folder = tempDir();
+    const DEV::DeviceArg target = currentDevice();
+    const QVector<IncludeFile> files = buildIncludeFiles(options, target);
+    for (const IncludeFile &file : files) {
+        if (!IPCore::generateFile(folder + u'/' + file.name, file.lines, this, QString()))
+            return;
+    }
+    const QStringList sourceFiles = buildSourceFiles(options, ipInfo, target.device(), folder);
+
+    if (!synthesis) {
+        synthesis = new IPCore::SynthesisHelper(this);
+        connect(synthesis, SIGNAL(finished(int)), this, SLOT(onGenerationFinished(int)));
+    }
+    const QString tool = synthesisTool();
+    if (tool == Value::tarvoSynthesis)
+        synthesis->setSynthesizeTool(IPCore::SynthesisHelper::TarvoSynthesis);
+    else if (tool == Value::synplifyPro)
+        synthesis->setSynthesizeTool(IPCore::SynthesisHelper::SynplifyPro);
+
+    const SynthesisRequest request =
+        buildSynthesisRequest(ipInfo, folder, languageIndex(), sourceFiles);
+    IPCore::SynthesizeArgs args;
+    args.outputDir = request.outputDir;
+    args.ipName = request.ipName;
+    args.targetName = request.targetName;
+    args.device = target;
+    args.options = request.options;
+
+    synthesis->setProgressDlgWindowTitle(ipInfo.value(InfoKey::label).toString());
+    synthesis->showProgressDlg();
+    synthesis->setArgs(args);
+    synthesis->start();
+}
+
+void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
+{
+    const OutputPaths paths =
+        outputPaths(synthesisTool(), languageIndex(), tempDir(), createInPath(), targetName());
+    const Collection result = collectOutputs(exitCode, synthesis->detailErrorMsgs(), paths,
+                                             createInPath(), IPCore::decode);
+    synthesis->hideProgressDlg();
+    if (result.status != 0) {
+        const QString summary = synthesis->errorMsg();
+        IPCore::showErrorMsgs(summary.isEmpty() ? QStringLiteral("Core generation occur errors.")
+                                                : summary,
+                              result.errors);
+        return;
+    }
+    Core::EditorManager::openEditor(paths.netlist, false);
+    Core::EditorManager::openEditor(paths.instantiationTemplate, false);
+    IPCore::addFilesToProject({paths.netlist});
+    QDialog::accept();
+}
+
+} // namespace TARVOORIXM1

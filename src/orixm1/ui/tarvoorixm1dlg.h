@@ -1,0 +1,54 @@
+#pragma once
+
+#include "config/optionmap.h"
+#include "microsysipgendlg.h"
+
+namespace IPCore
+{
+class SynthesisHelper;
+}
+
+namespace TARVOORIXM1
+{
+
+class IPView;
+
+// The configuration window of one IP. Owns its option map; everything else of the IP is in its .ipc
+// file.
+class TarvoOrixM1Dlg : public MicroSysIPGenDlg
+{
+    Q_OBJECT
+
+public:
+    explicit TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent = nullptr);
+    ~TarvoOrixM1Dlg() override;
+
+    // Writes the .ipc file of the current state; always true. The entry of the output folder leaves
+    // the map.
+    bool saveIPConfig();
+    bool checkItcmInitPath();
+    QString targetName() const;
+
+public Q_SLOTS:
+    // Validates, saves and starts generation; the dialog closes when the run has succeeded.
+    void accept() override;
+
+private Q_SLOTS:
+    void onGenerationFinished(int exitCode);
+    void UpdateCreatinPath();
+
+private:
+    void updateDeviceDependentState() override;
+    bool loadIPConfig(const QString &ipcFile) override;
+
+    void generateCore();
+    QString tempDir() const;
+
+    const OptionMap ipInfo;
+    IPView *view = nullptr;
+    OptionMap options;
+    IPCore::SynthesisHelper *synthesis =
+        nullptr; // child of this dialog, made by the first generation
+};
+
+} // namespace TARVOORIXM1
