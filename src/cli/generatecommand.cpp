@@ -1,0 +1,159 @@
+#include "commands.h"
+
+#include "environment.h"
+#include "interrupt.h"
+#include "ipcdocument.h"
+#include "output.h"
+
+#include <config/choices.h>
+#include <config/optionkeys.h>
+#include <generate/defines.h>
+#include <generate/outputs.h>
+#include <generate/sourcefiles.h>
+#include <generate/synthesisrequest.h>
+#include <synthesis/runner.h>
+#include <synthesis/simulationmodel.h>
+#include <utils/fileutils.h>
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+// What a generation has made so far.
+struct Report {
+    QStringList files;
+    QStringList sources;
+    QStringList outputs;
+    QStringList errors;
+};
+
+int finish(const Report &report, const GenerateArguments &arguments, int status)
+{
+    for (const QString &error : report.errors)
+        printError(error);
+    if (arguments.json) {
+        printJson({{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
+                   {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
+                   {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
+                   {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)}});
+        return status;
+    }
+    for (const QString &path : report.files + report.outputs)
+        printLine(path);
+    return status;
+}
+
+Synthesis::Job jobFrom(const SynthesisRequest &request, const DEV::DeviceArg &device)
+{
+    Synthesis::Job job;
+    job.outputDir = request.outputDir;
+    job.ipName = request.ipName;
+    job.targetName = request.targetName;
+    job.device = device;
+    job.options = request.options;
+    return job;
+}
+
+// Runs the tool to its end and returns its exit code.
+int synthesise(Synthesis::Runner &runner, bool verbose)
+{
+    int exitCode = 1;
+    QEventLoop loop;
+    Interrupt interrupt;
+    QObject::connect(&interrupt, &Interrupt::received, &runner, &Synthesis::Runner::cancel);
+    QObject::connect(&runner, &Synthesis::Runner::stageChanged,
+                     [](const QString &stage) { printError(stage); });
+    if (verbose)
+        QObject::connect(&runner, &Synthesis::Runner::logReceived,
+                         [](const QString &text) { printError(text); });
+    QObject::connect(&runner, &Synthesis::Runner::finished, &loop, [&](int code) {
+        exitCode = code;
+        loop.quit();
+    });
+    runner.start();
+    loop.exec();
+    return exitCode;
+}
+
+} // namespace
+
+int runGenerate(Environment &environment, const GenerateArguments &arguments)
+{
+    const QVariantMap ipInfo = environment.ipInfo();
+    if (ipInfo.isEmpty() || !environment.devices())
+        return BadInput;
+    IpcDocument document;
+    QString error;
+    if (!IpcDocument::read(arguments.file, *environment.devices(), &document, &error)) {
+        printError(error);
+        return BadInput;
+    }
+    if (document.device.isNull()) {
+        printError(QLatin1String("\"") + document.path + QLatin1String("\" names ") +
+                   (document.deviceText.isEmpty() ? QStringLiteral("no device")
+                                                  : QString(QLatin1String("the unknown device \"") +
+                                                            document.deviceText + u'"')) +
+                   QLatin1String("."));
+        return BadInput;
+    }
+
+    const QString outDir = arguments.outDir.isEmpty()
+                               ? document.folder()
+                               : QDir(QFileInfo(arguments.outDir).absoluteFilePath()).path();
+    const QString tempDir = generationFolder(outDir);
+    Report report;
+    const auto fail = [&](const QString &reason) {
+        report.errors.append(reason);
+        return finish(report, arguments, Failed);
+    };
+    if (!Utils::FileUtils::makePath(tempDir, &error))
+        return fail(error);
+    for (const IncludeFile &file : buildIncludeFiles(document.options, document.device)) {
+        const QString path = tempDir + u'/' + file.name;
+        if (!Utils::FileUtils::writeLines(path, file.lines, &error))
+            return fail(error);
+        report.files.append(path);
+    }
+    report.sources = buildSourceFiles(document.options, ipInfo, document.device.device(), tempDir);
+    if (!arguments.synthesise)
+        return finish(report, arguments, Done);
+
+    const QString tool = effectiveSynthesisTool(document.options.value(Key::synthesisTool));
+    const int language = effectiveLanguageIndex(document.options.value(Key::lang));
+    const SynthesisRequest request =
+        buildSynthesisRequest(ipInfo, tempDir, language, report.sources);
+    Synthesis::Runner runner;
+    runner.setTool(tool == Value::synplifyPro ? Synthesis::Tool::SynplifyPro
+                                              : Synthesis::Tool::TarvoSynthesis);
+    runner.setJob(jobFrom(request, document.device));
+    const int exitCode = synthesise(runner, arguments.verbose);
+
+    const OutputPaths paths = outputPaths(tool, language, tempDir, outDir, request.targetName);
+    const Collection result = collectOutputs(
+        exitCode, runner.detailErrorMsgs(), paths, outDir,
+        [](const QString &, const QString &netlist, const QString &destination, QString &message) {
+            return Synthesis::writeSimulationModel(netlist, destination, &message);
+        });
+    report.errors = result.errors;
+    report.errors.removeAll(QString());
+    if (result.status != 0) {
+        if (!runner.errorMsg().isEmpty())
+            report.errors.prepend(runner.errorMsg());
+        return finish(report, arguments, runner.wasCancelled() ? Cancelled : Failed);
+    }
+    report.outputs = QStringList{paths.netlist, paths.instantiationTemplate};
+    if (!paths.model.isEmpty() && QFileInfo::exists(paths.model))
+        report.outputs.append(paths.model);
+    report.outputs.append(paths.decoded);
+    return finish(report, arguments, Done);
+}
+
+} // namespace Cli

@@ -1,0 +1,62 @@
+#include "interrupt.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Cli
+{
+
+namespace
+{
+
+int wakePipe[2] = {-1, -1};
+
+extern "C" void wake(int)
+{
+    const char byte = 1;
+    // A full pipe has woken the reader already.
+    [[maybe_unused]] const ssize_t written = ::write(wakePipe[1], &byte, 1);
+}
+
+void handle(void (*handler)(int))
+{
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+}
+
+} // namespace
+
+Interrupt::Interrupt(QObject *parent)
+    : QObject(parent)
+{
+    if (::pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0)
+        return; // without the pipe the signals keep their default effect: they end the program
+    m_notifier = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &Interrupt::drain);
+    handle(wake);
+}
+
+Interrupt::~Interrupt()
+{
+    if (!m_notifier)
+        return;
+    handle(SIG_DFL);
+    m_notifier.reset();
+    ::close(wakePipe[0]);
+    ::close(wakePipe[1]);
+}
+
+void Interrupt::drain()
+{
+    char buffer[16];
+    while (::read(wakePipe[0], buffer, sizeof buffer) > 0)
+        continue;
+    Q_EMIT received();
+}
+
+} // namespace Cli

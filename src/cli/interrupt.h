@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <memory>
+
+namespace Cli
+{
+
+// Turns SIGINT and SIGTERM into a Qt signal while it lives. One object at a time.
+class Interrupt : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Interrupt(QObject *parent = nullptr);
+    ~Interrupt() override;
+
+Q_SIGNALS:
+    void received();
+
+private:
+    void drain();
+
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace Cli

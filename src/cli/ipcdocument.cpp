@@ -1,0 +1,69 @@
+#include "ipcdocument.h"
+
+#include <config/ipcfile.h>
+#include <utils/fileutils.h>
+#include <utils/inifile.h>
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+QString IpcDocument::folder() const
+{
+    return QFileInfo(path).absolutePath();
+}
+
+bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
+                       QString *error)
+{
+    QByteArray bytes;
+    if (!Utils::FileUtils::readFile(path, &bytes, error))
+        return false;
+    QString reason;
+    if (!Utils::checkIniText(bytes, &reason)) {
+        *error = QLatin1String("\"") + path + QLatin1String("\" is no IP configuration file: ") +
+                 reason + u'.';
+        return false;
+    }
+    QSettings settings(path, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError) {
+        *error = QLatin1String("\"") + path + QLatin1String("\" is no IP configuration file.");
+        return false;
+    }
+    if (!IpcFile::isVersionAccepted(settings)) {
+        const QString version = settings.value(QStringLiteral("version")).toString();
+        *error = QLatin1String("\"") + path +
+                 QLatin1String("\" cannot be used: its version is \"") + version +
+                 QLatin1String("\", not \"") + IpcFile::acceptedVersion + QLatin1String("\".");
+        return false;
+    }
+    document->path = QFileInfo(path).absoluteFilePath();
+    document->type = settings.value(QStringLiteral("type")).toString();
+    document->device = IpcFile::readDevice(settings, devices);
+    document->deviceText =
+        settings.value(QStringLiteral("target_device"), settings.value(QStringLiteral("device/id")))
+            .toString();
+    IpcFile::readOptions(settings, document->options);
+
+    const QStringList known = {QStringLiteral("target_device"), QStringLiteral("type"),
+                               QStringLiteral("version")};
+    for (const QString &key : settings.childKeys()) {
+        if (!known.contains(key))
+            document->unknownEntries.append(key);
+    }
+    const QStringList groups = {IpcFile::configGroup, QStringLiteral("device")};
+    for (const QString &group : settings.childGroups()) {
+        if (!groups.contains(group))
+            document->unknownEntries.append(u'[' + group + u']');
+    }
+    settings.beginGroup(IpcFile::configGroup);
+    for (const QString &group : settings.childGroups())
+        document->unknownEntries.append(group + u'/');
+    return true;
+}
+
+} // namespace Cli

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <config/optionmap.h>
+#include <dev/devicearg.h>
+
+#include <QString>
+
+namespace DEV
+{
+class DeviceDb;
+}
+
+namespace Cli
+{
+
+// What an .ipc file says.
+struct IpcDocument {
+    QString path;          // absolute
+    QString type;          // the id of the IP
+    QString deviceText;    // what the file says of its device, for messages
+    DEV::DeviceArg device; // null when the file names none or an unknown one
+    TARVOORIXM1::OptionMap options;
+    QStringList unknownEntries; // outside of what the file format knows
+
+    QString folder() const;
+
+    // False, and a sentence with path and reason in `*error`, if the file cannot be read, is no INI
+    // file or has a version that is not accepted.
+    static bool read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
+                     QString *error);
+};
+
+} // namespace Cli

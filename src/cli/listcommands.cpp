@@ -1,0 +1,138 @@
+#include "commands.h"
+
+#include "environment.h"
+#include "ipcdocument.h"
+#include "output.h"
+
+#include <config/optiontable.h>
+#include <generate/sourcefiles.h>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+QString padded(const QString &text, int width)
+{
+    return text.leftJustified(width, u' ');
+}
+
+QString defaultText(const Option &option)
+{
+    if (!option.defaultValue.isValid())
+        return QStringLiteral("-");
+    const QString text = option.defaultValue.toString();
+    return text.isEmpty() ? QStringLiteral("\"\"") : text;
+}
+
+} // namespace
+
+int runOptions(bool json)
+{
+    if (json) {
+        QJsonArray list;
+        for (const Option &option : optionTable()) {
+            QJsonObject object{
+                {QStringLiteral("key"), option.key},
+                {QStringLiteral("type"), typeName(option.type)},
+                {QStringLiteral("default"), QJsonValue::fromVariant(option.defaultValue)},
+                {QStringLiteral("option"), option.isOption},
+                {QStringLiteral("description"), option.description}};
+            if (!option.choices.isEmpty())
+                object.insert(QStringLiteral("choices"),
+                              QJsonArray::fromStringList(option.choices));
+            if (option.type == OptionType::Int && option.minimum <= option.maximum) {
+                object.insert(QStringLiteral("minimum"), option.minimum);
+                object.insert(QStringLiteral("maximum"), option.maximum);
+            }
+            list.append(object);
+        }
+        printJson({{QStringLiteral("options"), list}});
+        return Done;
+    }
+    int keyWidth = 0;
+    int defaultWidth = 0;
+    for (const Option &option : optionTable()) {
+        keyWidth = qMax(keyWidth, option.key.size());
+        defaultWidth = qMax(defaultWidth, defaultText(option).size());
+    }
+    printLine(padded(QStringLiteral("KEY"), keyWidth) + QLatin1String("  TYPE    ") +
+              padded(QStringLiteral("DEFAULT"), defaultWidth) + QLatin1String("  DESCRIPTION"));
+    for (const Option &option : optionTable()) {
+        const QString domain = option.type == OptionType::Bool ? QString() : domainText(option);
+        printLine(padded(option.key, keyWidth) + QLatin1String("  ") +
+                  padded(typeName(option.type), 6) + QLatin1String("  ") +
+                  padded(defaultText(option), defaultWidth) + QLatin1String("  ") +
+                  option.description +
+                  (domain.isEmpty() ? QString() : QString(QLatin1String(" (") + domain + u')')));
+    }
+    return Done;
+}
+
+int runDevices(Environment &environment, const QString &series, bool json)
+{
+    if (!environment.devices())
+        return BadInput;
+    DEV::ChipFilter filter;
+    filter.series = series;
+    const QList<DEV::DeviceArg> devices = environment.devices()->filterDevice(filter);
+    if (devices.isEmpty()) {
+        QStringList known;
+        for (const DEV::DeviceArg &device : environment.devices()->devices()) {
+            if (!known.contains(device.series()))
+                known.append(device.series());
+        }
+        printError(QLatin1String("Unknown series \"") + series + QLatin1String("\"; there are: ") +
+                   known.join(QLatin1String(", ")));
+        return WrongUsage;
+    }
+    if (json) {
+        QJsonArray list;
+        for (const DEV::DeviceArg &device : devices) {
+            list.append(QJsonObject{{QStringLiteral("id"), device.id()},
+                                    {QStringLiteral("device"), device.device()},
+                                    {QStringLiteral("deviceN"), device.deviceN()},
+                                    {QStringLiteral("deviceNVersion"), device.deviceNVersion()},
+                                    {QStringLiteral("package"), device.package()},
+                                    {QStringLiteral("speed"), device.speed()},
+                                    {QStringLiteral("partNumber"), device.partNumber()},
+                                    {QStringLiteral("series"), device.series()}});
+        }
+        printJson({{QStringLiteral("devices"), list}});
+        return Done;
+    }
+    int idWidth = 2;
+    for (const DEV::DeviceArg &device : devices)
+        idWidth = qMax(idWidth, device.id().size());
+    printLine(padded(QStringLiteral("ID"), idWidth) + QLatin1String("  PART NUMBER"));
+    for (const DEV::DeviceArg &device : devices)
+        printLine(padded(device.id(), idWidth) + QLatin1String("  ") + device.partNumber());
+    return Done;
+}
+
+int runSources(Environment &environment, const QString &file, bool json)
+{
+    const QVariantMap ipInfo = environment.ipInfo();
+    if (ipInfo.isEmpty() || !environment.devices())
+        return BadInput;
+    IpcDocument document;
+    QString error;
+    if (!IpcDocument::read(file, *environment.devices(), &document, &error)) {
+        printError(error);
+        return BadInput;
+    }
+    const QStringList sources = buildSourceFiles(document.options, ipInfo, document.device.device(),
+                                                 generationFolder(document.folder()));
+    if (json) {
+        printJson({{QStringLiteral("sources"), QJsonArray::fromStringList(sources)}});
+        return Done;
+    }
+    for (const QString &source : sources)
+        printLine(source);
+    return Done;
+}
+
+} // namespace Cli

@@ -1,0 +1,159 @@
+#include "commands.h"
+#include "environment.h"
+#include "output.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+#include <functional>
+
+namespace
+{
+
+QString text(const std::string &utf8)
+{
+    return QString::fromStdString(utf8);
+}
+
+QStringList texts(const std::vector<std::string> &list)
+{
+    QStringList result;
+    for (const std::string &entry : list)
+        result.append(text(entry));
+    return result;
+}
+
+constexpr const char *footer = R"(Exit status:
+  0  done
+  1  the job failed, or check found an error
+  2  wrong usage
+  3  unreadable or incompatible input
+  130  cancelled)";
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // File names and arguments are UTF-8 in every locale.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    QCoreApplication application(argc, argv);
+
+    Cli::Environment environment;
+    std::function<int()> command;
+
+    CLI::App app("Configures and generates the subsystem Tarvo_ORIX_M1 from an .ipc file, without "
+                 "a display.",
+                 "orixm1");
+    app.set_version_flag("--version", std::string("orixm1 " ORIXM1_VERSION),
+                         "Print the version and exit");
+    app.set_help_flag("-h,--help", "Print this help and exit");
+    app.set_help_all_flag("--help-all", "Print the help of every command and exit");
+    app.require_subcommand(1);
+    app.fallthrough();
+    app.footer(footer);
+    std::string dataFolder;
+    std::string deviceFolder;
+    app.add_option("--data", dataFolder, "Data folder of the IP: descriptor and RTL")
+        ->type_name("DIR");
+    app.add_option("--devices", deviceFolder, "Folder of device files instead of the built-in ones")
+        ->type_name("DIR");
+
+    std::string file;
+    std::string outDir;
+    bool json = false;
+    const auto addFile = [&file](CLI::App *sub) {
+        sub->add_option("FILE", file, "Configuration file (.ipc)")->required()->type_name("");
+    };
+    const auto addJson = [&json](CLI::App *sub) {
+        sub->add_flag("--json", json, "Print one JSON object");
+    };
+
+    CLI::App *newCommand = app.add_subcommand("new", "Write a configuration file");
+    std::string device;
+    std::string package;
+    std::string speed;
+    std::string language;
+    std::vector<std::string> settings;
+    bool force = false;
+    newCommand->add_option("--device", device, "Device id or name")
+        ->required()
+        ->type_name("ID|NAME");
+    newCommand->add_option("--package", package, "Package, if the device is a name")
+        ->type_name("P");
+    newCommand->add_option("--speed", speed, "Speed grade, if the device is a name")
+        ->type_name("S");
+    newCommand->add_option("--language", language, "Language of the outputs: verilog or vhdl")
+        ->type_name("LANGUAGE");
+    newCommand
+        ->add_option("--set", settings,
+                     "Set an option, as listed by \"orixm1 options\"; may be repeated")
+        ->type_name("KEY=VALUE")
+        ->take_all()
+        ->allow_extra_args(false);
+    newCommand->add_option("--out", outDir, "Folder that the file is written to")
+        ->required()
+        ->type_name("DIR");
+    newCommand->add_flag("--force", force, "Replace an existing file");
+    newCommand->callback([&] {
+        command = [&] {
+            return Cli::runNew(environment, {text(device), text(package), text(speed),
+                                             text(language), texts(settings), text(outDir), force});
+        };
+    });
+
+    CLI::App *generateCommand =
+        app.add_subcommand("generate", "Write include files, synthesise and collect the outputs");
+    bool noSynth = false;
+    bool verbose = false;
+    addFile(generateCommand);
+    generateCommand->add_option("--out", outDir, "Output folder (default: the file's folder)")
+        ->type_name("DIR");
+    generateCommand->add_flag("--no-synth", noSynth, "Stop after include files and source list");
+    generateCommand->add_flag("-v,--verbose", verbose, "Print the tool's log to standard error");
+    addJson(generateCommand);
+    generateCommand->callback([&] {
+        command = [&] {
+            return Cli::runGenerate(environment,
+                                    {text(file), text(outDir), !noSynth, json, verbose});
+        };
+    });
+
+    CLI::App *checkCommand = app.add_subcommand(
+        "check", "List what is wrong or doubtful in a configuration; changes nothing");
+    addFile(checkCommand);
+    addJson(checkCommand);
+    checkCommand->callback(
+        [&] { command = [&] { return Cli::runCheck(environment, text(file), json); }; });
+
+    CLI::App *sourcesCommand =
+        app.add_subcommand("sources", "List the files that synthesis compiles, in order");
+    addFile(sourcesCommand);
+    addJson(sourcesCommand);
+    sourcesCommand->callback(
+        [&] { command = [&] { return Cli::runSources(environment, text(file), json); }; });
+
+    CLI::App *optionsCommand =
+        app.add_subcommand("options", "List all option keys with type, default and domain");
+    addJson(optionsCommand);
+    optionsCommand->callback([&] { command = [&] { return Cli::runOptions(json); }; });
+
+    CLI::App *devicesCommand = app.add_subcommand("devices", "List the known devices");
+    std::string series;
+    devicesCommand->add_option("--series", series, "Only this series, such as TV2KR")
+        ->type_name("S");
+    addJson(devicesCommand);
+    devicesCommand->callback(
+        [&] { command = [&] { return Cli::runDevices(environment, text(series), json); }; });
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        return app.exit(error) == 0 ? Cli::Done : Cli::WrongUsage;
+    }
+    environment.setDataFolder(text(dataFolder));
+    environment.setDeviceFolder(text(deviceFolder));
+    const int status = command();
+    return Cli::flushOutput() ? status : Cli::Failed;
+}

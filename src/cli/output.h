@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+
+namespace Cli
+{
+
+// The program's exit status.
+enum Status { Done = 0, Failed = 1, WrongUsage = 2, BadInput = 3, Cancelled = 130 };
+
+// All output is UTF-8, whatever the locale says.
+void printLine(const QString &line);
+void printError(const QString &line);
+// One object, indented, with its keys in alphabetical order.
+void printJson(const QJsonObject &object);
+
+// Waits until everything printed has left the process; false (and a message) if it could not be
+// written.
+bool flushOutput();
+
+} // namespace Cli
