@@ -9,7 +9,8 @@
 #include <QTextCodec>
 
 // Small helpers that the test programs share.
-namespace TestSupport {
+namespace TestSupport
+{
 
 inline QByteArray contentsOf(const QString &path)
 {
@@ -21,13 +22,15 @@ inline bool write(const QString &path, const QByteArray &bytes)
 {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+           file.write(bytes) == bytes.size();
 }
 
 // The names in a folder, hidden ones included: shows left-over temporary files too.
 inline QStringList entriesOf(const QString &folder)
 {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
 // File names are UTF-8 in every locale that the tests run under; call it first.

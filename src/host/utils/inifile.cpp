@@ -49,7 +49,11 @@ bool writeIniFile(const QString &path, const QVariantMap &header, const QString 
         }
     }
     QByteArray bytes;
-    return FileUtils::readFile(draft, &bytes, error) && FileUtils::writeFile(path, bytes, error);
+    if (!FileUtils::readFile(draft, &bytes, error))
+        return false;
+    if (!bytes.endsWith('\n'))
+        bytes += '\n'; // kind to line-based tools
+    return FileUtils::writeFile(path, bytes, error);
 }
 
 bool checkIniText(const QByteArray &bytes, QString *error)

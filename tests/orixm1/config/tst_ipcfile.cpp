@@ -1,0 +1,162 @@
+#include "testsupport.h"
+
+#include <config/choices.h>
+#include <config/ipcfile.h>
+#include <config/optionkeys.h>
+#include <dev/devicedb.h>
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TARVOORIXM1;
+
+class tst_IpcFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void acceptsOneVersionOnly_data();
+    void acceptsOneVersionOnly();
+    void readsTheDevice_data();
+    void readsTheDevice();
+    void readsTheOptionsButNotTheFolder();
+    void keepsWhatTheFileLacks();
+    void namesTheFileAfterTheDescriptor();
+    void headerHoldsTheIdentity();
+    void choicesOfStoredValues();
+};
+
+namespace
+{
+
+QString fileWith(const QTemporaryDir &dir, const QByteArray &text)
+{
+    static int serial = 0;
+    const QString path = dir.filePath(QString::number(++serial) + QLatin1String(".ipc"));
+    return TestSupport::write(path, text) ? path : QString();
+}
+
+} // namespace
+
+void tst_IpcFile::acceptsOneVersionOnly_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("1.0") << QByteArray("version=1.0\n") << true;
+    QTest::newRow("1.0 in quotes") << QByteArray("version=\"1.0\"\n") << true;
+    // Unquoted blanks at the end belong to the file format, not to the value.
+    QTest::newRow("1.0 and a trimmed blank") << QByteArray("version=1.0 \n") << true;
+    QTest::newRow("1.00") << QByteArray("version=1.00\n") << false;
+    QTest::newRow("1.0 and a blank") << QByteArray("version=\"1.0 \"\n") << false;
+    QTest::newRow("1") << QByteArray("version=1\n") << false;
+    QTest::newRow("empty") << QByteArray("version=\n") << false;
+    QTest::newRow("other letter case") << QByteArray("Version=1.0\n") << false;
+    QTest::newRow("none") << QByteArray() << false;
+    QTest::newRow("in the wrong group") << QByteArray("[Config]\nversion=1.0\n") << false;
+}
+
+void tst_IpcFile::acceptsOneVersionOnly()
+{
+    QFETCH(QByteArray, entry);
+    QTemporaryDir dir;
+    QSettings settings(fileWith(dir, "[General]\n" + entry), QSettings::IniFormat);
+    QTEST(IpcFile::isVersionAccepted(settings), "accepted");
+}
+
+void tst_IpcFile::readsTheDevice_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("id");
+    QTest::newRow("by id") << QByteArray("[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n")
+                           << QStringLiteral("TV2KR-18C-QFN88P-C8/I7");
+    QTest::newRow("unknown id") << QByteArray("[General]\ntarget_device=TV2KR-18C\n") << QString();
+    QTest::newRow("group with a name")
+        << QByteArray("[device]\nid=TV2KR-18C\npackage=QFN88P\nspeed=C7/I6\n")
+        << QStringLiteral("TV2KR-18C-QFN88P-C7/I6");
+    QTest::newRow("group with an id") << QByteArray("[device]\nid=TV2KR-18C-QFN88P-C8/I7\n")
+                                      << QStringLiteral("TV2KR-18C-QFN88P-C8/I7");
+    QTest::newRow("group that fits several")
+        << QByteArray("[device]\nid=TV2KR-18C\npackage=QFN88PF\n")
+        << QStringLiteral("TV2KR-18C-QFN88PF-C9/I8");
+    QTest::newRow("group that fits none")
+        << QByteArray("[device]\nid=TV2KR-18C\npackage=PBGA676\n") << QString();
+    QTest::newRow("group in other letter case")
+        << QByteArray("[Device]\nid=TV2KR-18C\n") << QString();
+    QTest::newRow("both: the id counts")
+        << QByteArray("[General]\ntarget_device=TV1L-9-QFN48-C6/I5\n[device]\nid=TV2KR-18C\n")
+        << QStringLiteral("TV1L-9-QFN48-C6/I5");
+    QTest::newRow("both: an unknown id is not made up for")
+        << QByteArray("[General]\ntarget_device=nonsense\n[device]\nid=TV2KR-18C\n") << QString();
+    QTest::newRow("nothing") << QByteArray("[General]\nversion=1.0\n") << QString();
+}
+
+void tst_IpcFile::readsTheDevice()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, id);
+    QTemporaryDir dir;
+    QSettings settings(fileWith(dir, text), QSettings::IniFormat);
+    QCOMPARE(IpcFile::readDevice(settings, DEV::DeviceDb::bundled()).id(), id);
+    QCOMPARE(settings.group(), QString());
+}
+
+void tst_IpcFile::readsTheOptionsButNotTheFolder()
+{
+    QTemporaryDir dir;
+    QSettings settings(
+        fileWith(dir,
+                 "[General]\nversion=1.0\n[Config]\nEnable%20RTC=true\ncreatein_path=/else/where\n"
+                 "Own%20Key=kept\nITCM_Size=3\n"),
+        QSettings::IniFormat);
+    OptionMap options;
+    IpcFile::readOptions(settings, options);
+    QCOMPARE(options, (OptionMap{{Key::enableRtc, QStringLiteral("true")},
+                                 {QStringLiteral("Own Key"), QStringLiteral("kept")},
+                                 {Key::itcmSize, QStringLiteral("3")}}));
+}
+
+void tst_IpcFile::keepsWhatTheFileLacks()
+{
+    QTemporaryDir dir;
+    QSettings settings(fileWith(dir, "[Config]\nEnable%20RTC=false\n"), QSettings::IniFormat);
+    OptionMap options{{Key::enableRtc, true},
+                      {Key::enableSpi, true},
+                      {Key::createInPath, QStringLiteral("/here")}};
+    IpcFile::readOptions(settings, options);
+    QCOMPARE(options.value(Key::enableRtc).toBool(), false);
+    QCOMPARE(options.value(Key::enableSpi).toBool(), true);
+    QCOMPARE(options.value(Key::createInPath).toString(), QStringLiteral("/here"));
+}
+
+void tst_IpcFile::namesTheFileAfterTheDescriptor()
+{
+    QCOMPARE(IpcFile::path(QStringLiteral("/a b"), {{InfoKey::target, QStringLiteral("name")}}),
+             QStringLiteral("/a b/name.ipc"));
+    QCOMPARE(IpcFile::path(QStringLiteral("/a"), {}), QStringLiteral("/a/.ipc"));
+}
+
+void tst_IpcFile::headerHoldsTheIdentity()
+{
+    QCOMPARE(IpcFile::header(QStringLiteral("dev"), {{InfoKey::id, QStringLiteral("an.ip")}}),
+             (QVariantMap{{QStringLiteral("target_device"), QStringLiteral("dev")},
+                          {QStringLiteral("type"), QStringLiteral("an.ip")},
+                          {QStringLiteral("version"), QStringLiteral("1.0")}}));
+}
+
+void tst_IpcFile::choicesOfStoredValues()
+{
+    QCOMPARE(effectiveSynthesisTool(QStringLiteral("TarvoSynthesis")),
+             QStringLiteral("TarvoSynthesis"));
+    QCOMPARE(effectiveSynthesisTool(QStringLiteral("Synplify Pro")),
+             QStringLiteral("TarvoSynthesis"));
+    QCOMPARE(effectiveSynthesisTool({}), QStringLiteral("TarvoSynthesis"));
+    QCOMPARE(effectiveLanguageIndex({}), 0);
+    QCOMPARE(effectiveLanguageIndex(QStringLiteral("1")), 1);
+    QCOMPARE(effectiveLanguageIndex(2), -1);
+    QCOMPARE(effectiveLanguageIndex(-3), -1);
+}
+
+TARVO_TEST_MAIN(QCoreApplication, tst_IpcFile)
+
+#include "tst_ipcfile.moc"

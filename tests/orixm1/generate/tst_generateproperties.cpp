@@ -1,0 +1,134 @@
+#include "arbitrary.h"
+#include "testsupport.h"
+
+#include "reference.h"
+
+#include <config/devicerules.h>
+#include <config/ipcfile.h>
+#include <generate/defines.h>
+#include <generate/sourcefiles.h>
+#include <utils/inifile.h>
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TARVOORIXM1;
+
+// What must hold for every configuration and device. The seed of a failure is printed; RC_PARAMS
+// repeats it.
+class tst_GenerateProperties : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreesWithThePlainStatement();
+    void defaultSizesAgreeForEveryDevice();
+    void onlyTheMapAndTheDeviceCount();
+    void storingAndReadingChangesNothing();
+    void sourcesNeverHoldTwoVariants();
+};
+
+void tst_GenerateProperties::agreesWithThePlainStatement()
+{
+    QVERIFY(rc::check([] {
+        const OptionMap options = Arbitrary::options();
+        const DEV::DeviceArg device = *Arbitrary::device();
+        const QMap<QString, QStringList> expected = Reference::includeFiles(options, device);
+        const QVector<IncludeFile> files = buildIncludeFiles(options, device);
+        RC_ASSERT(files.size() == expected.size());
+        for (const IncludeFile &file : files) {
+            if (file.lines != expected.value(file.name))
+                RC_FAIL(QString(device.id() + u'\n' + file.name + u'\n' + file.lines.join(u'\n') +
+                                QLatin1String("\n---\n") + expected.value(file.name).join(u'\n'))
+                            .toStdString());
+        }
+    }));
+}
+
+void tst_GenerateProperties::defaultSizesAgreeForEveryDevice()
+{
+    const QList<DEV::DeviceArg> devices = DEV::DeviceDb::bundled().devices();
+    QVERIFY(!devices.isEmpty());
+    for (const DEV::DeviceArg &device : devices)
+        QVERIFY2(defaultTcmSizeIndex(device.device()) == Reference::defaultSize(device.device()),
+                 qPrintable(device.device()));
+}
+
+void tst_GenerateProperties::onlyTheMapAndTheDeviceCount()
+{
+    QVERIFY(rc::check([] {
+        OptionMap options = Arbitrary::options();
+        const DEV::DeviceArg device = *Arbitrary::device();
+        const auto text = [&] {
+            QString all;
+            for (const IncludeFile &file : buildIncludeFiles(options, device))
+                all += file.name + file.lines.join(u'\n');
+            return all;
+        };
+        const QString before = text();
+        for (const QLatin1String key :
+             {Key::ipDevice, Key::ipDeviceId, Key::synthesisTool, Key::lang, Key::createInPath})
+            options.insert(key, Arbitrary::text());
+        RC_ASSERT(text() == before);
+    }));
+}
+
+void tst_GenerateProperties::storingAndReadingChangesNothing()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("x.ipc"));
+    QVERIFY(rc::check([&] {
+        const OptionMap options = Arbitrary::options();
+        const DEV::DeviceArg device = *Arbitrary::device();
+        const QVariantMap ipInfo{{InfoKey::id, QStringLiteral("an.id")}};
+        QString error;
+        RC_ASSERT(Utils::writeIniFile(path, IpcFile::header(device.id(), ipInfo),
+                                      IpcFile::configGroup, options, &error));
+        // One process gives back cached values, so read the bytes through a path that was never
+        // seen before.
+        static int serial = 0;
+        const QString copy = dir.filePath(QString::number(++serial) + QLatin1String(".ipc"));
+        RC_ASSERT(QFile::copy(path, copy));
+        QSettings settings(copy, QSettings::IniFormat);
+        RC_ASSERT(IpcFile::isVersionAccepted(settings));
+        RC_ASSERT(IpcFile::readDevice(settings, DEV::DeviceDb::bundled()) == device);
+        OptionMap read;
+        IpcFile::readOptions(settings, read);
+        RC_ASSERT(read.keys() == options.keys());
+        for (auto it = options.cbegin(); it != options.cend(); ++it)
+            RC_ASSERT(read.value(it.key()).toString() == it.value().toString());
+        const auto first = buildIncludeFiles(options, device);
+        const auto second = buildIncludeFiles(read, device);
+        for (int i = 0; i < first.size(); ++i)
+            RC_ASSERT(first.at(i).lines == second.at(i).lines);
+        QFile::remove(copy);
+    }));
+}
+
+void tst_GenerateProperties::sourcesNeverHoldTwoVariants()
+{
+    QTemporaryDir dir;
+    for (const char *name :
+         {"itcm.v", "dtcm.v", "itcm_3k.v", "dtcm_3k.v", "itcm_5k.v", "dtcm_5k.v"})
+        QVERIFY(TestSupport::write(dir.filePath(QLatin1String("no_debug/") + QLatin1String(name)),
+                                   "x"));
+    for (const char *name : {"itcmdbg.v", "itcmdbg_2kc.v"})
+        QVERIFY(
+            TestSupport::write(dir.filePath(QLatin1String("debug/") + QLatin1String(name)), "x"));
+    const QVariantMap ipInfo{{InfoKey::debug, dir.filePath(QStringLiteral("debug"))},
+                             {InfoKey::noDebug, dir.filePath(QStringLiteral("no_debug"))}};
+    const QList<DEV::DeviceArg> devices = DEV::DeviceDb::bundled().devices();
+    for (const DEV::DeviceArg &device : devices) {
+        for (const bool debug : {false, true}) {
+            const QStringList sources = buildSourceFiles({{Key::enableDebug, debug}}, ipInfo,
+                                                         device.device(), QStringLiteral("/t"));
+            QCOMPARE(sources.filter(QStringLiteral("itcm")).size(), 1);
+            QCOMPARE(sources.filter(QStringLiteral("dtcm")).size(), debug ? 0 : 1);
+        }
+    }
+}
+
+TARVO_TEST_MAIN(QCoreApplication, tst_GenerateProperties)
+
+#include "tst_generateproperties.moc"
