@@ -1,0 +1,87 @@
+// Real-time clock: counts seconds of an external clock, which is sampled with PCLK and must be slower than PCLK / 4.
+//
+//   Offset  Name      Access  Reset   Meaning
+//   0x00    SECONDS   R/W     0       seconds; writing also restarts the running second
+//   0x04    ALARM     R/W     0       alarm time
+//   0x08    CTRL      R/W     0       0 EN, 1 ALARMIE, 2 SECONDIE
+//   0x0C    PEND      R/W1C   0       0 SECONDS became equal to ALARM, 1 a second has passed
+//   0x10    PRESCALE  R/W     32767   source clock cycles of a second, less 1; 24 bits
+module apb_rtc (
+    input  wire        PCLK,
+    input  wire        PRESETn,
+    input  wire        PSEL,
+    input  wire        PENABLE,
+    input  wire        PWRITE,
+    input  wire [11:0] PADDR,
+    input  wire [31:0] PWDATA,
+    output reg  [31:0] PRDATA,
+    output wire        PREADY,
+    output wire        PSLVERR,
+
+    input  wire        rtc_clk,
+    output wire        irq
+);
+    wire store = PSEL & PENABLE & PWRITE;
+
+    reg [2:0] src;
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn)
+            src <= 3'd0;
+        else
+            src <= {src[1:0], rtc_clk};
+
+    reg [31:0] seconds;
+    reg [31:0] alarm;
+    reg [2:0]  ctrl;
+    reg [1:0]  pend;
+    reg [23:0] prescale;
+    reg [23:0] part;
+    wire tick   = ctrl[0] & src[1] & ~src[2];
+    wire second = tick & (part >= prescale);
+    wire [31:0] next = seconds + 32'd1;
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn) begin
+            seconds  <= 32'd0;
+            alarm    <= 32'd0;
+            ctrl     <= 3'd0;
+            pend     <= 2'd0;
+            prescale <= 24'd32767;
+            part     <= 24'd0;
+        end else begin
+            if (tick)
+                part <= second ? 24'd0 : part + 24'd1;
+            if (second)
+                seconds <= next;
+            if (store)
+                case (PADDR)
+                    12'h000: begin
+                        seconds <= PWDATA;
+                        part    <= 24'd0;
+                    end
+                    12'h004: alarm    <= PWDATA;
+                    12'h008: ctrl     <= PWDATA[2:0];
+                    12'h00C: pend     <= pend & ~PWDATA[1:0];
+                    12'h010: prescale <= PWDATA[23:0];
+                    default: ;
+                endcase
+            if (second) begin
+                pend[1] <= 1'b1;
+                if (next == alarm)
+                    pend[0] <= 1'b1;
+            end
+        end
+
+    always @*
+        case (PADDR)
+            12'h000: PRDATA = seconds;
+            12'h004: PRDATA = alarm;
+            12'h008: PRDATA = {29'd0, ctrl};
+            12'h00C: PRDATA = {30'd0, pend};
+            12'h010: PRDATA = {8'd0, prescale};
+            default: PRDATA = 32'd0;
+        endcase
+
+    assign PREADY  = 1'b1;
+    assign PSLVERR = 1'b0;
+    assign irq     = (pend[0] & ctrl[1]) | (pend[1] & ctrl[2]);
+endmodule

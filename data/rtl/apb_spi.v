@@ -1,0 +1,92 @@
+// SPI master, one byte at a time, one slave select.
+//
+//   Offset  Name    Access  Reset  Meaning
+//   0x00    DATA    R/W     0      write: sends the byte (ignored while BUSY); read: the byte received with it
+//   0x04    STATUS  R/W1C   0      0 BUSY; write 1 to clear: 1 DONE (a byte is complete), 2 LOST (written while BUSY)
+//   0x08    CTRL    R/W     0      0 CPOL, 1 CPHA, 2 LSBFIRST, 3 IE (interrupt while DONE)
+//   0x0C    DIV     R/W     3      half a period of SCLK is DIV + 1 clock cycles; 16 bits
+//   0x10    SELECT  R/W     0      bit 0: 1 drives NSS low
+module apb_spi (
+    input  wire        PCLK,
+    input  wire        PRESETn,
+    input  wire        PSEL,
+    input  wire        PENABLE,
+    input  wire        PWRITE,
+    input  wire [11:0] PADDR,
+    input  wire [31:0] PWDATA,
+    output reg  [31:0] PRDATA,
+    output wire        PREADY,
+    output wire        PSLVERR,
+
+    output wire        sclk,
+    output wire        mosi,
+    input  wire        miso,
+    output wire        nss,
+    output wire        irq
+);
+    wire store = PSEL & PENABLE & PWRITE;
+
+    reg [3:0]  ctrl;
+    reg [15:0] div;
+    reg [15:0] count;
+    reg        select;
+    reg        complete;
+    reg        lost;
+    wire       busy;
+    wire       done;
+    wire [7:0] rx_data;
+    wire       write_data = store & (PADDR == 12'h000);
+    wire       start      = write_data & ~busy;
+    wire       tick       = count == 16'd0;
+
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn) begin
+            ctrl     <= 4'd0;
+            div      <= 16'd3;
+            count    <= 16'd0;
+            select   <= 1'b0;
+            complete <= 1'b0;
+            lost     <= 1'b0;
+        end else begin
+            count <= (start | tick) ? div : count - 16'd1;
+            if (store)
+                case (PADDR)
+                    12'h004: begin
+                        complete <= complete & ~PWDATA[1];
+                        lost     <= lost & ~PWDATA[2];
+                    end
+                    12'h008: ctrl   <= PWDATA[3:0];
+                    12'h00C: div    <= PWDATA[15:0];
+                    12'h010: select <= PWDATA[0];
+                    default: ;
+                endcase
+            if (write_data & busy)
+                lost <= 1'b1;
+            if (start)
+                complete <= 1'b0;
+            if (done)
+                complete <= 1'b1;
+        end
+
+    spi_engine u_engine (
+        .clk(PCLK), .rstn(PRESETn), .tick(tick), .start(start),
+        .cpol(ctrl[0]), .cpha(ctrl[1]), .lsb_first(ctrl[2]),
+        .tx_data(PWDATA[7:0]), .rx_data(rx_data), .busy(busy), .done(done),
+        .sclk(sclk), .mosi(mosi), .miso(miso)
+    );
+
+    always @*
+        case (PADDR)
+            12'h000: PRDATA = {24'd0, rx_data};
+            12'h004: PRDATA = {29'd0, lost, complete, busy};
+            12'h008: PRDATA = {28'd0, ctrl};
+            12'h00C: PRDATA = {16'd0, div};
+            12'h010: PRDATA = {31'd0, select};
+            default: PRDATA = 32'd0;
+        endcase
+
+    assign PREADY  = 1'b1;
+    assign PSLVERR = 1'b0;
+    assign nss     = ~select;
+    assign irq     = complete & ctrl[3];
+endmodule

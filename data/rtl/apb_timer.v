@@ -1,0 +1,76 @@
+// Timer: 24-bit down counter that reloads after 0.
+//
+//   Offset  Name    Access  Reset  Meaning
+//   0x00    CTRL    R/W     0      0 EN, 1 IE, 2 EXTGATE (counts only while the external input is high),
+//                                  3 EXTCLK (counts rising edges of the external input instead of clock cycles)
+//   0x04    VALUE   R/W     0      current count
+//   0x08    RELOAD  R/W     0      value that follows 0; the period is RELOAD + 1 counts
+//   0x0C    PEND    R/W1C   0      bit 0: the counter went past 0
+//
+// The external input is synchronised to PCLK.
+module apb_timer (
+    input  wire        PCLK,
+    input  wire        PRESETn,
+    input  wire        PSEL,
+    input  wire        PENABLE,
+    input  wire        PWRITE,
+    input  wire [11:0] PADDR,
+    input  wire [31:0] PWDATA,
+    output reg  [31:0] PRDATA,
+    output wire        PREADY,
+    output wire        PSLVERR,
+
+    input  wire        extin,
+    output wire        irq
+);
+    wire store = PSEL & PENABLE & PWRITE;
+
+    reg [2:0] ext;
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn)
+            ext <= 3'd0;
+        else
+            ext <= {ext[1:0], extin};
+    wire ext_level = ext[1];
+    wire ext_rise  = ext[1] & ~ext[2];
+
+    reg [3:0]  ctrl;
+    reg [23:0] value;
+    reg [23:0] reload;
+    reg        pend;
+    wire count = ctrl[0] & (ctrl[3] ? ext_rise : (~ctrl[2] | ext_level));
+    wire wrap  = count & (value == 24'd0);
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn) begin
+            ctrl   <= 4'd0;
+            value  <= 24'd0;
+            reload <= 24'd0;
+            pend   <= 1'b0;
+        end else begin
+            if (count)
+                value <= wrap ? reload : value - 24'd1;
+            if (store)
+                case (PADDR)
+                    12'h000: ctrl   <= PWDATA[3:0];
+                    12'h004: value  <= PWDATA[23:0];
+                    12'h008: reload <= PWDATA[23:0];
+                    12'h00C: if (PWDATA[0]) pend <= 1'b0;
+                    default: ;
+                endcase
+            if (wrap)
+                pend <= 1'b1;
+        end
+
+    always @*
+        case (PADDR)
+            12'h000: PRDATA = {28'd0, ctrl};
+            12'h004: PRDATA = {8'd0, value};
+            12'h008: PRDATA = {8'd0, reload};
+            12'h00C: PRDATA = {31'd0, pend};
+            default: PRDATA = 32'd0;
+        endcase
+
+    assign PREADY  = 1'b1;
+    assign PSLVERR = 1'b0;
+    assign irq     = pend & ctrl[1];
+endmodule

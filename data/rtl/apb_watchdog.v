@@ -1,0 +1,80 @@
+// Watchdog: 32-bit down counter.  Reaching 0 the first time raises the non-maskable interrupt and starts the count
+// again; reaching 0 with the interrupt still pending requests a system reset, if that is allowed.
+//
+//   Offset  Name    Access  Reset        Meaning
+//   0x00    LOAD    R/W     0xFFFFFFFF   start value; writing it also restarts the count
+//   0x04    COUNT   R       0xFFFFFFFF   current count
+//   0x08    CTRL    R/W     0            0 EN, 1 RSTEN (system reset allowed)
+//   0x0C    KICK    W       -            0x4B49434B restarts the count and clears the interrupt; others do nothing
+//   0x10    STATUS  R       0            0 interrupt pending
+//   0x14    LOCK    R/W     0            0x554E4C4B unlocks LOAD and CTRL, any other value locks them;
+//                                        reads 1 while locked
+module apb_watchdog (
+    input  wire        PCLK,
+    input  wire        PRESETn,
+    input  wire        PSEL,
+    input  wire        PENABLE,
+    input  wire        PWRITE,
+    input  wire [11:0] PADDR,
+    input  wire [31:0] PWDATA,
+    output reg  [31:0] PRDATA,
+    output wire        PREADY,
+    output wire        PSLVERR,
+
+    output wire        nmi,
+    output reg         reset_req
+);
+    localparam [31:0] KICK_KEY   = 32'h4B49434B;
+    localparam [31:0] UNLOCK_KEY = 32'h554E4C4B;
+
+    wire store = PSEL & PENABLE & PWRITE;
+
+    reg [31:0] load;
+    reg [31:0] count;
+    reg [1:0]  ctrl;
+    reg        locked;
+    reg        pend;
+    wire kick   = store & (PADDR == 12'h00C) & (PWDATA == KICK_KEY);
+    wire expire = ctrl[0] & (count == 32'd0);
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn) begin
+            load      <= 32'hFFFFFFFF;
+            count     <= 32'hFFFFFFFF;
+            ctrl      <= 2'd0;
+            locked    <= 1'b0;
+            pend      <= 1'b0;
+            reset_req <= 1'b0;
+        end else begin
+            if (ctrl[0])
+                count <= expire ? load : count - 32'd1;
+            if (expire)
+                pend <= 1'b1;
+            reset_req <= expire & pend & ctrl[1] & ~kick;
+            if (kick) begin
+                count <= load;
+                pend  <= 1'b0;
+            end
+            if (store & ~locked & (PADDR == 12'h000)) begin
+                load  <= PWDATA;
+                count <= PWDATA;
+            end
+            if (store & ~locked & (PADDR == 12'h008))
+                ctrl <= PWDATA[1:0];
+            if (store & (PADDR == 12'h014))
+                locked <= PWDATA != UNLOCK_KEY;
+        end
+
+    always @*
+        case (PADDR)
+            12'h000: PRDATA = load;
+            12'h004: PRDATA = count;
+            12'h008: PRDATA = {30'd0, ctrl};
+            12'h010: PRDATA = {31'd0, pend};
+            12'h014: PRDATA = {31'd0, locked};
+            default: PRDATA = 32'd0;
+        endcase
+
+    assign PREADY  = 1'b1;
+    assign PSLVERR = 1'b0;
+    assign nmi     = pend;
+endmodule

@@ -1,0 +1,3 @@
+`ifndef MAC_DEFINE
+`define MAC_DEFINE
+`endif

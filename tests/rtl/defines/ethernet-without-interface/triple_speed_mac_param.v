@@ -1,0 +1,2 @@
+parameter MIIM_CLK_DIVIDER = 20;
+parameter DEVICE = "5K_Series";

@@ -1,0 +1,2 @@
+`define TARVO_INTERNET_SUPPORT
+`define GMII_IF
