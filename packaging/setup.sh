@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Installs the Debian packages of debian-packages.txt that this machine lacks. Prints nothing when there is nothing
+# to do.
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+mapfile -t wanted < <(sed 's/#.*//; s/[[:space:]]//g; /^$/d' "$here/debian-packages.txt")
+
+missing=()
+for package in "${wanted[@]}"; do
+    status=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null || true)
+    [[ $status == installed ]] || missing+=("$package")
+done
+((${#missing[@]} == 0)) && exit 0
+
+echo "Installing: ${missing[*]}" >&2
+as_root=()
+if ((EUID != 0)); then
+    command -v sudo >/dev/null || {
+        echo "These Debian packages are missing and only root can install them: ${missing[*]}" >&2
+        exit 1
+    }
+    as_root=(sudo)
+fi
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -q >&2
+"${as_root[@]}" apt-get install -y -q --no-install-recommends "${missing[@]}" >&2

@@ -1,0 +1,3 @@
+`define DEBUG_PORT_JTAG
+`define TARVO_DDR3_SUPPORT
+`define VIRLA_TV2K

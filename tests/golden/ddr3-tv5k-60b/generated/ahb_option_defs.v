@@ -1,0 +1,1 @@
+`define TARVO_DDR3_SUPPORT

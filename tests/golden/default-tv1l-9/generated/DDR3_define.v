@@ -1,0 +1,2 @@
+`define DDR3_PHY_MC
+`define EBR_BASED

@@ -1,0 +1,5 @@
+`ifndef MAC_DEFINE
+`define MAC_DEFINE
+`define GMII_IF
+`define module_name mac
+`endif

@@ -1,0 +1,1 @@
+parameter CFIFO_DEPTH = 256;

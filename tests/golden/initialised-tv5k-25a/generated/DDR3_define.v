@@ -1,0 +1,3 @@
+`define DDR3_PHY_MC
+`define EBR_BASED
+`define VIRLA_25K

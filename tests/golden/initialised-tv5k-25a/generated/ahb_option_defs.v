@@ -1,0 +1,1 @@
+`define DEBUG_PORT_JTAG

@@ -1,0 +1,3 @@
+`define DEBUG_PORT_JTAG
+`define TARVO_INTERNET_SUPPORT
+`define MII_IF

@@ -1,0 +1,1 @@
+`define CM1_EXTERNAL_FLASH_EN

@@ -1,0 +1,2 @@
+`define DEBUG_PORT_JTAG
+`define TARVO_SPI_FLASH_SUPPORT

@@ -1,0 +1,2 @@
+`define DEBUG_PORT_JTAG
+`define TARVO_AHB3_SUPPORT
