@@ -5,15 +5,16 @@
 #include <QString>
 #include <QVariantMap>
 
-namespace Synthesis {
+namespace Synthesis
+{
 
 // What a run works on. A plain value.
 //
-// Keys of `options`: "top_module" (string), "source_files" (string list of full paths), "write_vhdl" (bool),
-// "disable_io" (bool: no I/O buffers are inserted), "impl_name" (string: the project tool's result folder),
-// "ip_version" (string). The `outputDir` must exist; it is also the first include path.
-struct Job
-{
+// Keys of `options`: "top_module" (string), "source_files" (string list of full paths),
+// "write_vhdl" (bool), "disable_io" (bool: no I/O buffers are inserted), "impl_name" (string: the
+// project tool's result folder), "ip_version" (string). The `outputDir` must exist; it is also the
+// first include path.
+struct Job {
     QString outputDir;
     QString ipName;
     QString targetName; // base name of the outputs

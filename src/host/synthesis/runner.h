@@ -8,13 +8,14 @@
 
 #include <memory>
 
-namespace Synthesis {
+namespace Synthesis
+{
 
 enum class Tool { SynplifyPro = 0, TarvoSynthesis = 1 };
 
-// Runs a synthesis tool on a Job as a process of its own and reports the end. Has no widget and needs a
-// running event loop. A run has no time limit; cancel() ends it. cancel() and the destructor kill the
-// tool's whole process group.
+// Runs a synthesis tool on a Job as a process of its own and reports the end. Has no widget and
+// needs a running event loop. A run has no time limit; cancel() ends it. cancel() and the
+// destructor kill the tool's whole process group.
 class TARVO_SYNTHESIS_EXPORT Runner : public QObject
 {
     Q_OBJECT
@@ -27,16 +28,16 @@ public:
     Tool tool() const;
     void setJob(const Job &job);
 
-    // Starts a run and returns at once; finished() follows exactly once, never from within start(). Does nothing
-    // while a run is active.
+    // Starts a run and returns at once; finished() follows exactly once, never from within start().
+    // Does nothing while a run is active.
     void start();
     // Ends the active run: finished() follows with a non-zero code and wasCancelled() is true.
     void cancel();
     bool isRunning() const;
     bool wasCancelled() const;
 
-    // Of the last run: one summary sentence, empty after a success, and the tool's errors, one a line ("file:line: text"
-    // where the tool names a place).
+    // Of the last run: one summary sentence, empty after a success, and the tool's errors, one a
+    // line ("file:line: text" where the tool names a place).
     QString errorMsg() const;
     QStringList detailErrorMsgs() const;
 

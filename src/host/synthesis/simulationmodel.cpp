@@ -1,10 +1,68 @@
 #include "simulationmodel.h"
 
-namespace Synthesis {
+#include "library.h"
+#include "verilogscan.h"
 
-int writeSimulationModel(const QString &, const QString &, QString *)
+#include <utils/fileutils.h>
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace Synthesis
 {
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
+
+int fail(QString *message, const QString &text)
+{
+    if (message)
+        *message = text;
     return 1;
+}
+
+} // namespace
+
+int writeSimulationModel(const QString &netlist, const QString &destination, QString *message)
+{
+    using Utils::FileUtils;
+
+    QByteArray text;
+    QString error;
+    if (!FileUtils::readFile(netlist, &text, &error))
+        return fail(message, error);
+
+    const QString shown = QDir::toNativeSeparators(netlist);
+    const VerilogOutline outline = scanVerilog(text);
+    if (outline.modules.isEmpty() || !outline.complete)
+        return fail(message, tr("\"%1\" is not a complete Verilog netlist.").arg(shown));
+
+    QStringList unknown;
+    const QMap<QByteArray, int> instances = outline.instances();
+    for (auto it = instances.begin(); it != instances.end(); ++it) {
+        if (!outline.defines(it.key()) && Library::model(it.key()).isEmpty())
+            unknown << QString::fromUtf8('"' + it.key() + '"');
+    }
+    if (!unknown.isEmpty())
+        return fail(
+            message,
+            tr("The netlist \"%1\" instantiates %2, for which there is no simulation model.")
+                .arg(shown, unknown.join(QLatin1String(", "))));
+
+    if (!text.endsWith('\n'))
+        text += '\n';
+    for (const QByteArray &primitive : Library::primitives()) {
+        if (instances.contains(primitive) && !outline.defines(primitive))
+            text += '\n' + Library::model(primitive);
+    }
+    if (!FileUtils::writeFile(destination, text, &error))
+        return fail(message, error);
+    return 0;
 }
 
 } // namespace Synthesis

@@ -1,0 +1,98 @@
+#include "flow.h"
+
+#include <utils/fileutils.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+namespace Synthesis
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
+
+} // namespace
+
+Flow::Flow(const Job &job)
+    : m_job(job)
+{
+}
+
+QString Flow::prepare()
+{
+    static const QRegularExpression identifier(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_$]*\\z"));
+
+    if (m_job.options.value(QStringLiteral("write_vhdl")).toBool())
+        return tr("VHDL output is not available yet; choose Verilog as the language.");
+    if (m_job.targetName.isEmpty() || m_job.targetName.contains(u'/'))
+        return tr("\"%1\" cannot be the name of the output files.").arg(m_job.targetName);
+    if (!identifier.match(topModule()).hasMatch())
+        return tr("\"%1\" cannot be the name of the top module.").arg(topModule());
+    if (QString error = m_scratch.create(m_job.outputDir); !error.isEmpty())
+        return error;
+    const QStringList files = m_job.options.value(QStringLiteral("source_files")).toStringList();
+    if (QString error = m_sources.prepare(files, m_scratch); !error.isEmpty())
+        return error;
+    return prepareTool();
+}
+
+QString Flow::explained(const QString &) const
+{
+    return {};
+}
+
+QString Flow::option(const char *key) const
+{
+    return m_job.options.value(QLatin1String(key)).toString();
+}
+
+QString Flow::outputPath(const QString &suffix) const
+{
+    return m_scratch.outputDir() + u'/' + m_job.targetName + suffix;
+}
+
+QString Flow::addCommand(const QString &name, const QString &program, const QStringList &arguments)
+{
+    const QString path = QStandardPaths::findExecutable(program);
+    if (path.isEmpty())
+        return tr("%1 is not installed: no program \"%2\" was found on PATH.").arg(name, program);
+    m_commands << Command{name, QFileInfo(path).absoluteFilePath(), arguments};
+    return {};
+}
+
+QString Flow::writeScratch(const QString &file, const QByteArray &bytes) const
+{
+    QString error;
+    Utils::FileUtils::writeFile(m_scratch.absolute(file), bytes, &error);
+    return error;
+}
+
+QString Flow::readResult(const QString &file, const QString &shown, QByteArray *bytes) const
+{
+    const QString path = m_scratch.absolute(file);
+    if (!QFileInfo(path).isFile())
+        return tr("%1 reported success but did not write \"%2\".")
+            .arg(m_commands.last().name, QDir::toNativeSeparators(shown));
+    QString error;
+    Utils::FileUtils::readFile(path, bytes, &error);
+    return error;
+}
+
+QByteArray Flow::title(const char *what) const
+{
+    QStringList words{QLatin1String(what), topModule()};
+    const QString ip = QString(m_job.ipName + u' ' + option("ip_version")).trimmed();
+    return (words.join(u' ') +
+            (ip.isEmpty() ? QString() : QString(QLatin1String(" (") + ip + u')')))
+        .toUtf8();
+}
+
+} // namespace Synthesis

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "job.h"
+#include "scratchfolder.h"
+#include "sourcestage.h"
+#include "toolprocess.h"
+
+#include <QPair>
+#include <QStringList>
+#include <QVector>
+
+namespace Synthesis
+{
+
+// A finished file of a run: where it is to be (full path), and its contents.
+struct Output {
+    QString path;
+    QByteArray bytes;
+};
+
+// How a job becomes commands, and what they left becomes outputs. The commands are run one after
+// the other with the output folder as the working folder; each must exit with 0.
+//
+// Functions that return a string return one sentence on failure and nothing on success.
+class Flow
+{
+public:
+    explicit Flow(const Job &job);
+    virtual ~Flow() = default;
+    Q_DISABLE_COPY(Flow)
+
+    // Checks the job, stages the sources and writes what the commands read.
+    QString prepare();
+    const QVector<Command> &commands() const { return m_commands; }
+    const SourceStage &sources() const { return m_sources; }
+
+    // The phrase for what a line of output begins, or empty.
+    virtual QString stageOf(const QString &line) = 0;
+    // What is worth reading of a log file that a command left.
+    virtual QStringList furtherLog() const { return {}; }
+    // A better sentence for a command's error message, or empty.
+    virtual QString explained(const QString &error) const;
+    // After the last command: the outputs, the most important one last, and a line of summary each.
+    virtual QString collect(QVector<Output> *outputs, QStringList *summary) = 0;
+
+protected:
+    virtual QString prepareTool() = 0;
+
+    QString option(const char *key) const;
+    QString topModule() const { return option("top_module"); }
+    // "<output folder>/<target><suffix>"
+    QString outputPath(const QString &suffix) const;
+    // Adds a command for a program that PATH has.
+    QString addCommand(const QString &name, const QString &program, const QStringList &arguments);
+    QString writeScratch(const QString &file, const QByteArray &bytes) const;
+    // Reads a file that a command should have left; `shown` is the name that the result would get.
+    QString readResult(const QString &file, const QString &shown, QByteArray *bytes) const;
+    // The comment on top of an output.
+    QByteArray title(const char *what) const;
+
+    Job m_job;
+    ScratchFolder m_scratch;
+    SourceStage m_sources;
+
+private:
+    QVector<Command> m_commands;
+};
+
+} // namespace Synthesis

@@ -1,0 +1,159 @@
+#include "projectflow.h"
+
+#include "verilogoutputs.h"
+#include "verilogscan.h"
+#include "yosysscript.h"
+
+#include <utils/fileutils.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+namespace Synthesis
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
+
+} // namespace
+
+QByteArray tclWord(const QString &text)
+{
+    QByteArray word = "\"";
+    for (const char c : text.toUtf8()) {
+        if (c == '\n')
+            word += "\\n";
+        else if (c == '\r')
+            word += "\\r";
+        else if (c == '\\' || c == '"' || c == '$' || c == '[')
+            word += QByteArray("\\") + c;
+        else
+            word += c;
+    }
+    return word + '"';
+}
+
+QString ProjectFlow::implementation() const
+{
+    return option("impl_name");
+}
+
+QString ProjectFlow::resultFile(const QString &suffix) const
+{
+    return implementation() + u'/' + m_job.targetName + suffix;
+}
+
+QByteArray ProjectFlow::projectFile() const
+{
+    QByteArray text = "# Project of " + topModule().toUtf8() + "\n\n";
+    for (const QString &file : m_sources.originals())
+        text += "add_file -verilog " + tclWord(file) + '\n';
+
+    const QByteArray folder = tclWord(implementation());
+    text += "\nimpl -add " + folder + " -type fpga\n";
+    const auto set = [&](const char *name, const QString &value) {
+        if (!value.isEmpty())
+            text += QByteArray("set_option -") + name + ' ' + tclWord(value) + '\n';
+    };
+    set("technology", m_job.device.series());
+    set("part", m_job.device.device());
+    set("package", m_job.device.package());
+    set("speed_grade", m_job.device.speed());
+    set("top_module", topModule());
+    // Every file is read as part of one whole: macros are known in all later files.
+    set("vlog_std", QStringLiteral("sysv"));
+    set("multi_file_compilation_unit", QStringLiteral("1"));
+    const bool disableIo = m_job.options.value(QStringLiteral("disable_io")).toBool();
+    set("disable_io_insertion", disableIo ? QStringLiteral("1") : QStringLiteral("0"));
+    set("include_path", m_sources.originalDirs().join(u';'));
+    set("write_verilog", QStringLiteral("1"));
+    text += "project -result_format verilog\nproject -result_file " +
+            tclWord(ScratchFolder::relative(resultFile(QStringLiteral(".vm")))) +
+            "\nimpl -active " + folder + '\n';
+    return text;
+}
+
+QString ProjectFlow::prepareTool()
+{
+    const QString folder = implementation();
+    if (folder.isEmpty() || folder.contains(u'/') || folder == QLatin1String(".") ||
+        folder == QLatin1String(".."))
+        return tr("\"%1\" cannot be the name of the result folder.").arg(folder);
+
+    const QString project = m_job.targetName + QLatin1String(".prj");
+    QString error = addCommand(QStringLiteral("Synplify Pro"), QStringLiteral("synplify_pro"),
+                               {QStringLiteral("-batch"), QString(QLatin1String("./") + project)});
+    // The template comes from the elaborated sources.
+    if (error.isEmpty())
+        error =
+            addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), YosysScript::arguments());
+    if (error.isEmpty())
+        error = writeScratch(QLatin1String(YosysScript::script),
+                             YosysScript::elaboration(m_sources, topModule()));
+    if (error.isEmpty())
+        Utils::FileUtils::makePath(m_scratch.absolute(folder), &error);
+    if (error.isEmpty())
+        Utils::FileUtils::writeFile(outputPath(QStringLiteral(".prj")), projectFile(), &error);
+    return error;
+}
+
+QString ProjectFlow::stageOf(const QString &line)
+{
+    if (line.contains(QLatin1String("Compiler")) && line.contains(QLatin1String("started")))
+        return tr("Reading sources");
+    if (line.contains(QLatin1String("Mapper")) && line.contains(QLatin1String("started")))
+        return tr("Mapping logic");
+    if (line.startsWith(QLatin1String("1. Executing Verilog")))
+        return tr("Writing template");
+    return {};
+}
+
+QStringList ProjectFlow::furtherLog() const
+{
+    QFile file(m_scratch.absolute(resultFile(QStringLiteral(".srr"))));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(u'\n');
+}
+
+QString ProjectFlow::collect(QVector<Output> *outputs, QStringList *summary)
+{
+    const QString netlistPath = m_scratch.outputDir() + u'/' + resultFile(QStringLiteral(".vm"));
+    const QString templatePath = outputPath(QStringLiteral("_tmp.v"));
+    const QByteArray top = topModule().toUtf8();
+    const QString shown = QDir::toNativeSeparators(netlistPath);
+
+    QByteArray netlist;
+    QByteArray outline;
+    if (!QFile::exists(m_scratch.absolute(resultFile(QStringLiteral(".vm")))))
+        return tr("Synplify Pro reported success but did not write \"%1\".").arg(shown);
+    QString error = readResult(resultFile(QStringLiteral(".vm")), netlistPath, &netlist);
+    if (error.isEmpty())
+        error = readResult(QLatin1String(YosysScript::outline), templatePath, &outline);
+    if (!error.isEmpty())
+        return error;
+
+    const VerilogOutline scanned = scanVerilog(netlist);
+    if (!scanned.complete || !scanned.defines(top))
+        return tr("Synplify Pro reported success but what it wrote for \"%1\" is not complete.")
+            .arg(shown);
+    DesignPorts design;
+    if (!design.read(outline, {}) || !design.contains(top))
+        return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
+            .arg(QDir::toNativeSeparators(templatePath));
+
+    if (!Utils::FileUtils::makePath(m_scratch.outputDir() + u'/' + implementation(), &error))
+        return error;
+    *outputs = {Output{templatePath, verilogTemplate(top, design.ports(top))},
+                Output{netlistPath, netlist}};
+    *summary << tr("The netlist has %1 modules.").arg(scanned.modules.size());
+    return {};
+}
+
+} // namespace Synthesis

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "flow.h"
+
+namespace Synthesis
+{
+
+// Synthesis by Synplify Pro in batch mode on a project file, which stays beside the outputs.
+class ProjectFlow : public Flow
+{
+public:
+    using Flow::Flow;
+
+    QString stageOf(const QString &line) override;
+    QStringList furtherLog() const override;
+    QString collect(QVector<Output> *outputs, QStringList *summary) override;
+
+protected:
+    QString prepareTool() override;
+
+private:
+    QString implementation() const;
+    // The implementation's folder while the run lasts, relative to the scratch folder.
+    QString resultFile(const QString &suffix) const;
+    QByteArray projectFile() const;
+};
+
+// `text` as one quoted word of a Tcl script.
+QByteArray tclWord(const QString &text);
+
+} // namespace Synthesis

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QVector>
+
+namespace Synthesis
+{
+
+// The outline of a Verilog text: which modules it holds and what they instantiate.
+struct VerilogOutline {
+    struct Module {
+        QByteArray name;
+        QMap<QByteArray, int> instances; // number by module name
+    };
+
+    QVector<Module> modules;
+    // The text ends where a module ended, with nothing left open.
+    bool complete = false;
+
+    bool defines(const QByteArray &module) const;
+    // Over all modules.
+    QMap<QByteArray, int> instances() const;
+};
+
+// Reads netlists and models, not everything that the language allows: macros are not expanded.
+// Names are without the backslash and the blank of their escaped form.
+VerilogOutline scanVerilog(const QByteArray &text);
+
+// `name` as it stands in a Verilog text, escaped where it must be.
+QByteArray verilogName(const QByteArray &name);
+
+} // namespace Synthesis

@@ -1,0 +1,123 @@
+#include "yosysflow.h"
+
+#include "library.h"
+#include "verilogoutputs.h"
+#include "verilogscan.h"
+#include "yosysscript.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRegularExpression>
+
+namespace Synthesis
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
+
+struct Stage {
+    const char *title;  // how the tool's title of a step begins
+    int after;          // the stage that must have been reached
+    const char *phrase; // the stage
+};
+
+// Stages only advance: the same step runs in many places.
+constexpr Stage stages[] = {
+    {"Executing Verilog", -1, QT_TRANSLATE_NOOP("Synthesis", "Reading sources")},
+    {"Executing HIERARCHY", 0, QT_TRANSLATE_NOOP("Synthesis", "Elaborating")},
+    {"Executing OPT", 1, QT_TRANSLATE_NOOP("Synthesis", "Optimizing")},
+    {"Executing MEMORY", 2, QT_TRANSLATE_NOOP("Synthesis", "Mapping memories")},
+    {"Executing DFFLEGALIZE", 3, QT_TRANSLATE_NOOP("Synthesis", "Mapping logic")},
+    {"Executing Verilog backend", 4, QT_TRANSLATE_NOOP("Synthesis", "Writing netlist")},
+};
+
+} // namespace
+
+QString YosysFlow::prepareTool()
+{
+    using namespace YosysScript;
+    for (const char *name :
+         {"primitives.v", "memories.txt", "map_tristate.v", "map_memories.v", "map_cells.v"}) {
+        const QString file = QLatin1String(name);
+        if (QString error = writeScratch(file, Library::file(file)); !error.isEmpty())
+            return error;
+    }
+    if (QString error = writeScratch(QLatin1String(script), synthesis(m_sources, topModule()));
+        !error.isEmpty())
+        return error;
+    return addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), arguments());
+}
+
+QString YosysFlow::stageOf(const QString &line)
+{
+    static const QRegularExpression step(QStringLiteral("^\\d+\\. (.*)$"));
+    const auto match = step.match(line);
+    if (!match.hasMatch())
+        return {};
+    for (int i = m_stage + 1; i < int(std::size(stages)); ++i) {
+        if (m_stage >= stages[i].after &&
+            match.captured(1).startsWith(QLatin1String(stages[i].title))) {
+            m_stage = i;
+            return tr(stages[i].phrase);
+        }
+    }
+    return {};
+}
+
+QString YosysFlow::explained(const QString &error) const
+{
+    if (error.contains(QLatin1String("t:$mem_v2")))
+        return tr("A large memory fits no memory primitive: it needs one clocked read and one "
+                  "clocked write port, or two "
+                  "ports that read or write.");
+    if (error.contains(QLatin1String("Assertion failed")))
+        return tr("The design holds something that no primitive can do.");
+    return {};
+}
+
+QString YosysFlow::collect(QVector<Output> *outputs, QStringList *summary)
+{
+    const QString netlistPath = outputPath(QStringLiteral(".vg"));
+    const QString templatePath = outputPath(QStringLiteral("_tmp.v"));
+    const QByteArray top = topModule().toUtf8();
+    const auto damaged = [&](const QString &path) {
+        return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
+            .arg(QDir::toNativeSeparators(path));
+    };
+
+    QByteArray body;
+    QByteArray cells;
+    QByteArray outline;
+    QString error = readResult(QLatin1String(YosysScript::netlist), netlistPath, &body);
+    if (error.isEmpty())
+        error = readResult(QLatin1String(YosysScript::cells), netlistPath, &cells);
+    if (error.isEmpty())
+        error = readResult(QLatin1String(YosysScript::outline), templatePath, &outline);
+    if (!error.isEmpty())
+        return error;
+
+    DesignPorts design;
+    const VerilogOutline bodyOutline = scanVerilog(body);
+    if (!bodyOutline.complete || !bodyOutline.defines(top))
+        return damaged(netlistPath);
+    if (!design.read(outline, cells) || !design.contains(top))
+        return damaged(templatePath);
+
+    const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
+    const QByteArray netlist = verilogNetlist(title("Netlist of"), body, blackBoxes);
+    *outputs = {Output{templatePath, verilogTemplate(top, design.ports(top))},
+                Output{netlistPath, netlist}};
+
+    const QMap<QByteArray, int> instances = bodyOutline.instances();
+    *summary << tr("Instances in the netlist:");
+    for (auto it = instances.begin(); it != instances.end(); ++it)
+        *summary << QStringLiteral("%1 %2").arg(it.value(), 8).arg(QString::fromUtf8(it.key()));
+    return {};
+}
+
+} // namespace Synthesis

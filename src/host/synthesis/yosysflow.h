@@ -1,0 +1,25 @@
+#pragma once
+
+#include "flow.h"
+
+namespace Synthesis
+{
+
+// The platform's own synthesis: Yosys maps the design to the primitives of the library.
+class YosysFlow : public Flow
+{
+public:
+    using Flow::Flow;
+
+    QString stageOf(const QString &line) override;
+    QString explained(const QString &error) const override;
+    QString collect(QVector<Output> *outputs, QStringList *summary) override;
+
+protected:
+    QString prepareTool() override;
+
+private:
+    int m_stage = -1;
+};
+
+} // namespace Synthesis

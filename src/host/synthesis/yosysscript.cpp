@@ -1,0 +1,137 @@
+#include "yosysscript.h"
+
+#include "library.h"
+#include "scratchfolder.h"
+#include "sourcestage.h"
+
+#include <QStringList>
+
+namespace Synthesis
+{
+
+namespace
+{
+
+// Arrays beyond this number of words that no memory primitive fits would become too many
+// flip-flops.
+constexpr int mostWordsInLogic = 4096;
+
+QByteArray scratch(const char *file)
+{
+    return ScratchFolder::relative(QLatin1String(file)).toLatin1();
+}
+
+// The sources are one compilation unit: macros and file-level parameters of a file are known in all
+// later ones.
+QByteArray readSources(const SourceStage &sources, const QString &top)
+{
+    QByteArray includes;
+    for (const QString &dir : sources.includeDirs())
+        includes += " -I" + dir.toLatin1();
+    QByteArray text;
+    for (const QString &file : sources.staged()) {
+        const bool system = file.endsWith(QLatin1String(".sv"), Qt::CaseInsensitive) ||
+                            file.endsWith(QLatin1String(".svh"), Qt::CaseInsensitive);
+        text += QByteArray("read_verilog") + (system ? " -sv" : "") + includes + ' ' +
+                file.toLatin1() + '\n';
+    }
+    return text + "hierarchy -check -top " + top.toLatin1() + '\n';
+}
+
+} // namespace
+
+QStringList YosysScript::arguments()
+{
+    return {
+        QStringLiteral("-Q"), QStringLiteral("-T"),
+        QStringLiteral("-v"), QStringLiteral("2"),
+        QStringLiteral("-w"), QStringLiteral("limited support for tri-state logic"),
+        QStringLiteral("-s"), ScratchFolder::relative(QLatin1String(script)),
+    };
+}
+
+QByteArray YosysScript::elaboration(const SourceStage &sources, const QString &top)
+{
+    return readSources(sources, top) + "hierarchy -top " + top.toLatin1() +
+           " -purge_lib\nblackbox " + top.toLatin1() + "\nwrite_json " + scratch(outline) + '\n';
+}
+
+QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top)
+{
+    QByteArray primitives;
+    for (const QByteArray &name : Library::primitives())
+        primitives += " t:" + name;
+
+    const QByteArray topName = top.toLatin1();
+    return "read_verilog -lib " + scratch("primitives.v") + '\n' +
+           readSources(sources, top)
+           // One module: no name depends on how a parameter is spelled, and tri-states meet their
+           // pins.
+           + "setattr -mod -unset keep_hierarchy\n"
+             "proc\n"
+             "flatten\n"
+             // Before anything takes "not driven" for "does not matter".
+             "techmap -map " +
+           scratch("map_tristate.v") +
+           "\n"
+           "tribuf\n"
+           "chformal -remove\n"
+           "opt_expr\n"
+           "opt_clean\n"
+           "check\n"
+           "opt -nodffe -nosdff\n"
+           "wreduce\n"
+           "peepopt\n"
+           "opt_clean\n"
+           "alumacc\n"
+           "opt\n"
+           "memory -nomap\n"
+           "opt_clean\n"
+           "memory_libmap -lib " +
+           scratch("memories.txt") +
+           "\n"
+           "select -assert-none t:$mem_v2 r:SIZE>" +
+           QByteArray::number(mostWordsInLogic) +
+           " %i r:WR_PORTS>0 %i\n"
+           "techmap -map " +
+           scratch("map_memories.v") +
+           "\n"
+           "opt -fast -full\n"
+           "memory_map\n"
+           "opt -fast -full\n"
+           "techmap\n"
+           "opt -fast\n"
+           "dfflegalize -cell $_DFF_?_ 01 -cell $_DFFE_?P_ 01 -cell $_SDFF_?P?_ 01 -cell "
+           "$_SDFFE_?P?P_ 01"
+           " -cell $_DFF_?P?_ 01 -cell $_DFFE_?P?P_ 01 -cell $_DFFSR_?PP_ 01 -cell $_DFFSRE_?PPP_ "
+           "01"
+           " -cell $_DLATCH_P_ 01\n"
+           "opt_merge\n"
+           "opt_clean\n"
+           "abc -lut 4\n"
+           "opt_clean\n"
+           "techmap -map " +
+           scratch("map_cells.v") +
+           "\n"
+           "clean\n"
+           "select -assert-none t:$*\n"
+           "hierarchy -top " +
+           topName +
+           " -purge_lib\n"
+           "write_verilog -noattr " +
+           scratch(netlist) +
+           "\n"
+           "delete" +
+           primitives +
+           "\n"
+           "write_json " +
+           scratch(cells) +
+           "\n"
+           "blackbox " +
+           topName +
+           "\n"
+           "write_json " +
+           scratch(outline) + '\n';
+}
+
+} // namespace Synthesis
