@@ -1,0 +1,716 @@
+#include "testsupport.h"
+
+#include <config/ipcfile.h>
+#include <config/optiontable.h>
+#include <dev/devicedb.h>
+#include <generate/defines.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <unistd.h>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+struct Run {
+    int status = -1;
+    QString out;
+    QString err;
+
+    QJsonObject json() const { return QJsonDocument::fromJson(out.toUtf8()).object(); }
+};
+
+QStringList words(std::initializer_list<const char *> list)
+{
+    QStringList result;
+    for (const char *word : list)
+        result.append(QString::fromUtf8(word));
+    return result;
+}
+
+} // namespace
+
+// The command as people run it: as a process.
+class tst_Cli : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void helpAndVersion();
+    void wrongUsageIsStatusTwo_data();
+    void wrongUsageIsStatusTwo();
+
+    void newWritesOnlyWhatWasSet();
+    void newReplacesNothingUnasked();
+    void newKeepsTypes();
+    void newSaysWhyItCannotWrite();
+
+    void generatesWithoutSynthesis();
+    void generatesTheSameBytesEverywhere();
+    void generatesTheExample();
+    void generatedModelCompiles();
+    void takesOddPaths_data();
+    void takesOddPaths();
+    void refusesBrokenFiles_data();
+    void refusesBrokenFiles();
+    void anUnknownDeviceIsBadInput();
+    void emitsWhatTheFileHolds();
+    void saysWhyItCannotGenerate_data();
+    void saysWhyItCannotGenerate();
+    void aFullDiskLeavesNothingHalfWritten();
+    void aMissingToolIsNamed();
+    void anErrorInASourceNamesFileAndLine();
+    void aMissingDataFolderIsNamed();
+    void interruptStopsTheToolToo();
+    void vhdlIsRefusedClearly();
+
+    void checkFindsNothingInTheExample();
+    void checkListsFindings();
+    void checkChangesNothing();
+    void optionsListEveryKey();
+    void devicesCanBeNarrowed();
+    void sourcesMatchGeneration();
+    void anOwnDeviceFolderCounts();
+
+private:
+    QString path(const char *name) const { return m_dir->filePath(QString::fromUtf8(name)); }
+    Run run(const QStringList &arguments) const;
+    // Writes a configuration for TV2KR-18C with these lines in its "Config" group.
+    QString config(const QByteArray &lines = QByteArray()) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    QProcessEnvironment m_environment;
+};
+
+void tst_Cli::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    m_environment = QProcessEnvironment::systemEnvironment();
+    // No display and no platform plug-in: the command must not miss them.
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        m_environment.remove(QString::fromLatin1(name));
+}
+
+Run tst_Cli::run(const QStringList &arguments) const
+{
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setWorkingDirectory(m_dir->path());
+    process.start(QStringLiteral(TARVO_COMMAND), arguments);
+    if (!process.waitForFinished(300000) || process.exitStatus() != QProcess::NormalExit)
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+QString tst_Cli::config(const QByteArray &lines) const
+{
+    const QString file = path("config.ipc");
+    TestSupport::write(
+        file,
+        "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\ntype=tarvo.tarvo_orix_m1\nversion=1.0\n\n"
+        "[Config]\n" +
+            lines);
+    return file;
+}
+
+void tst_Cli::helpAndVersion()
+{
+    const Run help = run(words({"--help"}));
+    QCOMPARE(help.status, 0);
+    for (const char *command : {"new", "generate", "check", "options", "devices", "sources"}) {
+        QVERIFY2(help.out.contains(QString::fromLatin1(command)), command);
+        const Run own = run(words({command, "--help"}));
+        QCOMPARE(own.status, 0);
+        QVERIFY(own.out.size() > 100);
+    }
+    const Run version = run(words({"--version"}));
+    QCOMPARE(version.status, 0);
+    QCOMPARE(version.out, QStringLiteral("orixm1 " TARVO_VERSION "\n"));
+}
+
+void tst_Cli::wrongUsageIsStatusTwo_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("nothing") << QStringList() << QStringLiteral("command");
+    QTest::newRow("unknown command") << words({"make"}) << QStringLiteral("make");
+    QTest::newRow("unknown flag") << words({"devices", "--colour"}) << QStringLiteral("--colour");
+    QTest::newRow("file missing") << words({"generate"}) << QStringLiteral("FILE");
+    QTest::newRow("device missing") << words({"new", "--out", "x"}) << QStringLiteral("--device");
+    QTest::newRow("unknown device")
+        << words({"new", "--device", "TV9", "--out", "x"}) << QStringLiteral("TV9");
+    QTest::newRow("device in no such package")
+        << words({"new", "--device", "TV2KLR-18C", "--package", "QFN48", "--out", "x"})
+        << QStringLiteral("TV2KLR-18C-QFN88-C8/I7");
+    QTest::newRow("unknown key") << words({"new", "--device", "TV2K-18", "--out", "x", "--set",
+                                           "Enable GPIO IO=1"})
+                                 << QStringLiteral("\"Enabel GPIO IO\"");
+    QTest::newRow("wrong type") << words({"new", "--device", "TV2K-18", "--out", "x", "--set",
+                                          "Enable RTC=on"})
+                                << QStringLiteral("true or false");
+    QTest::newRow("out of the domain")
+        << words({"new", "--device", "TV2K-18", "--out", "x", "--set", "ITCM_Size=10"})
+        << QStringLiteral("0 to 9");
+    QTest::newRow("no assignment")
+        << words({"new", "--device", "TV2K-18", "--out", "x", "--set", "Enable RTC"})
+        << QStringLiteral("KEY=VALUE");
+    QTest::newRow("unknown language")
+        << words({"new", "--device", "TV2K-18", "--out", "x", "--language", "ada"})
+        << QStringLiteral("ada");
+    QTest::newRow("unknown series")
+        << words({"devices", "--series", "TV7"}) << QStringLiteral("TV2KLR");
+}
+
+void tst_Cli::wrongUsageIsStatusTwo()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    const Run result = run(arguments);
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.err.contains(message), qPrintable(result.err));
+    QCOMPARE(result.out, QString());
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), QStringList());
+}
+
+void tst_Cli::newWritesOnlyWhatWasSet()
+{
+    const Run result = run(words({"new", "--device", "TV2KR-18C", "--package", "QFN88PF", "--speed",
+                                  "C7/I6", "--language", "VHDL", "--set", "Enable RTC=true",
+                                  "--set", "ITCM_Size=3", "--out", "a b/c"}));
+    QCOMPARE(result.status, 0);
+    const QString file = path("a b/c/tarvo_orix_m1.ipc");
+    QCOMPARE(result.out, file + u'\n');
+    QCOMPARE(TestSupport::contentsOf(file),
+             QByteArray("[General]\ntarget_device=TV2KR-18C-QFN88PF-C7/"
+                        "I6\ntype=tarvo.tarvo_orix_m1\nversion=1.0\n\n"
+                        "[Config]\nEnable%20RTC=true\nITCM_Size=3\nLANG=1\n"));
+
+    QCOMPARE(run(words({"new", "--device", "TV2KLR-18C-QFN88-C8/I7", "--out", "bare"})).status, 0);
+    QCOMPARE(TestSupport::contentsOf(path("bare/tarvo_orix_m1.ipc")),
+             QByteArray("[General]\ntarget_device=TV2KLR-18C-QFN88-C8/"
+                        "I7\ntype=tarvo.tarvo_orix_m1\nversion=1.0\n"));
+}
+
+void tst_Cli::newReplacesNothingUnasked()
+{
+    const QString file = path("x/tarvo_orix_m1.ipc");
+    QVERIFY(TestSupport::write(file, "mine"));
+    const Run refused = run(words({"new", "--device", "TV2K-18", "--out", "x"}));
+    QCOMPARE(refused.status, 1);
+    QVERIFY(refused.err.contains(file) && refused.err.contains(QLatin1String("--force")));
+    QCOMPARE(TestSupport::contentsOf(file), QByteArray("mine"));
+    QCOMPARE(run(words({"new", "--device", "TV2K-18", "--out", "x", "--force"})).status, 0);
+    QVERIFY(TestSupport::contentsOf(file).contains("TV2K-18"));
+}
+
+void tst_Cli::newKeepsTypes()
+{
+    // Every key, then read back through generation's own reader.
+    QStringList arguments = words({"new", "--device", "TV5KT-138", "--out", "all"});
+    OptionMap expected;
+    for (const Option &option : optionTable()) {
+        QString text = QString::fromUtf8("p\xc3\xa4th/with = sign");
+        if (option.type == OptionType::Bool)
+            text = QStringLiteral("true");
+        else if (!option.choices.isEmpty())
+            text = option.choices.last();
+        else if (option.type == OptionType::Int)
+            text = QString::number(option.maximum);
+        arguments += {QStringLiteral("--set"), QString(option.key + u'=' + text)};
+        expected.insert(option.key, text);
+    }
+    QCOMPARE(run(arguments).status, 0);
+    QSettings settings(path("all/tarvo_orix_m1.ipc"), QSettings::IniFormat);
+    OptionMap read;
+    IpcFile::readOptions(settings, read);
+    QCOMPARE(read, expected);
+}
+
+void tst_Cli::newSaysWhyItCannotWrite()
+{
+    QVERIFY(TestSupport::write(path("file"), "x"));
+    const Run result = run(words({"new", "--device", "TV2K-18", "--out", "file/below"}));
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(path("file") + QLatin1String("\" is a file")),
+             qPrintable(result.err));
+    QCOMPARE(TestSupport::contentsOf(path("file")), QByteArray("x"));
+}
+
+void tst_Cli::generatesWithoutSynthesis()
+{
+    const QString file = config("Enable%20GPIO=true\n");
+    const Run result = run(
+        {QStringLiteral("generate"), file, QStringLiteral("--no-synth"), QStringLiteral("--json")});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.json().keys(), words({"errors", "files", "outputs", "sources"}));
+    const QString temp = path("temp/tv_orix_m1");
+    const QJsonArray files = result.json().value(QLatin1String("files")).toArray();
+    QCOMPARE(files.size(), 7);
+    QCOMPARE(files.first().toString(), QString(temp + QLatin1String("/cm1_option_defs.v")));
+    QVERIFY(result.json().value(QLatin1String("sources")).toArray().size() > 20);
+    QVERIFY(result.json().value(QLatin1String("outputs")).toArray().isEmpty());
+    QVERIFY(result.json().value(QLatin1String("errors")).toArray().isEmpty());
+
+    const DEV::DeviceArg device =
+        DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));
+    for (const IncludeFile &include : buildIncludeFiles({{Key::enableGpio, true}}, device))
+        QCOMPARE(QString::fromUtf8(TestSupport::contentsOf(temp + u'/' + include.name)),
+                 include.lines.isEmpty() ? QString() : QString(include.lines.join(u'\n') + u'\n'));
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc", "temp"}));
+    QCOMPARE(TestSupport::entriesOf(temp).size(), 7);
+}
+
+void tst_Cli::generatesTheSameBytesEverywhere()
+{
+    const QString file =
+        config("Enable%20GPIO=true\nEnable%20UART0=true\nITCM_Size=2\nDTCM_Size=2\n");
+    QCOMPARE(run({QStringLiteral("generate"), file, QStringLiteral("--out"), QStringLiteral("one")})
+                 .status,
+             0);
+    m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.ISO-8859-1"));
+    m_environment.insert(QStringLiteral("USER"), QStringLiteral("someone"));
+    m_environment.insert(QStringLiteral("HOME"), m_dir->path());
+    m_environment.insert(QStringLiteral("TZ"), QStringLiteral("Asia/Tokyo"));
+    QCOMPARE(
+        run({QStringLiteral("generate"), file, QStringLiteral("--out"), QStringLiteral("t w/o")})
+            .status,
+        0);
+    for (const char *name :
+         {"tarvo_orix_m1.v", "tarvo_orix_m1_tmp.v", "tarvo_orix_m1.vo",
+          "temp/tv_orix_m1/tarvo_orix_m1.vg", "temp/tv_orix_m1/ahb_option_defs.v"}) {
+        const QByteArray first = TestSupport::contentsOf(path("one/") + QLatin1String(name));
+        QVERIFY2(!first.isEmpty(), name);
+        QVERIFY2(first == TestSupport::contentsOf(path("t w/o/") + QLatin1String(name)), name);
+        QVERIFY2(!first.contains(m_dir->path().toUtf8()), name);
+    }
+}
+
+void tst_Cli::generatesTheExample()
+{
+    const QString example = QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc");
+    const QByteArray before = TestSupport::contentsOf(example);
+    const Run result = run({QStringLiteral("generate"), example, QStringLiteral("--out"),
+                            QStringLiteral("node"), QStringLiteral("--json")});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    QStringList outputs;
+    for (const QJsonValue &value : result.json().value(QLatin1String("outputs")).toArray())
+        outputs.append(value.toString());
+    QCOMPARE(outputs, (QStringList{path("node/tarvo_orix_m1.v"), path("node/tarvo_orix_m1_tmp.v"),
+                                   path("node/tarvo_orix_m1.vo")}));
+    for (const QString &output : outputs)
+        QVERIFY2(QFileInfo(output).size() > 0, qPrintable(output));
+    QCOMPARE(TestSupport::contentsOf(example), before);
+
+    // The template names the ports of what was switched on.
+    const QByteArray text = TestSupport::contentsOf(outputs.at(1));
+    for (const char *port :
+         {"HCLK", "GPIO", "UART0RXD", "UART1TXD", "SCL", "SDA", "MOSI", "TIMER0EXTIN", "RTCSRCCLK",
+          "AHB1HADDR", "APB2PSEL", "EXTINT", "JTAG_7"})
+        QVERIFY2(text.contains(QByteArray(".") + port), port);
+    for (const char *port : {"CAN_RX", "AHB2HADDR", "APB3PSEL", "TIMER1EXTIN"})
+        QVERIFY2(!text.contains(QByteArray(".") + port), port);
+}
+
+void tst_Cli::generatedModelCompiles()
+{
+    const QString file = config("Enable%20GPIO=true\nEnabel%20GPIO%20IO=true\nEnable%20Timer0="
+                                "true\nITCM_Size=1\nDTCM_Size=0\n");
+    QCOMPARE(run({QStringLiteral("generate"), file}).status, 0);
+    QProcess compiler;
+    compiler.setWorkingDirectory(m_dir->path());
+    compiler.start(QStringLiteral("iverilog"), words({"-g2005", "-s", "Tarvo_ORIX_M1_Top", "-o",
+                                                      "model.vvp", "tarvo_orix_m1.vo"}));
+    QVERIFY(compiler.waitForFinished(-1));
+    QVERIFY2(compiler.exitCode() == 0, compiler.readAllStandardError().constData());
+}
+
+void tst_Cli::takesOddPaths_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("blank") << QStringLiteral("a b");
+    QTest::newRow("quotes") << QStringLiteral("a \"b\" 'c'");
+    QTest::newRow("percent") << QStringLiteral("%1 %2 %n");
+    QTest::newRow("umlaut") << QString::fromUtf8("\xc3\xbc\xe6\x97\xa5");
+    QTest::newRow("dollar, brackets, star") << QStringLiteral("$HOME [x] {y} *");
+    QTest::newRow("backslash") << QStringLiteral("a\\b");
+    QTest::newRow("leading minus") << QStringLiteral("-out");
+    QTest::newRow("hash and semicolon") << QStringLiteral("a#b;c");
+}
+
+void tst_Cli::takesOddPaths()
+{
+    QFETCH(QString, folder);
+    const QString inFolder = path("") + folder;
+    QVERIFY(QDir().mkpath(inFolder));
+    QVERIFY(QFile::rename(config("ITCM_Size=0\nDTCM_Size=0\n"),
+                          inFolder + QLatin1String("/config.ipc")));
+    const Run result = run({QStringLiteral("generate"), inFolder + QLatin1String("/config.ipc")});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    QCOMPARE(TestSupport::entriesOf(inFolder),
+             words({"config.ipc", "tarvo_orix_m1.v", "tarvo_orix_m1.vo", "tarvo_orix_m1_tmp.v",
+                    "temp"}));
+    QVERIFY(result.out.contains(folder));
+}
+
+void tst_Cli::refusesBrokenFiles_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("version is \"\"");
+    QTest::newRow("binary") << QByteArray("\x7f"
+                                          "ELF\x02\x01\x00\x00",
+                                          8)
+                            << QStringLiteral("line 1");
+    QTest::newRow("zeros") << QByteArray(4096, '\0') << QStringLiteral("line 1");
+    QTest::newRow("text") << QByteArray("[General]\nversion=1.0\nhello\n")
+                          << QStringLiteral("line 3");
+    QTest::newRow("truncated section")
+        << QByteArray("[General]\nversion=1.0\n[Conf") << QStringLiteral("line 3");
+    QTest::newRow("truncated version")
+        << QByteArray("[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\nversion=1")
+        << QStringLiteral("version is \"1\"");
+    QTest::newRow("another version")
+        << QByteArray("[General]\nversion=1.00\n") << QStringLiteral("version is \"1.00\"");
+    QTest::newRow("a megabyte of one line") << QByteArray(1 << 20, 'x') << QStringLiteral("line 1");
+}
+
+void tst_Cli::refusesBrokenFiles()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, message);
+    QVERIFY(TestSupport::write(path("broken.ipc"), bytes));
+    for (const char *command : {"generate", "check", "sources"}) {
+        const Run result = run(words({command, "broken.ipc"}));
+        QCOMPARE(result.status, 3);
+        QVERIFY2(result.err.contains(QLatin1String("broken.ipc")) && result.err.contains(message),
+                 qPrintable(result.err));
+        QVERIFY(result.err.size() < 400);
+        QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"broken.ipc"}));
+    }
+    QCOMPARE(run(words({"generate", "missing.ipc"})).status, 3);
+    QCOMPARE(run(words({"generate", "."})).status, 3);
+}
+
+void tst_Cli::anUnknownDeviceIsBadInput()
+{
+    QVERIFY(TestSupport::write(path("x.ipc"), "[General]\ntarget_device=TV9-1\nversion=1.0\n"));
+    const Run result = run(words({"generate", "x.ipc"}));
+    QCOMPARE(result.status, 3);
+    QVERIFY2(result.err.contains(QLatin1String("TV9-1")), qPrintable(result.err));
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"x.ipc"}));
+}
+
+void tst_Cli::emitsWhatTheFileHolds()
+{
+    const QString file = config("Number%20of%20Interrupts=7\nITCM_Size=99999999999\nEnable%20CAN="
+                                "true\nCAN_BUFFER_DEPTH=many\n");
+    QCOMPARE(run({QStringLiteral("check"), file}).status, 1);
+    QCOMPARE(run({QStringLiteral("generate"), file, QStringLiteral("--no-synth")}).status, 0);
+    const QByteArray core = TestSupport::contentsOf(path("temp/tv_orix_m1/cm1_option_defs.v"));
+    QVERIFY(core.startsWith("`define CM1_NUM_IRQ 7\n"));
+    QVERIFY(core.contains("`define CM1_ITCMSIZE 4'b0110\n")); // no size index, so the code of 32 KB
+    QCOMPARE(TestSupport::contentsOf(path("temp/tv_orix_m1/parameter.vh")),
+             QByteArray("parameter CFIFO_DEPTH = many;\n"));
+}
+
+void tst_Cli::saysWhyItCannotGenerate_data()
+{
+    QTest::addColumn<QString>("blocked"); // a file or folder that is in the way
+    QTest::addColumn<bool>("asFolder");
+    QTest::newRow("output folder is a file") << QStringLiteral("out") << false;
+    QTest::newRow("generation folder is a file") << QStringLiteral("out/temp") << false;
+    QTest::newRow("include file is a folder")
+        << QStringLiteral("out/temp/tv_orix_m1/DDR3_define.v") << true;
+    QTest::newRow("netlist is a folder") << QStringLiteral("out/tarvo_orix_m1.v") << true;
+    QTest::newRow("model is a folder") << QStringLiteral("out/tarvo_orix_m1.vo") << true;
+}
+
+void tst_Cli::saysWhyItCannotGenerate()
+{
+    QFETCH(QString, blocked);
+    QFETCH(bool, asFolder);
+    const QString file = config("ITCM_Size=0\nDTCM_Size=0\n");
+    const QString place = m_dir->filePath(blocked);
+    if (asFolder)
+        QVERIFY(QDir().mkpath(place));
+    else
+        QVERIFY(TestSupport::write(place, "mine"));
+    const Run result =
+        run({QStringLiteral("generate"), file, QStringLiteral("--out"), QStringLiteral("out")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(place), qPrintable(result.err));
+    if (!asFolder)
+        QCOMPARE(TestSupport::contentsOf(place), QByteArray("mine"));
+
+    // Out of the way, a second try works.
+    if (asFolder)
+        QVERIFY(QDir().rmdir(place));
+    else
+        QVERIFY(QFile::remove(place));
+    QCOMPARE(run({QStringLiteral("generate"), file, QStringLiteral("--out"), QStringLiteral("out")})
+                 .status,
+             0);
+}
+
+void tst_Cli::aFullDiskLeavesNothingHalfWritten()
+{
+    if (::geteuid() != 0)
+        QSKIP("Only root can mount a small disk.");
+    const QString disk = path("disk");
+    QVERIFY(QDir().mkpath(disk));
+    if (QProcess::execute(QStringLiteral("mount"),
+                          {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                           QStringLiteral("size=64k"), QStringLiteral("tmpfs"), disk}) != 0)
+        QSKIP("This machine cannot mount a small disk.");
+    struct Unmount {
+        QString disk;
+        ~Unmount() { QProcess::execute(QStringLiteral("umount"), {disk}); }
+    } const unmount{disk};
+
+    const QString file = config("ITCM_Size=0\nDTCM_Size=0\n");
+    const QStringList arguments{QStringLiteral("generate"), file, QStringLiteral("--out"), disk};
+    // The include files fit, the netlist does not.
+    const Run tight = run(arguments);
+    QCOMPARE(tight.status, 1);
+    QVERIFY2(!tight.err.isEmpty(), qPrintable(tight.err));
+    for (const char *name :
+         {"/tarvo_orix_m1.v", "/tarvo_orix_m1.vo", "/temp/tv_orix_m1/tarvo_orix_m1.vg"})
+        QVERIFY2(!QFileInfo::exists(disk + QLatin1String(name)), name);
+    // Not even the include files fit.
+    QVERIFY(QFile::remove(disk + QLatin1String("/temp/tv_orix_m1/cm1_option_defs.v")));
+    {
+        QFile ballast(disk + QLatin1String("/ballast"));
+        QVERIFY(ballast.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        const QByteArray chunk(512, 'x');
+        while (ballast.write(chunk) == chunk.size())
+            continue;
+    }
+    const Run full = run(arguments);
+    QCOMPARE(full.status, 1);
+    QVERIFY2(full.err.contains(QLatin1String("cm1_option_defs.v")) &&
+                 full.err.contains(QLatin1String("space")),
+             qPrintable(full.err));
+    QVERIFY(!QFileInfo::exists(disk + QLatin1String("/temp/tv_orix_m1/cm1_option_defs.v")));
+    QCOMPARE(QDir(disk + QLatin1String("/temp/tv_orix_m1"))
+                 .entryList({QStringLiteral("cm1*")}, QDir::Files | QDir::Hidden),
+             QStringList());
+    // With room again the same call works.
+    QCOMPARE(QProcess::execute(QStringLiteral("mount"),
+                               {QStringLiteral("-o"), QStringLiteral("remount,size=32m"), disk}),
+             0);
+    QCOMPARE(run(arguments).status, 0);
+}
+
+void tst_Cli::aMissingToolIsNamed()
+{
+    const QString file = config();
+    m_environment.insert(QStringLiteral("PATH"), m_dir->path());
+    const Run result = run({QStringLiteral("generate"), file, QStringLiteral("--json")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(QLatin1String("Yosys")), qPrintable(result.err));
+    QVERIFY(!result.json().value(QLatin1String("errors")).toArray().isEmpty());
+    QCOMPARE(result.json().value(QLatin1String("files")).toArray().size(), 7);
+    QVERIFY(!QFileInfo::exists(path("tarvo_orix_m1.v")));
+}
+
+void tst_Cli::anErrorInASourceNamesFileAndLine()
+{
+    // CAN without a depth makes a parameter without a value, which no tool can read.
+    const Run result = run({QStringLiteral("generate"), config("Enable%20CAN=true\n")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(QLatin1String("parameter.vh:1")), qPrintable(result.err));
+    QVERIFY(!QFileInfo::exists(path("tarvo_orix_m1.v")));
+    QCOMPARE(run({QStringLiteral("generate"), config("Enable%20CAN=true\nCAN_BUFFER_DEPTH=64\n")})
+                 .status,
+             0);
+}
+
+void tst_Cli::aMissingDataFolderIsNamed()
+{
+    const Run missing = run({QStringLiteral("--data"), QStringLiteral("nowhere"),
+                             QStringLiteral("generate"), config()});
+    QCOMPARE(missing.status, 3);
+    QVERIFY2(missing.err.contains(path("nowhere/tarvo_orix_m1.ipspec")), qPrintable(missing.err));
+
+    // With a descriptor but no RTL the list holds the include files only, and synthesis says what
+    // is missing.
+    QVERIFY(QFile::copy(QStringLiteral(TARVO_IP_DATA_DIR "/tarvo_orix_m1.ipspec"),
+                        path("tarvo_orix_m1.ipspec")));
+    const QStringList data{QStringLiteral("--data"), QStringLiteral(".")};
+    const Run sources = run(data + QStringList{QStringLiteral("sources"), config()});
+    QCOMPARE(sources.status, 0);
+    QCOMPARE(sources.out.count(u'\n'), 6);
+    const Run generated = run(data + QStringList{QStringLiteral("generate"), config()});
+    QCOMPARE(generated.status, 1);
+    QVERIFY2(generated.err.contains(QLatin1String("Tarvo_ORIX_M1_Top")), qPrintable(generated.err));
+
+    QVERIFY(TestSupport::write(path("tarvo_orix_m1.ipspec"), "{\n  \"ipcore\": }\n"));
+    const Run malformed = run(data + QStringList{QStringLiteral("sources"), config()});
+    QCOMPARE(malformed.status, 3);
+    QVERIFY2(malformed.err.contains(QLatin1String("tarvo_orix_m1.ipspec:2:")),
+             qPrintable(malformed.err));
+}
+
+void tst_Cli::interruptStopsTheToolToo()
+{
+    const QString pidFile = path("pid");
+    const QString tool = path("bin/yosys");
+    QVERIFY(TestSupport::write(tool, "#!/bin/bash\necho $$ > '" + pidFile.toUtf8() + ".new'\nmv '" +
+                                         pidFile.toUtf8() + ".new' '" + pidFile.toUtf8() +
+                                         "'\nwhile :; do read -t 1 < <(:) || :; done\n"));
+    QVERIFY(QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner));
+    m_environment.insert(QStringLiteral("PATH"), path("bin") + QLatin1String(":/usr/bin:/bin"));
+    for (const int signal : {SIGINT, SIGTERM}) {
+        QFile::remove(pidFile);
+        QProcess process;
+        process.setProcessEnvironment(m_environment);
+        process.start(QStringLiteral(TARVO_COMMAND), {QStringLiteral("generate"), config()});
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), 60000);
+        const pid_t pid = pid_t(TestSupport::contentsOf(pidFile).trimmed().toLongLong());
+        QVERIFY(pid > 1 && ::kill(pid, 0) == 0);
+        QCOMPARE(::kill(pid_t(process.processId()), signal), 0);
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 130);
+        QVERIFY(::kill(pid, 0) != 0);
+        QVERIFY(!QFileInfo::exists(path("tarvo_orix_m1.v")));
+    }
+}
+
+void tst_Cli::vhdlIsRefusedClearly()
+{
+    const Run result = run({QStringLiteral("generate"), config("LANG=1\n")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.err.contains(QLatin1String("VHDL")), qPrintable(result.err));
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc", "temp"}));
+}
+
+void tst_Cli::checkFindsNothingInTheExample()
+{
+    const Run result = run(words({"check", TARVO_EXAMPLES_DIR "/sensor-node.ipc"}));
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.out, QString());
+}
+
+void tst_Cli::checkListsFindings()
+{
+    config("Enable%20GPIO%20IO=true\nITCM_Size=6\nDTCM_Size=6\nEnable%20RTC=maybe\n");
+    const Run text = run(words({"check", "config.ipc"}));
+    QCOMPARE(text.status, 1);
+    QCOMPARE(text.out.split(u'\n', Qt::SkipEmptyParts),
+             (QStringList{QStringLiteral("config.ipc:Enable GPIO IO: warning: unknown key; the "
+                                         "nearest known one is \"Enabel GPIO IO\""),
+                          QStringLiteral("config.ipc:Enable RTC: error: \"maybe\" is no bool"),
+                          QStringLiteral("config.ipc:DTCM_Size: error: both memories have the "
+                                         "device's largest size, 64 KB; one may "
+                                         "have 16 KB at most then")}));
+    const Run json = run(words({"check", "config.ipc", "--json"}));
+    QCOMPARE(json.status, 1);
+    QCOMPARE(json.json().value(QLatin1String("findings")).toArray().size(), 3);
+    QCOMPARE(json.json().value(QLatin1String("findings")).toArray().first().toObject().keys(),
+             words({"key", "message", "severity"}));
+
+    // Doubts alone are no failure.
+    config("Enable%20GPIO%20IO=true\n");
+    QCOMPARE(run(words({"check", "config.ipc"})).status, 0);
+
+    QVERIFY(TestSupport::write(
+        path("frame.ipc"),
+        "[General]\ntype=other\nversion=1.0\nauthor=me\n[Extra]\na=1\n[Config]\n"));
+    const QString frame = run(words({"check", "frame.ipc"})).out;
+    for (const char *line :
+         {"target_device: error", "type: warning", "author: warning", "[Extra]: warning"})
+        QVERIFY2(frame.contains(QString::fromLatin1(line)), line);
+}
+
+void tst_Cli::checkChangesNothing()
+{
+    const QString file = config("Enable%20GPIO%20IO=true\n");
+    const QByteArray before = TestSupport::contentsOf(file);
+    run({QStringLiteral("check"), file});
+    QCOMPARE(TestSupport::contentsOf(file), before);
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc"}));
+}
+
+void tst_Cli::optionsListEveryKey()
+{
+    const Run text = run(words({"options"}));
+    const QJsonArray list =
+        run(words({"options", "--json"})).json().value(QLatin1String("options")).toArray();
+    QCOMPARE(text.status, 0);
+    QCOMPARE(list.size(), optionTable().size());
+    for (int i = 0; i < list.size(); ++i) {
+        QCOMPARE(list.at(i).toObject().value(QLatin1String("key")).toString(),
+                 optionTable().at(i).key);
+        QVERIFY(text.out.contains(u'\n' + optionTable().at(i).key + u' '));
+    }
+}
+
+void tst_Cli::devicesCanBeNarrowed()
+{
+    const QJsonArray all =
+        run(words({"devices", "--json"})).json().value(QLatin1String("devices")).toArray();
+    QCOMPARE(all.size(), DEV::DeviceDb::bundled().devices().size());
+    const QJsonArray some = run(words({"devices", "--json", "--series", "TV2KLR"}))
+                                .json()
+                                .value(QLatin1String("devices"))
+                                .toArray();
+    QVERIFY(!some.isEmpty() && some.size() < all.size());
+    for (const QJsonValue &value : some)
+        QCOMPARE(value.toObject().value(QLatin1String("device")).toString(),
+                 QStringLiteral("TV2KLR-18C"));
+    const Run text = run(words({"devices", "--series", "TV2KLR"}));
+    QCOMPARE(text.out.count(u'\n'), some.size() + 1);
+}
+
+void tst_Cli::sourcesMatchGeneration()
+{
+    const QString file = config("Enable%20Debug=false\n");
+    const Run listed = run({QStringLiteral("sources"), file});
+    QCOMPARE(listed.status, 0);
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc"}));
+    const QJsonArray generated = run({QStringLiteral("generate"), file,
+                                      QStringLiteral("--no-synth"), QStringLiteral("--json")})
+                                     .json()
+                                     .value(QLatin1String("sources"))
+                                     .toArray();
+    QStringList sources;
+    for (const QJsonValue &value : generated)
+        sources.append(value.toString());
+    QCOMPARE(listed.out.split(u'\n', Qt::SkipEmptyParts), sources);
+    for (const QString &source : sources)
+        QVERIFY2(QFileInfo::exists(source), qPrintable(source));
+}
+
+void tst_Cli::anOwnDeviceFolderCounts()
+{
+    QVERIFY(TestSupport::write(path("dev/packages.json"), R"({"packageCodes": {"BGA1": "B1"}})"));
+    QVERIFY(TestSupport::write(
+        path("dev/own.json"),
+        R"({"devices": [{"device": "TV8-1A", "version": "A", "packages": ["BGA1"], "speeds": ["C1"]}]})"));
+    const Run own = run(words({"--devices", "dev", "devices"}));
+    QCOMPARE(own.status, 0);
+    QVERIFY(own.out.contains(QLatin1String("TV8-1A-BGA1-C1")) &&
+            own.out.contains(QLatin1String("TV8-LV1B1C1")));
+    QVERIFY(!own.out.contains(QLatin1String("TV2K")));
+    QVERIFY(TestSupport::write(path("dev/own.json"), "{"));
+    const Run broken = run(words({"--devices", "dev", "devices"}));
+    QCOMPARE(broken.status, 3);
+    QVERIFY2(broken.err.contains(QLatin1String("own.json")), qPrintable(broken.err));
+}
+
+TARVO_TEST_MAIN(QCoreApplication, tst_Cli)
+
+#include "tst_cli.moc"

@@ -1,0 +1,319 @@
+#include "dialogdriver.h"
+#include "testsupport.h"
+
+#include <dev/devicedb.h>
+#include <ipplugin/baseipcoreinterface.h>
+#include <ipplugin/ipplugin.h>
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLibrary>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using TE::TE_IPCore_Def::BaseIPCoreInterface;
+using TE::TE_IPCore_Def::IPPlugin;
+
+// The plug-in as a host sees it: loaded from its file.
+class tst_Plugin : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void exportsTheTwoEntryPointsOnly();
+    void metadataBlockIsExact();
+    void instanceIsOneObject();
+    void answersToItsNames();
+    void tellsItsIdentity();
+    void everyCallGivesANewCore();
+    void anUnusableDescriptorGivesNoCore_data();
+    void anUnusableDescriptorGivesNoCore();
+    void asksTheHostAboutDevices();
+    void scriptingIsNotProvided();
+    void createsAndReopensWhatTheCommandLineMakes();
+    void anUnusableFileShowsNoDialog();
+
+private:
+    IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
+    std::unique_ptr<BaseIPCoreInterface>
+    core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
+
+    QPluginLoader m_loader{QStringLiteral(TARVO_PLUGIN_FILE)};
+};
+
+void tst_Plugin::init()
+{
+    QVERIFY2(plugin(), qPrintable(m_loader.errorString()));
+}
+
+std::unique_ptr<BaseIPCoreInterface> tst_Plugin::core(const QString &dataPath)
+{
+    plugin()->setDataPath(dataPath);
+    const QList<BaseIPCoreInterface *> cores = plugin()->ipCoreInterfaces();
+    return std::unique_ptr<BaseIPCoreInterface>(cores.value(0));
+}
+
+void tst_Plugin::exportsTheTwoEntryPointsOnly()
+{
+    QProcess nm;
+    nm.start(QStringLiteral("nm"),
+             {QStringLiteral("-D"), QStringLiteral("--defined-only"),
+              QStringLiteral("--format=posix"), QStringLiteral(TARVO_PLUGIN_FILE)});
+    QVERIFY(nm.waitForFinished(-1));
+    QStringList names;
+    for (const QByteArray &line : nm.readAllStandardOutput().trimmed().split('\n'))
+        names.append(QString::fromLatin1(line.split(' ').first()));
+    names.sort();
+    QCOMPARE(names, (QStringList{QStringLiteral("qt_plugin_instance"),
+                                 QStringLiteral("qt_plugin_query_metadata")}));
+}
+
+void tst_Plugin::metadataBlockIsExact()
+{
+#ifndef TARVO_RELEASE_BUILD
+    QSKIP("Only a release build has the block without debug mark.");
+#endif
+    QByteArray expected("QTMETADATA !");
+    expected += QByteArray("\x00\x05\x0f\x00", 4);
+    expected += QByteArray("\xbf\x02\x78\x22") + "TARVOORIXM1.TarvoOrixM1Package/1.0";
+    expected += QByteArray("\x03\x72") + "TarvoOrixM1Package" + "\xff";
+    QCOMPARE(expected.size(), 75);
+
+    QLibrary library(QStringLiteral(TARVO_PLUGIN_FILE));
+    const auto query =
+        reinterpret_cast<const char *(*)()>(library.resolve("qt_plugin_query_metadata"));
+    QVERIFY(query);
+    QCOMPARE(QByteArray(query(), 75).toHex(' '), expected.toHex(' '));
+
+    // Nothing follows in its section.
+    QProcess objdump;
+    objdump.start(QStringLiteral("objdump"),
+                  {QStringLiteral("-h"), QStringLiteral("-j"), QStringLiteral(".qtmetadata"),
+                   QStringLiteral(TARVO_PLUGIN_FILE)});
+    QVERIFY(objdump.waitForFinished(-1));
+    QVERIFY(objdump.readAllStandardOutput().contains(" .qtmetadata   0000004b "));
+}
+
+void tst_Plugin::instanceIsOneObject()
+{
+    QLibrary library(QStringLiteral(TARVO_PLUGIN_FILE));
+    const auto instance = reinterpret_cast<QObject *(*)()>(library.resolve("qt_plugin_instance"));
+    QVERIFY(instance);
+    QCOMPARE(instance(), instance());
+    QCOMPARE(instance(), m_loader.instance());
+    QPluginLoader second(QStringLiteral(TARVO_PLUGIN_FILE));
+    QCOMPARE(second.instance(), m_loader.instance());
+}
+
+void tst_Plugin::answersToItsNames()
+{
+    QObject *object = plugin();
+    QVERIFY(object->qt_metacast("TARVOORIXM1::TarvoOrixM1Package") == object);
+    QVERIFY(object->qt_metacast("tarvo.plugins.IPPlugin/1.0"));
+    QVERIFY(object->qt_metacast("TE::TE_IPCore_Def::IPPlugin"));
+    QVERIFY(object->qt_metacast("QObject") == object);
+    QVERIFY(!object->qt_metacast("TarvoOrixM1Package"));
+    QVERIFY(!object->qt_metacast("tarvo.plugins.IPPlugin/2.0"));
+    QCOMPARE(QString::fromLatin1(object->metaObject()->className()),
+             QStringLiteral("TARVOORIXM1::TarvoOrixM1Package"));
+}
+
+void tst_Plugin::tellsItsIdentity()
+{
+    QTemporaryDir dir;
+    QVERIFY(TestSupport::write(
+        dir.filePath(QStringLiteral("tarvo_orix_m1.ipspec")),
+        R"({"debug": "own", "ipcore": {"id": "an.id", "name": "A name", "version": "3.2", "target": "t",
+                                   "category": ["One", "Two"], "doc": {"summary": "A summary"}}})"));
+    const auto ip = core(dir.path());
+    QVERIFY(ip);
+    QCOMPARE(ip->id(), QStringLiteral("an.id"));
+    QCOMPARE(ip->name(), QStringLiteral("A name"));
+    QCOMPARE(ip->version(), QStringLiteral("3.2"));
+    QCOMPARE(ip->category(), (QStringList{QStringLiteral("One"), QStringLiteral("Two")}));
+    QCOMPARE(ip->summary(), QStringLiteral("A summary"));
+    // Without device lists every device will do.
+    QVERIFY(ip->isSupported(DEV::DeviceDb::bundled().devices().first()));
+
+    const auto shipped = core();
+    QVERIFY(shipped);
+    for (const QString &text :
+         {shipped->id(), shipped->name(), shipped->version(), shipped->summary()})
+        QVERIFY(!text.isEmpty());
+}
+
+void tst_Plugin::everyCallGivesANewCore()
+{
+    const auto first = core();
+    const auto second = core();
+    QVERIFY(first && second && first != second);
+}
+
+void tst_Plugin::anUnusableDescriptorGivesNoCore_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("none") << QByteArray();
+    QTest::newRow("malformed") << QByteArray("{\"ipcore\": ");
+    QTest::newRow("no object") << QByteArray("[]");
+    QTest::newRow("binary") << QByteArray("\x00\xff\x13", 3);
+    QTest::newRow("incomplete") << QByteArray(
+        R"({"ipcore": {"id": "x", "name": "y", "version": "1"}})");
+}
+
+void tst_Plugin::anUnusableDescriptorGivesNoCore()
+{
+    QFETCH(QByteArray, text);
+    QTemporaryDir dir;
+    if (!text.isEmpty())
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("tarvo_orix_m1.ipspec")), text));
+    plugin()->setDataPath(dir.path());
+    QVERIFY(plugin()->ipCoreInterfaces().isEmpty());
+}
+
+void tst_Plugin::asksTheHostAboutDevices()
+{
+    QTemporaryDir dir;
+    QVERIFY(TestSupport::write(
+        dir.filePath(QStringLiteral("tarvo_orix_m1.ipspec")),
+        R"({"ipcore": {"id": "i", "name": "n", "version": "1", "target": "t", "category": ["c"],
+                                   "device": {"supported": ["TV2KR"], "unsupported": ["TV2KR-18C"]}}})"));
+    const auto ip = core(dir.path());
+    QVERIFY(ip);
+    DEV::ChipFilter filter;
+    filter.series = QStringLiteral("TV2KR");
+    int supported = 0;
+    for (const DEV::DeviceArg &device : DEV::DeviceDb::bundled().filterDevice(filter)) {
+        QCOMPARE(ip->isSupported(device), device.device() != QLatin1String("TV2KR-18C"));
+        supported += ip->isSupported(device);
+    }
+    QVERIFY(supported > 0);
+    QVERIFY(!ip->isSupported(
+        DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV1L-9-QFN48-C6/I5"))));
+    QVERIFY(!ip->isSupported({}));
+    const auto shipped = core();
+    for (const DEV::DeviceArg &device : DEV::DeviceDb::bundled().devices())
+        QVERIFY2(shipped->isSupported(device), qPrintable(device.id()));
+}
+
+void tst_Plugin::scriptingIsNotProvided()
+{
+    const auto ip = core();
+    QVariantMap options;
+    QStringList errors;
+    QVERIFY(!ip->createByTcl(options, {}, errors));
+    QVERIFY(!ip->openByTcl(QString(), QString(), options, errors));
+    QCOMPARE(errors.size(), 2);
+    QVERIFY(errors.first().contains(ip->name()));
+    QVERIFY(ip->getIpinfoMap().isEmpty() && ip->getOptionMap().isEmpty() && options.isEmpty());
+}
+
+namespace
+{
+
+// Every file below a folder with its contents, the tool's log and script apart: they name the
+// folder.
+QMap<QString, QByteArray> treeOf(const QString &folder)
+{
+    QMap<QString, QByteArray> tree;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const QString name = QDir(folder).relativeFilePath(path);
+        if (!name.startsWith(QLatin1String("temp/")) || name.endsWith(QLatin1String(".vh")) ||
+            name.endsWith(QLatin1String(".v")) || name.endsWith(QLatin1String(".vg")))
+            tree.insert(name, TestSupport::contentsOf(path));
+    }
+    return tree;
+}
+
+// Presses OK in every configuration dialog that comes up; collects the texts of everything else.
+class OkPresser
+{
+public:
+    QStringList errors;
+    int dialogs = 0;
+
+private:
+    TestSupport::ModalWatcher m_watcher{[this](QWidget *modal) {
+        if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+            errors.append(box->text());
+            box->close();
+        } else if (auto *title = modal->findChild<QLabel *>(QStringLiteral("titleLabel"))) {
+            errors.append(
+                title->text() + u'\n' +
+                modal->findChild<QPlainTextEdit *>(QStringLiteral("detailsEdit"))->toPlainText());
+            modal->close();
+            if (modal->parentWidget())
+                modal->parentWidget()->close();
+        } else if (auto *buttons =
+                       modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))) {
+            ++dialogs;
+            buttons->button(QDialogButtonBox::Ok)->click();
+        }
+    }};
+};
+
+} // namespace
+
+void tst_Plugin::createsAndReopensWhatTheCommandLineMakes()
+{
+    QTemporaryDir dir;
+    const DEV::DeviceArg device =
+        DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));
+    const QString made = dir.filePath(QString::fromUtf8("a \"b\" \xc3\xb6/tarvo_orix_m1"));
+    const auto ip = core();
+    QVERIFY(ip);
+    OkPresser presser;
+    ip->createIP(QFileInfo(made).path(), device);
+    QCOMPARE(presser.errors, QStringList());
+    QCOMPARE(presser.dialogs, 1);
+    const QMap<QString, QByteArray> first = treeOf(made);
+    for (const char *name :
+         {"tarvo_orix_m1.ipc", "tarvo_orix_m1.v", "tarvo_orix_m1_tmp.v", "tarvo_orix_m1.vo",
+          "temp/tv_orix_m1/cm1_option_defs.v", "temp/tv_orix_m1/psram_define.v"})
+        QVERIFY2(first.contains(QString::fromLatin1(name)), name);
+
+    // The same configuration from the command line, in another folder and locale.
+    const QString other = dir.filePath(QStringLiteral("cli"));
+    QVERIFY(TestSupport::write(other + QLatin1String("/tarvo_orix_m1.ipc"),
+                               first.value(QStringLiteral("tarvo_orix_m1.ipc"))));
+    QProcess command;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    command.setProcessEnvironment(environment);
+    command.start(QStringLiteral(TARVO_COMMAND),
+                  {QStringLiteral("generate"), other + QLatin1String("/tarvo_orix_m1.ipc")});
+    QVERIFY(command.waitForFinished(-1));
+    QVERIFY2(command.exitCode() == 0, command.readAllStandardError().constData());
+    const QMap<QString, QByteArray> second = treeOf(other);
+    QCOMPARE(second.keys(), first.keys());
+    for (auto it = first.cbegin(); it != first.cend(); ++it)
+        QVERIFY2(second.value(it.key()) == it.value(), qPrintable(it.key()));
+
+    // Opening it again and pressing OK changes nothing.
+    ip->openIP(made, made + QLatin1String("/tarvo_orix_m1.ipc"));
+    QCOMPARE(presser.errors, QStringList());
+    QCOMPARE(presser.dialogs, 2);
+    QCOMPARE(treeOf(made), first);
+}
+
+void tst_Plugin::anUnusableFileShowsNoDialog()
+{
+    QTemporaryDir dir;
+    const auto ip = core();
+    OkPresser presser;
+    ip->openIP(dir.path(), dir.filePath(QStringLiteral("missing.ipc")));
+    QCOMPARE(presser.errors.size(), 2); // no device, no version
+    QCOMPARE(presser.dialogs, 0);
+    QCOMPARE(TestSupport::entriesOf(dir.path()), QStringList());
+}
+
+TARVO_TEST_MAIN(QApplication, tst_Plugin)
+
+#include "tst_plugin.moc"

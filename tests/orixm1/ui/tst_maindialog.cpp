@@ -1,0 +1,628 @@
+#include "dialogdriver.h"
+#include "testsupport.h"
+
+#include <config/descriptor.h>
+#include <config/optionkeys.h>
+#include <config/optiontable.h>
+#include <core/editormanager.h>
+#include <core/project.h>
+#include <core/projectmanager.h>
+#include <dev/devicedb.h>
+#include <diagram/ipview.h>
+#include <ipcore/ipcore.h>
+#include <ipcore/synthesishelper.h>
+#include <ui/tarvoorixm1dlg.h>
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+constexpr int runTimeout = 120000; // ms; a run takes seconds, a loaded machine may take longer
+
+QVariantMap descriptor()
+{
+    const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    QVariantMap ipInfo = IPCore::processIPInfoSpec(descriptorPath(data));
+    addDataFolders(ipInfo, data);
+    return ipInfo;
+}
+
+DEV::DeviceArg deviceNamed(const char *name, const char *package = "")
+{
+    DEV::ChipFilter filter;
+    filter.id = QString::fromLatin1(name);
+    filter.package = QString::fromLatin1(package);
+    return DEV::DeviceDb::bundled().filterDevice(filter).value(0);
+}
+
+// What the host is told.
+struct Host : Core::Project {
+    QString name() const override { return QStringLiteral("p"); }
+    QString path() const override { return QStringLiteral("/p"); }
+    void addFiles(const QStringList &paths) override { added.append(paths); }
+
+    QList<QStringList> added;
+    QStringList opened;
+};
+
+// A PATH on which only some programs are found, for as long as it lives.
+class SearchPath
+{
+public:
+    explicit SearchPath(const QByteArray &path)
+        : m_before(qgetenv("PATH"))
+    {
+        qputenv("PATH", path);
+    }
+    ~SearchPath() { qputenv("PATH", m_before); }
+
+private:
+    QByteArray m_before;
+};
+
+// A folder with a program "yosys" that runs a shell script.
+class FakeTool
+{
+public:
+    explicit FakeTool(const QByteArray &script)
+    {
+        const QString path = dir.filePath(QStringLiteral("yosys"));
+        TestSupport::write(path, "#!/bin/bash\n" + script);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    QTemporaryDir dir;
+    SearchPath searchPath{dir.path().toUtf8() + ':' + qgetenv("PATH")};
+};
+
+} // namespace
+
+class tst_MainDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void followsTheCreateInField();
+    void offersWhatTheDeviceCanHave_data();
+    void offersWhatTheDeviceCanHave();
+    void savesWhatItLoads();
+    void savingTakesTheFolderOutOfTheMap();
+    void refusesOtherVersions_data();
+    void refusesOtherVersions();
+    void warnsOfTheDeviceBeforeTheVersion();
+    void anUnknownToolLeavesTheSelection();
+    void checksTheInitialisationFolder_data();
+    void checksTheInitialisationFolder();
+    void anEmptyFolderStopsBeforeAnythingIsMade();
+    void aDeclinedOverwriteWritesNothing();
+    void anUnmakeableGenerationFolderIsReported();
+    void anUnwritableIncludeFileStopsBeforeTheRun();
+
+    void generatesAndCloses();
+    void aMissingToolLeavesTheDialogOpenAndASecondTryWorks();
+    void aCrashIsReportedAndLeavesNothingHalfWritten();
+    void cancellingEndsTheRunOnly();
+    void closingTheDialogEndsTheTool();
+    void vhdlEndsWithAnErrorUntilItIsThere();
+    void anotherToolTextRunsWithEmptyPaths();
+
+private:
+    std::unique_ptr<TarvoOrixM1Dlg> newDialog(const char *device = "TV2KR-18C-QFN88P-C8/I7");
+    std::unique_ptr<TarvoOrixM1Dlg> opened(const QByteArray &config, bool *ok = nullptr);
+    static void pressOk(TarvoOrixM1Dlg &dialog);
+    // Presses OK and answers everything that comes up until the run is over; returns the error
+    // window's texts.
+    static QStringList runToTheEnd(TarvoOrixM1Dlg &dialog);
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<Host> m_host;
+};
+
+void tst_MainDialog::init()
+{
+    m_dir = std::make_unique<QTemporaryDir>();
+    m_host = std::make_unique<Host>();
+    Core::ProjectManager::setCurrentProject(m_host.get());
+    Core::EditorManager::setHandler([this](const QString &path, bool temporary) {
+        m_host->opened.append(temporary ? QLatin1String("temporary ") + path : path);
+        return true;
+    });
+}
+
+void tst_MainDialog::cleanup()
+{
+    Core::ProjectManager::setCurrentProject(nullptr);
+    Core::EditorManager::setHandler(nullptr);
+    m_host.reset();
+    m_dir.reset();
+}
+
+std::unique_ptr<TarvoOrixM1Dlg> tst_MainDialog::newDialog(const char *device)
+{
+    auto dialog = std::make_unique<TarvoOrixM1Dlg>(descriptor());
+    dialog->prepareNew(m_dir->path(), deviceNamed(device));
+    return dialog;
+}
+
+std::unique_ptr<TarvoOrixM1Dlg> tst_MainDialog::opened(const QByteArray &config, bool *ok)
+{
+    static int serial = 0; // QSettings remembers paths
+    const QString file = m_dir->filePath(QString::number(++serial) + QLatin1String(".ipc"));
+    TestSupport::write(file, config);
+    auto dialog = std::make_unique<TarvoOrixM1Dlg>(descriptor());
+    const bool prepared = dialog->prepareOpen(m_dir->path(), file);
+    if (ok)
+        *ok = prepared;
+    return dialog;
+}
+
+void tst_MainDialog::pressOk(TarvoOrixM1Dlg &dialog)
+{
+    dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))
+        ->button(QDialogButtonBox::Ok)
+        ->click();
+}
+
+QStringList tst_MainDialog::runToTheEnd(TarvoOrixM1Dlg &dialog)
+{
+    QStringList texts;
+    bool failed = false;
+    const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+        if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+            texts.append(box->text());
+            if (QAbstractButton *yes = box->button(QMessageBox::Yes)) {
+                yes->click();
+            } else {
+                failed = true;
+                box->close();
+            }
+        } else if (auto *title = modal->findChild<QLabel *>(QStringLiteral("titleLabel"))) {
+            texts.append(title->text());
+            const auto *details = modal->findChild<QPlainTextEdit *>(QStringLiteral("detailsEdit"));
+            texts.append(details->toPlainText().split(u'\n', Qt::SkipEmptyParts));
+            failed = true;
+            modal->close();
+        }
+    });
+    QSignalSpy accepted(&dialog, &QDialog::accepted);
+    pressOk(dialog);
+    [&] { QTRY_VERIFY_WITH_TIMEOUT(failed || accepted.count() > 0, runTimeout); }();
+    return texts;
+}
+
+void tst_MainDialog::followsTheCreateInField()
+{
+    TarvoOrixM1Dlg fresh(descriptor());
+    QCOMPARE(fresh.windowTitle(), QStringLiteral("Tarvo ORIX M1"));
+    QCOMPARE(fresh.targetName(), QStringLiteral("tarvo_orix_m1"));
+    QCOMPARE(fresh.currentOptions(), (OptionMap{{Key::createInPath, QString()}}));
+
+    const auto dialog = newDialog();
+    auto *field = dialog->findChild<QLineEdit *>(QStringLiteral("editCreateIn"));
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(),
+             m_dir->filePath(QStringLiteral("tarvo_orix_m1")));
+    field->setText(QStringLiteral("/x/"));
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(), QStringLiteral("/x/"));
+    QCOMPARE(dialog->currentOptions().value(Key::ipDeviceId).toString(),
+             QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));
+    QCOMPARE(dialog->currentOptions().value(Key::ipDevice).toString(), QStringLiteral("TV2KR-18C"));
+}
+
+void tst_MainDialog::offersWhatTheDeviceCanHave_data()
+{
+    QTest::addColumn<QByteArray>("device");
+    QTest::addColumn<QByteArray>("package");
+    QTest::addColumn<bool>("psram");
+    QTest::addColumn<bool>("ddr3");
+    QTest::addColumn<bool>("others");
+    QTest::newRow("TV2KR-18C in QFN88")
+        << QByteArray("TV2KR-18C") << QByteArray("QFN88") << false << true << true;
+    QTest::newRow("TV2KR-18C in QFN88PF")
+        << QByteArray("TV2KR-18C") << QByteArray("QFN88PF") << true << true << true;
+    QTest::newRow("TV2KLR-18C in QFN88")
+        << QByteArray("TV2KLR-18C") << QByteArray("QFN88") << true << true << true;
+    QTest::newRow("TV1KL-5A") << QByteArray("TV1KL-5A") << QByteArray() << false << false << false;
+    QTest::newRow("TV1L-9") << QByteArray("TV1L-9") << QByteArray() << false << false << true;
+    QTest::newRow("TV5KT-138") << QByteArray("TV5KT-138") << QByteArray() << false << true << true;
+}
+
+void tst_MainDialog::offersWhatTheDeviceCanHave()
+{
+    QFETCH(QByteArray, device);
+    QFETCH(QByteArray, package);
+    QFETCH(bool, others);
+    TarvoOrixM1Dlg dialog(descriptor());
+    dialog.prepareNew(m_dir->path(), deviceNamed(device.constData(), package.constData()));
+    const auto *view = dialog.findChild<IPView *>();
+    QVERIFY(view);
+    QTEST(view->isBlockAvailable(Key::enablePsram), "psram");
+    QTEST(view->isBlockAvailable(Key::enableDdr3), "ddr3");
+    QCOMPARE(view->isBlockAvailable(Key::enableEthernet), others);
+    QCOMPARE(view->isBlockAvailable(Key::enableCan), others);
+    // SPI-Flash is registered under the key of SPI.
+    QCOMPARE(view->isBlockAvailable(Key::enableSpi), others);
+}
+
+void tst_MainDialog::savesWhatItLoads()
+{
+    // Every key with a value that is not its default.
+    QByteArray config =
+        "[General]\ntarget_device=TV5KT-138B-PBGA484-C2/I1\ntype=x\nversion=1.0\n[Config]\n";
+    OptionMap expected;
+    for (const Option &option : optionTable()) {
+        if (!option.isOption)
+            continue;
+        QString text = QStringLiteral("own text");
+        if (option.type == OptionType::Bool)
+            text = option.defaultValue.toBool() ? QStringLiteral("false") : QStringLiteral("true");
+        else if (!option.choices.isEmpty())
+            text = option.choices.first();
+        else if (option.type == OptionType::Int)
+            text = QStringLiteral("3");
+        config += option.key.toUtf8().replace(' ', "%20") + '=' + text.toUtf8() + '\n';
+        expected.insert(option.key, text);
+    }
+    config += "LANG=1\nSynthesis_tool=TarvoSynthesis\ncreatein_path=/some/where\n";
+    expected.insert(Key::lang, QStringLiteral("1"));
+    expected.insert(Key::synthesisTool, QStringLiteral("TarvoSynthesis"));
+    expected.insert(Key::ipDevice, QStringLiteral("TV5KT-138B"));
+    expected.insert(Key::ipDeviceId, QStringLiteral("TV5KT-138B-PBGA484-C2/I1"));
+
+    bool ok = false;
+    const auto dialog = opened(config, &ok);
+    QVERIFY(ok);
+    QCOMPARE(dialog->languageIndex(), 1);
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(), m_dir->path());
+    QVERIFY(dialog->saveIPConfig());
+
+    const QString path = m_dir->filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+    QSettings settings(path, QSettings::IniFormat);
+    QCOMPARE(settings.childKeys(),
+             (QStringList{QStringLiteral("target_device"), QStringLiteral("type"),
+                          QStringLiteral("version")}));
+    QCOMPARE(settings.value(QStringLiteral("target_device")).toString(),
+             QStringLiteral("TV5KT-138B-PBGA484-C2/I1"));
+    QCOMPARE(settings.value(QStringLiteral("type")).toString(),
+             descriptor().value(InfoKey::id).toString());
+    settings.beginGroup(QStringLiteral("Config"));
+    OptionMap stored;
+    for (const QString &key : settings.childKeys())
+        stored.insert(key, settings.value(key).toString());
+    QCOMPARE(stored, expected);
+
+    // The same file is replaced by the same bytes.
+    const QByteArray bytes = TestSupport::contentsOf(path);
+    QVERIFY(dialog->saveIPConfig());
+    QCOMPARE(TestSupport::contentsOf(path), bytes);
+    QCOMPARE(QDir(m_dir->path()).entryList({QStringLiteral("tarvo*")}),
+             QStringList{QStringLiteral("tarvo_orix_m1.ipc")});
+}
+
+void tst_MainDialog::savingTakesTheFolderOutOfTheMap()
+{
+    const auto dialog = newDialog();
+    auto *field = dialog->findChild<QLineEdit *>(QStringLiteral("editCreateIn"));
+    field->setText(m_dir->path());
+    QVERIFY(dialog->currentOptions().contains(Key::createInPath));
+    dialog->saveIPConfig();
+    QVERIFY(!dialog->currentOptions().contains(Key::createInPath));
+    field->setText(m_dir->path());
+    QVERIFY(
+        !dialog->currentOptions().contains(Key::createInPath)); // no change of the text, no entry
+    field->setText(QStringLiteral("/x"));
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(), QStringLiteral("/x"));
+}
+
+void tst_MainDialog::refusesOtherVersions_data()
+{
+    QTest::addColumn<QByteArray>("version");
+    QTest::newRow("1.00") << QByteArray("version=1.00\n");
+    QTest::newRow("1.0 and a blank") << QByteArray("version=\"1.0 \"\n");
+    QTest::newRow("none") << QByteArray();
+}
+
+void tst_MainDialog::refusesOtherVersions()
+{
+    QFETCH(QByteArray, version);
+    bool ok = true;
+    std::unique_ptr<TarvoOrixM1Dlg> dialog;
+    const auto boxes = TestSupport::boxesOf([&] {
+        dialog = opened("[General]\ntarget_device=TV2K-55-PBGA256-C8/I7\n" + version +
+                            "[Config]\nEnable%20RTC=true\n",
+                        &ok);
+    });
+    QVERIFY(!ok);
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes.first().title, QStringLiteral("Error"));
+    QCOMPARE(boxes.first().text,
+             QStringLiteral("This version of specified IP Config file is incompatible with "
+                            "current IP Core Generator."));
+    QCOMPARE(boxes.first().icon, QMessageBox::NoIcon);
+    QVERIFY(boxes.first().hasPixmap && boxes.first().hasWindowIcon);
+    QVERIFY(!dialog->currentOptions().contains(Key::enableRtc));
+}
+
+void tst_MainDialog::warnsOfTheDeviceBeforeTheVersion()
+{
+    const auto boxes = TestSupport::boxesOf([&] { opened("[General]\nversion=2\n"); });
+    QCOMPARE(boxes.size(), 2);
+    QCOMPARE(boxes.at(0).title, QStringLiteral("Warning"));
+    QCOMPARE(boxes.at(1).title, QStringLiteral("Error"));
+}
+
+void tst_MainDialog::anUnknownToolLeavesTheSelection()
+{
+    const auto dialog = opened("[General]\ntarget_device=TV2K-55-PBGA256-C8/I7\nversion=1.0\n"
+                               "[Config]\nSynthesis_tool=Synplify Pro\nLANG=7\n");
+    QCOMPARE(dialog->synthesisTool(), QStringLiteral("TarvoSynthesis"));
+    QCOMPARE(dialog->languageIndex(), -1);
+}
+
+void tst_MainDialog::checksTheInitialisationFolder_data()
+{
+    QTest::addColumn<QByteArray>("config");
+    QTest::addColumn<QString>("message");
+    const QString empty = QStringLiteral("ITCM Initialization Path is empty.");
+    const QString missing = QStringLiteral("ITCM Initialization Path is not exist.");
+    QTest::newRow("no initialisation") << QByteArray() << QString();
+    QTest::newRow("no initialisation, bad path")
+        << QByteArray("ITCM_Initialization_Path=gone\n") << QString();
+    QTest::newRow("external memory")
+        << QByteArray("Initialize%20ITCM=true\nInternal_Instruction_Memory=false\n") << QString();
+    QTest::newRow("empty") << QByteArray(
+                                  "Initialize%20ITCM=true\nInternal_Instruction_Memory=true\n")
+                           << empty;
+    QTest::newRow("empty, memory not stored") << QByteArray("Initialize%20ITCM=true\n") << empty;
+    QTest::newRow("below the output folder")
+        << QByteArray("Initialize%20ITCM=true\nITCM_Initialization_Path=init\n") << QString();
+    QTest::newRow("missing") << QByteArray(
+                                    "Initialize%20ITCM=true\nITCM_Initialization_Path=gone\n")
+                             << missing;
+    QTest::newRow("a file") << QByteArray("Initialize%20ITCM=true\nITCM_Initialization_Path=file\n")
+                            << missing;
+    QTest::newRow("absolute") << QByteArray("Initialize%20ITCM=true\nITCM_Initialization_Path=/\n")
+                              << QString();
+    QTest::newRow("absolute and missing")
+        << QByteArray("Initialize%20ITCM=true\nITCM_Initialization_Path=/no/such/folder\n")
+        << missing;
+}
+
+void tst_MainDialog::checksTheInitialisationFolder()
+{
+    QFETCH(QByteArray, config);
+    QFETCH(QString, message);
+    QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("init")));
+    QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("file")), "x"));
+    const auto dialog =
+        opened("[General]\ntarget_device=TV2K-55-PBGA256-C8/I7\nversion=1.0\n[Config]\n" + config);
+    const OptionMap before = dialog->currentOptions();
+    bool ok = false;
+    const auto boxes = TestSupport::boxesOf([&] { ok = dialog->checkItcmInitPath(); });
+    QCOMPARE(ok, message.isEmpty());
+    QCOMPARE(boxes.size(), message.isEmpty() ? 0 : 1);
+    if (!boxes.isEmpty()) {
+        QCOMPARE(boxes.first().text, message);
+        QCOMPARE(boxes.first().title, QStringLiteral("Error"));
+        QCOMPARE(boxes.first().defaultButton, QMessageBox::Ok);
+        QVERIFY(boxes.first().hasPixmap);
+        QCOMPARE(boxes.first().parent, dialog.get());
+    }
+    QCOMPARE(dialog->currentOptions(), before);
+}
+
+void tst_MainDialog::anEmptyFolderStopsBeforeAnythingIsMade()
+{
+    const auto dialog = newDialog();
+    dialog->findChild<QLineEdit *>(QStringLiteral("editCreateIn"))->clear();
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); });
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes.first().details, QStringLiteral("\"Create In\" can not be empty."));
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), QStringList());
+    QVERIFY(!QFileInfo::exists(QStringLiteral("temp")));
+}
+
+void tst_MainDialog::aDeclinedOverwriteWritesNothing()
+{
+    const auto dialog = newDialog();
+    QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("tarvo_orix_m1")));
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Cancel);
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(TestSupport::entriesOf(m_dir->filePath(QStringLiteral("tarvo_orix_m1"))),
+             QStringList());
+}
+
+void tst_MainDialog::anUnmakeableGenerationFolderIsReported()
+{
+    const auto dialog = newDialog();
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QVERIFY(TestSupport::write(folder + QLatin1String("/temp"), "in the way"));
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Yes);
+    QCOMPARE(boxes.size(), 2);
+    QVERIFY2(boxes.at(1).text.contains(QLatin1String("/temp\" is a file")),
+             qPrintable(boxes.at(1).text));
+    QCOMPARE(TestSupport::entriesOf(folder), QStringList{QStringLiteral("temp")});
+    QVERIFY(!dialog->findChild<IPCore::SynthesisHelper *>());
+}
+
+void tst_MainDialog::anUnwritableIncludeFileStopsBeforeTheRun()
+{
+    const auto dialog = newDialog();
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    // A folder stands where the second file would.
+    QVERIFY(QDir().mkpath(folder + QLatin1String("/temp/tv_orix_m1/psram_define.v")));
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Yes);
+    QCOMPARE(boxes.size(), 2);
+    QVERIFY(boxes.at(1).text.contains(QLatin1String("psram_define.v")));
+    // What was written before stays, the configuration too; nothing later is there.
+    QCOMPARE(TestSupport::entriesOf(folder),
+             (QStringList{QStringLiteral("tarvo_orix_m1.ipc"), QStringLiteral("temp")}));
+    QCOMPARE(TestSupport::entriesOf(folder + QLatin1String("/temp/tv_orix_m1")),
+             (QStringList{QStringLiteral("cm1_option_defs.v"), QStringLiteral("psram_define.v")}));
+    QVERIFY(!dialog->findChild<IPCore::SynthesisHelper *>());
+}
+
+void tst_MainDialog::generatesAndCloses()
+{
+    const auto dialog = newDialog();
+    dialog->show();
+    QCOMPARE(runToTheEnd(*dialog), QStringList());
+    QCOMPARE(dialog->result(), int(QDialog::Accepted));
+    QVERIFY(!dialog->isVisible());
+
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QCOMPARE(TestSupport::entriesOf(folder),
+             (QStringList{QStringLiteral("tarvo_orix_m1.ipc"), QStringLiteral("tarvo_orix_m1.v"),
+                          QStringLiteral("tarvo_orix_m1.vo"), QStringLiteral("tarvo_orix_m1_tmp.v"),
+                          QStringLiteral("temp")}));
+    QCOMPARE(m_host->opened, (QStringList{folder + QLatin1String("/tarvo_orix_m1.v"),
+                                          folder + QLatin1String("/tarvo_orix_m1_tmp.v")}));
+    QCOMPARE(m_host->added,
+             QList<QStringList>{QStringList{folder + QLatin1String("/tarvo_orix_m1.v")}});
+    QVERIFY(TestSupport::contentsOf(folder + QLatin1String("/tarvo_orix_m1.v"))
+                .contains("Tarvo_ORIX_M1_Top"));
+    // Intermediate files stay.
+    QVERIFY(TestSupport::entriesOf(folder + QLatin1String("/temp/tv_orix_m1"))
+                .contains(QStringLiteral("tarvo_orix_m1.vg")));
+}
+
+void tst_MainDialog::aMissingToolLeavesTheDialogOpenAndASecondTryWorks()
+{
+    const auto dialog = newDialog();
+    dialog->show();
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    {
+        const SearchPath nothing(m_dir->path().toUtf8());
+        const QStringList texts = runToTheEnd(*dialog);
+        QVERIFY2(texts.value(0).contains(QLatin1String("Yosys")), qPrintable(texts.join(u'|')));
+    }
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(TestSupport::entriesOf(folder),
+             (QStringList{QStringLiteral("tarvo_orix_m1.ipc"), QStringLiteral("temp")}));
+    QVERIFY(m_host->opened.isEmpty() && m_host->added.isEmpty());
+
+    const QStringList texts = runToTheEnd(*dialog);
+    QCOMPARE(texts.size(), 1); // the question about the folder
+    QVERIFY(!dialog->isVisible());
+    QCOMPARE(m_host->added.size(), 1);
+    QCOMPARE(dialog->findChildren<IPCore::SynthesisHelper *>().size(), 1);
+}
+
+void tst_MainDialog::aCrashIsReportedAndLeavesNothingHalfWritten()
+{
+    const FakeTool fake("echo half > tarvo_orix_m1.vg.part\nkill -SEGV $$\n");
+    const auto dialog = newDialog();
+    dialog->show();
+    const QStringList texts = runToTheEnd(*dialog);
+    QVERIFY2(texts.value(0).contains(QLatin1String("crashed")), qPrintable(texts.join(u'|')));
+    QVERIFY(dialog->isVisible());
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QVERIFY(!QFileInfo::exists(folder + QLatin1String("/tarvo_orix_m1.v")));
+    QVERIFY(!QFileInfo::exists(folder + QLatin1String("/temp/tv_orix_m1/tarvo_orix_m1.vg")));
+}
+
+namespace
+{
+
+// A tool that leaves its process id and waits for ever.
+QByteArray endlessScript(const QString &pidFile)
+{
+    return "echo $$ > '" + pidFile.toUtf8() + ".new'\nmv '" + pidFile.toUtf8() + ".new' '" +
+           pidFile.toUtf8() + "'\nwhile :; do read -t 1 < <(:) || :; done\n";
+}
+
+bool isGone(qint64 pid)
+{
+    return ::kill(pid_t(pid), 0) != 0;
+}
+
+} // namespace
+
+void tst_MainDialog::cancellingEndsTheRunOnly()
+{
+    const QString pidFile = m_dir->filePath(QStringLiteral("pid"));
+    const FakeTool fake(endlessScript(pidFile));
+    const auto dialog = newDialog();
+    dialog->show();
+    QStringList texts;
+    const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+        if (auto *title = modal->findChild<QLabel *>(QStringLiteral("titleLabel"))) {
+            texts.append(title->text());
+            modal->close();
+        }
+    });
+    pressOk(*dialog);
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), runTimeout);
+    const qint64 pid = TestSupport::contentsOf(pidFile).trimmed().toLongLong();
+    QVERIFY(pid > 1 && !isGone(pid));
+    QWidget *progress = QApplication::activeModalWidget();
+    QVERIFY(progress);
+    QCOMPARE(progress->windowTitle(), descriptor().value(InfoKey::label).toString());
+    progress->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
+    QTRY_COMPARE_WITH_TIMEOUT(texts.size(), 1, runTimeout);
+    QVERIFY(isGone(pid));
+    QVERIFY(dialog->isVisible());
+    QVERIFY(!progress->isVisible());
+}
+
+void tst_MainDialog::closingTheDialogEndsTheTool()
+{
+    const QString pidFile = m_dir->filePath(QStringLiteral("pid"));
+    const FakeTool fake(endlessScript(pidFile));
+    auto dialog = newDialog();
+    dialog->show();
+    pressOk(*dialog);
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), runTimeout);
+    const qint64 pid = TestSupport::contentsOf(pidFile).trimmed().toLongLong();
+    QVERIFY(!isGone(pid));
+    dialog->reject();
+    dialog.reset();
+    QVERIFY(isGone(pid));
+}
+
+void tst_MainDialog::vhdlEndsWithAnErrorUntilItIsThere()
+{
+    const auto dialog = newDialog();
+    dialog->show();
+    dialog->setLanguageIndex(1);
+    const QStringList texts = runToTheEnd(*dialog);
+    QVERIFY2(texts.value(0).contains(QLatin1String("VHDL")), qPrintable(texts.join(u'|')));
+    QVERIFY(dialog->isVisible());
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QCOMPARE(TestSupport::entriesOf(folder),
+             (QStringList{QStringLiteral("tarvo_orix_m1.ipc"), QStringLiteral("temp")}));
+}
+
+void tst_MainDialog::anotherToolTextRunsWithEmptyPaths()
+{
+    const auto dialog = newDialog();
+    dialog->show();
+    auto *tools = dialog->findChild<QComboBox *>(QStringLiteral("synToolComboBox"));
+    tools->addItem(QStringLiteral("Another"));
+    tools->setCurrentIndex(1);
+    const QStringList texts = runToTheEnd(*dialog);
+    // The runner keeps its tool and succeeds; then there is no netlist to copy.
+    QCOMPARE(texts.value(0), QStringLiteral("Core generation occur errors."));
+    QCOMPARE(texts.size(), 2);
+    QVERIFY(dialog->isVisible());
+    QVERIFY(m_host->added.isEmpty());
+}
+
+TARVO_TEST_MAIN(QApplication, tst_MainDialog)
+
+#include "tst_maindialog.moc"
