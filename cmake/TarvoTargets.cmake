@@ -68,8 +68,9 @@ function(tarvo_add_host_library name)
     target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     target_include_directories(${target} PUBLIC $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tarvo>)
-    install(TARGETS ${target} EXPORT TarvoHostTargets LIBRARY DESTINATION ${TARVO_INSTALL_LIBDIR})
-    install(FILES ${ARG_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tarvo/${folder})
+    install(TARGETS ${target} EXPORT TarvoHostTargets
+        LIBRARY DESTINATION ${TARVO_INSTALL_LIBDIR} COMPONENT host NAMELINK_COMPONENT host)
+    install(FILES ${ARG_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tarvo/${folder} COMPONENT host)
 endfunction()
 
 # tarvo_add_plugin(NAME LEVEL n SOURCES … [PRIVATE_LINK …]): a Qt plug-in library that exports Qt's entry points only.
