@@ -50,7 +50,6 @@ int main(int argc, char *argv[])
                          "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.set_help_all_flag("--help-all", "Print the help of every command and exit");
-    app.require_subcommand(1);
     app.fallthrough();
     app.footer(footer);
     std::string dataFolder;
@@ -151,6 +150,10 @@ int main(int argc, char *argv[])
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
         return app.exit(error) == 0 ? Cli::Done : Cli::WrongUsage;
+    }
+    if (!command) {
+        Cli::printError(QStringLiteral("A command is required; \"orixm1 --help\" lists them."));
+        return Cli::WrongUsage;
     }
     environment.setDataFolder(text(dataFolder));
     environment.setDeviceFolder(text(deviceFolder));

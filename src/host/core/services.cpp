@@ -65,7 +65,9 @@ void ProjectManager::setCurrentProject(Project *project)
 
 bool EditorManager::openEditor(const QString &path, bool temporary)
 {
-    return services().openEditor && services().openEditor(path, temporary);
+    // A copy, because the handler may take its own registration back.
+    const Handler handler = services().openEditor;
+    return handler && handler(path, temporary);
 }
 
 void EditorManager::setHandler(const Handler &handler)

@@ -44,6 +44,23 @@ bool readObject(const QString &path, QJsonObject *object, QString *error)
            malformed(path, parseError.errorString(), error);
 }
 
+bool readPackageCodes(const QString &path, QHash<QString, QString> *codes, QString *error)
+{
+    QJsonObject root;
+    if (!readObject(path, &root, error))
+        return false;
+    const QJsonObject entries = root.value(QLatin1String("packageCodes")).toObject();
+    if (entries.isEmpty())
+        return malformed(path, tr("it lists no package codes"), error);
+    for (auto it = entries.begin(); it != entries.end(); ++it) {
+        const QString code = it.value().toString();
+        if (code.isEmpty())
+            return malformed(path, tr("the package \"%1\" has no code").arg(it.key()), error);
+        codes->insert(it.key(), code);
+    }
+    return true;
+}
+
 bool matches(const QString &wanted, const QString &value)
 {
     return wanted.isEmpty() || wanted == value;
@@ -60,21 +77,18 @@ DeviceDb DeviceDb::fromFolder(const QString &folder, QString *error)
                          .arg(QDir::toNativeSeparators(folder));
         return {};
     }
+    // With System a link to nothing is found too, so that it is named and not left out.
     const QStringList names =
-        dir.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::Readable, QDir::Name);
-    if (names.isEmpty()) {
+        dir.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::System, QDir::Name);
+    if (names.isEmpty() || names == QStringList(packagesFile)) {
         if (error)
             *error = tr("The device folder \"%1\" holds no device file.")
                          .arg(QDir::toNativeSeparators(folder));
         return {};
     }
     QHash<QString, QString> packageCodes;
-    QJsonObject packages;
-    if (!readObject(dir.filePath(packagesFile), &packages, error))
+    if (!readPackageCodes(dir.filePath(packagesFile), &packageCodes, error))
         return {};
-    const QJsonObject codes = packages.value(QLatin1String("packageCodes")).toObject();
-    for (auto it = codes.begin(); it != codes.end(); ++it)
-        packageCodes.insert(it.key(), it.value().toString());
 
     DeviceDb db;
     for (const QString &name : names) {
@@ -117,11 +131,15 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
         const QJsonArray speeds = entry.value(QLatin1String("speeds")).toArray();
         if (device.isEmpty() || packages.isEmpty() || speeds.isEmpty())
             return fail(tr("an entry lacks its device name, packages or speeds"));
-        if (!device.endsWith(version) || !device.contains(u'-'))
+        if (!device.endsWith(version))
             return fail(tr("the device name \"%1\" does not fit its version").arg(device));
         const QString deviceN = device.chopped(version.size());
-        const QString base =
-            deviceN.section(u'-', 0, 0) + QLatin1String("-LV") + deviceN.section(u'-', 1);
+        const QString series = deviceN.section(u'-', 0, 0);
+        const QString size = deviceN.section(u'-', 1);
+        if (series.isEmpty() || size.isEmpty())
+            return fail(
+                tr("the device name \"%1\" is not a series, a hyphen and a size").arg(device));
+        const QString base = series + QLatin1String("-LV") + size;
         for (const QJsonValue &packageValue : packages) {
             const QString package = packageValue.toString();
             const QString code = packageCodes.value(package);
@@ -129,6 +147,8 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
                 return fail(tr("the package \"%1\" has no code").arg(package));
             for (const QJsonValue &speedValue : speeds) {
                 const QString speed = speedValue.toString();
+                if (speed.isEmpty())
+                    return fail(tr("a speed grade of \"%1\" is no text").arg(device));
                 const DeviceArg record(device, deviceN, version, package, speed,
                                        base + code + speed);
                 if (m_indexById.contains(record.id()))

@@ -38,7 +38,6 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     m_details->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_details->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_details->setPlainText(lines.join(u'\n'));
-    m_details->setVisible(!lines.isEmpty());
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     auto *copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
@@ -51,6 +50,8 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     layout->addWidget(heading, 0, 1);
     layout->addWidget(m_details, 1, 0, 1, 2);
     layout->addWidget(buttons, 2, 0, 1, 2);
+    // Only now: without a parent it would come up as a window of its own.
+    m_details->setVisible(!lines.isEmpty());
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(1, 1);
 
@@ -62,7 +63,9 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
 
 void ErrorDialog::copyAll()
 {
-    QGuiApplication::clipboard()->setText(m_title + u'\n' + m_details->toPlainText());
+    const QString details = m_details->toPlainText();
+    QGuiApplication::clipboard()->setText(details.isEmpty() ? m_title
+                                                            : QString(m_title + u'\n' + details));
 }
 
 } // namespace IPCore

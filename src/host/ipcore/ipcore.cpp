@@ -51,6 +51,15 @@ bool anyNames(const QStringList &entries, const DEV::DeviceArg &device)
     return false;
 }
 
+// Without dots; the root folder is its own parent, which QDir::cleanPath() does not know.
+QString absolutePath(const QString &path)
+{
+    QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    while (absolute.startsWith(QLatin1String("/../")))
+        absolute.remove(0, 3);
+    return absolute == QLatin1String("/..") ? QStringLiteral("/") : absolute;
+}
+
 } // namespace
 
 QVariantMap processIPInfoSpec(const QString &path, QString *error)
@@ -67,7 +76,7 @@ bool checkCommonInfo(const QVariantMap &ipInfo)
     for (const char *key :
          {"ipcore.id", "ipcore.name", "ipcore.version", "ipcore.category", "ipcore.target"}) {
         const QVariant value = ipInfo.value(QLatin1String(key));
-        if (value.toStringList().join(QString()).isEmpty())
+        if (value.toStringList().join(QString()).isEmpty() && value.toString().isEmpty())
             return false;
     }
     return true;
@@ -101,8 +110,9 @@ bool generateFile(const QString &path, const QStringList &lines, QWidget *parent
                   const QString &header)
 {
     QString error;
-    const QStringList text =
-        header.isEmpty() ? lines : header.split(u'\n', Qt::SkipEmptyParts) + lines;
+    QStringList text = lines;
+    if (!header.isEmpty())
+        text.prepend(header.endsWith(u'\n') ? header.chopped(1) : header);
     if (Utils::FileUtils::writeLines(path, text, &error))
         return true;
     report(parent, error);
@@ -136,10 +146,10 @@ bool isSubDirFile(const QString &dir, const QString &path)
 {
     if (dir.isEmpty() || path.isEmpty())
         return false;
-    QString folder = QDir::cleanPath(QFileInfo(dir).absoluteFilePath());
+    QString folder = absolutePath(dir);
     if (!folder.endsWith(u'/'))
         folder += u'/';
-    const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    const QString file = absolutePath(path);
     return file.size() > folder.size() && file.startsWith(folder);
 }
 

@@ -30,6 +30,7 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     m_elapsed->setToolTip(tr("Elapsed time"));
     m_bar->setRange(0, 0); // the length of a run is not known
     m_bar->setTextVisible(false);
+    m_bar->setAccessibleName(tr("Activity"));
     m_log->setReadOnly(true);
     m_log->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_log->setMaximumBlockCount(20000);
@@ -91,6 +92,8 @@ void ProgressDialog::reject()
         QDialog::reject();
         return;
     }
+    if (!m_cancel->isEnabledTo(this))
+        return; // asked already
     m_stage->setText(tr("Cancelling"));
     m_cancel->setEnabled(false);
     Q_EMIT cancelRequested();

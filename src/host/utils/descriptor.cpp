@@ -1,6 +1,7 @@
 #include "descriptor.h"
 
 #include "fileutils.h"
+#include "jsonmistake.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -39,6 +40,21 @@ void flatten(const QString &prefix, const QJsonObject &object, QVariantMap *map)
     }
 }
 
+// The place is a line and a column in characters, both from 1.
+QVariantMap fail(const QString &path, const QByteArray &bytes, int offset, const QString &reason,
+                 QString *error)
+{
+    const QByteArray before = bytes.left(offset);
+    const int line = before.count('\n') + 1;
+    const int column =
+        QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
+    if (error)
+        *error = tr("%1:%2:%3: %4.")
+                     .arg(QDir::toNativeSeparators(path), QString::number(line),
+                          QString::number(column), reason);
+    return {};
+}
+
 } // namespace
 
 QVariantMap readDescriptor(const QString &path, QString *error)
@@ -50,21 +66,14 @@ QVariantMap readDescriptor(const QString &path, QString *error)
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
-        const QByteArray before = bytes.left(parseError.offset);
-        const int line = before.count('\n') + 1;
-        const int column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
-        if (error)
-            *error = tr("%1:%2:%3: %4.")
-                         .arg(QDir::toNativeSeparators(path), QString::number(line),
-                              QString::number(column), parseError.errorString());
-        return {};
+        const JsonMistake mistake = findJsonMistake(bytes);
+        if (mistake.offset >= 0)
+            return fail(path, bytes, mistake.offset, mistake.reason, error);
+        if (parseError.error == QJsonParseError::IllegalUTF8String)
+            return fail(path, bytes, parseError.offset, tr("the text is not UTF-8"), error);
     }
-    if (!document.isObject()) {
-        if (error)
-            *error =
-                tr("%1:1:1: the file holds no JSON object.").arg(QDir::toNativeSeparators(path));
-        return {};
-    }
+    if (!document.isObject())
+        return fail(path, bytes, 0, tr("the file holds no JSON object"), error);
     QVariantMap map;
     flatten(QString(), document.object(), &map);
     return map;

@@ -32,6 +32,20 @@ bool holds(const QString &path, const QByteArray &bytes)
     return file.readAll() == bytes;
 }
 
+// Writes on after a partial success, so that the device's error string tells the reason of a
+// failure.
+bool writeAll(QIODevice *device, const QByteArray &bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 step = device->write(bytes.constData() + written, bytes.size() - written);
+        if (step <= 0)
+            return false;
+        written += step;
+    }
+    return true;
+}
+
 } // namespace
 
 bool FileUtils::copyFile(const QString &source, const QString &destination, QString *error)
@@ -50,13 +64,18 @@ bool FileUtils::writeFile(const QString &path, const QByteArray &bytes, QString 
     const QFileInfo info(path);
     if (info.isDir())
         return fail(error, "Cannot write \"%1\": %2.", path, tr("it is a folder"));
+    // A device or a pipe would be replaced by a plain file, and reading one may never end.
+    if (info.exists() && !info.isFile())
+        return fail(error, "Cannot write \"%1\": %2.", path, tr("it is not a plain file"));
     if (info.exists() && holds(path, bytes))
         return true;
 
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    // A chain of links is followed to its end, where QSaveFile would replace the second link.
+    QSaveFile file(info.isSymLink() && info.exists() ? info.canonicalFilePath() : path);
+    // With a buffer the last bytes are written by commit(), which takes a full disk for a success.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return fail(error, "Cannot write \"%1\": %2.", path, file.errorString());
-    if (file.write(bytes) != bytes.size() || !file.commit())
+    if (!writeAll(&file, bytes) || !file.commit())
         return fail(error, "Cannot write \"%1\": %2.", path, file.errorString());
     return true;
 }

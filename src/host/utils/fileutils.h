@@ -16,12 +16,14 @@ namespace Utils
 class TARVO_UTILS_EXPORT FileUtils
 {
 public:
-    // Copies the contents of one file, overwriting `destination`; its permissions are the usual
-    // ones of a new file. A destination that holds the same bytes already is not touched.
+    // Copies the contents of one file, overwriting `destination`; a new file gets the usual
+    // permissions, not those of `source`. A destination that holds the same bytes already is not
+    // touched.
     static bool copyFile(const QString &source, const QString &destination, QString *error);
 
     // Writes `bytes` to `path` through a temporary file in the same folder that replaces `path` at
-    // the end. A file that holds the same bytes already is not touched. The folder must exist.
+    // the end. A file that holds the same bytes already is not touched. The folder must exist. A
+    // link is followed; what is neither a plain file nor missing is refused.
     static bool writeFile(const QString &path, const QByteArray &bytes, QString *error);
 
     // Writes each entry as one line: UTF-8, ended by a line feed. No entries give an empty file.

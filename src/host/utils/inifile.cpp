@@ -17,6 +17,30 @@ QString tr(const char *text)
     return QCoreApplication::translate("Utils::IniFile", text);
 }
 
+// How a line of an INI file ends.
+struct LineEnd {
+    bool quoted = false;    // between quotation marks
+    bool continued = false; // the next line belongs to it
+};
+
+// `quoted`: the line starts between quotation marks.
+LineEnd endOf(const QByteArray &line, bool quoted)
+{
+    LineEnd end = {quoted, false};
+    for (int i = 0; i < line.size(); ++i) {
+        const char c = line.at(i);
+        if (c == '\\') {
+            ++i;
+            end.continued = i == line.size();
+        } else if (c == '"') {
+            end.quoted = !end.quoted;
+        } else if (c == ';' && !end.quoted) {
+            break; // a comment up to the end of the line
+        }
+    }
+    return end;
+}
+
 } // namespace
 
 bool writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
@@ -32,6 +56,12 @@ bool writeIniFile(const QString &path, const QVariantMap &header, const QString 
         return false;
     }
     const QString draft = scratch.filePath(QStringLiteral("draft.ini"));
+    const auto noDraft = [&] {
+        if (error)
+            *error = tr("Cannot write \"%1\": the temporary file \"%2\" could not be written.")
+                         .arg(path, draft);
+        return false;
+    };
     {
         QSettings settings(draft, QSettings::IniFormat);
         for (auto it = header.cbegin(); it != header.cend(); ++it)
@@ -40,19 +70,19 @@ bool writeIniFile(const QString &path, const QVariantMap &header, const QString 
         for (auto it = values.cbegin(); it != values.cend(); ++it)
             settings.setValue(it.key(), it.value());
         settings.endGroup();
+        settings.setValue(QStringLiteral("EndOfDraft/whole"), true);
         settings.sync();
-        if (settings.status() != QSettings::NoError) {
-            if (error)
-                *error = tr("Cannot write \"%1\": the temporary file \"%2\" could not be written.")
-                             .arg(path, draft);
-            return false;
-        }
+        if (settings.status() != QSettings::NoError)
+            return noDraft();
     }
     QByteArray bytes;
-    if (!FileUtils::readFile(draft, &bytes, error))
-        return false;
-    if (!bytes.endsWith('\n'))
-        bytes += '\n'; // kind to line-based tools
+    // QSettings takes a full disk for a success: only a draft with its end is whole.
+    const QByteArray mark = "[EndOfDraft]\nwhole=true\n";
+    if (!FileUtils::readFile(draft, &bytes, nullptr) || !bytes.endsWith(mark))
+        return noDraft();
+    bytes.chop(mark.size());
+    if (bytes.endsWith("\n\n"))
+        bytes.chop(1); // the blank line between sections
     return FileUtils::writeFile(path, bytes, error);
 }
 
@@ -64,25 +94,29 @@ bool checkIniText(const QByteArray &bytes, QString *error)
         return false;
     };
     int number = 0;
-    bool continued = false;
-    for (const QByteArray &line : bytes.split('\n')) {
+    LineEnd end;
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (const QByteArray &line : lines) {
         ++number;
         for (const char c : line) {
             if (static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\r')
                 return fail(number, tr("not a text file"));
         }
-        const QByteArray text = line.trimmed();
-        const bool wasContinued = continued;
-        continued = line.endsWith('\\') || line.endsWith("\\\r");
-        if (wasContinued || text.isEmpty() || text.startsWith(';') || text.startsWith('#'))
-            continue;
-        if (text.startsWith('[')) {
-            if (!text.endsWith(']'))
-                return fail(number, tr("the section name has no closing bracket"));
-            continue;
+        const bool marked = number == 1 && line.startsWith("\xef\xbb\xbf");
+        const QByteArray text = (marked ? line.mid(3) : line).trimmed();
+        if (!end.continued) {
+            if (text.isEmpty() || text.startsWith(';') || text.startsWith('#'))
+                continue;
+            if (text.startsWith('[')) {
+                if (!text.contains(']'))
+                    return fail(number, tr("the section name has no closing bracket"));
+            } else if (text.indexOf('=') < 1) {
+                return fail(number, tr("neither a section nor a key with a value"));
+            }
         }
-        if (text.indexOf('=') < 1)
-            return fail(number, tr("neither a section nor a key with a value"));
+        end = endOf(text, end.quoted);
+        if (end.quoted && (!end.continued || number == lines.size()))
+            return fail(number, tr("a quoted value has no end"));
     }
     return true;
 }

@@ -17,8 +17,8 @@ TARVO_UTILS_EXPORT bool writeIniFile(const QString &path, const QVariantMap &hea
                                      QString *error);
 
 // Whether `bytes` can be the text of an INI file: every line is blank, a comment, a section or a
-// key with a value, and no control character stands in it. Returns the reason in `*error` (may be
-// null), with the line number.
+// key with a value whose quotation marks are closed, and no control character stands in it. Returns
+// the reason in `*error` (may be null), with the line number.
 TARVO_UTILS_EXPORT bool checkIniText(const QByteArray &bytes, QString *error);
 
 } // namespace Utils

@@ -29,6 +29,8 @@ public:
     bool checkItcmInitPath();
     QString targetName() const;
 
+    const OptionMap &currentOptions() const { return options; }
+
 public Q_SLOTS:
     // Validates, saves and starts generation; the dialog closes when the run has succeeded.
     void accept() override;

@@ -1,0 +1,477 @@
+#include <testsupport.h>
+#include <unprivileged.h>
+
+#include <dev/devicedb.h>
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+Q_DECLARE_METATYPE(DEV::ChipFilter)
+
+using DEV::ChipFilter;
+using DEV::DeviceArg;
+using DEV::DeviceDb;
+
+namespace
+{
+
+// Every device that a rule names.
+const char *const deviceNames[] = {
+    "TV1KL-5A",    "TV1KL-5B",    "TV1KL-9A",    "TV1L-9",     "TV1L-9C",    "TV1LR-9",
+    "TV1LR-9C",    "TV2K-18",     "TV2K-18C",    "TV2K-55",    "TV2K-55C",   "TV2KL-18X",
+    "TV2KL-55C",   "TV2KL-9X",    "TV2KLR-18C",  "TV2KR-18",   "TV2KR-18C",  "TV3K-10A",
+    "TV3K-20A",    "TV3K-50A",    "TV3KR-20A",   "TV5K-138B",  "TV5K-138C",  "TV5K-25A",
+    "TV5K-25B",    "TV5K-60B",    "TV5KLRT-15A", "TV5KLT-15A", "TV5KR-25A",  "TV5KR-25B",
+    "TV5KRT-15A",  "TV5KRT-15B",  "TV5KS-138B",  "TV5KS-138C", "TV5KS-25A",  "TV5KS-25B",
+    "TV5KST-138B", "TV5KST-138C", "TV5KT-138",   "TV5KT-138B", "TV5KT-138C", "TV5KT-15A",
+    "TV5KT-15B",   "TV5KT-60B",   "TV5KT-60ES",  "TV5KT-75B",  "TV5KT-75C",
+};
+
+const QByteArray packages = "{\"packageCodes\": {\"QFN88P\": \"QN88P\", \"PBGA256\": \"PG256\"}}";
+
+QByteArray series(const QByteArray &devices)
+{
+    return "{\"series\": \"TV9\", \"devices\": [" + devices + "]}";
+}
+
+QByteArray entry(const QByteArray &device, const QByteArray &version)
+{
+    return "{\"device\": \"" + device + "\", \"version\": \"" + version +
+           "\", \"packages\": [\"QFN88P\", \"PBGA256\"], \"speeds\": [\"C8/I7\"]}";
+}
+
+QSet<QString> packagesOf(const QString &device)
+{
+    ChipFilter filter;
+    filter.device = device;
+    QSet<QString> found;
+    const QList<DeviceArg> records = DeviceDb::bundled().filterDevice(filter);
+    for (const DeviceArg &record : records)
+        found.insert(record.package());
+    return found;
+}
+
+// The same rule as the database's, written another way: what the part number must match.
+QRegularExpression partNumberPattern(const DeviceArg &record)
+{
+    QString code = record.package();
+    code.replace(QRegularExpression(QStringLiteral("^eLQFP")), QStringLiteral("EQ"))
+        .replace(QRegularExpression(QStringLiteral("^LQFP")), QStringLiteral("LQ"))
+        .replace(QRegularExpression(QStringLiteral("^QFN")), QStringLiteral("QN"))
+        .replace(QRegularExpression(QStringLiteral("^([MPU])BGA")), QStringLiteral("\\1G"));
+    const QString size = record.device()
+                             .mid(record.series().size() + 1)
+                             .remove(QRegularExpression(QStringLiteral("[A-Z]+$")));
+    return QRegularExpression(QLatin1Char('^') + record.series() + QLatin1String("-LV") + size +
+                              code + QRegularExpression::escape(record.speed()) + QLatin1Char('$'));
+}
+
+} // namespace
+
+class TestDeviceDb : public QObject
+{
+    Q_OBJECT
+
+private:
+    // A folder of device files with the packages file and one more.
+    static QString folderWith(const QTemporaryDir &dir, const QByteArray &text)
+    {
+        const bool good =
+            TestSupport::write(dir.filePath(QStringLiteral("packages.json")), packages) &&
+            TestSupport::write(dir.filePath(QStringLiteral("tv9.json")), text);
+        return good ? dir.path() : QString();
+    }
+
+private Q_SLOTS:
+    void holdsEveryDevice_data()
+    {
+        QTest::addColumn<QString>("name");
+        QCOMPARE(std::size(deviceNames), size_t(47));
+        for (const char *name : deviceNames)
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void holdsEveryDevice()
+    {
+        QFETCH(QString, name);
+        ChipFilter filter;
+        filter.device = name;
+        const QList<DeviceArg> found = DeviceDb::bundled().filterDevice(filter);
+        QSet<QString> foundPackages;
+        QSet<QString> speeds;
+        for (const DeviceArg &record : found) {
+            QCOMPARE(record.device(), name);
+            foundPackages.insert(record.package());
+            speeds.insert(record.speed());
+        }
+        QVERIFY2(foundPackages.size() >= 2, qPrintable(name));
+        QVERIFY2(speeds.size() >= 2, qPrintable(name));
+        // Every package comes in every speed grade.
+        QCOMPARE(found.size(), foundPackages.size() * speeds.size());
+    }
+
+    void holdsNothingElse()
+    {
+        QSet<QString> names;
+        for (const char *name : deviceNames)
+            names.insert(QString::fromLatin1(name));
+        QSet<QString> held;
+        const QList<DeviceArg> devices = DeviceDb::bundled().devices();
+        for (const DeviceArg &record : devices)
+            held.insert(record.device());
+        QCOMPARE(held, names);
+    }
+
+    void idsAndPartNumbersOfADeviceAreUnique()
+    {
+        QSet<QString> ids;
+        QSet<QString> parts;
+        const QList<DeviceArg> devices = DeviceDb::bundled().devices();
+        for (const DeviceArg &record : devices) {
+            QVERIFY2(!ids.contains(record.id()), qPrintable(record.id()));
+            ids.insert(record.id());
+            // A part number leaves the version out.
+            const QString part = QString(record.deviceNVersion() + u' ' + record.partNumber());
+            QVERIFY2(!parts.contains(part), qPrintable(part));
+            parts.insert(part);
+        }
+        QVERIFY(ids.size() > 47 * 4 - 1);
+    }
+
+    void recordsAreConsistent()
+    {
+        const QList<DeviceArg> devices = DeviceDb::bundled().devices();
+        for (const DeviceArg &record : devices) {
+            QVERIFY(!record.isNull());
+            QCOMPARE(QString(record.deviceN() + record.deviceNVersion()), record.device());
+            QCOMPARE(record.id(),
+                     QString(record.device() + u'-' + record.package() + u'-' + record.speed()));
+            QVERIFY2(record.deviceN().back().isDigit(), qPrintable(record.deviceN()));
+            for (const QChar letter : record.deviceNVersion())
+                QVERIFY2(letter.isUpper(), qPrintable(record.device()));
+            QVERIFY(!record.package().isEmpty() && !record.speed().isEmpty());
+        }
+    }
+
+    void partNumbersFollowThePattern()
+    {
+        const QList<DeviceArg> devices = DeviceDb::bundled().devices();
+        for (const DeviceArg &record : devices) {
+            const QRegularExpression pattern = partNumberPattern(record);
+            QVERIFY2(pattern.match(record.partNumber()).hasMatch(),
+                     qPrintable(QString(record.partNumber() + u' ' + pattern.pattern())));
+        }
+    }
+
+    void partNumbersOfKnownDevices_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("part");
+        const auto row = [](const char *name, const char *id, const char *part) {
+            QTest::newRow(name) << QString::fromLatin1(id) << QString::fromLatin1(part);
+        };
+        row("QFN", "TV2KR-18C-QFN88P-C8/I7", "TV2KR-LV18QN88PC8/I7");
+        row("no version letter", "TV2KR-18-QFN88P-C8/I7", "TV2KR-LV18QN88PC8/I7");
+        row("eLQFP", "TV2KR-18C-eLQFP144P-C7/I6", "TV2KR-LV18EQ144PC7/I6");
+        row("eLQFP with flash", "TV2KR-18C-eLQFP144PF-ES", "TV2KR-LV18EQ144PFES");
+        row("version of two letters", "TV5KT-60ES-PBGA256-C2/I1", "TV5KT-LV60PG256C2/I1");
+        row("size of one digit", "TV1LR-9C-MBGA100P-C6/I5", "TV1LR-LV9MG100PC6/I5");
+    }
+
+    void partNumbersOfKnownDevices()
+    {
+        QFETCH(QString, id);
+        QFETCH(QString, part);
+        const DeviceArg record = DeviceDb::bundled().findDevice(id);
+        QVERIFY2(!record.isNull(), qPrintable(id));
+        QCOMPARE(record.partNumber(), part);
+    }
+
+    void packagesWithEmbeddedMemoryExist()
+    {
+        const QSet<QString> needed = {QStringLiteral("QFN88"), QStringLiteral("QFN88P"),
+                                      QStringLiteral("QFN88PF"), QStringLiteral("eLQFP144P"),
+                                      QStringLiteral("eLQFP144PF")};
+        QVERIFY(packagesOf(QStringLiteral("TV2KR-18C")).contains(needed));
+        const QSet<QString> small = packagesOf(QStringLiteral("TV2KLR-18C"));
+        QVERIFY(small.contains(QStringLiteral("QFN88")));
+        QVERIFY(small.size() >= 2);
+    }
+
+    void findsByExactId_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<bool>("exists");
+        QTest::newRow("an id") << QStringLiteral("TV2KR-18C-QFN88P-C8/I7") << true;
+        QTest::newRow("a name") << QStringLiteral("TV2KR-18C") << false;
+        QTest::newRow("an id in lower case") << QStringLiteral("tv2kr-18c-qfn88p-c8/i7") << false;
+        QTest::newRow("an id with a blank") << QStringLiteral("TV2KR-18C-QFN88P-C8/I7 ") << false;
+        QTest::newRow("a part number") << QStringLiteral("TV2KR-LV18QN88PC8/I7") << false;
+        QTest::newRow("nothing") << QString() << false;
+    }
+
+    void findsByExactId()
+    {
+        QFETCH(QString, id);
+        QFETCH(bool, exists);
+        const DeviceArg record = DeviceDb::bundled().findDevice(id);
+        QCOMPARE(!record.isNull(), exists);
+        QCOMPARE(record.id(), exists ? id : QString());
+    }
+
+    void filters_data()
+    {
+        QTest::addColumn<ChipFilter>("filter");
+        QTest::addColumn<int>("count");
+        const auto row = [](const char *name, const char *field, const QString &value, int count) {
+            ChipFilter filter;
+            const QString text = QString::fromLatin1(field);
+            if (text == QLatin1String("id"))
+                filter.id = value;
+            else if (text == QLatin1String("series"))
+                filter.series = value;
+            else if (text == QLatin1String("device"))
+                filter.device = value;
+            else if (text == QLatin1String("package"))
+                filter.package = value;
+            else if (text == QLatin1String("speed"))
+                filter.speed = value;
+            else
+                filter.partNumber = value;
+            QTest::newRow(name) << filter << count;
+        };
+        const QString id = QStringLiteral("TV9K-1A-QFN88P-C8/I7");
+        QTest::newRow("nothing asked") << ChipFilter() << 6;
+        row("id", "id", id, 1);
+        row("name as id", "id", QStringLiteral("TV9K-1A"), 2);
+        row("name without version as id", "id", QStringLiteral("TV9K-1"), 0);
+        row("part of an id", "id", QStringLiteral("TV9K-1A-QFN88P"), 0);
+        row("id in lower case", "id", id.toLower(), 0);
+        row("series", "series", QStringLiteral("TV9K"), 4);
+        row("part of a series", "series", QStringLiteral("TV9"), 0);
+        row("device", "device", QStringLiteral("TV9K-1B"), 2);
+        row("id as device", "device", id, 0);
+        row("package", "package", QStringLiteral("PBGA256"), 3);
+        row("unknown package", "package", QStringLiteral("QFN88"), 0);
+        row("speed", "speed", QStringLiteral("C8/I7"), 6);
+        row("half a speed grade", "speed", QStringLiteral("C8"), 0);
+        row("part number", "part", QStringLiteral("TV9K-LV1QN88PC8/I7"), 2);
+        ChipFilter both;
+        both.id = QStringLiteral("TV9K-1A");
+        both.package = QStringLiteral("QFN88P");
+        QTest::newRow("name and package") << both << 1;
+        both.series = QStringLiteral("TV9KR");
+        QTest::newRow("fields that exclude each other") << both << 0;
+    }
+
+    void filters()
+    {
+        QFETCH(ChipFilter, filter);
+        QFETCH(int, count);
+        const QTemporaryDir dir;
+        QString error;
+        const DeviceDb db = DeviceDb::fromFolder(
+            folderWith(dir, series(entry("TV9K-1A", "A") + ',' + entry("TV9K-1B", "B") + ',' +
+                                   entry("TV9KR-2", ""))),
+            &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(db.filterDevice(filter).size(), count);
+        QVERIFY(DeviceDb().filterDevice(filter).isEmpty());
+    }
+
+    void filterKeepsTheOrderOfTheDatabase()
+    {
+        ChipFilter filter;
+        filter.speed = QStringLiteral("C8/I7");
+        const QList<DeviceArg> found = DeviceDb::bundled().filterDevice(filter);
+        QVERIFY(found.size() > 10);
+        const QList<DeviceArg> all = DeviceDb::bundled().devices();
+        int last = -1;
+        for (const DeviceArg &record : found) {
+            const int at = all.indexOf(record);
+            QVERIFY(at > last);
+            last = at;
+        }
+    }
+
+    void anOwnFolderOverridesTheBundledDevices()
+    {
+        const QTemporaryDir dir;
+        const QString folder = folderWith(dir, series(entry("TV9K-1A", "A")));
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("a first.json")),
+                                   series(entry("TV9KR-2", ""))));
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("notes.txt")), "no JSON"));
+        QString error = QStringLiteral("untouched");
+        const DeviceDb db = DeviceDb::fromFolder(folder, &error);
+        QCOMPARE(error, QStringLiteral("untouched"));
+        QStringList ids;
+        const QList<DeviceArg> devices = db.devices();
+        for (const DeviceArg &record : devices)
+            ids.append(record.id());
+        QCOMPARE(ids, (QStringList{QStringLiteral("TV9KR-2-QFN88P-C8/I7"),
+                                   QStringLiteral("TV9KR-2-PBGA256-C8/I7"),
+                                   QStringLiteral("TV9K-1A-QFN88P-C8/I7"),
+                                   QStringLiteral("TV9K-1A-PBGA256-C8/I7")}));
+        QVERIFY(db.findDevice(QStringLiteral("TV2KR-18C-QFN88P-C8/I7")).isNull());
+        QVERIFY(DeviceDb::bundled().findDevice(QStringLiteral("TV9KR-2-QFN88P-C8/I7")).isNull());
+    }
+
+    void namesABrokenDeviceFile_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("reason");
+        const auto row = [](const char *name, const QByteArray &text, const char *reason) {
+            QTest::newRow(name) << text << QString::fromLatin1(reason);
+        };
+        row("empty", "", "");
+        row("cut", series(entry("TV9K-1A", "A")).chopped(3), "");
+        row("no JSON", "devices: none", "");
+        row("an array", "[]", "lists no devices");
+        row("no devices", "{}", "lists no devices");
+        row("an empty list of devices", series(""), "lists no devices");
+        row("devices that are no list", "{\"devices\": \"all\"}", "lists no devices");
+        row("an entry that is no object", series("1"), "lacks");
+        row("no name", series("{\"packages\": [\"QFN88P\"], \"speeds\": [\"C8/I7\"]}"), "lacks");
+        row("no packages", series("{\"device\": \"TV9-1\", \"speeds\": [\"C8/I7\"]}"), "lacks");
+        row("no speeds", series("{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"]}"), "lacks");
+        row("a speed that is no text",
+            series("{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"], \"speeds\": [8]}"),
+            "speed");
+        row("an empty speed",
+            series("{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"], \"speeds\": [\"\"]}"),
+            "speed");
+        row("another version than in the name", series(entry("TV9K-1A", "B")), "TV9K-1A");
+        row("a version that is the whole size", series(entry("TV9K-1A", "1A")), "TV9K-1A");
+        row("a name without a hyphen", series(entry("TV9K1A", "A")), "TV9K1A");
+        row("a name without a series", series(entry("-1A", "A")), "-1A");
+        row("an unknown package",
+            series("{\"device\": \"TV9-1\", \"packages\": [\"X99\"], \"speeds\": [\"C8/I7\"]}"),
+            "X99");
+        row("the same device twice", series(entry("TV9-1", "") + ',' + entry("TV9-1", "")),
+            "occurs twice");
+    }
+
+    void namesABrokenDeviceFile()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, reason);
+        const QTemporaryDir dir;
+        const QString folder = folderWith(dir, text);
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("a good one.json")),
+                                   series(entry("TV9KR-2", ""))));
+        QString error;
+        QVERIFY(DeviceDb::fromFolder(folder, &error).isEmpty());
+        QVERIFY2(error.contains(dir.filePath(QStringLiteral("tv9.json"))), qPrintable(error));
+        QVERIFY2(error.contains(reason), qPrintable(error));
+        QVERIFY(DeviceDb::fromFolder(folder).isEmpty());
+    }
+
+    void namesABrokenPackagesFile_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("cut") << packages.chopped(2);
+        QTest::newRow("an array") << QByteArray("[]");
+        QTest::newRow("no codes") << QByteArray("{}");
+        QTest::newRow("codes that are no object") << QByteArray("{\"packageCodes\": [\"QN88\"]}");
+        QTest::newRow("a code that is no text")
+            << QByteArray("{\"packageCodes\": {\"QFN88P\": 8}}");
+        QTest::newRow("an empty code") << QByteArray("{\"packageCodes\": {\"QFN88P\": \"\"}}");
+    }
+
+    void namesABrokenPackagesFile()
+    {
+        QFETCH(QByteArray, text);
+        const QTemporaryDir dir;
+        const QString folder = folderWith(dir, series(entry("TV9K-1A", "A")));
+        const QString file = dir.filePath(QStringLiteral("packages.json"));
+        QVERIFY(TestSupport::write(file, text));
+        QString error;
+        QVERIFY(DeviceDb::fromFolder(folder, &error).isEmpty());
+        QVERIFY2(error.contains(file), qPrintable(error));
+    }
+
+    void namesAMissingPackagesFile()
+    {
+        const QTemporaryDir dir;
+        const QString folder = folderWith(dir, series(entry("TV9K-1A", "A")));
+        const QString file = dir.filePath(QStringLiteral("packages.json"));
+        QVERIFY(QFile::remove(file));
+        QString error;
+        QVERIFY(DeviceDb::fromFolder(folder, &error).isEmpty());
+        QVERIFY2(error.contains(file), qPrintable(error));
+    }
+
+    void namesAFolderThatCannotBeUsed()
+    {
+        const QTemporaryDir dir;
+        const QString missing = dir.filePath(QStringLiteral("missing \"%1\""));
+        QString error;
+        QVERIFY(DeviceDb::fromFolder(missing, &error).isEmpty());
+        QVERIFY2(error.contains(missing), qPrintable(error));
+        QVERIFY(DeviceDb::fromFolder(dir.path(), &error).isEmpty());
+        QVERIFY2(error.contains(dir.path()) && error.contains(QStringLiteral("no device file")),
+                 qPrintable(error));
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("packages.json")), packages));
+        error.clear();
+        QVERIFY(DeviceDb::fromFolder(dir.path(), &error).isEmpty());
+        QVERIFY2(error.contains(dir.path()) && error.contains(QStringLiteral("no device file")),
+                 qPrintable(error));
+        error.clear();
+        QVERIFY(
+            DeviceDb::fromFolder(dir.filePath(QStringLiteral("packages.json")), &error).isEmpty());
+        QVERIFY(error.contains(QStringLiteral("packages.json")));
+        error.clear();
+        QVERIFY(DeviceDb::fromFolder(QString(), &error).isEmpty());
+        QVERIFY(!error.isEmpty());
+    }
+
+    void namesADeviceFileThatCannotBeRead_data()
+    {
+        QTest::addColumn<bool>("dangling");
+        QTest::newRow("a link to nothing") << true;
+        QTest::newRow("a forbidden file") << false;
+    }
+
+    void namesADeviceFileThatCannotBeRead()
+    {
+        QFETCH(bool, dangling);
+        const QTemporaryDir dir;
+        const QString folder = folderWith(dir, series(entry("TV9K-1A", "A")));
+        const QString other = dir.filePath(QStringLiteral("tv9r.json"));
+        if (dangling) {
+            QVERIFY(QFile::link(QStringLiteral("nowhere"), other));
+        } else {
+            QVERIFY(TestSupport::write(other, series(entry("TV9R-1", ""))));
+            QCOMPARE(chmod(QFile::encodeName(other).constData(), 0), 0);
+        }
+        QCOMPARE(chmod(QFile::encodeName(dir.path()).constData(), 0755), 0);
+        QString error;
+        bool empty = false;
+        {
+            const TestSupport::Unprivileged user;
+            if (!dangling && !user.holds())
+                QSKIP("root cannot give up its rights here, and permissions do not bind it");
+            empty = DeviceDb::fromFolder(folder, &error).isEmpty();
+        }
+        QVERIFY(empty);
+        QVERIFY2(error.contains(other), qPrintable(error));
+    }
+
+    void aDefaultDeviceIsNull()
+    {
+        QVERIFY(DeviceArg().isNull());
+        QVERIFY(DeviceArg().id().isEmpty() && DeviceArg().series().isEmpty());
+        QVERIFY(DeviceArg() == DeviceArg());
+        QVERIFY(DeviceArg() != DeviceDb::bundled().devices().constFirst());
+        QVERIFY(!QVariant().value<DeviceArg>().id().size());
+        const DeviceArg first = DeviceDb::bundled().devices().constFirst();
+        QVERIFY(QVariant::fromValue(first).value<DeviceArg>() == first);
+    }
+};
+
+TARVO_TEST_MAIN(QCoreApplication, TestDeviceDb)
+#include "tst_devicedb.moc"

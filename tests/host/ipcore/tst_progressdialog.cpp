@@ -1,0 +1,168 @@
+#include <testsupport.h>
+
+#include <ipcore/progressdialog.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using IPCore::ProgressDialog;
+
+class TestProgressDialog : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QString label(const ProgressDialog &dialog, const char *name)
+    {
+        const auto *found = dialog.findChild<QLabel *>(QString::fromLatin1(name));
+        return found ? found->text() : QStringLiteral("no such label");
+    }
+
+    static QString log(const ProgressDialog &dialog)
+    {
+        const auto *found = dialog.findChild<QPlainTextEdit *>(QStringLiteral("logEdit"));
+        return found ? found->toPlainText() : QStringLiteral("no log");
+    }
+
+private Q_SLOTS:
+    void showsTheStageAsPlainText()
+    {
+        ProgressDialog dialog;
+        dialog.setStage(QStringLiteral("Reading <b>%1</b> & more"));
+        QCOMPARE(label(dialog, "stageLabel"), QStringLiteral("Reading <b>%1</b> & more"));
+        QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("stageLabel"))->textFormat(),
+                 Qt::PlainText);
+    }
+
+    void showsTheLogLineByLine()
+    {
+        ProgressDialog dialog;
+        dialog.appendLog(QStringLiteral("first <b>line</b>"));
+        dialog.appendLog(QString());
+        dialog.appendLog(QStringLiteral("third\nfourth %1"));
+        QCOMPARE(log(dialog), QStringLiteral("first <b>line</b>\n\nthird\nfourth %1"));
+        QVERIFY(dialog.findChild<QPlainTextEdit *>(QStringLiteral("logEdit"))->isReadOnly());
+    }
+
+    void keepsTheEndOfAVeryLongLog()
+    {
+        ProgressDialog dialog;
+        for (int line = 0; line < 30000; ++line)
+            dialog.appendLog(QString::number(line));
+        const QString text = log(dialog);
+        QVERIFY(text.endsWith(QStringLiteral("\n29999")));
+        QVERIFY(text.count(u'\n') < 25000);
+    }
+
+    void theClockRunsFromZero()
+    {
+        ProgressDialog dialog;
+        dialog.startClock();
+        QCOMPARE(label(dialog, "elapsedLabel"), QStringLiteral("0:00"));
+        QTRY_COMPARE(label(dialog, "elapsedLabel"), QStringLiteral("0:01"));
+        dialog.stopClock();
+        QCOMPARE(label(dialog, "elapsedLabel"), QStringLiteral("0:01"));
+        dialog.startClock();
+        QCOMPARE(label(dialog, "elapsedLabel"), QStringLiteral("0:00"));
+    }
+
+    void aNewRunStartsWithAnEmptyWindow()
+    {
+        ProgressDialog dialog;
+        dialog.startClock();
+        dialog.appendLog(QStringLiteral("old"));
+        dialog.setStage(QStringLiteral("Old stage"));
+        dialog.reject();
+        dialog.stopClock();
+        dialog.startClock();
+        QCOMPARE(log(dialog), QString());
+        QCOMPARE(label(dialog, "stageLabel"), QStringLiteral("Starting"));
+        QVERIFY(dialog.findChild<QPushButton *>()->isEnabledTo(&dialog));
+    }
+
+    void showsWhetherARunIsActive()
+    {
+        ProgressDialog dialog;
+        dialog.startClock();
+        const auto *bar = dialog.findChild<QProgressBar *>();
+        const auto *cancel = dialog.findChild<QPushButton *>();
+        QVERIFY(bar && cancel);
+        QCOMPARE(bar->maximum(), 0); // moves all the time
+        QVERIFY(cancel->isEnabledTo(&dialog));
+        dialog.stopClock();
+        QCOMPARE(bar->maximum(), 1);
+        QCOMPARE(bar->value(), 1);
+        QVERIFY(!cancel->isEnabledTo(&dialog));
+    }
+
+    void asksOnceForCancellation_data()
+    {
+        QTest::addColumn<QString>("way");
+        for (const char *way : {"Cancel", "Escape", "closing"})
+            QTest::newRow(way) << QString::fromLatin1(way);
+    }
+
+    void asksOnceForCancellation()
+    {
+        QFETCH(QString, way);
+        ProgressDialog dialog;
+        QSignalSpy asked(&dialog, &ProgressDialog::cancelRequested);
+        dialog.open();
+        dialog.startClock();
+        auto *cancel = dialog.findChild<QPushButton *>();
+        QVERIFY(cancel);
+        for (int turn = 0; turn < 2; ++turn) {
+            if (way == QLatin1String("Cancel"))
+                cancel->click();
+            else if (way == QLatin1String("Escape"))
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            else
+                QVERIFY(!dialog.close());
+            QCOMPARE(asked.count(), 1);
+            QVERIFY(dialog.isVisible());
+            QCOMPARE(label(dialog, "stageLabel"), QStringLiteral("Cancelling"));
+            QVERIFY(!cancel->isEnabled());
+        }
+        dialog.stopClock();
+        dialog.startClock();
+        dialog.reject();
+        QCOMPARE(asked.count(), 2);
+    }
+
+    void closesWithoutAskingWhenNothingRuns_data()
+    {
+        QTest::addColumn<bool>("afterARun");
+        QTest::newRow("before the first run") << false;
+        QTest::newRow("after a run") << true;
+    }
+
+    void closesWithoutAskingWhenNothingRuns()
+    {
+        QFETCH(bool, afterARun);
+        ProgressDialog dialog;
+        QSignalSpy asked(&dialog, &ProgressDialog::cancelRequested);
+        dialog.open();
+        if (afterARun) {
+            dialog.startClock();
+            dialog.stopClock();
+        }
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(asked.count(), 0);
+    }
+
+    void whatHasNoTextHasAName()
+    {
+        const ProgressDialog dialog;
+        QVERIFY(!dialog.findChild<QPlainTextEdit *>()->accessibleName().isEmpty());
+        QVERIFY(!dialog.findChild<QProgressBar *>()->accessibleName().isEmpty());
+    }
+};
+
+TARVO_TEST_MAIN(QApplication, TestProgressDialog)
+#include "tst_progressdialog.moc"

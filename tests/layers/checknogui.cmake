@@ -1,0 +1,21 @@
+# Fails if PROGRAM needs a library of Qt Gui, Widgets or a display system, itself or through others.
+#
+# -DPROGRAM=… or -DLIBRARY=…  -DOBJDUMP=…
+set(CMAKE_OBJDUMP ${OBJDUMP})
+set(CMAKE_GET_RUNTIME_DEPENDENCIES_PLATFORM linux+elf)
+if(PROGRAM)
+    set(which EXECUTABLES ${PROGRAM})
+else()
+    set(which LIBRARIES ${LIBRARY})
+endif()
+file(GET_RUNTIME_DEPENDENCIES ${which} RESOLVED_DEPENDENCIES_VAR found UNRESOLVED_DEPENDENCIES_VAR missing)
+if(missing)
+    message(FATAL_ERROR "libraries that are not found: ${missing}")
+endif()
+if(NOT found MATCHES "libQt5Core" OR NOT found MATCHES "libTarvoHostUtils")
+    message(FATAL_ERROR "the list of libraries cannot be whole: ${found}")
+endif()
+list(FILTER found INCLUDE REGEX "/lib(Qt5(Gui|Widgets|Svg|XcbQpa)|X11|xcb|wayland-client|GL|EGL|OpenGL)[.]so")
+if(found)
+    message(FATAL_ERROR "needs a display library: ${found}")
+endif()

@@ -1,0 +1,1 @@
+// Sources are compiled by nobody: the project is only configured.
