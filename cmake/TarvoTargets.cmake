@@ -106,8 +106,13 @@ function(tarvo_add_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_LOGGING_RULES=qt.qpa.*=false")
+    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false")
+    if(TARVO_SANITIZE)
+        # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
+        list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0
+            LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
 endfunction()
 
 # Stops the configuration when a target links one of a higher level.
