@@ -32,6 +32,7 @@ TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
     connect(ui->editCreateIn, SIGNAL(textChanged(QString)), this, SLOT(UpdateCreatinPath()));
 
     view = new IPView(&options, this);
+    view->setFitted(true);
     setContentWidget(view);
 }
 
