@@ -31,6 +31,7 @@ int runNew(Environment &environment, const NewArguments &arguments);
 int runGenerate(Environment &environment, const GenerateArguments &arguments);
 int runCheck(Environment &environment, const QString &file, bool json);
 int runSources(Environment &environment, const QString &file, bool json);
+int runPins(Environment &environment, const QString &file, bool json);
 int runOptions(bool json);
 int runDevices(Environment &environment, const QString &series, bool json);
 

@@ -133,6 +133,13 @@ int main(int argc, char *argv[])
     sourcesCommand->callback(
         [&] { command = [&] { return Cli::runSources(environment, text(file), json); }; });
 
+    CLI::App *pinsCommand =
+        app.add_subcommand("pins", "List the pins that the core has in a configuration");
+    addFile(pinsCommand);
+    addJson(pinsCommand);
+    pinsCommand->callback(
+        [&] { command = [&] { return Cli::runPins(environment, text(file), json); }; });
+
     CLI::App *optionsCommand =
         app.add_subcommand("options", "List all option keys with type, default and domain");
     addJson(optionsCommand);

@@ -52,6 +52,16 @@ constexpr ReducedRow reducedRows[] = {
 // All other devices, also those whose full list is shorter.
 constexpr int catchAllReducedIndex = 4;
 
+TcmOffer offer(const TcmSizes &sizes, bool limited, const QString &keep)
+{
+    TcmOffer result;
+    result.sizes = limited ? sizes.reduced : sizes.full;
+    result.current = result.sizes.indexOf(keep);
+    if (limited && result.current < 0)
+        result.current = result.sizes.size() - 1;
+    return result;
+}
+
 } // namespace
 
 QStringList tcmSizeList(int lastIndex)
@@ -82,6 +92,17 @@ TcmSizes tcmSizes(const QString &device)
     }
     sizes.reduced = tcmSizeList(reducedIndex);
     return sizes;
+}
+
+TcmOffers balancedTcmSizes(const QString &device, const QString &itcm, const QString &dtcm,
+                           bool bothInternal)
+{
+    const TcmSizes sizes = tcmSizes(device);
+    TcmOffers offers;
+    offers.dtcm = offer(sizes, bothInternal && itcm == sizes.largest, dtcm);
+    const QString settled = offers.dtcm.sizes.value(offers.dtcm.current);
+    offers.itcm = offer(sizes, bothInternal && settled == sizes.largest, itcm);
+    return offers;
 }
 
 } // namespace TARVOORIXM1

@@ -22,4 +22,23 @@ TcmSizes tcmSizes(const QString &device);
 // "1 KB" up to the size with this index (at most 9, "512 KB"); none for a negative index.
 QStringList tcmSizeList(int lastIndex);
 
+// What one memory's combo box offers, and the selected index; -1: nothing is selected.
+struct TcmOffer {
+    QStringList sizes;
+    int current = -1;
+};
+
+struct TcmOffers {
+    TcmOffer itcm;
+    TcmOffer dtcm;
+};
+
+// What both memories are offered after a change of size, given the two selected texts: where both
+// are internal, one gets the reduced list while the other has the largest size. The DTCM is settled
+// first. A selection that the new list lacks becomes the last entry of a reduced list, and none in
+// a full list. The tables are taken as they are: a reduced list may be as long as the full one, or
+// longer.
+TcmOffers balancedTcmSizes(const QString &device, const QString &itcm, const QString &dtcm,
+                           bool bothInternal);
+
 } // namespace TARVOORIXM1

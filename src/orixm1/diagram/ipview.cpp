@@ -1,14 +1,239 @@
 #include "ipview.h"
 
 #include "config/optionkeys.h"
+#include "core/cortexm1.h"
+#include "diagrampicture.h"
+#include "diagramtable.h"
+#include "ipitem.h"
+#include "lineitem.h"
+#include "ui/messagebox.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QGraphicsTextItem>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolButton>
 
 namespace TARVOORIXM1
 {
 
+namespace
+{
+
+constexpr qreal zoomInFactor = 1.2;
+constexpr qreal zoomOutFactor = 0.8;
+constexpr qreal largestScale = 4.0;
+constexpr qreal smallestScale = 0.1;
+constexpr qreal sceneMargin = 5;
+
+// The blocks that a device may lack, by the option key that they are registered under. SPI-Flash is
+// registered under the key of SPI.
+struct AvailabilityRow {
+    QLatin1String key;
+    QLatin1String block;
+};
+
+constexpr AvailabilityRow availabilityRows[] = {
+    {Key::enableCan, QLatin1String("CAN")},           {Key::enableDdr3, QLatin1String("DDR3")},
+    {Key::enableEthernet, QLatin1String("Ethernet")}, {Key::enablePsram, QLatin1String("PSRAM")},
+    {Key::enableSpi, QLatin1String("SPI-Flash")},
+};
+
+// The diagram is paper: white in every theme.
+constexpr Qt::GlobalColor paper = Qt::white;
+
+QColor fillColor(DiagramRow::Fill fill)
+{
+    switch (fill) {
+    case DiagramRow::White:
+        return Qt::white;
+    case DiagramRow::LightBlue:
+        return {173, 216, 230};
+    case DiagramRow::Nothing:
+        break;
+    }
+    return Qt::transparent;
+}
+
+QList<QPoint> linePoints(const DiagramRow &row)
+{
+    QList<QPoint> points;
+    for (int i = 0; i < row.pointCount; ++i)
+        points.append(row.points[i]);
+    return points;
+}
+
+// Whether every block's label fits its block.
+bool doLabelsFit(const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    for (const DiagramRow &row : diagramRows()) {
+        if (row.kind != DiagramRow::Block || row.text.size() == 0)
+            continue;
+        const QRectF room(1, 1, row.width - 2, row.height - 2);
+        if (!room.contains(
+                metrics.boundingRect(room, int(Qt::AlignCenter) | Qt::TextWordWrap, row.text)))
+            return false;
+    }
+    return true;
+}
+
+// The user's font in the largest size, up to the user's own, that fits all blocks. In scene units,
+// as blocks are, so that it fits at every scale and resolution.
+QFont fittingFont(const QFont &font)
+{
+    constexpr int smallest = 4;
+    QFont result = font;
+    result.setHintingPreference(QFont::PreferNoHinting); // alike at every scale
+    for (int size = QFontInfo(font).pixelSize(); size >= smallest; --size) {
+        result.setPixelSize(size);
+        if (doLabelsFit(result))
+            break;
+    }
+    return result;
+}
+
+// How a slot is named where a connection is made.
+QByteArray slotSignature(const char *slot)
+{
+    return QByteArray::number(QSLOT_CODE) + slot;
+}
+
+} // namespace
+
 IPView::IPView(OptionMap *options, QWidget *parent)
     : QGraphicsView(parent)
+    , m_scene(new QGraphicsScene(this))
     , m_options(options)
 {
+    setScene(m_scene);
+    setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    setFocusPolicy(Qt::StrongFocus);
+    viewport()->setMouseTracking(true);
+    buildScene();
+    buildButtons();
+    updateLabelFont();
+    announceFocus();
+
+    auto *savePicture = new QAction(tr("Save Picture As..."), this);
+    connect(savePicture, SIGNAL(triggered()), this, SLOT(onSavePicture()));
+    addAction(savePicture);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void IPView::buildScene()
+{
+    IPItem *parents[] = {nullptr, nullptr, nullptr};
+    int nextParent = DiagramRow::Frame;
+    for (const DiagramRow &row : diagramRows()) {
+        QGraphicsItem *item = nullptr;
+        QGraphicsItem *parent = parents[row.parent];
+        if (row.kind == DiagramRow::Text) {
+            auto *label = new QGraphicsTextItem(row.text, parent);
+            label->setDefaultTextColor(Qt::black);
+            item = label;
+        } else if (row.kind == DiagramRow::Line) {
+            auto *line = new LineItem(linePoints(row), row.dashed,
+                                      row.color == DiagramRow::Red ? Qt::red : Qt::black,
+                                      row.startHead, row.endHead, parent);
+            if (row.dropOf.size() > 0)
+                m_dropByLabel.insert(row.dropOf, line);
+            item = line;
+        } else {
+            auto *block = new IPItem(row.width, row.height, row.slot != nullptr, false, Qt::black,
+                                     fillColor(row.fill), row.text, parent);
+            if (nextParent <= DiagramRow::SubSystem)
+                parents[nextParent++] = block;
+            if (row.toolTip.size() > 0)
+                block->setToolTip(row.toolTip);
+            if (row.slot) {
+                m_blockByLabel.insert(row.text, block);
+                m_slotByLabel.insert(row.text, row.slot);
+                m_clickOrder.append(block);
+                connect(block, SIGNAL(doubleClicked()), this, slotSignature(row.slot).constData());
+            }
+            if (row.ports > 0)
+                m_portBlocks.append({block, row.key, row.ports});
+            else if (row.key.size() > 0)
+                m_blocks.insert(row.key, block);
+            else
+                m_stateless.insert(block);
+            item = block;
+        }
+        item->setPos(row.x, row.y);
+        if (!parent)
+            m_scene->addItem(item);
+    }
+    m_scene->setBackgroundBrush(paper);
+    m_scene->setSceneRect(parents[DiagramRow::Frame]->boundingRect().adjusted(
+        -sceneMargin, -sceneMargin, sceneMargin, sceneMargin));
+}
+
+void IPView::buildButtons()
+{
+    const auto makeButton = [this](const QString &icon, const QString &name, const char *slot) {
+        auto *button = new QToolButton(this);
+        button->setIcon(QIcon(icon));
+        button->setToolTip(name);
+        button->setAccessibleName(name);
+        button->setCursor(Qt::ArrowCursor); // not the view's hand
+        connect(button, SIGNAL(clicked()), this, slot);
+        return button;
+    };
+    m_zoomOutButton =
+        makeButton(QStringLiteral(":/image/zoom_out.png"), tr("Zoom out"), SLOT(zoomOut()));
+    m_zoomInButton =
+        makeButton(QStringLiteral(":/image/zoom_in.png"), tr("Zoom in"), SLOT(zoomIn()));
+}
+
+// Opening and updating
+
+template <class Dialog>
+void IPView::openDialog()
+{
+    Dialog dialog(m_options, this);
+    if (dialog.exec() == QDialog::Accepted)
+        updateView();
+}
+
+void IPView::onCortexM1()
+{
+    openDialog<CortexM1>();
+}
+
+// Blocks that have no dialog yet.
+void IPView::onGpio() {}
+void IPView::onCan() {}
+void IPView::onEhternet() {}
+void IPView::onDDR3() {}
+void IPView::onPsram() {}
+void IPView::onSpiFlash() {}
+void IPView::onSDCard() {}
+void IPView::onAHB2Extension() {}
+void IPView::onUart() {}
+void IPView::onTimer() {}
+void IPView::onWatchDog() {}
+void IPView::onRtc() {}
+void IPView::onI2C() {}
+void IPView::onSPI() {}
+void IPView::onTRNG() {}
+void IPView::onDualTimer() {}
+void IPView::onAPB2Extension() {}
+
+void IPView::updateView()
+{
+    for (auto it = m_blocks.cbegin(); it != m_blocks.cend(); ++it)
+        it.value()->onConfigured(m_options->value(it.key()).toBool());
+    for (const PortBlock &entry : qAsConst(m_portBlocks)) {
+        bool any = false;
+        for (int port = 1; port <= entry.ports && !any; ++port)
+            any = m_options->value(Key::extensionPortKey(entry.keyPrefix, port)).toBool();
+        entry.block->onConfigured(any);
+    }
+    announceFocus();
 }
 
 void IPView::setCanAvailable(bool available)
@@ -36,18 +261,298 @@ void IPView::setSpiFlashAvailable(bool available)
     setAvailable(Key::enableSpi, available);
 }
 
-void IPView::setAvailable(const QString &key, bool available)
+void IPView::setAvailable(QLatin1String key, bool available)
 {
-    if (available)
-        m_available.insert(key);
-    else
-        m_available.remove(key);
+    QString label;
+    for (const AvailabilityRow &row : availabilityRows) {
+        if (row.key == key)
+            label = row.block;
+    }
+    IPItem *block = m_blockByLabel.value(label);
+    const QByteArray slot = slotSignature(m_slotByLabel.value(label));
+    if (available) {
+        m_availableBlocks.insert(key, block);
+        connect(block, SIGNAL(doubleClicked()), this, slot.constData(), Qt::UniqueConnection);
+    } else {
+        m_availableBlocks.remove(key);
+        disconnect(block, SIGNAL(doubleClicked()), this, slot.constData());
+        if (block == m_focused)
+            setFocusedBlock(nullptr);
+    }
+    block->setClickable(available);
+    block->setVisible(available);
+    m_dropByLabel.value(label)->setVisible(available);
     updateView();
 }
 
-void IPView::updateView()
+// Zoom
+
+void IPView::scaleTo(qreal horizontal, qreal vertical)
 {
-    viewport()->update();
+    setTransform(QTransform::fromScale(horizontal, vertical));
+}
+
+void IPView::zoomIn()
+{
+    m_fitted = false;
+    scaleTo(qMin(transform().m11() * zoomInFactor, largestScale),
+            qMin(transform().m22() * zoomInFactor, largestScale));
+}
+
+void IPView::zoomOut()
+{
+    m_fitted = false;
+    scaleTo(qMax(transform().m11() * zoomOutFactor, smallestScale),
+            qMax(transform().m22() * zoomOutFactor, smallestScale));
+}
+
+void IPView::setFitted(bool fitted)
+{
+    m_fitted = fitted;
+    if (fitted)
+        fit();
+}
+
+void IPView::fit()
+{
+    const QSize room = maximumViewportSize();
+    // A little less than what fits, so that rounding never brings in a scroll bar.
+    constexpr qreal slack = 0.999;
+    const qreal scale =
+        qMin(room.width() / sceneRect().width(), room.height() / sceneRect().height()) * slack;
+    const qreal bounded = qBound(smallestScale, scale, largestScale);
+    scaleTo(bounded, bounded);
+}
+
+void IPView::wheelEvent(QWheelEvent *event)
+{
+    const ViewportAnchor before = transformationAnchor();
+    setTransformationAnchor(AnchorUnderMouse);
+    if (event->angleDelta().y() > 0)
+        zoomIn();
+    else if (event->angleDelta().y() < 0)
+        zoomOut();
+    setTransformationAnchor(before);
+    QGraphicsView::wheelEvent(event);
+}
+
+void IPView::resizeEvent(QResizeEvent *event)
+{
+    const int extent = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    int spacing = style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, this);
+    if (spacing < 0)
+        spacing = style()->layoutSpacing(QSizePolicy::ToolButton, QSizePolicy::ToolButton,
+                                         Qt::Vertical, nullptr, this);
+    const QPoint corner(width() - 2 - extent, height() - 2 - extent);
+    QRect out(QPoint(), m_zoomOutButton->sizeHint());
+    out.moveBottomRight(corner);
+    m_zoomOutButton->setGeometry(out);
+    QRect in(QPoint(), m_zoomInButton->sizeHint());
+    in.moveBottomRight({corner.x(), out.top() - spacing});
+    m_zoomInButton->setGeometry(in);
+    QGraphicsView::resizeEvent(event);
+    if (m_fitted)
+        fit();
+}
+
+// Mouse
+
+IPItem *IPView::topBlockAt(const QPoint &position) const
+{
+    const QList<QGraphicsItem *> under = items(position);
+    for (QGraphicsItem *item : under) {
+        if (auto *block = qgraphicsitem_cast<IPItem *>(item))
+            return block;
+    }
+    return nullptr;
+}
+
+void IPView::mousePressEvent(QMouseEvent *event)
+{
+    setFocusedBlock(nullptr);
+    if (event->button() == Qt::LeftButton && !m_panning) {
+        const IPItem *block = topBlockAt(event->pos());
+        if (!block || !block->isClickable()) {
+            m_panning = true;
+            m_lastPos = event->pos();
+            setCursor(Qt::ClosedHandCursor);
+        }
+    }
+    QGraphicsView::mousePressEvent(event);
+}
+
+void IPView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_panning) {
+        const QPoint moved = event->pos() - m_lastPos;
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - moved.x());
+        verticalScrollBar()->setValue(verticalScrollBar()->value() - moved.y());
+        m_lastPos = event->pos();
+    } else {
+        const IPItem *block = topBlockAt(event->pos());
+        setCursor(block && block->isClickable() ? Qt::ArrowCursor : Qt::OpenHandCursor);
+    }
+    QGraphicsView::mouseMoveEvent(event);
+}
+
+void IPView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && m_panning) {
+        m_panning = false;
+        setCursor(Qt::OpenHandCursor);
+    }
+    QGraphicsView::mouseReleaseEvent(event);
+}
+
+// Keyboard
+
+QList<IPItem *> IPView::clickableBlocks() const
+{
+    QList<IPItem *> blocks;
+    for (IPItem *block : m_clickOrder) {
+        if (block->isClickable() && block->isVisible())
+            blocks.append(block);
+    }
+    return blocks;
+}
+
+bool IPView::focusNextPrevChild(bool next)
+{
+    const QList<IPItem *> blocks = clickableBlocks();
+    const int current = m_focused ? blocks.indexOf(m_focused) : next ? -1 : blocks.size();
+    IPItem *following = blocks.value(current + (next ? 1 : -1));
+    setFocusedBlock(following);
+    return following || QGraphicsView::focusNextPrevChild(next);
+}
+
+void IPView::focusInEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusInEvent(event);
+    const QList<IPItem *> blocks = clickableBlocks();
+    if (event->reason() == Qt::TabFocusReason)
+        setFocusedBlock(blocks.value(0));
+    else if (event->reason() == Qt::BacktabFocusReason)
+        setFocusedBlock(blocks.value(blocks.size() - 1));
+    else
+        updateFocusFrame();
+}
+
+void IPView::focusOutEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusOutEvent(event);
+    updateFocusFrame();
+}
+
+void IPView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (m_focused)
+            Q_EMIT m_focused->doubleClicked();
+        else
+            event->ignore();
+        return;
+    }
+    if (event->matches(QKeySequence::ZoomIn))
+        zoomIn();
+    else if (event->matches(QKeySequence::ZoomOut))
+        zoomOut();
+    else if (event->key() == Qt::Key_0 && event->modifiers() == Qt::ControlModifier)
+        setFitted(true);
+    else
+        QGraphicsView::keyPressEvent(event);
+}
+
+void IPView::setFocusedBlock(IPItem *block)
+{
+    if (block != m_focused) {
+        updateFocusFrame();
+        m_focused = block;
+        updateFocusFrame();
+        if (block)
+            ensureVisible(block);
+    }
+    announceFocus();
+}
+
+void IPView::announceFocus()
+{
+    if (!m_focused) {
+        setAccessibleName(tr("Block diagram"));
+        return;
+    }
+    const QString state = m_focused->isActive() ? tr("switched on") : tr("switched off");
+    setAccessibleName(m_stateless.contains(m_focused)
+                          ? m_focused->text()
+                          : QString(m_focused->text() + QLatin1String(", ") + state));
+}
+
+QRectF IPView::focusFrame() const
+{
+    constexpr qreal distance = 4;
+    return m_focused
+               ? m_focused->sceneBoundingRect().adjusted(-distance, -distance, distance, distance)
+               : QRectF();
+}
+
+void IPView::updateFocusFrame()
+{
+    if (m_focused)
+        m_scene->invalidate(focusFrame().adjusted(-2, -2, 2, 2), QGraphicsScene::ForegroundLayer);
+}
+
+void IPView::drawForeground(QPainter *painter, const QRectF & /*rect*/)
+{
+    if (!m_focused || !hasFocus())
+        return;
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter->drawRoundedRect(focusFrame(), 3, 3);
+}
+
+// Font and pictures
+
+void IPView::changeEvent(QEvent *event)
+{
+    QGraphicsView::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        updateLabelFont();
+}
+
+void IPView::updateLabelFont()
+{
+    m_labelFont = fittingFont(font());
+    viewport()->setFont(m_labelFont); // what items are painted with
+    const QList<QGraphicsItem *> all = m_scene->items();
+    for (QGraphicsItem *item : all) {
+        if (auto *label = qgraphicsitem_cast<QGraphicsTextItem *>(item))
+            label->setFont(m_labelFont);
+    }
+}
+
+void IPView::renderDiagram(QPainter *painter, const QRectF &target) const
+{
+    painter->save();
+    painter->setFont(m_labelFont);
+    painter->setRenderHints(renderHints());
+    m_scene->render(painter, target, sceneRect(), Qt::KeepAspectRatio);
+    painter->restore();
+}
+
+bool IPView::saveDiagram(const QString &path, QString *error) const
+{
+    return writePicture(
+        path, sceneRect().size().toSize(),
+        [this](QPainter *painter, const QRectF &target) { renderDiagram(painter, target); }, error);
+}
+
+void IPView::onSavePicture()
+{
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save Picture"), QString(),
+                                     tr("Drawing (*.svg);;Picture (*.png);;Document (*.pdf)"));
+    QString error;
+    if (!path.isEmpty() && !saveDiagram(path, &error))
+        showErrorBox(this, error);
 }
 
 } // namespace TARVOORIXM1

@@ -3,12 +3,21 @@
 #include "config/optionmap.h"
 
 #include <QGraphicsView>
+#include <QHash>
+#include <QList>
+#include <QMap>
 #include <QSet>
+
+QT_FORWARD_DECLARE_CLASS(QToolButton)
 
 namespace TARVOORIXM1
 {
 
-// The picture of the subsystem. Works on the caller's option map, which must outlive it.
+class IPItem;
+class LineItem;
+
+// The picture of the subsystem: a double-click on a block, or Enter on the one that Tab has
+// focused, opens the block's dialog. Works on the caller's option map, which must outlive it.
 class IPView : public QGraphicsView
 {
     Q_OBJECT
@@ -16,6 +25,7 @@ class IPView : public QGraphicsView
 public:
     IPView(OptionMap *options, QWidget *parent = nullptr);
 
+    // Show or hide the blocks that not every device can have.
     void setCanAvailable(bool available);
     void setDdr3Available(bool available);
     void setEthernetAvailable(bool available);
@@ -23,17 +33,105 @@ public:
     void setSpiFlashAvailable(bool available);
 
     // Whether the block registered under this option key is offered.
-    bool isBlockAvailable(const QString &key) const { return m_available.contains(key); }
+    bool isBlockAvailable(const QString &key) const { return m_availableBlocks.contains(key); }
+
+    // Scales the diagram so that all of it is seen, now and after every change of size, until the
+    // user zooms. Off at first: the scale is 1.
+    void setFitted(bool fitted);
+    bool isFitted() const { return m_fitted; }
+
+    // The block that the keyboard has reached; null if none.
+    IPItem *focusedBlock() const { return m_focused; }
+
+    // Draws the whole diagram as it is now, without the focus frame, into `target`, keeping its
+    // proportions.
+    void renderDiagram(QPainter *painter, const QRectF &target) const;
+    // The format follows from the ending: .svg, .png or .pdf. False, and a sentence in `*error`, if
+    // it is another one or the file cannot be written.
+    bool saveDiagram(const QString &path, QString *error) const;
 
 public Q_SLOTS:
+    void zoomOut();
+    void zoomIn();
     // Shows the state of the option map.
     void updateView();
+    void onCortexM1();
+    void onGpio();
+    void onCan();
+    void onEhternet();
+    void onDDR3();
+    void onPsram();
+    void onSpiFlash();
+    void onSDCard();
+    void onAHB2Extension();
+    void onUart();
+    void onTimer();
+    void onWatchDog();
+    void onRtc();
+    void onI2C();
+    void onSPI();
+    void onTRNG();
+    void onDualTimer();
+    void onAPB2Extension();
+
+private Q_SLOTS:
+    void onSavePicture();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    bool focusNextPrevChild(bool next) override;
+    void drawForeground(QPainter *painter, const QRectF &rect) override;
 
 private:
-    void setAvailable(const QString &key, bool available);
+    // A block that any of several options switches on.
+    struct PortBlock {
+        IPItem *block;
+        QLatin1String keyPrefix;
+        int ports;
+    };
 
+    void buildScene();
+    void buildButtons();
+    void setAvailable(QLatin1String key, bool available);
+    // Runs the block's dialog on the option map.
+    template <class Dialog>
+    void openDialog();
+
+    IPItem *topBlockAt(const QPoint &position) const;
+    QList<IPItem *> clickableBlocks() const;
+    void setFocusedBlock(IPItem *block);
+    void announceFocus();
+    void updateFocusFrame();
+    QRectF focusFrame() const;
+    void scaleTo(qreal horizontal, qreal vertical);
+    void fit();
+    void updateLabelFont();
+
+    QGraphicsScene *m_scene;
+    QToolButton *m_zoomOutButton;
+    QToolButton *m_zoomInButton;
+    bool m_panning = false;
+    QPoint m_lastPos; // while panning
+    QHash<QString, IPItem *> m_availableBlocks;
     OptionMap *m_options;
-    QSet<QString> m_available;
+    QMap<QString, IPItem *> m_blocks; // those whose look one option decides
+    QList<PortBlock> m_portBlocks;
+    QHash<QString, IPItem *> m_blockByLabel; // the clickable ones
+    QHash<QString, LineItem *> m_dropByLabel;
+    QHash<QString, const char *> m_slotByLabel;
+    QSet<IPItem *> m_stateless;   // blocks that never show whether they are on
+    QList<IPItem *> m_clickOrder; // as Tab walks
+    QFont m_labelFont;
+    IPItem *m_focused = nullptr;
+    bool m_fitted = false;
 };
 
 } // namespace TARVOORIXM1

@@ -5,6 +5,7 @@
 #include "config/devicerules.h"
 #include "config/ipcfile.h"
 #include "config/optionkeys.h"
+#include "core/itcmpath.h"
 #include "diagram/ipview.h"
 #include "generate/defines.h"
 #include "generate/outputs.h"
@@ -16,8 +17,6 @@
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
 
-#include <QDir>
-#include <QFileInfo>
 #include <QSettings>
 
 namespace TARVOORIXM1
@@ -33,6 +32,7 @@ TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
     connect(ui->editCreateIn, SIGNAL(textChanged(QString)), this, SLOT(UpdateCreatinPath()));
 
     view = new IPView(&options, this);
+    view->setFitted(true);
     setContentWidget(view);
 }
 
@@ -75,17 +75,11 @@ bool TarvoOrixM1Dlg::checkItcmInitPath()
     // An absent entry means internal, as it does for generation.
     if (!options.value(Key::internalInstructionMemory, true).toBool())
         return true;
-    QString path = options.value(Key::itcmInitializationPath).toString();
-    if (path.isEmpty()) {
-        showErrorBox(this, QStringLiteral("ITCM Initialization Path is empty."));
-        return false;
-    }
-    if (QFileInfo(path).isRelative())
-        path = QFileInfo(createInPath() + u'/' + path).absoluteFilePath();
-    // The option names a folder of files, so a file does not do.
-    if (QDir(path).exists())
+    const QString error =
+        itcmPathError(options.value(Key::itcmInitializationPath).toString(), createInPath());
+    if (error.isEmpty())
         return true;
-    showErrorBox(this, QStringLiteral("ITCM Initialization Path is not exist."));
+    showErrorBox(this, error);
     return false;
 }
 

@@ -1,0 +1,76 @@
+#include "commands.h"
+
+#include "environment.h"
+#include "ipcdocument.h"
+#include "output.h"
+
+#include <core/corepins.h>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+struct BlockPin {
+    QString block;
+    Utils::PinFigure pin;
+};
+
+QList<BlockPin> allPins(const OptionMap &options)
+{
+    QList<BlockPin> pins;
+    const QList<Utils::PinFigure> ofCore = corePins(coreSwitches(options));
+    for (const Utils::PinFigure &pin : ofCore)
+        pins.append({QStringLiteral("Cortex-M1"), pin});
+    return pins;
+}
+
+QString directionName(const Utils::PinFigure &pin)
+{
+    static const QString names[] = {QStringLiteral("input"), QStringLiteral("output"),
+                                    QStringLiteral("inout")};
+    return names[pin.direction()];
+}
+
+} // namespace
+
+int runPins(Environment &environment, const QString &file, bool json)
+{
+    if (!environment.devices())
+        return BadInput;
+    IpcDocument document;
+    QString error;
+    if (!IpcDocument::read(file, *environment.devices(), &document, &error)) {
+        printError(error);
+        return BadInput;
+    }
+    const QList<BlockPin> pins = allPins(document.options);
+    if (json) {
+        QJsonArray list;
+        for (const BlockPin &entry : pins) {
+            list.append(QJsonObject{{QStringLiteral("block"), entry.block},
+                                    {QStringLiteral("name"), entry.pin.name()},
+                                    {QStringLiteral("direction"), directionName(entry.pin)},
+                                    {QStringLiteral("bus"), entry.pin.isBus()}});
+        }
+        printJson({{QStringLiteral("pins"), list}});
+        return Done;
+    }
+    int nameWidth = 3;
+    for (const BlockPin &entry : pins)
+        nameWidth = qMax(nameWidth, entry.pin.name().size());
+    const auto print = [nameWidth](const QString &name, const QString &direction,
+                                   const QString &block) {
+        printLine(name.leftJustified(nameWidth) + QLatin1String("  ") + direction.leftJustified(9) +
+                  QLatin1String("  ") + block);
+    };
+    print(QStringLiteral("PIN"), QStringLiteral("DIRECTION"), QStringLiteral("BLOCK"));
+    for (const BlockPin &entry : pins)
+        print(entry.pin.name(), directionName(entry.pin), entry.block);
+    return Done;
+}
+
+} // namespace Cli

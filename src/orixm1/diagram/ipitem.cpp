@@ -1,0 +1,93 @@
+#include "ipitem.h"
+
+#include "hairline.h"
+
+#include <QGraphicsSceneMouseEvent>
+#include <QPainter>
+#include <QStyleOptionGraphicsItem>
+
+namespace TARVOORIXM1
+{
+
+IPItem::IPItem(int width, int height, bool clickable, bool rounded, const QColor &outlineColor,
+               const QColor &fillColor, const QString &text, QGraphicsItem *parent)
+    : QGraphicsObject(parent)
+    , m_width(width)
+    , m_height(height)
+    , m_clickable(clickable)
+    , m_rounded(rounded)
+    , m_outlineColor(outlineColor)
+    , m_fillColor(fillColor)
+    , m_text(text)
+{
+    setFlag(ItemIsSelectable);
+    setAcceptHoverEvents(true);
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+QRectF IPItem::boundingRect() const
+{
+    return {0, 0, qreal(m_width), qreal(m_height)};
+}
+
+QRectF IPItem::textRect() const
+{
+    return boundingRect().adjusted(1, 1, -1, -1);
+}
+
+void IPItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget * /*widget*/)
+{
+    QColor outline = m_outlineColor;
+    QColor fill = m_fillColor;
+    if (m_clickable) {
+        outline = Qt::black;
+        if (m_active)
+            fill = Qt::darkGreen;
+        else
+            fill = option->state & QStyle::State_MouseOver ? Qt::cyan : Qt::white;
+    }
+
+    constexpr qreal radius = 10.0;
+    painter->save();
+    painter->setPen(outline);
+    painter->setBrush(fill);
+    if (m_rounded) {
+        painter->drawRoundedRect(boundingRect(), radius, radius);
+    } else {
+        if (isHairline(painter))
+            painter->setRenderHint(QPainter::Antialiasing, false);
+        painter->drawRect(boundingRect());
+    }
+    painter->restore();
+
+    if (m_text.isEmpty())
+        return;
+    painter->save();
+    painter->setPen(Qt::black);
+    painter->drawText(textRect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_text);
+    painter->restore();
+}
+
+void IPItem::setClickable(bool clickable)
+{
+    if (clickable == m_clickable)
+        return;
+    m_clickable = clickable;
+    update();
+}
+
+void IPItem::onConfigured(bool on)
+{
+    if (on == m_active)
+        return;
+    m_active = on;
+    update();
+}
+
+void IPItem::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
+{
+    Q_EMIT doubleClicked();
+    QGraphicsObject::mouseDoubleClickEvent(event);
+}
+
+} // namespace TARVOORIXM1
