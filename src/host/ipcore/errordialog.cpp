@@ -29,6 +29,8 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     heading->setTextFormat(Qt::PlainText);
     heading->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     heading->setWordWrap(true);
+    heading->setMinimumWidth(fontMetrics().averageCharWidth() *
+                             50); // a wrapping label has no width of its own
 
     QStringList lines = details;
     lines.removeAll(QString());
@@ -40,6 +42,7 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     m_details->setPlainText(lines.join(u'\n'));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     auto *copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
     copy->setObjectName(QStringLiteral("copyButton"));
     connect(copy, &QPushButton::clicked, this, &ErrorDialog::copyAll);
