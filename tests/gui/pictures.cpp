@@ -1,0 +1,55 @@
+// Saves pictures of the windows as the user guide shows them: pictures FOLDER.
+
+#include <config/descriptor.h>
+#include <core/cortexm1.h>
+#include <ipcore/ipcore.h>
+#include <ui/tarvoorixm1dlg.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+bool save(QWidget &window, const QString &path)
+{
+    window.show();
+    for (int i = 0; i < 5; ++i)
+        QApplication::processEvents();
+    if (window.grab().save(path))
+        return true;
+    std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    const QDir folder(QApplication::arguments().value(1));
+    const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    QVariantMap ipInfo = IPCore::processIPInfoSpec(descriptorPath(data));
+    addDataFolders(ipInfo, data);
+
+    TarvoOrixM1Dlg dialog(ipInfo);
+    if (!dialog.prepareOpen(QStringLiteral("/home/me/sensor-node"),
+                            QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc")))
+        return 1;
+    if (!save(dialog, folder.filePath(QStringLiteral("dialog.png"))))
+        return 1;
+
+    OptionMap options = dialog.currentOptions();
+    CortexM1 core(&options);
+    core.tabWidget()->setCurrentIndex(2);
+    core.show();
+    core.resize(960, 790); // the headless screen is smaller than a desktop
+    return save(core, folder.filePath(QStringLiteral("core.png"))) ? 0 : 1;
+}
