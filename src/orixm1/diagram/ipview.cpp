@@ -371,8 +371,8 @@ void IPView::mousePressEvent(QMouseEvent *event)
 {
     setFocusedBlock(nullptr);
     if (event->button() == Qt::LeftButton && !m_panning) {
-        const IPItem *block = topBlockAt(event->pos());
-        if (!block || !block->isClickable()) {
+        m_pressedBlock = topBlockAt(event->pos());
+        if (!m_pressedBlock || !m_pressedBlock->isClickable()) {
             m_panning = true;
             m_lastPos = event->pos();
             setCursor(Qt::ClosedHandCursor);
@@ -402,6 +402,28 @@ void IPView::mouseReleaseEvent(QMouseEvent *event)
         setCursor(Qt::OpenHandCursor);
     }
     QGraphicsView::mouseReleaseEvent(event);
+}
+
+void IPView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // The scene takes a double-click for a mere press if the press before it was on another item,
+    // or if there was none, as when a tool sends it.
+    if (event->button() == Qt::LeftButton && topBlockAt(event->pos()) != m_pressedBlock) {
+        m_pressedBlock = topBlockAt(event->pos());
+        QMouseEvent press(QEvent::MouseButtonPress, event->localPos(), event->screenPos(),
+                          event->button(), event->buttons(), event->modifiers());
+        QGraphicsView::mousePressEvent(&press);
+        QMouseEvent release(QEvent::MouseButtonRelease, event->localPos(), event->screenPos(),
+                            event->button(), event->buttons() & ~event->button(),
+                            event->modifiers());
+        QGraphicsView::mouseReleaseEvent(&release);
+    }
+    QGraphicsView::mouseDoubleClickEvent(event);
+
+    // A dialog that came up swallows the button's release. Without it the block would keep the
+    // mouse and get the next click, wherever that goes.
+    if (QGraphicsItem *grabber = m_scene->mouseGrabberItem())
+        grabber->ungrabMouse();
 }
 
 // Keyboard
@@ -476,14 +498,15 @@ void IPView::setFocusedBlock(IPItem *block)
 
 void IPView::announceFocus()
 {
-    if (!m_focused) {
-        setAccessibleName(tr("Block diagram"));
-        return;
+    QString name = tr("Block diagram");
+    if (m_focused) {
+        name = m_focused->text();
+        if (!m_stateless.contains(m_focused))
+            name += QLatin1String(", ") +
+                    (m_focused->isActive() ? tr("switched on") : tr("switched off"));
     }
-    const QString state = m_focused->isActive() ? tr("switched on") : tr("switched off");
-    setAccessibleName(m_stateless.contains(m_focused)
-                          ? m_focused->text()
-                          : QString(m_focused->text() + QLatin1String(", ") + state));
+    if (name != accessibleName())
+        setAccessibleName(name); // tells assistive tools
 }
 
 QRectF IPView::focusFrame() const
