@@ -7,11 +7,11 @@
 #include <diagram/ipitem.h>
 #include <diagram/ipview.h>
 #include <diagram/lineitem.h>
+#include <diagram/textitem.h>
 #include <ui/tarvoorixm1dlg.h>
 
 #include <QAccessible>
 #include <QDialogButtonBox>
-#include <QGraphicsTextItem>
 #include <QLineEdit>
 #include <QRandomGenerator>
 #include <QScrollBar>
@@ -226,9 +226,8 @@ QString lineOf(const QGraphicsItem *item)
         width = line->startStyle();
         height = line->endStyle();
         color = line->color();
-    } else if (const auto *label = qgraphicsitem_cast<const QGraphicsTextItem *>(item)) {
-        text = label->toPlainText();
-        color = label->defaultTextColor();
+    } else if (const auto *label = qgraphicsitem_cast<const TextItem *>(item)) {
+        text = label->text();
     }
     return QStringLiteral("%1 in '%2' at %3,%4 %5x%6 '%7' #%8")
         .arg(kind, parent)
@@ -1019,14 +1018,14 @@ void tst_IPView::labelsFitTheirBlocks()
     }
     // Other texts stay clear of the blocks.
     for (QGraphicsItem *item : view.scene()->items()) {
-        const auto *text = qgraphicsitem_cast<QGraphicsTextItem *>(item);
+        const auto *text = qgraphicsitem_cast<TextItem *>(item);
         if (!text)
             continue;
         QCOMPARE(text->font().pixelSize(), used.pixelSize());
         for (const IPItem *block : view.blocks()) {
             if (!block->text().isEmpty())
                 QVERIFY2(!block->sceneBoundingRect().intersects(text->sceneBoundingRect()),
-                         qPrintable(text->toPlainText() + u' ' + block->text()));
+                         qPrintable(text->text() + u' ' + block->text()));
         }
     }
 }
