@@ -155,8 +155,9 @@ QSize MicroSysChildIPGenDlg::sizeHint() const
     const QSize options = optionsSize();
     const QSize figure = m_figure->sizeHint();
     const QMargins margins = layout()->contentsMargins();
-    const int width = options.width() + m_splitter->handleWidth() + figure.width() +
-                      margins.left() + margins.right();
+    const int parts = options.width() + m_splitter->handleWidth() + figure.width();
+    // Wide enough for a description of a few sentences.
+    const int width = qMax(parts, 36 * fontMetrics().height()) + margins.left() + margins.right();
     // The description's height follows from the dialog's width, not the other way round.
     const int others = layout()->totalHeightForWidth(width) - m_splitter->sizeHint().height();
     return {width, others + qMax(options.height(), figure.height())};

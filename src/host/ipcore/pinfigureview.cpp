@@ -297,7 +297,7 @@ bool PinFigureView::writeSvg(QIODevice *device) const
     generator.setOutputDevice(device);
     generator.setSize(layout.size);
     generator.setViewBox(QRect(QPoint(0, 0), layout.size));
-    generator.setTitle(m_label);
+    generator.setTitle(m_label.toHtmlEscaped()); // written as it is
     QPainter painter;
     if (!painter.begin(&generator))
         return false;

@@ -16,8 +16,8 @@ IPItem::IPItem(int width, int height, bool clickable, bool rounded, const QColor
     , m_height(height)
     , m_clickable(clickable)
     , m_rounded(rounded)
-    , m_outlineColor(outlineColor)
-    , m_fillColor(fillColor)
+    , m_outline(outlineColor)
+    , m_fill(fillColor)
     , m_text(text)
 {
     setFlag(ItemIsSelectable);
@@ -37,34 +37,36 @@ QRectF IPItem::textRect() const
 
 void IPItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget * /*widget*/)
 {
-    QColor outline = m_outlineColor;
-    QColor fill = m_fillColor;
+    // Pens and brushes outlive the call: painting while panning and zooming makes none.
+    static const QPen blackPen(Qt::black);
+    static const QBrush offBrush(Qt::white);
+    static const QBrush hoverBrush(Qt::cyan);
+    static const QBrush onBrush(Qt::darkGreen);
+    const QPen *outline = &m_outline;
+    const QBrush *fill = &m_fill;
     if (m_clickable) {
-        outline = Qt::black;
+        outline = &blackPen;
         if (m_active)
-            fill = Qt::darkGreen;
+            fill = &onBrush;
         else
-            fill = option->state & QStyle::State_MouseOver ? Qt::cyan : Qt::white;
+            fill = option->state & QStyle::State_MouseOver ? &hoverBrush : &offBrush;
     }
 
     constexpr qreal radius = 10.0;
     painter->save();
-    painter->setPen(outline);
-    painter->setBrush(fill);
+    painter->setPen(*outline);
+    painter->setBrush(*fill);
     if (m_rounded) {
         painter->drawRoundedRect(boundingRect(), radius, radius);
     } else {
-        if (isHairline(painter))
-            painter->setRenderHint(QPainter::Antialiasing, false);
+        const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
+        painter->setRenderHint(QPainter::Antialiasing, smooth && !isHairline(painter));
         painter->drawRect(boundingRect());
     }
-    painter->restore();
-
-    if (m_text.isEmpty())
-        return;
-    painter->save();
-    painter->setPen(Qt::black);
-    painter->drawText(textRect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_text);
+    if (!m_text.isEmpty()) {
+        painter->setPen(blackPen);
+        painter->drawText(textRect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_text);
+    }
     painter->restore();
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QBrush>
 #include <QColor>
 #include <QGraphicsObject>
+#include <QPen>
 
 namespace TARVOORIXM1
 {
@@ -26,8 +28,8 @@ public:
     void setClickable(bool clickable);
     bool isActive() const { return m_active; }
     bool isRounded() const { return m_rounded; }
-    QColor outlineColor() const { return m_outlineColor; }
-    QColor fillColor() const { return m_fillColor; }
+    QColor outlineColor() const { return m_outline.color(); }
+    QColor fillColor() const { return m_fill.color(); }
     QString text() const { return m_text; }
     // Where the label is written.
     QRectF textRect() const;
@@ -48,8 +50,8 @@ private:
     bool m_clickable;
     bool m_active = false;
     const bool m_rounded;
-    const QColor m_outlineColor;
-    const QColor m_fillColor;
+    const QPen m_outline;
+    const QBrush m_fill;
     const QString m_text;
 };
 

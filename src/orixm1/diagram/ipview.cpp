@@ -6,16 +6,18 @@
 #include "diagramtable.h"
 #include "ipitem.h"
 #include "lineitem.h"
+#include "textitem.h"
 #include "ui/messagebox.h"
 
 #include <QAction>
 #include <QFileDialog>
-#include <QGraphicsTextItem>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace TARVOORIXM1
 {
@@ -66,33 +68,60 @@ QList<QPoint> linePoints(const DiagramRow &row)
     return points;
 }
 
-// Whether every block's label fits its block.
-bool doLabelsFit(const QFont &font)
+// A block's label in the size that the font was measured in.
+struct MeasuredLabel {
+    QVector<qreal> words; // their widths
+    QSizeF room;
+};
+
+// Whether the label fits its block, broken between words, when it is written `scale` times as
+// large.
+bool doesFit(const MeasuredLabel &label, qreal blank, qreal lineHeight, qreal scale)
 {
-    const QFontMetricsF metrics(font);
+    const qreal room = label.room.width() / scale;
+    int lines = 1;
+    qreal used = 0;
+    for (qreal word : label.words) {
+        if (word > room)
+            return false;
+        const qreal together = used + (used > 0 ? blank : 0) + word;
+        lines += together > room;
+        used = together > room ? word : together;
+    }
+    return lines * lineHeight * scale <= label.room.height();
+}
+
+// The user's font in the largest size, up to the user's own, in which all labels fit their blocks.
+// In scene units, as blocks are, so that they fit at every scale and resolution.
+QFont fittingFont(const QFont &font)
+{
+    // Without hinting, text is alike at every scale and its measures grow with the size: one
+    // size tells of all, which saves loading the others. It is the one that often results.
+    constexpr int measured = 11;
+    constexpr int smallest = 4;
+    QFont result = font;
+    result.setHintingPreference(QFont::PreferNoHinting);
+    result.setPixelSize(measured);
+    const QFontMetricsF metrics(result);
+    const qreal blank = metrics.horizontalAdvance(u' ');
+
+    QVector<MeasuredLabel> labels;
     for (const DiagramRow &row : diagramRows()) {
         if (row.kind != DiagramRow::Block || row.text.size() == 0)
             continue;
-        const QRectF room(1, 1, row.width - 2, row.height - 2);
-        if (!room.contains(
-                metrics.boundingRect(room, int(Qt::AlignCenter) | Qt::TextWordWrap, row.text)))
-            return false;
+        MeasuredLabel label = {{}, QSizeF(row.width - 2, row.height - 2)};
+        const QStringList words = QString(row.text).split(u' ');
+        for (const QString &word : words)
+            label.words.append(metrics.horizontalAdvance(word));
+        labels.append(label);
     }
-    return true;
-}
-
-// The user's font in the largest size, up to the user's own, that fits all blocks. In scene units,
-// as blocks are, so that it fits at every scale and resolution.
-QFont fittingFont(const QFont &font)
-{
-    constexpr int smallest = 4;
-    QFont result = font;
-    result.setHintingPreference(QFont::PreferNoHinting); // alike at every scale
-    for (int size = QFontInfo(font).pixelSize(); size >= smallest; --size) {
-        result.setPixelSize(size);
-        if (doLabelsFit(result))
-            break;
-    }
+    int size = qMax(smallest, QFontInfo(font).pixelSize());
+    const auto isTooLarge = [&](const MeasuredLabel &label) {
+        return !doesFit(label, blank, metrics.lineSpacing(), qreal(size) / measured);
+    };
+    while (size > smallest && std::any_of(labels.cbegin(), labels.cend(), isTooLarge))
+        --size;
+    result.setPixelSize(size);
     return result;
 }
 
@@ -132,9 +161,7 @@ void IPView::buildScene()
         QGraphicsItem *item = nullptr;
         QGraphicsItem *parent = parents[row.parent];
         if (row.kind == DiagramRow::Text) {
-            auto *label = new QGraphicsTextItem(row.text, parent);
-            label->setDefaultTextColor(Qt::black);
-            item = label;
+            item = new TextItem(row.text, parent);
         } else if (row.kind == DiagramRow::Line) {
             auto *line = new LineItem(linePoints(row), row.dashed,
                                       row.color == DiagramRow::Red ? Qt::red : Qt::black,
@@ -371,8 +398,8 @@ void IPView::mousePressEvent(QMouseEvent *event)
 {
     setFocusedBlock(nullptr);
     if (event->button() == Qt::LeftButton && !m_panning) {
-        const IPItem *block = topBlockAt(event->pos());
-        if (!block || !block->isClickable()) {
+        m_pressedBlock = topBlockAt(event->pos());
+        if (!m_pressedBlock || !m_pressedBlock->isClickable()) {
             m_panning = true;
             m_lastPos = event->pos();
             setCursor(Qt::ClosedHandCursor);
@@ -402,6 +429,28 @@ void IPView::mouseReleaseEvent(QMouseEvent *event)
         setCursor(Qt::OpenHandCursor);
     }
     QGraphicsView::mouseReleaseEvent(event);
+}
+
+void IPView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // The scene takes a double-click for a mere press if the press before it was on another item,
+    // or if there was none, as when a tool sends it.
+    if (event->button() == Qt::LeftButton && topBlockAt(event->pos()) != m_pressedBlock) {
+        m_pressedBlock = topBlockAt(event->pos());
+        QMouseEvent press(QEvent::MouseButtonPress, event->localPos(), event->screenPos(),
+                          event->button(), event->buttons(), event->modifiers());
+        QGraphicsView::mousePressEvent(&press);
+        QMouseEvent release(QEvent::MouseButtonRelease, event->localPos(), event->screenPos(),
+                            event->button(), event->buttons() & ~event->button(),
+                            event->modifiers());
+        QGraphicsView::mouseReleaseEvent(&release);
+    }
+    QGraphicsView::mouseDoubleClickEvent(event);
+
+    // A dialog that came up swallows the button's release. Without it the block would keep the
+    // mouse and get the next click, wherever that goes.
+    if (QGraphicsItem *grabber = m_scene->mouseGrabberItem())
+        grabber->ungrabMouse();
 }
 
 // Keyboard
@@ -476,14 +525,15 @@ void IPView::setFocusedBlock(IPItem *block)
 
 void IPView::announceFocus()
 {
-    if (!m_focused) {
-        setAccessibleName(tr("Block diagram"));
-        return;
+    QString name = tr("Block diagram");
+    if (m_focused) {
+        name = m_focused->text();
+        if (!m_stateless.contains(m_focused))
+            name += QLatin1String(", ") +
+                    (m_focused->isActive() ? tr("switched on") : tr("switched off"));
     }
-    const QString state = m_focused->isActive() ? tr("switched on") : tr("switched off");
-    setAccessibleName(m_stateless.contains(m_focused)
-                          ? m_focused->text()
-                          : QString(m_focused->text() + QLatin1String(", ") + state));
+    if (name != accessibleName())
+        setAccessibleName(name); // tells assistive tools
 }
 
 QRectF IPView::focusFrame() const
@@ -524,7 +574,7 @@ void IPView::updateLabelFont()
     viewport()->setFont(m_labelFont); // what items are painted with
     const QList<QGraphicsItem *> all = m_scene->items();
     for (QGraphicsItem *item : all) {
-        if (auto *label = qgraphicsitem_cast<QGraphicsTextItem *>(item))
+        if (auto *label = qgraphicsitem_cast<TextItem *>(item))
             label->setFont(m_labelFont);
     }
 }

@@ -81,6 +81,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -119,7 +120,8 @@ private:
     QToolButton *m_zoomOutButton;
     QToolButton *m_zoomInButton;
     bool m_panning = false;
-    QPoint m_lastPos; // while panning
+    QPoint m_lastPos;                       // while panning
+    const IPItem *m_pressedBlock = nullptr; // compared only
     QHash<QString, IPItem *> m_availableBlocks;
     OptionMap *m_options;
     QMap<QString, IPItem *> m_blocks; // those whose look one option decides

@@ -45,8 +45,9 @@ LineItem::LineItem(const QList<QPoint> &points, bool dashed, const QColor &color
     , m_points(points)
     , m_startStyle(startStyle)
     , m_endStyle(endStyle)
-    , m_color(color)
     , m_dashed(dashed)
+    , m_headPen(color)
+    , m_painterPen(Qt::NoPen)
 {
     if (points.isEmpty())
         return;
@@ -72,17 +73,21 @@ void LineItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*optio
         return;
     const QPen before = painter->pen();
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(m_color);
+    painter->setPen(m_headPen);
     if (m_startStyle != NoHead)
         painter->drawPath(m_startHead);
     if (m_endStyle != NoHead)
         painter->drawPath(m_endHead);
 
-    QPen pen = before;
-    pen.setColor(m_color);
-    if (m_dashed)
-        pen.setStyle(Qt::DashLine);
-    painter->setPen(pen);
+    // Recoloured once: while panning and zooming, painters come with one and the same pen.
+    if (before != m_painterPen) {
+        m_painterPen = before;
+        m_linePen = before;
+        m_linePen.setColor(m_headPen.color());
+        if (m_dashed)
+            m_linePen.setStyle(Qt::DashLine);
+    }
+    painter->setPen(m_linePen);
     const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
     painter->setRenderHint(QPainter::Antialiasing, smooth && !isHairline(painter));
     painter->drawPath(m_linePath);

@@ -4,6 +4,7 @@
 #include <QGraphicsItem>
 #include <QList>
 #include <QPainterPath>
+#include <QPen>
 #include <QPoint>
 
 namespace TARVOORIXM1
@@ -28,7 +29,7 @@ public:
 
     QList<QPoint> points() const { return m_points; }
     bool isDashed() const { return m_dashed; }
-    QColor color() const { return m_color; }
+    QColor color() const { return m_headPen.color(); }
     int startStyle() const { return m_startStyle; }
     int endStyle() const { return m_endStyle; }
 
@@ -39,8 +40,10 @@ private:
     QPainterPath m_endHead;
     const int m_startStyle;
     const int m_endStyle;
-    const QColor m_color;
     const bool m_dashed;
+    const QPen m_headPen;
+    QPen m_painterPen; // the one that m_linePen was made from
+    QPen m_linePen;
     QPainterPath m_shape; // the stroke of all paths
     QRectF m_bounds;
 };
