@@ -16,6 +16,13 @@ enum class Tool { SynplifyPro = 0, TarvoSynthesis = 1 };
 // Runs a synthesis tool on a Job as a process of its own and reports the end. Has no widget and
 // needs a running event loop. A run has no time limit; cancel() ends it. cancel() and the
 // destructor kill the tool's whole process group.
+//
+// The own tool leaves "<target>.vg" (netlist) and "<target>_tmp.v" (instantiation template) in the
+// output folder, the project tool "<impl_name>/<target>.vm", "<target>_tmp.v" and "<target>.prj".
+// Netlist and template appear only after a success. After a failed or cancelled run those of an
+// earlier run are still there, so only exit code 0 says that they belong to this job. A file is not
+// touched when its bytes would not change. "<target>.log" holds what the tool printed. Until the
+// end everything else lives in the hidden folder ".tarvo-run".
 class TARVO_SYNTHESIS_EXPORT Runner : public QObject
 {
     Q_OBJECT

@@ -71,7 +71,8 @@ QString ScratchFolder::create(const QString &outputDir)
             return cannotUse(outputDir, tr("another run is working there"));
         // The lock does not say why it could not be made; a file of its own does.
         QFile probe(QString(path + QLatin1String(".probe")));
-        const bool opened = probe.open(QIODevice::WriteOnly) && probe.write("x") == 1 && probe.flush();
+        const bool opened =
+            probe.open(QIODevice::WriteOnly) && probe.write("x") == 1 && probe.flush();
         const QString reason = opened ? tr("no lock file can be made there") : probe.errorString();
         probe.remove();
         return cannotUse(outputDir, reason);

@@ -63,18 +63,32 @@ QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top
         primitives += " t:" + name;
 
     const QByteArray topName = top.toLatin1();
+    const QByteArray read = scratch("read.il");
+    const QByteArray cleaned = scratch("cleaned.il");
     return "read_verilog -lib " + scratch("primitives.v") + '\n' +
            readSources(sources, top)
            // One module: no name depends on how a parameter is spelled, and tri-states meet their
            // pins.
            + "setattr -mod -unset keep_hierarchy\n"
-             "proc\n"
-             "flatten\n"
              // Before anything takes "not driven" for "does not matter".
+             "proc -noopt\n"
              "techmap -map " +
            scratch("map_tristate.v") +
            "\n"
            "tribuf\n"
+           // A pin that is never driven may be read all the same: without its constant, which the
+           // file calls unknown, it is a plain net. The connections of cells lie deeper.
+           "write_rtlil " +
+           read +
+           "\n"
+           "!sed -E \"/^  connect .* [0-9]+'[xz]+$/d\" " +
+           read + " > " + cleaned +
+           "\n"
+           "delete =*\n"
+           "read_rtlil " +
+           cleaned +
+           "\n"
+           "flatten\n"
            "chformal -remove\n"
            "opt_expr\n"
            "opt_clean\n"

@@ -147,9 +147,9 @@ void TestNetlist::behavesLikeItsSource()
                 continue;
             }
             ++known;
-            QVERIFY2(
-                is.at(bit) == shall.at(bit),
-                QByteArray("line " + QByteArray::number(i) + "\n" + shall + "\n" + is).constData());
+            if (is.at(bit) != shall.at(bit)) // no QVERIFY2: its text would be made for every bit
+                QFAIL(QByteArray("line " + QByteArray::number(i) + '\n' + shall + '\n' + is)
+                          .constData());
         }
     }
     // The comparison says something.
@@ -292,14 +292,14 @@ void TestNetlist::modelReadsNetlistsOfAnyForm_data()
     const QStringList lut{QStringLiteral("TV_LUT1")};
     QTest::newRow("plain") << QByteArray("TV_LUT1 u (.O(a), .I0(b));") << lut;
     QTest::newRow("escaped names")
-        << QByteArray("TV_LUT1 \\u.v[0]  (.O(a), .I0(\\TV_DFF ));") << lut;
+        << QByteArray("wire \\TV_DFF ; TV_LUT1 \\u.v[0]  (.O(a), .I0(\\TV_DFF ));") << lut;
     QTest::newRow("parameters") << QByteArray("TV_LUT1 #( .INIT ( 2'h1 ) ) u (.O(a), .I0(b));")
                                 << lut;
     QTest::newRow("short parameter") << QByteArray("TV_LUT1 #2 u (a, b);") << lut;
     QTest::newRow("array of instances") << QByteArray("TV_LUT1 u [1:0] (.O(a), .I0(b));") << lut;
     QTest::newRow("attributes and comments")
-        << QByteArray(
-               "(* TV_DFF u (); *) /* TV_DFF u (); */ TV_LUT1 // TV_DFF u ();\n u (.O(a), .I0(b));")
+        << QByteArray("(* note = \"TV_DFF u ();\" *) /* TV_DFF u (); */ TV_LUT1 // TV_DFF u ();\n "
+                      "u (.O(a), .I0(b));")
         << lut;
     QTest::newRow("no space") << QByteArray("TV_LUT1 u(.O(a),.I0(b));") << lut;
     QTest::newRow("names of primitives as signals")
@@ -329,18 +329,17 @@ void TestNetlist::modelReadsNetlistsOfAnyForm()
     const QTemporaryDir folder;
     const QString netlist = folder.filePath(QStringLiteral("a.v"));
     const QString model = folder.filePath(QStringLiteral("a.vo"));
-    TestSupport::write(netlist, "`timescale 1ns / 1ps\nmodule top (a, b);\n  output [1:0] a;\n  "
-                                "input b;\n  wire \\TV_DFF ;\n" +
-                                    QByteArray(body).replace("wire TV_DFF;", "") + "\nendmodule\n");
+    TestSupport::write(netlist,
+                       "`timescale 1ns / 1ps\nmodule top (a, b);\n  output [1:0] a;\n  input b;\n" +
+                           body + "\nendmodule\n");
     QString message;
     QVERIFY2(Synthesis::writeSimulationModel(netlist, model, &message) == 0, qPrintable(message));
     QCOMPARE(modulesIn(TestSupport::contentsOf(model)),
              models + QStringList{QStringLiteral("top")});
     QByteArray output;
-    QVERIFY2(execute(QStringLiteral("iverilog"),
-                     {QStringLiteral("-g2005"), QStringLiteral("-tnull"), model}, &output) == 0 ||
-                 output.contains("not a valid l-value"),
-             output.constData());
+    const int code = execute(QStringLiteral("iverilog"),
+                             {QStringLiteral("-g2005"), QStringLiteral("-tnull"), model}, &output);
+    QVERIFY2(code == 0, output.constData());
 }
 
 void TestNetlist::modelNamesADestinationThatCannotBe()

@@ -5,7 +5,7 @@ module dut (input clk, input rst, input [31:0] a, input [31:0] b, output [31:0] 
     wire [11:0] where = {a[5:4], 6'd0, a[3:0]};
     wire [3:0] we = b[11:8] & {4{b[0]}};
     integer i;
-    initial for (i = 0; i < 4096; i = i + 1) mem[i] = {4{i[7:0]}} ^ i;
+    initial for (i = 0; i < 64; i = i + 1) mem[((i >> 4) << 10) + (i & 15)] = {4{i[7:0]}} ^ (i << 7);
     genvar n;
     generate
         for (n = 0; n < 4; n = n + 1) begin : lanes

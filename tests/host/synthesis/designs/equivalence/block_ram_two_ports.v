@@ -10,9 +10,9 @@ module dut (input clk, input rst, input [31:0] a, input [31:0] b, output [31:0] 
     wire [9:0] there = {b[4:3], 5'd0, b[2:0]};
     integer i;
     initial begin
-        for (i = 0; i < 1024; i = i + 1) mem[i] = i * 1237;
-        for (i = 0; i < 2048; i = i + 1) bytes[i] = i * 91 + (i >> 4);
-        for (i = 0; i < 4096; i = i + 1) nibbles[i] = i * 7 + (i >> 5);
+        for (i = 0; i < 32; i = i + 1) mem[((i >> 3) << 8) + (i & 7)] = i * 1237;
+        for (i = 0; i < 64; i = i + 1) bytes[((i >> 4) << 9) + (i & 15)] = i * 91 + (i >> 4);
+        for (i = 0; i < 128; i = i + 1) nibbles[((i >> 5) << 10) + (i & 31)] = i * 7 + (i >> 5);
     end
     always @(posedge clk) if (a[8]) begin if (a[9]) mem[here] <= a[31:16]; else p <= mem[here]; end
     always @(negedge clk) if (b[8]) begin if (b[9]) mem[there] <= b[31:16]; else q <= mem[there]; end

@@ -1,9 +1,9 @@
 module dut (input clk, input rst, input [31:0] a, input [31:0] b, output [31:0] y, inout [7:0] io);
-    reg [15:0] rom [0:1023];
+    reg [15:0] rom [0:255];
     reg [15:0] q;
     integer i;
-    initial for (i = 0; i < 1024; i = i + 1) rom[i] = i * 40503 + 12345;
-    always @(posedge clk) if (b[0]) q <= rom[a[9:0]];
+    initial for (i = 0; i < 256; i = i + 1) rom[i] = i * 40503 + 12345;
+    always @(posedge clk) if (b[0]) q <= rom[a[7:0]];
     reg [7:0] table16;
     always @*
         case (a[3:0])

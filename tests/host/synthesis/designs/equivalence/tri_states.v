@@ -15,6 +15,9 @@ module dut (input clk, input rst, input [31:0] a, input [31:0] b, output [31:0] 
     assign io[4:3] = free[4] & free[3] ? {b[6], 1'bz} : 2'bzz;
     sub u_sub (.drive(free[5]), .value(b[7]), .pin(io[5]));
     assign io[6] = free[6] ? 1'b0 : 1'bz;
+    assign io[7] = 1'bz; // only read
+    wire [1:0] seen;
+    reader u_reader (.pin(io[7]), .driven(a[31]), .seen(seen));
     reg [1:0] wide;
     always @*
         case (b[9:8])
@@ -23,9 +26,14 @@ module dut (input clk, input rst, input [31:0] a, input [31:0] b, output [31:0] 
             2: wide = {b[13] & b[14], 1'b1};
             default: wide = {1'bz, 1'b0};
         endcase
-    assign y = {22'd0, wide, io};
+    assign y = {20'd0, seen, wide, io};
 endmodule
 
 module sub (input drive, input value, inout pin);
     assign pin = drive ? value : 1'bz;
+endmodule
+
+module reader (inout pin, input driven, output [1:0] seen);
+    assign pin = 1'bz;
+    assign seen = {pin & driven, ~pin & driven};
 endmodule
