@@ -33,6 +33,7 @@ public:
     QString prepare();
     const QVector<Command> &commands() const { return m_commands; }
     const SourceStage &sources() const { return m_sources; }
+    const ScratchFolder &scratch() const { return m_scratch; }
 
     // The phrase for what a line of output begins, or empty.
     virtual QString stageOf(const QString &line) = 0;

@@ -144,6 +144,11 @@ QString Runner::Private::failureOf(const ToolProcess &ended) const
 void Runner::Private::end(const QString &error)
 {
     errorMsg = cancelled ? tr("The synthesis was cancelled.") : error;
+    if (!error.isEmpty() && !cancelled) {
+        // A tool seldom says that the disk is full, and may even report success.
+        if (const QString problem = m_flow->scratch().problem(); !problem.isEmpty())
+            errorMsg = problem;
+    }
     if (!errorMsg.isEmpty() && !cancelled)
         details = m_log.errors();
     // Whether the log can be kept changes nothing about the run.

@@ -91,6 +91,22 @@ QString ScratchFolder::create(const QString &outputDir)
     return {};
 }
 
+QString ScratchFolder::problem() const
+{
+    if (m_path.isEmpty())
+        return {};
+    const QByteArray sample(1 << 16, 'x');
+    QFile probe(absolute(QStringLiteral("probe")));
+    const bool written = probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                         probe.write(sample) == sample.size();
+    // A short write leaves no reason; the next one gives it.
+    if (!written && probe.isOpen())
+        probe.write(sample);
+    const QString reason = written ? QString() : probe.errorString();
+    probe.remove();
+    return written ? QString() : cannotUse(m_outputDir, reason);
+}
+
 QString ScratchFolder::relative(const QString &file)
 {
     return name() + u'/' + file;

@@ -21,6 +21,10 @@ public:
     // Empty on success, otherwise one sentence.
     QString create(const QString &outputDir);
 
+    // Why the folder takes no more data (a full disk, say), as one sentence; empty while it does,
+    // and before it was made.
+    QString problem() const;
+
     // Relative to the output folder.
     static QString name() { return QStringLiteral(".tarvo-run"); }
     static QString relative(const QString &file);
