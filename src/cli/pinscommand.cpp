@@ -5,6 +5,7 @@
 #include "output.h"
 
 #include <core/corepins.h>
+#include <peripherals/pins.h>
 
 namespace Cli
 {
@@ -19,12 +20,17 @@ struct BlockPin {
     Utils::PinFigure pin;
 };
 
-QList<BlockPin> allPins(const OptionMap &options)
+QList<BlockPin> allPins(const OptionMap &options, const QString &device)
 {
     QList<BlockPin> pins;
     const QList<Utils::PinFigure> ofCore = corePins(coreSwitches(options));
     for (const Utils::PinFigure &pin : ofCore)
         pins.append({QStringLiteral("Cortex-M1"), pin});
+    const QList<BlockPins> ofBlocks = peripheralPins(options, device);
+    for (const BlockPins &entry : ofBlocks) {
+        for (const Utils::PinFigure &pin : entry.pins)
+            pins.append({entry.block->title, pin});
+    }
     return pins;
 }
 
@@ -47,7 +53,7 @@ int runPins(Environment &environment, const QString &file, bool json)
         printError(error);
         return BadInput;
     }
-    const QList<BlockPin> pins = allPins(document.options);
+    const QList<BlockPin> pins = allPins(document.options, document.device.device());
     if (json) {
         QJsonArray list;
         for (const BlockPin &entry : pins) {

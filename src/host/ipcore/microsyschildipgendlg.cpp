@@ -29,6 +29,18 @@ QString shownSummary(const QString &text)
     return lines.join(u'\n').trimmed();
 }
 
+// A form that was set up without being shown has sizes in its nested layouts from before its texts
+// were set: a layout tells only a visible parent of a change.
+void forgetSizes(const QWidget *page)
+{
+    const QList<QWidget *> widgets = page->findChildren<QWidget *>();
+    for (QWidget *widget : widgets)
+        widget->updateGeometry();
+    const QList<QLayout *> layouts = page->findChildren<QLayout *>();
+    for (QLayout *layout : layouts)
+        layout->invalidate();
+}
+
 // Shows a wrapped label in the height that its text needs at the given width, up to a few lines;
 // scrolls where that does not do.
 class DescriptionArea : public QScrollArea
@@ -197,6 +209,7 @@ void MicroSysChildIPGenDlg::uiSetSummaryText(const QString &text)
 
 void MicroSysChildIPGenDlg::uiAddTab(QWidget *page, const QString &title)
 {
+    forgetSizes(page);
     m_tabs->addTab(page, title);
 }
 

@@ -158,7 +158,9 @@ void PinFigureView::updateScrollBars()
 {
     const QSize shown(int(std::ceil(m_layout.size.width() * m_zoom)),
                       int(std::ceil(m_layout.size.height() * m_zoom)));
-    const QSize room = viewport()->size();
+    // Bars that are there already are no reason for bars.
+    const QSize most = maximumViewportSize();
+    const QSize room = shown.boundedTo(most) == shown ? most : viewport()->size();
     const int line = qMax(1, qRound(m_layout.row * m_zoom));
     const auto update = [line](QScrollBar *bar, int length, int page) {
         bar->setRange(0, qMax(0, length - page));

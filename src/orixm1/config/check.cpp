@@ -162,13 +162,15 @@ private:
         if (!m_options.contains(Key::ethernetClockDivider))
             add(Finding::Warning, Key::ethernetClockDivider,
                 QStringLiteral("is not set: 0 is generated"));
-        constexpr int narrowMaximum = 127;
         const QString name = m_device.device();
-        if (!m_device.isNull() && !isTv5k(name) && !isTv3k(name) &&
-            m_options.value(Key::ethernetInputDelay).toInt() > narrowMaximum)
+        const int largest = largestRgmiiInputDelay(name);
+        const QVariant delay = m_options.value(Key::ethernetInputDelay);
+        // What no device has is reported already.
+        if (!m_device.isNull() && delay.toInt() > largest &&
+            isInDomain(*findOption(Key::ethernetInputDelay), delay))
             add(Finding::Error, Key::ethernetInputDelay,
                 QStringLiteral("is more than %1, the largest delay of %2")
-                    .arg(QString::number(narrowMaximum), name));
+                    .arg(QString::number(largest), name));
     }
 
     void checkDevice()

@@ -45,6 +45,7 @@ constexpr QLatin1String smallDevices("TV1KL-5A/TV1KL-5B");
 constexpr QLatin1String withoutDdr3("TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/"
                                     "TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/"
                                     "TV5KT-15A");
+constexpr QLatin1String lockedDdr3("TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C");
 constexpr QLatin1String withoutDebug("TV1L-9/TV1LR-9");
 constexpr QLatin1String externalOnly("TV5KRT-15A/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A");
 
@@ -106,6 +107,21 @@ bool isDebugUnavailable(const QString &device)
 bool isInstructionMemoryExternalOnly(const QString &device)
 {
     return isInDeviceList(device, externalOnly);
+}
+
+bool isDdr3Locked(const QString &device)
+{
+    return isInDeviceList(device, lockedDdr3);
+}
+
+bool hasDdr3StopSignal(const QString &device)
+{
+    return isTv5k(device) || isTv3k(device);
+}
+
+int largestRgmiiInputDelay(const QString &device)
+{
+    return isTv5k(device) || isTv3k(device) ? 255 : 127;
 }
 
 bool isTv5k(const QString &device)

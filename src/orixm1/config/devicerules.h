@@ -31,6 +31,13 @@ bool isSmallDevice(const QString &device);
 bool isDebugUnavailable(const QString &device);
 // Devices whose instruction memory is always external.
 bool isInstructionMemoryExternalOnly(const QString &device);
+// Devices on which the DDR3 block cannot be switched on, although a stored configuration may have
+// it.
+bool isDdr3Locked(const QString &device);
+// Devices whose DDR3 controller has a stop output.
+bool hasDdr3StopSignal(const QString &device);
+// In delay steps.
+int largestRgmiiInputDelay(const QString &device);
 
 // Families by name prefix.
 bool isTv5k(const QString &device);

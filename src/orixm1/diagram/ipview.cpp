@@ -6,6 +6,13 @@
 #include "diagramtable.h"
 #include "ipitem.h"
 #include "lineitem.h"
+#include "peripherals/candlg.h"
+#include "peripherals/ddr3dlg.h"
+#include "peripherals/ethernetdlg.h"
+#include "peripherals/extensiondialogs.h"
+#include "peripherals/interfacetypedialogs.h"
+#include "peripherals/singleswitchdialogs.h"
+#include "peripherals/twoinstancedialogs.h"
 #include "textitem.h"
 #include "ui/messagebox.h"
 
@@ -231,24 +238,90 @@ void IPView::onCortexM1()
     openDialog<CortexM1>();
 }
 
-// Blocks that have no dialog yet.
-void IPView::onGpio() {}
-void IPView::onCan() {}
-void IPView::onEhternet() {}
-void IPView::onDDR3() {}
-void IPView::onPsram() {}
-void IPView::onSpiFlash() {}
-void IPView::onSDCard() {}
-void IPView::onAHB2Extension() {}
-void IPView::onUart() {}
-void IPView::onTimer() {}
-void IPView::onWatchDog() {}
-void IPView::onRtc() {}
-void IPView::onI2C() {}
-void IPView::onSPI() {}
-void IPView::onTRNG() {}
-void IPView::onDualTimer() {}
-void IPView::onAPB2Extension() {}
+void IPView::onGpio()
+{
+    openDialog<GPIODlg>();
+}
+
+void IPView::onCan()
+{
+    openDialog<CANDlg>();
+}
+
+void IPView::onEhternet()
+{
+    openDialog<EthernetDlg>();
+}
+
+void IPView::onDDR3()
+{
+    openDialog<DDR3Dlg>();
+}
+
+void IPView::onPsram()
+{
+    openDialog<PSRAMDlg>();
+}
+
+void IPView::onSpiFlash()
+{
+    openDialog<SPIFlashDlg>();
+}
+
+void IPView::onSDCard()
+{
+    openDialog<SDCardDlg>();
+}
+
+void IPView::onAHB2Extension()
+{
+    openDialog<AHB2ExtensionDlg>();
+}
+
+void IPView::onUart()
+{
+    openDialog<UartDlg>();
+}
+
+void IPView::onTimer()
+{
+    openDialog<TimerDlg>();
+}
+
+void IPView::onWatchDog()
+{
+    openDialog<WatchDogDlg>();
+}
+
+void IPView::onRtc()
+{
+    openDialog<RTCDlg>();
+}
+
+void IPView::onI2C()
+{
+    openDialog<I2CDlg>();
+}
+
+void IPView::onSPI()
+{
+    openDialog<SPIDlg>();
+}
+
+void IPView::onTRNG()
+{
+    openDialog<TrngDlg>();
+}
+
+void IPView::onDualTimer()
+{
+    openDialog<DualTimerDlg>();
+}
+
+void IPView::onAPB2Extension()
+{
+    openDialog<APB2ExtensionDlg>();
+}
 
 void IPView::updateView()
 {
