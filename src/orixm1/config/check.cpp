@@ -2,6 +2,7 @@
 
 #include "core/tcmsizes.h"
 #include "devicerules.h"
+#include "latin1literal.h"
 #include "optionkeys.h"
 #include "optiontable.h"
 
@@ -72,12 +73,10 @@ private:
         const QVariant typed = optionValueFromText(*option, value.toString());
         if (!typed.isValid() || (value.type() == QVariant::StringList)) {
             add(Finding::Error, key,
-                QLatin1String("\"") + shown(value) + QLatin1String("\" is no ") +
-                    typeName(option->type));
+                "\""_l1 + shown(value) + "\" is no "_l1 + typeName(option->type));
         } else if (!isInDomain(*option, typed)) {
             add(Finding::Error, key,
-                QLatin1String("\"") + shown(value) + QLatin1String("\" is out of its domain: ") +
-                    domainText(*option));
+                "\""_l1 + shown(value) + "\" is out of its domain: "_l1 + domainText(*option));
         }
     }
 
@@ -85,7 +84,7 @@ private:
     {
         constexpr int limit = 60;
         const QString text = value.type() == QVariant::StringList
-                                 ? value.toStringList().join(QLatin1String(", "))
+                                 ? value.toStringList().join(", "_l1)
                                  : value.toString();
         return text.size() > limit ? QString(text.left(limit) + QChar(0x2026)) : text;
     }
@@ -118,7 +117,7 @@ private:
                 QStringLiteral("is empty although the ITCM is to be initialised"));
         } else if (!QDir(QDir(m_createInPath).absoluteFilePath(path)).exists()) {
             add(Finding::Error, Key::itcmInitializationPath,
-                QLatin1String("the folder \"") + path + QLatin1String("\" does not exist"));
+                "the folder \""_l1 + path + "\" does not exist"_l1);
         }
         const QString absolute = m_options.value(Key::itcmInitializationAbsolutePath).toString();
         if (absolute.isEmpty()) {
@@ -126,7 +125,7 @@ private:
                 QStringLiteral("is empty, so that generation has no folder to name"));
         } else if (!QDir(absolute).exists()) {
             add(Finding::Error, Key::itcmInitializationAbsolutePath,
-                QLatin1String("the folder \"") + absolute + QLatin1String("\" does not exist"));
+                "the folder \""_l1 + absolute + "\" does not exist"_l1);
         } else if (!QFileInfo(absolute).isAbsolute()) {
             add(Finding::Warning, Key::itcmInitializationAbsolutePath,
                 QStringLiteral("is not absolute"));
@@ -181,7 +180,7 @@ private:
             if (!available && isOn(key))
                 add(Finding::Error, key, QStringLiteral("%1 cannot have %2").arg(name, block));
         };
-        cannotHave(Key::enablePsram, QLatin1String("PSRAM in package ") + m_device.package(),
+        cannotHave(Key::enablePsram, "PSRAM in package "_l1 + m_device.package(),
                    isPsramAvailable(m_device));
         cannotHave(Key::enableDdr3, QStringLiteral("DDR3"), isDdr3Available(name));
         const bool small = isSmallDevice(name);
@@ -197,13 +196,12 @@ private:
         const QString storedId = m_options.value(Key::ipDeviceId).toString();
         if (!storedId.isEmpty() && storedId != m_device.id())
             add(Finding::Warning, Key::ipDeviceId,
-                QLatin1String("is \"") + storedId +
-                    QLatin1String("\", but the target device is \"") + m_device.id() + u'"');
+                "is \""_l1 + storedId + "\", but the target device is \""_l1 + m_device.id() +
+                    u'"');
         const QString storedName = m_options.value(Key::ipDevice).toString();
         if (!storedName.isEmpty() && storedName != name)
             add(Finding::Warning, Key::ipDevice,
-                QLatin1String("is \"") + storedName +
-                    QLatin1String("\", but the target device is \"") + name + u'"');
+                "is \""_l1 + storedName + "\", but the target device is \""_l1 + name + u'"');
     }
 
     // -1: the memory is not internal, or its index is reported already.

@@ -1,5 +1,7 @@
 #include "devicerules.h"
 
+#include "latin1literal.h"
+
 #include <iterator>
 
 namespace TARVOORIXM1
@@ -15,19 +17,19 @@ struct DefaultSizeRow {
 
 // The first matching row wins.
 constexpr DefaultSizeRow defaultSizes[] = {
-    {QLatin1String("TV1KL-5A/TV1KL-5B"), 3},
-    {QLatin1String("TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV2KL-9X/TV1KL-9A/TV2KL-18X"), 4},
-    {QLatin1String("TV2K-18/TV2KR-18/TV2K-18C/TV2KR-18C/TV2KLR-18C"), 5},
-    {QLatin1String("TV2K-55/TV2K-55C/TV2KL-55C/TV3K-50A"), 6},
-    {QLatin1String("TV5K-25A/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A/"
-                   "TV5KS-25A/TV5KR-25A"),
+    {"TV1KL-5A/TV1KL-5B"_l1, 3},
+    {"TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV2KL-9X/TV1KL-9A/TV2KL-18X"_l1, 4},
+    {"TV2K-18/TV2KR-18/TV2K-18C/TV2KR-18C/TV2KLR-18C"_l1, 5},
+    {"TV2K-55/TV2K-55C/TV2KL-55C/TV3K-50A"_l1, 6},
+    {"TV5K-25A/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A/"
+     "TV5KS-25A/TV5KR-25A"_l1,
      5},
-    {QLatin1String("TV5K-25B/TV5KS-25B/TV5KR-25B"), 5},
-    {QLatin1String("TV5KT-60ES/TV5KT-60B/TV5K-60B"), 6},
-    {QLatin1String("TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
-                   "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"),
+    {"TV5K-25B/TV5KS-25B/TV5KR-25B"_l1, 5},
+    {"TV5KT-60ES/TV5KT-60B/TV5K-60B"_l1, 6},
+    {"TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
+     "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"_l1,
      7},
-    {QLatin1String("TV3K-20A/TV3KR-20A/TV3K-10A"), 5},
+    {"TV3K-20A/TV3KR-20A/TV3K-10A"_l1, 5},
 };
 constexpr int catchAllSizeIndex = 4;
 
@@ -37,17 +39,17 @@ struct PsramRow {
 };
 
 constexpr PsramRow psramRows[] = {
-    {QLatin1String("TV2KR-18C"), QLatin1String("QFN88P/QFN88PF/eLQFP144P/eLQFP144PF")},
-    {QLatin1String("TV2KLR-18C"), QLatin1String("QFN88")},
+    {"TV2KR-18C"_l1, "QFN88P/QFN88PF/eLQFP144P/eLQFP144PF"_l1},
+    {"TV2KLR-18C"_l1, "QFN88"_l1},
 };
 
-constexpr QLatin1String smallDevices("TV1KL-5A/TV1KL-5B");
-constexpr QLatin1String withoutDdr3("TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/"
-                                    "TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/"
-                                    "TV5KT-15A");
-constexpr QLatin1String lockedDdr3("TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C");
-constexpr QLatin1String withoutDebug("TV1L-9/TV1LR-9");
-constexpr QLatin1String externalOnly("TV5KRT-15A/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A");
+constexpr QLatin1String smallDevices = "TV1KL-5A/TV1KL-5B"_l1;
+constexpr QLatin1String withoutDdr3 = "TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/"
+                                      "TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/"
+                                      "TV5KT-15A"_l1;
+constexpr QLatin1String lockedDdr3 = "TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C"_l1;
+constexpr QLatin1String withoutDebug = "TV1L-9/TV1LR-9"_l1;
+constexpr QLatin1String externalOnly = "TV5KRT-15A/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"_l1;
 
 } // namespace
 
@@ -126,17 +128,17 @@ int largestRgmiiInputDelay(const QString &device)
 
 bool isTv5k(const QString &device)
 {
-    return device.startsWith(QLatin1String("TV5K"));
+    return device.startsWith("TV5K"_l1);
 }
 
 bool isTv3k(const QString &device)
 {
-    return device.startsWith(QLatin1String("TV3K"));
+    return device.startsWith("TV3K"_l1);
 }
 
 bool isTv2k(const QString &device)
 {
-    return device.startsWith(QLatin1String("TV2K"));
+    return device.startsWith("TV2K"_l1);
 }
 
 } // namespace TARVOORIXM1

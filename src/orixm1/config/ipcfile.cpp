@@ -1,5 +1,6 @@
 #include "ipcfile.h"
 
+#include "latin1literal.h"
 #include "optionkeys.h"
 
 #include <dev/devicedb.h>
@@ -14,10 +15,10 @@ namespace IpcFile
 namespace
 {
 
-constexpr QLatin1String targetDevice("target_device");
-constexpr QLatin1String deviceGroup("device");
-constexpr QLatin1String versionEntry("version");
-constexpr QLatin1String typeEntry("type");
+constexpr QLatin1String targetDevice = "target_device"_l1;
+constexpr QLatin1String deviceGroup = "device"_l1;
+constexpr QLatin1String versionEntry = "version"_l1;
+constexpr QLatin1String typeEntry = "type"_l1;
 
 } // namespace
 

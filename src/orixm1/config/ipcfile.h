@@ -1,5 +1,6 @@
 #pragma once
 
+#include "latin1literal.h"
 #include "optionmap.h"
 
 #include <dev/chipfilter.h>
@@ -22,9 +23,9 @@ namespace TARVOORIXM1
 namespace IpcFile
 {
 
-inline constexpr QLatin1String acceptedVersion("1.0");
-inline constexpr QLatin1String configGroup("Config");
-inline constexpr QLatin1String suffix(".ipc");
+inline constexpr QLatin1String acceptedVersion = "1.0"_l1;
+inline constexpr QLatin1String configGroup = "Config"_l1;
+inline constexpr QLatin1String suffix = ".ipc"_l1;
 
 // The text of a file's "version" entry must be exactly this; also false when the entry is missing.
 bool isVersionAccepted(const QSettings &settings);

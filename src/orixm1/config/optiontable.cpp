@@ -1,5 +1,7 @@
 #include "optiontable.h"
 
+#include "latin1literal.h"
+
 #include <algorithm>
 
 namespace TARVOORIXM1
@@ -112,7 +114,7 @@ void append(QVector<Option> &table, const BoolRow (&rows)[N])
 void appendPorts(QVector<Option> &table, QLatin1String prefix, int count, QLatin1String bus)
 {
     for (int port = 1; port <= count; ++port) {
-        const QString name = bus + QLatin1String(" extension port ") + QString::number(port);
+        const QString name = bus + " extension port "_l1 + QString::number(port);
         table.append(boolOption(Key::extensionPortKey(prefix, port), false, name));
     }
 }
@@ -167,9 +169,9 @@ QVector<Option> buildTable()
                     "RGMII input delay in delay steps; up to 127 except on TV5K and TV3K devices"));
     table.append(rangeOption(Key::ethernetClockDivider, 0, 0, 255, "Divider of the MIIM clock"));
     append(table, ahbSwitches);
-    appendPorts(table, Key::enableAhbMaster, Key::ahbMasterCount, QLatin1String("AHB"));
+    appendPorts(table, Key::enableAhbMaster, Key::ahbMasterCount, "AHB"_l1);
     append(table, apbSwitches);
-    appendPorts(table, Key::enableApbMaster, Key::apbMasterCount, QLatin1String("APB"));
+    appendPorts(table, Key::enableApbMaster, Key::apbMasterCount, "APB"_l1);
 
     table.append(
         bookKeeping(choiceOption(Key::synthesisTool, OptionType::String, QVariant(),
@@ -238,11 +240,9 @@ QVariant optionValueFromText(const Option &option, const QString &value)
 {
     switch (option.type) {
     case OptionType::Bool:
-        if (value == QLatin1String("1") ||
-            value.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
+        if (value == "1"_l1 || value.compare("true"_l1, Qt::CaseInsensitive) == 0)
             return true;
-        if (value == QLatin1String("0") ||
-            value.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
+        if (value == "0"_l1 || value.compare("false"_l1, Qt::CaseInsensitive) == 0)
             return false;
         return {};
     case OptionType::Int: {
@@ -268,12 +268,11 @@ bool isInDomain(const Option &option, const QVariant &value)
 QString domainText(const Option &option)
 {
     if (!option.choices.isEmpty())
-        return QLatin1String("one of ") + option.choices.join(QLatin1String(", "));
+        return "one of "_l1 + option.choices.join(", "_l1);
     if (option.type == OptionType::Bool)
         return QStringLiteral("true or false");
     if (option.minimum <= option.maximum)
-        return QString::number(option.minimum) + QLatin1String(" to ") +
-               QString::number(option.maximum);
+        return QString::number(option.minimum) + " to "_l1 + QString::number(option.maximum);
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "corepins.h"
 
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 
 namespace TARVOORIXM1
@@ -17,56 +18,49 @@ struct PinRow {
 };
 
 constexpr PinRow basicPins[] = {
-    {QLatin1String("HCLK"), Direction::Input},
-    {QLatin1String("hwRstn"), Direction::Input},
-    {QLatin1String("LOCKUP"), Direction::Output},
+    {"HCLK"_l1, Direction::Input},
+    {"hwRstn"_l1, Direction::Input},
+    {"LOCKUP"_l1, Direction::Output},
 };
 
 constexpr PinRow debugPins[] = {
-    {QLatin1String("HALTED"), Direction::Output},
-    {QLatin1String("JTAG_7"), Direction::Bidirectional},
-    {QLatin1String("JTAG_9"), Direction::Bidirectional},
+    {"HALTED"_l1, Direction::Output},
+    {"JTAG_7"_l1, Direction::Bidirectional},
+    {"JTAG_9"_l1, Direction::Bidirectional},
 };
 
 constexpr PinRow jtagPins[] = {
-    {QLatin1String("JTAG_3"), Direction::Bidirectional},
-    {QLatin1String("JTAG_4"), Direction::Bidirectional},
-    {QLatin1String("JTAG_5"), Direction::Bidirectional},
-    {QLatin1String("JTAG_6"), Direction::Bidirectional},
-    {QLatin1String("JTAG_8"), Direction::Bidirectional},
-    {QLatin1String("JTAG_10"), Direction::Bidirectional},
-    {QLatin1String("JTAG_11"), Direction::Bidirectional},
-    {QLatin1String("JTAG_12"), Direction::Bidirectional},
-    {QLatin1String("JTAG_13"), Direction::Bidirectional},
-    {QLatin1String("JTAG_14"), Direction::Bidirectional},
-    {QLatin1String("JTAG_15"), Direction::Bidirectional},
-    {QLatin1String("JTAG_16"), Direction::Bidirectional},
-    {QLatin1String("JTAG_17"), Direction::Bidirectional},
-    {QLatin1String("JTAG_18"), Direction::Bidirectional},
+    {"JTAG_3"_l1, Direction::Bidirectional},  {"JTAG_4"_l1, Direction::Bidirectional},
+    {"JTAG_5"_l1, Direction::Bidirectional},  {"JTAG_6"_l1, Direction::Bidirectional},
+    {"JTAG_8"_l1, Direction::Bidirectional},  {"JTAG_10"_l1, Direction::Bidirectional},
+    {"JTAG_11"_l1, Direction::Bidirectional}, {"JTAG_12"_l1, Direction::Bidirectional},
+    {"JTAG_13"_l1, Direction::Bidirectional}, {"JTAG_14"_l1, Direction::Bidirectional},
+    {"JTAG_15"_l1, Direction::Bidirectional}, {"JTAG_16"_l1, Direction::Bidirectional},
+    {"JTAG_17"_l1, Direction::Bidirectional}, {"JTAG_18"_l1, Direction::Bidirectional},
 };
 
 constexpr PinRow interruptPins[] = {
-    {QLatin1String("EXTINT[3:0]"), Direction::Input, true},
+    {"EXTINT[3:0]"_l1, Direction::Input, true},
 };
 
 // Signals of a port to an external memory, seen from the core: its clock and reset are outputs.
 constexpr PinRow memoryPortPins[] = {
-    {QLatin1String("HRDATA[31:0]"), Direction::Input, true},
-    {QLatin1String("HREADYOUT"), Direction::Input},
-    {QLatin1String("HRESP[1:0]"), Direction::Input, true},
-    {QLatin1String("HTRANS[1:0]"), Direction::Output, true},
-    {QLatin1String("HBURST[2:0]"), Direction::Output, true},
-    {QLatin1String("HPROT[3:0]"), Direction::Output, true},
-    {QLatin1String("HSIZE[2:0]"), Direction::Output, true},
-    {QLatin1String("HWRITE"), Direction::Output},
-    {QLatin1String("HREADYMUX"), Direction::Output},
-    {QLatin1String("HMASTER[3:0]"), Direction::Output, true},
-    {QLatin1String("HMASTLOCK"), Direction::Output},
-    {QLatin1String("HADDR[31:0]"), Direction::Output, true},
-    {QLatin1String("HWDATA[31:0]"), Direction::Output, true},
-    {QLatin1String("HSEL"), Direction::Output},
-    {QLatin1String("HCLK"), Direction::Output},
-    {QLatin1String("HRESET"), Direction::Output},
+    {"HRDATA[31:0]"_l1, Direction::Input, true},
+    {"HREADYOUT"_l1, Direction::Input},
+    {"HRESP[1:0]"_l1, Direction::Input, true},
+    {"HTRANS[1:0]"_l1, Direction::Output, true},
+    {"HBURST[2:0]"_l1, Direction::Output, true},
+    {"HPROT[3:0]"_l1, Direction::Output, true},
+    {"HSIZE[2:0]"_l1, Direction::Output, true},
+    {"HWRITE"_l1, Direction::Output},
+    {"HREADYMUX"_l1, Direction::Output},
+    {"HMASTER[3:0]"_l1, Direction::Output, true},
+    {"HMASTLOCK"_l1, Direction::Output},
+    {"HADDR[31:0]"_l1, Direction::Output, true},
+    {"HWDATA[31:0]"_l1, Direction::Output, true},
+    {"HSEL"_l1, Direction::Output},
+    {"HCLK"_l1, Direction::Output},
+    {"HRESET"_l1, Direction::Output},
 };
 
 template <int count>
@@ -92,9 +86,9 @@ QList<Utils::PinFigure> corePins(const CoreSwitches &switches)
     if (switches.externalInterrupts)
         append(pins, interruptPins);
     if (switches.externalInstructionMemory)
-        append(pins, memoryPortPins, QLatin1String("EXTFLASH0"));
+        append(pins, memoryPortPins, "EXTFLASH0"_l1);
     if (switches.externalDataMemory)
-        append(pins, memoryPortPins, QLatin1String("EXTSRAM0"));
+        append(pins, memoryPortPins, "EXTSRAM0"_l1);
     return pins;
 }
 

@@ -1,5 +1,6 @@
 #include "cortexm1.h"
 
+#include "config/latin1literal.h"
 #include "ui_common.h"
 #include "ui_debug.h"
 #include "ui_memory.h"
@@ -24,17 +25,17 @@ namespace TARVOORIXM1
 namespace
 {
 
-constexpr QLatin1String blockName("Cortex-M1");
+constexpr QLatin1String blockName = "Cortex-M1"_l1;
 
 // The blanks at the lines' beginnings belong to the text.
-constexpr QLatin1String summary(
+constexpr QLatin1String summary =
     "      Tarvo Cortex-M1 is intended for deeply embedded applications that is integrated into "
     "Tarvo FPGA.\n"
     "       Tarvo Cortex-M1 supports debug and non-debug core, operating system, nested vectored "
     "interrupt controller, ITCM and DTCM, and AHB-Lite interface.\n"
     "       User can configure number of interrupts, size of ITCM and DTCM, OS extension, small or "
     "normal multiplier, big or little endian, full or small debug, debug port, external "
-    "interrupts.\n");
+    "interrupts.\n"_l1;
 
 struct InterruptRow {
     QRadioButton *Ui::Common::*button;

@@ -1,6 +1,7 @@
 #include "tcmsizes.h"
 
 #include "config/devicerules.h"
+#include "config/latin1literal.h"
 
 #include <QtGlobal>
 
@@ -18,20 +19,20 @@ struct FullRow {
 
 // The first matching row wins; a device that no row names has no sizes.
 constexpr FullRow fullRows[] = {
-    {QLatin1String("TV1KL-5A/TV1KL-5B"), 3, 3},
-    {QLatin1String("TV1L-9/TV1LR-9/TV1L-9C/TV1LR-9C/TV2KL-9X/TV1KL-9A"), 5, 4},
-    {QLatin1String("TV2K-18/TV2KR-18/TV2K-18C/TV2KR-18C/TV2KLR-18C"), 6, 5},
-    {QLatin1String("TV2KL-18X"), 5, 4},
-    {QLatin1String("TV2K-55/TV2K-55C/TV2KL-55C/TV3K-50A"), 8, 6},
-    {QLatin1String("TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/"
-                   "TV5KLT-15A/TV5KLRT-15A/TV5KT-15A/TV5KS-25A/TV5KR-25A"),
+    {"TV1KL-5A/TV1KL-5B"_l1, 3, 3},
+    {"TV1L-9/TV1LR-9/TV1L-9C/TV1LR-9C/TV2KL-9X/TV1KL-9A"_l1, 5, 4},
+    {"TV2K-18/TV2KR-18/TV2K-18C/TV2KR-18C/TV2KLR-18C"_l1, 6, 5},
+    {"TV2KL-18X"_l1, 5, 4},
+    {"TV2K-55/TV2K-55C/TV2KL-55C/TV3K-50A"_l1, 8, 6},
+    {"TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/"
+     "TV5KLT-15A/TV5KLRT-15A/TV5KT-15A/TV5KS-25A/TV5KR-25A"_l1,
      6, 5},
-    {QLatin1String("TV5KT-75B/TV5KT-75C"), 8, 7},
-    {QLatin1String("TV5KT-60ES/TV5KT-60B/TV5K-60B"), 7, 6},
-    {QLatin1String("TV5KT-138/TV5KT-138B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/TV5KT-138C/"
-                   "TV5K-138B/TV5KS-138B"),
+    {"TV5KT-75B/TV5KT-75C"_l1, 8, 7},
+    {"TV5KT-60ES/TV5KT-60B/TV5K-60B"_l1, 7, 6},
+    {"TV5KT-138/TV5KT-138B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/TV5KT-138C/"
+     "TV5K-138B/TV5KS-138B"_l1,
      9, 7},
-    {QLatin1String("TV3K-20A/TV3KR-20A/TV3K-10A"), 6, 5},
+    {"TV3K-20A/TV3KR-20A/TV3K-10A"_l1, 6, 5},
 };
 
 struct ReducedRow {
@@ -40,14 +41,14 @@ struct ReducedRow {
 };
 
 constexpr ReducedRow reducedRows[] = {
-    {QLatin1String("TV5KT-138/TV5KT-138B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/TV5KT-138C/"
-                   "TV5K-138B/TV5KS-138B"),
+    {"TV5KT-138/TV5KT-138B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/TV5KT-138C/"
+     "TV5K-138B/TV5KS-138B"_l1,
      7},
-    {QLatin1String("TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A"), 5},
-    {QLatin1String("TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"), 3},
-    {QLatin1String("TV5KT-75B/TV5KT-75C"), 8},
-    {QLatin1String("TV5KT-60ES/TV5KT-60B/TV5K-60B"), 6},
-    {QLatin1String("TV3K-20A/TV3KR-20A/TV3K-10A"), 5},
+    {"TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A"_l1, 5},
+    {"TV5KRT-15A/TV5KRT-15B/TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"_l1, 3},
+    {"TV5KT-75B/TV5KT-75C"_l1, 8},
+    {"TV5KT-60ES/TV5KT-60B/TV5K-60B"_l1, 6},
+    {"TV3K-20A/TV3KR-20A/TV3K-10A"_l1, 5},
 };
 // All other devices, also those whose full list is shorter.
 constexpr int catchAllReducedIndex = 4;
@@ -68,7 +69,7 @@ QStringList tcmSizeList(int lastIndex)
 {
     QStringList sizes;
     for (int i = 0; i <= qMin(lastIndex, 9); ++i)
-        sizes.append(QString::number(1 << i) + QLatin1String(" KB"));
+        sizes.append(QString::number(1 << i) + " KB"_l1);
     return sizes;
 }
 

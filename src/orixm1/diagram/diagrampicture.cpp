@@ -1,5 +1,7 @@
 #include "diagrampicture.h"
 
+#include "config/latin1literal.h"
+
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
@@ -76,9 +78,9 @@ struct FormatRow {
 };
 
 constexpr FormatRow formats[] = {
-    {QLatin1String("svg"), writeSvg},
-    {QLatin1String("png"), writePng},
-    {QLatin1String("pdf"), writePdf},
+    {"svg"_l1, writeSvg},
+    {"png"_l1, writePng},
+    {"pdf"_l1, writePdf},
 };
 
 } // namespace

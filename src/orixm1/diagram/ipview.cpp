@@ -1,5 +1,6 @@
 #include "ipview.h"
 
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "core/cortexm1.h"
 #include "diagrampicture.h"
@@ -46,9 +47,9 @@ struct AvailabilityRow {
 };
 
 constexpr AvailabilityRow availabilityRows[] = {
-    {Key::enableCan, QLatin1String("CAN")},           {Key::enableDdr3, QLatin1String("DDR3")},
-    {Key::enableEthernet, QLatin1String("Ethernet")}, {Key::enablePsram, QLatin1String("PSRAM")},
-    {Key::enableSpi, QLatin1String("SPI-Flash")},
+    {Key::enableCan, "CAN"_l1},           {Key::enableDdr3, "DDR3"_l1},
+    {Key::enableEthernet, "Ethernet"_l1}, {Key::enablePsram, "PSRAM"_l1},
+    {Key::enableSpi, "SPI-Flash"_l1},
 };
 
 // The diagram is paper: white in every theme.
@@ -602,8 +603,7 @@ void IPView::announceFocus()
     if (m_focused) {
         name = m_focused->text();
         if (!m_stateless.contains(m_focused))
-            name += QLatin1String(", ") +
-                    (m_focused->isActive() ? tr("switched on") : tr("switched off"));
+            name += ", "_l1 + (m_focused->isActive() ? tr("switched on") : tr("switched off"));
     }
     if (name != accessibleName())
         setAccessibleName(name); // tells assistive tools

@@ -1,6 +1,7 @@
 #include "defines.h"
 
 #include "config/devicerules.h"
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 
 #include <QDir>
@@ -20,17 +21,17 @@ bool isOn(const OptionMap &options, QLatin1String key, bool byDefault = false)
 
 QString define(QLatin1String name)
 {
-    return QLatin1String("`define ") + name;
+    return "`define "_l1 + name;
 }
 
 QString defineFlag(QLatin1String name, bool on)
 {
-    return QLatin1String("`define ") + name + (on ? QLatin1String(" 1") : QLatin1String(" 0"));
+    return "`define "_l1 + name + (on ? " 1"_l1 : " 0"_l1);
 }
 
 QString defineTcmSize(QLatin1String name, QLatin1String code)
 {
-    return QLatin1String("`define ") + name + QLatin1String(" 4'b") + code;
+    return "`define "_l1 + name + " 4'b"_l1 + code;
 }
 
 QLatin1String tcmSizeCodeOf(const OptionMap &options, QLatin1String key, const QString &device)
@@ -40,16 +41,15 @@ QLatin1String tcmSizeCodeOf(const OptionMap &options, QLatin1String key, const Q
 
 QString parameter(QLatin1String name, const QString &value)
 {
-    return QLatin1String("parameter ") + name + QLatin1String(" = ") + value + u';';
+    return "parameter "_l1 + name + " = "_l1 + value + u';';
 }
 
 constexpr QLatin1String sizeCodes[] = {
-    QLatin1String("0001"), QLatin1String("0010"), QLatin1String("0011"), QLatin1String("0100"),
-    QLatin1String("0101"), QLatin1String("0110"), QLatin1String("0111"), QLatin1String("1000"),
-    QLatin1String("1001"), QLatin1String("1010"),
+    "0001"_l1, "0010"_l1, "0011"_l1, "0100"_l1, "0101"_l1,
+    "0110"_l1, "0111"_l1, "1000"_l1, "1001"_l1, "1010"_l1,
 };
-constexpr QLatin1String catchAllSizeCode("0110");
-constexpr QLatin1String externalSizeCode("0000");
+constexpr QLatin1String catchAllSizeCode = "0110"_l1;
+constexpr QLatin1String externalSizeCode = "0000"_l1;
 
 // One line of the bus file per switched-on block.
 struct BusSwitch {
@@ -59,26 +59,24 @@ struct BusSwitch {
     QLatin1String subMacro = QLatin1String();
 };
 
-constexpr BusSwitch gpioSwitch = {Key::enableGpio, QLatin1String("TARVO_GPIO_SUPPORT"),
-                                  Key::enableGpioIo, QLatin1String("GPIO_IOBUF_EN")};
-constexpr BusSwitch spiFlashSwitch = {Key::enableSpiFlash,
-                                      QLatin1String("TARVO_SPI_FLASH_SUPPORT")};
-constexpr BusSwitch psramSwitch = {Key::enablePsram, QLatin1String("TARVO_PSRAM_SUPPORT")};
+constexpr BusSwitch gpioSwitch = {Key::enableGpio, "TARVO_GPIO_SUPPORT"_l1, Key::enableGpioIo,
+                                  "GPIO_IOBUF_EN"_l1};
+constexpr BusSwitch spiFlashSwitch = {Key::enableSpiFlash, "TARVO_SPI_FLASH_SUPPORT"_l1};
+constexpr BusSwitch psramSwitch = {Key::enablePsram, "TARVO_PSRAM_SUPPORT"_l1};
 
 // In the order of their lines; any of them makes the internal APB bus exist.
 constexpr BusSwitch apbSwitches[] = {
-    {Key::enableUart0, QLatin1String("TARVO_UART0_SUPPORT")},
-    {Key::enableUart1, QLatin1String("TARVO_UART1_SUPPORT")},
-    {Key::enableTimer0, QLatin1String("TARVO_TIMER0_SUPPORT")},
-    {Key::enableTimer1, QLatin1String("TARVO_TIMER1_SUPPORT")},
-    {Key::enableWatchDog, QLatin1String("TARVO_WDOG_SUPPORT")},
-    {Key::enableRtc, QLatin1String("TARVO_RTC_SUPPORT")},
-    {Key::enableI2c, QLatin1String("TARVO_I2C_SUPPORT"), Key::enableI2cIo,
-     QLatin1String("I2C_IOBUF_EN")},
-    {Key::enableSpi, QLatin1String("TARVO_SPI_SUPPORT")},
-    {Key::enableSdCard, QLatin1String("TARVO_SD_SUPPORT")},
-    {Key::enableTrng, QLatin1String("TARVO_TRNG_SUPPORT")},
-    {Key::enableDualTimer, QLatin1String("TARVO_DTIMER_SUPPORT")},
+    {Key::enableUart0, "TARVO_UART0_SUPPORT"_l1},
+    {Key::enableUart1, "TARVO_UART1_SUPPORT"_l1},
+    {Key::enableTimer0, "TARVO_TIMER0_SUPPORT"_l1},
+    {Key::enableTimer1, "TARVO_TIMER1_SUPPORT"_l1},
+    {Key::enableWatchDog, "TARVO_WDOG_SUPPORT"_l1},
+    {Key::enableRtc, "TARVO_RTC_SUPPORT"_l1},
+    {Key::enableI2c, "TARVO_I2C_SUPPORT"_l1, Key::enableI2cIo, "I2C_IOBUF_EN"_l1},
+    {Key::enableSpi, "TARVO_SPI_SUPPORT"_l1},
+    {Key::enableSdCard, "TARVO_SD_SUPPORT"_l1},
+    {Key::enableTrng, "TARVO_TRNG_SUPPORT"_l1},
+    {Key::enableDualTimer, "TARVO_DTIMER_SUPPORT"_l1},
 };
 
 // Returns whether the block is on.
@@ -101,8 +99,7 @@ bool appendExtensionPorts(const OptionMap &options, QLatin1String keyPrefix, int
         if (!options.value(Key::extensionPortKey(keyPrefix, port), false).toBool())
             continue;
         any = true;
-        lines.append(QLatin1String("`define TARVO_") + bus + QString::number(port) +
-                     QLatin1String("_SUPPORT"));
+        lines.append("`define TARVO_"_l1 + bus + QString::number(port) + "_SUPPORT"_l1);
     }
     return any;
 }
@@ -113,12 +110,12 @@ struct MacInterface {
 };
 
 constexpr MacInterface macInterfaces[] = {
-    {Value::rgmii, {QLatin1String("RGMII_IF"), QLatin1String()}},
-    {Value::gmii, {QLatin1String("GMII_IF"), QLatin1String()}},
-    {Value::mii, {QLatin1String("MII_IF"), QLatin1String()}},
-    {Value::gmiiMii, {QLatin1String("GMII_IF"), QLatin1String("MII_IF")}},
+    {Value::rgmii, {"RGMII_IF"_l1, QLatin1String()}},
+    {Value::gmii, {"GMII_IF"_l1, QLatin1String()}},
+    {Value::mii, {"MII_IF"_l1, QLatin1String()}},
+    {Value::gmiiMii, {"GMII_IF"_l1, "MII_IF"_l1}},
 };
-constexpr QLatin1String macModuleName("module_name mac");
+constexpr QLatin1String macModuleName = "module_name mac"_l1;
 
 struct FamilyRow {
     QLatin1String prefix;
@@ -127,9 +124,9 @@ struct FamilyRow {
 
 // The first matching row wins; the last matches every device.
 constexpr FamilyRow families[] = {
-    {QLatin1String("TV5K"), QLatin1String("\"5K_Series\"")},
-    {QLatin1String("TV3K"), QLatin1String("\"3K_Series\"")},
-    {QLatin1String(), QLatin1String("\"1L/2K_Series\"")},
+    {"TV5K"_l1, "\"5K_Series\""_l1},
+    {"TV3K"_l1, "\"3K_Series\""_l1},
+    {QLatin1String(), "\"1L/2K_Series\""_l1},
 };
 
 struct Ddr3Row {
@@ -140,17 +137,15 @@ struct Ddr3Row {
 // The first matching row wins; a device that no row names gets an empty file.
 constexpr Ddr3Row ddr3Rows[] = {
     {{QLatin1String(),
-      QLatin1String("TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
-                    "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B")},
-     QLatin1String("VIRLA_138K")},
-    {{QLatin1String(),
-      QLatin1String("TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A/TV5KT-60ES/"
-                    "TV5KT-60B/TV5K-60B")},
-     QLatin1String("VIRLA_25K")},
-    {{QLatin1String("TV2K"), QLatin1String()}, QLatin1String("VIRLA_TV2K")},
-    {{QLatin1String("TV3K"),
-      QLatin1String("TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV5KRT-15A/TV5KRT-15B/"
-                    "TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A")},
+      "TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
+      "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"_l1},
+     "VIRLA_138K"_l1},
+    {{QLatin1String(), "TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A/TV5KT-60ES/"
+                       "TV5KT-60B/TV5K-60B"_l1},
+     "VIRLA_25K"_l1},
+    {{"TV2K"_l1, QLatin1String()}, "VIRLA_TV2K"_l1},
+    {{"TV3K"_l1, "TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV5KRT-15A/TV5KRT-15B/"
+                 "TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"_l1},
      QLatin1String()},
 };
 
@@ -165,9 +160,9 @@ struct PsramRow {
 // The first matching row wins. That single-ended clocks come without clock_reverse, and the
 // catch-all row without EBR_BASED, is intended.
 constexpr PsramRow psramRows[] = {
-    {QLatin1String("TV2KR-18C"), QLatin1String("QFN88P/eLQFP144P"), true, true, false},
-    {QLatin1String("TV2KR-18C"), QLatin1String("QFN88PF/eLQFP144PF"), true, false, true},
-    {QLatin1String("TV2KLR-18C"), QLatin1String("QFN88"), true, false, false},
+    {"TV2KR-18C"_l1, "QFN88P/eLQFP144P"_l1, true, true, false},
+    {"TV2KR-18C"_l1, "QFN88PF/eLQFP144PF"_l1, true, false, true},
+    {"TV2KLR-18C"_l1, "QFN88"_l1, true, false, false},
 };
 constexpr PsramRow psramDisabled = {QLatin1String(), QLatin1String(), true, true, false};
 constexpr PsramRow psramOtherwise = {QLatin1String(), QLatin1String(), false, true, false};
@@ -191,19 +186,19 @@ void appendDebugPort(const OptionMap &options, QStringList &coreLines, QStringLi
     const bool both = port == QVariant(QString(Value::jtagAndSerialWire));
     const bool jtag = both || port == QVariant(QString(Value::jtag));
     const bool serialWire = both || port == QVariant(QString(Value::serialWire));
-    coreLines.append(defineFlag(QLatin1String("CM1_JTAG"), jtag));
-    coreLines.append(defineFlag(QLatin1String("CM1_SW"), serialWire));
+    coreLines.append(defineFlag("CM1_JTAG"_l1, jtag));
+    coreLines.append(defineFlag("CM1_SW"_l1, serialWire));
     if (jtag)
-        busLines.append(define(QLatin1String("DEBUG_PORT_JTAG")));
-    coreLines.append(defineFlag(QLatin1String("CM1_SMALL_DEBUG"), isOn(options, Key::smallDebug)));
+        busLines.append(define("DEBUG_PORT_JTAG"_l1));
+    coreLines.append(defineFlag("CM1_SMALL_DEBUG"_l1, isOn(options, Key::smallDebug)));
 }
 
 void appendInstructionMemory(const OptionMap &options, const QString &device,
                              QStringList &coreLines, QStringList &busLines)
 {
-    constexpr QLatin1String lowerAlias("CM1_ITCM_LA_EN");
-    constexpr QLatin1String upperAlias("CM1_ITCM_UA_EN");
-    constexpr QLatin1String size("CM1_ITCMSIZE");
+    constexpr QLatin1String lowerAlias = "CM1_ITCM_LA_EN"_l1;
+    constexpr QLatin1String upperAlias = "CM1_ITCM_UA_EN"_l1;
+    constexpr QLatin1String size = "CM1_ITCMSIZE"_l1;
     if (isOn(options, Key::internalInstructionMemory, true)) {
         coreLines.append(defineFlag(lowerAlias, true));
         coreLines.append(defineFlag(upperAlias, false));
@@ -211,43 +206,42 @@ void appendInstructionMemory(const OptionMap &options, const QString &device,
         if (isOn(options, Key::initializeItcm)) {
             const QString path =
                 options.value(Key::itcmInitializationAbsolutePath, QString()).toString();
-            coreLines.append(define(QLatin1String("CM1_ITCM_INIT_EN")));
-            coreLines.append(QLatin1String("`define CM1_ITCM_INIT_PATH \"") +
-                             QDir::cleanPath(path) + u'"');
+            coreLines.append(define("CM1_ITCM_INIT_EN"_l1));
+            coreLines.append("`define CM1_ITCM_INIT_PATH \""_l1 + QDir::cleanPath(path) + u'"');
         }
     } else if (isOn(options, Key::externalInstructionMemory)) {
         coreLines.append(defineFlag(lowerAlias, false));
         coreLines.append(defineFlag(upperAlias, false));
         coreLines.append(defineTcmSize(size, externalSizeCode));
-        busLines.append(define(QLatin1String("CM1_EXTERNAL_FLASH_EN")));
+        busLines.append(define("CM1_EXTERNAL_FLASH_EN"_l1));
     }
 }
 
 void appendDataMemory(const OptionMap &options, const QString &device, QStringList &coreLines,
                       QStringList &busLines)
 {
-    constexpr QLatin1String size("CM1_DTCMSIZE");
+    constexpr QLatin1String size = "CM1_DTCMSIZE"_l1;
     if (isOn(options, Key::internalDataMemory, true)) {
         coreLines.append(defineTcmSize(size, tcmSizeCodeOf(options, Key::dtcmSize, device)));
     } else if (isOn(options, Key::externalDataMemory)) {
-        busLines.append(define(QLatin1String("CM1_EXTERNAL_SRAM_EN")));
+        busLines.append(define("CM1_EXTERNAL_SRAM_EN"_l1));
         coreLines.append(defineTcmSize(size, externalSizeCode));
     }
 }
 
 void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
 {
-    constexpr QLatin1String delay("RGMII_INPUT_DELAY_VALUE");
-    constexpr QLatin1String divider("MIIM_CLK_DIVIDER");
+    constexpr QLatin1String delay = "RGMII_INPUT_DELAY_VALUE"_l1;
+    constexpr QLatin1String divider = "MIIM_CLK_DIVIDER"_l1;
     defines.macDefineLines.append(QStringLiteral("`ifndef MAC_DEFINE"));
-    defines.macDefineLines.append(define(QLatin1String("MAC_DEFINE")));
+    defines.macDefineLines.append(define("MAC_DEFINE"_l1));
     if (!isOn(options, Key::enableEthernet)) {
-        defines.macDefineLines.append(define(QLatin1String("RGMII_IF")));
+        defines.macDefineLines.append(define("RGMII_IF"_l1));
         defines.macDefineLines.append(define(macModuleName));
         defines.macParamLines.append(parameter(delay, QStringLiteral("100")));
         defines.macParamLines.append(parameter(divider, QStringLiteral("20")));
     } else {
-        defines.busLines.append(define(QLatin1String("TARVO_INTERNET_SUPPORT")));
+        defines.busLines.append(define("TARVO_INTERNET_SUPPORT"_l1));
         const QString interface =
             options.value(Key::ethernetInterface, QString(Value::rgmii)).toString();
         for (const MacInterface &row : macInterfaces) {
@@ -276,8 +270,8 @@ void appendDdr3Variant(const QString &device, QStringList &lines)
     for (const Ddr3Row &row : ddr3Rows) {
         if (!row.devices.matches(device))
             continue;
-        lines.append(define(QLatin1String("DDR3_PHY_MC")));
-        lines.append(define(QLatin1String("EBR_BASED")));
+        lines.append(define("DDR3_PHY_MC"_l1));
+        lines.append(define("EBR_BASED"_l1));
         if (row.variant.size() > 0)
             lines.append(define(row.variant));
         return;
@@ -287,14 +281,12 @@ void appendDdr3Variant(const QString &device, QStringList &lines)
 void appendPsramVariant(const PsramRow &row, QStringList &lines)
 {
     if (row.ebrBased)
-        lines.append(define(QLatin1String("EBR_BASED")));
-    lines.append(define(QLatin1String("module_name_psram PSRAM_Memory_Interface_Top")));
+        lines.append(define("EBR_BASED"_l1));
+    lines.append(define("module_name_psram PSRAM_Memory_Interface_Top"_l1));
     if (row.clockReverse)
-        lines.append(define(QLatin1String("clock_reverse")));
-    lines.append(
-        define(row.singleEndedClocks ? QLatin1String("CK0_SINGLE") : QLatin1String("CK0_DIFF")));
-    lines.append(
-        define(row.singleEndedClocks ? QLatin1String("CK1_SINGLE") : QLatin1String("CK1_DIFF")));
+        lines.append(define("clock_reverse"_l1));
+    lines.append(define(row.singleEndedClocks ? "CK0_SINGLE"_l1 : "CK0_DIFF"_l1));
+    lines.append(define(row.singleEndedClocks ? "CK1_SINGLE"_l1 : "CK1_DIFF"_l1));
 }
 
 } // namespace
@@ -308,13 +300,12 @@ void buildCoreDefines(const OptionMap &options, const QString &device, QStringLi
                       QStringList &busLines)
 {
     const int interrupts = options.value(Key::numberOfInterrupts, 32).toInt();
-    coreLines.append(QLatin1String("`define CM1_NUM_IRQ ") + QString::number(interrupts));
-    coreLines.append(defineFlag(QLatin1String("CM1_OS"), isOn(options, Key::osExtension, true)));
-    coreLines.append(
-        defineFlag(QLatin1String("CM1_SMALL_MUL"), isOn(options, Key::smallMultiplier)));
-    coreLines.append(defineFlag(QLatin1String("CM1_BE8"), isOn(options, Key::bigEndian)));
+    coreLines.append("`define CM1_NUM_IRQ "_l1 + QString::number(interrupts));
+    coreLines.append(defineFlag("CM1_OS"_l1, isOn(options, Key::osExtension, true)));
+    coreLines.append(defineFlag("CM1_SMALL_MUL"_l1, isOn(options, Key::smallMultiplier)));
+    coreLines.append(defineFlag("CM1_BE8"_l1, isOn(options, Key::bigEndian)));
     if (isOn(options, Key::externalInterrupts))
-        busLines.append(define(QLatin1String("TARVO_EXTINT_SUPPORT")));
+        busLines.append(define("TARVO_EXTINT_SUPPORT"_l1));
     if (isOn(options, Key::enableDebug, true))
         appendDebugPort(options, coreLines, busLines);
     appendInstructionMemory(options, device, coreLines, busLines);
@@ -325,11 +316,11 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
                             PeripheralDefines &defines)
 {
     const QString name = device.device();
-    constexpr QLatin1String canDepth("CFIFO_DEPTH");
+    constexpr QLatin1String canDepth = "CFIFO_DEPTH"_l1;
 
     appendSwitch(options, gpioSwitch, defines.busLines);
     if (isOn(options, Key::enableCan)) {
-        defines.busLines.append(define(QLatin1String("TARVO_CAN_SUPPORT")));
+        defines.busLines.append(define("TARVO_CAN_SUPPORT"_l1));
         const QString depth = options.value(Key::canBufferDepth, QString()).toString();
         defines.paramLines.append(parameter(canDepth, depth));
     } else {
@@ -338,28 +329,28 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
     appendEthernet(options, defines);
     for (const FamilyRow &row : families) {
         if (row.prefix.size() == 0 || name.startsWith(row.prefix)) {
-            defines.macParamLines.append(parameter(QLatin1String("DEVICE"), row.family));
+            defines.macParamLines.append(parameter("DEVICE"_l1, row.family));
             break;
         }
     }
     appendSwitch(options, spiFlashSwitch, defines.busLines);
     appendSwitch(options, psramSwitch, defines.busLines);
     if (isOn(options, Key::enableDdr3)) {
-        defines.busLines.append(define(QLatin1String("TARVO_DDR3_SUPPORT")));
+        defines.busLines.append(define("TARVO_DDR3_SUPPORT"_l1));
         if (isTv2k(name))
-            defines.busLines.append(define(QLatin1String("VIRLA_TV2K")));
+            defines.busLines.append(define("VIRLA_TV2K"_l1));
     }
-    appendExtensionPorts(options, Key::enableAhbMaster, Key::ahbMasterCount, QLatin1String("AHB"),
+    appendExtensionPorts(options, Key::enableAhbMaster, Key::ahbMasterCount, "AHB"_l1,
                          defines.busLines);
     bool anyInternal = false;
     for (const BusSwitch &row : apbSwitches)
         anyInternal |= appendSwitch(options, row, defines.busLines);
-    const bool anyExternal = appendExtensionPorts(
-        options, Key::enableApbMaster, Key::apbMasterCount, QLatin1String("APB"), defines.busLines);
+    const bool anyExternal = appendExtensionPorts(options, Key::enableApbMaster,
+                                                  Key::apbMasterCount, "APB"_l1, defines.busLines);
     if (anyExternal)
-        defines.busLines.append(define(QLatin1String("TARVO_APBEXT_SUPPORT")));
+        defines.busLines.append(define("TARVO_APBEXT_SUPPORT"_l1));
     if (anyInternal)
-        defines.busLines.append(define(QLatin1String("TARVO_APBINT_SUPPORT")));
+        defines.busLines.append(define("TARVO_APBINT_SUPPORT"_l1));
     appendDdr3Variant(name, defines.ddr3Lines);
     appendPsramVariant(psramRow(options, device), defines.psramLines);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/latin1literal.h"
 #include "config/optionmap.h"
 
 #include <dev/devicearg.h>
@@ -14,13 +15,13 @@ namespace TARVOORIXM1
 // Names of the generated include files.
 namespace IncludeFileName
 {
-inline constexpr QLatin1String core("cm1_option_defs.v");
-inline constexpr QLatin1String bus("ahb_option_defs.v");
-inline constexpr QLatin1String param("parameter.vh");
-inline constexpr QLatin1String macDefine("triple_speed_mac_define.v");
-inline constexpr QLatin1String macParam("triple_speed_mac_param.v");
-inline constexpr QLatin1String ddr3("DDR3_define.v");
-inline constexpr QLatin1String psram("psram_define.v");
+inline constexpr QLatin1String core = "cm1_option_defs.v"_l1;
+inline constexpr QLatin1String bus = "ahb_option_defs.v"_l1;
+inline constexpr QLatin1String param = "parameter.vh"_l1;
+inline constexpr QLatin1String macDefine = "triple_speed_mac_define.v"_l1;
+inline constexpr QLatin1String macParam = "triple_speed_mac_param.v"_l1;
+inline constexpr QLatin1String ddr3 = "DDR3_define.v"_l1;
+inline constexpr QLatin1String psram = "psram_define.v"_l1;
 } // namespace IncludeFileName
 
 // The text of one include file: a line per entry, without line ends.

@@ -1,5 +1,6 @@
 #include "outputs.h"
 
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "synthesisrequest.h"
 
@@ -16,29 +17,28 @@ OutputPaths outputPaths(const QString &tool, int languageIndex, const QString &t
                         const QString &outDir, const QString &target)
 {
     const bool vhdl = languageIndex != 0;
-    const QLatin1String suffix = vhdl ? QLatin1String(".vhd") : QLatin1String(".v");
+    const QLatin1String suffix = vhdl ? ".vhd"_l1 : ".v"_l1;
     const QString inTemp = tempDir + u'/' + target;
     const QString inOut = outDir + u'/' + target;
 
     OutputPaths paths;
     if (tool == Value::tarvoSynthesis) {
-        paths.netlistSource = inTemp + (vhdl ? QLatin1String(".vhg") : QLatin1String(".vg"));
+        paths.netlistSource = inTemp + (vhdl ? ".vhg"_l1 : ".vg"_l1);
         paths.netlist = inOut + suffix;
-        paths.verilogNetlist = inTemp + QLatin1String(".vg");
+        paths.verilogNetlist = inTemp + ".vg"_l1;
         if (languageIndex == 1) {
-            paths.modelSource = inTemp + QLatin1String(".vho");
-            paths.model = inOut + QLatin1String(".vho");
+            paths.modelSource = inTemp + ".vho"_l1;
+            paths.model = inOut + ".vho"_l1;
         }
     } else if (tool == Value::synplifyPro) {
         const QString inImplementation = tempDir + u'/' + implementationName + u'/' + target;
-        paths.netlistSource =
-            inImplementation + (vhdl ? QLatin1String(".vhm") : QLatin1String(".vm"));
+        paths.netlistSource = inImplementation + (vhdl ? ".vhm"_l1 : ".vm"_l1);
         paths.netlist = inOut + suffix;
-        paths.verilogNetlist = inImplementation + QLatin1String(".vm");
+        paths.verilogNetlist = inImplementation + ".vm"_l1;
     }
-    paths.templateSource = inTemp + QLatin1String("_tmp") + suffix;
-    paths.instantiationTemplate = inOut + QLatin1String("_tmp") + suffix;
-    paths.decoded = inOut + QLatin1String(".vo");
+    paths.templateSource = inTemp + "_tmp"_l1 + suffix;
+    paths.instantiationTemplate = inOut + "_tmp"_l1 + suffix;
+    paths.decoded = inOut + ".vo"_l1;
     return paths;
 }
 

@@ -1,6 +1,7 @@
 #include "sourcefiles.h"
 
 #include "config/devicerules.h"
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "defines.h"
 
@@ -23,28 +24,21 @@ struct ExclusionRow {
 
 // The first matching row wins; the catch-all stands behind each table.
 constexpr ExclusionRow withoutDebugRows[] = {
-    {{QLatin1String("TV5K"), QLatin1String()}, QLatin1String("itcm.v/dtcm.v/itcm_3k.v/dtcm_3k.v")},
-    {{QLatin1String("TV3K"), QLatin1String()}, QLatin1String("itcm.v/dtcm.v/itcm_5k.v/dtcm_5k.v")},
+    {{"TV5K"_l1, QLatin1String()}, "itcm.v/dtcm.v/itcm_3k.v/dtcm_3k.v"_l1},
+    {{"TV3K"_l1, QLatin1String()}, "itcm.v/dtcm.v/itcm_5k.v/dtcm_5k.v"_l1},
 };
-constexpr QLatin1String withoutDebugOtherwise("itcm_3k.v/dtcm_3k.v/itcm_5k.v/dtcm_5k.v");
+constexpr QLatin1String withoutDebugOtherwise = "itcm_3k.v/dtcm_3k.v/itcm_5k.v/dtcm_5k.v"_l1;
 
 constexpr ExclusionRow withDebugRows[] = {
-    {{QLatin1String(), QLatin1String("TV2K-55C/TV2K-18C/TV2KL-55C/TV2KR-18C/TV2KLR-18C")},
-     QLatin1String("itcmdbg.v")},
+    {{QLatin1String(), "TV2K-55C/TV2K-18C/TV2KL-55C/TV2KR-18C/TV2KLR-18C"_l1}, "itcmdbg.v"_l1},
 };
-constexpr QLatin1String withDebugOtherwise("itcmdbg_2kc.v");
+constexpr QLatin1String withDebugOtherwise = "itcmdbg_2kc.v"_l1;
 
 // Included by other sources and never compiled by themselves.
 constexpr QLatin1String supportNames[] = {
-    QLatin1String("tvmc_local_param.v"),
-    QLatin1String("tvmc_param.v"),
-    QLatin1String("ddr3_name.v"),
-    QLatin1String("psram_local_define.v"),
-    QLatin1String("psram_local_param.v"),
-    QLatin1String("define.vh"),
-    QLatin1String("psram_param.v"),
-    QLatin1String("static_macro_define.vh"),
-    QLatin1String("triple_speed_mac_name.v"),
+    "tvmc_local_param.v"_l1,   "tvmc_param.v"_l1,           "ddr3_name.v"_l1,
+    "psram_local_define.v"_l1, "psram_local_param.v"_l1,    "define.vh"_l1,
+    "psram_param.v"_l1,        "static_macro_define.vh"_l1, "triple_speed_mac_name.v"_l1,
 };
 
 // psram_define.v is left out on purpose: the RTL includes it.
@@ -74,7 +68,7 @@ bool isSupportFile(const QString &name)
 
 QString generationFolder(const QString &createInPath)
 {
-    return createInPath + QLatin1String("/temp/") + QLatin1String("tv_orix_m1");
+    return createInPath + "/temp/"_l1 + "tv_orix_m1"_l1;
 }
 
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/latin1literal.h"
 #include "config/optionmap.h"
 
 #include <QString>
@@ -21,6 +22,6 @@ SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const QString 
                                        int languageIndex, const QStringList &sourceFiles);
 
 // The result folder of a project-based tool, below the generation folder.
-inline constexpr QLatin1String implementationName("rev_1");
+inline constexpr QLatin1String implementationName = "rev_1"_l1;
 
 } // namespace TARVOORIXM1

@@ -2,6 +2,7 @@
 
 #include "blocks.h"
 #include "config/devicerules.h"
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 
 #include <utils/pinfigure.h>
@@ -42,177 +43,167 @@ inline constexpr auto Output = Utils::PinFigure::Output;
 inline constexpr auto Bidirectional = Utils::PinFigure::Bidirectional;
 
 inline constexpr PinRow gpioInoutRows[] = {
-    {QLatin1String("GPIO[15:0]"), Bidirectional, true},
+    {"GPIO[15:0]"_l1, Bidirectional, true},
 };
 
 inline constexpr PinRow gpioSplitRows[] = {
-    {QLatin1String("GPIOIN[15:0]"), Input, true},
-    {QLatin1String("GPIOOUT[15:0]"), Output, true},
-    {QLatin1String("GPIOOUTEN[15:0]"), Output, true},
+    {"GPIOIN[15:0]"_l1, Input, true},
+    {"GPIOOUT[15:0]"_l1, Output, true},
+    {"GPIOOUTEN[15:0]"_l1, Output, true},
 };
 
 inline constexpr PinRow canRows[] = {
-    {QLatin1String("CAN_RX"), Input},
-    {QLatin1String("CAN_TX"), Output},
+    {"CAN_RX"_l1, Input},
+    {"CAN_TX"_l1, Output},
 };
 
 // Of every interface to the PHY.
 inline constexpr PinRow ethernetRows[] = {
-    {QLatin1String("MDC"), Output},
-    {QLatin1String("MDIO"), Bidirectional},
+    {"MDC"_l1, Output},
+    {"MDIO"_l1, Bidirectional},
 };
 
 inline constexpr PinRow rgmiiRows[] = {
-    {QLatin1String("RGMII_TXC"), Output},
-    {QLatin1String("RGMII_TX_CTL"), Output},
-    {QLatin1String("RGMII_TXD[3:0]"), Output, true},
-    {QLatin1String("RGMII_RXC"), Input},
-    {QLatin1String("RGMII_RX_CTL"), Input},
-    {QLatin1String("RGMII_RXD[3:0]"), Input, true},
-    {QLatin1String("GTX_CLK"), Input},
+    {"RGMII_TXC"_l1, Output}, {"RGMII_TX_CTL"_l1, Output}, {"RGMII_TXD[3:0]"_l1, Output, true},
+    {"RGMII_RXC"_l1, Input},  {"RGMII_RX_CTL"_l1, Input},  {"RGMII_RXD[3:0]"_l1, Input, true},
+    {"GTX_CLK"_l1, Input},
 };
 
 inline constexpr PinRow gmiiRows[] = {
-    {QLatin1String("GMII_RX_CLK"), Input},
-    {QLatin1String("GMII_RX_DV"), Input},
-    {QLatin1String("GMII_RXD[7:0]"), Input, true},
-    {QLatin1String("GMII_RX_ER"), Input},
-    {QLatin1String("GTX_CLK"), Input},
-    {QLatin1String("GMII_GTX_CLK"), Output},
-    {QLatin1String("GMII_TXD[7:0]"), Output, true},
-    {QLatin1String("GMII_TX_EN"), Output},
-    {QLatin1String("GMII_TX_ER"), Output},
+    {"GMII_RX_CLK"_l1, Input},
+    {"GMII_RX_DV"_l1, Input},
+    {"GMII_RXD[7:0]"_l1, Input, true},
+    {"GMII_RX_ER"_l1, Input},
+    {"GTX_CLK"_l1, Input},
+    {"GMII_GTX_CLK"_l1, Output},
+    {"GMII_TXD[7:0]"_l1, Output, true},
+    {"GMII_TX_EN"_l1, Output},
+    {"GMII_TX_ER"_l1, Output},
 };
 
 inline constexpr PinRow miiRows[] = {
-    {QLatin1String("MII_RX_CLK"), Input}, {QLatin1String("MII_RXD[3:0]"), Input, true},
-    {QLatin1String("MII_RX_DV"), Input},  {QLatin1String("MII_RX_ER"), Input},
-    {QLatin1String("MII_TX_CLK"), Input}, {QLatin1String("MII_TXD[3:0]"), Output, true},
-    {QLatin1String("MII_TX_EN"), Output}, {QLatin1String("MII_TX_ER"), Output},
-    {QLatin1String("MII_COL"), Input},    {QLatin1String("MII_CRS"), Input},
+    {"MII_RX_CLK"_l1, Input}, {"MII_RXD[3:0]"_l1, Input, true}, {"MII_RX_DV"_l1, Input},
+    {"MII_RX_ER"_l1, Input},  {"MII_TX_CLK"_l1, Input},         {"MII_TXD[3:0]"_l1, Output, true},
+    {"MII_TX_EN"_l1, Output}, {"MII_TX_ER"_l1, Output},         {"MII_COL"_l1, Input},
+    {"MII_CRS"_l1, Input},
 };
 
 inline constexpr PinRow ddr3StopRows[] = {
-    {QLatin1String("DDR_STOP_O"), Output},
+    {"DDR_STOP_O"_l1, Output},
 };
 
 inline constexpr PinRow ddr3Rows[] = {
-    {QLatin1String("DDR_CLK_I"), Input},
-    {QLatin1String("DDR_MEM_CLK_I"), Input},
-    {QLatin1String("DDR_LOCK_I"), Input},
-    {QLatin1String("DDR_RSTN_I"), Input},
-    {QLatin1String("DDR_INIT_COMPLETE_O"), Output},
-    {QLatin1String("DDR_ADDR_O[15:0]"), Output, true},
-    {QLatin1String("DDR_BA_O[2:0]"), Output, true},
-    {QLatin1String("DDR_CS_N_O"), Output},
-    {QLatin1String("DDR_RAS_N_O"), Output},
-    {QLatin1String("DDR_CAS_N_O"), Output},
-    {QLatin1String("DDR_WE_N_O"), Output},
-    {QLatin1String("DDR_CLK_O"), Output},
-    {QLatin1String("DDR_CLK_N_O"), Output},
-    {QLatin1String("DDR_CKE_O"), Output},
-    {QLatin1String("DDR_ODT_O"), Output},
-    {QLatin1String("DDR_RESET_N_O"), Output},
-    {QLatin1String("DDR_DQM_O[1:0]"), Output, true},
-    {QLatin1String("DDR_DQ_IO[15:0]"), Bidirectional, true},
-    {QLatin1String("DDR_DQS_IO[1:0]"), Bidirectional, true},
-    {QLatin1String("DDR_DQS_N_IO[1:0]"), Bidirectional, true},
+    {"DDR_CLK_I"_l1, Input},
+    {"DDR_MEM_CLK_I"_l1, Input},
+    {"DDR_LOCK_I"_l1, Input},
+    {"DDR_RSTN_I"_l1, Input},
+    {"DDR_INIT_COMPLETE_O"_l1, Output},
+    {"DDR_ADDR_O[15:0]"_l1, Output, true},
+    {"DDR_BA_O[2:0]"_l1, Output, true},
+    {"DDR_CS_N_O"_l1, Output},
+    {"DDR_RAS_N_O"_l1, Output},
+    {"DDR_CAS_N_O"_l1, Output},
+    {"DDR_WE_N_O"_l1, Output},
+    {"DDR_CLK_O"_l1, Output},
+    {"DDR_CLK_N_O"_l1, Output},
+    {"DDR_CKE_O"_l1, Output},
+    {"DDR_ODT_O"_l1, Output},
+    {"DDR_RESET_N_O"_l1, Output},
+    {"DDR_DQM_O[1:0]"_l1, Output, true},
+    {"DDR_DQ_IO[15:0]"_l1, Bidirectional, true},
+    {"DDR_DQS_IO[1:0]"_l1, Bidirectional, true},
+    {"DDR_DQS_N_IO[1:0]"_l1, Bidirectional, true},
 };
 
 inline constexpr PinRow psramRows[] = {
-    {QLatin1String("O_psram_ck[1:0]"), Output, true},
-    {QLatin1String("O_psram_ck_n[1:0]"), Output, true},
-    {QLatin1String("IO_psram_rwds[1:0]"), Bidirectional, true},
-    {QLatin1String("IO_psram_dq[15:0]"), Bidirectional, true},
-    {QLatin1String("O_psram_reset_n[1:0]"), Output, true},
-    {QLatin1String("O_psram_cs_n[1:0]"), Output, true},
-    {QLatin1String("init_calib"), Output},
-    {QLatin1String("psram_ref_clk"), Input},
-    {QLatin1String("psram_memory_clk"), Input},
+    {"O_psram_ck[1:0]"_l1, Output, true},
+    {"O_psram_ck_n[1:0]"_l1, Output, true},
+    {"IO_psram_rwds[1:0]"_l1, Bidirectional, true},
+    {"IO_psram_dq[15:0]"_l1, Bidirectional, true},
+    {"O_psram_reset_n[1:0]"_l1, Output, true},
+    {"O_psram_cs_n[1:0]"_l1, Output, true},
+    {"init_calib"_l1, Output},
+    {"psram_ref_clk"_l1, Input},
+    {"psram_memory_clk"_l1, Input},
 };
 
 inline constexpr PinRow spiFlashRows[] = {
-    {QLatin1String("FLASH_SPI_HOLDN"), Bidirectional},
-    {QLatin1String("FLASH_SPI_CSN"), Bidirectional},
-    {QLatin1String("FLASH_SPI_MISO"), Bidirectional},
-    {QLatin1String("FLASH_SPI_MOSI"), Bidirectional},
-    {QLatin1String("FLASH_SPI_WPN"), Bidirectional},
-    {QLatin1String("FLASH_SPI_CLK"), Bidirectional},
+    {"FLASH_SPI_HOLDN"_l1, Bidirectional}, {"FLASH_SPI_CSN"_l1, Bidirectional},
+    {"FLASH_SPI_MISO"_l1, Bidirectional},  {"FLASH_SPI_MOSI"_l1, Bidirectional},
+    {"FLASH_SPI_WPN"_l1, Bidirectional},   {"FLASH_SPI_CLK"_l1, Bidirectional},
 };
 
 // One port of an extension bus, seen from the subsystem, which is its master. The blank after HSIZE
 // belongs to the name.
 inline constexpr PinRow ahbPortRows[] = {
-    {QLatin1String("HRDATA[31:0]"), Input, true},
-    {QLatin1String("HREADYOUT"), Input},
-    {QLatin1String("HRESP[1:0]"), Input, true},
-    {QLatin1String("HTRANS[1:0]"), Output, true},
-    {QLatin1String("HBURST[2:0]"), Output, true},
-    {QLatin1String("HPROT[3:0]"), Output, true},
-    {QLatin1String("HSIZE[2:0] "), Output, true},
-    {QLatin1String("HWRITE"), Output},
-    {QLatin1String("HREADYMUX"), Output},
-    {QLatin1String("HMASTER[3:0]"), Output, true},
-    {QLatin1String("HMASTLOCK"), Output},
-    {QLatin1String("HADDR[31:0]"), Output, true},
-    {QLatin1String("HWDATA[31:0]"), Output, true},
-    {QLatin1String("HSEL"), Output},
-    {QLatin1String("HCLK"), Output},
-    {QLatin1String("HRESET"), Output},
+    {"HRDATA[31:0]"_l1, Input, true},
+    {"HREADYOUT"_l1, Input},
+    {"HRESP[1:0]"_l1, Input, true},
+    {"HTRANS[1:0]"_l1, Output, true},
+    {"HBURST[2:0]"_l1, Output, true},
+    {"HPROT[3:0]"_l1, Output, true},
+    {"HSIZE[2:0] "_l1, Output, true},
+    {"HWRITE"_l1, Output},
+    {"HREADYMUX"_l1, Output},
+    {"HMASTER[3:0]"_l1, Output, true},
+    {"HMASTLOCK"_l1, Output},
+    {"HADDR[31:0]"_l1, Output, true},
+    {"HWDATA[31:0]"_l1, Output, true},
+    {"HSEL"_l1, Output},
+    {"HCLK"_l1, Output},
+    {"HRESET"_l1, Output},
 };
 
 inline constexpr PinRow uartRows[] = {
-    {QLatin1String("RXD"), Input},
-    {QLatin1String("TXD"), Output},
+    {"RXD"_l1, Input},
+    {"TXD"_l1, Output},
 };
 
 inline constexpr PinRow timerRows[] = {
-    {QLatin1String("EXTIN"), Input},
+    {"EXTIN"_l1, Input},
 };
 
 inline constexpr PinRow rtcRows[] = {
-    {QLatin1String("RTCSRCCLK"), Input},
+    {"RTCSRCCLK"_l1, Input},
 };
 
 inline constexpr PinRow i2cInoutRows[] = {
-    {QLatin1String("SCL"), Bidirectional},
-    {QLatin1String("SDA"), Bidirectional},
+    {"SCL"_l1, Bidirectional},
+    {"SDA"_l1, Bidirectional},
 };
 
 inline constexpr PinRow i2cSplitRows[] = {
-    {QLatin1String("SCLIN"), Input},     {QLatin1String("SCLOUT"), Output},
-    {QLatin1String("SCLOUTEN"), Output}, {QLatin1String("SDAIN"), Input},
-    {QLatin1String("SDAOUT"), Output},   {QLatin1String("SDAOUTEN"), Output},
+    {"SCLIN"_l1, Input}, {"SCLOUT"_l1, Output}, {"SCLOUTEN"_l1, Output},
+    {"SDAIN"_l1, Input}, {"SDAOUT"_l1, Output}, {"SDAOUTEN"_l1, Output},
 };
 
 inline constexpr PinRow spiRows[] = {
-    {QLatin1String("MOSI"), Output},
-    {QLatin1String("MISO"), Input},
-    {QLatin1String("SCLK"), Output},
-    {QLatin1String("NSS"), Output},
+    {"MOSI"_l1, Output},
+    {"MISO"_l1, Input},
+    {"SCLK"_l1, Output},
+    {"NSS"_l1, Output},
 };
 
 inline constexpr PinRow sdCardRows[] = {
-    {QLatin1String("SD_CLK"), Output},     {QLatin1String("SD_SPICLK"), Input},
-    {QLatin1String("SD_CS"), Output},      {QLatin1String("SD_DATAIN"), Input},
-    {QLatin1String("SD_DATAOUT"), Output}, {QLatin1String("SD_CARD_INIT"), Output},
-    {QLatin1String("SD_CHECKIN"), Input},  {QLatin1String("SD_CHECKOUT"), Output},
+    {"SD_CLK"_l1, Output},    {"SD_SPICLK"_l1, Input},    {"SD_CS"_l1, Output},
+    {"SD_DATAIN"_l1, Input},  {"SD_DATAOUT"_l1, Output},  {"SD_CARD_INIT"_l1, Output},
+    {"SD_CHECKIN"_l1, Input}, {"SD_CHECKOUT"_l1, Output},
 };
 
 // The ready input is spelled as it is on purpose.
 inline constexpr PinRow apbPortRows[] = {
-    {QLatin1String("PADDR[31:0]"), Output, true},
-    {QLatin1String("PENABLE"), Output},
-    {QLatin1String("PWRITE"), Output},
-    {QLatin1String("PSTRB[3:0]"), Output, true},
-    {QLatin1String("PPROT[2:0]"), Output, true},
-    {QLatin1String("PWDATA[31:0]"), Output, true},
-    {QLatin1String("PSEL"), Output},
-    {QLatin1String("PRDATA[31:0]"), Input, true},
-    {QLatin1String("PREDADY"), Input},
-    {QLatin1String("PSLVERR"), Input},
-    {QLatin1String("PCLK"), Output},
-    {QLatin1String("PRESET"), Output},
+    {"PADDR[31:0]"_l1, Output, true},
+    {"PENABLE"_l1, Output},
+    {"PWRITE"_l1, Output},
+    {"PSTRB[3:0]"_l1, Output, true},
+    {"PPROT[2:0]"_l1, Output, true},
+    {"PWDATA[31:0]"_l1, Output, true},
+    {"PSEL"_l1, Output},
+    {"PRDATA[31:0]"_l1, Input, true},
+    {"PREDADY"_l1, Input},
+    {"PSLVERR"_l1, Input},
+    {"PCLK"_l1, Output},
+    {"PRESET"_l1, Output},
 };
 
 // One group of the same rows for each of the block's switches, which are numbered from `first`.

@@ -1,5 +1,6 @@
 #include "microsysipgendlg.h"
 
+#include "config/latin1literal.h"
 #include "ui_microsysipgendlg.h"
 
 #include "config/choices.h"
@@ -48,7 +49,7 @@ void MicroSysIPGenDlg::prepareNew(const QString &createInDir, const DEV::DeviceA
 {
     openMode = false;
     ui->editCreateIn->setText(
-        QDir::toNativeSeparators(QDir(createInDir).path() + QLatin1String("/tarvo_orix_m1")));
+        QDir::toNativeSeparators(QDir(createInDir).path() + "/tarvo_orix_m1"_l1));
     setDevice(newDevice);
     updateDeviceDependentState();
 }
