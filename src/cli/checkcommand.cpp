@@ -41,14 +41,11 @@ QVector<Finding> checkFrame(const IpcDocument &document, const QVariantMap &ipIn
 int runCheck(Environment &environment, const QString &file, bool json)
 {
     const QVariantMap ipInfo = environment.ipInfo();
-    if (ipInfo.isEmpty() || !environment.devices())
+    if (ipInfo.isEmpty())
         return BadInput;
     IpcDocument document;
-    QString error;
-    if (!IpcDocument::read(file, *environment.devices(), &document, &error)) {
-        printError(error);
+    if (!openDocument(environment, file, &document))
         return BadInput;
-    }
     const QVector<Finding> findings =
         checkFrame(document, ipInfo) +
         checkOptions(document.options, document.device, document.folder());

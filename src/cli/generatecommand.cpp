@@ -88,14 +88,11 @@ int synthesise(Synthesis::Runner &runner, bool verbose)
 int runGenerate(Environment &environment, const GenerateArguments &arguments)
 {
     const QVariantMap ipInfo = environment.ipInfo();
-    if (ipInfo.isEmpty() || !environment.devices())
+    if (ipInfo.isEmpty())
         return BadInput;
     IpcDocument document;
-    QString error;
-    if (!IpcDocument::read(arguments.file, *environment.devices(), &document, &error)) {
-        printError(error);
+    if (!openDocument(environment, arguments.file, &document))
         return BadInput;
-    }
     if (document.device.isNull()) {
         printError(QLatin1String("\"") + document.path + QLatin1String("\" names ") +
                    (document.deviceText.isEmpty() ? QStringLiteral("no device")
@@ -114,6 +111,7 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
         report.errors.append(reason);
         return finish(report, arguments, Failed);
     };
+    QString error;
     if (!Utils::FileUtils::makePath(tempDir, &error))
         return fail(error);
     for (const IncludeFile &file : buildIncludeFiles(document.options, document.device)) {

@@ -1,5 +1,8 @@
 #include "ipcdocument.h"
 
+#include "environment.h"
+#include "output.h"
+
 #include <config/ipcfile.h>
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
@@ -64,6 +67,18 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
     for (const QString &group : settings.childGroups())
         document->unknownEntries.append(group + u'/');
     return true;
+}
+
+bool openDocument(Environment &environment, const QString &path, IpcDocument *document)
+{
+    const DEV::DeviceDb *devices = environment.devices();
+    if (!devices)
+        return false;
+    QString error;
+    if (IpcDocument::read(path, *devices, document, &error))
+        return true;
+    printError(error);
+    return false;
 }
 
 } // namespace Cli

@@ -13,6 +13,8 @@ class DeviceDb;
 namespace Cli
 {
 
+class Environment;
+
 // What an .ipc file says.
 struct IpcDocument {
     QString path;          // absolute
@@ -29,5 +31,8 @@ struct IpcDocument {
     static bool read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
                      QString *error);
 };
+
+// Reads the file of a command with the environment's devices. False: a message has been printed.
+bool openDocument(Environment &environment, const QString &path, IpcDocument *document);
 
 } // namespace Cli

@@ -116,14 +116,11 @@ int runDevices(Environment &environment, const QString &series, bool json)
 int runSources(Environment &environment, const QString &file, bool json)
 {
     const QVariantMap ipInfo = environment.ipInfo();
-    if (ipInfo.isEmpty() || !environment.devices())
+    if (ipInfo.isEmpty())
         return BadInput;
     IpcDocument document;
-    QString error;
-    if (!IpcDocument::read(file, *environment.devices(), &document, &error)) {
-        printError(error);
+    if (!openDocument(environment, file, &document))
         return BadInput;
-    }
     const QStringList sources = buildSourceFiles(document.options, ipInfo, document.device.device(),
                                                  generationFolder(document.folder()));
     if (json) {

@@ -45,14 +45,9 @@ QString directionName(const Utils::PinFigure &pin)
 
 int runPins(Environment &environment, const QString &file, bool json)
 {
-    if (!environment.devices())
-        return BadInput;
     IpcDocument document;
-    QString error;
-    if (!IpcDocument::read(file, *environment.devices(), &document, &error)) {
-        printError(error);
+    if (!openDocument(environment, file, &document))
         return BadInput;
-    }
     const QList<BlockPin> pins = allPins(document.options, document.device.device());
     if (json) {
         QJsonArray list;
