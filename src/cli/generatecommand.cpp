@@ -46,7 +46,8 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
                    {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)}});
         return status;
     }
-    for (const QString &path : report.files + report.outputs)
+    const QStringList paths = report.files + report.outputs;
+    for (const QString &path : paths)
         printLine(path);
     return status;
 }
@@ -114,7 +115,8 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     QString error;
     if (!Utils::FileUtils::makePath(tempDir, &error))
         return fail(error);
-    for (const IncludeFile &file : buildIncludeFiles(document.options, document.device)) {
+    const QVector<IncludeFile> files = buildIncludeFiles(document.options, document.device);
+    for (const IncludeFile &file : files) {
         const QString path = tempDir + u'/' + file.name;
         if (!Utils::FileUtils::writeLines(path, file.lines, &error))
             return fail(error);

@@ -54,17 +54,20 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
 
     const QStringList known = {QStringLiteral("target_device"), QStringLiteral("type"),
                                QStringLiteral("version")};
-    for (const QString &key : settings.childKeys()) {
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
         if (!known.contains(key))
             document->unknownEntries.append(key);
     }
     const QStringList groups = {IpcFile::configGroup, QStringLiteral("device")};
-    for (const QString &group : settings.childGroups()) {
+    const QStringList present = settings.childGroups();
+    for (const QString &group : present) {
         if (!groups.contains(group))
             document->unknownEntries.append(u'[' + group + u']');
     }
     settings.beginGroup(IpcFile::configGroup);
-    for (const QString &group : settings.childGroups())
+    const QStringList nested = settings.childGroups();
+    for (const QString &group : nested)
         document->unknownEntries.append(group + u'/');
     return true;
 }

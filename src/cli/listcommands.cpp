@@ -81,7 +81,8 @@ int runDevices(Environment &environment, const QString &series, bool json)
     const QList<DEV::DeviceArg> devices = environment.devices()->filterDevice(filter);
     if (devices.isEmpty()) {
         QStringList known;
-        for (const DEV::DeviceArg &device : environment.devices()->devices()) {
+        const QList<DEV::DeviceArg> all = environment.devices()->devices();
+        for (const DEV::DeviceArg &device : all) {
             if (!known.contains(device.series()))
                 known.append(device.series());
         }

@@ -63,7 +63,7 @@ int main(int argc, char *argv[])
     const std::unique_ptr<TE::TE_IPCore_Def::BaseIPCoreInterface> core(cores.first());
 
     if (!parser.positionalArguments().isEmpty()) {
-        const QFileInfo file(parser.positionalArguments().first());
+        const QFileInfo file(parser.positionalArguments().constFirst());
         core->openIP(file.absolutePath(), file.absoluteFilePath());
         return 0;
     }

@@ -90,7 +90,7 @@ PinFigureView::Layout PinFigureView::layoutFor(const QFont &font) const
 
     int widths[2] = {0, 0};
     int counts[2] = {0, 0};
-    for (const Utils::PinFigure &pin : m_pins) {
+    for (const Utils::PinFigure &pin : qAsConst(m_pins)) {
         const int side = isOnTheLeft(pin) ? 0 : 1;
         widths[side] = qMax(widths[side], metrics.horizontalAdvance(pin.name()));
         ++counts[side];
@@ -205,8 +205,8 @@ QSize PinFigureView::minimumSizeHint() const
 void PinFigureView::paintFigure(QPainter *painter, const Layout &layout, const QPalette &palette,
                                 const QRectF &exposed) const
 {
-    const QColor ink = palette.color(QPalette::Text);
-    const QColor paper = palette.color(QPalette::Base);
+    const QColor &ink = palette.color(QPalette::Text);
+    const QColor &paper = palette.color(QPalette::Base);
     const qreal thin = qMax(1.0, layout.row / 20.0);
 
     painter->setRenderHint(QPainter::Antialiasing);
@@ -217,7 +217,7 @@ void PinFigureView::paintFigure(QPainter *painter, const Layout &layout, const Q
     const QFont plain = painter->font();
     painter->setFont(labelFont(plain));
     const QRectF heading(layout.box.left(), layout.box.top(), layout.box.width(),
-                         layout.firstRow - layout.box.top() - layout.inset / 2);
+                         layout.firstRow - layout.box.top() - layout.inset / 2.0);
     painter->drawText(heading, Qt::AlignCenter, m_label);
     painter->setFont(plain);
 

@@ -56,7 +56,7 @@ QVector<Port> readPorts(const QJsonObject &module)
     std::sort(rows.begin(), rows.end(),
               [](const Row &a, const Row &b) { return a.firstBit < b.firstBit; });
     QVector<Port> result;
-    for (const Row &row : rows)
+    for (const Row &row : qAsConst(rows))
         result << row.port;
     return result;
 }

@@ -26,7 +26,8 @@ QString tr(const char *text)
 QByteArray tclWord(const QString &text)
 {
     QByteArray word = "\"";
-    for (const char c : text.toUtf8()) {
+    const QByteArray bytes = text.toUtf8();
+    for (const char c : bytes) {
         if (c == '\n')
             word += "\\n";
         else if (c == '\r')

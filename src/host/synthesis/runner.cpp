@@ -104,7 +104,8 @@ void Runner::Private::commandEnded()
 {
     const std::unique_ptr<ToolProcess> ended = std::move(m_process);
     if (m_command == 0) {
-        for (const QString &line : m_flow->furtherLog())
+        const QStringList further = m_flow->furtherLog();
+        for (const QString &line : further)
             receive(line);
     }
     if (cancelled || !ended->failure().isEmpty()) {
@@ -122,7 +123,7 @@ void Runner::Private::commandEnded()
     if (error.isEmpty())
         error = placeOutputs(outputs);
     if (error.isEmpty()) {
-        for (const QString &line : summary)
+        for (const QString &line : qAsConst(summary))
             receive(line);
     }
     end(error);
@@ -133,7 +134,7 @@ QString Runner::Private::failureOf(const ToolProcess &ended) const
     const int count = m_log.errors().size();
     if (count == 0)
         return ended.failure();
-    const QString explained = m_flow->explained(m_log.errors().last());
+    QString explained = m_flow->explained(m_log.errors().last());
     if (!explained.isEmpty())
         return explained;
     const QString name = m_flow->commands().at(m_command).name;

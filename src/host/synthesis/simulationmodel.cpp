@@ -56,7 +56,8 @@ int writeSimulationModel(const QString &netlist, const QString &destination, QSt
 
     if (!text.endsWith('\n'))
         text += '\n';
-    for (const QByteArray &primitive : Library::primitives()) {
+    const QByteArrayList known = Library::primitives();
+    for (const QByteArray &primitive : known) {
         if (instances.contains(primitive) && !outline.defines(primitive))
             text += '\n' + Library::model(primitive);
     }

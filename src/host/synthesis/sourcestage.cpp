@@ -67,7 +67,7 @@ QString SourceStage::prepare(const QStringList &files, const ScratchFolder &scra
     m_includeDirs = QStringList{QStringLiteral(".")};
     QStringList folders;
     for (const QString &file : files) {
-        if (const QString error = check(file); !error.isEmpty())
+        if (QString error = check(file); !error.isEmpty())
             return error;
         const QString path = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
         if (m_originals.contains(path))
@@ -78,8 +78,7 @@ QString SourceStage::prepare(const QStringList &files, const ScratchFolder &scra
             number = folders.size();
             folders << info.absolutePath();
             const QString name = QLatin1String("dir") + QString::number(number);
-            if (const QString error = link(info.absolutePath(), scratch.absolute(name));
-                !error.isEmpty())
+            if (QString error = link(info.absolutePath(), scratch.absolute(name)); !error.isEmpty())
                 return error;
             m_realPaths.insert(ScratchFolder::relative(name), info.absolutePath());
             m_includeDirs << ScratchFolder::relative(name);
@@ -91,7 +90,7 @@ QString SourceStage::prepare(const QStringList &files, const ScratchFolder &scra
             const QString suffix = isPlain(info.suffix()) ? info.suffix() : QStringLiteral("v");
             const QString name =
                 QLatin1String("file") + QString::number(m_originals.size()) + u'.' + suffix;
-            if (const QString error = link(path, scratch.absolute(name)); !error.isEmpty())
+            if (QString error = link(path, scratch.absolute(name)); !error.isEmpty())
                 return error;
             staged = ScratchFolder::relative(name);
             m_realPaths.insert(staged, path);

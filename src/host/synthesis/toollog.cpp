@@ -52,7 +52,7 @@ QString ToolLog::add(const QString &line, const SourceStage &sources)
     static const QRegularExpression projectError(QStringLiteral(
         "^@E:\\s*[A-Z0-9]*\\s*:?\\s*(?:\"([^\"]*)\":(\\d+)(?::[\\d:]*)?\\s*\\|)?\\s*(.*)$"));
 
-    const QString shown = sources.restored(line);
+    QString shown = sources.restored(line);
     m_text += shown.toUtf8() + '\n';
 
     if (const auto match = frontend.match(shown); match.hasMatch())

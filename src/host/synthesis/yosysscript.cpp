@@ -59,7 +59,8 @@ QByteArray YosysScript::elaboration(const SourceStage &sources, const QString &t
 QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top)
 {
     QByteArray primitives;
-    for (const QByteArray &name : Library::primitives())
+    const QByteArrayList names = Library::primitives();
+    for (const QByteArray &name : names)
         primitives += " t:" + name;
 
     const QByteArray topName = top.toLatin1();

@@ -216,7 +216,7 @@ private:
         if (index >= sizes.full.size()) {
             add(Finding::Error, sizeKey,
                 QStringLiteral("%1 is more than %2 has: at most %3")
-                    .arg(tcmSizeList(index).last(), name, sizes.largest));
+                    .arg(tcmSizeList(index).constLast(), name, sizes.largest));
             return -1;
         }
         return index;

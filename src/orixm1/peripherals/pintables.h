@@ -208,13 +208,13 @@ inline constexpr PinRow apbPortRows[] = {
 
 // One group of the same rows for each of the block's switches, which are numbered from `first`.
 template <int count>
-constexpr std::array<PinGroup, count> numbered(const char *prefix, int first, Rows<PinRow> rows)
+constexpr std::array<PinGroup, count> numbered(QLatin1String prefix, int first, Rows<PinRow> rows)
 {
     std::array<PinGroup, count> groups = {};
     for (int i = 0; i < count; ++i) {
         groups[i].rows = rows;
         groups[i].on = switchBit(i);
-        groups[i].prefix = QLatin1String(prefix);
+        groups[i].prefix = prefix;
         groups[i].number = first + i;
     }
     return groups;
@@ -242,9 +242,9 @@ inline constexpr PinGroup ddr3[] = {
 };
 inline constexpr PinGroup psram[] = {{psramRows, enabled}};
 inline constexpr PinGroup spiFlash[] = {{spiFlashRows, enabled}};
-inline constexpr auto ahbMasters = numbered<Key::ahbMasterCount>("AHB", 1, ahbPortRows);
-inline constexpr auto uart = numbered<2>("UART", 0, uartRows);
-inline constexpr auto timer = numbered<2>("TIMER", 0, timerRows);
+inline constexpr auto ahbMasters = numbered<Key::ahbMasterCount>("AHB"_l1, 1, ahbPortRows);
+inline constexpr auto uart = numbered<2>("UART"_l1, 0, uartRows);
+inline constexpr auto timer = numbered<2>("TIMER"_l1, 0, timerRows);
 inline constexpr PinGroup rtc[] = {{rtcRows, enabled}};
 inline constexpr PinGroup i2c[] = {
     {i2cInoutRows, enabled | bidirectionalPorts},
@@ -252,7 +252,7 @@ inline constexpr PinGroup i2c[] = {
 };
 inline constexpr PinGroup spi[] = {{spiRows, enabled}};
 inline constexpr PinGroup sdCard[] = {{sdCardRows, enabled}};
-inline constexpr auto apbMasters = numbered<Key::apbMasterCount>("APB", 1, apbPortRows);
+inline constexpr auto apbMasters = numbered<Key::apbMasterCount>("APB"_l1, 1, apbPortRows);
 
 } // namespace PinTables
 
