@@ -6,7 +6,6 @@
 
 #include <QCheckBox>
 #include <QScrollArea>
-#include <QTabWidget>
 
 namespace TARVOORIXM1
 {
@@ -68,8 +67,7 @@ QSize PeripheralDlg::sizeHint() const
 {
     // A scroll area asks for a limited height only, however much its contents need.
     const QSize hint = MicroSysChildIPGenDlg::sizeHint();
-    const auto *area = tabWidget()->findChild<QScrollArea *>();
-    const int missing = area->widget()->sizeHint().height() - area->sizeHint().height();
+    const int missing = m_area->widget()->sizeHint().height() - m_area->sizeHint().height();
     return missing > 0 ? hint.expandedTo({0, hint.height() + missing}) : hint;
 }
 

@@ -10,6 +10,7 @@
 #include <memory>
 
 QT_FORWARD_DECLARE_CLASS(QCheckBox)
+QT_FORWARD_DECLARE_CLASS(QScrollArea)
 
 namespace TARVOORIXM1
 {
@@ -46,6 +47,7 @@ protected:
         auto form = std::make_unique<Form>();
         auto *page = new QWidget(this);
         form->setupUi(page);
+        m_area = form->scrollArea;
         uiAddTab(page, QStringLiteral("Options"));
         return form;
     }
@@ -69,6 +71,7 @@ protected:
 private:
     const Block &m_block;
     OptionMap *m_options;
+    QScrollArea *m_area = nullptr; // around the whole form
     QVector<QCheckBox *> m_switches;
 };
 
