@@ -1,8 +1,10 @@
 // Saves pictures of the windows as the user guide shows them: pictures FOLDER.
 
 #include <config/descriptor.h>
+#include <config/optionkeys.h>
 #include <core/cortexm1.h>
 #include <ipcore/ipcore.h>
+#include <peripherals/ethernetdlg.h>
 #include <ui/tarvoorixm1dlg.h>
 
 #include <QApplication>
@@ -51,5 +53,10 @@ int main(int argc, char *argv[])
     core.tabWidget()->setCurrentIndex(2);
     core.show();
     core.resize(960, 790); // the headless screen is smaller than a desktop
-    return save(core, folder.filePath(QStringLiteral("core.png"))) ? 0 : 1;
+    if (!save(core, folder.filePath(QStringLiteral("core.png"))))
+        return 1;
+
+    options.insert(Key::enableEthernet, true);
+    EthernetDlg ethernet(&options);
+    return save(ethernet, folder.filePath(QStringLiteral("ethernet.png"))) ? 0 : 1;
 }
