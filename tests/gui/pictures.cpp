@@ -19,9 +19,13 @@ using namespace TARVOORIXM1;
 namespace
 {
 
-bool save(QWidget &window, const QString &path)
+// With a size, the window gets it: the headless screen is smaller than a desktop, and windows keep
+// to their screen at first.
+bool save(QWidget &window, const QString &path, const QSize &size = QSize())
 {
     window.show();
+    if (size.isValid())
+        window.resize(size);
     for (int i = 0; i < 5; ++i)
         QApplication::processEvents();
     if (window.grab().save(path))
@@ -51,12 +55,10 @@ int main(int argc, char *argv[])
     OptionMap options = dialog.currentOptions();
     CortexM1 core(&options);
     core.tabWidget()->setCurrentIndex(2);
-    core.show();
-    core.resize(960, 790); // the headless screen is smaller than a desktop
-    if (!save(core, folder.filePath(QStringLiteral("core.png"))))
+    if (!save(core, folder.filePath(QStringLiteral("core.png")), {960, 790}))
         return 1;
 
     options.insert(Key::enableEthernet, true);
     EthernetDlg ethernet(&options);
-    return save(ethernet, folder.filePath(QStringLiteral("ethernet.png"))) ? 0 : 1;
+    return save(ethernet, folder.filePath(QStringLiteral("ethernet.png")), {960, 560}) ? 0 : 1;
 }
