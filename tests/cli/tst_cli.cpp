@@ -82,6 +82,8 @@ private Q_SLOTS:
     void devicesCanBeNarrowed();
     void sourcesMatchGeneration();
     void anOwnDeviceFolderCounts();
+    void pinsAreThePortsOfTheNetlist_data();
+    void pinsAreThePortsOfTheNetlist();
 
 private:
     QString path(const char *name) const { return m_dir->filePath(QString::fromUtf8(name)); }
@@ -710,6 +712,48 @@ void tst_Cli::anOwnDeviceFolderCounts()
     const Run broken = run(words({"--devices", "dev", "devices"}));
     QCOMPARE(broken.status, 3);
     QVERIFY2(broken.err.contains(QLatin1String("own.json")), qPrintable(broken.err));
+}
+
+void tst_Cli::pinsAreThePortsOfTheNetlist_data()
+{
+    QTest::addColumn<QString>("configuration");
+    for (const char *name : {"small-tv1kl-5a", "external-memories-tv5klrt-15a", "mii-tv3kr-20a",
+                             "ddr3-tv5k-60b", "psram-tv2klr-18c", "tv5krt-15a", "tv5klt-15a"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void tst_Cli::pinsAreThePortsOfTheNetlist()
+{
+    QFETCH(QString, configuration);
+    const QString file =
+        QStringLiteral(TARVO_GOLDEN_DIR "/") + configuration + QLatin1String("/config.ipc");
+    const Run listed = run({QStringLiteral("pins"), file, QStringLiteral("--json")});
+    QCOMPARE(listed.status, 0);
+    QMap<QString, QString> pins; // name to direction and range
+    const QJsonArray list = listed.json().value(QLatin1String("pins")).toArray();
+    for (const QJsonValue &value : list) {
+        const QString label = value.toObject().value(QLatin1String("name")).toString().trimmed();
+        const QString range =
+            label.mid(label.indexOf(u'[') < 0 ? label.size() : label.indexOf(u'['));
+        pins.insert(
+            label.chopped(range.size()),
+            QString(value.toObject().value(QLatin1String("direction")).toString() + u' ' + range)
+                .trimmed());
+    }
+    QCOMPARE(pins.size(), list.size());
+
+    const Run generated =
+        run({QStringLiteral("generate"), file, QStringLiteral("--out"), QStringLiteral("out")});
+    QVERIFY2(generated.status == 0, qPrintable(generated.err));
+    QMap<QString, QString> ports;
+    const QRegularExpression port(QStringLiteral("^ +\\.(\\w+)\\(.*// ((input|output|inout).*)$"));
+    for (const QByteArray &line :
+         TestSupport::contentsOf(path("out/tarvo_orix_m1_tmp.v")).split('\n')) {
+        const auto match = port.match(QString::fromUtf8(line));
+        if (match.hasMatch())
+            ports.insert(match.captured(1), match.captured(2));
+    }
+    QCOMPARE(ports, pins);
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Cli)
