@@ -628,7 +628,11 @@ void IPView::drawForeground(QPainter *painter, const QRectF & /*rect*/)
     if (!m_focused || !hasFocus())
         return;
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
+    // Made anew with another palette only: frames come fast while panning.
+    const QColor &highlight = palette().color(QPalette::Highlight);
+    if (m_focusPen.color() != highlight)
+        m_focusPen = QPen(highlight, 2);
+    painter->setPen(m_focusPen);
     painter->drawRoundedRect(focusFrame(), 3, 3);
 }
 

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QMap>
+#include <QPen>
 #include <QSet>
 
 QT_FORWARD_DECLARE_CLASS(QToolButton)
@@ -133,6 +134,7 @@ private:
     QList<IPItem *> m_clickOrder; // as Tab walks
     QFont m_labelFont;
     IPItem *m_focused = nullptr;
+    QPen m_focusPen{Qt::black, 2};
     bool m_fitted = false;
 };
 
