@@ -137,6 +137,10 @@ void Runner::Private::commandEnded()
         end(failureOf(*ended));
         return;
     }
+    if (const QString error = m_flow->commandDone(m_command); !error.isEmpty()) {
+        end(error);
+        return;
+    }
     if (++m_command < m_flow->commands().size()) {
         runCommand();
         return;
