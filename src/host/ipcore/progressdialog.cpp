@@ -28,9 +28,9 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     m_stage->setTextFormat(Qt::PlainText);
     m_elapsed->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_elapsed->setToolTip(tr("Elapsed time"));
-    m_bar->setRange(0, 0); // the length of a run is not known
+    m_bar->setRange(0, 0); // moves all the time until the first stage is known
     m_bar->setTextVisible(false);
-    m_bar->setAccessibleName(tr("Activity"));
+    m_bar->setAccessibleName(tr("Progress"));
     m_log->setReadOnly(true);
     m_log->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_log->setMaximumBlockCount(20000);
@@ -60,6 +60,12 @@ ProgressDialog::ProgressDialog(QWidget *parent)
 void ProgressDialog::setStage(const QString &stage)
 {
     m_stage->setText(stage);
+}
+
+void ProgressDialog::setProgress(int done, int total)
+{
+    m_bar->setRange(0, total);
+    m_bar->setValue(done);
 }
 
 void ProgressDialog::appendLog(const QString &text)

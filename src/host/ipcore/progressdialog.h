@@ -22,6 +22,8 @@ public:
     explicit ProgressDialog(QWidget *parent = nullptr);
 
     void setStage(const QString &stage);
+    // Until the first call the bar only shows that something is going on.
+    void setProgress(int done, int total);
     void appendLog(const QString &text);
     // Empties the window and counts the elapsed time from zero.
     void startClock();

@@ -1,6 +1,7 @@
 #include "synthesishelper.h"
 
 #include "progressdialog.h"
+#include "synthesismonitor.h"
 
 #include <synthesis/runner.h>
 
@@ -26,15 +27,30 @@ SynthesisHelper::SynthesisHelper(QObject *parent)
     connect(&d->runner, &Synthesis::Runner::stageChanged, d->progress, &ProgressDialog::setStage);
     connect(&d->runner, &Synthesis::Runner::logReceived, d->progress, &ProgressDialog::appendLog);
     connect(d->progress, &ProgressDialog::cancelRequested, &d->runner, &Synthesis::Runner::cancel);
+    connect(&d->runner, &Synthesis::Runner::progressed, d->progress, &ProgressDialog::setProgress);
+    connect(&d->runner, &Synthesis::Runner::stageChanged, this, &SynthesisHelper::stageChanged);
+    connect(&d->runner, &Synthesis::Runner::progressed, this, &SynthesisHelper::progressed);
+    connect(&d->runner, &Synthesis::Runner::logReceived, this, &SynthesisHelper::logReceived);
     connect(&d->runner, &Synthesis::Runner::finished, this, [this](int exitCode) {
         if (d->progress)
             d->progress->stopClock();
-        Q_EMIT finished(exitCode);
+        // Whoever hears of it may delete this object.
+        const QPointer<SynthesisHelper> self(this);
+        SynthesisMonitor::instance().remove(this, report());
+        if (self)
+            Q_EMIT finished(exitCode);
     });
 }
 
 SynthesisHelper::~SynthesisHelper()
 {
+    if (isRunning()) {
+        Synthesis::RunReport report = d->runner.report();
+        report.exitCode = 1;
+        report.cancelled = true;
+        report.summary = tr("The synthesis was cancelled.");
+        SynthesisMonitor::instance().remove(this, report);
+    }
     delete d->progress;
 }
 
@@ -79,6 +95,7 @@ void SynthesisHelper::start()
     if (d->progress)
         d->progress->startClock();
     d->runner.start();
+    SynthesisMonitor::instance().add(this);
 }
 
 void SynthesisHelper::cancel()
@@ -99,6 +116,11 @@ QString SynthesisHelper::errorMsg() const
 QStringList SynthesisHelper::detailErrorMsgs() const
 {
     return d->runner.detailErrorMsgs();
+}
+
+Synthesis::RunReport SynthesisHelper::report() const
+{
+    return d->runner.report();
 }
 
 } // namespace IPCore

@@ -3,6 +3,7 @@
 #include "ipcore_global.h"
 
 #include <synthesis/job.h>
+#include <synthesis/runreport.h>
 
 #include <QObject>
 #include <QStringList>
@@ -16,7 +17,7 @@ namespace IPCore
 using SynthesizeArgs = Synthesis::Job;
 
 // Runs a synthesis tool with a progress window: stage, elapsed time, the tool's log as it comes,
-// and Cancel.
+// and Cancel. Every run is reported to the SynthesisMonitor too.
 class TARVO_IPCORE_EXPORT SynthesisHelper : public QObject
 {
     Q_OBJECT
@@ -48,8 +49,16 @@ public:
     // Of the last run: the summary error, empty after a success, and the detailed messages.
     QString errorMsg() const;
     QStringList detailErrorMsgs() const;
+    // All of the last run; while one is active, what is known of it so far.
+    Synthesis::RunReport report() const;
 
 Q_SIGNALS:
+    // A short phrase for people ("Reading sources").
+    void stageChanged(const QString &stage);
+    // `done` of `total` stages are behind.
+    void progressed(int done, int total);
+    // Output of the tool as it comes, whole lines without their line ends.
+    void logReceived(const QString &text);
     // 0 means success.
     void finished(int exitCode);
 

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "designports.h"
 #include "job.h"
 #include "scratchfolder.h"
 #include "sourcestage.h"
 #include "toolprocess.h"
 
-#include <QPair>
+#include <QMap>
 #include <QStringList>
 #include <QVector>
 
@@ -16,6 +17,13 @@ namespace Synthesis
 struct Output {
     QString path;
     QByteArray bytes;
+};
+
+// What a run has made.
+struct Results {
+    QVector<Output> outputs;         // the most important one last
+    QMap<QByteArray, int> instances; // of primitives and black boxes, by name
+    QVector<Port> ports;             // of the top module
 };
 
 // How a job becomes commands, and what they left becomes outputs. The commands are run one after
@@ -37,12 +45,15 @@ public:
 
     // The phrase for what a line of output begins, or empty.
     virtual QString stageOf(const QString &line) = 0;
+    // Stages that are behind, and all stages.
+    virtual int stagesDone() const = 0;
+    virtual int stageCount() const = 0;
     // What is worth reading of a log file that a command left.
     virtual QStringList furtherLog() const { return {}; }
     // A better sentence for a command's error message, or empty.
     virtual QString explained(const QString &error) const;
-    // After the last command: the outputs, the most important one last, and a line of summary each.
-    virtual QString collect(QVector<Output> *outputs, QStringList *summary) = 0;
+    // After the last command.
+    virtual QString collect(Results *results) = 0;
 
 protected:
     virtual QString prepareTool() = 0;

@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
+
 namespace Synthesis
 {
 
@@ -106,12 +108,16 @@ QString ProjectFlow::prepareTool()
 
 QString ProjectFlow::stageOf(const QString &line)
 {
+    const auto reached = [this](int stage, const QString &phrase) {
+        m_stage = std::max(m_stage, stage);
+        return phrase;
+    };
     if (line.contains(QLatin1String("Compiler")) && line.contains(QLatin1String("started")))
-        return tr("Reading sources");
+        return reached(0, tr("Reading sources"));
     if (line.contains(QLatin1String("Mapper")) && line.contains(QLatin1String("started")))
-        return tr("Mapping logic");
+        return reached(1, tr("Mapping logic"));
     if (line.startsWith(QLatin1String("1. Executing Verilog")))
-        return tr("Writing template");
+        return reached(2, tr("Writing template"));
     return {};
 }
 
@@ -123,7 +129,7 @@ QStringList ProjectFlow::furtherLog() const
     return QString::fromUtf8(file.readAll()).split(u'\n');
 }
 
-QString ProjectFlow::collect(QVector<Output> *outputs, QStringList *summary)
+QString ProjectFlow::collect(Results *results)
 {
     const QString netlistPath = m_scratch.outputDir() + u'/' + resultFile(QStringLiteral(".vm"));
     const QString templatePath = outputPath(QStringLiteral("_tmp.v"));
@@ -151,9 +157,10 @@ QString ProjectFlow::collect(QVector<Output> *outputs, QStringList *summary)
 
     if (!Utils::FileUtils::makePath(m_scratch.outputDir() + u'/' + implementation(), &error))
         return error;
-    *outputs = {Output{templatePath, verilogTemplate(top, design.ports(top))},
-                Output{netlistPath, netlist}};
-    *summary << tr("The netlist has %1 modules.").arg(scanned.modules.size());
+    results->ports = design.ports(top);
+    results->outputs = {Output{templatePath, verilogTemplate(top, results->ports)},
+                        Output{netlistPath, netlist}};
+    results->instances = scanned.leavesOf(top);
     return {};
 }
 

@@ -13,7 +13,9 @@ public:
 
     QString stageOf(const QString &line) override;
     QStringList furtherLog() const override;
-    QString collect(QVector<Output> *outputs, QStringList *summary) override;
+    int stagesDone() const override { return m_stage; }
+    int stageCount() const override { return 3; }
+    QString collect(Results *results) override;
 
 protected:
     QString prepareTool() override;
@@ -23,6 +25,8 @@ private:
     // The implementation's folder while the run lasts, relative to the scratch folder.
     QString resultFile(const QString &suffix) const;
     QByteArray projectFile() const;
+
+    int m_stage = 0;
 };
 
 // `text` as one quoted word of a Tcl script.

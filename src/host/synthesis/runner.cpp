@@ -1,14 +1,17 @@
 #include "runner.h"
 
 #include "flow.h"
+#include "library.h"
 #include "outputset.h"
 #include "projectflow.h"
+#include "resources.h"
 #include "toollog.h"
 #include "toolprocess.h"
 #include "yosysflow.h"
 
 #include <utils/fileutils.h>
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 namespace Synthesis
@@ -24,6 +27,7 @@ public:
 
     void start();
     void cancel();
+    RunReport currentReport() const;
 
     Tool tool = Tool::TarvoSynthesis;
     Job job;
@@ -37,13 +41,17 @@ private:
     void commandEnded();
     void receive(const QString &line);
     QString failureOf(const ToolProcess &ended) const;
+    QString takeResults();
     void end(const QString &error);
+    void describeEnd();
 
     Runner *q;
+    RunReport m_report;
     Job m_runningJob; // setJob() is for the next run
     std::unique_ptr<Flow> m_flow;
     std::unique_ptr<ToolProcess> m_process;
     ToolLog m_log;
+    QElapsedTimer m_clock;
     int m_command = 0;
 };
 
@@ -56,6 +64,10 @@ void Runner::Private::start()
     m_log = ToolLog();
     m_command = 0;
     m_runningJob = job;
+    m_clock.start();
+    m_report = RunReport();
+    m_report.tool = tool;
+    m_report.job = job;
     if (tool == Tool::SynplifyPro)
         m_flow = std::make_unique<ProjectFlow>(job);
     else
@@ -79,6 +91,17 @@ void Runner::Private::cancel()
         m_process->stop();
 }
 
+RunReport Runner::Private::currentReport() const
+{
+    RunReport result = m_report;
+    if (running) {
+        result.cancelled = cancelled;
+        result.milliseconds = m_clock.elapsed();
+        result.messages = m_log.messages() + m_report.messages;
+    }
+    return result;
+}
+
 void Runner::Private::runCommand()
 {
     const Command &command = m_flow->commands().at(m_command);
@@ -95,8 +118,10 @@ void Runner::Private::runCommand()
 
 void Runner::Private::receive(const QString &line)
 {
-    if (const QString stage = m_flow->stageOf(line); !stage.isEmpty())
+    if (const QString stage = m_flow->stageOf(line); !stage.isEmpty()) {
         Q_EMIT q->stageChanged(stage);
+        Q_EMIT q->progressed(m_flow->stagesDone(), m_flow->stageCount());
+    }
     Q_EMIT q->logReceived(m_log.add(line, m_flow->sources()));
 }
 
@@ -117,24 +142,47 @@ void Runner::Private::commandEnded()
         return;
     }
 
-    QVector<Output> outputs;
-    QStringList summary;
-    QString error = m_flow->collect(&outputs, &summary);
+    end(takeResults());
+}
+
+QString Runner::Private::takeResults()
+{
+    Results results;
+    QString error = m_flow->collect(&results);
     if (error.isEmpty())
-        error = placeOutputs(outputs);
-    if (error.isEmpty()) {
-        for (const QString &line : qAsConst(summary))
-            receive(line);
+        error = placeOutputs(results.outputs);
+    if (!error.isEmpty())
+        return error;
+
+    const QByteArrayList primitives = Library::primitives();
+    receive(tr("Instances in the netlist:"));
+    for (auto it = results.instances.begin(); it != results.instances.end(); ++it) {
+        const QString name = QString::fromUtf8(it.key());
+        m_report.cells << CellCount{name, it.value(), !primitives.contains(it.key())};
+        receive(QStringLiteral("%1 %2").arg(it.value(), 8).arg(name));
     }
-    end(error);
+    m_report.resources = resourceUse(results.instances, m_runningJob.device);
+    m_report.summary = usedSentence(m_report.resources);
+    receive(m_report.summary);
+    for (const Port &port : qAsConst(results.ports)) {
+        const int highest = port.lowest + port.width - 1;
+        m_report.ports << ReportPort{QString::fromUtf8(port.name),
+                                     QString::fromLatin1(port.direction),
+                                     port.isRising ? port.lowest : highest,
+                                     port.isRising ? highest : port.lowest, port.isVector};
+    }
+    for (const Output &output : qAsConst(results.outputs))
+        m_report.files << output.path;
+    return {};
 }
 
 QString Runner::Private::failureOf(const ToolProcess &ended) const
 {
-    const int count = m_log.errors().size();
+    const QStringList errors = m_log.errors();
+    const int count = errors.size();
     if (count == 0)
         return ended.failure();
-    QString explained = m_flow->explained(m_log.errors().last());
+    QString explained = m_flow->explained(errors.last());
     if (!explained.isEmpty())
         return explained;
     const QString name = m_flow->commands().at(m_command).name;
@@ -153,13 +201,32 @@ void Runner::Private::end(const QString &error)
     if (!errorMsg.isEmpty() && !cancelled)
         details = m_log.errors();
     // Whether the log can be kept changes nothing about the run.
-    if (!m_log.text().isEmpty())
-        Utils::FileUtils::writeFile(m_runningJob.outputDir + u'/' + m_runningJob.targetName +
-                                        QLatin1String(".log"),
-                                    m_log.text(), nullptr);
+    const QString logFile = QFileInfo(m_runningJob.outputDir).absoluteFilePath() + u'/' +
+                            m_runningJob.targetName + QLatin1String(".log");
+    if (!m_log.text().isEmpty() && Utils::FileUtils::writeFile(logFile, m_log.text(), nullptr))
+        m_report.logFile = logFile;
     m_flow.reset();
     running = false;
-    Q_EMIT q->finished(errorMsg.isEmpty() ? 0 : 1);
+    describeEnd();
+    Q_EMIT q->finished(m_report.exitCode);
+}
+
+void Runner::Private::describeEnd()
+{
+    m_report.exitCode = errorMsg.isEmpty() ? 0 : 1;
+    m_report.cancelled = cancelled;
+    m_report.milliseconds = m_clock.elapsed();
+    m_report.messages = m_log.messages() + m_report.messages;
+    if (errorMsg.isEmpty())
+        return;
+    m_report.summary = errorMsg;
+    m_report.cells.clear();
+    m_report.resources.clear();
+    m_report.ports.clear();
+    m_report.files.clear();
+    // What went wrong is among the messages, also where no tool said it.
+    if (!cancelled && m_report.count(Message::Error) == 0)
+        m_report.messages << Message{Message::Error, {}, 0, errorMsg, 1};
 }
 
 Runner::Runner(QObject *parent)
@@ -214,6 +281,11 @@ QString Runner::errorMsg() const
 QStringList Runner::detailErrorMsgs() const
 {
     return d->details;
+}
+
+RunReport Runner::report() const
+{
+    return d->currentReport();
 }
 
 } // namespace Synthesis

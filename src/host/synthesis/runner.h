@@ -1,6 +1,7 @@
 #pragma once
 
 #include "job.h"
+#include "runreport.h"
 #include "synthesis_global.h"
 
 #include <QObject>
@@ -10,8 +11,6 @@
 
 namespace Synthesis
 {
-
-enum class Tool { SynplifyPro = 0, TarvoSynthesis = 1 };
 
 // Runs a synthesis tool on a Job as a process of its own and reports the end. Has no widget and
 // needs a running event loop. A run has no time limit; cancel() ends it. cancel() and the
@@ -47,10 +46,14 @@ public:
     // line ("file:line: text" where the tool names a place).
     QString errorMsg() const;
     QStringList detailErrorMsgs() const;
+    // All of the last run; while one is active, what is known of it so far.
+    RunReport report() const;
 
 Q_SIGNALS:
     // A short phrase for people ("Reading sources").
     void stageChanged(const QString &stage);
+    // `done` of `total` stages are behind; `total` stays the same in one run.
+    void progressed(int done, int total);
     // Output of the tool as it comes, whole lines without their line ends.
     void logReceived(const QString &text);
     // The end of a run; 0 is success.

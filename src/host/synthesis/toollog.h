@@ -1,6 +1,9 @@
 #pragma once
 
+#include "runreport.h"
+
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -9,20 +12,25 @@ namespace Synthesis
 
 class SourceStage;
 
-// What a tool printed, in a form for people: real paths in place of staged ones, the errors set
-// apart.
+// What a tool printed, in a form for people: real paths in place of staged ones, errors and
+// warnings set apart.
 class ToolLog
 {
 public:
     // Takes one line of output and returns it as it is to be shown.
     QString add(const QString &line, const SourceStage &sources);
 
-    // "file:line: text", or only the text where the tool names no place; in order, none twice.
-    const QStringList &errors() const { return m_errors; }
+    // Errors and warnings, in order, none twice.
+    const QList<Message> &messages() const { return m_messages; }
+    // The errors as text.
+    QStringList errors() const;
     const QByteArray &text() const { return m_text; }
 
 private:
-    QStringList m_errors;
+    void take(const Message &message);
+
+    QList<Message> m_messages;
+    int m_open = -1; // the message that goes on in the lines that follow
     QByteArray m_text;
     QString m_reading; // the source that the tool opened last
 };

@@ -1,5 +1,7 @@
 #include "verilogscan.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -421,6 +423,30 @@ QMap<QByteArray, int> VerilogOutline::instances() const
             result[it.key()] += it.value();
     }
     return result;
+}
+
+QMap<QByteArray, int> VerilogOutline::leavesOf(const QByteArray &top) const
+{
+    QHash<QByteArray, const Module *> byName;
+    for (const Module &module : modules)
+        byName.insert(module.name, &module);
+    QMap<QByteArray, int> leaves;
+    QMap<QByteArray, int> level{{top, 1}};
+    // A hierarchy is no deeper than there are modules; one that contains itself ends here.
+    for (int depth = 0; depth <= modules.size() && !level.isEmpty(); ++depth) {
+        QMap<QByteArray, int> below;
+        for (auto it = level.begin(); it != level.end(); ++it) {
+            const Module *module = byName.value(it.key());
+            if (!module || (module->instances.isEmpty() && it.key() != top)) {
+                leaves[it.key()] += it.value();
+                continue;
+            }
+            for (auto child = module->instances.begin(); child != module->instances.end(); ++child)
+                below[child.key()] += it.value() * child.value();
+        }
+        level = below;
+    }
+    return leaves;
 }
 
 VerilogOutline scanVerilog(const QByteArray &text)

@@ -21,6 +21,9 @@ struct VerilogOutline {
     bool defines(const QByteArray &module) const;
     // Over all modules.
     QMap<QByteArray, int> instances() const;
+    // The instances of modules that the text does not define, or leaves empty, in the whole
+    // hierarchy below `top`.
+    QMap<QByteArray, int> leavesOf(const QByteArray &top) const;
 };
 
 // Reads netlists and models, not everything that the language allows: macros are not expanded.

@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace Synthesis
 {
 
@@ -80,7 +82,17 @@ QString YosysFlow::explained(const QString &error) const
     return {};
 }
 
-QString YosysFlow::collect(QVector<Output> *outputs, QStringList *summary)
+int YosysFlow::stagesDone() const
+{
+    return std::max(m_stage, 0);
+}
+
+int YosysFlow::stageCount() const
+{
+    return int(std::size(stages));
+}
+
+QString YosysFlow::collect(Results *results)
 {
     const QString netlistPath = outputPath(QStringLiteral(".vg"));
     const QString templatePath = outputPath(QStringLiteral("_tmp.v"));
@@ -110,13 +122,10 @@ QString YosysFlow::collect(QVector<Output> *outputs, QStringList *summary)
 
     const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
     const QByteArray netlist = verilogNetlist(title("Netlist of"), body, blackBoxes);
-    *outputs = {Output{templatePath, verilogTemplate(top, design.ports(top))},
-                Output{netlistPath, netlist}};
-
-    const QMap<QByteArray, int> instances = bodyOutline.instances();
-    *summary << tr("Instances in the netlist:");
-    for (auto it = instances.begin(); it != instances.end(); ++it)
-        *summary << QStringLiteral("%1 %2").arg(it.value(), 8).arg(QString::fromUtf8(it.key()));
+    results->ports = design.ports(top);
+    results->outputs = {Output{templatePath, verilogTemplate(top, results->ports)},
+                        Output{netlistPath, netlist}};
+    results->instances = bodyOutline.leavesOf(top);
     return {};
 }
 

@@ -13,7 +13,9 @@ public:
 
     QString stageOf(const QString &line) override;
     QString explained(const QString &error) const override;
-    QString collect(QVector<Output> *outputs, QStringList *summary) override;
+    int stagesDone() const override;
+    int stageCount() const override;
+    QString collect(Results *results) override;
 
 protected:
     QString prepareTool() override;

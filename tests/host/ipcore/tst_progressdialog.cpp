@@ -100,6 +100,20 @@ private Q_SLOTS:
         QVERIFY(!cancel->isEnabledTo(&dialog));
     }
 
+    void theBarAdvancesByStage()
+    {
+        ProgressDialog dialog;
+        dialog.startClock();
+        const auto *bar = dialog.findChild<QProgressBar *>();
+        for (int done = 0; done < 6; ++done) {
+            dialog.setProgress(done, 6);
+            QCOMPARE(bar->maximum(), 6);
+            QCOMPARE(bar->value(), done);
+        }
+        dialog.startClock();
+        QCOMPARE(bar->maximum(), 0);
+    }
+
     void asksOnceForCancellation_data()
     {
         QTest::addColumn<QString>("way");

@@ -1,0 +1,80 @@
+#include "resources.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <array>
+
+namespace Synthesis
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
+
+enum Resource { Lut, FlipFlop, Carry, TriState, BlockRam, ResourceCount };
+
+struct Row {
+    const char *primitives; // name, or the beginning of a name before "*"
+    Resource resource;
+    int each; // how much of it one instance takes
+};
+
+// The first matching row wins.
+constexpr Row rows[] = {
+    {"TV_LUT*", Lut, 1},      {"TV_RAMD", Lut, 4},    // 16 words of 4 bits in the tables' own cells
+    {"TV_DFF*", FlipFlop, 1}, {"TV_DL", FlipFlop, 1}, // a latch takes the place of a flip-flop
+    {"TV_CARRY", Carry, 1},   {"TV_TBUF", TriState, 1}, {"TV_RAMB_*", BlockRam, 1},
+};
+
+constexpr std::array<const char *, ResourceCount> names{"LUT4", "Flip-flops", "Carry",
+                                                        "Tri-state drivers", "Block RAM"};
+
+bool matches(const QByteArray &name, QByteArray pattern)
+{
+    if (!pattern.endsWith('*'))
+        return name == pattern;
+    pattern.chop(1);
+    return name.startsWith(pattern);
+}
+
+} // namespace
+
+QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances, const DEV::DeviceArg &)
+{
+    std::array<int, ResourceCount> used{};
+    for (auto it = instances.begin(); it != instances.end(); ++it) {
+        for (const Row &row : rows) {
+            if (matches(it.key(), row.primitives)) {
+                used.at(row.resource) += it.value() * row.each;
+                break;
+            }
+        }
+    }
+    QList<ResourceUse> result;
+    for (int i = 0; i < ResourceCount; ++i)
+        result << ResourceUse{QLatin1String(names.at(i)), used.at(i), -1};
+    return result;
+}
+
+QString usedSentence(const QList<ResourceUse> &resources)
+{
+    QStringList parts;
+    for (const ResourceUse &use : resources) {
+        if (use.used == 0)
+            continue;
+        QString part = QString::number(use.used) + u' ' + use.resource;
+        if (use.available >= 0)
+            part += QStringLiteral(" (%1 %)").arg(use.percent());
+        parts << part;
+    }
+    if (parts.isEmpty())
+        return tr("Used no primitives.");
+    return tr("Used %1.").arg(parts.join(QLatin1String(", ")));
+}
+
+} // namespace Synthesis
