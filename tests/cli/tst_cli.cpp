@@ -258,7 +258,8 @@ void tst_Cli::generatesWithoutSynthesis()
     const Run result = run(
         {QStringLiteral("generate"), file, QStringLiteral("--no-synth"), QStringLiteral("--json")});
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.json().keys(), words({"errors", "files", "outputs", "sources"}));
+    QCOMPARE(result.json().keys(),
+             words({"cells", "errors", "files", "outputs", "resources", "sources", "warnings"}));
     const QString temp = path("temp/tv_orix_m1");
     const QJsonArray files = result.json().value(QLatin1String("files")).toArray();
     QCOMPARE(files.size(), 7);
@@ -316,6 +317,36 @@ void tst_Cli::generatesTheExample()
     for (const QString &output : outputs)
         QVERIFY2(QFileInfo(output).size() > 0, qPrintable(output));
     QCOMPARE(TestSupport::contentsOf(example), before);
+
+    // What it takes of the device, for people and for scripts.
+    QStringList resources;
+    for (const QJsonValue &value : result.json().value(QLatin1String("resources")).toArray()) {
+        const QJsonObject use = value.toObject();
+        const QString name = use.value(QLatin1String("resource")).toString();
+        resources.append(name);
+        QVERIFY(use.value(QLatin1String("used")).toInt() > 0);
+        if (name == QLatin1String("Tri-state drivers")) {
+            QVERIFY(!use.contains(QLatin1String("available")));
+            continue;
+        }
+        const int available = use.value(QLatin1String("available")).toInt();
+        const int percent = use.value(QLatin1String("percent")).toInt();
+        QVERIFY(available > 0 && percent > 0 && percent <= 100);
+        QVERIFY2(
+            result.err.contains(QStringLiteral(" of %1 (%2 %)").arg(available, 8).arg(percent, 3)),
+            qPrintable(result.err));
+    }
+    QCOMPARE(resources, words({"LUT4", "Flip-flops", "Carry", "Tri-state drivers", "Block RAM"}));
+    int blackBoxes = 0;
+    for (const QJsonValue &value : result.json().value(QLatin1String("cells")).toArray()) {
+        const QJsonObject cell = value.toObject();
+        QVERIFY(cell.value(QLatin1String("count")).toInt() > 0);
+        if (cell.value(QLatin1String("blackBox")).toBool()) {
+            ++blackBoxes;
+            QCOMPARE(cell.value(QLatin1String("cell")).toString(), QStringLiteral("CortexM1Core"));
+        }
+    }
+    QCOMPARE(blackBoxes, 1);
 
     // The template names the ports of what was switched on.
     const QByteArray text = TestSupport::contentsOf(outputs.at(1));

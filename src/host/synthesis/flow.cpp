@@ -44,6 +44,11 @@ QString Flow::prepare()
     return prepareTool();
 }
 
+QString Flow::commandDone(int)
+{
+    return {};
+}
+
 QString Flow::explained(const QString &) const
 {
     return {};

@@ -50,6 +50,8 @@ public:
     virtual int stageCount() const = 0;
     // What is worth reading of a log file that a command left.
     virtual QStringList furtherLog() const { return {}; }
+    // After each command that exited with 0, by its number.
+    virtual QString commandDone(int command);
     // A better sentence for a command's error message, or empty.
     virtual QString explained(const QString &error) const;
     // After the last command.

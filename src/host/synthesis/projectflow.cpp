@@ -94,8 +94,8 @@ QString ProjectFlow::prepareTool()
                                {QStringLiteral("-batch"), QString(QLatin1String("./") + project)});
     // The template comes from the elaborated sources.
     if (error.isEmpty())
-        error =
-            addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), YosysScript::arguments());
+        error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"),
+                           YosysScript::arguments(YosysScript::script));
     if (error.isEmpty())
         error = writeScratch(QLatin1String(YosysScript::script),
                              YosysScript::elaboration(m_sources, topModule()));

@@ -43,16 +43,32 @@ constexpr Stage stages[] = {
 QString YosysFlow::prepareTool()
 {
     using namespace YosysScript;
-    for (const char *name :
-         {"primitives.v", "memories.txt", "map_tristate.v", "map_memories.v", "map_cells.v"}) {
+    for (const char *name : {"primitives.v", "memories.txt", "map_tristate.v", "map_memories.v",
+                             "map_carry.v", "map_cells.v"}) {
         const QString file = QLatin1String(name);
         if (QString error = writeScratch(file, Library::file(file)); !error.isEmpty())
             return error;
     }
-    if (QString error = writeScratch(QLatin1String(script), synthesis(m_sources, topModule()));
-        !error.isEmpty())
-        return error;
-    return addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), arguments());
+    QString error = writeScratch(QLatin1String(script), reading(m_sources, topModule()));
+    if (error.isEmpty())
+        error = writeScratch(QLatin1String(mappingScript), mapping(topModule()));
+    for (const char *name : {script, mappingScript}) {
+        if (error.isEmpty())
+            error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), arguments(name));
+    }
+    return error;
+}
+
+QString YosysFlow::commandDone(int command)
+{
+    if (command != 0)
+        return {};
+    const QString file = QLatin1String(YosysScript::design);
+    QByteArray text;
+    QString error = readResult(file, outputPath(QStringLiteral(".vg")), &text);
+    if (error.isEmpty())
+        error = writeScratch(file, YosysScript::withoutOpenDrivers(text));
+    return error;
 }
 
 QString YosysFlow::stageOf(const QString &line)

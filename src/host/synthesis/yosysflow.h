@@ -13,6 +13,7 @@ public:
 
     QString stageOf(const QString &line) override;
     QString explained(const QString &error) const override;
+    QString commandDone(int command) override;
     int stagesDone() const override;
     int stageCount() const override;
     QString collect(Results *results) override;
