@@ -188,10 +188,12 @@ module TV_RAMB_SDP #(
     wire rc = RC ^ RD_NEG;
     wire wc = WC ^ WR_NEG;
     reg [7:0] mem [0:2047];
+    reg [16383:0] image;   // simulators select from a variable much faster than from a parameter
     integer i, r, w;
     initial begin
         RDATA = RD_INIT;
-        for (i = 0; i < 2048; i = i + 1) mem[i] = INIT[8 * i +: 8];
+        image = INIT;
+        for (i = 0; i < 2048; i = i + 1) mem[i] = image[8 * i +: 8];
     end
     generate
         if (RD_WIDTH < 8) begin : g_read_bits
@@ -233,11 +235,13 @@ module TV_RAMB_TDP #(
     wire a_c = A_C ^ A_NEG;
     wire b_c = B_C ^ B_NEG;
     reg [7:0] mem [0:2047];
+    reg [16383:0] image;   // simulators select from a variable much faster than from a parameter
     integer i, a, b;
     initial begin
         A_RDATA = A_INIT;
         B_RDATA = B_INIT;
-        for (i = 0; i < 2048; i = i + 1) mem[i] = INIT[8 * i +: 8];
+        image = INIT;
+        for (i = 0; i < 2048; i = i + 1) mem[i] = image[8 * i +: 8];
     end
     generate
         if (A_WIDTH < 8) begin : g_a_bits
