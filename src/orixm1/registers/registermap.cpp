@@ -191,8 +191,10 @@ private:
         const auto match = bits.match(text(object, "bits"_l1));
         field.high = match.captured(1).toInt();
         field.low = match.captured(3).isEmpty() ? field.high : match.captured(3).toInt();
-        if (!match.hasMatch() || field.high > 31 || field.low > field.high)
+        if (!match.hasMatch() || field.high > 31 || field.low > field.high) {
             fail(QStringLiteral("\"bits\" is neither a bit nor a range such as 7:0"));
+            return field;
+        }
         if (!before.isEmpty() && field.low <= before.last().high)
             fail(QStringLiteral("the bits are not above those of the field before"));
         const QString access = text(object, "access"_l1);
