@@ -73,7 +73,7 @@ private Q_SLOTS:
     void anErrorInASourceNamesFileAndLine();
     void aMissingDataFolderIsNamed();
     void interruptStopsTheToolToo();
-    void vhdlIsRefusedClearly();
+    void generatesVhdl();
 
     void checkFindsNothingInTheExample();
     void checkListsFindings();
@@ -625,12 +625,40 @@ void tst_Cli::interruptStopsTheToolToo()
     }
 }
 
-void tst_Cli::vhdlIsRefusedClearly()
+void tst_Cli::generatesVhdl()
 {
-    const Run result = run({QStringLiteral("generate"), config("LANG=1\n")});
-    QCOMPARE(result.status, 1);
-    QVERIFY2(result.err.contains(QLatin1String("VHDL")), qPrintable(result.err));
-    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc", "temp"}));
+    const QByteArray options =
+        "Enable%20GPIO=true\nEnabel%20GPIO%20IO=true\nITCM_Size=1\nDTCM_Size=0\n";
+    const Run result =
+        run({QStringLiteral("generate"), config(options + "LANG=1\n"), QStringLiteral("--json"),
+             QStringLiteral("--out"), QStringLiteral("ip")});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    QCOMPARE(
+        result.json().value(QLatin1String("outputs")).toArray(),
+        QJsonArray::fromStringList({path("ip/tarvo_orix_m1.vhd"), path("ip/tarvo_orix_m1_tmp.vhd"),
+                                    path("ip/tarvo_orix_m1.vho"), path("ip/tarvo_orix_m1.vo")}));
+    QCOMPARE(TestSupport::entriesOf(path("ip")),
+             words({"tarvo_orix_m1.vhd", "tarvo_orix_m1.vho", "tarvo_orix_m1.vo",
+                    "tarvo_orix_m1_tmp.vhd", "temp"}));
+    // The Verilog model is the one that Verilog outputs come with.
+    QCOMPARE(run({QStringLiteral("generate"), config(options)}).status, 0);
+    QCOMPARE(TestSupport::contentsOf(path("ip/tarvo_orix_m1.vo")),
+             TestSupport::contentsOf(path("tarvo_orix_m1.vo")));
+
+    // The VHDL model is complete.
+    QDir(m_dir->path()).mkdir(QStringLiteral("work"));
+    const QString work = QLatin1String("--workdir=") + path("work");
+    for (const QStringList &command :
+         {QStringList{QStringLiteral("-a"), work, path("ip/tarvo_orix_m1.vho")},
+          QStringList{QStringLiteral("-r"), work, QStringLiteral("Tarvo_ORIX_M1_Top"),
+                      QStringLiteral("--no-run")}}) {
+        QProcess ghdl;
+        ghdl.setProcessChannelMode(QProcess::MergedChannels);
+        ghdl.start(QStringLiteral("ghdl"), command);
+        QVERIFY(ghdl.waitForFinished(60000));
+        const QByteArray output = ghdl.readAll();
+        QVERIFY2(ghdl.exitCode() == 0 && output.isEmpty(), output.constData());
+    }
 }
 
 void tst_Cli::checkFindsNothingInTheExample()

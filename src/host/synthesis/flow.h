@@ -62,6 +62,10 @@ protected:
 
     QString option(const char *key) const;
     QString topModule() const { return option("top_module"); }
+    bool writesVhdl() const;
+    QString templatePath() const;
+    // In the language of the job.
+    QByteArray instantiationTemplate(const QVector<Port> &ports) const;
     // "<output folder>/<target><suffix>"
     QString outputPath(const QString &suffix) const;
     // Adds a command for a program that PATH has.

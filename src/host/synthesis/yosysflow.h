@@ -22,6 +22,8 @@ protected:
     QString prepareTool() override;
 
 private:
+    QString addVhdl(const QVector<BlackBox> &blackBoxes, Results *results) const;
+
     int m_stage = -1;
 };
 

@@ -95,7 +95,7 @@ QByteArray YosysScript::reading(const SourceStage &sources, const QString &top)
            scratch(design) + '\n';
 }
 
-QByteArray YosysScript::mapping(const QString &top)
+QByteArray YosysScript::mapping(const QString &top, bool whole)
 {
     QByteArray primitives;
     const QByteArrayList names = Library::primitives();
@@ -152,10 +152,8 @@ QByteArray YosysScript::mapping(const QString &top)
            topName +
            " -purge_lib\n"
            "write_verilog -noattr " +
-           scratch(netlist) +
-           "\n"
-           "delete" +
-           primitives +
+           scratch(netlist) + "\n" +
+           (whole ? "write_json " + scratch(mapped) + '\n' : QByteArray()) + "delete" + primitives +
            "\n"
            "write_json " +
            scratch(cells) +

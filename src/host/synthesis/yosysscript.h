@@ -18,6 +18,7 @@ inline constexpr char mappingScript[] = "map.ys";
 inline constexpr char design[] = "design.il";
 inline constexpr char netlist[] = "netlist.v";
 inline constexpr char outline[] = "outline.json";
+inline constexpr char mapped[] = "mapped.json";
 inline constexpr char cells[] = "cells.json";
 
 // Arguments that run a script of the scratch folder: warnings, errors and the titles of the steps
@@ -35,8 +36,9 @@ QByteArray reading(const SourceStage &sources, const QString &top);
 // would be no plain net.
 QByteArray withoutOpenDrivers(const QByteArray &text);
 
-// Maps the `design` to the primitives of the library and writes `netlist`, `cells` and `outline`.
-QByteArray mapping(const QString &top);
+// Maps the `design` to the primitives of the library and writes `netlist`, `cells` and `outline`,
+// and if `whole` the netlist once more in JSON as `mapped`.
+QByteArray mapping(const QString &top, bool whole);
 
 } // namespace YosysScript
 
