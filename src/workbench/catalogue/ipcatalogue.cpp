@@ -117,8 +117,12 @@ bool IpCatalogue::loadLibrary(const QString &library)
         return false;
     }
     if (!plugin) {
-        fail(path, loader.isLoaded() ? tr("It is a Qt plug-in, but not one for IPs.")
-                                     : loader.errorString());
+        if (loader.isLoaded())
+            fail(path, tr("It is a Qt plug-in, but not one for IPs."));
+        else if (loader.metaData().isEmpty())
+            fail(path, tr("It is no plug-in: %1").arg(loader.errorString()));
+        else
+            fail(path, loader.errorString());
         return false;
     }
     if (cores.isEmpty()) {

@@ -23,7 +23,7 @@ struct Language {
 constexpr Language languages[] = {
     {"v vo vg vm vh vlt ", "Verilog"}, {"sv svh ", "SystemVerilog"},
     {"vhd vhdl vho vhg vhm ", "VHDL"}, {"ipc ini ", "INI Files"},
-    {"json ipspec tvproj ", "JSON"},   {"log ", "Log File (simple)"},
+    {"json ipspec tvproj ", "JSON"},   {"log ", "Log File (simplified)"},
     {"tcl prj sdc ", "Tcl/Tk"},
 };
 
