@@ -33,17 +33,69 @@ struct Report {
     QStringList sources;
     QStringList outputs;
     QStringList errors;
+    Synthesis::RunReport run;
 };
+
+QJsonArray jsonOf(const QList<Synthesis::ResourceUse> &resources)
+{
+    QJsonArray array;
+    for (const Synthesis::ResourceUse &use : resources) {
+        QJsonObject object{{QStringLiteral("resource"), use.resource},
+                           {QStringLiteral("used"), use.used}};
+        if (use.available >= 0) {
+            object.insert(QStringLiteral("available"), use.available);
+            object.insert(QStringLiteral("percent"), use.percent());
+        }
+        array.append(object);
+    }
+    return array;
+}
+
+QJsonArray jsonOf(const QList<Synthesis::CellCount> &cells)
+{
+    QJsonArray array;
+    for (const Synthesis::CellCount &cell : cells)
+        array.append(QJsonObject{{QStringLiteral("cell"), cell.cell},
+                                 {QStringLiteral("count"), cell.count},
+                                 {QStringLiteral("blackBox"), cell.isBlackBox}});
+    return array;
+}
+
+QStringList warningsOf(const Synthesis::RunReport &run)
+{
+    QStringList warnings;
+    for (const Synthesis::Message &message : run.messages) {
+        if (message.severity == Synthesis::Message::Warning)
+            warnings.append(message.toString());
+    }
+    return warnings;
+}
+
+void printUse(const Synthesis::ResourceUse &use)
+{
+    QString line = QStringLiteral("%1 %2").arg(use.resource, -18).arg(use.used, 8);
+    if (use.available >= 0)
+        line += QStringLiteral(" of %1 (%2 %)").arg(use.available, 8).arg(use.percent(), 3);
+    printError(line);
+}
 
 int finish(const Report &report, const GenerateArguments &arguments, int status)
 {
+    const QStringList warnings = warningsOf(report.run);
+    for (const QString &warning : warnings)
+        printError(QLatin1String("warning: ") + warning);
+    for (const Synthesis::ResourceUse &use : report.run.resources)
+        printUse(use);
     for (const QString &error : report.errors)
         printError(error);
     if (arguments.json) {
         printJson({{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
                    {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
                    {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
-                   {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)}});
+                   {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
+                   {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
+                   {QStringLiteral("cells"), jsonOf(report.run.cells)},
+                   {QStringLiteral("resources"), jsonOf(report.run.resources)}});
         return status;
     }
     const QStringList paths = report.files + report.outputs;
@@ -135,6 +187,7 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
                                               : Synthesis::Tool::TarvoSynthesis);
     runner.setJob(jobFrom(request, document.device));
     const int exitCode = synthesise(runner, arguments.verbose);
+    report.run = runner.report();
 
     const OutputPaths paths = outputPaths(tool, language, tempDir, outDir, request.targetName);
     const Collection result = collectOutputs(

@@ -73,7 +73,7 @@ private Q_SLOTS:
     void anErrorInASourceNamesFileAndLine();
     void aMissingDataFolderIsNamed();
     void interruptStopsTheToolToo();
-    void vhdlIsRefusedClearly();
+    void generatesVhdl();
 
     void checkFindsNothingInTheExample();
     void checkListsFindings();
@@ -256,7 +256,8 @@ void tst_Cli::generatesWithoutSynthesis()
     const Run result = run(
         {QStringLiteral("generate"), file, QStringLiteral("--no-synth"), QStringLiteral("--json")});
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.json().keys(), words({"errors", "files", "outputs", "sources"}));
+    QCOMPARE(result.json().keys(),
+             words({"cells", "errors", "files", "outputs", "resources", "sources", "warnings"}));
     const QString temp = path("temp/tv_orix_m1");
     const QJsonArray files = result.json().value(QLatin1String("files")).toArray();
     QCOMPARE(files.size(), 7);
@@ -314,6 +315,36 @@ void tst_Cli::generatesTheExample()
     for (const QString &output : outputs)
         QVERIFY2(QFileInfo(output).size() > 0, qPrintable(output));
     QCOMPARE(TestSupport::contentsOf(example), before);
+
+    // What it takes of the device, for people and for scripts.
+    QStringList resources;
+    for (const QJsonValue &value : result.json().value(QLatin1String("resources")).toArray()) {
+        const QJsonObject use = value.toObject();
+        const QString name = use.value(QLatin1String("resource")).toString();
+        resources.append(name);
+        QVERIFY(use.value(QLatin1String("used")).toInt() > 0);
+        if (name == QLatin1String("Tri-state drivers")) {
+            QVERIFY(!use.contains(QLatin1String("available")));
+            continue;
+        }
+        const int available = use.value(QLatin1String("available")).toInt();
+        const int percent = use.value(QLatin1String("percent")).toInt();
+        QVERIFY(available > 0 && percent > 0 && percent <= 100);
+        QVERIFY2(
+            result.err.contains(QStringLiteral(" of %1 (%2 %)").arg(available, 8).arg(percent, 3)),
+            qPrintable(result.err));
+    }
+    QCOMPARE(resources, words({"LUT4", "Flip-flops", "Carry", "Tri-state drivers", "Block RAM"}));
+    int blackBoxes = 0;
+    for (const QJsonValue &value : result.json().value(QLatin1String("cells")).toArray()) {
+        const QJsonObject cell = value.toObject();
+        QVERIFY(cell.value(QLatin1String("count")).toInt() > 0);
+        if (cell.value(QLatin1String("blackBox")).toBool()) {
+            ++blackBoxes;
+            QCOMPARE(cell.value(QLatin1String("cell")).toString(), QStringLiteral("CortexM1Core"));
+        }
+    }
+    QCOMPARE(blackBoxes, 1);
 
     // The template names the ports of what was switched on.
     const QByteArray text = TestSupport::contentsOf(outputs.at(1));
@@ -592,12 +623,40 @@ void tst_Cli::interruptStopsTheToolToo()
     }
 }
 
-void tst_Cli::vhdlIsRefusedClearly()
+void tst_Cli::generatesVhdl()
 {
-    const Run result = run({QStringLiteral("generate"), config("LANG=1\n")});
-    QCOMPARE(result.status, 1);
-    QVERIFY2(result.err.contains(QLatin1String("VHDL")), qPrintable(result.err));
-    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc", "temp"}));
+    const QByteArray options =
+        "Enable%20GPIO=true\nEnabel%20GPIO%20IO=true\nITCM_Size=1\nDTCM_Size=0\n";
+    const Run result =
+        run({QStringLiteral("generate"), config(options + "LANG=1\n"), QStringLiteral("--json"),
+             QStringLiteral("--out"), QStringLiteral("ip")});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    QCOMPARE(
+        result.json().value(QLatin1String("outputs")).toArray(),
+        QJsonArray::fromStringList({path("ip/tarvo_orix_m1.vhd"), path("ip/tarvo_orix_m1_tmp.vhd"),
+                                    path("ip/tarvo_orix_m1.vho"), path("ip/tarvo_orix_m1.vo")}));
+    QCOMPARE(TestSupport::entriesOf(path("ip")),
+             words({"tarvo_orix_m1.vhd", "tarvo_orix_m1.vho", "tarvo_orix_m1.vo",
+                    "tarvo_orix_m1_tmp.vhd", "temp"}));
+    // The Verilog model is the one that Verilog outputs come with.
+    QCOMPARE(run({QStringLiteral("generate"), config(options)}).status, 0);
+    QCOMPARE(TestSupport::contentsOf(path("ip/tarvo_orix_m1.vo")),
+             TestSupport::contentsOf(path("tarvo_orix_m1.vo")));
+
+    // The VHDL model is complete.
+    QDir(m_dir->path()).mkdir(QStringLiteral("work"));
+    const QString work = QLatin1String("--workdir=") + path("work");
+    for (const QStringList &command :
+         {QStringList{QStringLiteral("-a"), work, path("ip/tarvo_orix_m1.vho")},
+          QStringList{QStringLiteral("-r"), work, QStringLiteral("Tarvo_ORIX_M1_Top"),
+                      QStringLiteral("--no-run")}}) {
+        QProcess ghdl;
+        ghdl.setProcessChannelMode(QProcess::MergedChannels);
+        ghdl.start(QStringLiteral("ghdl"), command);
+        QVERIFY(ghdl.waitForFinished(60000));
+        const QByteArray output = ghdl.readAll();
+        QVERIFY2(ghdl.exitCode() == 0 && output.isEmpty(), output.constData());
+    }
 }
 
 void tst_Cli::checkFindsNothingInTheExample()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dev_global.h"
+#include "deviceresources.h"
 
 #include <QMetaType>
 #include <QString>
@@ -31,6 +32,10 @@ public:
     // The name up to the hyphen ("TV2KR").
     QString series() const;
 
+    // The same for all packages and speed grades of a die.
+    DeviceResources resources() const { return m_resources; }
+    void setResources(const DeviceResources &resources) { m_resources = resources; }
+
     bool isNull() const { return m_id.isEmpty(); }
     bool operator==(const DeviceArg &other) const
     {
@@ -46,6 +51,7 @@ private:
     QString m_package;
     QString m_speed;
     QString m_partNumber;
+    DeviceResources m_resources;
 };
 
 } // namespace DEV

@@ -8,6 +8,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
 static void initDeviceResources()
 {
     Q_INIT_RESOURCE(devices);
@@ -59,6 +63,32 @@ bool readPackageCodes(const QString &path, QHash<QString, QString> *codes, QStri
         codes->insert(it.key(), code);
     }
     return true;
+}
+
+// The counts of an entry's "resources", which may be left out; a sentence on a mistake.
+QString readResources(const QJsonValue &value, DeviceResources *resources)
+{
+    if (value.isUndefined())
+        return {};
+    const std::pair<const char *, int *> rows[] = {{"lut4", &resources->lut4},
+                                                   {"flipFlops", &resources->flipFlops},
+                                                   {"carry", &resources->carry},
+                                                   {"blockRam", &resources->blockRam}};
+    const QJsonObject entry = value.toObject();
+    if (entry.isEmpty())
+        return tr("the resources are no object with counts");
+    for (auto it = entry.begin(); it != entry.end(); ++it) {
+        const auto row = std::find_if(std::begin(rows), std::end(rows), [&](const auto &candidate) {
+            return it.key() == QLatin1String(candidate.first);
+        });
+        if (row == std::end(rows))
+            return tr("there is no resource \"%1\"").arg(it.key());
+        const double count = it.value().toDouble(-1);
+        if (count < 0 || count > 1e9 || count != std::floor(count))
+            return tr("the number of \"%1\" is no count").arg(it.key());
+        *row->second = int(count);
+    }
+    return {};
 }
 
 bool matches(const QString &wanted, const QString &value)
@@ -133,6 +163,11 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
             return fail(tr("an entry lacks its device name, packages or speeds"));
         if (!device.endsWith(version))
             return fail(tr("the device name \"%1\" does not fit its version").arg(device));
+        DeviceResources resources;
+        if (const QString mistake =
+                readResources(entry.value(QLatin1String("resources")), &resources);
+            !mistake.isEmpty())
+            return fail(tr("\"%1\": %2").arg(device, mistake));
         const QString deviceN = device.chopped(version.size());
         const QString series = deviceN.section(u'-', 0, 0);
         const QString size = deviceN.section(u'-', 1);
@@ -149,8 +184,8 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
                 const QString speed = speedValue.toString();
                 if (speed.isEmpty())
                     return fail(tr("a speed grade of \"%1\" is no text").arg(device));
-                const DeviceArg record(device, deviceN, version, package, speed,
-                                       base + code + speed);
+                DeviceArg record(device, deviceN, version, package, speed, base + code + speed);
+                record.setResources(resources);
                 if (m_indexById.contains(record.id()))
                     return fail(tr("the id \"%1\" occurs twice").arg(record.id()));
                 m_indexById.insert(record.id(), m_devices.size());

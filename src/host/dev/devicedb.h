@@ -12,9 +12,9 @@ namespace DEV
 // The devices that the environment knows, in the order of the data files (sorted by file name).
 //
 // The folder holds one file per series, {"devices": [{"device", "version", "packages": [...],
-// "speeds": [...]}]}, and "packages.json", {"packageCodes": {"QFN88P": "QN88P"}};
-// docs/add-a-device.md describes them. A part number is the series, "-LV", the size, the package's
-// code and the speed grade.
+// "speeds": [...], "resources": {...}}]}, and "packages.json", {"packageCodes": {"QFN88P":
+// "QN88P"}}; docs/add-a-device.md describes them. A part number is the series, "-LV", the size, the
+// package's code and the speed grade.
 class TARVO_DEV_EXPORT DeviceDb
 {
 public:

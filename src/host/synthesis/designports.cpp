@@ -17,17 +17,12 @@ bool isBits(const QString &text)
                        [](QChar c) { return c == u'0' || c == u'1' || c == u'x' || c == u'z'; });
 }
 
-// A value is bits, or else a string; a string that looks like bits has a blank at its end.
 QByteArray verilogValue(const QJsonValue &json)
 {
-    QString value = json.toString();
-    if (!value.isEmpty() && isBits(value)) {
-        const QByteArray bits = value.toLatin1();
-        return QByteArray::number(bits.size()) + "'b" + bits;
-    }
-    if (value.endsWith(u' ') && isBits(value.trimmed()))
-        value.chop(1);
-    QByteArray text = value.toUtf8();
+    const ParameterValue value = ParameterValue::read(json);
+    if (!value.bits.isEmpty())
+        return QByteArray::number(value.bits.size()) + "'b" + value.bits;
+    QByteArray text = value.text;
     text.replace('\\', "\\\\").replace('"', "\\\"").replace('\n', "\\n").replace('\t', "\\t");
     return '"' + text + '"';
 }
@@ -62,6 +57,17 @@ QVector<Port> readPorts(const QJsonObject &module)
 }
 
 } // namespace
+
+// A value is bits, or else a string; a string that looks like bits has a blank at its end.
+ParameterValue ParameterValue::read(const QJsonValue &json)
+{
+    QString value = json.toString();
+    if (!value.isEmpty() && isBits(value))
+        return {value.toLatin1(), {}};
+    if (value.endsWith(u' ') && isBits(value.trimmed()))
+        value.chop(1);
+    return {{}, value.toUtf8()};
+}
 
 QByteArray Port::range() const
 {
@@ -121,12 +127,15 @@ QVector<BlackBox> DesignPorts::blackBoxes(const QByteArrayList &except) const
 
         const QJsonObject defaults =
             module.value(QLatin1String("parameter_default_values")).toObject();
-        for (auto parameter = defaults.begin(); parameter != defaults.end(); ++parameter)
+        for (auto parameter = defaults.begin(); parameter != defaults.end(); ++parameter) {
+            const ParameterValue value = ParameterValue::read(parameter.value());
             box.parameters << BlackBox::Parameter{parameter.key().toUtf8(),
-                                                  verilogValue(parameter.value())};
+                                                  verilogValue(parameter.value()), value.bits,
+                                                  value.text, true};
+        }
         for (const QByteArray &name : usage.parameters) {
             if (!defaults.contains(QString::fromUtf8(name)))
-                box.parameters << BlackBox::Parameter{name, "0"};
+                box.parameters << BlackBox::Parameter{name, "0", "0", {}, false};
         }
 
         const QJsonObject attributes = module.value(QLatin1String("attributes")).toObject();

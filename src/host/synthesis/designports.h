@@ -21,11 +21,22 @@ struct Port {
     QByteArray range() const;
 };
 
+// The value of a parameter in the synthesis tool's JSON form.
+struct ParameterValue {
+    QByteArray bits; // from the highest one down; empty for a text
+    QByteArray text;
+
+    static ParameterValue read(const QJsonValue &json);
+};
+
 // A module without contents that the design instantiates.
 struct BlackBox {
     struct Parameter {
         QByteArray name;
         QByteArray value; // Verilog text of the default
+        QByteArray bits;  // the default from the highest bit down; empty for a text
+        QByteArray text;
+        bool isDeclared = true; // false: only instances tell of it, and the default stands for none
     };
 
     QByteArray name;

@@ -1,5 +1,8 @@
 #include "flow.h"
 
+#include "verilogoutputs.h"
+#include "vhdloutputs.h"
+
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
@@ -30,8 +33,6 @@ QString Flow::prepare()
 {
     static const QRegularExpression identifier(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_$]*\\z"));
 
-    if (m_job.options.value(QStringLiteral("write_vhdl")).toBool())
-        return tr("VHDL output is not available yet; choose Verilog as the language.");
     if (m_job.targetName.isEmpty() || m_job.targetName.contains(u'/'))
         return tr("\"%1\" cannot be the name of the output files.").arg(m_job.targetName);
     if (!identifier.match(topModule()).hasMatch())
@@ -44,6 +45,11 @@ QString Flow::prepare()
     return prepareTool();
 }
 
+QString Flow::commandDone(int)
+{
+    return {};
+}
+
 QString Flow::explained(const QString &) const
 {
     return {};
@@ -52,6 +58,22 @@ QString Flow::explained(const QString &) const
 QString Flow::option(const char *key) const
 {
     return m_job.options.value(QLatin1String(key)).toString();
+}
+
+bool Flow::writesVhdl() const
+{
+    return m_job.options.value(QStringLiteral("write_vhdl")).toBool();
+}
+
+QString Flow::templatePath() const
+{
+    return outputPath(writesVhdl() ? QStringLiteral("_tmp.vhd") : QStringLiteral("_tmp.v"));
+}
+
+QByteArray Flow::instantiationTemplate(const QVector<Port> &ports) const
+{
+    const QByteArray top = topModule().toUtf8();
+    return writesVhdl() ? vhdlTemplate(top, ports) : verilogTemplate(top, ports);
 }
 
 QString Flow::outputPath(const QString &suffix) const

@@ -50,6 +50,8 @@ public:
     virtual int stageCount() const = 0;
     // What is worth reading of a log file that a command left.
     virtual QStringList furtherLog() const { return {}; }
+    // After each command that exited with 0, by its number.
+    virtual QString commandDone(int command);
     // A better sentence for a command's error message, or empty.
     virtual QString explained(const QString &error) const;
     // After the last command.
@@ -60,6 +62,10 @@ protected:
 
     QString option(const char *key) const;
     QString topModule() const { return option("top_module"); }
+    bool writesVhdl() const;
+    QString templatePath() const;
+    // In the language of the job.
+    QByteArray instantiationTemplate(const QVector<Port> &ports) const;
     // "<output folder>/<target><suffix>"
     QString outputPath(const QString &suffix) const;
     // Adds a command for a program that PATH has.

@@ -20,6 +20,13 @@ QByteArrayList primitives();
 // The Verilog text of one primitive with its comment; empty for any other name.
 QByteArray model(const QByteArray &primitive);
 
+// The VHDL text of what all models need, and of one primitive with its comment; empty for any other
+// name.
+QByteArray vhdlPackage();
+QByteArray vhdlModel(const QByteArray &primitive);
+// The declaration of a primitive as a component.
+QByteArray vhdlComponent(const QByteArray &primitive);
+
 } // namespace Library
 
 } // namespace Synthesis

@@ -23,6 +23,12 @@ QString tr(const char *text)
     return QCoreApplication::translate("Synthesis", text);
 }
 
+QString notWritten(const QString &path)
+{
+    return tr("Synplify Pro reported success but did not write \"%1\".")
+        .arg(QDir::toNativeSeparators(path));
+}
+
 } // namespace
 
 QByteArray tclWord(const QString &text)
@@ -76,6 +82,8 @@ QByteArray ProjectFlow::projectFile() const
     set("disable_io_insertion", disableIo ? QStringLiteral("1") : QStringLiteral("0"));
     set("include_path", m_sources.originalDirs().join(u';'));
     set("write_verilog", QStringLiteral("1"));
+    if (writesVhdl())
+        set("write_vhdl", QStringLiteral("1"));
     text += "project -result_format verilog\nproject -result_file " +
             tclWord(ScratchFolder::relative(resultFile(QStringLiteral(".vm")))) +
             "\nimpl -active " + folder + '\n';
@@ -94,8 +102,8 @@ QString ProjectFlow::prepareTool()
                                {QStringLiteral("-batch"), QString(QLatin1String("./") + project)});
     // The template comes from the elaborated sources.
     if (error.isEmpty())
-        error =
-            addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), YosysScript::arguments());
+        error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"),
+                           YosysScript::arguments(YosysScript::script));
     if (error.isEmpty())
         error = writeScratch(QLatin1String(YosysScript::script),
                              YosysScript::elaboration(m_sources, topModule()));
@@ -132,17 +140,16 @@ QStringList ProjectFlow::furtherLog() const
 QString ProjectFlow::collect(Results *results)
 {
     const QString netlistPath = m_scratch.outputDir() + u'/' + resultFile(QStringLiteral(".vm"));
-    const QString templatePath = outputPath(QStringLiteral("_tmp.v"));
     const QByteArray top = topModule().toUtf8();
     const QString shown = QDir::toNativeSeparators(netlistPath);
 
     QByteArray netlist;
     QByteArray outline;
     if (!QFile::exists(m_scratch.absolute(resultFile(QStringLiteral(".vm")))))
-        return tr("Synplify Pro reported success but did not write \"%1\".").arg(shown);
+        return notWritten(netlistPath);
     QString error = readResult(resultFile(QStringLiteral(".vm")), netlistPath, &netlist);
     if (error.isEmpty())
-        error = readResult(QLatin1String(YosysScript::outline), templatePath, &outline);
+        error = readResult(QLatin1String(YosysScript::outline), templatePath(), &outline);
     if (!error.isEmpty())
         return error;
 
@@ -153,13 +160,23 @@ QString ProjectFlow::collect(Results *results)
     DesignPorts design;
     if (!design.read(outline, {}) || !design.contains(top))
         return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
-            .arg(QDir::toNativeSeparators(templatePath));
+            .arg(QDir::toNativeSeparators(templatePath()));
 
     if (!Utils::FileUtils::makePath(m_scratch.outputDir() + u'/' + implementation(), &error))
         return error;
     results->ports = design.ports(top);
-    results->outputs = {Output{templatePath, verilogTemplate(top, results->ports)},
+    results->outputs = {Output{templatePath(), instantiationTemplate(results->ports)},
                         Output{netlistPath, netlist}};
+    if (writesVhdl()) {
+        const QString file = resultFile(QStringLiteral(".vhm"));
+        const QString path = m_scratch.outputDir() + u'/' + file;
+        if (!QFile::exists(m_scratch.absolute(file)))
+            return notWritten(path);
+        QByteArray vhdl;
+        if (!(error = readResult(file, path, &vhdl)).isEmpty())
+            return error;
+        results->outputs << Output{path, vhdl};
+    }
     results->instances = scanned.leavesOf(top);
     return {};
 }

@@ -31,8 +31,16 @@ constexpr Row rows[] = {
     {"TV_CARRY", Carry, 1},   {"TV_TBUF", TriState, 1}, {"TV_RAMB_*", BlockRam, 1},
 };
 
-constexpr std::array<const char *, ResourceCount> names{"LUT4", "Flip-flops", "Carry",
-                                                        "Tri-state drivers", "Block RAM"};
+struct Kind {
+    const char *name;
+    int DEV::DeviceResources::*total; // null: a device has no number of them
+};
+
+constexpr std::array<Kind, ResourceCount> kinds{{{"LUT4", &DEV::DeviceResources::lut4},
+                                                 {"Flip-flops", &DEV::DeviceResources::flipFlops},
+                                                 {"Carry", &DEV::DeviceResources::carry},
+                                                 {"Tri-state drivers", nullptr},
+                                                 {"Block RAM", &DEV::DeviceResources::blockRam}}};
 
 bool matches(const QByteArray &name, QByteArray pattern)
 {
@@ -44,7 +52,8 @@ bool matches(const QByteArray &name, QByteArray pattern)
 
 } // namespace
 
-QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances, const DEV::DeviceArg &)
+QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances,
+                               const DEV::DeviceResources &totals)
 {
     std::array<int, ResourceCount> used{};
     for (auto it = instances.begin(); it != instances.end(); ++it) {
@@ -57,7 +66,8 @@ QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances, const DEV
     }
     QList<ResourceUse> result;
     for (int i = 0; i < ResourceCount; ++i)
-        result << ResourceUse{QLatin1String(names.at(i)), used.at(i), -1};
+        result << ResourceUse{QLatin1String(kinds.at(i).name), used.at(i),
+                              kinds.at(i).total ? totals.*kinds.at(i).total : -1};
     return result;
 }
 

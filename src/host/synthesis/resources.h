@@ -8,10 +8,10 @@
 namespace Synthesis
 {
 
-// What the instances of a netlist, counted by name, take of `device`: one row for each resource
+// What the instances of a netlist, counted by name, take of a device: one row for each resource
 // that primitives of the library use, in a fixed order, zeros included.
 QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances,
-                               const DEV::DeviceArg &device);
+                               const DEV::DeviceResources &totals);
 
 // "Used 120 LUT4, 64 Flip-flops." with the percentages where totals are known; resources that are
 // not used are left out.

@@ -137,6 +137,10 @@ void Runner::Private::commandEnded()
         end(failureOf(*ended));
         return;
     }
+    if (const QString error = m_flow->commandDone(m_command); !error.isEmpty()) {
+        end(error);
+        return;
+    }
     if (++m_command < m_flow->commands().size()) {
         runCommand();
         return;
@@ -161,7 +165,18 @@ QString Runner::Private::takeResults()
         m_report.cells << CellCount{name, it.value(), !primitives.contains(it.key())};
         receive(QStringLiteral("%1 %2").arg(it.value(), 8).arg(name));
     }
-    m_report.resources = resourceUse(results.instances, m_runningJob.device);
+    m_report.resources = resourceUse(results.instances, m_runningJob.device.resources());
+    for (const ResourceUse &use : qAsConst(m_report.resources)) {
+        if (use.exceeds())
+            m_report.messages << Message{Message::Warning,
+                                         {},
+                                         0,
+                                         tr("The netlist needs %1 %2, but %3 has %4.")
+                                             .arg(QString::number(use.used), use.resource,
+                                                  m_runningJob.device.device(),
+                                                  QString::number(use.available)),
+                                         1};
+    }
     m_report.summary = usedSentence(m_report.resources);
     receive(m_report.summary);
     for (const Port &port : qAsConst(results.ports)) {

@@ -3,6 +3,7 @@
 #include "library.h"
 #include "verilogoutputs.h"
 #include "verilogscan.h"
+#include "vhdloutputs.h"
 #include "yosysscript.h"
 
 #include <QCoreApplication>
@@ -43,16 +44,32 @@ constexpr Stage stages[] = {
 QString YosysFlow::prepareTool()
 {
     using namespace YosysScript;
-    for (const char *name :
-         {"primitives.v", "memories.txt", "map_tristate.v", "map_memories.v", "map_cells.v"}) {
+    for (const char *name : {"primitives.v", "memories.txt", "map_tristate.v", "map_memories.v",
+                             "map_carry.v", "map_cells.v"}) {
         const QString file = QLatin1String(name);
         if (QString error = writeScratch(file, Library::file(file)); !error.isEmpty())
             return error;
     }
-    if (QString error = writeScratch(QLatin1String(script), synthesis(m_sources, topModule()));
-        !error.isEmpty())
-        return error;
-    return addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), arguments());
+    QString error = writeScratch(QLatin1String(script), reading(m_sources, topModule()));
+    if (error.isEmpty())
+        error = writeScratch(QLatin1String(mappingScript), mapping(topModule(), writesVhdl()));
+    for (const char *name : {script, mappingScript}) {
+        if (error.isEmpty())
+            error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), arguments(name));
+    }
+    return error;
+}
+
+QString YosysFlow::commandDone(int command)
+{
+    if (command != 0)
+        return {};
+    const QString file = QLatin1String(YosysScript::design);
+    QByteArray text;
+    QString error = readResult(file, outputPath(QStringLiteral(".vg")), &text);
+    if (error.isEmpty())
+        error = writeScratch(file, YosysScript::withoutOpenDrivers(text));
+    return error;
 }
 
 QString YosysFlow::stageOf(const QString &line)
@@ -95,7 +112,6 @@ int YosysFlow::stageCount() const
 QString YosysFlow::collect(Results *results)
 {
     const QString netlistPath = outputPath(QStringLiteral(".vg"));
-    const QString templatePath = outputPath(QStringLiteral("_tmp.v"));
     const QByteArray top = topModule().toUtf8();
     const auto damaged = [&](const QString &path) {
         return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
@@ -109,7 +125,7 @@ QString YosysFlow::collect(Results *results)
     if (error.isEmpty())
         error = readResult(QLatin1String(YosysScript::cells), netlistPath, &cells);
     if (error.isEmpty())
-        error = readResult(QLatin1String(YosysScript::outline), templatePath, &outline);
+        error = readResult(QLatin1String(YosysScript::outline), templatePath(), &outline);
     if (!error.isEmpty())
         return error;
 
@@ -118,14 +134,30 @@ QString YosysFlow::collect(Results *results)
     if (!bodyOutline.complete || !bodyOutline.defines(top))
         return damaged(netlistPath);
     if (!design.read(outline, cells) || !design.contains(top))
-        return damaged(templatePath);
+        return damaged(templatePath());
 
     const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
     const QByteArray netlist = verilogNetlist(title("Netlist of"), body, blackBoxes);
     results->ports = design.ports(top);
-    results->outputs = {Output{templatePath, verilogTemplate(top, results->ports)},
+    results->outputs = {Output{templatePath(), instantiationTemplate(results->ports)},
                         Output{netlistPath, netlist}};
     results->instances = bodyOutline.leavesOf(top);
+    return writesVhdl() ? addVhdl(blackBoxes, results) : QString();
+}
+
+QString YosysFlow::addVhdl(const QVector<BlackBox> &blackBoxes, Results *results) const
+{
+    const QString path = outputPath(QStringLiteral(".vhg"));
+    QByteArray mapped;
+    QString error = readResult(QLatin1String(YosysScript::mapped), path, &mapped);
+    VhdlNetlist vhdl;
+    if (error.isEmpty())
+        error = vhdlNetlist(title("Netlist of"), mapped, topModule().toUtf8(), results->ports,
+                            blackBoxes, &vhdl);
+    if (!error.isEmpty())
+        return error;
+    results->outputs << Output{outputPath(QStringLiteral(".vho")), vhdl.model}
+                     << Output{path, vhdl.netlist};
     return {};
 }
 

@@ -13,6 +13,7 @@ public:
 
     QString stageOf(const QString &line) override;
     QString explained(const QString &error) const override;
+    QString commandDone(int command) override;
     int stagesDone() const override;
     int stageCount() const override;
     QString collect(Results *results) override;
@@ -21,6 +22,8 @@ protected:
     QString prepareTool() override;
 
 private:
+    QString addVhdl(const QVector<BlackBox> &blackBoxes, Results *results) const;
+
     int m_stage = -1;
 };
 

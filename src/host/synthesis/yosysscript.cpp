@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <string_view>
+
 namespace Synthesis
 {
 
@@ -38,9 +40,29 @@ QByteArray readSources(const SourceStage &sources, const QString &top)
     return text + "hierarchy -check -top " + top.toLatin1() + '\n';
 }
 
+// "  connect <net> <width>'<bits>" of a module, where all bits are x or z. The connections of cells
+// lie deeper.
+bool isOpenDriver(const char *first, const char *last)
+{
+    constexpr std::string_view start = "  connect ";
+    if (last != first && last[-1] == '\n')
+        --last;
+    if (std::size_t(last - first) < start.size() || std::string_view(first, start.size()) != start)
+        return false;
+    const char *at = last;
+    while (at != first && (at[-1] == 'x' || at[-1] == 'z'))
+        --at;
+    if (at == last || at[-1] != '\'')
+        return false;
+    const char *const quote = --at;
+    while (at != first && at[-1] >= '0' && at[-1] <= '9')
+        --at;
+    return at != quote && at[-1] == ' ';
+}
+
 } // namespace
 
-QStringList YosysScript::arguments()
+QStringList YosysScript::arguments(const char *script)
 {
     return {
         QStringLiteral("-Q"), QStringLiteral("-T"),
@@ -56,16 +78,8 @@ QByteArray YosysScript::elaboration(const SourceStage &sources, const QString &t
            " -purge_lib\nblackbox " + top.toLatin1() + "\nwrite_json " + scratch(outline) + '\n';
 }
 
-QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top)
+QByteArray YosysScript::reading(const SourceStage &sources, const QString &top)
 {
-    QByteArray primitives;
-    const QByteArrayList names = Library::primitives();
-    for (const QByteArray &name : names)
-        primitives += " t:" + name;
-
-    const QByteArray topName = top.toLatin1();
-    const QByteArray read = scratch("read.il");
-    const QByteArray cleaned = scratch("cleaned.il");
     return "read_verilog -lib " + scratch("primitives.v") + '\n' +
            readSources(sources, top)
            // One module: no name depends on how a parameter is spelled, and tri-states meet their
@@ -77,17 +91,19 @@ QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top
            scratch("map_tristate.v") +
            "\n"
            "tribuf\n"
-           // A pin that is never driven may be read all the same: without its constant, which the
-           // file calls unknown, it is a plain net. The connections of cells lie deeper.
            "write_rtlil " +
-           read +
-           "\n"
-           "!sed -E \"/^  connect .* [0-9]+'[xz]+$/d\" " +
-           read + " > " + cleaned +
-           "\n"
-           "delete =*\n"
-           "read_rtlil " +
-           cleaned +
+           scratch(design) + '\n';
+}
+
+QByteArray YosysScript::mapping(const QString &top, bool whole)
+{
+    QByteArray primitives;
+    const QByteArrayList names = Library::primitives();
+    for (const QByteArray &name : names)
+        primitives += " t:" + name;
+
+    const QByteArray topName = top.toLatin1();
+    return "read_rtlil " + scratch(design) +
            "\n"
            "flatten\n"
            "chformal -remove\n"
@@ -114,7 +130,9 @@ QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top
            "opt -fast -full\n"
            "memory_map\n"
            "opt -fast -full\n"
-           "techmap\n"
+           "techmap -map +/techmap.v -map " +
+           scratch("map_carry.v") +
+           "\n"
            "opt -fast\n"
            "dfflegalize -cell $_DFF_?_ 01 -cell $_DFFE_?P_ 01 -cell $_SDFF_?P?_ 01 -cell "
            "$_SDFFE_?P?P_ 01"
@@ -134,10 +152,8 @@ QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top
            topName +
            " -purge_lib\n"
            "write_verilog -noattr " +
-           scratch(netlist) +
-           "\n"
-           "delete" +
-           primitives +
+           scratch(netlist) + "\n" +
+           (whole ? "write_json " + scratch(mapped) + '\n' : QByteArray()) + "delete" + primitives +
            "\n"
            "write_json " +
            scratch(cells) +
@@ -147,6 +163,20 @@ QByteArray YosysScript::synthesis(const SourceStage &sources, const QString &top
            "\n"
            "write_json " +
            scratch(outline) + '\n';
+}
+
+QByteArray YosysScript::withoutOpenDrivers(const QByteArray &text)
+{
+    QByteArray result;
+    result.reserve(text.size());
+    for (int from = 0; from < text.size();) {
+        int end = text.indexOf('\n', from);
+        end = end < 0 ? text.size() : end + 1;
+        if (!isOpenDriver(text.constData() + from, text.constData() + end))
+            result.append(text.constData() + from, end - from);
+        from = end;
+    }
+    return result;
 }
 
 } // namespace Synthesis

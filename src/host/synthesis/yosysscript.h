@@ -14,18 +14,31 @@ namespace YosysScript
 
 // Names of files in the scratch folder.
 inline constexpr char script[] = "run.ys";
+inline constexpr char mappingScript[] = "map.ys";
+inline constexpr char design[] = "design.il";
 inline constexpr char netlist[] = "netlist.v";
 inline constexpr char outline[] = "outline.json";
+inline constexpr char mapped[] = "mapped.json";
 inline constexpr char cells[] = "cells.json";
 
-// Arguments that run `script`: warnings, errors and the titles of the steps are shown.
-QStringList arguments();
+// Arguments that run a script of the scratch folder: warnings, errors and the titles of the steps
+// are shown.
+QStringList arguments(const char *script);
 
 // Reads the sources and writes the ports of `top` and of the black boxes to `outline`.
 QByteArray elaboration(const SourceStage &sources, const QString &top);
 
-// Maps the design to the primitives of the library and writes `netlist`, `cells` and `outline`.
-QByteArray synthesis(const SourceStage &sources, const QString &top);
+// Reads the sources and writes the elaborated `design`.
+QByteArray reading(const SourceStage &sources, const QString &top);
+
+// The text of a design without the constants that say "not driven" of nets of a module: a pin that
+// is never driven may be read all the same, and with its constant, which the text calls unknown, it
+// would be no plain net.
+QByteArray withoutOpenDrivers(const QByteArray &text);
+
+// Maps the `design` to the primitives of the library and writes `netlist`, `cells` and `outline`,
+// and if `whole` the netlist once more in JSON as `mapped`.
+QByteArray mapping(const QString &top, bool whole);
 
 } // namespace YosysScript
 

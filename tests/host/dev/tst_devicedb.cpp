@@ -320,6 +320,26 @@ private Q_SLOTS:
         QVERIFY(DeviceDb::bundled().findDevice(QStringLiteral("TV9KR-2-QFN88P-C8/I7")).isNull());
     }
 
+    void readsResources()
+    {
+        const QTemporaryDir folder;
+        TestSupport::write(folder.filePath(QStringLiteral("packages.json")), packages);
+        TestSupport::write(
+            folder.filePath(QStringLiteral("tv9.json")),
+            series("{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"], \"speeds\": [\"C8\"], "
+                   "\"resources\": {\"lut4\": 7, \"blockRam\": 0}},"
+                   "{\"device\": \"TV9-2\", \"packages\": [\"QFN88P\"], \"speeds\": [\"C8\"]}"));
+        QString error;
+        const DeviceDb db = DeviceDb::fromFolder(folder.path(), &error);
+        QCOMPARE(error, QString());
+        const DEV::DeviceResources some = db.devices().at(0).resources();
+        QCOMPARE(some.lut4, 7);
+        QCOMPARE(some.flipFlops, -1);
+        QCOMPARE(some.carry, -1);
+        QCOMPARE(some.blockRam, 0);
+        QCOMPARE(db.devices().at(1).resources().lut4, -1);
+    }
+
     void namesABrokenDeviceFile_data()
     {
         QTest::addColumn<QByteArray>("text");
@@ -338,6 +358,18 @@ private Q_SLOTS:
         row("no name", series("{\"packages\": [\"QFN88P\"], \"speeds\": [\"C8/I7\"]}"), "lacks");
         row("no packages", series("{\"device\": \"TV9-1\", \"speeds\": [\"C8/I7\"]}"), "lacks");
         row("no speeds", series("{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"]}"), "lacks");
+        const auto withResources = [](const char *resources) {
+            return series(
+                "{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"], \"speeds\": [\"C8\"], "
+                "\"resources\": " +
+                QByteArray(resources) + "}");
+        };
+        row("resources that are no object", withResources("[1]"), "\"TV9-1\": the resources");
+        row("an unknown resource", withResources("{\"lut5\": 1}"), "no resource \"lut5\"");
+        row("half a resource", withResources("{\"lut4\": 1.5}"), "\"lut4\" is no count");
+        row("less than no resource", withResources("{\"lut4\": -1}"), "\"lut4\" is no count");
+        row("a resource that is a text", withResources("{\"carry\": \"1\"}"),
+            "\"carry\" is no count");
         row("a speed that is no text",
             series("{\"device\": \"TV9-1\", \"packages\": [\"QFN88P\"], \"speeds\": [8]}"),
             "speed");

@@ -95,9 +95,11 @@ private:
 };
 
 // Runs a program to its end. The exit code, or -1 if it could not be run.
-inline int execute(const QString &program, const QStringList &arguments, QByteArray *output)
+inline int execute(const QString &program, const QStringList &arguments, QByteArray *output,
+                   const QString &folder = {})
 {
     QProcess process;
+    process.setWorkingDirectory(folder);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
     if (!process.waitForFinished(60000))

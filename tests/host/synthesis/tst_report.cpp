@@ -107,6 +107,30 @@ private Q_SLOTS:
                  qPrintable(report.summary));
     }
 
+    void comparesWithTheTotalsOfTheDevice()
+    {
+        SynthesisRun run;
+        run.job.device =
+            DEV::DeviceArg(QStringLiteral("TV9-1"), QStringLiteral("TV9-1"), {}, {}, {}, {});
+        DEV::DeviceResources totals;
+        totals.lut4 = 1000;
+        totals.flipFlops = 15;
+        totals.blockRam = 1;
+        run.job.device.setResources(totals);
+        run.addFile(QStringLiteral(DESIGNS_DIR "/small.v"));
+        RUN_SUCCEEDS(run);
+        const RunReport report = run.runner.report();
+        QCOMPARE(useOf(report, "LUT4").available, 1000);
+        QCOMPARE(useOf(report, "Block RAM").percent(), 100);
+        QCOMPARE(useOf(report, "Carry").available, -1);
+        QCOMPARE(useOf(report, "Tri-state drivers").available, -1);
+        QVERIFY(useOf(report, "Flip-flops").exceeds());
+        QVERIFY2(report.summary.contains(QStringLiteral("16 Flip-flops (107 %)")),
+                 qPrintable(report.summary));
+        QCOMPARE(textsOf(report, Message::Warning),
+                 QStringList{QStringLiteral("The netlist needs 16 Flip-flops, but TV9-1 has 15.")});
+    }
+
     void listsThePortsInOrder()
     {
         SynthesisRun run;

@@ -109,6 +109,7 @@ private Q_SLOTS:
     void cancelWithoutARunDoesNothing();
 
     void runsTheProjectTool();
+    void theProjectToolWritesVhdlToo();
     void quotesPathsInTheProject_data();
     void quotesPathsInTheProject();
     void reportsProjectToolsThatFail_data();
@@ -411,8 +412,6 @@ void TestRunner::refusesJobs_data()
     QTest::addColumn<QString>("message");
     const QString sources = QStringLiteral("source_files");
     const QString good = QStringLiteral("out");
-    QTest::newRow("VHDL output") << good << QStringLiteral("write_vhdl") << QVariant(true)
-                                 << QStringLiteral("VHDL output is not available yet");
     QTest::newRow("no sources") << good << sources << QVariant(QStringList())
                                 << QStringLiteral("There are no source files.");
     QTest::newRow("a missing source")
@@ -856,6 +855,24 @@ void TestRunner::runsTheProjectTool()
     QCOMPARE(run.stages(),
              QStringList({QStringLiteral("Reading sources"), QStringLiteral("Mapping logic"),
                           QStringLiteral("Writing template")}));
+}
+
+void TestRunner::theProjectToolWritesVhdlToo()
+{
+    const FakeTool tool(QStringLiteral("project"));
+    SynthesisRun run;
+    run.runner.setTool(Synthesis::Tool::SynplifyPro);
+    run.job.options[QStringLiteral("write_vhdl")] = true;
+    run.addSource(QStringLiteral("top.v"),
+                  "module top (input a, output y); assign y = !a; endmodule\n");
+    RUN_SUCCEEDS(run);
+    QCOMPARE(TestSupport::entriesOf(run.job.outputDir + QStringLiteral("/rev_1")),
+             QStringList({QStringLiteral("core.vhm"), QStringLiteral("core.vm")}));
+    QVERIFY(TestSupport::contentsOf(run.path(QStringLiteral("_tmp.vhd")))
+                .contains("a => a_i, -- in std_logic\n"));
+    QVERIFY(!QFile::exists(run.path(QStringLiteral("_tmp.v"))));
+    QCOMPARE(run.runner.report().files.last(),
+             QString(run.job.outputDir + QStringLiteral("/rev_1/core.vhm")));
 }
 
 void TestRunner::quotesPathsInTheProject_data()

@@ -55,6 +55,14 @@ module TV_LUT4 #(parameter [15:0] INIT = 16'h0) (output O, input I0, input I1, i
     assign O = look(I0, I1, I2, I3);
 endmodule
 
+// One bit of a sum: S and CO are A + B + CI, or with SUB = 1 A + ~B + CI. Cells of a chain hand the carry on
+// from CO to CI.
+module TV_CARRY #(parameter [0:0] SUB = 1'b0) (output S, output CO, input A, input B, input CI);
+    wire b = B ^ SUB;
+    assign S = A ^ b ^ CI;
+    assign CO = (A & b) | (A & CI) | (b & CI);
+endmodule
+
 // Flip-flop.
 module TV_DFF #(parameter [0:0] INIT = 1'bx, parameter [0:0] NEG = 1'b0) (output reg Q, input C, input D);
     wire c = C ^ NEG;

@@ -1,5 +1,5 @@
 // Drives the design "dut" with the same pseudo-random values in every run and prints what it answers. The pins "io"
-// are driven from outside where a[31:24] says so.
+// are driven from outside where a[31:24] says so. The file "stimulus" gets the values, so that other simulators can be driven with them.
 module testbench;
     reg clk = 0;
     reg rst = 1;
@@ -7,7 +7,7 @@ module testbench;
     wire [31:0] y;
     wire [7:0] io;
     reg [7:0] outside = 0;
-    integer cycle, seed = 20260;
+    integer cycle, seed = 20260, stimulus;
 
     dut u_dut (.clk(clk), .rst(rst), .a(a), .b(b), .y(y), .io(io));
 
@@ -30,10 +30,14 @@ module testbench;
     endtask
 
     task show;
-        #1 $display("%b %b", y, io);
+        begin
+            $fdisplay(stimulus, "%b%b%b%b%b", clk, rst, a, b, outside);
+            #1 $display("%b %b", y, io);
+        end
     endtask
 
     initial begin
+        stimulus = $fopen("stimulus");
         for (cycle = 0; cycle < 3000; cycle = cycle + 1) begin
             if (cycle == 4) rst = 0;
             if (cycle > 1500) rst = ($random(seed) & 15) == 0;
