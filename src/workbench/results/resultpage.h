@@ -1,0 +1,56 @@
+#pragma once
+
+#include <synthesis/runreport.h>
+
+#include <QWidget>
+
+QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QListWidget)
+QT_FORWARD_DECLARE_CLASS(QTableView)
+
+namespace IPCore
+{
+class PinFigureView;
+}
+
+namespace Workbench
+{
+
+class CellModel;
+class ResourceModel;
+
+// What came of a successful run: the ports as a figure, what the netlist takes of the device, and
+// the files.
+class ResultPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ResultPage(QWidget *parent = nullptr);
+
+    void setReport(const Synthesis::RunReport &report);
+    // The files that the IP delivered, shown before those of the run itself. Full paths.
+    void setDelivered(const QStringList &files);
+    QStringList files() const;
+    IPCore::PinFigureView *figure() const { return m_figure; }
+
+Q_SIGNALS:
+    void openRequested(const QString &path);
+
+private:
+    void showFiles();
+
+    QLabel *m_heading;
+    QLabel *m_summary;
+    IPCore::PinFigureView *m_figure;
+    QLabel *m_portCount;
+    ResourceModel *m_resources;
+    CellModel *m_cells;
+    QTableView *m_resourceTable;
+    QTableView *m_cellTable;
+    QListWidget *m_files;
+    QStringList m_delivered;
+    QStringList m_made;
+};
+
+} // namespace Workbench

@@ -1,0 +1,59 @@
+#include "interrupt.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Workbench
+{
+
+namespace
+{
+
+int wakePipe[2] = {-1, -1};
+
+void handle(void (*handler)(int), int flags)
+{
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    action.sa_flags = flags;
+    sigemptyset(&action.sa_mask);
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGTERM, &action, nullptr);
+}
+
+extern "C" void wakeWorkbench(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = ::write(wakePipe[1], &byte, 1);
+}
+
+} // namespace
+
+Interrupt::Interrupt(QObject *parent)
+    : QObject(parent)
+{
+    if (::pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0)
+        return; // without the pipe the signals keep their default effect: they end the program
+    m_notifier = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
+        char buffer[16];
+        while (::read(wakePipe[0], buffer, sizeof buffer) > 0)
+            continue;
+        handle(SIG_DFL, SA_RESTART);
+        Q_EMIT received();
+    });
+    handle(wakeWorkbench, SA_RESTART);
+}
+
+Interrupt::~Interrupt()
+{
+    if (!m_notifier)
+        return;
+    handle(SIG_DFL, SA_RESTART);
+    m_notifier.reset();
+    ::close(wakePipe[0]);
+    ::close(wakePipe[1]);
+}
+
+} // namespace Workbench
