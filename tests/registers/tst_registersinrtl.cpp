@@ -399,24 +399,23 @@ void tst_RegistersInRtl::mistakesAreFound_data()
 void tst_RegistersInRtl::mistakesAreFound()
 {
     QFETCH(QString, kind);
-    for (Peripheral peripheral : qAsConst(m_peripherals)) {
-        if (peripheral.name != QLatin1String("TIMER"))
-            continue;
-        if (kind == QLatin1String("reset"))
-            peripheral.registers[2].fields[0].reset = 1;
-        else if (kind == QLatin1String("access"))
-            peripheral.registers[2].fields[0].access = RegisterAccess::Read;
-        else if (kind == QLatin1String("width"))
-            peripheral.registers[2].fields[0].high = 24;
-        else if (kind == QLatin1String("register left out"))
-            peripheral.registers.remove(2);
-        else
-            peripheral.registers[0].changes.clear();
-        const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
-        QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
-        return;
-    }
-    QFAIL("there is no timer");
+    const auto timer =
+        std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                     [](const Peripheral &p) { return p.name == QLatin1String("TIMER"); });
+    QVERIFY(timer != m_peripherals.cend());
+    Peripheral peripheral = *timer;
+    if (kind == QLatin1String("reset"))
+        peripheral.registers[2].fields[0].reset = 1;
+    else if (kind == QLatin1String("access"))
+        peripheral.registers[2].fields[0].access = RegisterAccess::Read;
+    else if (kind == QLatin1String("width"))
+        peripheral.registers[2].fields[0].high = 24;
+    else if (kind == QLatin1String("register left out"))
+        peripheral.registers.remove(2);
+    else
+        peripheral.registers[0].changes.clear();
+    const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
+    QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_RegistersInRtl)

@@ -78,7 +78,7 @@ private:
     QString identifier(const QJsonObject &object, QLatin1String key)
     {
         static const QRegularExpression rule(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*$"));
-        const QString name = text(object, key);
+        QString name = text(object, key);
         if (!rule.match(name).hasMatch())
             fail(u'"' + name + "\" is no name"_l1);
         return name;
@@ -95,7 +95,7 @@ private:
 
     QJsonArray list(const QJsonObject &object, QLatin1String key)
     {
-        const QJsonArray array = object.value(key).toArray();
+        QJsonArray array = object.value(key).toArray();
         if (array.isEmpty())
             fail(u'"' + key + "\" is no list, or empty"_l1);
         return array;
@@ -267,20 +267,18 @@ bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, 
 QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
                                        const OptionMap &options)
 {
+    const auto isOn = [&options](const PeripheralInstance &instance) {
+        return options.value(instance.option, findOption(instance.option)->defaultValue).toBool();
+    };
     QVector<Peripheral> enabled;
-    for (Peripheral peripheral : peripherals) {
-        auto &instances = peripheral.instances;
-        instances.erase(
-            std::remove_if(instances.begin(), instances.end(),
-                           [&options](const PeripheralInstance &instance) {
-                               return !options
-                                           .value(instance.option,
-                                                  findOption(instance.option)->defaultValue)
-                                           .toBool();
-                           }),
-            instances.end());
-        if (!instances.isEmpty())
-            enabled.append(peripheral);
+    for (const Peripheral &peripheral : peripherals) {
+        QVector<PeripheralInstance> instances;
+        std::copy_if(peripheral.instances.begin(), peripheral.instances.end(),
+                     std::back_inserter(instances), isOn);
+        if (instances.isEmpty())
+            continue;
+        enabled.append(peripheral);
+        enabled.last().instances = instances;
     }
     return enabled;
 }
