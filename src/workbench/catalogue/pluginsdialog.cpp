@@ -42,6 +42,19 @@ PluginsDialog::PluginsDialog(const IpCatalogue &catalogue, const QStringList &fo
     for (const IpCatalogue::Failure &failure : catalogue.failures())
         add(failure.library, failure.reason, QStringLiteral("error"));
     list->resizeColumnToContents(0);
+    auto *details = new QLabel(tr("Select a plug-in to read all about it."));
+    details->setObjectName(QStringLiteral("pluginDetails"));
+    details->setTextFormat(Qt::PlainText);
+    details->setWordWrap(true);
+    details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    connect(list, &QTreeWidget::currentItemChanged, details,
+            [details](const QTreeWidgetItem *item) {
+                if (item)
+                    details->setText(item->toolTip(0) + u'\n' + item->toolTip(1));
+            });
+    // What is wrong is said first.
+    if (!catalogue.failures().isEmpty())
+        list->setCurrentItem(list->topLevelItem(catalogue.entries().size()));
 
     auto *label = new QLabel(tr("&Folders that are searched for plug-ins too (one that is removed "
                                 "counts until the next start):"));
@@ -69,15 +82,16 @@ PluginsDialog::PluginsDialog(const IpCatalogue &catalogue, const QStringList &fo
 
     auto *layout = new QGridLayout(this);
     layout->addWidget(list, 0, 0, 1, 2);
-    layout->addWidget(label, 1, 0, 1, 2);
-    layout->addWidget(m_folders, 2, 0, 3, 1);
-    layout->addWidget(addButton, 2, 1);
-    layout->addWidget(removeButton, 3, 1);
-    layout->addWidget(buttons, 5, 0, 1, 2);
+    layout->addWidget(details, 1, 0, 1, 2);
+    layout->addWidget(label, 2, 0, 1, 2);
+    layout->addWidget(m_folders, 3, 0, 3, 1);
+    layout->addWidget(addButton, 3, 1);
+    layout->addWidget(removeButton, 4, 1);
+    layout->addWidget(buttons, 6, 0, 1, 2);
     layout->setRowStretch(0, 3);
-    layout->setRowStretch(4, 1);
+    layout->setRowStretch(5, 1);
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 90, metrics.height() * 24);
+    resize(metrics.averageCharWidth() * 90, metrics.height() * 30);
 }
 
 QStringList PluginsDialog::folders() const

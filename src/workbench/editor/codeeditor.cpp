@@ -1,6 +1,7 @@
 #include "codeeditor.h"
 
-#include <QFontDatabase>
+#include "widgets/fixedfont.h"
+
 #include <QPainter>
 #include <QTextBlock>
 
@@ -35,7 +36,7 @@ CodeEditor::CodeEditor(QWidget *parent)
     , m_lineNumbers(new LineNumbers(this))
 {
     setLineWrapMode(NoWrap);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(fixedFont());
     connect(this, &QPlainTextEdit::blockCountChanged, this, &CodeEditor::layoutLineNumbers);
     connect(this, &QPlainTextEdit::updateRequest, this, [this](const QRect &rect, int dy) {
         if (dy != 0)

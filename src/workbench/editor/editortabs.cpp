@@ -9,7 +9,9 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 #include <QTabBar>
+#include <QToolButton>
 
 #include <memory>
 
@@ -32,12 +34,10 @@ QString plainPath(const QString &path)
 EditorTabs::EditorTabs(QWidget *parent)
     : QTabWidget(parent)
 {
-    setTabsClosable(true);
     setMovable(true);
     setDocumentMode(true);
     setUsesScrollButtons(true);
     setElideMode(Qt::ElideNone);
-    connect(this, &QTabWidget::tabCloseRequested, this, &EditorTabs::closeTab);
     connect(this, &QTabWidget::currentChanged, this, &EditorTabs::currentStateChanged);
     // A file that is replaced is away for a moment, and a run changes many: look when it is quiet.
     m_diskTimer.setSingleShot(true);
@@ -195,6 +195,18 @@ bool EditorTabs::closeAll()
 void EditorTabs::tabInserted(int index)
 {
     QTabWidget::tabInserted(index);
+    // The style's own close button has no colour for a dark palette.
+    auto *close = new QToolButton;
+    close->setIcon(symbolIcon(QStringLiteral("close")));
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize) * 3 / 4;
+    close->setIconSize({side, side});
+    close->setAutoRaise(true);
+    close->setFocusPolicy(Qt::NoFocus);
+    close->setToolTip(tr("Close (Ctrl+W)"));
+    close->setAccessibleName(tr("Close the tab"));
+    QWidget *page = widget(index);
+    connect(close, &QToolButton::clicked, this, [this, page] { closeTab(indexOf(page)); });
+    tabBar()->setTabButton(index, QTabBar::RightSide, close);
     Q_EMIT countChanged();
 }
 

@@ -1,6 +1,6 @@
 #include "logview.h"
 
-#include <QFontDatabase>
+#include "widgets/fixedfont.h"
 
 namespace Workbench
 {
@@ -17,7 +17,7 @@ LogView::LogView(QWidget *parent)
     setLineWrapMode(NoWrap);
     setFrameShape(QFrame::NoFrame);
     setMaximumBlockCount(100000);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(fixedFont());
 }
 
 void LogView::start(const QString &heading)

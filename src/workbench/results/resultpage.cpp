@@ -12,7 +12,9 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
+#include <QScrollBar>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -56,8 +58,8 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent)
     , m_heading(new QLabel)
     , m_summary(new QLabel)
+    , m_left(new QTabWidget)
     , m_figure(new IPCore::PinFigureView)
-    , m_portCount(new QLabel)
     , m_resources(new ResourceModel(this))
     , m_cells(new CellModel(this))
     , m_resourceTable(makeTable(m_resources, tr("Resources")))
@@ -76,6 +78,7 @@ ResultPage::ResultPage(QWidget *parent)
     m_resourceTable->setObjectName(QStringLiteral("resourceTable"));
     m_cellTable->setObjectName(QStringLiteral("cellTable"));
     m_figure->setAccessibleName(tr("Ports of the netlist"));
+    m_figure->setToolTip(tr("Ctrl and the wheel zoom"));
     m_figure->setFrameShape(QFrame::NoFrame);
     m_files->setObjectName(QStringLiteral("fileList"));
     m_files->setAccessibleName(tr("Files"));
@@ -84,25 +87,18 @@ ResultPage::ResultPage(QWidget *parent)
         Q_EMIT openRequested(item->data(Qt::UserRole).toString());
     });
 
+    m_left->setObjectName(QStringLiteral("resultTabs"));
+    m_left->addTab(m_figure, tr("&Ports"));
+    m_left->addTab(m_cellTable, tr("P&rimitives"));
     auto *right = new QSplitter(Qt::Vertical);
     right->addWidget(makeGroup(tr("Share of the device"), m_resourceTable));
-    right->addWidget(makeGroup(tr("Primitives in the netlist"), m_cellTable));
     right->addWidget(makeGroup(tr("Files (double-click to open)"), m_files));
-    right->setStretchFactor(0, 2);
-    right->setStretchFactor(1, 3);
-    right->setStretchFactor(2, 3);
     right->setChildrenCollapsible(false);
-
-    auto *figureGroup = new QGroupBox(tr("Ports (Ctrl+wheel zooms)"));
-    auto *figureLayout = new QVBoxLayout(figureGroup);
-    figureLayout->setContentsMargins(4, 4, 4, 4);
-    figureLayout->addWidget(m_figure, 1);
-    figureLayout->addWidget(m_portCount);
     auto *halves = new QSplitter(Qt::Horizontal);
-    halves->addWidget(figureGroup);
+    halves->addWidget(m_left);
     halves->addWidget(right);
-    halves->setStretchFactor(0, 3);
-    halves->setStretchFactor(1, 2);
+    // Half and half: sizes are shares until the page has one of its own.
+    halves->setSizes({1000, 1000});
     halves->setChildrenCollapsible(false);
 
     auto *layout = new QVBoxLayout(this);
@@ -121,7 +117,9 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
     m_summary->setText(tr("%1 The run took %2 s.").arg(report.summary, seconds));
     m_figure->setLabel(name);
     m_figure->setPins(pinsOf(report.ports));
-    m_portCount->setText(tr("%1 ports").arg(report.ports.size()));
+    fitFigure();
+    m_left->setTabText(0, tr("&Ports (%1)").arg(report.ports.size()));
+    m_left->setTabText(1, tr("P&rimitives (%1 kinds)").arg(report.cells.size()));
     m_resources->setResources(report.resources);
     m_cells->setCells(report.cells);
     m_made = report.files;
@@ -129,6 +127,29 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
         m_made.append(report.logFile);
     m_delivered.clear();
     showFiles();
+}
+
+void ResultPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitFigure();
+}
+
+void ResultPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    fitFigure();
+}
+
+void ResultPage::fitFigure()
+{
+    const int width = m_figure->figureSize().width();
+    if (width <= 0 || !isVisible() || !qFuzzyCompare(m_figure->zoom(), m_fittedZoom))
+        return;
+    // The scroll bar of a long figure counts, whether or not it is there yet.
+    const int room = m_figure->width() - m_figure->verticalScrollBar()->sizeHint().width();
+    m_figure->setZoom(qBound(0.6, qreal(room) / width, 1.0), {});
+    m_fittedZoom = m_figure->zoom();
 }
 
 void ResultPage::setDelivered(const QStringList &files)

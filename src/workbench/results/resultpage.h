@@ -6,6 +6,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QListWidget)
+QT_FORWARD_DECLARE_CLASS(QTabWidget)
 QT_FORWARD_DECLARE_CLASS(QTableView)
 
 namespace IPCore
@@ -37,18 +38,25 @@ public:
 Q_SIGNALS:
     void openRequested(const QString &path);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
 private:
     void showFiles();
+    // Shows the figure in its whole width, until the user chooses a scale.
+    void fitFigure();
 
     QLabel *m_heading;
     QLabel *m_summary;
+    QTabWidget *m_left;
     IPCore::PinFigureView *m_figure;
-    QLabel *m_portCount;
     ResourceModel *m_resources;
     CellModel *m_cells;
     QTableView *m_resourceTable;
     QTableView *m_cellTable;
     QListWidget *m_files;
+    qreal m_fittedZoom = 1;
     QStringList m_delivered;
     QStringList m_made;
 };

@@ -81,6 +81,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_log(new LogView)
     , m_output(new QTabWidget)
     , m_projectModel(new ProjectModel(this))
+    , m_projectStack(new QStackedWidget)
     , m_projectTree(new QTreeView)
     , m_catalogueView(new CatalogueView(catalogue))
 {
@@ -88,6 +89,10 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     setAcceptDrops(true);
     setDockNestingEnabled(true);
     m_results->hide();
+
+    m_noProject = new QLabel(tr("No project is open."));
+    m_noProject->setAlignment(Qt::AlignCenter);
+    m_noProject->setEnabled(false);
 
     auto *central = new QWidget;
     auto *layout = new QVBoxLayout(central);
@@ -192,8 +197,10 @@ void MainWindow::buildDocks()
         addDockWidget(area, result);
         return result;
     };
+    m_projectStack->addWidget(m_noProject);
+    m_projectStack->addWidget(m_projectTree);
     m_projectDock =
-        dock(tr("Project"), QStringLiteral("projectDock"), m_projectTree, Qt::LeftDockWidgetArea);
+        dock(tr("Project"), QStringLiteral("projectDock"), m_projectStack, Qt::LeftDockWidgetArea);
     m_catalogueDock = dock(tr("IP Catalogue"), QStringLiteral("catalogueDock"), m_catalogueView,
                            Qt::LeftDockWidgetArea);
     m_output->setObjectName(QStringLiteral("outputTabs"));
@@ -229,6 +236,9 @@ void MainWindow::buildStatusBar()
     m_deviceButton->setIcon(symbolIcon(QStringLiteral("device")));
     m_deviceButton->setToolTip(tr("The device of the project; click to choose another one"));
     connect(m_deviceButton, &QPushButton::clicked, this, &MainWindow::chooseDevice);
+    const int gap = fontMetrics().averageCharWidth();
+    m_runLabel->setContentsMargins(gap, 0, gap, 0);
+    m_cursorLabel->setContentsMargins(gap, 0, gap, 0);
     statusBar()->addPermanentWidget(m_runLabel);
     statusBar()->addPermanentWidget(m_cursorLabel);
     statusBar()->addPermanentWidget(m_deviceButton);
@@ -260,8 +270,10 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
                     .arg(m_project->deviceId()),
                 {{tr("&Choose a Device…"), [this] { chooseDevice(); }}});
     }
+    m_projectStack->setCurrentWidget(m_project ? static_cast<QWidget *>(m_projectTree)
+                                               : m_noProject);
+    m_runLabel->clear();
     showPlace();
-    showStart();
     showEditorState();
     return true;
 }
@@ -273,11 +285,11 @@ void MainWindow::showPlace()
     setWindowTitle(m_project ? tr("%1 - Tarvo Workbench").arg(m_project->name())
                              : tr("Tarvo Workbench"));
     m_deviceButton->setVisible(m_project != nullptr);
-    QString text = tr("No device");
+    QString text = tr(" No device");
     if (!device.isNull())
-        text = QStringLiteral("%1  %2  %3").arg(device.device(), device.package(), device.speed());
+        text = QStringLiteral(" %1  %2  %3").arg(device.device(), device.package(), device.speed());
     m_deviceButton->setText(text);
-    m_deviceButton->setAccessibleName(tr("Device: %1").arg(text));
+    m_deviceButton->setAccessibleName(tr("Device: %1").arg(text.trimmed()));
     m_catalogueView->setDevice(device);
     m_projectDock->setWindowTitle(m_project ? tr("Project %1").arg(m_project->name())
                                             : tr("Project"));
@@ -597,7 +609,7 @@ void MainWindow::about()
            "Settings: %4")
             .arg(plugins.isEmpty() ? tr("none") : plugins.join(QLatin1String(", ")),
                  QLatin1String(qVersion()), QStringLiteral(QT_VERSION_STR), m_settings.fileName()));
-    box.setIconPixmap(windowIcon().pixmap(64));
+    box.setIconPixmap(applicationIcon().pixmap(64));
     box.exec();
 }
 
@@ -643,9 +655,9 @@ void MainWindow::restoreState()
             QSize(fontMetrics().averageCharWidth() * 190, fontMetrics().height() * 50)));
     }
     if (!QMainWindow::restoreState(m_settings.value(stateKey).toByteArray(), stateVersion)) {
-        const int width = fontMetrics().averageCharWidth() * 40;
+        const int width = fontMetrics().averageCharWidth() * 46;
         resizeDocks({m_projectDock, m_catalogueDock}, {width, width}, Qt::Horizontal);
-        resizeDocks({m_outputDock}, {fontMetrics().height() * 11}, Qt::Vertical);
+        resizeDocks({m_outputDock}, {fontMetrics().height() * 8}, Qt::Vertical);
     }
 }
 

@@ -129,6 +129,8 @@ private:
     LogView *m_log;
     QTabWidget *m_output;
     ProjectModel *m_projectModel;
+    QStackedWidget *m_projectStack;
+    QLabel *m_noProject;
     QTreeView *m_projectTree;
     CatalogueView *m_catalogueView;
     QDockWidget *m_projectDock;

@@ -34,7 +34,6 @@ QCommandLinkButton *makeLink(const QString &text, const QString &description, co
     auto *button =
         new QCommandLinkButton(QString(text).replace(u'&', QLatin1String("&&")), description);
     button->setIcon(symbolIcon(icon));
-    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return button;
 }
 
