@@ -188,10 +188,16 @@ module TV_RAMB_SDP #(
     wire rc = RC ^ RD_NEG;
     wire wc = WC ^ WR_NEG;
     reg [7:0] mem [0:2047];
+    reg [255:0] line;
     integer i, r, w;
     initial begin
         RDATA = RD_INIT;
-        for (i = 0; i < 2048; i = i + 1) mem[i] = INIT[8 * i +: 8];
+        // In lines, since a simulator takes the whole of INIT in its hands for each part of it.
+        if (INIT !== {16384{1'bx}})
+            for (i = 0; i < 2048; i = i + 1) begin
+                if (i % 32 == 0) line = INIT[8 * i +: 256];
+                mem[i] = line[8 * (i % 32) +: 8];
+            end
     end
     generate
         if (RD_WIDTH < 8) begin : g_read_bits
@@ -233,11 +239,17 @@ module TV_RAMB_TDP #(
     wire a_c = A_C ^ A_NEG;
     wire b_c = B_C ^ B_NEG;
     reg [7:0] mem [0:2047];
+    reg [255:0] line;
     integer i, a, b;
     initial begin
         A_RDATA = A_INIT;
         B_RDATA = B_INIT;
-        for (i = 0; i < 2048; i = i + 1) mem[i] = INIT[8 * i +: 8];
+        // In lines, since a simulator takes the whole of INIT in its hands for each part of it.
+        if (INIT !== {16384{1'bx}})
+            for (i = 0; i < 2048; i = i + 1) begin
+                if (i % 32 == 0) line = INIT[8 * i +: 256];
+                mem[i] = line[8 * (i % 32) +: 8];
+            end
     end
     generate
         if (A_WIDTH < 8) begin : g_a_bits
