@@ -32,8 +32,9 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     m_text->setObjectName(QStringLiteral("catalogueFilterEdit"));
     m_text->setPlaceholderText(tr("Filter"));
     m_text->setAccessibleName(tr("Filter of the IP catalogue"));
-    m_text->setClearButtonEnabled(true);
     connect(m_text, &QLineEdit::textChanged, this, [this](const QString &text) {
+        // Loading the button's picture takes a while: not before there is something to clear.
+        m_text->setClearButtonEnabled(true);
         m_filter->setFilterFixedString(text);
         m_tree->expandAll();
     });

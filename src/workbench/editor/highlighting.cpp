@@ -1,12 +1,15 @@
 #include "highlighting.h"
 
-#include <KSyntaxHighlighting/Definition>
-#include <KSyntaxHighlighting/Repository>
-#include <KSyntaxHighlighting/SyntaxHighlighter>
-#include <KSyntaxHighlighting/Theme>
+#include "highlighter/module.h"
 
+#include <core/editormanager.h>
+
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QPalette>
+#include <QLibrary>
+
+#include <dlfcn.h>
 
 namespace Workbench
 {
@@ -27,17 +30,24 @@ constexpr Language languages[] = {
     {"tcl prj sdc ", "Tcl/Tk"},
 };
 
-KSyntaxHighlighting::Repository &repository()
+// The library stands where the host libraries do, in the build tree and in an installation. Null,
+// and a warning, if it cannot be loaded: texts stay without colours then.
+const HighlighterModule *module()
 {
-    static KSyntaxHighlighting::Repository instance;
-    return instance;
-}
-
-KSyntaxHighlighting::Theme themeFor(const QPalette &palette)
-{
-    const bool dark = palette.color(QPalette::Base).lightness() < 128;
-    return repository().defaultTheme(dark ? KSyntaxHighlighting::Repository::DarkTheme
-                                          : KSyntaxHighlighting::Repository::LightTheme);
+    static const HighlighterModule *const loaded = []() -> const HighlighterModule * {
+        Dl_info host;
+        if (::dladdr(reinterpret_cast<void *>(&Core::EditorManager::setHandler), &host) == 0)
+            return nullptr;
+        const QFileInfo hostLibrary(QFile::decodeName(host.dli_fname));
+        QLibrary library(QFileInfo(hostLibrary.canonicalFilePath())
+                             .dir()
+                             .filePath(QLatin1String(highlighterLibrary)));
+        const auto entry = reinterpret_cast<HighlighterEntry>(library.resolve(highlighterEntry));
+        if (!entry)
+            qWarning("%s", qPrintable(library.errorString()));
+        return entry ? entry() : nullptr;
+    }();
+    return loaded;
 }
 
 } // namespace
@@ -56,25 +66,15 @@ QString Highlighting::languageOf(const QString &path)
 QSyntaxHighlighter *Highlighting::attach(QTextDocument *document, const QString &path,
                                          const QPalette &palette)
 {
-    const QString language = languageOf(path);
-    const KSyntaxHighlighting::Definition definition =
-        language.isEmpty() ? repository().definitionForFileName(QFileInfo(path).fileName())
-                           : repository().definitionForName(language);
-    if (!definition.isValid())
-        return nullptr;
-    auto *highlighter = new KSyntaxHighlighting::SyntaxHighlighter(document);
-    highlighter->setTheme(themeFor(palette));
-    highlighter->setDefinition(definition);
-    return highlighter;
+    return module()
+               ? module()->attach(document, languageOf(path), QFileInfo(path).fileName(), palette)
+               : nullptr;
 }
 
 void Highlighting::setPalette(QSyntaxHighlighter *highlighter, const QPalette &palette)
 {
-    auto *ours = qobject_cast<KSyntaxHighlighting::SyntaxHighlighter *>(highlighter);
-    if (!ours)
-        return;
-    ours->setTheme(themeFor(palette));
-    ours->rehighlight();
+    if (module())
+        module()->setPalette(highlighter, palette);
 }
 
 } // namespace Workbench

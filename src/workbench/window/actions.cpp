@@ -6,7 +6,7 @@
 #include "editor/editortabs.h"
 #include "editor/findbar.h"
 #include "messages/messagesview.h"
-#include "results/resultpage.h"
+#include "messages/outputpane.h"
 #include "widgets/symbolicon.h"
 
 #include <QApplication>
@@ -96,17 +96,13 @@ MainWindow::Actions::Actions(MainWindow *window)
     view->addAction(window->m_catalogueDock->toggleViewAction());
     view->addAction(window->m_outputDock->toggleViewAction());
     view->addSeparator();
-    showResults =
-        add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
-            QKeySequence(Qt::CTRL | Qt::Key_R), [window] {
-                window->m_tabs->showPage(window->m_results, symbolIcon(QStringLiteral("results")),
-                                         tr("Results"));
-            });
+    showResults = add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
+                      QKeySequence(Qt::CTRL | Qt::Key_R), [window] { window->showResults(); });
     showResults->setEnabled(false);
     add(view, tr("&Next Message"), {}, QKeySequence(Qt::Key_F8),
-        [window] { window->m_messagesView->step(1); });
+        [window] { window->output()->messages()->step(1); });
     add(view, tr("&Previous Message"), {}, QKeySequence(Qt::SHIFT | Qt::Key_F8),
-        [window] { window->m_messagesView->step(-1); });
+        [window] { window->output()->messages()->step(-1); });
     view->addSeparator();
     add(view, tr("Next &Tab"), {}, QKeySequence(Qt::CTRL | Qt::Key_PageDown), [window] {
         if (const int count = window->m_tabs->count())

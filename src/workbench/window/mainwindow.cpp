@@ -12,6 +12,7 @@
 #include "messages/logview.h"
 #include "messages/messagemodel.h"
 #include "messages/messagesview.h"
+#include "messages/outputpane.h"
 #include "newprojectdialog.h"
 #include "project/projectmodel.h"
 #include "results/resultpage.h"
@@ -75,11 +76,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_start(new StartPage)
     , m_tabs(new EditorTabs)
     , m_infoBar(new InfoBar)
-    , m_results(new ResultPage(this))
     , m_messages(new MessageModel(this))
-    , m_messagesView(new MessagesView(m_messages))
-    , m_log(new LogView)
-    , m_output(new QTabWidget)
     , m_projectModel(new ProjectModel(this))
     , m_projectStack(new QStackedWidget)
     , m_projectTree(new QTreeView)
@@ -88,7 +85,6 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
     setDockNestingEnabled(true);
-    m_results->hide();
 
     m_noProject = new QLabel(tr("No project is open."));
     m_noProject->setAlignment(Qt::AlignCenter);
@@ -122,10 +118,6 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     connect(m_catalogueView, &CatalogueView::activated, this, &MainWindow::createSelectedIp);
     connect(m_tabs, &EditorTabs::countChanged, this, &MainWindow::showStart);
     connect(m_tabs, &EditorTabs::currentStateChanged, this, &MainWindow::showEditorState);
-    connect(m_messagesView, &MessagesView::openRequested, this,
-            [this](const QString &path, int line) { openPath(path, line); });
-    connect(m_results, &ResultPage::openRequested, this,
-            [this](const QString &path) { openPath(path); });
     connect(m_session, &IpSession::finished, this, &MainWindow::onIpClosed);
     connect(m_actions->recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecent);
 
@@ -203,25 +195,14 @@ void MainWindow::buildDocks()
         dock(tr("Project"), QStringLiteral("projectDock"), m_projectStack, Qt::LeftDockWidgetArea);
     m_catalogueDock = dock(tr("IP Catalogue"), QStringLiteral("catalogueDock"), m_catalogueView,
                            Qt::LeftDockWidgetArea);
-    m_output->setObjectName(QStringLiteral("outputTabs"));
-    m_output->setDocumentMode(true);
-    m_output->setTabPosition(QTabWidget::South);
-    m_output->addTab(m_messagesView, tr("Messages"));
-    m_output->addTab(m_log, tr("Log"));
     m_outputDock =
-        dock(tr("Messages"), QStringLiteral("outputDock"), m_output, Qt::BottomDockWidgetArea);
+        dock(tr("Messages"), QStringLiteral("outputDock"), new QWidget, Qt::BottomDockWidgetArea);
+    connect(m_outputDock, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (visible)
+            output();
+    });
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     m_outputDock->hide(); // until there is something in it
-    const auto showCounts = [this] {
-        const int errors = m_messages->count(MessageModel::Error);
-        const int warnings = m_messages->count(MessageModel::Warning);
-        m_output->setTabText(
-            0, errors + warnings == 0
-                   ? tr("Messages")
-                   : tr("Messages (errors: %1, warnings: %2)").arg(errors).arg(warnings));
-    };
-    connect(m_messages, &QAbstractItemModel::modelReset, this, showCounts);
-    connect(m_messages, &QAbstractItemModel::rowsInserted, this, showCounts);
 }
 
 void MainWindow::buildStatusBar()
@@ -333,6 +314,39 @@ void MainWindow::showEditorState()
                 .arg(page->isEditable() ? tr("editing") : tr("reading (Ctrl+E edits)")));
 }
 
+OutputPane *MainWindow::output()
+{
+    if (!m_output) {
+        m_output = new OutputPane(m_messages);
+        connect(m_output->messages(), &MessagesView::openRequested, this,
+                [this](const QString &path, int line) { openPath(path, line); });
+        delete m_outputDock->widget();
+        m_outputDock->setWidget(m_output);
+    }
+    return m_output;
+}
+
+LogView *MainWindow::log()
+{
+    return output()->log();
+}
+
+ResultPage *MainWindow::results()
+{
+    if (!m_results) {
+        m_results = new ResultPage(this);
+        m_results->hide();
+        connect(m_results, &ResultPage::openRequested, this,
+                [this](const QString &path) { openPath(path); });
+    }
+    return m_results;
+}
+
+void MainWindow::showResults()
+{
+    m_tabs->showPage(results(), symbolIcon(QStringLiteral("results")), tr("Results"));
+}
+
 void MainWindow::newProject()
 {
     const QString location = m_settings.value(locationKey, QDir::homePath()).toString();
@@ -441,8 +455,8 @@ void MainWindow::onIpClosed(const QStringList &files)
 {
     m_projectModel->refresh();
     if (m_hasNewReport) {
-        m_results->setDelivered(files);
-        m_tabs->showPage(m_results, symbolIcon(QStringLiteral("results")), tr("Results"));
+        results()->setDelivered(files);
+        showResults();
     }
     m_hasNewReport = false;
     showStart();
@@ -452,12 +466,12 @@ void MainWindow::onRunStarted(IPCore::SynthesisHelper *helper)
 {
     m_messages->clear();
     const Synthesis::RunReport begun = helper->report();
-    m_log->start(
+    log()->start(
         tr("Synthesis of %1 for %2").arg(begun.job.targetName, begun.job.device.partNumber()));
     m_runLabel->setText(tr("Synthesis: starting"));
     m_outputDock->show();
-    m_output->setCurrentWidget(m_log);
-    connect(helper, &IPCore::SynthesisHelper::logReceived, m_log, &QPlainTextEdit::appendPlainText,
+    output()->showLog();
+    connect(helper, &IPCore::SynthesisHelper::logReceived, log(), &QPlainTextEdit::appendPlainText,
             Qt::UniqueConnection);
     connect(helper, &IPCore::SynthesisHelper::stageChanged, m_runLabel,
             [this](const QString &stage) { m_runLabel->setText(tr("Synthesis: %1").arg(stage)); });
@@ -466,13 +480,13 @@ void MainWindow::onRunStarted(IPCore::SynthesisHelper *helper)
 void MainWindow::onRunFinished(const Synthesis::RunReport &report)
 {
     m_messages->setReport(report);
-    m_output->setCurrentWidget(m_messagesView);
+    output()->showMessages();
     m_runLabel->setText(report.cancelled       ? tr("Synthesis cancelled")
                         : report.exitCode == 0 ? tr("Synthesis done")
                                                : tr("Synthesis failed"));
     if (report.exitCode != 0)
         return;
-    m_results->setReport(report);
+    results()->setReport(report);
     m_hasNewReport = true;
     m_actions->showResults->setEnabled(true);
 }

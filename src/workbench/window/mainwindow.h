@@ -11,7 +11,6 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QSettings)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
-QT_FORWARD_DECLARE_CLASS(QTabWidget)
 QT_FORWARD_DECLARE_CLASS(QTreeView)
 
 namespace IPCore
@@ -34,7 +33,7 @@ class IpCatalogue;
 class IpSession;
 class LogView;
 class MessageModel;
-class MessagesView;
+class OutputPane;
 class ProjectModel;
 class ResultPage;
 class StartPage;
@@ -53,8 +52,9 @@ public:
     Project *project() const { return m_project.get(); }
     EditorTabs *tabs() const { return m_tabs; }
     MessageModel *messages() const { return m_messages; }
-    LogView *log() const { return m_log; }
-    ResultPage *results() const { return m_results; }
+    // Made when they are first asked for.
+    LogView *log();
+    ResultPage *results();
     InfoBar *infoBar() const { return m_infoBar; }
 
     // Report what is wrong in a message box, and return false then.
@@ -92,6 +92,8 @@ private:
     void showPlace();
     void showEditorState();
     void showStart();
+    void showResults();
+    OutputPane *output();
     void rememberRecent(const QString &file);
     QStringList recent() const;
     void fillRecent();
@@ -123,11 +125,9 @@ private:
     StartPage *m_start;
     EditorTabs *m_tabs;
     InfoBar *m_infoBar;
-    ResultPage *m_results;
+    ResultPage *m_results = nullptr;
     MessageModel *m_messages;
-    MessagesView *m_messagesView;
-    LogView *m_log;
-    QTabWidget *m_output;
+    OutputPane *m_output = nullptr;
     ProjectModel *m_projectModel;
     QStackedWidget *m_projectStack;
     QLabel *m_noProject;
