@@ -1,16 +1,5 @@
 // GPIO: 16 pins on the AHB, no wait states.  Registers are accessed as words; bits 31 to 16 read as 0.
-//
-//   Offset  Name     Access  Reset  Meaning
-//   0x00    DATA     R       pins   pin levels, synchronised to HCLK
-//   0x04    OUT      R/W     0      output values
-//   0x08    OUTEN    R/W     0      1: the pin is driven
-//   0x0C    OUTSET   W       -      sets the OUT bits that are written as 1
-//   0x10    OUTCLR   W       -      clears the OUT bits that are written as 1
-//   0x14    INTEN    R/W     0      1: the pin's pending bit raises the interrupt
-//   0x18    INTEDGE  R/W     0      1: the pin is pending after an edge, 0: pending by level
-//   0x1C    INTPOL   R/W     0      1: rising edge or high level, 0: falling edge or low level
-//   0x20    INTPEND  R/W1C   -      pending bits; writing 1 clears an edge, a level stays until the pin changes
-//
+// Registers: registers/gpio.json.
 // The interrupt is the OR of INTPEND & INTEN.
 module ahb_gpio (
     input  wire        HCLK,

@@ -2,13 +2,7 @@
 // A read in the window sends the read command 0x03 with the 24-bit word address and waits for four bytes; the byte at
 // the lowest address arrives in bits 7 to 0.  The bus waits meanwhile.  A write in the window, and a read while
 // SELECT is 1, get the error response.  The serial clock idles low (mode 0).
-//
-//   Offset     Name    Access  Reset  Meaning
-//   0x1000000  DATA    R/W     0      write: sends the byte (the bus waits until it is sent); read: byte received
-//   0x1000004  SELECT  R/W     0      bit 0: 1 holds the chip select low for bytes sent through DATA
-//   0x1000008  DIV     R/W     1      half a period of the serial clock is DIV + 1 clock cycles; 8 bits
-//   0x100000C  PROTECT R/W     1      bit 0: 1 drives the write-protect pin low
-//
+// Registers: registers/spi_flash.json.
 // Registers are accessed as words and repeat in the upper 16 MB.
 module ahb_spi_flash (
     input  wire        HCLK,

@@ -1,12 +1,6 @@
 // Dual timer: two independent 32-bit down counters, each with a prescaler.  Counter 1 has the offsets 0x00 to 0x0C,
 // counter 2 the offsets 0x20 to 0x2C.
-//
-//   Offset  Name    Access  Reset  Meaning
-//   0x00    CTRL    R/W     0      0 EN, 1 IE, 2 ONESHOT (stops at 0 and clears EN), 15:8 PRESCALE (one count per
-//                                  PRESCALE + 1 clock cycles)
-//   0x04    VALUE   R/W     0      current count
-//   0x08    RELOAD  R/W     0      value that follows 0
-//   0x0C    PEND    R/W1C   0      bit 0: the counter went past 0
+// Registers: registers/dual_timer.json.
 module apb_dual_timer (
     input  wire        PCLK,
     input  wire        PRESETn,

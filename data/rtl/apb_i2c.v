@@ -1,15 +1,5 @@
 // I2C master, one byte per command, with clock stretching and loss of arbitration.
-//
-//   Offset  Name      Access  Reset  Meaning
-//   0x00    PRESCALE  R/W     99     a quarter of an SCL period is PRESCALE + 1 clock cycles; 16 bits
-//   0x04    CTRL      R/W     0      0 EN, 1 IE (interrupt while DONE)
-//   0x08    TXDATA    R/W     0      byte to send
-//   0x0C    RXDATA    R       0      byte received
-//   0x10    COMMAND   W       -      0 START (start or repeated start first), 1 WRITE (send TXDATA), 2 READ (receive),
-//                                    3 STOP (stop last), 4 NACK (answer to READ); ignored while BUSY or disabled
-//   0x14    STATUS    R/W1C   0      0 BUSY, 1 NACKED (the last byte was not acknowledged), 2 OPEN (between start and
-//                                    stop); write 1 to clear: 3 DONE, 4 ARBLOST
-//
+// Registers: registers/i2c.json.
 // A line is pulled low with its enable output at 1 and its value output at 0; it is released with the enable at 0.
 module apb_i2c (
     input  wire        PCLK,

@@ -1,11 +1,5 @@
 // Real-time clock: counts seconds of an external clock, which is sampled with PCLK and must be slower than PCLK / 4.
-//
-//   Offset  Name      Access  Reset   Meaning
-//   0x00    SECONDS   R/W     0       seconds; writing also restarts the running second
-//   0x04    ALARM     R/W     0       alarm time
-//   0x08    CTRL      R/W     0       0 EN, 1 ALARMIE, 2 SECONDIE
-//   0x0C    PEND      R/W1C   0       0 SECONDS became equal to ALARM, 1 a second has passed
-//   0x10    PRESCALE  R/W     32767   source clock cycles of a second, less 1; 24 bits
+// Registers: registers/rtc.json.
 module apb_rtc (
     input  wire        PCLK,
     input  wire        PRESETn,

@@ -1,13 +1,6 @@
 // SD card interface in SPI mode.  The serial clock is made from the source clock SD_SPICLK, which is sampled with PCLK
 // and must be slower than PCLK / 4: each of its rising edges is half a period of SD_CLK.
-//
-//   Offset  Name    Access  Reset  Meaning
-//   0x00    DATA    R/W     0      write: sends the byte (ignored while BUSY); read: the byte received with it
-//   0x04    STATUS  R/W1C   0      0 BUSY; write 1 to clear: 1 DONE, 2 LOST (written while BUSY);
-//                                  3 CARD (card present), write 1 to clear: 4 CHANGED (CARD changed)
-//   0x08    CTRL    R/W     0      0 SELECT (1 drives SD_CS low), 1 INIT (drives SD_CARD_INIT: software has
-//                                  initialised the card), 2 DONEIE, 3 CARDIE (interrupt while CHANGED)
-//
+// Registers: registers/sdcard.json.
 // A card is present when SD_CHECKIN has been low for 1024 clock cycles; SD_CHECKOUT shows it to the fabric.  INIT is
 // cleared when the card leaves.
 module apb_sdcard (

@@ -1,11 +1,5 @@
 // SPI master, one byte at a time, one slave select.
-//
-//   Offset  Name    Access  Reset  Meaning
-//   0x00    DATA    R/W     0      write: sends the byte (ignored while BUSY); read: the byte received with it
-//   0x04    STATUS  R/W1C   0      0 BUSY; write 1 to clear: 1 DONE (a byte is complete), 2 LOST (written while BUSY)
-//   0x08    CTRL    R/W     0      0 CPOL, 1 CPHA, 2 LSBFIRST, 3 IE (interrupt while DONE)
-//   0x0C    DIV     R/W     3      half a period of SCLK is DIV + 1 clock cycles; 16 bits
-//   0x10    SELECT  R/W     0      bit 0: 1 drives NSS low
+// Registers: registers/spi.json.
 module apb_spi (
     input  wire        PCLK,
     input  wire        PRESETn,

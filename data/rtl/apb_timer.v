@@ -1,12 +1,5 @@
 // Timer: 24-bit down counter that reloads after 0.
-//
-//   Offset  Name    Access  Reset  Meaning
-//   0x00    CTRL    R/W     0      0 EN, 1 IE, 2 EXTGATE (counts only while the external input is high),
-//                                  3 EXTCLK (counts rising edges of the external input instead of clock cycles)
-//   0x04    VALUE   R/W     0      current count
-//   0x08    RELOAD  R/W     0      value that follows 0; the period is RELOAD + 1 counts
-//   0x0C    PEND    R/W1C   0      bit 0: the counter went past 0
-//
+// Registers: registers/timer.json.
 // The external input is synchronised to PCLK.
 module apb_timer (
     input  wire        PCLK,

@@ -1,12 +1,5 @@
 // UART: 8 data bits, no parity, one stop bit; one byte of buffer in each direction beside the shift registers.
-//
-//   Offset  Name     Access  Reset  Meaning
-//   0x00    DATA     R/W     0      write: byte to send; read: received byte (clears RXFULL)
-//   0x04    STATUS   R/W1C   0      0 TXFULL, 1 RXFULL, 2 TXBUSY (buffer or line busy); write 1 to clear: 3 RXOVER,
-//                                   4 FRAME (stop bit was 0), 5 TXOVER (written while TXFULL)
-//   0x08    CTRL     R/W     0      0 TXEN, 1 RXEN, 2 TXIE (interrupt while the buffer is empty),
-//                                   3 RXIE (while RXFULL), 4 ERRIE (while one of bits 3 to 5 of STATUS is set)
-//   0x0C    BAUDDIV  R/W     16     clock cycles per bit, 20 bits, at least 16
+// Registers: registers/uart.json.
 module apb_uart (
     input  wire        PCLK,
     input  wire        PRESETn,

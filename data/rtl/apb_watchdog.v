@@ -1,14 +1,6 @@
 // Watchdog: 32-bit down counter.  Reaching 0 the first time raises the non-maskable interrupt and starts the count
 // again; reaching 0 with the interrupt still pending requests a system reset, if that is allowed.
-//
-//   Offset  Name    Access  Reset        Meaning
-//   0x00    LOAD    R/W     0xFFFFFFFF   start value; writing it also restarts the count
-//   0x04    COUNT   R       0xFFFFFFFF   current count
-//   0x08    CTRL    R/W     0            0 EN, 1 RSTEN (system reset allowed)
-//   0x0C    KICK    W       -            0x4B49434B restarts the count and clears the interrupt; others do nothing
-//   0x10    STATUS  R       0            0 interrupt pending
-//   0x14    LOCK    R/W     0            0x554E4C4B unlocks LOAD and CTRL, any other value locks them;
-//                                        reads 1 while locked
+// Registers: registers/watchdog.json.
 module apb_watchdog (
     input  wire        PCLK,
     input  wire        PRESETn,

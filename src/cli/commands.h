@@ -32,6 +32,9 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments);
 int runCheck(Environment &environment, const QString &file, bool json);
 int runSources(Environment &environment, const QString &file, bool json);
 int runPins(Environment &environment, const QString &file, bool json);
+enum class RegistersForm { Table, Json, Markdown, CHeader };
+// An empty `file` means all peripherals.
+int runRegisters(Environment &environment, const QString &file, RegistersForm form);
 int runOptions(bool json);
 int runDevices(Environment &environment, const QString &series, bool json);
 

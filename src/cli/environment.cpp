@@ -14,15 +14,19 @@ namespace Cli
 
 using namespace TARVOORIXM1;
 
+QString Environment::dataFolder() const
+{
+    // The build tree and an installation are laid out alike.
+    return m_dataFolder.isEmpty() ? QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                                    QLatin1String("/../share/tarvo/tarvo_orix_m1"))
+                                  : QDir::cleanPath(QDir(m_dataFolder).absolutePath());
+}
+
 QVariantMap Environment::ipInfo()
 {
     if (!m_ipInfo.isEmpty())
         return m_ipInfo;
-    // The build tree and an installation are laid out alike.
-    const QString folder = m_dataFolder.isEmpty()
-                               ? QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                                 QLatin1String("/../share/tarvo/tarvo_orix_m1"))
-                               : QDir::cleanPath(QDir(m_dataFolder).absolutePath());
+    const QString folder = dataFolder();
     const QString path = descriptorPath(folder);
     QString error;
     QVariantMap info = Utils::readDescriptor(path, &error);

@@ -16,6 +16,9 @@ public:
     void setDataFolder(const QString &folder) { m_dataFolder = folder; }
     void setDeviceFolder(const QString &folder) { m_deviceFolder = folder; }
 
+    // The IP's data folder.
+    QString dataFolder() const;
+
     // Read on first use. On failure the message has been printed and the result is empty, or null.
     QVariantMap ipInfo();
     const DEV::DeviceDb *devices();

@@ -140,6 +140,27 @@ int main(int argc, char *argv[])
     pinsCommand->callback(
         [&] { command = [&] { return Cli::runPins(environment, text(file), json); }; });
 
+    CLI::App *registersCommand =
+        app.add_subcommand("registers", "List the registers of the sample subsystem's peripherals");
+    bool markdown = false;
+    bool cHeader = false;
+    registersCommand->add_option("FILE", file, "Only what this configuration (.ipc) switches on")
+        ->type_name("");
+    CLI::Option_group *form = registersCommand->add_option_group("Form");
+    form->add_flag("--json", json, "Print one JSON object");
+    form->add_flag("--markdown", markdown, "Print a document with all fields");
+    form->add_flag("--c-header", cHeader, "Print a C header for firmware");
+    form->require_option(0, 1);
+    registersCommand->callback([&] {
+        command = [&] {
+            return Cli::runRegisters(environment, text(file),
+                                     json       ? Cli::RegistersForm::Json
+                                     : markdown ? Cli::RegistersForm::Markdown
+                                     : cHeader  ? Cli::RegistersForm::CHeader
+                                                : Cli::RegistersForm::Table);
+        };
+    });
+
     CLI::App *optionsCommand =
         app.add_subcommand("options", "List all option keys with type, default and domain");
     addJson(optionsCommand);

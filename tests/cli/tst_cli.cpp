@@ -84,6 +84,8 @@ private Q_SLOTS:
     void anOwnDeviceFolderCounts();
     void pinsAreThePortsOfTheNetlist_data();
     void pinsAreThePortsOfTheNetlist();
+    void registersOfAConfiguration();
+    void registersNeedADataFolderThatHasThem();
 
 private:
     QString path(const char *name) const { return m_dir->filePath(QString::fromUtf8(name)); }
@@ -813,6 +815,53 @@ void tst_Cli::pinsAreThePortsOfTheNetlist()
             ports.insert(match.captured(1), match.captured(2));
     }
     QCOMPARE(ports, pins);
+}
+
+void tst_Cli::registersOfAConfiguration()
+{
+    const QString file = config("Enable%20UART1=true\nEnable%20GPIO=true\n");
+    const Run table = run({QStringLiteral("registers"), file});
+    QCOMPARE(table.status, 0);
+    QVERIFY(table.out.contains(QLatin1String("0x5000500C  UART1.BAUDDIV  0x00000010  Bit time.")));
+    QVERIFY(!table.out.contains(QLatin1String("UART0")));
+    QVERIFY(!table.out.contains(QLatin1String("WDOG")));
+
+    const Run object = run({QStringLiteral("registers"), file, QStringLiteral("--json")});
+    QCOMPARE(object.status, 0);
+    const QJsonArray peripherals = object.json().value(QLatin1String("peripherals")).toArray();
+    QCOMPARE(peripherals.size(), 2);
+    const QJsonObject uart = peripherals.at(1).toObject();
+    QCOMPARE(uart.value(QLatin1String("instances"))
+                 .toArray()
+                 .at(0)
+                 .toObject()
+                 .value(QLatin1String("base"))
+                 .toDouble(),
+             double(0x50005000));
+
+    const Run header = run({QStringLiteral("registers"), file, QStringLiteral("--c-header")});
+    QCOMPARE(header.status, 0);
+    QVERIFY(header.out.contains(QLatin1String("UART1_BASE")));
+    QVERIFY(!header.out.contains(QLatin1String("UART0_BASE")));
+    const Run document = run({QStringLiteral("registers"), QStringLiteral("--markdown")});
+    QCOMPARE(document.status, 0);
+    QVERIFY(document.out.contains(QLatin1String("## WDOG")));
+    QCOMPARE(
+        run({QStringLiteral("registers"), QStringLiteral("--markdown"), QStringLiteral("--json")})
+            .status,
+        2);
+}
+
+void tst_Cli::registersNeedADataFolderThatHasThem()
+{
+    QVERIFY(TestSupport::write(
+        path("data/tarvo_orix_m1.ipspec"),
+        TestSupport::contentsOf(QStringLiteral(TARVO_IP_DATA_DIR "/tarvo_orix_m1.ipspec"))));
+    const Run run =
+        this->run({QStringLiteral("registers"), QStringLiteral("--data"), path("data")});
+    QCOMPARE(run.status, 3);
+    QVERIFY2(run.err.contains(QLatin1String("data/registers\" holds no register descriptions")),
+             qPrintable(run.err));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Cli)

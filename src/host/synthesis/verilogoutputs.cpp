@@ -21,12 +21,17 @@ QByteArray declaration(const BlackBox &box)
         ports << "    " + port.direction + ' ' + (range.isEmpty() ? range : range + ' ') +
                      verilogName(port.name);
     }
-    QByteArray text = "(* blackbox *)\nmodule " + verilogName(box.name);
+    const QByteArray name = verilogName(box.name);
+    QByteArray text = "(* blackbox *)\nmodule " + name;
     if (!parameters.isEmpty())
         text += " #(\n" + parameters.join(",\n") + "\n)";
     if (!ports.isEmpty())
         text += " (\n" + ports.join(",\n") + "\n)";
-    return text + ";\nendmodule\n";
+    text += ";\nendmodule\n";
+    if (name.startsWith('\\')) // no name of a macro
+        return text;
+    return "// Define HAVE_" + name + " where the real module is compiled as well.\n`ifndef HAVE_" +
+           name + '\n' + text + "`endif\n";
 }
 
 QByteArray signalName(const Port &port)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "utils_global.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -14,6 +16,6 @@ struct JsonMistake {
 
 // Finds the first mistake of a JSON text (RFC 8259, with or without a byte order mark). Qt's parser
 // tells no more than that there is one: its offset is often a token or a line further on.
-JsonMistake findJsonMistake(const QByteArray &text);
+TARVO_UTILS_EXPORT JsonMistake findJsonMistake(const QByteArray &text);
 
 } // namespace Utils

@@ -18,7 +18,7 @@ IPItem::IPItem(int width, int height, bool clickable, bool rounded, const QColor
     , m_rounded(rounded)
     , m_outline(outlineColor)
     , m_fill(fillColor)
-    , m_text(text)
+    , m_label(text)
 {
     setFlag(ItemIsSelectable);
     setAcceptHoverEvents(true);
@@ -53,7 +53,8 @@ void IPItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QW
     }
 
     constexpr qreal radius = 10.0;
-    painter->save();
+    const QPen penBefore = painter->pen();
+    const QBrush brushBefore = painter->brush();
     painter->setPen(*outline);
     painter->setBrush(*fill);
     if (m_rounded) {
@@ -62,12 +63,15 @@ void IPItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QW
         const bool smooth = painter->testRenderHint(QPainter::Antialiasing);
         painter->setRenderHint(QPainter::Antialiasing, smooth && !isHairline(painter));
         painter->drawRect(boundingRect());
+        painter->setRenderHint(QPainter::Antialiasing, smooth);
     }
-    if (!m_text.isEmpty()) {
+    if (!m_label.text().isEmpty()) {
         painter->setPen(blackPen);
-        painter->drawText(textRect(), int(Qt::AlignCenter) | Qt::TextWordWrap, m_text);
+        m_label.drawCentred(painter, textRect());
     }
-    painter->restore();
+    // Not save() and restore(), which allocate.
+    painter->setPen(penBefore);
+    painter->setBrush(brushBefore);
 }
 
 void IPItem::setClickable(bool clickable)

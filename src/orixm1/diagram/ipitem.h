@@ -1,5 +1,7 @@
 #pragma once
 
+#include "laidouttext.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QGraphicsObject>
@@ -30,7 +32,7 @@ public:
     bool isRounded() const { return m_rounded; }
     QColor outlineColor() const { return m_outline.color(); }
     QColor fillColor() const { return m_fill.color(); }
-    QString text() const { return m_text; }
+    QString text() const { return m_label.text(); }
     // Where the label is written.
     QRectF textRect() const;
 
@@ -52,7 +54,7 @@ private:
     const bool m_rounded;
     const QPen m_outline;
     const QBrush m_fill;
-    const QString m_text;
+    LaidOutText m_label;
 };
 
 } // namespace TARVOORIXM1

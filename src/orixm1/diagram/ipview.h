@@ -49,7 +49,7 @@ public:
     void renderDiagram(QPainter *painter, const QRectF &target) const;
     // The format follows from the ending: .svg, .png or .pdf. False, and a sentence in `*error`, if
     // it is another one or the file cannot be written.
-    bool saveDiagram(const QString &path, QString *error) const;
+    Q_INVOKABLE bool saveDiagram(const QString &path, QString *error) const;
 
 public Q_SLOTS:
     void zoomOut();

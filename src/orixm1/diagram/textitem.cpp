@@ -25,8 +25,7 @@ void TextItem::setFont(const QFont &font)
     prepareGeometryChange();
     m_font = font;
     const QFontMetricsF metrics(font);
-    m_baseline = {textMargin, textMargin + metrics.ascent()};
-    m_bounds = QRectF(0, 0, metrics.horizontalAdvance(m_text), metrics.height())
+    m_bounds = QRectF(0, 0, metrics.horizontalAdvance(text()), metrics.height())
                    .adjusted(0, 0, 2 * textMargin, 2 * textMargin);
 }
 
@@ -35,8 +34,7 @@ void TextItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*optio
 {
     static const QPen ink(Qt::black);
     painter->setPen(ink);
-    painter->setFont(m_font);
-    painter->drawText(m_baseline, m_text);
+    m_text.drawLine(painter, m_font, {textMargin, textMargin});
 }
 
 } // namespace TARVOORIXM1

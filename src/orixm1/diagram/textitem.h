@@ -1,5 +1,7 @@
 #pragma once
 
+#include "laidouttext.h"
+
 #include <QFont>
 #include <QGraphicsItem>
 
@@ -18,15 +20,14 @@ public:
     QRectF boundingRect() const override { return m_bounds; }
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
-    QString text() const { return m_text; }
+    QString text() const { return m_text.text(); }
     QFont font() const { return m_font; }
     void setFont(const QFont &font);
 
 private:
-    const QString m_text;
+    LaidOutText m_text;
     QFont m_font;
     QRectF m_bounds;
-    QPointF m_baseline;
 };
 
 } // namespace TARVOORIXM1

@@ -1,4 +1,5 @@
 #include <diagram/ipitem.h>
+#include <diagram/laidouttext.h>
 #include <diagram/lineitem.h>
 
 #include <QGraphicsScene>
@@ -62,6 +63,9 @@ private Q_SLOTS:
     void aTransparentBlockShowsTheGround();
     void anEmptyLabelDrawsTheRectangleOnly();
     void aLabelIsCentredAndWrapped();
+    void aLabelLooksAsDrawTextDrawsIt_data();
+    void aLabelLooksAsDrawTextDrawsIt();
+    void aLabelFollowsFontAndWidth();
     void roundedCornersAreCut();
     void repaintsOnChangesOnly();
     void aDoubleClickIsSignalled();
@@ -162,6 +166,62 @@ void tst_DiagramItems::aLabelIsCentredAndWrapped()
     QVERIFY2(qAbs((top + bottom) / 2 - 40) <= 4, qPrintable(QString::number((top + bottom) / 2)));
     // Two lines: taller than one.
     QVERIFY(bottom - top > QFontMetrics(QFont()).lineSpacing());
+}
+
+void tst_DiagramItems::aLabelLooksAsDrawTextDrawsIt_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qreal>("scale");
+    const QStringList texts = {QStringLiteral("GPIO"), QStringLiteral("AHB-Lite to APB Bridge"),
+                               QStringLiteral("Dual Timer"), QStringLiteral("UnbreakableLongName")};
+    for (const QString &text : texts) {
+        for (const qreal scale : {0.5, 1.0, 1.25, 2.0, 3.7})
+            QTest::addRow("%s at %.2f", qPrintable(text), scale) << text << scale;
+    }
+}
+
+void tst_DiagramItems::aLabelLooksAsDrawTextDrawsIt()
+{
+    QFETCH(QString, text);
+    QFETCH(qreal, scale);
+    const QRectF rect(3, 2, 70, 45);
+    QImage expected(300, 200, QImage::Format_RGB32);
+    expected.fill(Qt::white);
+    QImage actual = expected;
+    QPainter plain(&expected);
+    QPainter cached(&actual);
+    for (QPainter *painter : {&plain, &cached}) {
+        painter->setRenderHint(QPainter::TextAntialiasing);
+        painter->scale(scale, scale);
+        painter->setPen(Qt::black);
+    }
+    plain.drawText(rect, int(Qt::AlignCenter) | Qt::TextWordWrap, text);
+    LaidOutText label(text);
+    label.drawCentred(&cached, rect);
+    QCOMPARE(actual, expected);
+    QVERIFY(countOf(actual, Qt::white) < actual.width() * actual.height());
+}
+
+void tst_DiagramItems::aLabelFollowsFontAndWidth()
+{
+    LaidOutText label(QStringLiteral("one two three four"));
+    QFont large = QGuiApplication::font();
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    for (const QFont &font : {QGuiApplication::font(), large}) {
+        for (const int width : {40, 90}) {
+            const QRectF rect(0, 0, width, 90);
+            QImage expected(100, 100, QImage::Format_RGB32);
+            expected.fill(Qt::white);
+            QImage actual = expected;
+            QPainter plain(&expected);
+            plain.setFont(font);
+            plain.drawText(rect, int(Qt::AlignCenter) | Qt::TextWordWrap, label.text());
+            QPainter cached(&actual);
+            cached.setFont(font);
+            label.drawCentred(&cached, rect);
+            QCOMPARE(actual, expected);
+        }
+    }
 }
 
 void tst_DiagramItems::roundedCornersAreCut()

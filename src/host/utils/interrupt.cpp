@@ -4,7 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace Cli
+namespace Utils
 {
 
 namespace
@@ -37,7 +37,7 @@ Interrupt::Interrupt(QObject *parent)
     if (::pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0)
         return; // without the pipe the signals keep their default effect: they end the program
     m_notifier = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, &Interrupt::drain);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &Interrupt::onWoken);
     handle(wake);
 }
 
@@ -51,12 +51,13 @@ Interrupt::~Interrupt()
     ::close(wakePipe[1]);
 }
 
-void Interrupt::drain()
+void Interrupt::onWoken()
 {
     char buffer[16];
     while (::read(wakePipe[0], buffer, sizeof buffer) > 0)
         continue;
+    handle(SIG_DFL);
     Q_EMIT received();
 }
 
-} // namespace Cli
+} // namespace Utils

@@ -1,0 +1,119 @@
+#include "registerdocs.h"
+
+#include "config/latin1literal.h"
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+QString hex(quint32 value, int digits)
+{
+    return "0x"_l1 + QString::number(value, 16).toUpper().rightJustified(digits, u'0');
+}
+
+QString bitsText(const RegisterField &field)
+{
+    return field.high == field.low
+               ? QString::number(field.high)
+               : QString::number(field.high) + u':' + QString::number(field.low);
+}
+
+QString resetText(const RegisterField &field)
+{
+    if (!field.hasReset)
+        return QStringLiteral("pins");
+    return field.reset < 10 ? QString::number(field.reset) : hex(field.reset, 0);
+}
+
+QString interruptText(const PeripheralInstance &instance)
+{
+    return instance.interrupt.isEmpty() ? QStringLiteral("none") : instance.interrupt;
+}
+
+QString fieldText(const RegisterField &field)
+{
+    if (field.minimum == 0)
+        return field.text;
+    return field.text + " (at least "_l1 + QString::number(field.minimum) + u')';
+}
+
+} // namespace
+
+QString hexAddress(quint32 address)
+{
+    return hex(address, 8);
+}
+
+quint32 resetValue(const Register &entry)
+{
+    quint32 value = 0;
+    for (const RegisterField &field : entry.fields)
+        value |= field.reset << field.low;
+    return value;
+}
+
+QString registersMarkdown(const QVector<Peripheral> &peripherals)
+{
+    QString text = QStringLiteral(
+        "# Registers\n\n"
+        "Registers are 32 bits wide and accessed as words. Bits and offsets that are not listed "
+        "read as 0, and writing "
+        "them does nothing. Access: R/W reads what was written; R ignores writes; W reads as 0; "
+        "R/W1C reads, and writing 1 "
+        "clears the bit; \"R, W\" means one thing when read and another when written.\n\n"
+        "| instance | address | bus | interrupt | described under |\n|---|---|---|---|---|\n");
+    for (const Peripheral &peripheral : peripherals) {
+        for (const PeripheralInstance &instance : peripheral.instances)
+            text += "| "_l1 + instance.name + " | "_l1 + hexAddress(instance.base) + " | "_l1 +
+                    peripheral.bus + " | "_l1 + interruptText(instance) + " | "_l1 +
+                    peripheral.name + " |\n"_l1;
+    }
+    for (const Peripheral &peripheral : peripherals) {
+        text += "\n## "_l1 + peripheral.name + "\n\n"_l1 + peripheral.text +
+                "\n\n| offset | register | bits | field | access | reset | meaning |\n"
+                "|---|---|---|---|---|---|---|\n"_l1;
+        for (const Register &entry : peripheral.registers) {
+            text += "| "_l1 + hex(entry.offset, 2) + " | **"_l1 + entry.name + "** | | | | "_l1 +
+                    hexAddress(resetValue(entry)) + " | "_l1 + entry.text + " |\n"_l1;
+            for (const RegisterField &field : entry.fields)
+                text += "| | | "_l1 + bitsText(field) + " | "_l1 + field.name + " | "_l1 +
+                        accessName(field.access) + " | "_l1 + resetText(field) + " | "_l1 +
+                        fieldText(field) + " |\n"_l1;
+        }
+    }
+    return text;
+}
+
+QString registersHeader(const QVector<Peripheral> &peripherals)
+{
+    QString text = QStringLiteral(
+        "/* Registers of Tarvo_ORIX_M1. Offsets are in bytes from an instance's base address. */\n"
+        "#ifndef TARVO_ORIX_M1_REGISTERS_H\n"
+        "#define TARVO_ORIX_M1_REGISTERS_H\n");
+    const auto define = [&text](const QString &name, const QString &value) {
+        text += "#define "_l1 + name.leftJustified(32) + u' ' + value + u'\n';
+    };
+    for (const Peripheral &peripheral : peripherals) {
+        text += "\n/* "_l1 + peripheral.text + " */\n"_l1;
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            define(instance.name + "_BASE"_l1, hexAddress(instance.base) + u'u');
+            bool isNumber = false;
+            instance.interrupt.toInt(&isNumber);
+            if (isNumber)
+                define(instance.name + "_IRQ"_l1, instance.interrupt);
+        }
+        for (const Register &entry : peripheral.registers) {
+            const QString prefix = peripheral.name + u'_' + entry.name;
+            define(prefix + "_OFFSET"_l1, hex(entry.offset, 2) + u'u');
+            for (const RegisterField &field : entry.fields) {
+                define(prefix + u'_' + field.name + "_Pos"_l1, QString::number(field.low) + u'u');
+                define(prefix + u'_' + field.name + "_Msk"_l1, hexAddress(field.mask()) + u'u');
+            }
+        }
+    }
+    return text + "\n#endif\n"_l1;
+}
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,286 @@
+#include "registermap.h"
+
+#include "config/latin1literal.h"
+#include "config/optiontable.h"
+
+#include <utils/jsonmistake.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+struct AccessRow {
+    QLatin1String name;
+    RegisterAccess access;
+};
+
+constexpr AccessRow accessRows[] = {
+    {"R/W"_l1, RegisterAccess::ReadWrite}, {"R"_l1, RegisterAccess::Read},
+    {"W"_l1, RegisterAccess::Write},       {"R/W1C"_l1, RegisterAccess::WriteOneToClear},
+    {"R, W"_l1, RegisterAccess::Separate},
+};
+
+// Reads one file. The first mistake ends it.
+class Reader
+{
+public:
+    explicit Reader(const QString &path)
+        : m_path(path)
+    {
+    }
+
+    bool read(Peripheral *peripheral)
+    {
+        QFile file(m_path);
+        if (!file.open(QIODevice::ReadOnly))
+            return fail("cannot be read: "_l1 + file.errorString());
+        const QByteArray bytes = file.readAll();
+        const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+        if (mistake.offset >= 0) {
+            const int line = 1 + bytes.left(mistake.offset).count('\n');
+            return fail("line "_l1 + QString::number(line) + ": "_l1 + mistake.reason);
+        }
+        const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+        readPeripheral(object, peripheral);
+        return m_error.isEmpty();
+    }
+
+    QString error() const { return m_error; }
+
+private:
+    bool fail(const QString &reason)
+    {
+        if (m_error.isEmpty())
+            m_error = u'"' + QDir::toNativeSeparators(m_path) + "\": "_l1 + m_place + reason;
+        return false;
+    }
+
+    QString text(const QJsonObject &object, QLatin1String key, bool required = true)
+    {
+        const QJsonValue value = object.value(key);
+        if (!value.isString() && (required || !value.isUndefined()))
+            fail(u'"' + key + "\" is no text"_l1);
+        return value.toString();
+    }
+
+    QString identifier(const QJsonObject &object, QLatin1String key)
+    {
+        static const QRegularExpression rule(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*$"));
+        QString name = text(object, key);
+        if (!rule.match(name).hasMatch())
+            fail(u'"' + name + "\" is no name"_l1);
+        return name;
+    }
+
+    quint32 number(const QJsonObject &object, QLatin1String key)
+    {
+        bool ok = false;
+        const quint32 value = text(object, key).toUInt(&ok, 0);
+        if (!ok)
+            fail(u'"' + key + "\" is no number of 32 bits"_l1);
+        return value;
+    }
+
+    QJsonArray list(const QJsonObject &object, QLatin1String key)
+    {
+        QJsonArray array = object.value(key).toArray();
+        if (array.isEmpty())
+            fail(u'"' + key + "\" is no list, or empty"_l1);
+        return array;
+    }
+
+    // Unknown words are most likely misspelt ones.
+    void checkKeys(const QJsonObject &object, std::initializer_list<QLatin1String> known)
+    {
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            if (std::find(known.begin(), known.end(), it.key()) == known.end())
+                fail("unknown key \""_l1 + it.key() + u'"');
+        }
+    }
+
+    void readPeripheral(const QJsonObject &object, Peripheral *peripheral)
+    {
+        checkKeys(object, {"peripheral"_l1, "module"_l1, "bus"_l1, "span"_l1, "text"_l1,
+                           "instances"_l1, "registers"_l1});
+        peripheral->name = identifier(object, "peripheral"_l1);
+        peripheral->module = identifier(object, "module"_l1);
+        peripheral->bus = text(object, "bus"_l1);
+        if (peripheral->bus != "AHB"_l1 && peripheral->bus != "APB"_l1)
+            fail(QStringLiteral("\"bus\" is neither AHB nor APB"));
+        peripheral->span = number(object, "span"_l1);
+        peripheral->text = text(object, "text"_l1);
+        const QJsonArray instances = list(object, "instances"_l1);
+        for (const QJsonValue &value : instances)
+            peripheral->instances.append(readInstance(value.toObject()));
+        const QJsonArray registers = list(object, "registers"_l1);
+        for (const QJsonValue &value : registers) {
+            peripheral->registers.append(readRegister(value.toObject(), *peripheral));
+            m_place.clear();
+        }
+        for (const Register &entry : qAsConst(peripheral->registers)) {
+            for (const QString &changed : entry.changes) {
+                if (!m_registerNames.contains(changed))
+                    fail(entry.name + ": there is no register \""_l1 + changed + u'"');
+            }
+        }
+    }
+
+    PeripheralInstance readInstance(const QJsonObject &object)
+    {
+        checkKeys(object, {"name"_l1, "base"_l1, "interrupt"_l1, "option"_l1});
+        PeripheralInstance instance;
+        instance.name = identifier(object, "name"_l1);
+        instance.base = number(object, "base"_l1);
+        instance.interrupt = text(object, "interrupt"_l1, false);
+        instance.option = text(object, "option"_l1);
+        const Option *option = findOption(instance.option);
+        if (!option || option->type != OptionType::Bool)
+            fail(u'"' + instance.option + "\" is no switch of the configuration"_l1);
+        return instance;
+    }
+
+    Register readRegister(const QJsonObject &object, const Peripheral &peripheral)
+    {
+        Register entry;
+        entry.name = identifier(object, "name"_l1);
+        m_place = entry.name + ": "_l1;
+        checkKeys(object, {"name"_l1, "offset"_l1, "text"_l1, "changes"_l1, "fields"_l1});
+        if (m_registerNames.contains(entry.name))
+            fail(QStringLiteral("there are two of this name"));
+        m_registerNames.insert(entry.name);
+        entry.offset = number(object, "offset"_l1);
+        if (entry.offset % 4 != 0 || entry.offset >= peripheral.span)
+            fail(QStringLiteral("the offset is no word within the span"));
+        if (!peripheral.registers.isEmpty() && entry.offset <= peripheral.registers.last().offset)
+            fail(QStringLiteral("the offset is not above the one before"));
+        entry.text = text(object, "text"_l1);
+        const QJsonArray changes = object.value("changes"_l1).toArray();
+        for (const QJsonValue &value : changes)
+            entry.changes.append(value.toString());
+        const QJsonArray fields = list(object, "fields"_l1);
+        QSet<QString> names;
+        for (const QJsonValue &value : fields) {
+            entry.fields.append(readField(value.toObject(), entry.fields));
+            if (names.contains(entry.fields.last().name))
+                fail(QStringLiteral("there are two fields of this name"));
+            names.insert(entry.fields.last().name);
+            m_place = entry.name + ": "_l1;
+        }
+        return entry;
+    }
+
+    RegisterField readField(const QJsonObject &object, const QVector<RegisterField> &before)
+    {
+        RegisterField field;
+        field.name = identifier(object, "name"_l1);
+        m_place += field.name + ": "_l1;
+        checkKeys(object, {"name"_l1, "bits"_l1, "access"_l1, "reset"_l1, "minimum"_l1, "text"_l1});
+        static const QRegularExpression bits(QStringLiteral("^(\\d{1,2})(:(\\d{1,2}))?$"));
+        const auto match = bits.match(text(object, "bits"_l1));
+        field.high = match.captured(1).toInt();
+        field.low = match.captured(3).isEmpty() ? field.high : match.captured(3).toInt();
+        if (!match.hasMatch() || field.high > 31 || field.low > field.high) {
+            fail(QStringLiteral("\"bits\" is neither a bit nor a range such as 7:0"));
+            return field;
+        }
+        if (!before.isEmpty() && field.low <= before.last().high)
+            fail(QStringLiteral("the bits are not above those of the field before"));
+        const QString access = text(object, "access"_l1);
+        const auto row = std::find_if(std::begin(accessRows), std::end(accessRows),
+                                      [&access](const AccessRow &r) { return r.name == access; });
+        if (row == std::end(accessRows))
+            fail("unknown access \""_l1 + access + u'"');
+        else
+            field.access = row->access;
+        field.hasReset = !object.value("reset"_l1).isNull();
+        if (field.hasReset)
+            field.reset = number(object, "reset"_l1);
+        if (object.contains("minimum"_l1))
+            field.minimum = number(object, "minimum"_l1);
+        const quint64 limit = quint64(1) << field.width();
+        if (field.reset >= limit || field.minimum >= limit)
+            fail(QStringLiteral("a value does not fit into the bits"));
+        field.text = text(object, "text"_l1);
+        return field;
+    }
+
+    const QString m_path;
+    QString m_place;
+    QString m_error;
+    QSet<QString> m_registerNames;
+};
+
+} // namespace
+
+QString accessName(RegisterAccess access)
+{
+    for (const AccessRow &row : accessRows) {
+        if (row.access == access)
+            return row.name;
+    }
+    return {};
+}
+
+quint32 RegisterField::mask() const
+{
+    return quint32(((quint64(1) << width()) - 1) << low);
+}
+
+bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, QString *error)
+{
+    const QDir folder(dataPath + "/registers"_l1);
+    const QStringList files = folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    if (files.isEmpty()) {
+        *error = "\""_l1 + QDir::toNativeSeparators(folder.path()) +
+                 "\" holds no register descriptions"_l1;
+        return false;
+    }
+    peripherals->clear();
+    for (const QString &file : files) {
+        Reader reader(folder.filePath(file));
+        Peripheral peripheral;
+        if (!reader.read(&peripheral)) {
+            *error = reader.error();
+            return false;
+        }
+        peripherals->append(peripheral);
+    }
+    std::sort(peripherals->begin(), peripherals->end(),
+              [](const Peripheral &a, const Peripheral &b) {
+                  return a.instances.first().base < b.instances.first().base;
+              });
+    return true;
+}
+
+QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
+                                       const OptionMap &options)
+{
+    const auto isOn = [&options](const PeripheralInstance &instance) {
+        return options.value(instance.option, findOption(instance.option)->defaultValue).toBool();
+    };
+    QVector<Peripheral> enabled;
+    for (const Peripheral &peripheral : peripherals) {
+        QVector<PeripheralInstance> instances;
+        std::copy_if(peripheral.instances.begin(), peripheral.instances.end(),
+                     std::back_inserter(instances), isOn);
+        if (instances.isEmpty())
+            continue;
+        enabled.append(peripheral);
+        enabled.last().instances = instances;
+    }
+    return enabled;
+}
+
+} // namespace TARVOORIXM1

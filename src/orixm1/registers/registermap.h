@@ -1,0 +1,74 @@
+#pragma once
+
+#include "config/optionmap.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace TARVOORIXM1
+{
+
+enum class RegisterAccess {
+    ReadWrite,       // "R/W": what is written is read back
+    Read,            // "R": writing does nothing
+    Write,           // "W": reads as 0
+    WriteOneToClear, // "R/W1C": reads; writing 1 clears, writing 0 does nothing
+    Separate,        // "R, W": reading and writing are two things
+};
+
+// The name of an access in the files and in documents.
+QString accessName(RegisterAccess access);
+
+struct RegisterField {
+    QString name;
+    int high = 0;
+    int low = 0;
+    RegisterAccess access = RegisterAccess::ReadWrite;
+    bool hasReset = true; // false: the value after reset depends on pins
+    quint32 reset = 0;    // of the field alone, not shifted
+    quint32 minimum = 0;  // smaller values are stored as this one
+    QString text;
+
+    int width() const { return high - low + 1; }
+    quint32 mask() const; // within the register
+};
+
+struct Register {
+    QString name;
+    quint32 offset = 0; // bytes
+    QString text;
+    QStringList changes;           // registers that read differently after a write to this one
+    QVector<RegisterField> fields; // from bit 0 upwards; bits between them read as 0
+};
+
+// A place where a peripheral stands in the subsystem.
+struct PeripheralInstance {
+    QString name;
+    quint32 base = 0;  // address
+    QString interrupt; // number of the processor's interrupt, "NMI", or empty
+    QString option;    // key of the bool option that switches it on
+};
+
+// What software sees of a peripheral of the sample subsystem.
+struct Peripheral {
+    QString name;
+    QString module;   // of the RTL
+    QString bus;      // "AHB" or "APB"
+    quint32 span = 0; // bytes that the module decodes
+    QString text;
+    QVector<PeripheralInstance> instances;
+    QVector<Register> registers; // by offset
+};
+
+// Reads the peripherals of a data folder, one file "registers/*.json" each;
+// docs/add-a-peripheral.md describes it. They come by the address of their first instance.
+// Registers are 32 bits wide. False, and a sentence in `*error` that names file and place, if a
+// file cannot be read or contradicts itself.
+bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, QString *error);
+
+// Those that a configuration has, with the instances that it has.
+QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
+                                       const OptionMap &options);
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,132 @@
+#include "catalogueview.h"
+
+#include "cataloguemodel.h"
+#include "ipcatalogue.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Workbench
+{
+
+CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
+    : QWidget(parent)
+    , m_catalogue(catalogue)
+    , m_model(new CatalogueModel(catalogue, this))
+    , m_filter(new QSortFilterProxyModel(this))
+    , m_text(new QLineEdit)
+    , m_tree(new QTreeView)
+    , m_details(new QLabel)
+    , m_create(new QPushButton(tr("&Create IP…")))
+{
+    m_filter->setSourceModel(m_model);
+    m_filter->setRecursiveFilteringEnabled(true);
+    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_filter->setFilterKeyColumn(-1);
+
+    m_text->setObjectName(QStringLiteral("catalogueFilterEdit"));
+    m_text->setPlaceholderText(tr("Filter"));
+    m_text->setAccessibleName(tr("Filter of the IP catalogue"));
+    connect(m_text, &QLineEdit::textChanged, this, [this](const QString &text) {
+        // Loading the button's picture takes a while: not before there is something to clear.
+        m_text->setClearButtonEnabled(true);
+        m_filter->setFilterFixedString(text);
+        m_tree->expandAll();
+    });
+
+    m_tree->setObjectName(QStringLiteral("catalogueTree"));
+    m_tree->setAccessibleName(tr("IP catalogue"));
+    m_tree->setModel(m_filter);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setAllColumnsShowFocus(true);
+    m_tree->setExpandsOnDoubleClick(true);
+    m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_tree->expandAll();
+    // The summary has its place below the tree.
+    m_tree->hideColumn(CatalogueModel::Summary);
+    m_tree->header()->setStretchLastSection(false);
+    m_tree->header()->setSectionResizeMode(CatalogueModel::Name, QHeaderView::Stretch);
+    m_tree->header()->setSectionResizeMode(CatalogueModel::Version, QHeaderView::ResizeToContents);
+    connect(m_tree, &QTreeView::activated, this, [this](const QModelIndex &index) {
+        const int ip = index.data(CatalogueModel::IpRole).toInt();
+        if (ip >= 0)
+            Q_EMIT activated(ip);
+    });
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &CatalogueView::showDetails);
+
+    m_details->setObjectName(QStringLiteral("catalogueDetails"));
+    m_details->setTextFormat(Qt::PlainText);
+    m_details->setWordWrap(true);
+    m_details->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_details->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+
+    m_create->setObjectName(QStringLiteral("createIpButton"));
+    m_create->setAutoDefault(false);
+    connect(m_create, &QPushButton::clicked, this, [this] {
+        if (currentIp() >= 0)
+            Q_EMIT activated(currentIp());
+    });
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_text);
+    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_details);
+    layout->addWidget(m_create);
+    setFocusProxy(m_tree);
+    reload();
+}
+
+void CatalogueView::reload()
+{
+    const int current = currentIp();
+    m_model->reload();
+    m_tree->expandAll();
+    setCurrentIp(current >= 0 ? current : 0);
+    showDetails();
+}
+
+void CatalogueView::setDevice(const DEV::DeviceArg &device)
+{
+    const int current = currentIp();
+    m_model->setDevice(device);
+    m_tree->expandAll();
+    setCurrentIp(current);
+    showDetails();
+}
+
+int CatalogueView::currentIp() const
+{
+    const QModelIndex index = m_tree->currentIndex();
+    return index.isValid() ? index.data(CatalogueModel::IpRole).toInt() : -1;
+}
+
+void CatalogueView::setCurrentIp(int index)
+{
+    m_tree->setCurrentIndex(m_filter->mapFromSource(m_model->indexOf(index)));
+}
+
+void CatalogueView::showDetails()
+{
+    const QModelIndex index = m_tree->currentIndex();
+    const int ip = currentIp();
+    if (ip < 0) {
+        m_details->setText(m_catalogue.entries().isEmpty()
+                               ? tr("No plug-in offers an IP. Tools > Plug-ins says why.")
+                               : tr("Select an IP to see what it is."));
+        m_create->setEnabled(false);
+        return;
+    }
+    const QString reason = index.data(CatalogueModel::ReasonRole).toString();
+    const QString summary = m_catalogue.entries().at(ip).summary;
+    m_details->setText(reason.isEmpty() ? summary
+                                        : QString(summary + QLatin1String("\n\n") + reason));
+    m_create->setEnabled(index.data(CatalogueModel::SupportedRole).toBool());
+}
+
+} // namespace Workbench

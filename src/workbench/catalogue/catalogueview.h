@@ -1,0 +1,50 @@
+#pragma once
+
+#include <dev/devicearg.h>
+
+#include <QWidget>
+
+QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QLineEdit)
+QT_FORWARD_DECLARE_CLASS(QPushButton)
+QT_FORWARD_DECLARE_CLASS(QSortFilterProxyModel)
+QT_FORWARD_DECLARE_CLASS(QTreeView)
+
+namespace Workbench
+{
+
+class CatalogueModel;
+class IpCatalogue;
+
+// The catalogue with a filter and, below it, what the selected IP is and why it cannot be made.
+class CatalogueView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CatalogueView(const IpCatalogue &catalogue, QWidget *parent = nullptr);
+
+    // Reads the catalogue again.
+    void reload();
+    void setDevice(const DEV::DeviceArg &device);
+    // The index of the selected IP in the catalogue; -1 while none is selected.
+    int currentIp() const;
+    void setCurrentIp(int index);
+
+Q_SIGNALS:
+    // Double-click, Enter or the button; also for an IP that does not support the device.
+    void activated(int index);
+
+private:
+    void showDetails();
+
+    const IpCatalogue &m_catalogue;
+    CatalogueModel *m_model;
+    QSortFilterProxyModel *m_filter;
+    QLineEdit *m_text;
+    QTreeView *m_tree;
+    QLabel *m_details;
+    QPushButton *m_create;
+};
+
+} // namespace Workbench

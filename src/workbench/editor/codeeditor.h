@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace Workbench
+{
+
+// A plain text editor with line numbers and a mark at the line of the cursor.
+class CodeEditor : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit CodeEditor(QWidget *parent = nullptr);
+
+    // Puts the cursor at the start of a line (from 1; clamped) and shows it in the middle.
+    void goToLine(int line);
+    int currentLine() const; // from 1
+    int lineCount() const { return blockCount(); }
+
+    int lineNumberWidth() const;
+    void paintLineNumbers(QPaintEvent *event);
+
+    // Ctrl and the wheel, or these: the size of the text.
+    void zoomBy(int steps);
+    void resetZoom();
+
+Q_SIGNALS:
+    // A key that would change the text was pressed while it cannot be changed.
+    void editRefused();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void layoutLineNumbers();
+    void markCurrentLine();
+
+    QWidget *m_lineNumbers;
+    int m_zoom = 0;
+};
+
+} // namespace Workbench

@@ -1,0 +1,243 @@
+#include "editorpage.h"
+
+#include "codeeditor.h"
+#include "findbar.h"
+#include "highlighting.h"
+#include "widgets/infobar.h"
+
+#include <utils/fileutils.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QScrollBar>
+#include <QSyntaxHighlighter>
+#include <QVBoxLayout>
+
+namespace Workbench
+{
+
+EditorPage::EditorPage(const QString &path, QWidget *parent)
+    : QWidget(parent)
+    , m_path(path)
+    , m_editor(new CodeEditor)
+    , m_findBar(new FindBar(m_editor))
+    , m_infoBar(new InfoBar)
+{
+    m_editor->setObjectName(QStringLiteral("codeEditor"));
+    m_editor->setAccessibleName(QFileInfo(path).fileName());
+    m_editor->setFrameShape(QFrame::NoFrame);
+    m_editor->setReadOnly(true);
+    m_editor->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    connect(m_editor, &CodeEditor::editRefused, this, &EditorPage::offerEditing);
+    connect(m_editor, &QPlainTextEdit::modificationChanged, this, &EditorPage::stateChanged);
+    m_pieceTimer.setInterval(0);
+    connect(&m_pieceTimer, &QTimer::timeout, this, &EditorPage::insertPiece);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_infoBar);
+    layout->addWidget(m_editor, 1);
+    layout->addWidget(m_findBar);
+    setFocusProxy(m_editor);
+}
+
+QByteArray EditorPage::digestOf(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+}
+
+bool EditorPage::load(QString *error)
+{
+    const auto refuse = [this, error](const QString &reason) {
+        *error = tr("Cannot show \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), reason);
+        return false;
+    };
+    const QFileInfo info(m_path);
+    if (info.exists() && !info.isFile())
+        return refuse(info.isDir() ? tr("it is a folder") : tr("it is not a plain file"));
+    if (info.size() > sizeLimit)
+        return refuse(tr("it has more than %1 MB").arg(sizeLimit >> 20));
+    QByteArray bytes;
+    if (!Utils::FileUtils::readFile(m_path, &bytes, error))
+        return false;
+    const QString mistake = TextFormat::mistakeOf(bytes);
+    if (!mistake.isEmpty())
+        return refuse(mistake);
+
+    const int line = m_editor->currentLine();
+    const int scrolled = m_editor->verticalScrollBar()->value();
+    const bool wasShown = !m_digest.isEmpty();
+    m_format = TextFormat::of(bytes);
+    m_digest = digestOf(bytes);
+    m_deleted = false;
+    m_pieceTimer.stop();
+    m_inserted = 0;
+    delete m_highlighter;
+    m_highlighter = nullptr;
+    if (bytes.size() <= highlightLimit)
+        m_highlighter = Highlighting::attach(m_editor->document(), m_path, palette());
+
+    const QString text = m_format.decode(bytes);
+    if (wasShown)
+        m_wantedLine = line;
+    if (text.size() > pieceSize) {
+        m_rest = text;
+        m_editor->setUndoRedoEnabled(false);
+        m_editor->clear();
+        insertPiece();
+        m_pieceTimer.start();
+    } else {
+        m_rest.clear();
+        m_editor->setPlainText(text);
+        finishLoading();
+        if (wasShown)
+            m_editor->verticalScrollBar()->setValue(scrolled);
+    }
+    Q_EMIT stateChanged();
+    return true;
+}
+
+void EditorPage::insertPiece()
+{
+    // Whole lines: a piece never parts a line end from its line.
+    int end = qMin(m_rest.size(), m_inserted + int(pieceSize));
+    if (end < m_rest.size()) {
+        const int lineEnd = m_rest.lastIndexOf(u'\n', end - 1);
+        if (lineEnd > m_inserted)
+            end = lineEnd + 1;
+    }
+    QTextCursor cursor(m_editor->document());
+    cursor.movePosition(QTextCursor::End);
+    const bool first = m_inserted == 0;
+    cursor.insertText(m_rest.mid(m_inserted, end - m_inserted));
+    m_inserted = end;
+    if (first) {
+        m_editor->moveCursor(QTextCursor::Start);
+        m_infoBar->showMessage(tr("This file is large: it is being read, and is shown without "
+                                  "colours."),
+                               {});
+    }
+    if (m_inserted < m_rest.size())
+        return;
+    m_pieceTimer.stop();
+    m_rest.clear();
+    m_infoBar->hide();
+    m_editor->setUndoRedoEnabled(true);
+    finishLoading();
+    Q_EMIT stateChanged();
+}
+
+void EditorPage::finishLoading()
+{
+    m_editor->document()->setModified(false);
+    if (m_wantedLine > 0)
+        m_editor->goToLine(m_wantedLine);
+    m_wantedLine = 0;
+}
+
+void EditorPage::goToLine(int line)
+{
+    if (isLoading() && line > m_editor->lineCount())
+        m_wantedLine = line;
+    else
+        m_editor->goToLine(line);
+}
+
+bool EditorPage::isModified() const
+{
+    return !isLoading() && (m_deleted || m_editor->document()->isModified());
+}
+
+bool EditorPage::isEditable() const
+{
+    return !m_editor->isReadOnly();
+}
+
+void EditorPage::startEditing()
+{
+    if (isEditable() || isLoading())
+        return;
+    const QFileInfo info(m_path);
+    if (info.exists() && !info.isWritable()) {
+        m_infoBar->showMessage(
+            tr("This file cannot be changed: you have no permission to write it."), {});
+        return;
+    }
+    m_infoBar->hide();
+    m_editor->setReadOnly(false);
+    m_editor->setFocus();
+    Q_EMIT stateChanged();
+}
+
+void EditorPage::offerEditing()
+{
+    if (isLoading() || !m_infoBar->isHidden())
+        return;
+    m_infoBar->showMessage(tr("This file is open for reading. Press Ctrl+E to edit it."),
+                           {{tr("&Edit"), [this] { startEditing(); }}});
+}
+
+bool EditorPage::save(QString *error)
+{
+    const QString text = m_editor->toPlainText();
+    if (!m_format.canEncode(text))
+        m_format.encoding = TextFormat::Utf8;
+    const QByteArray bytes = m_format.encode(text);
+    if (!Utils::FileUtils::writeFile(m_path, bytes, error))
+        return false;
+    m_digest = digestOf(bytes);
+    m_deleted = false;
+    m_infoBar->hide();
+    m_editor->document()->setModified(false);
+    Q_EMIT stateChanged();
+    return true;
+}
+
+void EditorPage::checkDisk()
+{
+    if (!QFileInfo::exists(m_path)) {
+        if (m_deleted)
+            return;
+        m_deleted = true;
+        m_infoBar->showMessage(tr("This file was deleted or moved. Saving writes it again, here."),
+                               {});
+        Q_EMIT stateChanged();
+        return;
+    }
+    QByteArray bytes;
+    QString error;
+    if (!Utils::FileUtils::readFile(m_path, &bytes, &error) || digestOf(bytes) == m_digest) {
+        if (m_deleted) { // it is back as it was
+            m_deleted = false;
+            m_infoBar->hide();
+            Q_EMIT stateChanged();
+        }
+        return;
+    }
+    const auto reload = [this] {
+        QString reason;
+        if (!load(&reason))
+            m_infoBar->showMessage(reason, {});
+    };
+    if (!m_editor->document()->isModified() || isLoading()) {
+        m_infoBar->hide();
+        reload();
+        return;
+    }
+    m_deleted = false;
+    m_digest = digestOf(bytes); // asked once for each change
+    m_infoBar->showMessage(
+        tr("This file was changed by another program. You have changes of your own here."),
+        {{tr("&Read Again (loses yours)"), reload}, {tr("&Keep Mine"), [] {}}});
+}
+
+void EditorPage::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_highlighter)
+        Highlighting::setPalette(m_highlighter, palette());
+}
+
+} // namespace Workbench

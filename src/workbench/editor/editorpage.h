@@ -1,0 +1,81 @@
+#pragma once
+
+#include "textfile.h"
+
+#include <QByteArray>
+#include <QTimer>
+#include <QWidget>
+
+QT_FORWARD_DECLARE_CLASS(QSyntaxHighlighter)
+
+namespace Workbench
+{
+
+class CodeEditor;
+class FindBar;
+class InfoBar;
+
+// One file in the editor. It can be read at first; startEditing() lets it be changed.
+//
+// Files above `pieceSize` are shown piece by piece while the program goes on; those above
+// `highlightLimit` stay uncoloured, and those above `sizeLimit` are refused.
+class EditorPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr qint64 pieceSize = 1 << 20; // in bytes, as the limits below
+    static constexpr qint64 highlightLimit = 2 << 20;
+    static constexpr qint64 sizeLimit = 256 << 20;
+
+    explicit EditorPage(const QString &path, QWidget *parent = nullptr);
+
+    QString path() const { return m_path; }
+    CodeEditor *editor() const { return m_editor; }
+    FindBar *findBar() const { return m_findBar; }
+    InfoBar *infoBar() const { return m_infoBar; }
+
+    // Reads the file, in place of what is shown. False and a sentence in `*error` if it cannot be
+    // shown; the page keeps what it had.
+    bool load(QString *error);
+    // Whether pieces of the file are still to come.
+    bool isLoading() const { return !m_rest.isEmpty(); }
+    // Once that line has come.
+    void goToLine(int line);
+
+    bool isModified() const;
+    bool isEditable() const;
+    // Says in the info bar why the file cannot be changed, if it cannot.
+    void startEditing();
+    bool save(QString *error);
+
+    // Compares with the disk: what was not changed here is read again, otherwise the info bar asks.
+    void checkDisk();
+
+Q_SIGNALS:
+    void stateChanged(); // modified, editable, loading
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void insertPiece();
+    void finishLoading();
+    void offerEditing();
+    static QByteArray digestOf(const QByteArray &bytes);
+
+    QString m_path;
+    CodeEditor *m_editor;
+    FindBar *m_findBar;
+    InfoBar *m_infoBar;
+    QSyntaxHighlighter *m_highlighter = nullptr;
+    TextFormat m_format;
+    QByteArray m_digest; // of the bytes that were read or written last
+    bool m_deleted = false;
+    QString m_rest; // of a file that comes in pieces
+    int m_inserted = 0;
+    int m_wantedLine = 0;
+    QTimer m_pieceTimer;
+};
+
+} // namespace Workbench

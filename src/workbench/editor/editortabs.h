@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace Workbench
+{
+
+class EditorPage;
+
+// The open files, one a tab, and other pages beside them.
+class EditorTabs : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EditorTabs(QWidget *parent = nullptr);
+
+    // Opens a file or brings its tab to the front, and goes to the line if that is above 0. Null
+    // and a sentence in `*error` if it cannot be shown.
+    EditorPage *openFile(const QString &path, int line, QString *error);
+    EditorPage *currentPage() const;
+    EditorPage *pageOf(const QString &path) const;
+    QList<EditorPage *> pages() const;
+    // Shows a page that is no file.
+    void showPage(QWidget *page, const QIcon &icon, const QString &title);
+
+    // Reports a failure in the page and returns false then.
+    bool savePage(EditorPage *page);
+    bool saveAll();
+    // Asks about unsaved changes; false if the user wants to go on with them.
+    bool closeTab(int index);
+    bool closeAll();
+
+Q_SIGNALS:
+    void currentStateChanged();
+    void countChanged();
+
+protected:
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
+
+private:
+    void watch();
+    void checkDisk();
+    void showState(EditorPage *page);
+    // Asks what to do with unsaved changes of these pages; true if the tabs may go.
+    bool settle(const QList<EditorPage *> &changed);
+
+    QFileSystemWatcher m_watcher;
+    QTimer m_diskTimer;
+};
+
+} // namespace Workbench

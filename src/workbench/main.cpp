@@ -1,0 +1,182 @@
+#include "catalogue/ipcatalogue.h"
+#include "project/project.h"
+#include "render/diagramrenderer.h"
+#include "widgets/symbolicon.h"
+#include "window/mainwindow.h"
+#include "window/options.h"
+
+#include <core/idecore.h>
+#include <dev/devicedb.h>
+#include <utils/interrupt.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QSettings>
+#include <QTextCodec>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstring>
+
+using namespace Workbench;
+
+namespace
+{
+
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "tarvo-workbench: %s\n", message.toUtf8().constData());
+    return 1;
+}
+
+bool given(int argc, char *argv[], const char *option)
+{
+    const size_t length = std::strlen(option);
+    for (int i = 1; i < argc; ++i) {
+        if (std::strncmp(argv[i], option, length) == 0 &&
+            (argv[i][length] == '\0' || argv[i][length] == '='))
+            return true;
+    }
+    return false;
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+void loadPlugins(IpCatalogue &catalogue, const Options &options, const QSettings &settings)
+{
+    // The build tree and an installation are laid out alike.
+    const QString root =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/.."));
+    catalogue.setDataFolders({root + QLatin1String("/share/tarvo")});
+    catalogue.loadFolder(root + QLatin1String("/" TARVO_PLUGIN_SUBDIR), false);
+    for (const QString &folder : settings.value(QStringLiteral("pluginFolders")).toStringList())
+        catalogue.loadFolder(folder, true);
+    for (const QString &folder : options.pluginDirs)
+        catalogue.loadFolder(folder, true);
+}
+
+// The first device in database order that has this id or name.
+DEV::DeviceArg findDevice(const QString &idOrName)
+{
+    DEV::ChipFilter filter;
+    filter.id = idOrName;
+    return Core::IdeCore::deviceDataBase()->filterDevice(filter).value(0);
+}
+
+// Opens what the command line names. False if there is something wrong that no window needs to
+// open for.
+bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &window, int *status)
+{
+    *status = 2;
+    int ip = -1;
+    DEV::DeviceArg device;
+    const QString dir =
+        QFileInfo(options.dir.isEmpty() ? QDir::currentPath() : options.dir).absoluteFilePath();
+    QString projectFile;
+    if (!options.newIp.isEmpty()) {
+        ip = catalogue.indexOf(options.newIp);
+        projectFile = Project::fileAbove(dir);
+        if (ip < 0) {
+            QStringList names;
+            for (const IpEntry &entry : catalogue.entries())
+                names.append(entry.name);
+            fail(MainWindow::tr("No plug-in offers the IP \"%1\"; there are: %2")
+                     .arg(options.newIp, names.join(QLatin1String(", "))));
+            return false;
+        }
+        device = findDevice(options.device);
+        if (!options.device.isEmpty() && device.isNull()) {
+            fail(MainWindow::tr("Unknown device \"%1\"; \"orixm1 devices\" lists the known ones.")
+                     .arg(options.device));
+            return false;
+        }
+        if (options.device.isEmpty() && projectFile.isEmpty()) {
+            fail(MainWindow::tr("--new-ip needs --device, because \"%1\" is in no project.")
+                     .arg(QDir::toNativeSeparators(dir)));
+            return false;
+        }
+    }
+    for (const QString &file : options.files) {
+        if (!QFileInfo::exists(file)) {
+            fail(MainWindow::tr("\"%1\" does not exist.").arg(file));
+            return false;
+        }
+        if (file.endsWith(QLatin1String(".ipc")) && projectFile.isEmpty())
+            projectFile = Project::fileAbove(QFileInfo(file).absolutePath());
+    }
+    *status = 0;
+    QTimer::singleShot(0, &window, [&window, options, ip, device, dir, projectFile] {
+        if (!projectFile.isEmpty())
+            window.openProject(projectFile);
+        for (const QString &file : options.files)
+            window.openPath(QFileInfo(file).absoluteFilePath());
+        if (ip >= 0)
+            window.createIp(
+                ip, dir, device.isNull() && window.project() ? window.project()->device() : device);
+    });
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // File names and arguments are UTF-8 in every locale.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    const bool rendering = given(argc, argv, "--render-diagram");
+    const bool asked =
+        given(argc, argv, "--help") || given(argc, argv, "-h") || given(argc, argv, "--version");
+    if (rendering || asked) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
+    }
+    Options options;
+    int status = 0;
+    // Usage mistakes are told without a display too.
+    if (!hasDisplay() && !given(argc, argv, "-platform")) {
+        if (options.parse(argc, argv, &status) == Options::Leave)
+            return status;
+        return fail(MainWindow::tr("There is no display to open the window on. --render-diagram "
+                                   "works without one, and so does the command \"orixm1\"."));
+    }
+
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("tarvo"));
+    QApplication::setApplicationName(QStringLiteral("tarvo-workbench"));
+    QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tarvo-workbench"));
+    if (options.parse(argc, argv, &status) == Options::Leave)
+        return status;
+
+    QSettings settings(options.settings.isEmpty()
+                           ? QSettings(QSettings::IniFormat, QSettings::UserScope,
+                                       QStringLiteral("tarvo"), QStringLiteral("workbench"))
+                                 .fileName()
+                           : QFileInfo(options.settings).absoluteFilePath(),
+                       QSettings::IniFormat);
+    IpCatalogue catalogue;
+    loadPlugins(catalogue, options, settings);
+    if (rendering) {
+        DiagramRenderer renderer(catalogue);
+        QString error;
+        return renderer.render(options.renderDiagram, options.output, &error) ? 0 : fail(error);
+    }
+
+    QApplication::setWindowIcon(applicationIcon());
+    MainWindow window(catalogue, settings);
+    if (!prepare(options, catalogue, window, &status))
+        return status;
+    const Utils::Interrupt interrupt;
+    QObject::connect(&interrupt, &Utils::Interrupt::received, &window, &MainWindow::shutDown);
+    window.show();
+    return QApplication::exec();
+}

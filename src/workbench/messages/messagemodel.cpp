@@ -1,0 +1,132 @@
+#include "messagemodel.h"
+
+#include "widgets/symbolicon.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Workbench
+{
+
+MessageModel::MessageModel(QObject *parent)
+    : QAbstractTableModel(parent)
+{
+}
+
+void MessageModel::setReport(const Synthesis::RunReport &report)
+{
+    beginResetModel();
+    m_rows.clear();
+    const QString name =
+        report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
+    m_rows.append({report.exitCode == 0 || report.cancelled ? Summary : Error,
+                   name.isEmpty() ? report.summary : tr("%1: %2").arg(name, report.summary),
+                   report.logFile, 0});
+    for (const auto severity : {Synthesis::Message::Error, Synthesis::Message::Warning}) {
+        for (const Synthesis::Message &message : report.messages) {
+            if (message.severity != severity)
+                continue;
+            const QString text = message.count > 1
+                                     ? tr("%1 (%2 times)").arg(message.text).arg(message.count)
+                                     : message.text;
+            m_rows.append({severity == Synthesis::Message::Error ? Error : Warning, text,
+                           message.file, message.line});
+        }
+    }
+    endResetModel();
+}
+
+void MessageModel::append(Severity severity, const QString &text, const QString &file)
+{
+    beginInsertRows({}, m_rows.size(), m_rows.size());
+    m_rows.append({severity, text, file, 0});
+    endInsertRows();
+}
+
+void MessageModel::clear()
+{
+    beginResetModel();
+    m_rows.clear();
+    endResetModel();
+}
+
+int MessageModel::count(Severity severity) const
+{
+    return int(std::count_if(m_rows.begin(), m_rows.end(),
+                             [severity](const Row &row) { return row.severity == severity; }));
+}
+
+QString MessageModel::nameOf(Severity severity)
+{
+    return severity == Error ? tr("Error") : severity == Warning ? tr("Warning") : tr("Summary");
+}
+
+QString MessageModel::toText() const
+{
+    QString text;
+    for (const Row &row : m_rows) {
+        text += nameOf(row.severity) + QLatin1String(": ");
+        if (!row.file.isEmpty() && row.severity != Summary)
+            text += row.line > 0
+                        ? QStringLiteral("%1:%2: ").arg(row.file, QString::number(row.line))
+                        : QString(row.file + QLatin1String(": "));
+        text += row.text + u'\n';
+    }
+    return text;
+}
+
+int MessageModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows.size();
+}
+
+int MessageModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant MessageModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const Row &row = m_rows.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        if (index.column() == Text)
+            return row.text;
+        if (index.column() == File)
+            return QFileInfo(row.file).fileName();
+        return row.line > 0 ? QVariant(row.line) : QVariant();
+    case Qt::ToolTipRole:
+        return index.column() == Text ? row.text : QDir::toNativeSeparators(row.file);
+    case Qt::DecorationRole:
+        if (index.column() != Text)
+            return {};
+        return symbolIcon(row.severity == Error     ? QStringLiteral("error")
+                          : row.severity == Warning ? QStringLiteral("warning")
+                                                    : QStringLiteral("info"));
+    case Qt::AccessibleTextRole:
+        if (index.column() == Text)
+            return QString(nameOf(row.severity) + QLatin1String(": ") + row.text);
+        return data(index, Qt::DisplayRole);
+    case PathRole:
+        return row.file;
+    case LineRole:
+        return row.line;
+    case SeverityRole:
+        return row.severity;
+    default:
+        return {};
+    }
+}
+
+QVariant MessageModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == Text ? tr("Message") : section == File ? tr("File") : tr("Line");
+}
+
+} // namespace Workbench

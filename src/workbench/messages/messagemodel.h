@@ -1,0 +1,49 @@
+#pragma once
+
+#include <synthesis/runreport.h>
+
+#include <QAbstractTableModel>
+
+namespace Workbench
+{
+
+// What a run had to say: its summary, then its errors and its warnings. Stays until the next
+// report.
+class MessageModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Text, File, Line, ColumnCount };
+    enum Severity { Summary, Error, Warning };
+    enum Role { PathRole = Qt::UserRole, LineRole, SeverityRole };
+
+    explicit MessageModel(QObject *parent = nullptr);
+
+    void setReport(const Synthesis::RunReport &report);
+    // Puts a message of the workbench itself at the end.
+    void append(Severity severity, const QString &text, const QString &file = QString());
+    void clear();
+    int count(Severity severity) const;
+    // One line for each message, "severity: file:line: text".
+    QString toText() const;
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+private:
+    struct Row {
+        Severity severity;
+        QString text;
+        QString file;
+        int line = 0;
+    };
+    static QString nameOf(Severity severity);
+
+    QList<Row> m_rows;
+};
+
+} // namespace Workbench

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "projectfile.h"
+
+#include <core/project.h>
+#include <dev/devicearg.h>
+
+#include <QFileSystemWatcher>
+#include <QObject>
+
+#include <memory>
+
+namespace Workbench
+{
+
+// The open project. Every change is written at once; there is nothing to save.
+class Project : public QObject, public Core::Project
+{
+    Q_OBJECT
+
+public:
+    ~Project() override;
+
+    // Makes the folder and a new project file in it; an existing one is not overwritten. Null and a
+    // sentence in `*error` on failure.
+    static std::unique_ptr<Project> create(const QString &folder, const QString &name,
+                                           const DEV::DeviceArg &device, QString *error);
+    static std::unique_ptr<Project> open(const QString &file, QString *error);
+    // What is wrong with a project name, which is a file name too; empty if nothing is.
+    static QString nameMistake(const QString &name);
+    // The project file in `folder` or the nearest folder above it; empty if there is none, or two
+    // in one folder.
+    static QString fileAbove(const QString &folder);
+
+    QString name() const override;
+    QString path() const override;
+    // The file keeps them relative to the project's folder.
+    void addFiles(const QStringList &paths) override;
+
+    QString file() const { return m_path; }
+    // Null when the project names none, or one that the device database does not know.
+    DEV::DeviceArg device() const;
+    QString deviceId() const { return m_content.deviceId; }
+    void setDevice(const DEV::DeviceArg &device);
+    QString topModule() const { return m_content.topModule; }
+    void setTopModule(const QString &name);
+    // Absolute paths of the sources, in order.
+    QStringList files() const;
+    void removeFile(const QString &path);
+    // Moves a source by `steps` places (negative: towards the top).
+    void moveFile(const QString &path, int steps);
+    // Absolute paths of the IP configurations (.ipc) in the project's folder, up to two folders
+    // deep, and of those among the sources.
+    QStringList ipFiles() const;
+
+Q_SIGNALS:
+    void changed();
+    // A change could not be written, or the file was changed outside and cannot be read. The
+    // content in memory stands; the next change writes it.
+    void failed(const QString &message);
+
+private:
+    Project(const QString &path, const ProjectFile &content);
+    void replace(const ProjectFile &content);
+    void watch();
+    void onFileChanged();
+    QString relative(const QString &path) const;
+    QString absolute(const QString &entry) const;
+
+    QString m_path;
+    ProjectFile m_content;
+    QFileSystemWatcher m_watcher;
+};
+
+} // namespace Workbench

@@ -1,0 +1,189 @@
+#include "projectmodel.h"
+
+#include "project.h"
+#include "widgets/symbolicon.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace Workbench
+{
+
+namespace
+{
+
+// Internal id of a group; those of entries are their group's number.
+constexpr quintptr groupId = ~quintptr(0);
+
+} // namespace
+
+ProjectModel::ProjectModel(QObject *parent)
+    : QAbstractItemModel(parent)
+{
+}
+
+void ProjectModel::setProject(Project *project)
+{
+    if (m_project)
+        m_project->disconnect(this);
+    beginResetModel();
+    m_project = project;
+    for (QList<Entry> &entries : m_entries)
+        entries.clear();
+    if (m_project) {
+        m_entries[Ips] = read(m_project->ipFiles());
+        m_entries[Sources] = read(m_project->files());
+        connect(m_project, &Project::changed, this, &ProjectModel::refresh);
+    }
+    endResetModel();
+}
+
+void ProjectModel::refresh()
+{
+    if (!m_project)
+        return;
+    const QStringList paths[GroupCount] = {m_project->ipFiles(), m_project->files()};
+    for (int group = 0; group < GroupCount; ++group) {
+        const QList<Entry> entries = read(paths[group]);
+        if (entries == m_entries[group])
+            continue;
+        // Views keep their groups open: only the rows below change.
+        const QModelIndex parent = groupIndex(Group(group));
+        if (!m_entries[group].isEmpty()) {
+            beginRemoveRows(parent, 0, m_entries[group].size() - 1);
+            m_entries[group].clear();
+            endRemoveRows();
+        }
+        if (!entries.isEmpty()) {
+            beginInsertRows(parent, 0, entries.size() - 1);
+            m_entries[group] = entries;
+            endInsertRows();
+        }
+    }
+    // The top module and the device are part of the texts.
+    Q_EMIT dataChanged(groupIndex(Ips), groupIndex(Sources));
+}
+
+QList<ProjectModel::Entry> ProjectModel::read(const QStringList &paths) const
+{
+    QList<Entry> entries;
+    const QDir folder(m_project->path());
+    for (const QString &path : paths)
+        entries.append({path, QDir::toNativeSeparators(folder.relativeFilePath(path)),
+                        !QFileInfo::exists(path)});
+    return entries;
+}
+
+QModelIndex ProjectModel::groupIndex(Group group) const
+{
+    return m_project ? createIndex(group, 0, groupId) : QModelIndex();
+}
+
+QModelIndex ProjectModel::indexOf(const QString &path) const
+{
+    for (int group = 0; group < GroupCount; ++group) {
+        for (int row = 0; row < m_entries[group].size(); ++row) {
+            if (m_entries[group].at(row).path == path)
+                return createIndex(row, 0, quintptr(group));
+        }
+    }
+    return {};
+}
+
+bool ProjectModel::isSource(const QModelIndex &index) const
+{
+    return index.isValid() && index.internalId() == Sources;
+}
+
+bool ProjectModel::isIp(const QModelIndex &index) const
+{
+    return index.isValid() && index.internalId() == Ips;
+}
+
+QModelIndex ProjectModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) : groupId);
+}
+
+QModelIndex ProjectModel::parent(const QModelIndex &index) const
+{
+    if (!index.isValid() || index.internalId() == groupId)
+        return {};
+    return createIndex(int(index.internalId()), 0, groupId);
+}
+
+int ProjectModel::rowCount(const QModelIndex &parent) const
+{
+    if (!m_project)
+        return 0;
+    if (!parent.isValid())
+        return GroupCount;
+    return parent.internalId() == groupId ? m_entries[parent.row()].size() : 0;
+}
+
+int ProjectModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+const ProjectModel::Entry *ProjectModel::entry(const QModelIndex &index) const
+{
+    if (!index.isValid() || index.internalId() == groupId)
+        return nullptr;
+    const QList<Entry> &entries = m_entries[index.internalId()];
+    return index.row() < entries.size() ? &entries.at(index.row()) : nullptr;
+}
+
+QVariant ProjectModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || !m_project)
+        return {};
+    const Entry *file = entry(index);
+    if (!file) {
+        const bool sources = index.row() == Sources;
+        const bool empty = m_entries[index.row()].isEmpty();
+        if (role == Qt::DisplayRole) {
+            if (sources && !m_project->topModule().isEmpty())
+                return tr("Sources (top module %1)").arg(m_project->topModule());
+            if (!sources)
+                return empty ? tr("IPs (none yet)") : tr("IPs");
+            return empty ? tr("Sources (none yet)") : tr("Sources");
+        }
+        if (role == Qt::DecorationRole)
+            return symbolIcon(sources ? QStringLiteral("sources") : QStringLiteral("ip"));
+        if (role == Qt::ToolTipRole)
+            return sources
+                       ? tr("The design's source files, in the order of compilation")
+                       : tr("The IPs of the project. Open one to change and generate it again.");
+        return {};
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return file->missing ? tr("%1 (missing)").arg(file->text) : file->text;
+    case Qt::ToolTipRole: {
+        const QString path = QDir::toNativeSeparators(file->path);
+        return file->missing ? tr("%1 does not exist").arg(path) : path;
+    }
+    case Qt::DecorationRole:
+        return symbolIcon(file->missing               ? QStringLiteral("warning")
+                          : index.internalId() == Ips ? QStringLiteral("ip-file")
+                                                      : QStringLiteral("file"));
+    case Qt::ForegroundRole:
+        if (file->missing)
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        return {};
+    case PathRole:
+        return file->path;
+    case MissingRole:
+        return file->missing;
+    default:
+        return {};
+    }
+}
+
+} // namespace Workbench

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QPointer>
+#include <QStringList>
+
+namespace Workbench
+{
+
+class Project;
+
+// The open project as a tree: its IPs (.ipc files) and its sources in order. A file that does not
+// exist is shown and says so.
+class ProjectModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    enum Group { Ips, Sources, GroupCount };
+    enum Role { PathRole = Qt::UserRole, MissingRole };
+
+    explicit ProjectModel(QObject *parent = nullptr);
+
+    // Not owned; null shows an empty tree.
+    void setProject(Project *project);
+    // Reads the project and its folder again.
+    void refresh();
+
+    QModelIndex groupIndex(Group group) const;
+    // Invalid when the tree does not show the file.
+    QModelIndex indexOf(const QString &path) const;
+    bool isSource(const QModelIndex &index) const;
+    bool isIp(const QModelIndex &index) const;
+
+    QModelIndex index(int row, int column,
+                      const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+private:
+    struct Entry {
+        QString path;
+        QString text; // relative to the project's folder
+        bool missing = false;
+        bool operator==(const Entry &other) const
+        {
+            return path == other.path && text == other.text && missing == other.missing;
+        }
+    };
+
+    QList<Entry> read(const QStringList &paths) const;
+    const Entry *entry(const QModelIndex &index) const;
+
+    QPointer<Project> m_project;
+    QList<Entry> m_entries[GroupCount];
+};
+
+} // namespace Workbench

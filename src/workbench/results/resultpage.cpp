@@ -1,0 +1,188 @@
+#include "resultpage.h"
+
+#include "resulttables.h"
+#include "widgets/symbolicon.h"
+
+#include <ipcore/pinfigureview.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Workbench
+{
+
+namespace
+{
+
+QTableView *makeTable(QAbstractItemModel *model, const QString &name)
+{
+    auto *table = new QTableView;
+    table->setModel(model);
+    table->setAccessibleName(name);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setShowGrid(false);
+    table->setAlternatingRowColors(true);
+    table->setTabKeyNavigation(false);
+    table->setFrameShape(QFrame::NoFrame);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    return table;
+}
+
+QGroupBox *makeGroup(const QString &title, QWidget *content)
+{
+    auto *group = new QGroupBox(title);
+    auto *layout = new QVBoxLayout(group);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(content);
+    return group;
+}
+
+} // namespace
+
+ResultPage::ResultPage(QWidget *parent)
+    : QWidget(parent)
+    , m_heading(new QLabel)
+    , m_summary(new QLabel)
+    , m_left(new QTabWidget)
+    , m_figure(new IPCore::PinFigureView)
+    , m_resources(new ResourceModel(this))
+    , m_cells(new CellModel(this))
+    , m_resourceTable(makeTable(m_resources, tr("Resources")))
+    , m_cellTable(makeTable(m_cells, tr("Primitives")))
+    , m_files(new QListWidget)
+{
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.4);
+    m_heading->setFont(large);
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setObjectName(QStringLiteral("resultHeading"));
+    m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setWordWrap(true);
+    m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_summary->setObjectName(QStringLiteral("resultSummary"));
+    m_resourceTable->setObjectName(QStringLiteral("resourceTable"));
+    m_cellTable->setObjectName(QStringLiteral("cellTable"));
+    m_figure->setAccessibleName(tr("Ports of the netlist"));
+    m_figure->setToolTip(tr("Ctrl and the wheel zoom"));
+    m_figure->setFrameShape(QFrame::NoFrame);
+    m_files->setObjectName(QStringLiteral("fileList"));
+    m_files->setAccessibleName(tr("Files"));
+    m_files->setFrameShape(QFrame::NoFrame);
+    connect(m_files, &QListWidget::itemActivated, this, [this](const QListWidgetItem *item) {
+        Q_EMIT openRequested(item->data(Qt::UserRole).toString());
+    });
+
+    m_left->setObjectName(QStringLiteral("resultTabs"));
+    m_left->addTab(m_figure, tr("&Ports"));
+    m_left->addTab(m_cellTable, tr("P&rimitives"));
+    auto *right = new QSplitter(Qt::Vertical);
+    right->addWidget(makeGroup(tr("Share of the device"), m_resourceTable));
+    right->addWidget(makeGroup(tr("Files (double-click to open)"), m_files));
+    right->setChildrenCollapsible(false);
+    auto *halves = new QSplitter(Qt::Horizontal);
+    halves->addWidget(m_left);
+    halves->addWidget(right);
+    // Half and half: sizes are shares until the page has one of its own.
+    halves->setSizes({1000, 1000});
+    halves->setChildrenCollapsible(false);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_heading);
+    layout->addWidget(m_summary);
+    layout->addWidget(halves, 1);
+    setFocusProxy(m_files);
+}
+
+void ResultPage::setReport(const Synthesis::RunReport &report)
+{
+    const QString name =
+        report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
+    m_heading->setText(tr("%1 for %2").arg(name, report.job.device.partNumber()));
+    const QString seconds = QLocale().toString(double(report.milliseconds) / 1000.0, 'f', 1);
+    m_summary->setText(tr("%1 The run took %2 s.").arg(report.summary, seconds));
+    m_figure->setLabel(name);
+    m_figure->setPins(pinsOf(report.ports));
+    fitFigure();
+    m_left->setTabText(0, tr("&Ports (%1)").arg(report.ports.size()));
+    m_left->setTabText(1, tr("P&rimitives (%1 kinds)").arg(report.cells.size()));
+    m_resources->setResources(report.resources);
+    m_cells->setCells(report.cells);
+    m_made = report.files;
+    if (!report.logFile.isEmpty())
+        m_made.append(report.logFile);
+    m_delivered.clear();
+    showFiles();
+}
+
+void ResultPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitFigure();
+}
+
+void ResultPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    fitFigure();
+}
+
+void ResultPage::fitFigure()
+{
+    const int width = m_figure->figureSize().width();
+    if (width <= 0 || !isVisible() || !qFuzzyCompare(m_figure->zoom(), m_fittedZoom))
+        return;
+    // The scroll bar of a long figure counts, whether or not it is there yet.
+    const int room = m_figure->width() - m_figure->verticalScrollBar()->sizeHint().width();
+    m_figure->setZoom(qBound(0.6, qreal(room) / width, 1.0), {});
+    m_fittedZoom = m_figure->zoom();
+}
+
+void ResultPage::setDelivered(const QStringList &files)
+{
+    m_delivered = files;
+    showFiles();
+}
+
+QStringList ResultPage::files() const
+{
+    QStringList all = m_delivered;
+    for (const QString &file : m_made) {
+        if (!all.contains(file))
+            all.append(file);
+    }
+    return all;
+}
+
+void ResultPage::showFiles()
+{
+    m_files->clear();
+    const QStringList all = files();
+    if (all.isEmpty())
+        return;
+    // Names are relative to the folder of the first.
+    const QDir base(QFileInfo(all.first()).absolutePath());
+    for (const QString &file : all) {
+        auto *item = new QListWidgetItem(symbolIcon(QStringLiteral("file")),
+                                         QDir::toNativeSeparators(base.relativeFilePath(file)));
+        item->setData(Qt::UserRole, file);
+        item->setToolTip(QDir::toNativeSeparators(file));
+        m_files->addItem(item);
+    }
+}
+
+} // namespace Workbench

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <synthesis/runreport.h>
+
+#include <QWidget>
+
+QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QListWidget)
+QT_FORWARD_DECLARE_CLASS(QTabWidget)
+QT_FORWARD_DECLARE_CLASS(QTableView)
+
+namespace IPCore
+{
+class PinFigureView;
+}
+
+namespace Workbench
+{
+
+class CellModel;
+class ResourceModel;
+
+// What came of a successful run: the ports as a figure, what the netlist takes of the device, and
+// the files.
+class ResultPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ResultPage(QWidget *parent = nullptr);
+
+    void setReport(const Synthesis::RunReport &report);
+    // The files that the IP delivered, shown before those of the run itself. Full paths.
+    void setDelivered(const QStringList &files);
+    QStringList files() const;
+    IPCore::PinFigureView *figure() const { return m_figure; }
+
+Q_SIGNALS:
+    void openRequested(const QString &path);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void showFiles();
+    // Shows the figure in its whole width, until the user chooses a scale.
+    void fitFigure();
+
+    QLabel *m_heading;
+    QLabel *m_summary;
+    QTabWidget *m_left;
+    IPCore::PinFigureView *m_figure;
+    ResourceModel *m_resources;
+    CellModel *m_cells;
+    QTableView *m_resourceTable;
+    QTableView *m_cellTable;
+    QListWidget *m_files;
+    qreal m_fittedZoom = 1;
+    QStringList m_delivered;
+    QStringList m_made;
+};
+
+} // namespace Workbench

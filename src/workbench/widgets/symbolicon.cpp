@@ -1,0 +1,105 @@
+#include "symbolicon.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QHash>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+static void initIcons()
+{
+    Q_INIT_RESOURCE(workbench);
+}
+
+namespace Workbench
+{
+
+namespace
+{
+
+// Reads and draws its picture when it is painted, never before: a window full of icons costs
+// nothing until it is shown.
+class SymbolEngine : public QIconEngine
+{
+public:
+    explicit SymbolEngine(const QString &path)
+        : m_path(path)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
+    {
+        const QColor color = ink(mode);
+        const QString key = QStringLiteral("symbol/%1/%2x%3/%4")
+                                .arg(m_path)
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(color.rgba());
+        QPixmap result;
+        if (QPixmapCache::find(key, &result))
+            return result;
+        QFile file(m_path);
+        QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        svg.replace("currentColor", color.name().toLatin1());
+        QSvgRenderer renderer(svg);
+        result = QPixmap(size);
+        result.fill(Qt::transparent);
+        QPainter painter(&result);
+        const int side = qMin(size.width(), size.height());
+        renderer.render(&painter, QRectF((size.width() - side) / 2.0, (size.height() - side) / 2.0,
+                                         side, side));
+        painter.end();
+        QPixmapCache::insert(key, result);
+        return result;
+    }
+
+    QIconEngine *clone() const override { return new SymbolEngine(m_path); }
+
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) const override
+    {
+        return {{16, 16}, {24, 24}, {32, 32}, {48, 48}, {64, 64}};
+    }
+
+private:
+    static QColor ink(QIcon::Mode mode)
+    {
+        const QPalette palette = QGuiApplication::palette();
+        if (mode == QIcon::Selected)
+            return palette.color(QPalette::HighlightedText);
+        return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
+                             QPalette::WindowText);
+    }
+
+    QString m_path;
+};
+
+} // namespace
+
+QIcon symbolIcon(const QString &name)
+{
+    static QHash<QString, QIcon> icons;
+    auto found = icons.find(name);
+    if (found == icons.end()) {
+        initIcons();
+        const QString path = QStringLiteral(":/workbench/icons/%1.svg").arg(name);
+        found = icons.insert(name, QFile::exists(path) ? QIcon(new SymbolEngine(path)) : QIcon());
+    }
+    return *found;
+}
+
+QIcon applicationIcon()
+{
+    initIcons();
+    return QIcon(new SymbolEngine(QStringLiteral(":/workbench/tarvo-workbench.svg")));
+}
+
+} // namespace Workbench

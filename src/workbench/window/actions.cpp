@@ -1,0 +1,168 @@
+#include "actions.h"
+
+#include "catalogue/catalogueview.h"
+#include "editor/codeeditor.h"
+#include "editor/editorpage.h"
+#include "editor/editortabs.h"
+#include "editor/findbar.h"
+#include "messages/messagesview.h"
+#include "messages/outputpane.h"
+#include "widgets/symbolicon.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QTreeView>
+
+namespace Workbench
+{
+
+MainWindow::Actions::Actions(MainWindow *window)
+{
+    const auto add = [window](QMenu *menu, const QString &text, const QString &icon,
+                              const QKeySequence &key, auto slot) {
+        auto *action = new QAction(text, window);
+        if (!icon.isEmpty())
+            action->setIcon(symbolIcon(icon));
+        action->setShortcut(key);
+        QObject::connect(action, &QAction::triggered, window, slot);
+        menu->addAction(action);
+        return action;
+    };
+    const auto nothing = QKeySequence();
+    QMenuBar *bar = window->menuBar();
+
+    QMenu *file = bar->addMenu(tr("&File"));
+    add(file, tr("&New Project…"), QStringLiteral("new-project"), QKeySequence::New,
+        [window] { window->newProject(); });
+    add(file, tr("&Open…"), QStringLiteral("open"), QKeySequence::Open,
+        [window] { window->open(); });
+    recentMenu = file->addMenu(tr("Open &Recent"));
+    closeProject =
+        add(file, tr("Close &Project"), {}, nothing, [window] { window->closeProject(); });
+    file->addSeparator();
+    save = add(file, tr("&Save"), QStringLiteral("save"), QKeySequence::Save, [window] {
+        if (EditorPage *page = window->m_tabs->currentPage())
+            window->m_tabs->savePage(page);
+    });
+    saveAll = add(file, tr("Save &All"), {}, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+                  [window] { window->m_tabs->saveAll(); });
+    closeTab = add(file, tr("&Close Tab"), {}, QKeySequence::Close,
+                   [window] { window->m_tabs->closeTab(window->m_tabs->currentIndex()); });
+    file->addSeparator();
+    add(file, tr("&Quit"), {}, QKeySequence::Quit, [window] { window->close(); });
+
+    QMenu *edit = bar->addMenu(tr("&Edit"));
+    startEditing = add(edit, tr("&Edit File"), QStringLiteral("edit"),
+                       QKeySequence(Qt::CTRL | Qt::Key_E), [window] {
+                           if (EditorPage *page = window->m_tabs->currentPage())
+                               page->startEditing();
+                       });
+    startEditing->setStatusTip(tr("Lets the file be changed; it opens for reading"));
+    edit->addSeparator();
+    // The widget with the focus handles these keys itself; the menu only names them.
+    const auto addEdit = [&](const QString &text, QKeySequence::StandardKey key,
+                             const char *method) {
+        add(edit, text, {}, key, [window, method] {
+            window->editAction(method);
+        })->setShortcutContext(Qt::WidgetShortcut);
+    };
+    addEdit(tr("&Undo"), QKeySequence::Undo, "undo");
+    addEdit(tr("&Redo"), QKeySequence::Redo, "redo");
+    edit->addSeparator();
+    addEdit(tr("Cu&t"), QKeySequence::Cut, "cut");
+    addEdit(tr("&Copy"), QKeySequence::Copy, "copy");
+    addEdit(tr("&Paste"), QKeySequence::Paste, "paste");
+    addEdit(tr("Select &All"), QKeySequence::SelectAll, "selectAll");
+    edit->addSeparator();
+    const auto withPage = [window](void (*call)(EditorPage *)) {
+        return [window, call] {
+            if (EditorPage *page = window->m_tabs->currentPage())
+                call(page);
+        };
+    };
+    find = add(edit, tr("&Find…"), QStringLiteral("find"), QKeySequence::Find,
+               withPage([](EditorPage *page) { page->findBar()->start(); }));
+    findNext = add(edit, tr("Find &Next"), {}, QKeySequence(Qt::Key_F3),
+                   withPage([](EditorPage *page) { page->findBar()->findNext(); }));
+    findPrevious = add(edit, tr("Find Pre&vious"), {}, QKeySequence(Qt::SHIFT | Qt::Key_F3),
+                       withPage([](EditorPage *page) { page->findBar()->findPrevious(); }));
+    goToLine = add(edit, tr("&Go to Line…"), {}, QKeySequence(Qt::CTRL | Qt::Key_G),
+                   [window] { window->goToLine(); });
+
+    QMenu *view = bar->addMenu(tr("&View"));
+    viewMenu = view;
+    view->addAction(window->m_projectDock->toggleViewAction());
+    view->addAction(window->m_catalogueDock->toggleViewAction());
+    view->addAction(window->m_outputDock->toggleViewAction());
+    view->addSeparator();
+    showResults = add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
+                      QKeySequence(Qt::CTRL | Qt::Key_R), [window] { window->showResults(); });
+    showResults->setEnabled(false);
+    add(view, tr("&Next Message"), {}, QKeySequence(Qt::Key_F8),
+        [window] { window->output()->messages()->step(1); });
+    add(view, tr("&Previous Message"), {}, QKeySequence(Qt::SHIFT | Qt::Key_F8),
+        [window] { window->output()->messages()->step(-1); });
+    view->addSeparator();
+    add(view, tr("Next &Tab"), {}, QKeySequence(Qt::CTRL | Qt::Key_PageDown), [window] {
+        if (const int count = window->m_tabs->count())
+            window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + 1) % count);
+    });
+    add(view, tr("Pre&vious Tab"), {}, QKeySequence(Qt::CTRL | Qt::Key_PageUp), [window] {
+        if (const int count = window->m_tabs->count())
+            window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + count - 1) % count);
+    });
+    view->addSeparator();
+    add(view, tr("&Larger Text"), {}, QKeySequence::ZoomIn,
+        withPage([](EditorPage *page) { page->editor()->zoomBy(1); }));
+    add(view, tr("&Smaller Text"), {}, QKeySequence::ZoomOut,
+        withPage([](EditorPage *page) { page->editor()->zoomBy(-1); }));
+
+    QMenu *project = bar->addMenu(tr("&Project"));
+    createIp = add(project, tr("Create &IP…"), QStringLiteral("ip"),
+                   QKeySequence(Qt::CTRL | Qt::Key_I), [window] {
+                       window->m_catalogueDock->show();
+                       window->m_catalogueDock->raise();
+                       window->m_catalogueView->setFocus();
+                   });
+    createIp->setStatusTip(tr("Goes to the catalogue; Enter there creates the selected IP"));
+    openSelected = add(project, tr("&Open Selected"), {}, nothing, [window] {
+        window->activateProjectItem(window->m_projectTree->currentIndex());
+    });
+    project->addSeparator();
+    addSources =
+        add(project, tr("&Add Source Files…"), QStringLiteral("add"),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [window] { window->addSources(); });
+    newSource =
+        add(project, tr("&New Source File…"), {}, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N),
+            [window] { window->newSource(); });
+    removeSource = add(project, tr("&Remove from Project"), {}, nothing, [window] {
+        if (window->m_project)
+            window->m_project->removeFile(window->selectedFile());
+    });
+    removeSource->setStatusTip(tr("The file itself stays"));
+    moveUp = add(project, tr("Move &Up"), QStringLiteral("up"),
+                 QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up), [window] {
+                     if (window->m_project)
+                         window->m_project->moveFile(window->selectedFile(), -1);
+                 });
+    moveDown = add(project, tr("Move &Down"), QStringLiteral("down"),
+                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down), [window] {
+                       if (window->m_project)
+                           window->m_project->moveFile(window->selectedFile(), 1);
+                   });
+    project->addSeparator();
+    topModule =
+        add(project, tr("&Top Module…"), {}, nothing, [window] { window->chooseTopModule(); });
+    device = add(project, tr("&Device…"), QStringLiteral("device"), nothing,
+                 [window] { window->chooseDevice(); });
+
+    QMenu *tools = bar->addMenu(tr("&Tools"));
+    add(tools, tr("&Plug-ins…"), {}, nothing, [window] { window->showPlugins(); });
+
+    QMenu *help = bar->addMenu(tr("&Help"));
+    add(help, tr("&About Tarvo Workbench"), {}, nothing, [window] { window->about(); });
+    add(help, tr("About &Qt"), {}, nothing, [] { QApplication::aboutQt(); });
+}
+
+} // namespace Workbench

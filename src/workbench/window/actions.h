@@ -1,0 +1,40 @@
+#pragma once
+
+#include "mainwindow.h"
+
+QT_FORWARD_DECLARE_CLASS(QAction)
+QT_FORWARD_DECLARE_CLASS(QMenu)
+
+namespace Workbench
+{
+
+// The menus of the window and what in them changes with its state.
+class MainWindow::Actions
+{
+public:
+    explicit Actions(MainWindow *window);
+
+    QMenu *recentMenu;
+    QMenu *viewMenu;
+    QAction *closeProject;
+    QAction *save;
+    QAction *saveAll;
+    QAction *closeTab;
+    QAction *startEditing;
+    QAction *find;
+    QAction *findNext;
+    QAction *findPrevious;
+    QAction *goToLine;
+    QAction *showResults;
+    QAction *createIp;
+    QAction *addSources;
+    QAction *newSource;
+    QAction *openSelected;
+    QAction *removeSource;
+    QAction *moveUp;
+    QAction *moveDown;
+    QAction *topModule;
+    QAction *device;
+};
+
+} // namespace Workbench

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <string>
+
+namespace Workbench
+{
+
+// What the command line asks for. Empty texts were not given.
+struct Options {
+    QStringList files;
+    QString newIp; // id or name
+    QString device;
+    QString dir;
+    QString renderDiagram; // an .ipc file
+    QString output;
+    QStringList pluginDirs;
+    QString settings;
+
+    enum Next { Run, Leave };
+
+    // Reads the arguments after Qt has taken its own. With Leave everything has been said, on
+    // standard output or standard error, and the program ends with `*status`.
+    Next parse(int argc, char *argv[], int *status);
+    static std::string help();
+};
+
+} // namespace Workbench

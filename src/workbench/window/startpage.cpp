@@ -1,0 +1,156 @@
+#include "startpage.h"
+
+#include "catalogue/ipcatalogue.h"
+#include "project/project.h"
+#include "widgets/symbolicon.h"
+
+#include <QCommandLinkButton>
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace Workbench
+{
+
+namespace
+{
+
+QLabel *makeLabel(const QString &text, qreal scale, bool bold)
+{
+    auto *label = new QLabel(text);
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * scale);
+    font.setBold(bold);
+    label->setFont(font);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    return label;
+}
+
+QCommandLinkButton *makeLink(const QString &text, const QString &description, const QString &icon)
+{
+    auto *button =
+        new QCommandLinkButton(QString(text).replace(u'&', QLatin1String("&&")), description);
+    button->setIcon(symbolIcon(icon));
+    return button;
+}
+
+} // namespace
+
+StartPage::StartPage(QWidget *parent)
+    : QScrollArea(parent)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
+                          const QStringList &recent)
+{
+    auto *content = new QWidget;
+    auto *columns = new QHBoxLayout(content);
+    auto *page = new QVBoxLayout;
+    const int gap = fontMetrics().height();
+    columns->setContentsMargins(2 * gap, gap, 2 * gap, gap);
+    columns->addLayout(page, 1);
+    if (project)
+        showProject(page, *project, catalogue);
+    else
+        showWelcome(page, recent);
+    page->addStretch(1);
+    // The old page may be the one whose button is being clicked.
+    if (QWidget *old = takeWidget())
+        old->deleteLater();
+    setWidget(content);
+}
+
+void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent)
+{
+    page->addWidget(makeLabel(tr("Tarvo Workbench"), 1.8, true));
+    page->addWidget(makeLabel(
+        tr("Configure an IP for a device, generate it, and add the netlist to your design."), 1,
+        false));
+    page->addSpacing(fontMetrics().height());
+
+    auto *create = makeLink(tr("New project…"), tr("Choose a folder, a name and a device."),
+                            QStringLiteral("new-project"));
+    create->setObjectName(QStringLiteral("newProjectLink"));
+    connect(create, &QPushButton::clicked, this, &StartPage::newProjectRequested);
+    auto *open = makeLink(tr("Open…"),
+                          tr("A project (.tvproj), an IP configuration (.ipc) or a source file."),
+                          QStringLiteral("open"));
+    open->setObjectName(QStringLiteral("openLink"));
+    connect(open, &QPushButton::clicked, this, &StartPage::openRequested);
+    page->addWidget(create);
+    page->addWidget(open);
+
+    if (!recent.isEmpty()) {
+        page->addSpacing(fontMetrics().height());
+        page->addWidget(makeLabel(tr("Recent projects"), 1.2, true));
+    }
+    for (const QString &path : recent) {
+        const QFileInfo file(path);
+        auto *link = makeLink(file.completeBaseName(), QDir::toNativeSeparators(file.path()),
+                              QStringLiteral("project"));
+        link->setProperty("path", path);
+        connect(link, &QPushButton::clicked, this,
+                [this, path] { Q_EMIT openFileRequested(path); });
+        page->addWidget(link);
+    }
+}
+
+void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue)
+{
+    const DEV::DeviceArg device = project.device();
+    page->addWidget(makeLabel(project.name(), 1.8, true));
+    page->addWidget(
+        makeLabel(device.isNull() ? tr("No device chosen") : device.partNumber(), 1, false));
+    page->addSpacing(fontMetrics().height());
+
+    const QStringList ips = project.ipFiles();
+    const QDir folder(project.path());
+    if (!ips.isEmpty())
+        page->addWidget(makeLabel(tr("Change an IP of this project"), 1.2, true));
+    for (const QString &path : ips) {
+        auto *link = makeLink(QDir::toNativeSeparators(folder.relativeFilePath(path)),
+                              tr("Opens its dialog again; OK there generates it anew."),
+                              QStringLiteral("ip-file"));
+        link->setProperty("path", path);
+        connect(link, &QPushButton::clicked, this,
+                [this, path] { Q_EMIT openFileRequested(path); });
+        page->addWidget(link);
+    }
+    if (!ips.isEmpty())
+        page->addSpacing(fontMetrics().height());
+
+    page->addWidget(
+        makeLabel(ips.isEmpty() ? tr("Next: create an IP") : tr("Create another IP"), 1.2, true));
+    int offered = 0;
+    for (int i = 0; i < catalogue.entries().size(); ++i) {
+        const IpEntry &entry = catalogue.entries().at(i);
+        if (!catalogue.isSupported(i, device))
+            continue;
+        ++offered;
+        auto *link = makeLink(tr("%1 %2…").arg(entry.name, entry.version), entry.summary,
+                              QStringLiteral("ip"));
+        link->setObjectName(QStringLiteral("createIpLink"));
+        connect(link, &QPushButton::clicked, this, [this, i] { Q_EMIT createIpRequested(i); });
+        page->addWidget(link);
+    }
+    if (offered == 0)
+        page->addWidget(makeLabel(
+            tr("No IP in the catalogue supports this device. Click the device in the status bar to "
+               "choose another one."),
+            1, false));
+    if (ips.isEmpty())
+        page->addWidget(makeLabel(
+            tr("Its dialog opens. Configure the IP there and press OK: it is generated into a "
+               "folder of this project, the netlist joins the sources, and the results are shown "
+               "here."),
+            1, false));
+}
+
+} // namespace Workbench

@@ -1,0 +1,200 @@
+// Saves pictures of the workbench at work: workbenchpictures FOLDER [all] [dark]. Without "all"
+// those that the documents show.
+
+#include <dialogdriver.h>
+#include <testsupport.h>
+
+#include <workbench/catalogue/ipcatalogue.h>
+#include <workbench/editor/codeeditor.h>
+#include <workbench/editor/editorpage.h>
+#include <workbench/editor/editortabs.h>
+#include <workbench/editor/findbar.h>
+#include <workbench/messages/messagemodel.h>
+#include <workbench/window/mainwindow.h>
+
+#include <dev/devicedb.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+using namespace Workbench;
+using namespace TestSupport;
+
+namespace
+{
+
+QDir folder;
+bool all = false;
+bool failed = false;
+
+void save(QWidget *window, const char *name, bool inDocuments)
+{
+    if (!all && !inDocuments)
+        return;
+    QTest::qWait(50); // paints, and what is queued
+    const QString path = folder.filePath(QLatin1String(name) + QLatin1String(".png"));
+    if (window->grab().save(path))
+        return;
+    std::fprintf(stderr, "%s cannot be written\n", qPrintable(path));
+    failed = true;
+}
+
+QAction *action(const MainWindow &window, const char *text)
+{
+    const auto actions = window.findChildren<QAction *>();
+    for (QAction *candidate : actions) {
+        QString name = candidate->text();
+        name.remove(u'&');
+        name.remove(QChar(0x2026));
+        if (name == QLatin1String(text) && candidate->parent() == &window)
+            return candidate;
+    }
+    qFatal("there is no action \"%s\"", text);
+    return nullptr;
+}
+
+void useDarkPalette()
+{
+    QPalette palette;
+    const QColor window(45, 45, 48);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 40));
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::ButtonText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(70, 70, 50));
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
+    QApplication::setPalette(palette);
+}
+
+// Saves the dialog that the call opens, and closes it.
+void saveDialog(const std::function<void()> &call, const char *name,
+                const std::function<void(QWidget *)> &prepare = {})
+{
+    const ModalWatcher watcher([&](QWidget *modal) {
+        if (prepare)
+            prepare(modal);
+        save(modal, name, false);
+        qobject_cast<QDialog *>(modal)->reject();
+    });
+    call();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    TestSupport::useUtf8();
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QStringList arguments = QApplication::arguments().mid(1);
+    all = arguments.removeAll(QStringLiteral("all")) > 0;
+    if (arguments.removeAll(QStringLiteral("dark")) > 0)
+        useDarkPalette();
+    folder.setPath(arguments.value(0));
+
+    const QTemporaryDir home;
+    QSettings settings(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("projectLocation"), QStringLiteral("/home/me"));
+    IpCatalogue catalogue;
+    catalogue.setDataFolders({QStringLiteral(TARVO_SHARE_FOLDER)});
+    catalogue.loadFolder(QStringLiteral(TARVO_PLUGIN_FOLDER), true);
+    if (all) {
+        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/blinker"), false);
+        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/missingsymbol"), false);
+    }
+    MainWindow window(catalogue, settings);
+    window.resize(1280, 800);
+    window.show();
+    save(&window, "workbench-start", false);
+
+    const auto fillProject = [](QWidget *dialog) {
+        dialog->findChild<QLineEdit *>(QStringLiteral("nameEdit"))
+            ->setText(QStringLiteral("sensor-node"));
+        auto *filter = dialog->findChild<QLineEdit *>(QStringLiteral("deviceFilterEdit"));
+        filter->setText(QStringLiteral("tv2kr qfn88p"));
+        QTest::keyClick(filter, Qt::Key_Down);
+    };
+    saveDialog([&] { window.newProject(); }, "workbench-newproject", fillProject);
+
+    QString error;
+    auto project = Project::create(
+        home.filePath(QStringLiteral("sensor-node")), QStringLiteral("sensor-node"),
+        DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV2KR-18C-QFN88P-C8/I7")), &error);
+    const QString projectFile = project ? project->file() : QString();
+    project.reset();
+    window.openProject(projectFile);
+    save(&window, "workbench-project", false);
+    saveDialog([&] { action(window, "Device")->trigger(); }, "workbench-device");
+    saveDialog([&] { action(window, "Plug-ins")->trigger(); }, "workbench-plugins");
+    saveDialog([&] { action(window, "About Tarvo Workbench")->trigger(); }, "workbench-about");
+
+    const QString ipFolder = window.project()->path() + QStringLiteral("/tarvo_orix_m1");
+    const QString ipc = ipFolder + QStringLiteral("/tarvo_orix_m1.ipc");
+    write(ipc, contentsOf(QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc")));
+    {
+        const ModalWatcher watcher([](QWidget *modal) {
+            if (modal->findChild<QGraphicsView *>())
+                QTimer::singleShot(0, modal, [modal] {
+                    modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+                });
+            else if (modal->findChild<QWidget *>(QStringLiteral("stageLabel")))
+                save(modal, "workbench-progress", false);
+        });
+        window.openPath(ipc);
+    }
+    save(&window, "workbench-results", true);
+
+    window.openPath(ipFolder + QStringLiteral("/tarvo_orix_m1_tmp.v"));
+    window.tabs()->currentPage()->goToLine(12);
+    save(&window, "workbench-editor", true);
+    window.tabs()->currentPage()->findBar()->start();
+    QTest::keyClick(window.tabs()->currentPage()->editor(), Qt::Key_X);
+    save(&window, "workbench-bars", false);
+    window.openPath(ipc, 1);
+    save(&window, "workbench-ipc", false);
+    window.openPath(projectFile, 1);
+    save(&window, "workbench-json", false);
+
+    Synthesis::RunReport report;
+    report.exitCode = 1;
+    report.summary = QStringLiteral("The synthesis tool found 1 error.");
+    report.job.targetName = QStringLiteral("tarvo_orix_m1");
+    Synthesis::Message mistake;
+    mistake.file = ipFolder + QStringLiteral("/tarvo_orix_m1_tmp.v");
+    mistake.line = 3;
+    mistake.text = QStringLiteral("syntax error, unexpected TOK_ID");
+    Synthesis::Message warning = mistake;
+    warning.severity = Synthesis::Message::Warning;
+    warning.text = QStringLiteral("the wire is used but has no driver");
+    warning.count = 4;
+    report.messages = {mistake, warning};
+    window.messages()->setReport(report);
+    window.closeProject();
+    window.openProject(projectFile);
+    save(&window, "workbench-messages", false);
+    window.closeProject();
+    save(&window, "workbench-recent", false);
+    window.resize(800, 560);
+    save(&window, "workbench-small", false);
+    return failed ? 1 : 0;
+}

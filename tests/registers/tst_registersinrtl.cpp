@@ -1,0 +1,423 @@
+// Holds the register descriptions and the RTL against each other: testbenches made from the
+// descriptions access every word of every module, and the whole subsystem at the addresses of the
+// instances.
+
+#include "testsupport.h"
+
+#include <registers/registerdocs.h>
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+// How a module's pins outside of the bus rest.
+QString restingPins(const QString &module)
+{
+    static const QMap<QString, QString> pins = {
+        {QStringLiteral("ahb_gpio"), QStringLiteral(".gpio_in(16'd0)")},
+        {QStringLiteral("ahb_spi_flash"), QStringLiteral(".flash_miso(1'b0)")},
+        {QStringLiteral("apb_uart"), QStringLiteral(".rxd(1'b1)")},
+        {QStringLiteral("apb_timer"), QStringLiteral(".extin(1'b0)")},
+        {QStringLiteral("apb_rtc"), QStringLiteral(".rtc_clk(1'b0)")},
+        {QStringLiteral("apb_i2c"), QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)")},
+        {QStringLiteral("apb_spi"), QStringLiteral(".miso(1'b0)")},
+        {QStringLiteral("apb_sdcard"),
+         QStringLiteral(".sd_spiclk(1'b0), .sd_datain(1'b0), .sd_checkin(1'b1)")},
+        {QStringLiteral("apb_dual_timer"), QString()},
+        {QStringLiteral("apb_watchdog"), QString()}};
+    return pins.value(module, QStringLiteral("unknown module"));
+}
+
+QString word(quint32 value)
+{
+    return QStringLiteral("32'h%1").arg(value, 8, 16, QLatin1Char('0'));
+}
+
+// The bits whose value after reset is said.
+quint32 knownMask(const Register &entry)
+{
+    quint32 mask = ~quint32(0);
+    for (const RegisterField &field : entry.fields) {
+        if (!field.hasReset)
+            mask &= ~field.mask();
+    }
+    return mask;
+}
+
+struct Expected {
+    quint32 value = 0;
+    quint32 mask = ~quint32(0);
+};
+
+// What a register reads after `pattern` was written to it right after reset.
+Expected afterWrite(const Register &entry, quint32 pattern)
+{
+    Expected expected;
+    for (const RegisterField &field : entry.fields) {
+        const quint32 written = (pattern & field.mask()) >> field.low;
+        switch (field.access) {
+        case RegisterAccess::ReadWrite:
+            expected.value |= qMax(written, field.minimum) << field.low;
+            continue;
+        case RegisterAccess::Write:
+            continue;
+        case RegisterAccess::WriteOneToClear:
+            expected.value |= (field.reset & ~written) << field.low;
+            break;
+        case RegisterAccess::Read:
+            expected.value |= field.reset << field.low;
+            break;
+        case RegisterAccess::Separate:
+            expected.mask &= ~field.mask();
+            break;
+        }
+        if (!field.hasReset)
+            expected.mask &= ~field.mask();
+    }
+    return expected;
+}
+
+QVector<quint32> patterns()
+{
+    QVector<quint32> list = {0xFFFFFFFFu, 0x55555555u, 0xAAAAAAAAu, 0u, 0x12345678u};
+    for (int bit = 0; bit < 32; ++bit)
+        list.append(1u << bit);
+    return list;
+}
+
+class Bench
+{
+public:
+    explicit Bench(const Peripheral &peripheral)
+        : m_peripheral(peripheral)
+        , m_isAhb(peripheral.bus == QLatin1String("AHB"))
+    {
+    }
+
+    QString text()
+    {
+        m_text = QStringLiteral("module tb;\n`include \"bench.vh\"\n");
+        instantiate();
+        m_text += QLatin1String(
+            "    task expect_bits(input [31:0] address, input [31:0] mask, input [31:0] value, "
+            "input [8*48-1:0] what);\n        begin\n");
+        m_text += m_isAhb ? QLatin1String("            ahb_transfer(address, 1'b0, 3'd2, 32'd0);\n")
+                          : QLatin1String("            apb_read(address[11:0]);\n");
+        m_text += QLatin1String(
+            "            check32(rd & mask, value & mask, what);\n        end\n    endtask\n"
+            "    task write_word(input [31:0] address, input [31:0] value);\n");
+        m_text += m_isAhb ? QLatin1String("        ahb_write(address, value);\n")
+                          : QLatin1String("        apb_write(address[11:0], value);\n");
+        m_text += QLatin1String("    endtask\n    initial begin\n");
+        afterReset();
+        unlistedOffsets();
+        for (const Register &entry : m_peripheral.registers)
+            writes(entry);
+        return m_text + QLatin1String("        finish;\n    end\nendmodule\n");
+    }
+
+private:
+    void line(const QString &text) { m_text += QLatin1String("        ") + text + u'\n'; }
+
+    // Where a module that decodes more than the registers has them.
+    quint32 address(quint32 offset) const
+    {
+        return m_peripheral.module == QLatin1String("ahb_spi_flash") ? 0x1000000u + offset : offset;
+    }
+
+    void expect(quint32 offset, const Expected &expected, const QString &what)
+    {
+        line(QStringLiteral("expect_bits(%1, %2, %3, \"%4\");")
+                 .arg(word(address(offset)), word(expected.mask), word(expected.value), what));
+    }
+
+    void instantiate()
+    {
+        const QString pins = restingPins(m_peripheral.module);
+        const QString more = pins.isEmpty() ? QString() : QString(QLatin1String(", ") + pins);
+        if (m_isAhb) {
+            m_text +=
+                QStringLiteral(
+                    "`include \"ahb_master.vh\"\n    %1 dut (.HCLK(clk), .HRESETn(rstn), "
+                    ".HSEL(1'b1), "
+                    ".HADDR(haddr), .HTRANS(htrans), .HWRITE(hwrite), .HWDATA(hwdata), "
+                    ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%2);\n")
+                    .arg(m_peripheral.module, more);
+            return;
+        }
+        m_text +=
+            QStringLiteral(
+                "`include \"apb_master.vh\"\n    %1 dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), "
+                ".PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr), .PWDATA(pwdata), "
+                ".PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)%2);\n")
+                .arg(m_peripheral.module, more);
+    }
+
+    const Register *at(quint32 offset) const
+    {
+        for (const Register &entry : m_peripheral.registers) {
+            if (entry.offset == offset)
+                return &entry;
+        }
+        return nullptr;
+    }
+
+    void expectReset(const Register &entry, const QString &what)
+    {
+        expect(entry.offset, {resetValue(entry), knownMask(entry)}, what);
+    }
+
+    void afterReset()
+    {
+        line(QStringLiteral("reset;"));
+        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+            if (const Register *entry = at(offset))
+                expectReset(*entry, entry->name + QLatin1String(" after reset"));
+            else
+                expect(offset, {}, QStringLiteral("unlisted offset %1").arg(offset));
+        }
+    }
+
+    void unlistedOffsets()
+    {
+        line(QStringLiteral("reset;"));
+        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+            if (!at(offset))
+                line(QStringLiteral("write_word(%1, 32'hFFFFFFFF);").arg(word(address(offset))));
+        }
+        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+            if (!at(offset))
+                expect(offset, {}, QStringLiteral("written unlisted offset %1").arg(offset));
+        }
+        for (const Register &entry : m_peripheral.registers)
+            expectReset(entry, entry.name + QLatin1String(" after writes elsewhere"));
+    }
+
+    void writes(const Register &entry)
+    {
+        const QVector<quint32> all = patterns();
+        for (const quint32 pattern : all) {
+            line(QStringLiteral("reset;"));
+            line(QStringLiteral("write_word(%1, %2);")
+                     .arg(word(address(entry.offset)), word(pattern)));
+            expect(entry.offset, afterWrite(entry, pattern),
+                   entry.name + QStringLiteral(" after %1").arg(pattern, 8, 16, QLatin1Char('0')));
+            for (const Register &other : m_peripheral.registers) {
+                if (other.offset != entry.offset && !entry.changes.contains(other.name))
+                    expectReset(other,
+                                other.name + QLatin1String(" after a write to ") + entry.name);
+            }
+        }
+    }
+
+    const Peripheral &m_peripheral;
+    const bool m_isAhb;
+    QString m_text;
+};
+
+// The subsystem with everything on: each register at its address.
+QString subsystemBench(const QVector<Peripheral> &peripherals)
+{
+    QString text = QStringLiteral(
+        "`include \"core_model.v\"\nmodule tb;\n`include \"bench.vh\"\n`include \"ahb_master.vh\"\n"
+        "    reg hwRstn = 1'b0;\n"
+        "    tri0 flash;\n"
+        "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .UART0RXD(1'b1), .UART1RXD(1'b1), "
+        ".TIMER0EXTIN(1'b0), .TIMER1EXTIN(1'b0), .RTCSRCCLK(1'b0), .MISO(1'b0), .SD_SPICLK(1'b0), "
+        ".SD_DATAIN(1'b0), "
+        ".SD_CHECKIN(1'b1), .FLASH_SPI_MISO(flash));\n"
+        "    assign hready = dut.u_core.HREADY;\n"
+        "    assign hresp  = dut.u_core.HRESP;\n"
+        "    assign hrdata = dut.u_core.HRDATA;\n"
+        "    always @* begin\n"
+        "        dut.u_core.HADDR = haddr;\n"
+        "        dut.u_core.HTRANS = htrans;\n"
+        "        dut.u_core.HSIZE = hsize;\n"
+        "        dut.u_core.HWRITE = hwrite;\n"
+        "        dut.u_core.HWDATA = hwdata;\n"
+        "    end\n"
+        "    task expect_bits(input [31:0] address, input [31:0] mask, input [31:0] value, input "
+        "[8*48-1:0] what);\n"
+        "        begin\n"
+        "            ahb_transfer(address, 1'b0, 3'd2, 32'd0);\n"
+        "            check(!failed, what);\n"
+        "            check32(rd & mask, value & mask, what);\n"
+        "        end\n"
+        "    endtask\n"
+        "    initial begin\n"
+        "        cycles(5);\n"
+        "        hwRstn = 1'b1;\n"
+        "        cycles(40);\n");
+    for (const Peripheral &peripheral : peripherals) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            for (const Register &entry : peripheral.registers)
+                text += QStringLiteral("        expect_bits(%1, %2, %3, \"%4\");\n")
+                            .arg(word(instance.base + entry.offset), word(knownMask(entry)),
+                                 word(resetValue(entry)), instance.name + u'.' + entry.name);
+            // No two peripherals may stand in for each other: the scratch value of one is not seen
+            // in the others.
+            for (const Register &entry : peripheral.registers) {
+                if (entry.fields.first().access != RegisterAccess::ReadWrite ||
+                    !entry.changes.isEmpty() || entry.fields.size() != 1 ||
+                    entry.fields.first().width() < 8)
+                    continue;
+                text +=
+                    QStringLiteral(
+                        "        ahb_write(%1, 32'h000000A5);\n"
+                        "        expect_bits(%1, 32'hFF, 32'hA5, \"%2 keeps its value\");\n")
+                        .arg(word(instance.base + entry.offset), instance.name + u'.' + entry.name);
+                break;
+            }
+        }
+    }
+    return text + QLatin1String("        finish;\n    end\nendmodule\n");
+}
+
+// Compiles and runs; the text that is wrong about it, or nothing.
+QString simulate(const QString &bench, const QStringList &sources)
+{
+    const QTemporaryDir dir;
+    TestSupport::write(dir.filePath(QStringLiteral("bench.v")), bench.toUtf8());
+    QProcess process;
+    process.setWorkingDirectory(dir.path());
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(QStringLiteral("iverilog"),
+                  QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
+                              QStringLiteral("-I" RTL_TESTS_DIR), QStringLiteral("-I" RTL_DIR),
+                              QStringLiteral("-o"), QStringLiteral("bench")} +
+                      sources + QStringList{QStringLiteral("bench.v")});
+    if (!process.waitForFinished(120000) || process.exitCode() != 0)
+        return process.errorString() + u'\n' + QString::fromUtf8(process.readAll());
+    process.start(QStringLiteral("vvp"), {QStringLiteral("-n"), QStringLiteral("bench")});
+    if (!process.waitForFinished(120000))
+        return process.errorString();
+    const QString output = QString::fromUtf8(process.readAll());
+    return output.trimmed() == QLatin1String("PASS") ? QString() : output.left(4000);
+}
+
+QString rtl(const char *name)
+{
+    return QStringLiteral(RTL_DIR "/") + QLatin1String(name);
+}
+
+} // namespace
+
+class tst_RegistersInRtl : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void modulesAreAsDescribed_data();
+    void modulesAreAsDescribed();
+    void instancesStandAtTheirAddresses();
+    void interruptsAreTheSubsystems();
+    void mistakesAreFound_data();
+    void mistakesAreFound();
+
+private:
+    QVector<Peripheral> m_peripherals;
+};
+
+void tst_RegistersInRtl::initTestCase()
+{
+    QString error;
+    QVERIFY2(readRegisterMap(QStringLiteral(TARVO_IP_DATA_DIR), &m_peripherals, &error),
+             qPrintable(error));
+}
+
+void tst_RegistersInRtl::modulesAreAsDescribed_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < m_peripherals.size(); ++i)
+        QTest::newRow(qPrintable(m_peripherals.at(i).name)) << i;
+}
+
+void tst_RegistersInRtl::modulesAreAsDescribed()
+{
+    QFETCH(int, index);
+    const Peripheral &peripheral = m_peripherals.at(index);
+    const QString wrong =
+        simulate(Bench(peripheral).text(),
+                 {QStringLiteral(RTL_DIR "/%1.v").arg(peripheral.module), rtl("spi_engine.v")});
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::instancesStandAtTheirAddresses()
+{
+    QStringList sources = {QStringLiteral("-I" RTL_TESTS_DIR "/defines/everything-5k"),
+                           rtl("itcmdbg.v"), rtl("dtcmdbg.v")};
+    static const QRegularExpression left(QStringLiteral(
+        "^(itcm.*|dtcm.*|cortex_m1_core|ddr3_name|psram_local_define|psram_local_param|psram_param|"
+        "triple_speed_mac_name|tvmc_local_param|tvmc_param)\\.v$"));
+    const QStringList all =
+        QDir(QStringLiteral(RTL_DIR)).entryList({QStringLiteral("*.v")}, QDir::Files, QDir::Name);
+    for (const QString &file : all) {
+        if (!left.match(file).hasMatch())
+            sources.append(QStringLiteral(RTL_DIR "/") + file);
+    }
+    const QString wrong = simulate(subsystemBench(m_peripherals), sources);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::interruptsAreTheSubsystems()
+{
+    const QString defines = QString::fromUtf8(TestSupport::contentsOf(rtl("define.vh")));
+    int checked = 0;
+    for (const Peripheral &peripheral : qAsConst(m_peripherals)) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            const QRegularExpression line(
+                QStringLiteral("^`define ORIX_IRQ_%1 +(\\d+)$").arg(instance.name),
+                QRegularExpression::MultilineOption);
+            const auto match = line.match(defines);
+            if (!match.hasMatch()) {
+                QVERIFY2(instance.interrupt.isEmpty() || instance.interrupt == QLatin1String("NMI"),
+                         qPrintable(instance.name));
+                continue;
+            }
+            QCOMPARE(instance.interrupt, match.captured(1));
+            ++checked;
+        }
+    }
+    QCOMPARE(checked, 10);
+}
+
+void tst_RegistersInRtl::mistakesAreFound_data()
+{
+    QTest::addColumn<QString>("kind");
+    for (const char *kind : {"reset", "access", "width", "register left out", "changes left out"})
+        QTest::newRow(kind) << QString::fromLatin1(kind);
+}
+
+// The benches notice descriptions that are wrong in one point.
+void tst_RegistersInRtl::mistakesAreFound()
+{
+    QFETCH(QString, kind);
+    const auto timer =
+        std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                     [](const Peripheral &p) { return p.name == QLatin1String("TIMER"); });
+    QVERIFY(timer != m_peripherals.cend());
+    Peripheral peripheral = *timer;
+    if (kind == QLatin1String("reset"))
+        peripheral.registers[2].fields[0].reset = 1;
+    else if (kind == QLatin1String("access"))
+        peripheral.registers[2].fields[0].access = RegisterAccess::Read;
+    else if (kind == QLatin1String("width"))
+        peripheral.registers[2].fields[0].high = 24;
+    else if (kind == QLatin1String("register left out"))
+        peripheral.registers.remove(2);
+    else
+        peripheral.registers[0].changes.clear();
+    const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
+    QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
+}
+
+TARVO_TEST_MAIN(QCoreApplication, tst_RegistersInRtl)
+
+#include "tst_registersinrtl.moc"

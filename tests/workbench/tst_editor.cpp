@@ -1,0 +1,395 @@
+#include <dialogdriver.h>
+#include <smalldisk.h>
+#include <testsupport.h>
+#include <unprivileged.h>
+
+#include <workbench/editor/codeeditor.h>
+#include <workbench/editor/editorpage.h>
+#include <workbench/editor/editortabs.h>
+#include <workbench/editor/findbar.h>
+#include <workbench/editor/highlighting.h>
+#include <workbench/editor/textfile.h>
+#include <workbench/widgets/infobar.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSyntaxHighlighter>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QtTest>
+
+using namespace Workbench;
+using namespace TestSupport;
+
+class TestEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_path = QFileInfo(m_dir->path()).canonicalFilePath() + QStringLiteral("/a ö.v");
+        write(m_path, "module a;\n// two\nendmodule\n");
+        m_tabs = std::make_unique<EditorTabs>();
+        m_tabs->resize(600, 400);
+        m_tabs->show();
+    }
+    void cleanup() { m_tabs.reset(); }
+
+    void everyTextSurvivesARoundTrip_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("lines") << QByteArray("a\nb\n");
+        QTest::newRow("no line end at the end") << QByteArray("a\nb");
+        QTest::newRow("carriage returns") << QByteArray("a\r\nb\r\n");
+        QTest::newRow("UTF-8") << QByteArray("\xC3\xA4\n");
+        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBFx\n");
+        QTest::newRow("Latin-1") << QByteArray("\xE4 \xFF\n");
+    }
+
+    void everyTextSurvivesARoundTrip()
+    {
+        QFETCH(QByteArray, bytes);
+        const TextFormat format = TextFormat::of(bytes);
+        QCOMPARE(format.encode(format.decode(bytes)), bytes);
+    }
+
+    void refusesWhatIsNoText_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("binary") << QByteArray("a\0b", 3);
+    }
+
+    void refusesWhatIsNoText()
+    {
+        QFETCH(QByteArray, bytes);
+        write(m_path, bytes);
+        QString error;
+        QVERIFY(!m_tabs->openFile(m_path, 0, &error));
+        QVERIFY2(error.contains(m_path) && error.contains(QLatin1String("not a text")),
+                 qPrintable(error));
+        QVERIFY(!m_tabs->openFile(m_dir->path(), 0, &error));
+        QVERIFY(error.contains(QLatin1String("folder")));
+        QVERIFY(!m_tabs->openFile(m_path + QStringLiteral("x"), 0, &error));
+        QCOMPARE(m_tabs->count(), 0);
+    }
+
+    void opensAFileOnceAndGoesToTheLine()
+    {
+        EditorPage *page = open();
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("module a;\n// two\nendmodule\n"));
+        QCOMPARE(m_tabs->tabText(0), QStringLiteral("a ö.v"));
+        QString error;
+        QCOMPARE(m_tabs->openFile(m_path, 3, &error), page);
+        QCOMPARE(m_tabs->count(), 1);
+        QCOMPARE(page->editor()->currentLine(), 3);
+        page->goToLine(1000); // no such line: the last
+        QCOMPARE(page->editor()->currentLine(), 4);
+    }
+
+    void cannotBeChangedUntilAsked()
+    {
+        EditorPage *page = open();
+        QVERIFY(page->infoBar()->isHidden());
+        QTest::keyClick(page->editor(), Qt::Key_X);
+        QVERIFY(!page->isModified());
+        QVERIFY(!page->infoBar()->isHidden()); // says how
+        page->infoBar()->findChild<QPushButton *>()->click();
+        QVERIFY(page->isEditable());
+        QVERIFY(page->infoBar()->isHidden());
+        QTest::keyClick(page->editor(), Qt::Key_X);
+        QVERIFY(page->isModified());
+        QCOMPARE(m_tabs->tabText(0), QStringLiteral("a ö.v*"));
+    }
+
+    void savesWhatWasTyped()
+    {
+        EditorPage *page = open();
+        page->startEditing();
+        QTest::keyClicks(page->editor(), QStringLiteral("// "));
+        QVERIFY(m_tabs->savePage(page));
+        QCOMPARE(contentsOf(m_path), QByteArray("// module a;\n// two\nendmodule\n"));
+        QVERIFY(!page->isModified());
+        QCOMPARE(entriesOf(m_dir->path()).size(), 1); // nothing left over
+    }
+
+    void saysWhyAFileCannotBeChanged()
+    {
+        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+        QFile::setPermissions(m_dir->path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                                 QFile::ExeGroup | QFile::ReadOther |
+                                                 QFile::ExeOther);
+        EditorPage *page = open();
+        bool binding = false;
+        {
+            const Unprivileged unprivileged;
+            binding = unprivileged.holds();
+            page->startEditing();
+        }
+        QFile::setPermissions(m_dir->path(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        if (!binding)
+            QSKIP("permissions do not bind here");
+        QVERIFY(!page->isEditable());
+        QVERIFY(page->infoBar()->text().contains(QLatin1String("permission")));
+    }
+
+    void losesNothingOnAFullDisk()
+    {
+        const QString reason = mountSmallDisk(m_dir->path());
+        if (!reason.isEmpty())
+            QSKIP(qPrintable(reason));
+        write(m_path, "old\n");
+        EditorPage *page = open();
+        page->startEditing();
+        page->editor()->setPlainText(QString(80000, u'x'));
+        page->editor()->document()->setModified(true);
+        fillDisk(m_dir->path(), 0);
+        const bool saved = m_tabs->savePage(page);
+        const QByteArray kept = contentsOf(m_path);
+        const QString told = page->infoBar()->text();
+        unmount(m_dir->path());
+        QVERIFY(!saved);
+        QCOMPARE(kept, QByteArray("old\n"));
+        QVERIFY2(told.contains(m_path), qPrintable(told));
+        QVERIFY(page->isModified());
+    }
+
+    void readsAgainWhatWasChangedOutside()
+    {
+        EditorPage *page = open();
+        write(m_path, "module b;\nendmodule\n");
+        QTRY_COMPARE(page->editor()->toPlainText(), QStringLiteral("module b;\nendmodule\n"));
+        QVERIFY(!page->isModified());
+    }
+
+    void followsAFileThatIsReplaced()
+    {
+        EditorPage *page = open();
+        for (int i = 0; i < 3; ++i) {
+            const QByteArray text = "module m" + QByteArray::number(i) + ";\n";
+            write(m_path + QStringLiteral(".new"), text);
+            QVERIFY(::rename(QFile::encodeName(m_path + QStringLiteral(".new")).constData(),
+                             QFile::encodeName(m_path).constData()) == 0);
+            QTRY_COMPARE(page->editor()->toPlainText(), QString::fromLatin1(text));
+        }
+    }
+
+    void asksBeforeItLosesChangesToOneOutside()
+    {
+        EditorPage *page = open();
+        page->startEditing();
+        QTest::keyClicks(page->editor(), QStringLiteral("mine "));
+        write(m_path, "theirs\n");
+        QTRY_VERIFY(!page->infoBar()->isHidden());
+        QVERIFY(page->editor()->toPlainText().startsWith(QLatin1String("mine ")));
+        button(page, "Keep")->click();
+        QVERIFY(page->editor()->toPlainText().startsWith(QLatin1String("mine ")));
+        write(m_path, "theirs again\n");
+        QTRY_VERIFY(!page->infoBar()->isHidden());
+        button(page, "Read")->click();
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("theirs again\n"));
+    }
+
+    void tellsThatAFileWasDeletedAndWritesItAgain()
+    {
+        EditorPage *page = open();
+        QFile::remove(m_path);
+        QTRY_VERIFY(page->isModified());
+        QVERIFY(page->infoBar()->text().contains(QLatin1String("deleted")));
+        QVERIFY(m_tabs->savePage(page));
+        QCOMPARE(contentsOf(m_path), QByteArray("module a;\n// two\nendmodule\n"));
+        QVERIFY(!page->isModified());
+    }
+
+    void asksBeforeItClosesUnsavedChanges_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("closed");
+        QTest::addColumn<bool>("saved");
+        QTest::newRow("save") << int(QMessageBox::Save) << true << true;
+        QTest::newRow("discard") << int(QMessageBox::Discard) << true << false;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+    }
+
+    void asksBeforeItClosesUnsavedChanges()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, closed);
+        QFETCH(bool, saved);
+        EditorPage *page = open();
+        page->startEditing();
+        QTest::keyClicks(page->editor(), QStringLiteral("new "));
+        const auto boxes =
+            boxesOf([this] { m_tabs->closeTab(0); }, QMessageBox::StandardButton(answer));
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(m_tabs->count() == 0, closed);
+        QCOMPARE(contentsOf(m_path).startsWith("new "), saved);
+    }
+
+    void asksOnceForAllFiles()
+    {
+        const QString other = m_dir->filePath(QStringLiteral("b.v"));
+        write(other, "x\n");
+        QString error;
+        for (const QString &path : {m_path, other}) {
+            EditorPage *page = m_tabs->openFile(path, 0, &error);
+            page->startEditing();
+            QTest::keyClicks(page->editor(), QStringLiteral("1"));
+        }
+        const auto boxes = boxesOf([this] { m_tabs->closeAll(); }, QMessageBox::Save);
+        QCOMPARE(boxes.size(), 1);
+        QCOMPARE(m_tabs->count(), 0);
+        QVERIFY(contentsOf(other).startsWith("1"));
+        QVERIFY(contentsOf(m_path).startsWith("1"));
+    }
+
+    void coloursTheLanguagesOfDesigns_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("language");
+        const auto row = [](const char *name, const char *language) {
+            QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(language);
+        };
+        row("a.v", "Verilog");
+        row("a.vo", "Verilog");
+        row("a.vh", "Verilog");
+        row("A.SV", "SystemVerilog");
+        row("a.vhd", "VHDL");
+        row("a.vho", "VHDL");
+        row("a.ipc", "INI Files");
+        row("a.tvproj", "JSON");
+        row("a.log", "Log File (simplified)");
+        row("a.txt", "");
+        row("none", "");
+    }
+
+    void coloursTheLanguagesOfDesigns()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, language);
+        QCOMPARE(Highlighting::languageOf(name), language);
+        if (language.isEmpty())
+            return;
+        QTextDocument document;
+        QVERIFY2(Highlighting::attach(&document, name, QApplication::palette()),
+                 qPrintable(language));
+    }
+
+    void showsKeywordsInAnotherFormat()
+    {
+        EditorPage *page = open();
+        const auto formats = page->editor()->document()->firstBlock().layout()->formats();
+        QVERIFY(!formats.isEmpty());
+    }
+
+    void coloursFollowThePalette()
+    {
+        EditorPage *page = open();
+        const auto colour = [page] {
+            const auto formats = page->editor()->document()->firstBlock().layout()->formats();
+            return formats.isEmpty() ? QColor() : formats.first().format.foreground().color();
+        };
+        const QColor before = colour();
+        QPalette dark = page->palette();
+        dark.setColor(QPalette::Base, Qt::black);
+        dark.setColor(QPalette::Text, Qt::white);
+        page->setPalette(dark);
+        QVERIFY(colour() != before);
+    }
+
+    void largeFilesComeInPieces()
+    {
+        QByteArray text;
+        while (text.size() < 3 * EditorPage::pieceSize)
+            text +=
+                "  TV_LUT4 #(.INIT(16'h8000)) lut_" + QByteArray::number(text.size()) + " ();\n";
+        write(m_path, text);
+        EditorPage *page = open();
+        QVERIFY(page->isLoading());
+        QVERIFY(!page->isModified());
+        QVERIFY(page->editor()->lineCount() > 100); // the first piece is there at once
+        const int lines = text.count('\n');
+        page->goToLine(lines);
+        page->startEditing();
+        QVERIFY(!page->isEditable());
+        QTRY_VERIFY(!page->isLoading());
+        QCOMPARE(page->editor()->toPlainText(), QString::fromLatin1(text));
+        QCOMPARE(page->editor()->currentLine(), lines);
+        QVERIFY(!page->isModified());
+        QVERIFY(!page->findChild<QSyntaxHighlighter *>());
+        QVERIFY(page->infoBar()->isHidden());
+        page->startEditing();
+        QVERIFY(page->isEditable());
+    }
+
+    void closingALargeFileWhileItIsReadAsksNothing()
+    {
+        write(m_path, QByteArray(3 * EditorPage::pieceSize, 'x'));
+        open();
+        const auto boxes = boxesOf([this] { m_tabs->closeTab(0); });
+        QVERIFY(boxes.isEmpty());
+        QCOMPARE(m_tabs->count(), 0);
+    }
+
+    void findsWhileTypingAndRoundTheEnd()
+    {
+        write(m_path, "alpha\nbeta\nAlpha\n");
+        EditorPage *page = open();
+        page->findBar()->start();
+        auto *edit = page->findBar()->findChild<QLineEdit *>();
+        QTest::keyClicks(edit, QStringLiteral("alp"));
+        QCOMPARE(page->editor()->currentLine(), 1);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCOMPARE(page->editor()->currentLine(), 3);
+        page->findBar()->findNext();
+        QCOMPARE(page->editor()->currentLine(), 1);
+        QTest::keyClick(edit, Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(page->editor()->currentLine(), 3);
+        QTest::keyClicks(edit, QStringLiteral("zzz"));
+        QCOMPARE(page->findBar()->findChild<QLabel *>()->text(), QStringLiteral("Not found"));
+        QTest::keyClick(edit, Qt::Key_Escape);
+        QVERIFY(page->findBar()->isHidden());
+    }
+
+    void lineNumbersHaveRoomForAllDigits()
+    {
+        CodeEditor editor;
+        const int narrow = editor.lineNumberWidth();
+        editor.setPlainText(QString(123456, u'\n'));
+        QVERIFY(editor.lineNumberWidth() > narrow);
+        QVERIFY(editor.lineNumberWidth() >=
+                editor.fontMetrics().horizontalAdvance(QStringLiteral("123457")));
+    }
+
+private:
+    EditorPage *open()
+    {
+        QString error;
+        EditorPage *page = m_tabs->openFile(m_path, 0, &error);
+        if (!page)
+            qFatal("%s", qPrintable(error));
+        return page;
+    }
+
+    static QPushButton *button(EditorPage *page, const char *text)
+    {
+        const auto buttons = page->infoBar()->findChildren<QPushButton *>();
+        for (QPushButton *candidate : buttons) {
+            if (!candidate->isHidden() && candidate->text().contains(QLatin1String(text)))
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    QString m_path;
+    std::unique_ptr<EditorTabs> m_tabs;
+};
+
+TARVO_TEST_MAIN(QApplication, TestEditor)
+#include "tst_editor.moc"

@@ -1,0 +1,269 @@
+// A day with the workbench: from an empty folder to a generated subsystem that is changed later.
+
+#include "hands.h"
+
+#include <workbench/editor/codeeditor.h>
+#include <workbench/editor/editorpage.h>
+#include <workbench/messages/logview.h>
+#include <workbench/results/resultpage.h>
+
+#include <ipcore/pinfigureview.h>
+#include <ipcore/synthesismonitor.h>
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QGraphicsView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTreeView>
+
+using namespace Workbench;
+using namespace TestSupport;
+
+namespace
+{
+
+bool isIpDialog(const QWidget *modal)
+{
+    return modal->findChild<QGraphicsView *>() && modal->findChild<QLineEdit *>();
+}
+
+// Does things with a modal widget once it runs, so that dialogs may open from there.
+void later(QWidget *modal, const std::function<void()> &call)
+{
+    QTimer::singleShot(0, modal, call);
+}
+
+// Walks to a block with Tab, opens it with Enter, switches a check box there and accepts.
+bool switchOn(QWidget *dialog, const char *checkBox)
+{
+    auto *view = dialog->findChild<QGraphicsView *>();
+    view->setFocus();
+    bool switched = false;
+    QTest::keyClick(view, Qt::Key_Home);
+    for (int block = 0; block < 25 && !switched; ++block) {
+        QTest::keyClick(view, Qt::Key_Tab);
+        const ModalWatcher watcher([&switched, checkBox](QWidget *modal) {
+            if (auto *box = modal->findChild<QCheckBox *>(QLatin1String(checkBox))) {
+                QTest::keyClick(box, Qt::Key_Space);
+                switched = box->isChecked();
+                Bench::ok(modal)->click();
+            } else {
+                qobject_cast<QDialog *>(modal)->reject();
+            }
+        });
+        QTest::keyClick(view, Qt::Key_Return);
+    }
+    return switched;
+}
+
+QString pinNames(const ResultPage *page)
+{
+    QStringList names;
+    const QList<Utils::PinFigure> pins = page->figure()->pins();
+    for (const Utils::PinFigure &pin : pins)
+        names.append(pin.name());
+    return names.join(u' ');
+}
+
+} // namespace
+
+class TestEndToEnd : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_bench = std::make_unique<Bench>();
+        m_bench->settings.setValue(QStringLiteral("projectLocation"), m_bench->folder());
+    }
+    void cleanup() { m_bench.reset(); }
+
+    void fromAnEmptyFolderToAChangedSubsystem()
+    {
+        makeProjectByDialog();
+        if (QTest::currentTestFailed())
+            return;
+        const QString folder = m_bench->folder() + QStringLiteral("/sensor");
+        const QString ip = folder + QStringLiteral("/tarvo_orix_m1");
+        QCOMPARE(window()->project()->path(), folder);
+
+        // Enter in the catalogue; GPIO on in the diagram; OK.
+        auto *catalogue = window()->findChild<QTreeView *>(QStringLiteral("catalogueTree"));
+        {
+            const ModalWatcher watcher([](QWidget *modal) {
+                if (!isIpDialog(modal))
+                    return;
+                later(modal, [modal] {
+                    QVERIFY(switchOn(modal, "enableGpioCheckBox"));
+                    Bench::ok(modal)->click();
+                });
+            });
+            QTest::keyClick(catalogue, Qt::Key_Return);
+        }
+        checkResults(ip, QStringLiteral("gpio"));
+        if (QTest::currentTestFailed())
+            return;
+        QVERIFY(
+            !pinNames(window()->results()).contains(QLatin1String("uart"), Qt::CaseInsensitive));
+
+        // Home; a month later.
+        QVERIFY(window()->close());
+        m_bench->reopen();
+        window()->openProject(folder + QStringLiteral("/sensor.tvproj"));
+        QVERIFY(m_bench->tabTexts().isEmpty());
+        auto *tree = window()->findChild<QTreeView *>(QStringLiteral("projectTree"));
+        const QModelIndex ipc = tree->model()->index(0, 0, tree->model()->index(0, 0));
+        QCOMPARE(ipc.data().toString(), QStringLiteral("tarvo_orix_m1/tarvo_orix_m1.ipc"));
+        tree->setCurrentIndex(ipc);
+        const QByteArray before = contentsOf(ip + QStringLiteral("/tarvo_orix_m1.v"));
+        {
+            const ModalWatcher watcher([](QWidget *modal) {
+                if (!isIpDialog(modal))
+                    return;
+                later(modal, [modal] {
+                    QVERIFY(switchOn(modal, "enableUart0CheckBox"));
+                    Bench::ok(modal)->click();
+                });
+            });
+            QTest::keyClick(tree, Qt::Key_Return);
+        }
+        checkResults(ip, QStringLiteral("uart"));
+        if (QTest::currentTestFailed())
+            return;
+        QVERIFY(pinNames(window()->results()).contains(QLatin1String("gpio"), Qt::CaseInsensitive));
+        QVERIFY(contentsOf(ip + QStringLiteral("/tarvo_orix_m1.v")) != before);
+        // It stands in the project once.
+        QCOMPARE(window()->project()->files(),
+                 QStringList(ip + QStringLiteral("/tarvo_orix_m1.v")));
+    }
+
+    void aFailedRunCanBeTriedAgain()
+    {
+        window()->openProject(m_bench->makeProject());
+        QString errorTitle;
+        QString errorDetails;
+        auto tool = std::make_unique<FakeTool>("erring");
+        const ModalWatcher watcher([&](QWidget *modal) {
+            if (isIpDialog(modal)) {
+                later(modal, [modal] { Bench::ok(modal)->click(); });
+            } else if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+                box->button(QMessageBox::Yes)->click(); // the folder of the first try is there
+            } else if (const auto *details =
+                           modal->findChild<QPlainTextEdit *>(QStringLiteral("detailsEdit"))) {
+                errorTitle = modal->findChild<QLabel *>(QStringLiteral("titleLabel"))->text();
+                errorDetails = details->toPlainText();
+                // The messages are in the list behind the window too.
+                QVERIFY(window()->messages()->count(MessageModel::Error) > 0);
+                tool.reset();
+                qobject_cast<QDialog *>(modal)->reject();
+                QTimer::singleShot(0, this, [] {
+                    QWidget *dialog = QApplication::activeModalWidget();
+                    QVERIFY(dialog && isIpDialog(dialog)); // still open: OK once more
+                    Bench::ok(dialog)->click();
+                });
+            }
+        });
+        window()->createSelectedIp(0);
+        QVERIFY(!errorTitle.isEmpty());
+        QVERIFY2(errorDetails.contains(QLatin1String("first mistake")), qPrintable(errorDetails));
+        checkResults(window()->project()->path() + QStringLiteral("/tarvo_orix_m1"), QString());
+    }
+
+    void aCancelledRunLeavesTheDialogOpen()
+    {
+        window()->openProject(m_bench->makeProject());
+        const FakeTool tool("sleeping");
+        bool cancelled = false;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            if (isIpDialog(modal)) {
+                later(modal, [modal] { Bench::ok(modal)->click(); });
+            } else if (modal->findChild<QLabel *>(QStringLiteral("stageLabel"))) {
+                auto *cancel =
+                    modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
+                connect(&IPCore::SynthesisMonitor::instance(),
+                        &IPCore::SynthesisMonitor::runFinished, this,
+                        [&cancelled](const Synthesis::RunReport &report) {
+                            cancelled = report.cancelled;
+                        });
+                later(modal, [cancel] { cancel->click(); });
+            } else {
+                qobject_cast<QDialog *>(modal)->reject(); // the error window
+                QTimer::singleShot(0, this, [] {
+                    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                    QVERIFY(dialog && isIpDialog(dialog));
+                    dialog->reject();
+                });
+            }
+        });
+        window()->createSelectedIp(0);
+        QVERIFY(cancelled);
+        QVERIFY(window()->project()->files().isEmpty());
+        QVERIFY(m_bench->tabTexts().isEmpty());
+        QCOMPARE(window()->findChild<QLabel *>(QStringLiteral("runLabel"))->text(),
+                 QStringLiteral("Synthesis cancelled"));
+    }
+
+    void anIpDialogThatIsCancelledLeavesNothing()
+    {
+        window()->openProject(m_bench->makeProject());
+        const QStringList before = entriesOf(window()->project()->path());
+        const ModalWatcher watcher(
+            [](QWidget *modal) { qobject_cast<QDialog *>(modal)->reject(); });
+        window()->createSelectedIp(0);
+        QCOMPARE(entriesOf(window()->project()->path()), before);
+        QVERIFY(m_bench->tabTexts().isEmpty());
+    }
+
+private:
+    MainWindow *window() const { return m_bench->window.get(); }
+
+    void makeProjectByDialog()
+    {
+        const ModalWatcher watcher([](QWidget *modal) {
+            QVERIFY(!Bench::ok(modal)->isEnabled());
+            QTest::keyClicks(modal->findChild<QLineEdit *>(QStringLiteral("nameEdit")),
+                             QStringLiteral("sensor"));
+            QVERIFY(!Bench::ok(modal)->isEnabled());
+            auto *filter = modal->findChild<QLineEdit *>(QStringLiteral("deviceFilterEdit"));
+            QTest::keyClicks(filter, QStringLiteral("tv2kr-18c qfn88p c8"));
+            QTest::keyClick(filter, Qt::Key_Down);
+            QVERIFY(Bench::ok(modal)->isEnabled());
+            Bench::ok(modal)->click();
+        });
+        m_bench->action("New Project")->trigger();
+        QVERIFY(window()->project());
+        QCOMPARE(window()->project()->device().device(), QStringLiteral("TV2KR-18C"));
+    }
+
+    // After a successful run into the folder `ip`.
+    void checkResults(const QString &ip, const QString &pin)
+    {
+        QCOMPARE(m_bench->tabTexts(),
+                 QStringList({QStringLiteral("tarvo_orix_m1.v"),
+                              QStringLiteral("tarvo_orix_m1_tmp.v"), QStringLiteral("Results")}));
+        QCOMPARE(window()->project()->files(),
+                 QStringList(ip + QStringLiteral("/tarvo_orix_m1.v")));
+        const EditorPage *netlist =
+            window()->tabs()->pageOf(ip + QStringLiteral("/tarvo_orix_m1.v"));
+        QVERIFY(netlist);
+        QCOMPARE(netlist->editor()->toPlainText().toUtf8(),
+                 contentsOf(ip + QStringLiteral("/tarvo_orix_m1.v")));
+        QCOMPARE(window()->messages()->count(MessageModel::Error), 0);
+        QVERIFY(m_bench->message(0).startsWith(QLatin1String("tarvo_orix_m1")));
+        QVERIFY(!window()->log()->toPlainText().isEmpty());
+        QVERIFY(window()->results()->files().contains(ip + QStringLiteral("/tarvo_orix_m1.ipc")));
+        QVERIFY(window()->results()->files().contains(ip + QStringLiteral("/tarvo_orix_m1.vo")));
+        QVERIFY(window()->results()->figure()->pins().size() > 3);
+        QVERIFY2(pinNames(window()->results()).contains(pin, Qt::CaseInsensitive),
+                 qPrintable(pinNames(window()->results())));
+    }
+
+    std::unique_ptr<Bench> m_bench;
+};
+
+TARVO_TEST_MAIN(QApplication, TestEndToEnd)
+#include "tst_endtoend.moc"

@@ -1,0 +1,285 @@
+// The program tarvo-workbench as a process.
+
+#include <testsupport.h>
+
+#include <workbench/window/options.h>
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using namespace TestSupport;
+
+namespace
+{
+
+struct Outcome {
+    int status = -1;
+    QString output;
+    QString errors;
+};
+
+QProcessEnvironment environment(const QTemporaryDir &home)
+{
+    QProcessEnvironment result = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        result.remove(QLatin1String(name));
+    result.insert(QStringLiteral("HOME"), home.path());
+    result.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+    return result;
+}
+
+QStringList optionsIn(const QString &text)
+{
+    static const QRegularExpression option(QStringLiteral("--[a-z][a-z-]*"));
+    QStringList found;
+    auto matches = option.globalMatch(text);
+    while (matches.hasNext())
+        found.append(matches.next().captured());
+    found.removeDuplicates();
+    found.sort();
+    return found;
+}
+
+// The text of a manual page without its mark-up.
+QString manualPage(const char *name)
+{
+    QString text = QString::fromUtf8(
+        contentsOf(QStringLiteral(TARVO_SOURCE_DIR "/packaging/man/") + QLatin1String(name)));
+    return text.replace(QLatin1String("\\-"), QLatin1String("-"));
+}
+
+} // namespace
+
+class TestWorkbenchProgram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsItsOptionsAndVersionWithoutADisplay()
+    {
+        const Outcome help = run({QStringLiteral("--help")});
+        QCOMPARE(help.status, 0);
+        for (const char *option :
+             {"--new-ip", "--device", "--dir", "--render-diagram", "--plugin-dir"})
+            QVERIFY2(help.output.contains(QLatin1String(option)), option);
+        const Outcome version = run({QStringLiteral("--version")});
+        QCOMPARE(version.status, 0);
+        QVERIFY(version.output.startsWith(QLatin1String("tarvo-workbench ")));
+    }
+
+    void manualPageAndHelpNameTheSameOptions()
+    {
+        const QStringList help = optionsIn(QString::fromStdString(Workbench::Options::help()));
+        QVERIFY(help.size() > 5);
+        QCOMPARE(optionsIn(manualPage("tarvo-workbench.1")), help);
+    }
+
+    void manualPageOfTheCommandLineNamesItsOptions()
+    {
+        QProcess process;
+        process.start(QStringLiteral(TARVO_COMMAND), {QStringLiteral("--help-all")});
+        QVERIFY(process.waitForFinished(-1));
+        const QStringList help = optionsIn(QString::fromUtf8(process.readAllStandardOutput()));
+        QVERIFY(help.size() > 5);
+        QCOMPARE(optionsIn(manualPage("orixm1.1")), help);
+    }
+
+    void refusesWrongUsage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        const auto row = [](const char *name, const QStringList &arguments) {
+            QTest::newRow(name) << arguments;
+        };
+        row("unknown option", {QStringLiteral("--nothing")});
+        row("picture without a diagram", {QStringLiteral("-o"), QStringLiteral("a.svg")});
+        row("diagram without a picture",
+            {QStringLiteral("--render-diagram"), QStringLiteral("a.ipc")});
+        row("device without an IP", {QStringLiteral("--device"), QStringLiteral("TV2KR-18C")});
+    }
+
+    void refusesWrongUsage()
+    {
+        QFETCH(QStringList, arguments);
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.status, 2);
+        QVERIFY(!outcome.errors.isEmpty());
+    }
+
+    void refusesWhatNoWindowNeedsToOpenFor_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char *name, const QStringList &arguments, const char *error) {
+            QTest::newRow(name) << arguments << QString::fromLatin1(error);
+        };
+        row("unknown IP",
+            {QStringLiteral("--new-ip"), QStringLiteral("nothing"), QStringLiteral("--device"),
+             QStringLiteral("TV2KR-18C")},
+            "Tarvo_ORIX_M1");
+        row("unknown device",
+            {QStringLiteral("--new-ip"), QStringLiteral("Tarvo_ORIX_M1"),
+             QStringLiteral("--device"), QStringLiteral("TV99")},
+            "TV99");
+        row("no device", {QStringLiteral("--new-ip"), QStringLiteral("Tarvo_ORIX_M1")}, "--device");
+        row("no such file", {QStringLiteral("/no/such.ipc")}, "/no/such.ipc");
+    }
+
+    void refusesWhatNoWindowNeedsToOpenFor()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, error);
+        const QTemporaryDir dir;
+        QProcessEnvironment env = environment(dir);
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        const Outcome outcome = run(arguments, env, dir.path());
+        QCOMPARE(outcome.status, 2);
+        QVERIFY2(outcome.errors.contains(error), qPrintable(outcome.errors));
+    }
+
+    void saysThatItNeedsADisplay()
+    {
+        const Outcome outcome = run({});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY(outcome.errors.contains(QLatin1String("no display")));
+        QVERIFY(outcome.errors.contains(QLatin1String("--render-diagram")));
+    }
+
+    void drawsADiagramWithoutADisplay_data()
+    {
+        QTest::addColumn<QString>("ending");
+        QTest::addColumn<QByteArray>("start");
+        QTest::newRow("SVG") << QStringLiteral("svg") << QByteArray("<?xml");
+        QTest::newRow("PNG") << QStringLiteral("png") << QByteArray("\x89PNG");
+        QTest::newRow("PDF") << QStringLiteral("pdf") << QByteArray("%PDF");
+    }
+
+    void drawsADiagramWithoutADisplay()
+    {
+        QFETCH(QString, ending);
+        QFETCH(QByteArray, start);
+        const QTemporaryDir dir;
+        const QString picture = dir.filePath(QStringLiteral("a b ö.") + ending);
+        const Outcome outcome = render(example(), picture);
+        QVERIFY2(outcome.status == 0, qPrintable(outcome.errors));
+        QVERIFY(contentsOf(picture).startsWith(start));
+        QVERIFY(contentsOf(picture).size() > 5000);
+        QCOMPARE(entriesOf(dir.path()).size(), 1);
+    }
+
+    void saysWhyADiagramCannotBeDrawn_data()
+    {
+        QTest::addColumn<QByteArray>("ipc");
+        QTest::addColumn<QString>("picture");
+        QTest::addColumn<QString>("error");
+        const QByteArray good = contentsOf(example());
+        QTest::newRow("another ending")
+            << good << QStringLiteral("a.gif") << QStringLiteral("a.gif");
+        QTest::newRow("no such folder")
+            << good << QStringLiteral("none/a.svg") << QStringLiteral("none/a.svg");
+        QTest::newRow("broken file") << QByteArray("[General]\ntype\n") << QStringLiteral("a.svg")
+                                     << QStringLiteral("line 2");
+        QTest::newRow("unknown type") << QByteArray("[General]\ntype=a.b\n")
+                                      << QStringLiteral("a.svg") << QStringLiteral("a.b");
+        QTest::newRow("another device")
+            << QByteArray("[General]\ntype=tarvo.tarvo_orix_m1\ntarget_device=TV9-1\n")
+            << QStringLiteral("a.svg") << QStringLiteral("device information");
+        QTest::newRow("an IP without a diagram")
+            << QByteArray("[General]\ntype=fake.blinker\n") << QStringLiteral("a.svg")
+            << QStringLiteral("offers no diagram");
+    }
+
+    void saysWhyADiagramCannotBeDrawn()
+    {
+        QFETCH(QByteArray, ipc);
+        QFETCH(QString, picture);
+        QFETCH(QString, error);
+        const QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("x.ipc"));
+        write(file, ipc);
+        const Outcome outcome = render(file, dir.filePath(picture));
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(error), qPrintable(outcome.errors));
+        QCOMPARE(entriesOf(dir.path()), QStringList(QStringLiteral("x.ipc")));
+    }
+
+    void endsWhenItIsAskedTo_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("signal");
+        QTest::newRow("terminated, empty") << QStringList() << SIGTERM;
+        QTest::newRow("interrupted, the dialog of a new IP is open")
+            << QStringList({QStringLiteral("--new-ip"), QStringLiteral("Tarvo_ORIX_M1"),
+                            QStringLiteral("--device"), QStringLiteral("TV2KR-18C")})
+            << SIGINT;
+        QTest::newRow("terminated, an IP is open") << QStringList(example()) << SIGTERM;
+        QTest::newRow("terminated, a message box is open")
+            << QStringList(QStringLiteral("broken.ipc")) << SIGTERM;
+    }
+
+    void endsWhenItIsAskedTo()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, signal);
+        const QTemporaryDir dir;
+        write(dir.filePath(QStringLiteral("broken.ipc")), "no configuration");
+        QProcessEnvironment env = environment(dir);
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        QProcess process;
+        process.setProcessEnvironment(env);
+        process.setWorkingDirectory(dir.path());
+        process.start(QStringLiteral(TARVO_WORKBENCH), arguments);
+        QVERIFY(process.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(catches(process.processId(), signal), 60000);
+        ::kill(pid_t(process.processId()), signal);
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+    }
+
+private:
+    static QString example() { return QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc"); }
+
+    static Outcome run(const QStringList &arguments, const QProcessEnvironment &env,
+                       const QString &folder)
+    {
+        QProcess process;
+        process.setProcessEnvironment(env);
+        process.setWorkingDirectory(folder);
+        process.start(QStringLiteral(TARVO_WORKBENCH), arguments);
+        Outcome outcome;
+        if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit)
+            return outcome;
+        outcome.status = process.exitCode();
+        outcome.output = QString::fromUtf8(process.readAllStandardOutput());
+        outcome.errors = QString::fromUtf8(process.readAllStandardError());
+        return outcome;
+    }
+    static Outcome run(const QStringList &arguments)
+    {
+        const QTemporaryDir home;
+        return run(arguments, environment(home), home.path());
+    }
+    static Outcome render(const QString &ipc, const QString &picture)
+    {
+        return run({QStringLiteral("--plugin-dir"), QStringLiteral(TARVO_FAKE_PLUGINS "/blinker"),
+                    QStringLiteral("--render-diagram"), ipc, QStringLiteral("-o"), picture});
+    }
+
+    // Whether the process handles the signal by now.
+    static bool catches(qint64 pid, int signal)
+    {
+        const QByteArray status = contentsOf(QStringLiteral("/proc/%1/status").arg(pid));
+        const int at = status.indexOf("SigCgt:");
+        const qulonglong mask =
+            status.mid(at + 7, 20).trimmed().split('\n').first().toULongLong(nullptr, 16);
+        return at >= 0 && (mask >> (signal - 1)) & 1;
+    }
+};
+
+TARVO_TEST_MAIN(QCoreApplication, TestWorkbenchProgram)
+#include "tst_workbenchprogram.moc"
