@@ -183,13 +183,13 @@ bool VhdlNames::take(const QByteArray &identifier)
 
 QByteArray VhdlNames::add(const QByteArray &wanted)
 {
-    const QByteArray name = vhdlName(wanted);
+    QByteArray name = vhdlName(wanted);
     if (take(name))
         return name;
-    if (const QByteArray other = extended(wanted); take(other))
+    if (QByteArray other = extended(wanted); take(other))
         return other;
     for (int i = 2;; ++i) {
-        const QByteArray other = extended(wanted + '_' + QByteArray::number(i));
+        QByteArray other = extended(wanted + '_' + QByteArray::number(i));
         if (take(other))
             return other;
     }
@@ -198,7 +198,7 @@ QByteArray VhdlNames::add(const QByteArray &wanted)
 QByteArray VhdlNames::addNumbered(const QByteArray &stem)
 {
     for (;;) {
-        const QByteArray name = stem + QByteArray::number(++m_number);
+        QByteArray name = stem + QByteArray::number(++m_number);
         if (take(name))
             return name;
     }

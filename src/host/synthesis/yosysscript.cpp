@@ -62,13 +62,13 @@ bool isOpenDriver(const char *first, const char *last)
 
 } // namespace
 
-QStringList YosysScript::arguments(const char *script)
+QStringList YosysScript::arguments(const char *file)
 {
     return {
         QStringLiteral("-Q"), QStringLiteral("-T"),
         QStringLiteral("-v"), QStringLiteral("2"),
         QStringLiteral("-w"), QStringLiteral("limited support for tri-state logic"),
-        QStringLiteral("-s"), ScratchFolder::relative(QLatin1String(script)),
+        QStringLiteral("-s"), ScratchFolder::relative(QLatin1String(file)),
     };
 }
 

@@ -23,7 +23,7 @@ inline constexpr char cells[] = "cells.json";
 
 // Arguments that run a script of the scratch folder: warnings, errors and the titles of the steps
 // are shown.
-QStringList arguments(const char *script);
+QStringList arguments(const char *file);
 
 // Reads the sources and writes the ports of `top` and of the black boxes to `outline`.
 QByteArray elaboration(const SourceStage &sources, const QString &top);
