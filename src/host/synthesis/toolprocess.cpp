@@ -143,10 +143,11 @@ void ToolProcess::signalGroup(int number)
 {
     if (m_group <= 0)
         return;
-    // Just after the fork the child may not have made its group yet.
+    // Just after the fork the child may not have made its group yet. It is still this program then,
+    // whose signal handlers must not run in it, and has nothing to tidy up.
     if (::kill(-static_cast<pid_t>(m_group), number) != 0 &&
         m_process->state() != QProcess::NotRunning)
-        ::kill(static_cast<pid_t>(m_group), number);
+        ::kill(static_cast<pid_t>(m_group), SIGKILL);
 }
 
 } // namespace Synthesis
