@@ -1,7 +1,6 @@
 #include "commands.h"
 
 #include "environment.h"
-#include "interrupt.h"
 #include "ipcdocument.h"
 #include "output.h"
 
@@ -14,6 +13,7 @@
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>
 #include <utils/fileutils.h>
+#include <utils/interrupt.h>
 
 #include <QDir>
 #include <QEventLoop>
@@ -120,8 +120,8 @@ int synthesise(Synthesis::Runner &runner, bool verbose)
 {
     int exitCode = 1;
     QEventLoop loop;
-    Interrupt interrupt;
-    QObject::connect(&interrupt, &Interrupt::received, &runner, &Synthesis::Runner::cancel);
+    Utils::Interrupt interrupt;
+    QObject::connect(&interrupt, &Utils::Interrupt::received, &runner, &Synthesis::Runner::cancel);
     QObject::connect(&runner, &Synthesis::Runner::stageChanged,
                      [](const QString &stage) { printError(stage); });
     if (verbose)

@@ -2,12 +2,12 @@
 #include "project/project.h"
 #include "render/diagramrenderer.h"
 #include "widgets/symbolicon.h"
-#include "window/interrupt.h"
 #include "window/mainwindow.h"
 #include "window/options.h"
 
 #include <core/idecore.h>
 #include <dev/devicedb.h>
+#include <utils/interrupt.h>
 
 #include <QApplication>
 #include <QDir>
@@ -174,8 +174,8 @@ int main(int argc, char *argv[])
     MainWindow window(catalogue, settings);
     if (!prepare(options, catalogue, window, &status))
         return status;
-    const Interrupt interrupt;
-    QObject::connect(&interrupt, &Interrupt::received, &window, &MainWindow::shutDown);
+    const Utils::Interrupt interrupt;
+    QObject::connect(&interrupt, &Utils::Interrupt::received, &window, &MainWindow::shutDown);
     window.show();
     return QApplication::exec();
 }

@@ -50,11 +50,12 @@
                 if (r_HTRANS[1]) transfers = transfers + 1;
                 r_HWDATA = next_data;
                 next_data = any(0);
-                r_HTRANS = {any(0) % 4 != 0, 1'b0};
+                r_HTRANS = any(0) % 4 != 0 ? 2'b10 : 2'b00;
                 r_HWRITE = any(0);
                 r_HSIZE = any(0) % 4 == 0 ? 3'd0 : any(0) % 8 == 0 ? 3'd1 : 3'd2;
                 r_HPROT = any(0);
-                r_HADDR = {region(any(0)), 8'd0, any(0) % 2 ? 4'd0 : 4'd15 & any(0), 4'd0, 8'd252 & any(0)};
+                r_HADDR = any(0) & 32'h000000fc;
+                r_HADDR[31:24] = region(any(0));
                 // Mostly the first registers of a block.
                 if (any(0) % 2) r_HADDR[7:5] = 3'd0;
                 if (r_HADDR[31:24] == `ORIX_REGION_APBINT || r_HADDR[31:24] == `ORIX_REGION_APBEXT)

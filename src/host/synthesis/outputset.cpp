@@ -1,13 +1,16 @@
 #include "outputset.h"
 
+#include <utils/fileutils.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
-#include <memory>
-#include <vector>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
 
 namespace Synthesis
 {
@@ -30,24 +33,42 @@ QString cannotWrite(const QString &path, const QString &reason)
 
 } // namespace
 
-QString placeOutputs(const QVector<Output> &outputs)
+QString placeOutputs(const QVector<Output> &outputs, const ScratchFolder &scratch)
 {
-    std::vector<std::unique_ptr<QSaveFile>> files;
+    struct Pending {
+        QString from;
+        QString to;
+    };
+    QVector<Pending> files;
     for (const Output &output : outputs) {
-        if (QFileInfo(output.path).isDir())
+        const QFileInfo info(output.path);
+        if (info.isDir())
             return cannotWrite(output.path,
                                QCoreApplication::translate("Synthesis", "it is a folder"));
         if (holds(output.path, output.bytes))
             continue;
-        auto file = std::make_unique<QSaveFile>(output.path);
-        if (!file->open(QIODevice::WriteOnly) || file->write(output.bytes) != output.bytes.size() ||
-            !file->flush())
-            return cannotWrite(output.path, file->errorString());
-        files.push_back(std::move(file));
+        const QString name =
+            scratch.absolute(QLatin1String("output") + QString::number(files.size()));
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
+            file.write(output.bytes) != output.bytes.size() || !file.flush() ||
+            ::fsync(file.handle()) != 0)
+            return cannotWrite(output.path, file.errorString());
+        if (info.exists())
+            file.setPermissions(info.permissions());
+        // A link stays, and what it leads to is replaced.
+        files << Pending{name, info.exists() ? info.canonicalFilePath() : output.path};
     }
-    for (const auto &file : files) {
-        if (!file->commit())
-            return cannotWrite(file->fileName(), file->errorString());
+    for (const Pending &file : qAsConst(files)) {
+        if (std::rename(QFile::encodeName(file.from).constData(),
+                        QFile::encodeName(file.to).constData()) == 0)
+            continue;
+        if (errno != EXDEV)
+            return cannotWrite(file.to, QString::fromLocal8Bit(std::strerror(errno)));
+        // The output lies on another disk, by a link.
+        QString reason;
+        if (!Utils::FileUtils::copyFile(file.from, file.to, &reason))
+            return reason;
     }
     return {};
 }

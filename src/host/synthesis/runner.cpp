@@ -9,8 +9,6 @@
 #include "toolprocess.h"
 #include "yosysflow.h"
 
-#include <utils/fileutils.h>
-
 #include <QElapsedTimer>
 #include <QFileInfo>
 
@@ -154,7 +152,7 @@ QString Runner::Private::takeResults()
     Results results;
     QString error = m_flow->collect(&results);
     if (error.isEmpty())
-        error = placeOutputs(results.outputs);
+        error = placeOutputs(results.outputs, m_flow->scratch());
     if (!error.isEmpty())
         return error;
 
@@ -218,7 +216,8 @@ void Runner::Private::end(const QString &error)
     // Whether the log can be kept changes nothing about the run.
     const QString logFile = QFileInfo(m_runningJob.outputDir).absoluteFilePath() + u'/' +
                             m_runningJob.targetName + QLatin1String(".log");
-    if (!m_log.text().isEmpty() && Utils::FileUtils::writeFile(logFile, m_log.text(), nullptr))
+    if (!m_log.text().isEmpty() &&
+        placeOutputs({Output{logFile, m_log.text()}}, m_flow->scratch()).isEmpty())
         m_report.logFile = logFile;
     m_flow.reset();
     running = false;

@@ -1,5 +1,7 @@
 #include "toolprocess.h"
 
+#include "processguard.h"
+
 #include <QProcess>
 #include <QTimer>
 
@@ -91,8 +93,11 @@ ToolProcess::~ToolProcess()
 
 void ToolProcess::start()
 {
+    m_guard = std::make_unique<ProcessGuard>();
     m_process->start(QIODevice::ReadOnly);
     m_group = m_process->processId();
+    if (m_group > 0)
+        m_guard->watch(static_cast<pid_t>(m_group));
 }
 
 void ToolProcess::stop()
@@ -129,6 +134,7 @@ void ToolProcess::finish(const QString &failure)
         Q_EMIT lineReceived(QString::fromUtf8(m_pending));
     m_pending.clear();
     m_group = 0;
+    m_guard.reset();
     m_failure = failure;
     Q_EMIT ended();
 }

@@ -10,6 +10,8 @@
 namespace Synthesis
 {
 
+class ProcessGuard;
+
 // What is run: `name` is for people ("Yosys"), `program` the full path.
 struct Command {
     QString name;
@@ -19,7 +21,7 @@ struct Command {
 
 // One run of a command in a session and process group of its own, without a shell and without
 // standard input. Whatever the command leaves behind in its group dies with it, and all of it with
-// this object.
+// this object or this process.
 class ToolProcess : public QObject
 {
     Q_OBJECT
@@ -51,6 +53,7 @@ private:
     void signalGroup(int number);
 
     Command m_command;
+    std::unique_ptr<ProcessGuard> m_guard;
     std::unique_ptr<Process> m_process;
     QByteArray m_pending; // output after the last line end
     QString m_failure;

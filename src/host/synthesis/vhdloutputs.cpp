@@ -784,7 +784,8 @@ QString Writer::write()
 
     const QByteArray name = vhdlName(m_top);
     // Editions before 2008 bind a component to an entity that is directly visible only.
-    m_entity = context + "use work.all;\n" + "\nentity " + name + " is\n" + portClause(m_ports) + "end entity;\n";
+    m_entity = context + "use work.all;\n" + "\nentity " + name + " is\n" + portClause(m_ports) +
+               "end entity;\n";
     QByteArray components;
     const QByteArrayList used = primitives();
     for (const QByteArray &primitive : used)

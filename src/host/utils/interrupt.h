@@ -1,16 +1,18 @@
 #pragma once
 
+#include "utils_global.h"
+
 #include <QObject>
 #include <QSocketNotifier>
 
 #include <memory>
 
-namespace Workbench
+namespace Utils
 {
 
 // Turns SIGINT and SIGTERM into a Qt signal while it lives; a second one ends the program at once.
 // One object at a time.
-class Interrupt : public QObject
+class TARVO_UTILS_EXPORT Interrupt : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +24,9 @@ Q_SIGNALS:
     void received();
 
 private:
+    void onWoken();
+
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-} // namespace Workbench
+} // namespace Utils

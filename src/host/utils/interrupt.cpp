@@ -4,7 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace Workbench
+namespace Utils
 {
 
 namespace
@@ -12,20 +12,21 @@ namespace
 
 int wakePipe[2] = {-1, -1};
 
-void handle(void (*handler)(int), int flags)
+extern "C" void wake(int)
+{
+    const char byte = 1;
+    // A full pipe has woken the reader already.
+    [[maybe_unused]] const ssize_t written = ::write(wakePipe[1], &byte, 1);
+}
+
+void handle(void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
-    action.sa_flags = flags;
+    action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
     sigaction(SIGINT, &action, nullptr);
     sigaction(SIGTERM, &action, nullptr);
-}
-
-extern "C" void wakeWorkbench(int)
-{
-    const char byte = 1;
-    [[maybe_unused]] const ssize_t written = ::write(wakePipe[1], &byte, 1);
 }
 
 } // namespace
@@ -36,24 +37,27 @@ Interrupt::Interrupt(QObject *parent)
     if (::pipe2(wakePipe, O_CLOEXEC | O_NONBLOCK) != 0)
         return; // without the pipe the signals keep their default effect: they end the program
     m_notifier = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
-    connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
-        char buffer[16];
-        while (::read(wakePipe[0], buffer, sizeof buffer) > 0)
-            continue;
-        handle(SIG_DFL, SA_RESTART);
-        Q_EMIT received();
-    });
-    handle(wakeWorkbench, SA_RESTART);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &Interrupt::onWoken);
+    handle(wake);
 }
 
 Interrupt::~Interrupt()
 {
     if (!m_notifier)
         return;
-    handle(SIG_DFL, SA_RESTART);
+    handle(SIG_DFL);
     m_notifier.reset();
     ::close(wakePipe[0]);
     ::close(wakePipe[1]);
 }
 
-} // namespace Workbench
+void Interrupt::onWoken()
+{
+    char buffer[16];
+    while (::read(wakePipe[0], buffer, sizeof buffer) > 0)
+        continue;
+    handle(SIG_DFL);
+    Q_EMIT received();
+}
+
+} // namespace Utils

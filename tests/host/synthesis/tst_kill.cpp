@@ -1,0 +1,133 @@
+#include "synthesisrun.h"
+
+#include <markedprocesses.h>
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QSet>
+#include <QTimer>
+
+#include <memory>
+
+namespace
+{
+
+constexpr int rounds = 22;
+
+QByteArray bytesOf(const SynthesisRun &run, const char *suffix)
+{
+    return TestSupport::contentsOf(run.path(QLatin1String(suffix)));
+}
+
+const char *const suffixes[] = {".vg", ".vhg", ".vho", "_tmp.vhd"};
+
+} // namespace
+
+// Runs that end at a random moment. The seed of the moments is printed when a test fails;
+// TARVO_TEST_SEED repeats it.
+class TestKill : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        bool given = false;
+        m_seed = uint(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
+        if (!given)
+            m_seed = QRandomGenerator::global()->generate() & 0x7fffffff;
+        m_random.seed(m_seed);
+        qputenv(m_mark.name(), m_mark.value());
+    }
+
+    void cleanup()
+    {
+        if (QTest::currentTestFailed())
+            qWarning("TARVO_TEST_SEED=%u", m_seed);
+    }
+
+    void leavesNothingBehind_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("the tool is killed") << 0;
+        QTest::newRow("the run is cancelled") << 1;
+        QTest::newRow("the runner is destroyed") << 2;
+    }
+
+    void leavesNothingBehind()
+    {
+        QFETCH(int, way);
+        SynthesisRun reference;
+        prepare(reference);
+        QElapsedTimer clock;
+        clock.start();
+        RUN_SUCCEEDS(reference);
+        const int length = int(clock.elapsed());
+
+        QSet<QString> names;
+        for (const char *suffix : suffixes)
+            names.insert(QLatin1String("core") + QLatin1String(suffix));
+        SynthesisRun place;
+        int ended = 0;
+        for (int round = 0; round < rounds; ++round) {
+            SynthesisRun run;
+            prepare(run);
+            run.job.outputDir = place.job.outputDir;
+            const int moment = m_random.bounded(length);
+            bool happened = false;
+            std::unique_ptr<Synthesis::Runner> runner = std::make_unique<Synthesis::Runner>();
+            QSignalSpy finished(runner.get(), &Synthesis::Runner::finished);
+            QTimer::singleShot(moment, runner.get(), [&] {
+                happened = true;
+                if (way == 0) {
+                    for (const qint64 pid : m_mark.processes("yosys"))
+                        ::kill(pid_t(pid), SIGKILL);
+                } else if (way == 1) {
+                    runner->cancel();
+                }
+            });
+            runner->setJob(run.job);
+            runner->start();
+            QTRY_VERIFY_WITH_TIMEOUT(happened || !finished.isEmpty(), 60000);
+            if (way != 2)
+                QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty(), 60000);
+            const bool success = !finished.isEmpty() && finished.first().first().toInt() == 0;
+            ended += success ? 0 : 1;
+            runner.reset();
+
+            // What is killed goes when the kernel gets round to it.
+            QTRY_COMPARE(m_mark.processes(), QList<qint64>());
+            QStringList entries = TestSupport::entriesOf(place.job.outputDir);
+            entries.removeAll(QStringLiteral("core.log"));
+            QCOMPARE(QSet<QString>(entries.begin(), entries.end()) - names, QSet<QString>());
+            for (const char *suffix : suffixes)
+                QVERIFY2(!QFile::exists(place.path(QLatin1String(suffix))) ||
+                             bytesOf(place, suffix) == bytesOf(reference, suffix),
+                         suffix);
+            QVERIFY(success || entries.isEmpty() || entries.size() == int(std::size(suffixes)));
+        }
+        QVERIFY2(ended > rounds / 2, qPrintable(QString::number(ended)));
+
+        SynthesisRun next;
+        prepare(next);
+        next.job.outputDir = place.job.outputDir;
+        RUN_SUCCEEDS(next);
+        for (const char *suffix : suffixes)
+            QVERIFY(bytesOf(next, suffix) == bytesOf(reference, suffix));
+        QCOMPARE(TestSupport::entriesOf(place.job.outputDir).size(), 1 + int(std::size(suffixes)));
+    }
+
+private:
+    static void prepare(SynthesisRun &run)
+    {
+        run.job.options[QStringLiteral("write_vhdl")] = true;
+        run.addFile(QStringLiteral(DESIGNS_DIR "/small.v"));
+    }
+
+    TestSupport::Mark m_mark;
+    QRandomGenerator m_random;
+    uint m_seed = 0;
+};
+
+TARVO_TEST_MAIN(QCoreApplication, TestKill)
+#include "tst_kill.moc"
