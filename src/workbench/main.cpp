@@ -93,8 +93,7 @@ bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &w
         }
         device = findDevice(options.device);
         if (!options.device.isEmpty() && device.isNull()) {
-            fail(MainWindow::tr("Unknown device \"%1\"; \"orixm1 devices\" lists the known ones.")
-                     .arg(options.device));
+            fail(MainWindow::tr("Unknown device \"%1\".").arg(options.device));
             return false;
         }
         if (options.device.isEmpty() && projectFile.isEmpty()) {
@@ -143,8 +142,8 @@ int main(int argc, char *argv[])
     if (!hasDisplay() && !given(argc, argv, "-platform")) {
         if (options.parse(argc, argv, &status) == Options::Leave)
             return status;
-        return fail(MainWindow::tr("There is no display to open the window on. --render-diagram "
-                                   "works without one, and so does the command \"orixm1\"."));
+        return fail(MainWindow::tr(
+            "There is no display to open the window on; only --render-diagram works without one."));
     }
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

@@ -305,7 +305,7 @@ private Q_SLOTS:
     void largeFilesComeInPieces()
     {
         QByteArray text;
-        while (text.size() < 3 * EditorPage::pieceSize)
+        while (text.size() < 3 * EditorPage::pieceLimit)
             text +=
                 "  TV_LUT4 #(.INIT(16'h8000)) lut_" + QByteArray::number(text.size()) + " ();\n";
         write(m_path, text);
@@ -329,7 +329,7 @@ private Q_SLOTS:
 
     void closingALargeFileWhileItIsReadAsksNothing()
     {
-        write(m_path, QByteArray(3 * EditorPage::pieceSize, 'x'));
+        write(m_path, QByteArray(3 * EditorPage::pieceLimit, 'x'));
         open();
         const auto boxes = boxesOf([this] { m_tabs->closeTab(0); });
         QVERIFY(boxes.isEmpty());

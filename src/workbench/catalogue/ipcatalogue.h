@@ -69,8 +69,8 @@ public:
     bool openIp(int index, const QString &folder, const QString &ipcFile, QString *error);
 
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
-    // whose name is the library's ("libTarvoOrixM1.so": "TarvoOrixM1") when upper and lower case,
-    // "_" and "-" count for nothing ("tarvo_orix_m1"). Without one it is the library's own folder.
+    // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,
+    // "_" and "-" count for nothing ("my_fine_ip"). Without one it is the library's own folder.
     static QString dataFolderOf(const QString &library, const QStringList &folders);
 
 private:

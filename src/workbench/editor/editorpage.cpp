@@ -76,13 +76,13 @@ bool EditorPage::load(QString *error)
     m_inserted = 0;
     delete m_highlighter;
     m_highlighter = nullptr;
-    if (bytes.size() <= highlightLimit)
+    if (bytes.size() <= pieceLimit)
         m_highlighter = Highlighting::attach(m_editor->document(), m_path, palette());
 
     const QString text = m_format.decode(bytes);
     if (wasShown)
         m_wantedLine = line;
-    if (text.size() > pieceSize) {
+    if (bytes.size() > pieceLimit) {
         m_rest = text;
         m_editor->setUndoRedoEnabled(false);
         m_editor->clear();
@@ -102,7 +102,7 @@ bool EditorPage::load(QString *error)
 void EditorPage::insertPiece()
 {
     // Whole lines: a piece never parts a line end from its line.
-    int end = qMin(m_rest.size(), m_inserted + int(pieceSize));
+    int end = qMin(m_rest.size(), m_inserted + pieceSize);
     if (end < m_rest.size()) {
         const int lineEnd = m_rest.lastIndexOf(u'\n', end - 1);
         if (lineEnd > m_inserted)

@@ -17,15 +17,15 @@ class InfoBar;
 
 // One file in the editor. It can be read at first; startEditing() lets it be changed.
 //
-// Files above `pieceSize` are shown piece by piece while the program goes on; those above
-// `highlightLimit` stay uncoloured, and those above `sizeLimit` are refused.
+// Files above `pieceLimit` are shown piece by piece while the program goes on, and without colours;
+// those above `sizeLimit` are refused.
 class EditorPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    static constexpr qint64 pieceSize = 1 << 20; // in bytes, as the limits below
-    static constexpr qint64 highlightLimit = 2 << 20;
+    static constexpr int pieceSize = 1 << 18;  // in characters
+    static constexpr int pieceLimit = 1 << 20; // in bytes
     static constexpr qint64 sizeLimit = 256 << 20;
 
     explicit EditorPage(const QString &path, QWidget *parent = nullptr);

@@ -54,7 +54,7 @@ public:
     }
 
     // The exit code, or -1000 if the run did not end.
-    int run(int timeoutMs = 60000)
+    int run(int timeoutMs = 240000)
     {
         const int before = finished.count();
         start();
