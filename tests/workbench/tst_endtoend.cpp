@@ -8,7 +8,6 @@
 #include <workbench/results/resultpage.h>
 
 #include <ipcore/pinfigureview.h>
-#include <ipcore/synthesishelper.h>
 #include <ipcore/synthesismonitor.h>
 
 #include <QCheckBox>
@@ -58,13 +57,6 @@ bool switchOn(QWidget *dialog, const char *checkBox)
         QTest::keyClick(view, Qt::Key_Return);
     }
     return switched;
-}
-
-// A process that has ended but was not waited for is not alive.
-bool isAlive(qint64 process)
-{
-    const QByteArray stat = contentsOf(QStringLiteral("/proc/%1/stat").arg(process));
-    return !stat.isEmpty() && stat.mid(stat.lastIndexOf(')') + 2, 1) != "Z";
 }
 
 QString pinNames(const ResultPage *page)
@@ -186,6 +178,7 @@ private Q_SLOTS:
         window()->openProject(m_bench->makeProject());
         const FakeTool tool("sleeping");
         bool cancelled = false;
+        const QObject scope; // of the connection below
         const ModalWatcher watcher([&](QWidget *modal) {
             if (isIpDialog(modal)) {
                 later(modal, [modal] { Bench::ok(modal)->click(); });
@@ -193,7 +186,7 @@ private Q_SLOTS:
                 auto *cancel =
                     modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
                 connect(&IPCore::SynthesisMonitor::instance(),
-                        &IPCore::SynthesisMonitor::runFinished, this,
+                        &IPCore::SynthesisMonitor::runFinished, &scope,
                         [&cancelled](const Synthesis::RunReport &report) {
                             cancelled = report.cancelled;
                         });
@@ -213,35 +206,6 @@ private Q_SLOTS:
         QVERIFY(m_bench->tabTexts().isEmpty());
         QCOMPARE(window()->findChild<QLabel *>(QStringLiteral("runLabel"))->text(),
                  QStringLiteral("Synthesis cancelled"));
-    }
-
-    void aRunEndsWithTheWindow()
-    {
-        window()->openProject(m_bench->makeProject());
-        const FakeTool tool("sleeping");
-        QSignalSpy closed(window(), &MainWindow::closed);
-        QList<qint64> processes;
-        const ModalWatcher watcher([&](QWidget *modal) {
-            if (isIpDialog(modal) && processes.isEmpty())
-                later(modal, [modal] { Bench::ok(modal)->click(); });
-        });
-        connect(&IPCore::SynthesisMonitor::instance(), &IPCore::SynthesisMonitor::runStarted,
-                window(), [&](IPCore::SynthesisHelper *helper) {
-                    connect(
-                        helper, &IPCore::SynthesisHelper::logReceived, window(),
-                        [&](const QString &line) { // "group 12 child 34"
-                            const QStringList words = line.split(u' ');
-                            processes = {words.value(1).toLongLong(), words.value(3).toLongLong()};
-                            QTimer::singleShot(0, window(), &MainWindow::shutDown);
-                        });
-                });
-        window()->createSelectedIp(0); // returns though nobody closes its dialog
-        QTRY_COMPARE(closed.size(), 1);
-        QCOMPARE(processes.size(), 2);
-        for (const qint64 process : qAsConst(processes)) {
-            QVERIFY(process > 1);
-            QTRY_VERIFY(!isAlive(process));
-        }
     }
 
     void anIpDialogThatIsCancelledLeavesNothing()
