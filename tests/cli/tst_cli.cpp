@@ -613,11 +613,11 @@ void tst_Cli::interruptStopsTheToolToo()
         QProcess process;
         process.setProcessEnvironment(m_environment);
         process.start(QStringLiteral(TARVO_COMMAND), {QStringLiteral("generate"), config()});
-        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), 240000);
         const pid_t pid = pid_t(TestSupport::contentsOf(pidFile).trimmed().toLongLong());
         QVERIFY(pid > 1 && ::kill(pid, 0) == 0);
         QCOMPARE(::kill(pid_t(process.processId()), signal), 0);
-        QVERIFY(process.waitForFinished(60000));
+        QVERIFY(process.waitForFinished(240000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 130);
         QVERIFY(::kill(pid, 0) != 0);
@@ -655,7 +655,7 @@ void tst_Cli::generatesVhdl()
         QProcess ghdl;
         ghdl.setProcessChannelMode(QProcess::MergedChannels);
         ghdl.start(QStringLiteral("ghdl"), command);
-        QVERIFY(ghdl.waitForFinished(60000));
+        QVERIFY(ghdl.waitForFinished(240000));
         const QByteArray output = ghdl.readAll();
         QVERIFY2(ghdl.exitCode() == 0 && output.isEmpty(), output.constData());
     }

@@ -104,7 +104,7 @@ void tst_CliKill::leavesNothingBehind()
     QElapsedTimer clock;
     clock.start();
     auto reference = start("reference");
-    QVERIFY(reference->waitForFinished(60000));
+    QVERIFY(reference->waitForFinished(240000));
     const int length = int(clock.elapsed());
     QVERIFY2(reference->exitCode() == 0, reference->readAll().constData());
     const QStringList outputs = TestSupport::entriesOf(path("reference"));
@@ -121,7 +121,7 @@ void tst_CliKill::leavesNothingBehind()
             if (process->state() != QProcess::NotRunning)
                 ::kill(pid_t(process->processId()), signal);
         });
-        QTRY_VERIFY_WITH_TIMEOUT(process->state() == QProcess::NotRunning, 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(process->state() == QProcess::NotRunning, 240000);
         killed += happened ? 1 : 0;
         // What is killed goes when the kernel gets round to it.
         QTRY_COMPARE(m_mark.processes(), QList<qint64>());
@@ -143,7 +143,7 @@ void tst_CliKill::leavesNothingBehind()
     QVERIFY2(killed > rounds / 2, qPrintable(QString::number(killed)));
 
     auto last = start("out");
-    QVERIFY(last->waitForFinished(60000));
+    QVERIFY(last->waitForFinished(240000));
     QVERIFY2(last->exitCode() == 0, last->readAll().constData());
     QCOMPARE(TestSupport::entriesOf(path("out/temp/tv_orix_m1")), results);
     for (const QString &name : outputs)
@@ -161,7 +161,7 @@ void tst_CliKill::takesTheToolsChildrenAlong()
     QTRY_COMPARE_WITH_TIMEOUT(m_mark.processes("sleep").size(), 1, 60000);
     QVERIFY(m_mark.processes().size() >= 3);
     ::kill(pid_t(process->processId()), SIGKILL);
-    QVERIFY(process->waitForFinished(60000));
+    QVERIFY(process->waitForFinished(240000));
     QTRY_COMPARE(m_mark.processes(), QList<qint64>());
 }
 

@@ -205,7 +205,7 @@ QByteArray verilogDriver(const Box &box, int seed)
     return text + "endmodule\n";
 }
 
-QByteArray verilogBench(const QVector<Port> &ports, int cycles)
+QByteArray verilogBench(const QVector<Port> &ports, bool boxesHaveClocks, int cycles)
 {
     QByteArray text = "module tb;\n    event drive, drive_clocks, record, sample;\n"
                       "    integer seed = 1, cycle, stimulus, trace;\n";
@@ -223,8 +223,8 @@ QByteArray verilogBench(const QVector<Port> &ports, int cycles)
                     " = 0;\n    assign (weak1, weak0) " + port.name + " = d_" + port.name + ";\n";
         connections << '.' + port.name + '(' + port.name + ')';
         if (port.direction == "in" && port.isClock() && port.name != "HCLK")
-            clocks += "            if ($random(seed) & 1) " + port.name + " = !" + port.name +
-                      ";\n            step;\n";
+            clocks += "            if ($random(seed) & 1) begin\n                " + port.name +
+                      " = !" + port.name + ";\n                step;\n            end\n";
     }
     const QByteArrayList sources{joined(ports, "in", ""), joined(ports, "inout", "d_")};
     const QByteArrayList results{joined(ports, "out", ""), joined(ports, "inout", "")};
@@ -248,8 +248,8 @@ QByteArray verilogBench(const QVector<Port> &ports, int cycles)
             QByteArray::number(cycles) +
             "; cycle = cycle + 1) begin\n            HCLK = 1;\n            step;\n"
             "            -> drive;\n            change;\n            step;\n" +
-            clocks +
-            "            -> drive_clocks;\n            step;\n            HCLK = 0;\n            "
+            clocks + (boxesHaveClocks ? "            -> drive_clocks;\n            step;\n" : "") +
+            "            HCLK = 0;\n            "
             "step;\n"
             "        end\n        $finish;\n    end\nendmodule\n";
     return text;
@@ -465,7 +465,7 @@ int main(int argc, char *argv[])
         fail("usage: comparenetlist ORIXM1 RTL-FOLDER PROGRAM-FOLDER TEST-FOLDER CONFIGURATION "
              "[CYCLES]");
     const QString rtl = arguments.at(2);
-    const int cycles = arguments.value(6, QStringLiteral("1500")).toInt();
+    const int cycles = arguments.value(6, QStringLiteral("4000")).toInt();
 
     QTemporaryDir folder;
     const auto path = [&](const char *name) { return folder.filePath(QLatin1String(name)); };
@@ -512,7 +512,12 @@ int main(int argc, char *argv[])
         drivers += verilogDriver(boxes.at(i), 100 + i) + '\n';
         vhdlDrivers += vhdlDriver(boxes.at(i));
     }
-    write(path("bench.v"), "`timescale 1ns / 1ns\n" + verilogBench(ports, cycles));
+    const bool boxesHaveClocks = std::any_of(boxes.begin(), boxes.end(), [](const Box &box) {
+        return std::any_of(box.ports.begin(), box.ports.end(), [](const Port &port) {
+            return port.direction == "out" && port.isClock();
+        });
+    });
+    write(path("bench.v"), "`timescale 1ns / 1ns\n" + verilogBench(ports, boxesHaveClocks, cycles));
     write(path("drivers.v"), drivers);
     write(path("bench.vhd"), vhdlDrivers + vhdlBench(ports));
 

@@ -42,25 +42,49 @@
         lanes = choice[4] ? 4'd0 : choice[5] ? 4'b1111 : choice[3:0];
     endfunction
 
+    // For a while most transfers go to one block: first it is set up, then it is left to work.
+    integer     left = 0, setup = 0;
+    reg  [31:0] block = 32'd0;
+
+    task choose;
+        begin
+            left = 64 + (any(0) & 255);
+            setup = 24;
+            block = any(0) & 32'h0000f000;
+            block[31:24] = region(any(0));
+            if (any(0) % 8 == 0) block[23:0] = any(0);
+            if (block[31:24] == `ORIX_REGION_APBEXT) block[23:20] = any(0);
+        end
+    endtask
+
+    function [31:0] data(input [31:0] choice);
+        case (choice[2:0])
+            0, 1: data = any(0);
+            2: data = 32'd1 << choice[7:3];
+            3: data = {choice[10:8], any(0) & 29'h0000_00ff};
+            4: data = 32'hffff_ffff;
+            default: data = choice[9:3];
+        endcase
+    endfunction
+
     always @(tb.sample) ready = HREADY === 1'b1;
 
     task act;
         begin
             if (ready) begin
                 if (r_HTRANS[1]) transfers = transfers + 1;
+                if (left == 0) choose;
+                left = left - 1;
+                if (setup > 0) setup = setup - 1;
                 r_HWDATA = next_data;
-                next_data = any(0);
-                r_HTRANS = any(0) % 4 != 0 ? 2'b10 : 2'b00;
-                r_HWRITE = any(0);
-                r_HSIZE = any(0) % 4 == 0 ? 3'd0 : any(0) % 8 == 0 ? 3'd1 : 3'd2;
+                next_data = data(any(0));
+                r_HTRANS = setup > 0 || any(0) % 4 == 0 ? 2'b10 : 2'b00;
+                r_HWRITE = setup > 0 ? any(0) % 4 != 0 : any(0) % 8 == 0;
+                r_HSIZE = any(0) % 8 == 0 ? 3'd0 : any(0) % 8 == 0 ? 3'd1 : 3'd2;
                 r_HPROT = any(0);
-                r_HADDR = any(0) & 32'h000000fc;
-                r_HADDR[31:24] = region(any(0));
-                // Mostly the first registers of a block.
-                if (any(0) % 2) r_HADDR[7:5] = 3'd0;
-                if (r_HADDR[31:24] == `ORIX_REGION_APBINT || r_HADDR[31:24] == `ORIX_REGION_APBEXT)
-                    r_HADDR[15:12] = any(0);
-                if (any(0) % 32 == 0) r_HADDR[23:0] = any(0);
+                r_HADDR = block;
+                if (any(0) % 16 == 0) r_HADDR = {region(any(0)), 24'h00ffff & any(0)};
+                r_HADDR[7:0] = any(0) % 8 == 0 ? any(0) & 8'hfc : any(0) & 8'h1c;
                 if (r_HSIZE == 3'd0) r_HADDR[1:0] = any(0);
                 if (r_HSIZE == 3'd1) r_HADDR[1:0] = any(0) & 2;
             end
@@ -78,8 +102,8 @@
             r_DBGITCMWDATA = any(0);
             r_DBGDTCMWDATA = any(0);
             {r_SWDO, r_SWDOEN, r_TDO, r_TDOEN} = any(0);
-            r_SYSRESETREQ = any(0) % 512 == 0;
-            r_LOCKUP = any(0) % 512 == 0;
+            r_SYSRESETREQ = any(0) % 1024 == 0;
+            r_LOCKUP = any(0) % 1024 == 0;
             r_HALTED = any(0) % 64 == 0;
         end
     endtask

@@ -54,7 +54,7 @@ public:
     }
 
     // The exit code, or -1000 if the run did not end.
-    int run(int timeoutMs = 60000)
+    int run(int timeoutMs = 240000)
     {
         const int before = finished.count();
         start();
@@ -102,7 +102,7 @@ inline int execute(const QString &program, const QStringList &arguments, QByteAr
     process.setWorkingDirectory(folder);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
-    if (!process.waitForFinished(60000))
+    if (!process.waitForFinished(240000))
         return -1;
     *output = process.readAll();
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;

@@ -88,9 +88,9 @@ private Q_SLOTS:
             });
             runner->setJob(run.job);
             runner->start();
-            QTRY_VERIFY_WITH_TIMEOUT(happened || !finished.isEmpty(), 60000);
+            QTRY_VERIFY_WITH_TIMEOUT(happened || !finished.isEmpty(), 240000);
             if (way != 2)
-                QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty(), 60000);
+                QTRY_VERIFY_WITH_TIMEOUT(!finished.isEmpty(), 240000);
             const bool success = !finished.isEmpty() && finished.first().first().toInt() == 0;
             ended += success ? 0 : 1;
             runner.reset();

@@ -70,9 +70,9 @@ private Q_SLOTS:
         static const QRegularExpression number(QStringLiteral("-(\\d+)"));
         const int size = number.match(device.device()).captured(1).toInt();
         QVERIFY(size > 0);
-        QCOMPARE(device.resources().lut4, 1152 * size);
-        QCOMPARE(device.resources().flipFlops, 1152 * size);
-        QCOMPARE(device.resources().carry, 1152 * size);
+        QCOMPARE(device.resources().lut4, 1000 * size);
+        QCOMPARE(device.resources().flipFlops, 1000 * size);
+        QCOMPARE(device.resources().carry, 1000 * size);
         QCOMPARE(device.resources().blockRam, 4 * size + 16);
     }
 };

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Runs the testbench of the whole subsystem (tests/rtl/tb_top.v) on the simulation model of everything in place of the
+# sources. Success is a line "PASS" and nothing that failed.
+#   run-top-bench.sh ORIXM1 RTL-FOLDER RTL-TESTS CONFIGURATION
+set -u
+orixm1=$1 rtl=$2 tests=$3 config=$4
+tmp=$(mktemp -d) || exit 2
+trap 'rm -rf "$tmp"' EXIT
+"$orixm1" generate "$config" --out "$tmp/ip" > /dev/null || exit 1
+# The testbench brings a processor of its own.
+awk '/^\(\* blackbox \*\)$/ { held = $0; next }
+     held != "" { skip = /^module CortexM1Core/; if (!skip) print held; held = "" }
+     !skip { print }
+     /^endmodule/ { skip = 0 }' "$tmp/ip/tarvo_orix_m1.vo" > "$tmp/model.v"
+iverilog -g2005 -s tb -I "$tests" -I "$rtl" "-DPROGRAM_DIR=\"$tests/program\"" -o "$tmp/bench" \
+    "$tmp/model.v" "$tests/tb_top.v" || exit 1
+(cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
+status=$?
+cat "$tmp/log"
+[[ $status -eq 0 ]] && grep -qx PASS "$tmp/log" && ! grep -qiE 'fail|error' "$tmp/log"
