@@ -62,9 +62,11 @@ void loadPlugins(IpCatalogue &catalogue, const Options &options, const QSettings
         catalogue.loadFolder(folder, true);
 }
 
-// The first device in database order that has this id or name.
+// The first device in database order that has this id or name; null for an empty one.
 DEV::DeviceArg findDevice(const QString &idOrName)
 {
+    if (idOrName.isEmpty())
+        return {};
     DEV::ChipFilter filter;
     filter.id = idOrName;
     return Core::IdeCore::deviceDataBase()->filterDevice(filter).value(0);

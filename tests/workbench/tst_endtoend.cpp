@@ -178,6 +178,7 @@ private Q_SLOTS:
         window()->openProject(m_bench->makeProject());
         const FakeTool tool("sleeping");
         bool cancelled = false;
+        const QObject scope; // of the connection below
         const ModalWatcher watcher([&](QWidget *modal) {
             if (isIpDialog(modal)) {
                 later(modal, [modal] { Bench::ok(modal)->click(); });
@@ -185,7 +186,7 @@ private Q_SLOTS:
                 auto *cancel =
                     modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
                 connect(&IPCore::SynthesisMonitor::instance(),
-                        &IPCore::SynthesisMonitor::runFinished, this,
+                        &IPCore::SynthesisMonitor::runFinished, &scope,
                         [&cancelled](const Synthesis::RunReport &report) {
                             cancelled = report.cancelled;
                         });

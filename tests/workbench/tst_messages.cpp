@@ -13,6 +13,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTreeView>
 #include <QtTest>
 
@@ -202,6 +203,12 @@ private Q_SLOTS:
         QCOMPARE(list->item(2)->text(), QStringLiteral("temp/lamp_tmp.v"));
         QSignalSpy opened(&page, &ResultPage::openRequested);
         page.show();
+        auto *change = page.findChild<QPushButton *>(QStringLiteral("changeIpButton"));
+        QVERIFY(change->isHidden()); // no configuration among the files
+        page.setDelivered({QStringLiteral("/p/lamp.v"), QStringLiteral("/p/lamp.ipc")});
+        QVERIFY(!change->isHidden());
+        change->click();
+        QCOMPARE(opened.takeFirst().first().toString(), QStringLiteral("/p/lamp.ipc"));
         list->setCurrentRow(0);
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(opened.size(), 1);

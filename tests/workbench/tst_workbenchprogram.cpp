@@ -4,6 +4,8 @@
 
 #include <workbench/window/options.h>
 
+#include <dev/devicedb.h>
+
 #include <QCoreApplication>
 #include <QProcess>
 #include <QRegularExpression>
@@ -241,7 +243,67 @@ private Q_SLOTS:
         QCOMPARE(process.exitCode(), 0);
     }
 
+    void makesAnIpWithoutClicking()
+    {
+        const QTemporaryDir dir;
+        const DEV::DeviceArg device = DEV::DeviceDb::bundled().filterDevice(tv5k()).constFirst();
+        const QString ipc = dir.filePath(QStringLiteral("ip ö/blinker/blinker.ipc"));
+        runUntil({QStringLiteral("--new-ip"), QStringLiteral("blinker"), QStringLiteral("--device"),
+                  device.device(), QStringLiteral("--dir"), dir.filePath(QStringLiteral("ip ö"))},
+                 ipc, dir);
+        QVERIFY(contentsOf(ipc).contains(device.id().toUtf8()));
+    }
+
+    void takesTheDeviceOfTheProject()
+    {
+        const QTemporaryDir dir;
+        const QString device = DEV::DeviceDb::bundled().filterDevice(tv5k()).constLast().id();
+        write(dir.filePath(QStringLiteral("p.tvproj")),
+              "{\"format\": 1, \"device\": \"" + device.toUtf8() + "\"}");
+        const QString ipc = dir.filePath(QStringLiteral("blinker/blinker.ipc"));
+        runUntil({QStringLiteral("--new-ip"), QStringLiteral("fake.blinker")}, ipc, dir);
+        QVERIFY(contentsOf(ipc).contains(device.toUtf8()));
+    }
+
+    void opensAConfigurationInItsDialog()
+    {
+        const QTemporaryDir dir;
+        const QString ipc = dir.filePath(QStringLiteral("x.ipc"));
+        write(ipc, "[General]\ntype=fake.blinker\n");
+        runUntil({QStringLiteral("x.ipc")}, ipc + QStringLiteral(".opened"), dir);
+    }
+
 private:
+    static DEV::ChipFilter tv5k()
+    {
+        DEV::ChipFilter filter;
+        filter.series = QStringLiteral("TV5K");
+        return filter;
+    }
+
+    // Starts the program with a plug-in that accepts its dialogs by itself, and ends it when the
+    // file has been made.
+    static void runUntil(const QStringList &arguments, const QString &file,
+                         const QTemporaryDir &dir)
+    {
+        QProcessEnvironment env = environment(dir);
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        env.insert(QStringLiteral("FAKE_ACCEPT"), QStringLiteral("1"));
+        QProcess process;
+        process.setProcessEnvironment(env);
+        process.setWorkingDirectory(dir.path());
+        process.start(QStringLiteral(TARVO_WORKBENCH),
+                      QStringList({QStringLiteral("--plugin-dir"),
+                                   QStringLiteral(TARVO_FAKE_PLUGINS "/blinker")}) +
+                          arguments);
+        QVERIFY(process.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(!contentsOf(file).isEmpty() || process.waitForFinished(0), 60000);
+        QVERIFY2(!contentsOf(file).isEmpty(), process.readAllStandardError().constData());
+        process.terminate();
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 0);
+    }
+
     static QString example() { return QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc"); }
 
     static Outcome run(const QStringList &arguments, const QProcessEnvironment &env,

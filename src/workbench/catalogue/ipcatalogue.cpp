@@ -65,7 +65,7 @@ QString IpCatalogue::dataFolderOf(const QString &library, const QStringList &fol
     if (name.startsWith(QLatin1String("lib")))
         name.remove(0, 3);
     const QString wanted = plainName(name);
-    const QString own = QFileInfo(library).absolutePath();
+    QString own = QFileInfo(library).absolutePath();
     for (const QString &folder : QStringList(own) + folders) {
         const QStringList found = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         for (const QString &candidate : found) {

@@ -113,7 +113,7 @@ QString IpSession::typeOf(const QString &ipcFile, QString *error)
         return {};
     }
     const QSettings settings(ipcFile, QSettings::IniFormat);
-    const QString type = settings.value(QStringLiteral("type")).toString();
+    QString type = settings.value(QStringLiteral("type")).toString();
     if (type.isEmpty())
         *error = tr("\"%1\" is no IP configuration: it has no entry \"type\".")
                      .arg(QDir::toNativeSeparators(ipcFile));

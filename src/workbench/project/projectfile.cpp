@@ -91,7 +91,8 @@ bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectF
     const QJsonValue files = root.take(filesKey);
     if (!files.isArray() && !files.isUndefined())
         return fail(path, tr("\"files\" is no list"), error);
-    for (const QJsonValue &value : files.toArray()) {
+    const QJsonArray entries = files.toArray();
+    for (const auto value : entries) {
         if (!value.isString() || value.toString().isEmpty())
             return fail(path, tr("\"files\" holds an entry that is no file name"), error);
         if (!result.files.contains(value.toString()))

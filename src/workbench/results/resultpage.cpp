@@ -12,11 +12,14 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Workbench
 {
@@ -43,6 +46,11 @@ QTableView *makeTable(QAbstractItemModel *model, const QString &name)
     return table;
 }
 
+bool isConfiguration(const QString &path)
+{
+    return path.endsWith(QLatin1String(".ipc"));
+}
+
 QGroupBox *makeGroup(const QString &title, QWidget *content)
 {
     auto *group = new QGroupBox(title);
@@ -58,6 +66,7 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent)
     , m_heading(new QLabel)
     , m_summary(new QLabel)
+    , m_change(new QPushButton(tr("&Change the IP…")))
     , m_left(new QTabWidget)
     , m_figure(new IPCore::PinFigureView)
     , m_resources(new ResourceModel(this))
@@ -101,8 +110,19 @@ ResultPage::ResultPage(QWidget *parent)
     halves->setSizes({1000, 1000});
     halves->setChildrenCollapsible(false);
 
+    m_change->setObjectName(QStringLiteral("changeIpButton"));
+    m_change->setToolTip(tr("Opens its dialog again; OK there generates it anew"));
+    m_change->hide();
+    connect(m_change, &QPushButton::clicked, this, [this] {
+        const auto ipc = std::find_if(m_delivered.cbegin(), m_delivered.cend(), isConfiguration);
+        if (ipc != m_delivered.cend())
+            Q_EMIT openRequested(*ipc);
+    });
+    auto *top = new QHBoxLayout;
+    top->addWidget(m_heading, 1);
+    top->addWidget(m_change);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_heading);
+    layout->addLayout(top);
     layout->addWidget(m_summary);
     layout->addWidget(halves, 1);
     setFocusProxy(m_files);
@@ -126,6 +146,7 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
     if (!report.logFile.isEmpty())
         m_made.append(report.logFile);
     m_delivered.clear();
+    m_change->hide();
     showFiles();
 }
 
@@ -155,6 +176,7 @@ void ResultPage::fitFigure()
 void ResultPage::setDelivered(const QStringList &files)
 {
     m_delivered = files;
+    m_change->setVisible(std::any_of(files.begin(), files.end(), isConfiguration));
     showFiles();
 }
 

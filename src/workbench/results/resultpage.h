@@ -6,6 +6,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QListWidget)
+QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QTabWidget)
 QT_FORWARD_DECLARE_CLASS(QTableView)
 
@@ -30,7 +31,8 @@ public:
     explicit ResultPage(QWidget *parent = nullptr);
 
     void setReport(const Synthesis::RunReport &report);
-    // The files that the IP delivered, shown before those of the run itself. Full paths.
+    // The files that the IP delivered, shown before those of the run itself. Full paths. With a
+    // configuration among them the page offers to change the IP.
     void setDelivered(const QStringList &files);
     QStringList files() const;
     IPCore::PinFigureView *figure() const { return m_figure; }
@@ -49,6 +51,7 @@ private:
 
     QLabel *m_heading;
     QLabel *m_summary;
+    QPushButton *m_change;
     QTabWidget *m_left;
     IPCore::PinFigureView *m_figure;
     ResourceModel *m_resources;

@@ -45,8 +45,9 @@ MainWindow::Actions::Actions(MainWindow *window)
         if (EditorPage *page = window->m_tabs->currentPage())
             window->m_tabs->savePage(page);
     });
-    saveAll = add(file, tr("Save &All"), {}, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-                  [window] { window->m_tabs->saveAll(); });
+    saveAll =
+        add(file, tr("Save &All"), {}, QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_S),
+            [window] { window->m_tabs->saveAll(); });
     closeTab = add(file, tr("&Close Tab"), {}, QKeySequence::Close,
                    [window] { window->m_tabs->closeTab(window->m_tabs->currentIndex()); });
     file->addSeparator();
@@ -54,7 +55,7 @@ MainWindow::Actions::Actions(MainWindow *window)
 
     QMenu *edit = bar->addMenu(tr("&Edit"));
     startEditing = add(edit, tr("&Edit File"), QStringLiteral("edit"),
-                       QKeySequence(Qt::CTRL | Qt::Key_E), [window] {
+                       QKeySequence(int(Qt::CTRL) + Qt::Key_E), [window] {
                            if (EditorPage *page = window->m_tabs->currentPage())
                                page->startEditing();
                        });
@@ -85,9 +86,9 @@ MainWindow::Actions::Actions(MainWindow *window)
                withPage([](EditorPage *page) { page->findBar()->start(); }));
     findNext = add(edit, tr("Find &Next"), {}, QKeySequence(Qt::Key_F3),
                    withPage([](EditorPage *page) { page->findBar()->findNext(); }));
-    findPrevious = add(edit, tr("Find Pre&vious"), {}, QKeySequence(Qt::SHIFT | Qt::Key_F3),
+    findPrevious = add(edit, tr("Find Pre&vious"), {}, QKeySequence(int(Qt::SHIFT) + Qt::Key_F3),
                        withPage([](EditorPage *page) { page->findBar()->findPrevious(); }));
-    goToLine = add(edit, tr("&Go to Line…"), {}, QKeySequence(Qt::CTRL | Qt::Key_G),
+    goToLine = add(edit, tr("&Go to Line…"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_G),
                    [window] { window->goToLine(); });
 
     QMenu *view = bar->addMenu(tr("&View"));
@@ -97,20 +98,40 @@ MainWindow::Actions::Actions(MainWindow *window)
     view->addAction(window->m_outputDock->toggleViewAction());
     view->addSeparator();
     showResults = add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
-                      QKeySequence(Qt::CTRL | Qt::Key_R), [window] { window->showResults(); });
+                      QKeySequence(int(Qt::CTRL) + Qt::Key_R), [window] { window->showResults(); });
     showResults->setEnabled(false);
     add(view, tr("&Next Message"), {}, QKeySequence(Qt::Key_F8),
         [window] { window->output()->messages()->step(1); });
-    add(view, tr("&Previous Message"), {}, QKeySequence(Qt::SHIFT | Qt::Key_F8),
+    add(view, tr("&Previous Message"), {}, QKeySequence(int(Qt::SHIFT) + Qt::Key_F8),
         [window] { window->output()->messages()->step(-1); });
     view->addSeparator();
-    add(view, tr("Next &Tab"), {}, QKeySequence(Qt::CTRL | Qt::Key_PageDown), [window] {
+    add(view, tr("Next &Tab"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_PageDown), [window] {
         if (const int count = window->m_tabs->count())
             window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + 1) % count);
     });
-    add(view, tr("Pre&vious Tab"), {}, QKeySequence(Qt::CTRL | Qt::Key_PageUp), [window] {
+    add(view, tr("Pre&vious Tab"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_PageUp), [window] {
         if (const int count = window->m_tabs->count())
             window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + count - 1) % count);
+    });
+    const auto addPlace = [&](const QString &text, Qt::Key key, auto place) {
+        add(view, text, {}, QKeySequence(int(Qt::CTRL) + key), place);
+    };
+    addPlace(tr("Go to Pro&ject"), Qt::Key_1, [window] {
+        window->m_projectDock->show();
+        window->m_projectTree->setFocus();
+    });
+    addPlace(tr("Go to Catalo&gue"), Qt::Key_2, [window] {
+        window->m_catalogueDock->show();
+        window->m_catalogueView->setFocus();
+    });
+    addPlace(tr("Go to &Editor"), Qt::Key_3, [window] {
+        if (QWidget *page = window->m_tabs->currentWidget())
+            page->setFocus();
+    });
+    addPlace(tr("Go to &Messages"), Qt::Key_4, [window] {
+        window->m_outputDock->show();
+        window->output()->showMessages();
+        window->output()->messages()->setFocus();
     });
     view->addSeparator();
     add(view, tr("&Larger Text"), {}, QKeySequence::ZoomIn,
@@ -120,7 +141,7 @@ MainWindow::Actions::Actions(MainWindow *window)
 
     QMenu *project = bar->addMenu(tr("&Project"));
     createIp = add(project, tr("Create &IP…"), QStringLiteral("ip"),
-                   QKeySequence(Qt::CTRL | Qt::Key_I), [window] {
+                   QKeySequence(int(Qt::CTRL) + Qt::Key_I), [window] {
                        window->m_catalogueDock->show();
                        window->m_catalogueDock->raise();
                        window->m_catalogueView->setFocus();
@@ -129,25 +150,30 @@ MainWindow::Actions::Actions(MainWindow *window)
     openSelected = add(project, tr("&Open Selected"), {}, nothing, [window] {
         window->activateProjectItem(window->m_projectTree->currentIndex());
     });
+    openAsText = add(project, tr("Open as Te&xt"), {}, nothing, [window] {
+        if (!window->selectedFile().isEmpty())
+            window->openPath(window->selectedFile(), 1);
+    });
+    openAsText->setStatusTip(tr("Shows an IP's configuration in the editor, not in its dialog"));
     project->addSeparator();
-    addSources =
-        add(project, tr("&Add Source Files…"), QStringLiteral("add"),
-            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [window] { window->addSources(); });
-    newSource =
-        add(project, tr("&New Source File…"), {}, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N),
-            [window] { window->newSource(); });
+    addSources = add(project, tr("&Add Source Files…"), QStringLiteral("add"),
+                     QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_A),
+                     [window] { window->addSources(); });
+    newSource = add(project, tr("&New Source File…"), {},
+                    QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_N),
+                    [window] { window->newSource(); });
     removeSource = add(project, tr("&Remove from Project"), {}, nothing, [window] {
         if (window->m_project)
             window->m_project->removeFile(window->selectedFile());
     });
     removeSource->setStatusTip(tr("The file itself stays"));
     moveUp = add(project, tr("Move &Up"), QStringLiteral("up"),
-                 QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Up), [window] {
+                 QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Up), [window] {
                      if (window->m_project)
                          window->m_project->moveFile(window->selectedFile(), -1);
                  });
     moveDown = add(project, tr("Move &Down"), QStringLiteral("down"),
-                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Down), [window] {
+                   QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Down), [window] {
                        if (window->m_project)
                            window->m_project->moveFile(window->selectedFile(), 1);
                    });

@@ -30,6 +30,7 @@ public:
     QAction *addSources;
     QAction *newSource;
     QAction *openSelected;
+    QAction *openAsText;
     QAction *removeSource;
     QAction *moveUp;
     QAction *moveDown;

@@ -103,9 +103,9 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     buildDocks();
     buildStatusBar();
     m_actions = std::make_unique<Actions>(this);
-    m_projectTree->addActions({m_actions->openSelected, m_actions->addSources, m_actions->newSource,
-                               m_actions->removeSource, m_actions->moveUp, m_actions->moveDown,
-                               m_actions->topModule});
+    m_projectTree->addActions({m_actions->openSelected, m_actions->openAsText,
+                               m_actions->addSources, m_actions->newSource, m_actions->removeSource,
+                               m_actions->moveUp, m_actions->moveDown, m_actions->topModule});
 
     connect(m_start, &StartPage::newProjectRequested, this, &MainWindow::newProject);
     connect(m_start, &StartPage::openRequested, this, &MainWindow::open);
@@ -303,6 +303,7 @@ void MainWindow::showEditorState()
         action->setEnabled(m_project != nullptr);
     const QModelIndex selected = m_projectTree->currentIndex();
     m_actions->openSelected->setEnabled(!selectedFile().isEmpty());
+    m_actions->openAsText->setEnabled(m_projectModel->isIp(selected));
     for (QAction *action : {m_actions->removeSource, m_actions->moveUp, m_actions->moveDown})
         action->setEnabled(m_projectModel->isSource(selected));
     m_cursorLabel->setVisible(page != nullptr);
