@@ -2,8 +2,8 @@
 
 #include <cerrno>
 #include <csignal>
-#include <fcntl.h>
 #include <initializer_list>
+#include <sys/socket.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -30,18 +30,18 @@ void closeAllBut(int keep)
     }
 }
 
-// The child: takes the group, then waits for the end of the pipe's last writer.
-[[noreturn]] void guard(int pipe)
+// The child: takes the group, then waits for the end of the channel's other side.
+[[noreturn]] void guard(int channel)
 {
     ::setsid(); // no key of the terminal ends it
-    closeAllBut(pipe);
+    closeAllBut(channel);
     // What asks the parent to end is the parent's affair.
     for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGPIPE})
         ::signal(number, SIG_IGN);
     pid_t group = 0;
     for (;;) {
         pid_t received = 0;
-        const ssize_t size = ::read(pipe, &received, sizeof received);
+        const ssize_t size = ::read(channel, &received, sizeof received);
         if (size == ssize_t(sizeof received))
             group = received;
         else if (size >= 0 || errno != EINTR)
@@ -57,7 +57,7 @@ void closeAllBut(int keep)
 ProcessGuard::ProcessGuard()
 {
     int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0)
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
         return;
     m_child = ::fork();
     if (m_child == 0) {
@@ -66,7 +66,7 @@ ProcessGuard::ProcessGuard()
     }
     ::close(ends[0]);
     if (m_child > 0)
-        m_pipe = ends[1];
+        m_channel = ends[1];
     else
         ::close(ends[1]);
 }
@@ -78,14 +78,17 @@ ProcessGuard::~ProcessGuard()
         while (::waitpid(m_child, nullptr, 0) < 0 && errno == EINTR)
             continue;
     }
-    if (m_pipe >= 0)
-        ::close(m_pipe);
+    if (m_channel >= 0)
+        ::close(m_channel);
 }
 
 void ProcessGuard::watch(pid_t group)
 {
-    // Fits into the pipe, so it is written at once and whole.
-    [[maybe_unused]] const ssize_t written = m_pipe < 0 ? 0 : ::write(m_pipe, &group, sizeof group);
+    if (m_channel < 0)
+        return;
+    // Fits into the channel's buffer, so it is sent at once and whole. A child that somebody has
+    // killed must not take this process along, as a write would.
+    [[maybe_unused]] const ssize_t sent = ::send(m_channel, &group, sizeof group, MSG_NOSIGNAL);
 }
 
 } // namespace Synthesis

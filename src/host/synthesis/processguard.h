@@ -9,7 +9,8 @@ namespace Synthesis
 // process that is told of a parent's death by the kernel is only the first of its group; whatever
 // it has started would go on.
 //
-// Works by a child process that waits for the end of this one, which it sees from a pipe.
+// Works by a child process that waits for the end of this one, which it sees from a channel between
+// them.
 class ProcessGuard
 {
 public:
@@ -24,7 +25,7 @@ public:
 
 private:
     pid_t m_child = -1;
-    int m_pipe = -1;
+    int m_channel = -1;
 };
 
 } // namespace Synthesis
