@@ -56,7 +56,8 @@ void loadPlugins(IpCatalogue &catalogue, const Options &options, const QSettings
         QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/.."));
     catalogue.setDataFolders({root + QLatin1String("/share/tarvo")});
     catalogue.loadFolder(root + QLatin1String("/" TARVO_PLUGIN_SUBDIR), false);
-    for (const QString &folder : settings.value(QStringLiteral("pluginFolders")).toStringList())
+    const QStringList chosen = settings.value(QStringLiteral("pluginFolders")).toStringList();
+    for (const QString &folder : chosen)
         catalogue.loadFolder(folder, true);
     for (const QString &folder : options.pluginDirs)
         catalogue.loadFolder(folder, true);

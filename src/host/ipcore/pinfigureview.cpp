@@ -125,7 +125,7 @@ void PinFigureView::relayout()
     m_layout = layoutFor(font());
     int inputs = 0;
     int outputs = 0;
-    for (const Utils::PinFigure &pin : m_pins) {
+    for (const Utils::PinFigure &pin : qAsConst(m_pins)) {
         inputs += pin.direction() == Utils::PinFigure::Input;
         outputs += pin.direction() == Utils::PinFigure::Output;
     }

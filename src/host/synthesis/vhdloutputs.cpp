@@ -33,7 +33,7 @@ const QByteArrayList &predefined()
     return names;
 }
 
-const QByteArray context = "library ieee;\nuse ieee.std_logic_1164.all;\n";
+constexpr char context[] = "library ieee;\nuse ieee.std_logic_1164.all;\n";
 
 // "(7 downto 0)", or "(0 to 7)".
 QByteArray slice(int left, int right, bool isRising)
@@ -59,7 +59,8 @@ QByteArray modeOf(const Port &port)
 QByteArray indented(const QByteArray &text, const QByteArray &by)
 {
     QByteArray result;
-    for (const QByteArray &line : text.split('\n'))
+    const QByteArrayList lines = text.split('\n');
+    for (const QByteArray &line : lines)
         result += line.isEmpty() ? QByteArray("\n") : by + line + '\n';
     result.chop(1);
     return result;
@@ -428,9 +429,9 @@ QByteArray Writer::blackBoxTexts(bool asEntities) const
             body += "    generic (\n" + generics.join(";\n") + "\n    );\n";
         body += portClause(box.ports);
         if (asEntities)
-            text += "\n-- A block that this model leaves empty.\n" + context + "\nentity " + name +
-                    " is\n" + body + "end entity;\n\narchitecture empty of " + name +
-                    " is\nbegin\nend architecture;\n";
+            text += "\n-- A block that this model leaves empty.\n" + QByteArray(context) +
+                    "\nentity " + name + " is\n" + body + "end entity;\n\narchitecture empty of " +
+                    name + " is\nbegin\nend architecture;\n";
         else
             text += "component " + name + '\n' + body + "end component;\n";
     }
@@ -784,8 +785,8 @@ QString Writer::write()
 
     const QByteArray name = vhdlName(m_top);
     // Editions before 2008 bind a component to an entity that is directly visible only.
-    m_entity = context + "use work.all;\n" + "\nentity " + name + " is\n" + portClause(m_ports) +
-               "end entity;\n";
+    m_entity = QByteArray(context) + "use work.all;\n" + "\nentity " + name + " is\n" +
+               portClause(m_ports) + "end entity;\n";
     QByteArray components;
     const QByteArrayList used = primitives();
     for (const QByteArray &primitive : used)

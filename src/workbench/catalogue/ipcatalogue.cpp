@@ -66,7 +66,8 @@ QString IpCatalogue::dataFolderOf(const QString &library, const QStringList &fol
         name.remove(0, 3);
     const QString wanted = plainName(name);
     QString own = QFileInfo(library).absolutePath();
-    for (const QString &folder : QStringList(own) + folders) {
+    const QStringList all = QStringList(own) + folders;
+    for (const QString &folder : all) {
         const QStringList found = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         for (const QString &candidate : found) {
             if (plainName(candidate) == wanted)

@@ -177,7 +177,8 @@ QStringList Project::ipFiles() const
 {
     QStringList found;
     collectIpFiles(QDir(path()), ipSearchDepth, &found);
-    for (const QString &file : files()) {
+    const QStringList listed = files();
+    for (const QString &file : listed) {
         if (file.endsWith(QLatin1String(".ipc")) && !found.contains(file))
             found.append(file);
     }
@@ -203,10 +204,10 @@ void Project::watch()
     QStringList wanted{path()};
     if (QFileInfo::exists(m_path))
         wanted.append(m_path);
-    const QStringList folders =
-        QDir(path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
     // Enough for any project; a folder with thousands of others is not watched in full.
-    for (const QString &folder : folders.mid(0, 100))
+    const QStringList folders =
+        QDir(path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks).mid(0, 100);
+    for (const QString &folder : folders)
         wanted.append(QDir(path()).filePath(folder));
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     QStringList missing;

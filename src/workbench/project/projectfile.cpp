@@ -92,7 +92,7 @@ bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectF
     if (!files.isArray() && !files.isUndefined())
         return fail(path, tr("\"files\" is no list"), error);
     const QJsonArray entries = files.toArray();
-    for (const auto value : entries) {
+    for (const QJsonValue &value : entries) {
         if (!value.isString() || value.toString().isEmpty())
             return fail(path, tr("\"files\" holds an entry that is no file name"), error);
         if (!result.files.contains(value.toString()))

@@ -104,7 +104,7 @@ void DiagramRenderer::draw(QWidget *dialog)
     bool saved = false;
     const bool called = QMetaObject::invokeMethod(
         diagram, "saveDiagram", Qt::DirectConnection, Q_RETURN_ARG(bool, saved),
-        Q_ARG(QString, m_picture), Q_ARG(QString *, &reason));
+        Q_ARG(QString, m_picture), Q_ARG(QString*, &reason));
     m_saved = called && saved;
     if (!m_saved)
         m_error = reason.isEmpty() ? tr("The diagram could not be written.") : reason;

@@ -102,14 +102,14 @@ void NewProjectDialog::check()
     QString hint = Project::nameMistake(m_name->text());
     if (hint.isEmpty() && m_location->text().trimmed().isEmpty())
         hint = tr("Choose the folder that the project's folder is made in.");
-    if (hint.isEmpty() && QFileInfo(folder()).exists() && !QFileInfo(folder()).isDir())
+    if (hint.isEmpty() && QFileInfo::exists(folder()) && !QFileInfo(folder()).isDir())
         hint = tr("\"%1\" is a file.").arg(QDir::toNativeSeparators(folder()));
     if (hint.isEmpty() && device().isNull())
         hint = tr("Select a device in the table.");
     m_ok->setEnabled(hint.isEmpty());
     if (hint.isEmpty()) {
         hint = tr("Makes the project in %1").arg(QDir::toNativeSeparators(folder()));
-        if (QFileInfo(folder()).exists())
+        if (QFileInfo::exists(folder()))
             hint = tr("Makes the project in the existing folder %1; its files stay as they are")
                        .arg(QDir::toNativeSeparators(folder()));
     }
