@@ -1,0 +1,171 @@
+#!/usr/bin/env bash
+# Proves that the netlist of a configuration does what its sources do.
+#
+#   prove-netlist.sh ORIXM1 LIBRARY-FOLDER PROGRAM-FOLDER CONFIGURATION [CHANGE ...]
+#
+# Sources up to the mapping of their memories, and the netlist with the primitives' simulation models, are cut at the
+# bits of state, block RAMs, pin drivers and black boxes that both have by name. What then is left is proven equal by
+# ABC. With CHANGEs, sed scripts for the netlist, each of them must be noticed: the proof must fail.
+#
+# Not covered: reading the sources and mapping their memories to block RAMs, which both sides share. The simulations
+# compare these.
+set -euo pipefail
+
+orixm1=$1 library=$2 program=$3 config=$4
+shift 4
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+tmp=$(mktemp -d)
+trap 'rm -rf "$tmp"' EXIT
+cd "$tmp"
+ln -s "$library" library
+ln -s "$here" proof
+
+fail() {
+    echo "$*" >&2
+    exit 1
+}
+
+synthesizer() { # SCRIPT
+    yosys -Q -T -q -l "$1.log" "$1" > "$1.out" 2>&1 || {
+        tail -n 5 "$1.out" >&2
+        fail "Yosys failed in $1"
+    }
+}
+
+sed -e "s#^ITCM_Initialization_AbsolutePath=.*#ITCM_Initialization_AbsolutePath=$program#" -e '/^LANG=/d' \
+    "$config" > config.ipc
+"$orixm1" generate config.ipc --out ip > generate.log 2>&1 || fail "$(cat generate.log)"
+"$orixm1" sources config.ipc > sources.txt
+
+# What is done alike to both designs.
+cut_script() { # NAME
+    cat << EOF
+opt_clean
+dffunmap
+simplemap
+dfflegalize -cell \$_DFF_?_ 01 -cell \$_DFF_?P?_ 01
+opt_clean
+rename -hide t:TV_TBUF t:\$_DFF*
+rename -wire t:TV_TBUF t:\$_DFF*
+read_verilog -lib proof/boundary.v
+techmap -map proof/cut.v
+simplemap
+opt_clean
+hierarchy -top Tarvo_ORIX_M1_Top -purge_lib
+select -assert-none t:\$_DFF* t:\$_DLATCH* t:\$_SR* t:\$mem*
+select -assert-min 1 t:STATE
+tee -q -o $1.pins select -list i:* o:* %i t:* %co1 %i
+tee -q -o $1.states select -list t:STATE
+rename Tarvo_ORIX_M1_Top $1
+write_rtlil $1.whole
+EOF
+}
+
+{
+    echo "read_verilog -lib library/primitives.v"
+    while IFS= read -r source; do
+        case $source in
+            */temp/tv_orix_m1/*) source=ip/temp/tv_orix_m1/${source##*/} ;;
+            *)
+                [[ -e rtl ]] || ln -s "${source%/*}" rtl
+                source=rtl/${source##*/}
+                ;;
+        esac
+        echo "read_verilog -Iip/temp/tv_orix_m1 -Irtl $source"
+    done < sources.txt
+    cat << 'EOF'
+hierarchy -check -top Tarvo_ORIX_M1_Top
+setattr -mod -unset keep_hierarchy
+proc -noopt
+techmap -map library/map_tristate.v
+tribuf
+flatten
+opt_expr
+opt_clean
+opt
+memory -nomap
+opt_clean
+memory_libmap -lib library/memories.txt
+techmap -map library/map_memories.v
+memory_map
+opt_clean
+alumacc
+techmap
+simplemap
+techmap -map library/map_cells.v t:$_TBUF_
+EOF
+    cut_script sources
+} > sources.ys
+synthesizer sources.ys
+
+prove() { # NETLIST; 0 if it is proven equal, 1 if it differs
+    {
+        cat << EOF
+read_verilog -lib library/primitives.v
+read_verilog $1
+hierarchy -check -top Tarvo_ORIX_M1_Top
+techmap -autoproc -map library/primitives.v t:TV_* t:TV_RAM* t:TV_TBUF %u %d
+EOF
+        cut_script netlist
+    } > netlist.ys
+    synthesizer netlist.ys
+
+    for design in sources netlist; do
+        sed 's#^[^/]*/##' "$design.states" | sort > "$design.names"
+    done
+    comm -12 sources.names netlist.names > shared
+    for design in sources netlist; do
+        awk -f proof/cut.awk shared "$design.pins" "$design.whole" > "$design.cut"
+        awk -f proof/cells.awk "$design.cut" | sort > "$design.cells"
+        cat << EOF
+read_rtlil $design.cut
+hierarchy -top $design
+techmap -map proof/own-state.v
+opt_clean
+cd $design
+select -set taken t:* t:\$* %d
+expose -evert @taken
+cd ..
+write_rtlil $design.logic
+design -reset
+EOF
+    done > cut.ys
+    synthesizer cut.ys
+    echo "states: $(wc -l < shared) shared, $(comm -23 sources.names netlist.names | wc -l) of the sources only," \
+        "$(comm -13 sources.names netlist.names | wc -l) of the netlist only"
+    if ! diff sources.cells netlist.cells > cells.diff; then
+        echo "cells differ:"
+        cut -c1-150 cells.diff | sed -n 1,6p
+        return 1
+    fi
+    cat > miter.ys << 'EOF'
+read_rtlil sources.logic
+read_rtlil netlist.logic
+miter -equiv -flatten sources netlist miter
+hierarchy -top miter
+flatten
+setundef -zero -undriven
+setundef -init -zero
+techmap
+opt_clean
+aigmap
+write_aiger miter.aig
+EOF
+    synthesizer miter.ys
+    yosys-abc -c "read_aiger miter.aig; strash; zero; &get; &scorr; &put; dprove" > abc.log 2>&1 || true
+    # The second of each is said where no state is left on one side only.
+    grep -Eq '^(Networks are equivalent\.|UNSATISFIABLE)' abc.log && return 0
+    grep -E '^(Networks are not equivalent\.|SATISFIABLE)' abc.log && return 1
+    fail "ABC decided nothing: $(tail -n 3 abc.log)"
+}
+
+netlist=ip/temp/tv_orix_m1/tarvo_orix_m1.vg
+prove "$netlist" || fail "the netlist differs from the sources"
+echo "proven equal"
+
+for change in "$@"; do
+    sed -E "$change" "$netlist" > changed.vg
+    ! cmp -s "$netlist" changed.vg || fail "nothing to change: $change"
+    ! prove changed.vg || fail "not noticed: $change"
+    echo "noticed: $change"
+done
