@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Proves that the netlist of a configuration does what its sources do.
+# Proves that the netlists of a configuration do what its sources do.
 #
 #   prove-netlist.sh ORIXM1 LIBRARY-FOLDER PROGRAM-FOLDER CONFIGURATION [CHANGE ...]
 #
-# Sources up to the mapping of their memories, and the netlist with the primitives' simulation models, are cut at the
+# Verilog: the sources up to the mapping of their memories, and the netlist with the primitives' simulation models, are cut at the
 # bits of state, block RAMs, pin drivers and black boxes that both have by name. What then is left is proven equal by
-# ABC. With CHANGEs, sed scripts for the netlist, each of them must be noticed: the proof must fail.
+# ABC. # VHDL: GHDL reads that netlist, and cell by cell the inputs are proven to be those of the Verilog netlist.
+# CHANGE is "verilog: " or "vhdl: " and a sed script for that netlist. Each must be noticed: the proof must fail.
 #
 # Not covered: reading the sources and mapping their memories to block RAMs, which both sides share. The simulations
 # compare these.
@@ -33,7 +34,8 @@ synthesizer() { # SCRIPT
 }
 
 sed -e "s#^ITCM_Initialization_AbsolutePath=.*#ITCM_Initialization_AbsolutePath=$program#" -e '/^LANG=/d' \
-    "$config" > config.ipc
+    -e 's/^\[Config\]$/&\nLANG=1/' "$config" > config.ipc
+grep -qx 'LANG=1' config.ipc || printf '[Config]\nLANG=1\n' >> config.ipc
 "$orixm1" generate config.ipc --out ip > generate.log 2>&1 || fail "$(cat generate.log)"
 "$orixm1" sources config.ipc > sources.txt
 
@@ -98,7 +100,7 @@ EOF
 } > sources.ys
 synthesizer sources.ys
 
-prove() { # NETLIST; 0 if it is proven equal, 1 if it differs
+prove_verilog() { # NETLIST; 0 if it is proven equal to the sources, 1 if it differs
     {
         cat << EOF
 read_verilog -lib library/primitives.v
@@ -114,9 +116,19 @@ EOF
         sed 's#^[^/]*/##' "$design.states" | sort > "$design.names"
     done
     comm -12 sources.names netlist.names > shared
-    for design in sources netlist; do
-        awk -f proof/cut.awk shared "$design.pins" "$design.whole" > "$design.cut"
-        awk -f proof/cells.awk "$design.cut" | sort > "$design.cells"
+    isolate shared sources netlist
+    echo "states: $(wc -l < shared) shared, $(comm -23 sources.names netlist.names | wc -l) of the sources only," \
+        "$(comm -13 sources.names netlist.names | wc -l) of the netlist only"
+    equal sources netlist
+}
+
+# What is between the cells of two designs: NAME.whole and NAME.pins become NAME.logic and NAME.cells.
+isolate() { # FILE-OF-SHARED-STATES NAME NAME
+    local shared=$1 design
+    shift
+    for design; do
+        awk -f proof/cut.awk "$shared" "$design.pins" "$design.whole" > "$design.cut"
+        awk -f proof/cells.awk declarations "$design.cut" | sort > "$design.cells"
         cat << EOF
 read_rtlil $design.cut
 hierarchy -top $design
@@ -129,19 +141,20 @@ cd ..
 write_rtlil $design.logic
 design -reset
 EOF
-    done > cut.ys
-    synthesizer cut.ys
-    echo "states: $(wc -l < shared) shared, $(comm -23 sources.names netlist.names | wc -l) of the sources only," \
-        "$(comm -13 sources.names netlist.names | wc -l) of the netlist only"
-    if ! diff sources.cells netlist.cells > cells.diff; then
+    done > isolate.ys
+    synthesizer isolate.ys
+}
+
+equal() { # NAME NAME; 0 if the designs are proven equal, 1 if they differ
+    if ! diff "$1.cells" "$2.cells" > cells.diff; then
         echo "cells differ:"
         cut -c1-150 cells.diff | sed -n 1,6p
         return 1
     fi
-    cat > miter.ys << 'EOF'
-read_rtlil sources.logic
-read_rtlil netlist.logic
-miter -equiv -flatten sources netlist miter
+    cat > miter.ys << EOF
+read_rtlil $1.logic
+read_rtlil $2.logic
+miter -equiv -flatten $1 $2 miter
 hierarchy -top miter
 flatten
 setundef -zero -undriven
@@ -159,13 +172,51 @@ EOF
     fail "ABC decided nothing: $(tail -n 3 abc.log)"
 }
 
-netlist=ip/temp/tv_orix_m1/tarvo_orix_m1.vg
-prove "$netlist" || fail "the netlist differs from the sources"
+as_written() { # NAME READ-VERILOG-ARGUMENTS
+    cat << EOF
+read_verilog -lib library/primitives.v
+read_verilog $2
+hierarchy -check -top Tarvo_ORIX_M1_Top
+opt_clean
+tee -q -o $1.pins select -list i:* o:* %i t:* %co1 %i
+hierarchy -top Tarvo_ORIX_M1_Top -purge_lib
+rename Tarvo_ORIX_M1_Top $1
+write_rtlil $1.whole
+design -reset
+EOF
+}
+
+prove_vhdl() { # NETLIST; 0 if it is proven equal to the Verilog netlist, 1 if it differs
+    cp "$1" netlist.vhd
+    ghdl --synth --std=93c --out=verilog netlist.vhd -e Tarvo_ORIX_M1_Top > ghdl.v 2> ghdl.log || fail "$(cat ghdl.log)"
+    sed -nE 's/^  (TV_[A-Z0-9_]+|[)]) (_[0-9]+_) [(]$/\2/p' "$verilog" > cells
+    awk -f proof/ghdl-verilog.awk cells ghdl.v > vhdl.v
+    {
+        as_written verilog "$verilog"
+        as_written vhdl "boxes.v vhdl.v"
+    } > as-written.ys
+    synthesizer as-written.ys
+    isolate /dev/null verilog vhdl
+    equal verilog vhdl
+}
+
+verilog=ip/temp/tv_orix_m1/tarvo_orix_m1.vg
+vhdl=ip/temp/tv_orix_m1/tarvo_orix_m1.vhg
+awk '/^[(][*] blackbox [*][)]$/ { on = 1 } on { print } /^endmodule/ { on = 0 }' "$verilog" > boxes.v
+cat > declarations.ys << 'EOF'
+read_verilog -lib library/primitives.v
+read_verilog boxes.v
+write_rtlil declarations
+EOF
+synthesizer declarations.ys
+prove_verilog "$verilog" || fail "the Verilog netlist differs from the sources"
+prove_vhdl "$vhdl" || fail "the VHDL netlist differs from the Verilog netlist"
 echo "proven equal"
 
 for change in "$@"; do
-    sed -E "$change" "$netlist" > changed.vg
-    ! cmp -s "$netlist" changed.vg || fail "nothing to change: $change"
-    ! prove changed.vg || fail "not noticed: $change"
+    language=${change%%: *}
+    sed -E "${change#*: }" "${!language}" > changed
+    ! cmp -s "${!language}" changed || fail "nothing to change: $change"
+    ! "prove_$language" changed || fail "not noticed: $change"
     echo "noticed: $change"
 done
