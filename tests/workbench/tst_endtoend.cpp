@@ -6,15 +6,18 @@
 #include <workbench/editor/editorpage.h>
 #include <workbench/messages/logview.h>
 #include <workbench/results/resultpage.h>
+#include <workbench/widgets/infobar.h>
 
 #include <ipcore/pinfigureview.h>
 #include <ipcore/synthesismonitor.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeView>
@@ -139,6 +142,63 @@ private Q_SLOTS:
         // It stands in the project once.
         QCOMPARE(window()->project()->files(),
                  QStringList(ip + QStringLiteral("/tarvo_orix_m1.v")));
+    }
+
+    void aChangeOfLanguageTellsWhatIsLeftOver()
+    {
+        window()->openProject(m_bench->makeProject());
+        const QString ip = window()->project()->path() + QStringLiteral("/tarvo_orix_m1");
+        const QString verilog = ip + QStringLiteral("/tarvo_orix_m1.v");
+        const QString vhdl = ip + QStringLiteral("/tarvo_orix_m1.vhd");
+        const auto generate = [this, &ip](int language) {
+            const ModalWatcher watcher([language](QWidget *modal) {
+                if (!isIpDialog(modal))
+                    return;
+                later(modal, [modal, language] {
+                    auto *box = modal->findChild<QComboBox *>(QStringLiteral("comboBoxLanguage"));
+                    QVERIFY(box);
+                    box->setCurrentIndex(language);
+                    Bench::ok(modal)->click();
+                });
+            });
+            if (QFileInfo::exists(ip))
+                window()->openPath(ip + QStringLiteral("/tarvo_orix_m1.ipc"));
+            else
+                window()->createSelectedIp(0);
+        };
+        auto *bar = window()->results()->findChild<InfoBar *>();
+        const auto isOld = [this](const QString &name) {
+            const auto *list =
+                window()->results()->findChild<QListWidget *>(QStringLiteral("fileList"));
+            return list->findItems(name, Qt::MatchExactly).isEmpty() &&
+                   list->findItems(name + QStringLiteral(" (of an earlier run)"), Qt::MatchExactly)
+                           .size() == 1;
+        };
+
+        generate(0);
+        QCOMPARE(window()->project()->files(), QStringList(verilog));
+        QVERIFY(bar->isHidden());
+
+        generate(1);
+        QCOMPARE(window()->project()->files(), QStringList({verilog, vhdl}));
+        QVERIFY(isOld(QStringLiteral("tarvo_orix_m1.v")));
+        QVERIFY(isOld(QStringLiteral("tarvo_orix_m1_tmp.v")));
+        QVERIFY(!isOld(QStringLiteral("tarvo_orix_m1.vo")));
+        QVERIFY(!bar->isHidden());
+        QVERIFY2(bar->text().contains(QLatin1String("lists tarvo_orix_m1.v,")),
+                 qPrintable(bar->text()));
+        bar->findChild<QPushButton *>()->click();
+        QVERIFY(bar->isHidden());
+        QCOMPARE(window()->project()->files(), QStringList(vhdl));
+        QVERIFY(QFileInfo::exists(verilog));
+
+        // And back. The same netlist as at first is the newer one again.
+        generate(0);
+        QCOMPARE(window()->project()->files(), QStringList({vhdl, verilog}));
+        QVERIFY(isOld(QStringLiteral("tarvo_orix_m1.vhd")));
+        QVERIFY(isOld(QStringLiteral("tarvo_orix_m1.vho")));
+        QVERIFY(!isOld(QStringLiteral("tarvo_orix_m1.v")));
+        QVERIFY(!bar->isHidden());
     }
 
     void aFailedRunCanBeTriedAgain()

@@ -3,6 +3,7 @@
 
 #include <workbench/project/project.h>
 #include <workbench/project/projectmodel.h>
+#include <workbench/results/superseded.h>
 
 #include <core/idecore.h>
 #include <dev/devicedb.h>
@@ -44,6 +45,18 @@ private Q_SLOTS:
         QVERIFY(Project::create(m_folder, QStringLiteral("p"), device(), &error));
         QVERIFY(!Project::create(m_folder, QStringLiteral("p"), device(), &error));
         QVERIFY2(error.contains(QLatin1String("exists already")), qPrintable(error));
+    }
+
+    void tellsFilesOfAnEarlierLanguage()
+    {
+        const QStringList files{QStringLiteral("/p/a.ipc"),   QStringLiteral("/p/a.v"),
+                                QStringLiteral("/p/a.vhd"),   QStringLiteral("/p/a.vho"),
+                                QStringLiteral("/p/a.vo"),    QStringLiteral("/p/b.v"),
+                                QStringLiteral("/p/c.vhd"),   QStringLiteral("/p/c.vho"),
+                                QStringLiteral("/p/a.b.vhd"), QStringLiteral("/q/b.vhd")};
+        QCOMPARE(superseded(files, Language::Vhdl), QStringList(files.at(1)));
+        QCOMPARE(superseded(files, Language::Verilog), QStringList({files.at(2), files.at(3)}));
+        QCOMPARE(superseded({}, Language::Vhdl), QStringList());
     }
 
     void refusesNamesThatAreNoFileNames_data()

@@ -1,6 +1,7 @@
 #include "resultpage.h"
 
 #include "resulttables.h"
+#include "widgets/infobar.h"
 #include "widgets/symbolicon.h"
 
 #include <ipcore/pinfigureview.h>
@@ -67,6 +68,7 @@ ResultPage::ResultPage(QWidget *parent)
     , m_heading(new QLabel)
     , m_summary(new QLabel)
     , m_change(new QPushButton(tr("&Change the IP…")))
+    , m_leftOver(new InfoBar)
     , m_left(new QTabWidget)
     , m_figure(new IPCore::PinFigureView)
     , m_resources(new ResourceModel(this))
@@ -124,6 +126,7 @@ ResultPage::ResultPage(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addWidget(m_summary);
+    layout->addWidget(m_leftOver);
     layout->addWidget(halves, 1);
     setFocusProxy(m_files);
 }
@@ -145,9 +148,10 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
     m_made = report.files;
     if (!report.logFile.isEmpty())
         m_made.append(report.logFile);
-    m_delivered.clear();
-    m_change->hide();
-    showFiles();
+    m_language = report.job.options.value(QStringLiteral("write_vhdl")).toBool()
+                     ? Language::Vhdl
+                     : Language::Verilog;
+    setDelivered({});
 }
 
 void ResultPage::resizeEvent(QResizeEvent *event)
@@ -173,21 +177,46 @@ void ResultPage::fitFigure()
     m_fittedZoom = m_figure->zoom();
 }
 
-void ResultPage::setDelivered(const QStringList &files)
+void ResultPage::setDelivered(const QStringList &files, const QStringList &sources)
 {
     m_delivered = files;
     m_change->setVisible(std::any_of(files.begin(), files.end(), isConfiguration));
+    m_superseded = superseded(files, m_language);
+    showLeftOvers(sources);
     showFiles();
+}
+
+void ResultPage::showLeftOvers(const QStringList &sources)
+{
+    QStringList listed;
+    QStringList names;
+    for (const QString &file : qAsConst(m_superseded)) {
+        if (!sources.contains(file))
+            continue;
+        listed.append(file);
+        names.append(QFileInfo(file).fileName());
+    }
+    if (listed.isEmpty()) {
+        m_leftOver->hide();
+        return;
+    }
+    m_leftOver->showMessage(
+        tr("The project still lists %1, of an earlier run in the other language. Both describe "
+           "the same module.")
+            .arg(names.join(QLatin1String(", "))),
+        {{tr("&Remove from Project"), [this, listed] { Q_EMIT removalRequested(listed); }}});
 }
 
 QStringList ResultPage::files() const
 {
-    QStringList all = m_delivered;
-    for (const QString &file : m_made) {
-        if (!all.contains(file))
-            all.append(file);
+    QStringList all;
+    for (const QStringList &some : {m_delivered, m_made}) {
+        for (const QString &file : some) {
+            if (!all.contains(file) && !m_superseded.contains(file))
+                all.append(file);
+        }
     }
-    return all;
+    return all + m_superseded;
 }
 
 void ResultPage::showFiles()
@@ -199,8 +228,16 @@ void ResultPage::showFiles()
     // Names are relative to the folder of the first.
     const QDir base(QFileInfo(all.first()).absolutePath());
     for (const QString &file : all) {
-        auto *item = new QListWidgetItem(symbolIcon(QStringLiteral("file")),
-                                         QDir::toNativeSeparators(base.relativeFilePath(file)));
+        QString text = QDir::toNativeSeparators(base.relativeFilePath(file));
+        const bool isOld = m_superseded.contains(file);
+        if (isOld)
+            text = tr("%1 (of an earlier run)").arg(text);
+        auto *item = new QListWidgetItem(symbolIcon(QStringLiteral("file")), text);
+        if (isOld) {
+            QFont slanted = m_files->font();
+            slanted.setItalic(true);
+            item->setFont(slanted);
+        }
         item->setData(Qt::UserRole, file);
         item->setToolTip(QDir::toNativeSeparators(file));
         m_files->addItem(item);

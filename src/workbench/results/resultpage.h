@@ -1,5 +1,7 @@
 #pragma once
 
+#include "superseded.h"
+
 #include <synthesis/runreport.h>
 
 #include <QWidget>
@@ -19,6 +21,7 @@ namespace Workbench
 {
 
 class CellModel;
+class InfoBar;
 class ResourceModel;
 
 // What came of a successful run: the ports as a figure, what the netlist takes of the device, and
@@ -32,19 +35,23 @@ public:
 
     void setReport(const Synthesis::RunReport &report);
     // The files that the IP delivered, shown before those of the run itself. Full paths. With a
-    // configuration among them the page offers to change the IP.
-    void setDelivered(const QStringList &files);
+    // configuration among them the page offers to change the IP. Those of an earlier run in the
+    // other language come last, and the page offers to take them out of `sources`, the project's.
+    void setDelivered(const QStringList &files, const QStringList &sources = {});
     QStringList files() const;
     IPCore::PinFigureView *figure() const { return m_figure; }
 
 Q_SIGNALS:
     void openRequested(const QString &path);
+    // The user wants `files` out of the project's sources.
+    void removalRequested(const QStringList &files);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    void showLeftOvers(const QStringList &sources);
     void showFiles();
     // Shows the figure in its whole width, until the user chooses a scale.
     void fitFigure();
@@ -52,6 +59,7 @@ private:
     QLabel *m_heading;
     QLabel *m_summary;
     QPushButton *m_change;
+    InfoBar *m_leftOver;
     QTabWidget *m_left;
     IPCore::PinFigureView *m_figure;
     ResourceModel *m_resources;
@@ -62,6 +70,8 @@ private:
     qreal m_fittedZoom = 1;
     QStringList m_delivered;
     QStringList m_made;
+    QStringList m_superseded;
+    Language m_language = Language::Verilog;
 };
 
 } // namespace Workbench

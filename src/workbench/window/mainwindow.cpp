@@ -339,6 +339,12 @@ ResultPage *MainWindow::results()
         m_results->hide();
         connect(m_results, &ResultPage::openRequested, this,
                 [this](const QString &path) { openPath(path); });
+        connect(m_results, &ResultPage::removalRequested, this, [this](const QStringList &files) {
+            for (const QString &file : files) {
+                if (m_project)
+                    m_project->removeFile(file);
+            }
+        });
     }
     return m_results;
 }
@@ -456,7 +462,7 @@ void MainWindow::onIpClosed(const QStringList &files)
 {
     m_projectModel->refresh();
     if (m_hasNewReport) {
-        results()->setDelivered(files);
+        results()->setDelivered(files, m_project ? m_project->files() : QStringList());
         showResults();
     }
     m_hasNewReport = false;
@@ -665,7 +671,8 @@ void MainWindow::restoreState()
 {
     const QByteArray geometry = m_settings.value(geometryKey).toByteArray();
     if (geometry.isEmpty() || !restoreGeometry(geometry)) {
-        const QSize room = screen() ? screen()->availableSize() : QSize(1280, 800);
+        // The frame around the window needs room as well; how much is not known before it is shown.
+        const QSize room = (screen() ? screen()->availableSize() : QSize(1280, 800)) * 0.95;
         resize(room.boundedTo(
             QSize(fontMetrics().averageCharWidth() * 190, fontMetrics().height() * 50)));
     }
