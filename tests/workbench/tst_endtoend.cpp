@@ -9,6 +9,7 @@
 #include <workbench/widgets/infobar.h>
 
 #include <ipcore/pinfigureview.h>
+#include <ipcore/synthesishelper.h>
 #include <ipcore/synthesismonitor.h>
 
 #include <QCheckBox>
@@ -69,6 +70,13 @@ QString pinNames(const ResultPage *page)
     for (const Utils::PinFigure &pin : pins)
         names.append(pin.name());
     return names.join(u' ');
+}
+
+// A process that has ended but was not waited for is not alive.
+bool isAlive(qint64 process)
+{
+    const QByteArray stat = contentsOf(QStringLiteral("/proc/%1/stat").arg(process));
+    return !stat.isEmpty() && stat.mid(stat.lastIndexOf(')') + 2, 1) != "Z";
 }
 
 } // namespace
@@ -238,10 +246,17 @@ private Q_SLOTS:
         window()->openProject(m_bench->makeProject());
         const FakeTool tool("sleeping");
         bool cancelled = false;
+        bool isStillOpen = false;
         const QObject scope; // of the connection below
         const ModalWatcher watcher([&](QWidget *modal) {
             if (isIpDialog(modal)) {
-                later(modal, [modal] { Bench::ok(modal)->click(); });
+                isStillOpen = cancelled;
+                later(modal, [modal, isStillOpen] {
+                    if (isStillOpen)
+                        qobject_cast<QDialog *>(modal)->reject();
+                    else
+                        Bench::ok(modal)->click();
+                });
             } else if (modal->findChild<QLabel *>(QStringLiteral("stageLabel"))) {
                 auto *cancel =
                     modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel);
@@ -253,19 +268,45 @@ private Q_SLOTS:
                 later(modal, [cancel] { cancel->click(); });
             } else {
                 qobject_cast<QDialog *>(modal)->reject(); // the error window
-                QTimer::singleShot(0, this, [] {
-                    auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-                    QVERIFY(dialog && isIpDialog(dialog));
-                    dialog->reject();
-                });
             }
         });
         window()->createSelectedIp(0);
+        QVERIFY(isStillOpen);
         QVERIFY(cancelled);
         QVERIFY(window()->project()->files().isEmpty());
         QVERIFY(m_bench->tabTexts().isEmpty());
         QCOMPARE(window()->findChild<QLabel *>(QStringLiteral("runLabel"))->text(),
                  QStringLiteral("Synthesis cancelled"));
+    }
+
+    void aRunEndsWithTheWindow()
+    {
+        window()->openProject(m_bench->makeProject());
+        const FakeTool tool("sleeping");
+        QSignalSpy closed(window(), &MainWindow::closed);
+        QList<qint64> processes;
+        const QObject scope; // of the connections below
+        const ModalWatcher watcher([&](QWidget *modal) {
+            if (isIpDialog(modal) && processes.isEmpty())
+                later(modal, [modal] { Bench::ok(modal)->click(); });
+        });
+        connect(&IPCore::SynthesisMonitor::instance(), &IPCore::SynthesisMonitor::runStarted,
+                &scope, [&](IPCore::SynthesisHelper *helper) {
+                    connect(
+                        helper, &IPCore::SynthesisHelper::logReceived, &scope,
+                        [&](const QString &line) { // "group 12 child 34"
+                            const QStringList words = line.split(u' ');
+                            processes = {words.value(1).toLongLong(), words.value(3).toLongLong()};
+                            QTimer::singleShot(0, window(), &MainWindow::shutDown);
+                        });
+                });
+        window()->createSelectedIp(0); // returns though nobody closes its dialog
+        QTRY_COMPARE(closed.size(), 1);
+        QCOMPARE(processes.size(), 2);
+        for (const qint64 process : qAsConst(processes)) {
+            QVERIFY(process > 1);
+            QTRY_VERIFY(!isAlive(process));
+        }
     }
 
     void anIpDialogThatIsCancelledLeavesNothing()
