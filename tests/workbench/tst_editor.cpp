@@ -159,6 +159,74 @@ private Q_SLOTS:
         QVERIFY(page->isModified());
     }
 
+    void keepsUnsavedChangesWhenItMustEnd()
+    {
+        const QString other = m_path + QStringLiteral("h");
+        write(other, "// nothing\n");
+        QString error;
+        QVERIFY(m_tabs->openFile(other, 0, &error));
+        EditorPage *page = open();
+        page->startEditing();
+        QTest::keyClicks(page->editor(), QStringLiteral("// "));
+        const QString kept = m_path + QStringLiteral(".unsaved");
+        const QStringList told = m_tabs->keepChanges();
+        QCOMPARE(told.size(), 1);
+        QVERIFY2(told.first().contains(m_path) && told.first().contains(kept),
+                 qPrintable(told.first()));
+        QCOMPARE(contentsOf(kept), QByteArray("// module a;\n// two\nendmodule\n"));
+        QCOMPARE(contentsOf(m_path), QByteArray("module a;\n// two\nendmodule\n"));
+        // Those of an earlier end are not lost either.
+        QVERIFY(m_tabs->keepChanges().first().contains(kept + u'2'));
+        QCOMPARE(entriesOf(m_dir->path()).size(), 4);
+
+        // The next time the file is opened, it tells.
+        m_tabs = std::make_unique<EditorTabs>();
+        m_tabs->show();
+        page = open();
+        QVERIFY(!page->infoBar()->isHidden());
+        QVERIFY(page->infoBar()->text().contains(QStringLiteral("a ö.v.unsaved")));
+        const auto press = [&page](const char *text) {
+            const auto buttons = page->infoBar()->findChildren<QPushButton *>();
+            for (QPushButton *button : buttons) {
+                if (button->text().contains(QLatin1String(text)))
+                    button->click();
+            }
+        };
+        press("Open");
+        QCOMPARE(m_tabs->currentPage()->path(), kept);
+        QVERIFY(page->infoBar()->isHidden());
+
+        m_tabs = std::make_unique<EditorTabs>();
+        m_tabs->show();
+        page = open();
+        press("Delete");
+        QVERIFY(!QFileInfo::exists(kept));
+        QVERIFY(page->infoBar()->isHidden());
+        QCOMPARE(contentsOf(m_path), QByteArray("module a;\n// two\nendmodule\n"));
+    }
+
+    void keepsUnsavedChangesElsewhereOnAFullDisk()
+    {
+        const QString reason = mountSmallDisk(m_dir->path());
+        if (!reason.isEmpty())
+            QSKIP(qPrintable(reason));
+        write(m_path, "old\n");
+        EditorPage *page = open();
+        page->startEditing();
+        page->editor()->setPlainText(QString(80000, u'x'));
+        page->editor()->document()->setModified(true);
+        fillDisk(m_dir->path(), 0);
+        QString error;
+        const QString kept = page->keepChanges(&error);
+        const QStringList beside = entriesOf(m_dir->path());
+        unmount(m_dir->path());
+        QVERIFY2(kept.startsWith(QDir::tempPath() + QStringLiteral("/a ö.v.unsaved")),
+                 qPrintable(kept));
+        QCOMPARE(contentsOf(kept).size(), 80000);
+        QVERIFY(QFile::remove(kept));
+        QVERIFY2(!beside.contains(QStringLiteral("a ö.v.unsaved")), qPrintable(beside.join(u' ')));
+    }
+
     void readsAgainWhatWasChangedOutside()
     {
         EditorPage *page = open();

@@ -328,6 +328,24 @@ private Q_SLOTS:
         QTRY_COMPARE(closed.size(), 1);
     }
 
+    void shutsDownAndKeepsUnsavedChanges()
+    {
+        const QString file = m_bench->folder() + QStringLiteral("/a.v");
+        write(file, "module a;\nendmodule\n");
+        window()->openPath(file);
+        EditorPage *page = window()->tabs()->currentPage();
+        QVERIFY(page);
+        page->startEditing();
+        page->editor()->insertPlainText(QStringLiteral("// "));
+        QSignalSpy closed(window(), &MainWindow::closed);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("a\\.v\\.unsaved")));
+        window()->shutDown();
+        QTRY_COMPARE(closed.size(), 1);
+        QCOMPARE(contentsOf(file), QByteArray("module a;\nendmodule\n"));
+        QCOMPARE(contentsOf(file + QStringLiteral(".unsaved")),
+                 QByteArray("// module a;\nendmodule\n"));
+    }
+
     void aRunFillsMessagesAndLog()
     {
         const FakeTool tool("erring");

@@ -17,6 +17,13 @@
 namespace Workbench
 {
 
+namespace
+{
+
+const QString unsavedSuffix = QStringLiteral(".unsaved");
+
+} // namespace
+
 EditorPage::EditorPage(const QString &path, QWidget *parent)
     : QWidget(parent)
     , m_path(path)
@@ -95,6 +102,8 @@ bool EditorPage::load(QString *error)
         if (wasShown)
             m_editor->verticalScrollBar()->setValue(scrolled);
     }
+    if (!wasShown)
+        offerKeptChanges();
     Q_EMIT stateChanged();
     return true;
 }
@@ -193,6 +202,40 @@ bool EditorPage::save(QString *error)
     m_editor->document()->setModified(false);
     Q_EMIT stateChanged();
     return true;
+}
+
+QString EditorPage::keepChanges(QString *error) const
+{
+    const QString text = m_editor->toPlainText();
+    TextFormat format = m_format;
+    if (!format.canEncode(text))
+        format.encoding = TextFormat::Utf8;
+    const QString inTemp = QDir::tempPath() + u'/' + QFileInfo(m_path).fileName();
+    for (const QString &base : {m_path, inTemp}) {
+        QString kept = base + unsavedSuffix;
+        for (int n = 2; QFileInfo::exists(kept); ++n)
+            kept = base + unsavedSuffix + QString::number(n);
+        if (Utils::FileUtils::writeFile(kept, format.encode(text), error))
+            return kept;
+    }
+    return {};
+}
+
+void EditorPage::offerKeptChanges()
+{
+    const QString kept = m_path + unsavedSuffix;
+    if (!QFileInfo::exists(kept))
+        return;
+    m_infoBar->showMessage(
+        tr("The program was ended with unsaved changes of this file. They are in \"%1\".")
+            .arg(QFileInfo(kept).fileName()),
+        {{tr("&Open Them"), [this, kept] { Q_EMIT openRequested(kept); }},
+         {tr("&Delete Them"), [this, kept] {
+              QFile file(kept);
+              if (!file.remove())
+                  m_infoBar->showMessage(
+                      tr("Cannot delete \"%1\": %2.").arg(kept, file.errorString()), {});
+          }}});
 }
 
 void EditorPage::checkDisk()

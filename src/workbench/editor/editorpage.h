@@ -48,12 +48,17 @@ public:
     // Says in the info bar why the file cannot be changed, if it cannot.
     void startEditing();
     bool save(QString *error);
+    // Writes what is shown into a new file, "<path>.unsaved" or in the folder for temporary files
+    // if that cannot be; returns its path. Empty, and a sentence in `*error`, if neither can be
+    // written. Pages of that file tell of it from then on.
+    QString keepChanges(QString *error) const;
 
     // Compares with the disk: what was not changed here is read again, otherwise the info bar asks.
     void checkDisk();
 
 Q_SIGNALS:
     void stateChanged(); // modified, editable, loading
+    void openRequested(const QString &path);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -62,6 +67,7 @@ private:
     void insertPiece();
     void finishLoading();
     void offerEditing();
+    void offerKeptChanges();
     static QByteArray digestOf(const QByteArray &bytes);
 
     QString m_path;

@@ -60,6 +60,11 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         const int index = addTab(page, symbolIcon(QStringLiteral("file")), QString());
         setTabToolTip(index, QDir::toNativeSeparators(plain));
         connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
+        connect(page, &EditorPage::openRequested, this, [this, page](const QString &file) {
+            QString reason;
+            if (!openFile(file, 0, &reason))
+                page->infoBar()->showMessage(reason, {});
+        });
         connect(page->editor(), &QPlainTextEdit::cursorPositionChanged, this,
                 &EditorTabs::currentStateChanged);
         showState(page);
@@ -190,6 +195,24 @@ bool EditorTabs::closeAll()
             page->deleteLater();
     }
     return true;
+}
+
+QStringList EditorTabs::keepChanges() const
+{
+    QStringList told;
+    const QList<EditorPage *> all = pages();
+    for (const EditorPage *page : all) {
+        if (!page->isModified())
+            continue;
+        QString error;
+        const QString kept = page->keepChanges(&error);
+        const QString name = QDir::toNativeSeparators(page->path());
+        told.append(kept.isEmpty()
+                        ? tr("The unsaved changes of \"%1\" are lost. %2").arg(name, error)
+                        : tr("The unsaved changes of \"%1\" are in \"%2\".")
+                              .arg(name, QDir::toNativeSeparators(kept)));
+    }
+    return told;
 }
 
 void EditorTabs::tabInserted(int index)

@@ -32,6 +32,8 @@ public:
     // Asks about unsaved changes; false if the user wants to go on with them.
     bool closeTab(int index);
     bool closeAll();
+    // Writes the unsaved changes into files of their own; returns a sentence for each.
+    QStringList keepChanges() const;
 
 Q_SIGNALS:
     void currentStateChanged();

@@ -746,6 +746,9 @@ void MainWindow::shutDown()
     if (m_closing)
         return;
     m_closing = true;
+    const QStringList kept = m_tabs->keepChanges();
+    for (const QString &line : kept)
+        qWarning("%s", qUtf8Printable(line));
     IPCore::SynthesisMonitor::instance().cancelAll();
     continueClosing();
 }

@@ -65,7 +65,8 @@ public:
     bool openIp(const QString &ipcFile);
     bool createIp(int ip, const QString &folder, const DEV::DeviceArg &device);
 
-    // Closes the window without a question: ends the runs, closes the dialogs, then emits closed().
+    // Closes the window without a question: keeps unsaved changes in files of their own, ends the
+    // runs, closes the dialogs, then emits closed().
     void shutDown();
 
 public Q_SLOTS:
