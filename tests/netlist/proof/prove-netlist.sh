@@ -3,13 +3,16 @@
 #
 #   prove-netlist.sh ORIXM1 LIBRARY-FOLDER PROGRAM-FOLDER CONFIGURATION [CHANGE ...]
 #
-# Verilog: the sources up to the mapping of their memories, and the netlist with the primitives' simulation models, are cut at the
-# bits of state, block RAMs, pin drivers and black boxes that both have by name. What then is left is proven equal by
-# ABC. # VHDL: GHDL reads that netlist, and cell by cell the inputs are proven to be those of the Verilog netlist.
+# Verilog: the sources up to the mapping of their memories, and the netlist with the primitives' simulation models, are
+# cut at the bits of state, block RAMs, pin drivers and black boxes that both have by name. What then is left is proven
+# equal by ABC. VHDL: GHDL reads that netlist, and cell by cell the inputs are proven to be those of the Verilog netlist.
 # CHANGE is "verilog: " or "vhdl: " and a sed script for that netlist. Each must be noticed: the proof must fail.
 #
 # Not covered: reading the sources and mapping their memories to block RAMs, which both sides share. The simulations
 # compare these.
+#
+# The functions that prove set `verdict` to "equal" or "different" and are called as plain commands, since the shell lets
+# errors pass in those that an "if", "!" or "||" asks: what could not be decided must not look like a difference.
 set -euo pipefail
 
 orixm1=$1 library=$2 program=$3 config=$4
@@ -100,7 +103,7 @@ EOF
 } > sources.ys
 synthesizer sources.ys
 
-prove_verilog() { # NETLIST; 0 if it is proven equal to the sources, 1 if it differs
+prove_verilog() { # NETLIST; is it equal to the sources?
     {
         cat << EOF
 read_verilog -lib library/primitives.v
@@ -119,7 +122,7 @@ EOF
     isolate shared sources netlist
     echo "states: $(wc -l < shared) shared, $(comm -23 sources.names netlist.names | wc -l) of the sources only," \
         "$(comm -13 sources.names netlist.names | wc -l) of the netlist only"
-    equal sources netlist
+    compare sources netlist
 }
 
 # What is between the cells of two designs: NAME.whole and NAME.pins become NAME.logic and NAME.cells.
@@ -129,6 +132,7 @@ isolate() { # FILE-OF-SHARED-STATES NAME NAME
     for design; do
         awk -f proof/cut.awk "$shared" "$design.pins" "$design.whole" > "$design.cut"
         awk -f proof/cells.awk declarations "$design.cut" | sort > "$design.cells"
+        [[ -s $design.cells ]] || fail "no cells in the design \"$design\""
         cat << EOF
 read_rtlil $design.cut
 hierarchy -top $design
@@ -145,11 +149,12 @@ EOF
     synthesizer isolate.ys
 }
 
-equal() { # NAME NAME; 0 if the designs are proven equal, 1 if they differ
-    if ! diff "$1.cells" "$2.cells" > cells.diff; then
+compare() { # NAME NAME; are the designs equal?
+    verdict=different
+    if ! cmp -s "$1.cells" "$2.cells"; then
         echo "cells differ:"
-        cut -c1-150 cells.diff | sed -n 1,6p
-        return 1
+        { diff "$1.cells" "$2.cells" || true; } | cut -c1-150 | sed -n 1,6p
+        return
     fi
     cat > miter.ys << EOF
 read_rtlil $1.logic
@@ -167,9 +172,11 @@ EOF
     synthesizer miter.ys
     yosys-abc -c "read_aiger miter.aig; strash; zero; &get; &scorr; &put; dprove" > abc.log 2>&1 || true
     # The second of each is said where no state is left on one side only.
-    grep -Eq '^(Networks are equivalent\.|UNSATISFIABLE)' abc.log && return 0
-    grep -E '^(Networks are not equivalent\.|SATISFIABLE)' abc.log && return 1
-    fail "ABC decided nothing: $(tail -n 3 abc.log)"
+    if grep -Eq '^(Networks are equivalent\.|UNSATISFIABLE)' abc.log; then
+        verdict=equal
+    elif ! grep -E '^(Networks are not equivalent\.|SATISFIABLE)' abc.log; then
+        fail "ABC decided nothing: $(tail -n 3 abc.log)"
+    fi
 }
 
 as_written() { # NAME READ-VERILOG-ARGUMENTS
@@ -186,7 +193,7 @@ design -reset
 EOF
 }
 
-prove_vhdl() { # NETLIST; 0 if it is proven equal to the Verilog netlist, 1 if it differs
+prove_vhdl() { # NETLIST; is it equal to the Verilog netlist?
     cp "$1" netlist.vhd
     ghdl --synth --std=93c --out=verilog netlist.vhd -e Tarvo_ORIX_M1_Top > ghdl.v 2> ghdl.log || fail "$(cat ghdl.log)"
     sed -nE 's/^  (TV_[A-Z0-9_]+|[)]) (_[0-9]+_) [(]$/\2/p' "$verilog" > cells
@@ -197,7 +204,7 @@ prove_vhdl() { # NETLIST; 0 if it is proven equal to the Verilog netlist, 1 if i
     } > as-written.ys
     synthesizer as-written.ys
     isolate /dev/null verilog vhdl
-    equal verilog vhdl
+    compare verilog vhdl
 }
 
 verilog=ip/temp/tv_orix_m1/tarvo_orix_m1.vg
@@ -209,14 +216,17 @@ read_verilog boxes.v
 write_rtlil declarations
 EOF
 synthesizer declarations.ys
-prove_verilog "$verilog" || fail "the Verilog netlist differs from the sources"
-prove_vhdl "$vhdl" || fail "the VHDL netlist differs from the Verilog netlist"
+prove_verilog "$verilog"
+[[ $verdict == equal ]] || fail "the Verilog netlist differs from the sources"
+prove_vhdl "$vhdl"
+[[ $verdict == equal ]] || fail "the VHDL netlist differs from the Verilog netlist"
 echo "proven equal"
 
 for change in "$@"; do
     language=${change%%: *}
     sed -E "${change#*: }" "${!language}" > changed
     ! cmp -s "${!language}" changed || fail "nothing to change: $change"
-    ! "prove_$language" changed || fail "not noticed: $change"
+    "prove_$language" changed
+    [[ $verdict == different ]] || fail "not noticed: $change"
     echo "noticed: $change"
 done
