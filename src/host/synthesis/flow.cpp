@@ -60,11 +60,6 @@ QString Flow::option(const char *key) const
     return m_job.options.value(QLatin1String(key)).toString();
 }
 
-bool Flow::writesVhdl() const
-{
-    return m_job.options.value(QStringLiteral("write_vhdl")).toBool();
-}
-
 QString Flow::templatePath() const
 {
     return outputPath(writesVhdl() ? QStringLiteral("_tmp.vhd") : QStringLiteral("_tmp.v"));

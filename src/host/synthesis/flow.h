@@ -62,7 +62,7 @@ protected:
 
     QString option(const char *key) const;
     QString topModule() const { return option("top_module"); }
-    bool writesVhdl() const;
+    bool writesVhdl() const { return m_job.writesVhdl(); }
     QString templatePath() const;
     // In the language of the job.
     QByteArray instantiationTemplate(const QVector<Port> &ports) const;

@@ -25,6 +25,8 @@ struct Job {
     QString targetName; // base name of the outputs
     DEV::DeviceArg device;
     QVariantMap options;
+
+    bool writesVhdl() const { return options.value(QStringLiteral("write_vhdl")).toBool(); }
 };
 
 } // namespace Synthesis
