@@ -22,6 +22,27 @@ namespace
 
 const QString unsavedSuffix = QStringLiteral(".unsaved");
 
+// Where the n-th copy of unsaved changes goes: "a.v.unsaved", "a.v.unsaved2", ...
+QString keptName(const QString &base, int n)
+{
+    return base + unsavedSuffix + (n > 1 ? QString::number(n) : QString());
+}
+
+// The newest copy beside the file; empty if there is none.
+QString newestKept(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString start = info.fileName() + unsavedSuffix;
+    const QFileInfoList entries = info.dir().entryInfoList(QDir::Files, QDir::Time);
+    for (const QFileInfo &entry : entries) {
+        const QString name = entry.fileName();
+        if (name.startsWith(start) &&
+            keptName(info.fileName(), name.mid(start.size()).toInt()) == name)
+            return entry.filePath();
+    }
+    return {};
+}
+
 } // namespace
 
 EditorPage::EditorPage(const QString &path, QWidget *parent)
@@ -212,9 +233,10 @@ QString EditorPage::keepChanges(QString *error) const
         format.encoding = TextFormat::Utf8;
     const QString inTemp = QDir::tempPath() + u'/' + QFileInfo(m_path).fileName();
     for (const QString &base : {m_path, inTemp}) {
-        QString kept = base + unsavedSuffix;
-        for (int n = 2; QFileInfo::exists(kept); ++n)
-            kept = base + unsavedSuffix + QString::number(n);
+        int n = 1;
+        while (QFileInfo::exists(keptName(base, n)))
+            ++n;
+        const QString kept = keptName(base, n);
         if (Utils::FileUtils::writeFile(kept, format.encode(text), error))
             return kept;
     }
@@ -223,8 +245,8 @@ QString EditorPage::keepChanges(QString *error) const
 
 void EditorPage::offerKeptChanges()
 {
-    const QString kept = m_path + unsavedSuffix;
-    if (!QFileInfo::exists(kept))
+    const QString kept = newestKept(m_path);
+    if (kept.isEmpty())
         return;
     m_infoBar->showMessage(
         tr("The program was ended with unsaved changes of this file. They are in \"%1\".")
@@ -232,7 +254,9 @@ void EditorPage::offerKeptChanges()
         {{tr("&Open Them"), [this, kept] { Q_EMIT openRequested(kept); }},
          {tr("&Delete Them"), [this, kept] {
               QFile file(kept);
-              if (!file.remove())
+              if (file.remove())
+                  offerKeptChanges(); // an older copy
+              else
                   m_infoBar->showMessage(
                       tr("Cannot delete \"%1\": %2.").arg(kept, file.errorString()), {});
           }}});

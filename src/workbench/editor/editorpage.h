@@ -48,9 +48,10 @@ public:
     // Says in the info bar why the file cannot be changed, if it cannot.
     void startEditing();
     bool save(QString *error);
-    // Writes what is shown into a new file, "<path>.unsaved" or in the folder for temporary files
-    // if that cannot be; returns its path. Empty, and a sentence in `*error`, if neither can be
-    // written. Pages of that file tell of it from then on.
+    // Writes what is shown into a new file, "<path>.unsaved" ("<path>.unsaved2" if there is one) or
+    // in the folder for temporary files if that cannot be; returns its path. Empty, and a sentence
+    // in `*error`, if neither can be written. A page that opens the file later tells of a copy
+    // beside it.
     QString keepChanges(QString *error) const;
 
     // Compares with the disk: what was not changed here is read again, otherwise the info bar asks.
