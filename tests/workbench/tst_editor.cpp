@@ -9,6 +9,7 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/editor/highlighting.h>
 #include <workbench/editor/textfile.h>
+#include <workbench/editor/unsavedcopy.h>
 #include <workbench/widgets/infobar.h>
 
 #include <QApplication>
@@ -186,6 +187,8 @@ private Q_SLOTS:
         const QString opened = m_tabs->currentPage()->path();
         QVERIFY2(opened == kept || opened == kept + u'2', qPrintable(opened));
         QVERIFY(page->infoBar()->isHidden());
+        QCOMPARE(Highlighting::languageOf(opened), QString());
+        QVERIFY(m_tabs->currentPage()->findChild<QSyntaxHighlighter *>()); // as the original's
 
         // One copy after the other.
         m_tabs = std::make_unique<EditorTabs>();
@@ -199,6 +202,25 @@ private Q_SLOTS:
         QVERIFY(page->infoBar()->isHidden());
         QCOMPARE(entriesOf(m_dir->path()).size(), 4);
         QCOMPARE(contentsOf(m_path), QByteArray("module a;\n// two\nendmodule\n"));
+    }
+
+    void knowsCopiesByTheirNames_data()
+    {
+        QTest::addColumn<QString>("original");
+        for (const char *name : {"/p/a.v.unsaved", "/p/a.v.unsaved2", "/p/a.v.unsaved10"})
+            QTest::newRow(name) << QStringLiteral("/p/a.v");
+        QTest::newRow("a.v.unsaved") << QStringLiteral("a.v");
+        QTest::newRow("a.unsaved.unsaved") << QStringLiteral("a.unsaved");
+        for (const char *name :
+             {"", "a.v", "a.v.unsaved1", "a.v.unsaved02", "a.v.unsaved-2", "a.v.unsavedness",
+              "a.v.unsaved99999999999", ".unsaved", "/p/.unsaved", "/p.unsaved/a.v"})
+            QTest::newRow(name) << QString();
+    }
+
+    void knowsCopiesByTheirNames()
+    {
+        QFETCH(QString, original);
+        QCOMPARE(UnsavedCopy::originalOf(QString::fromLatin1(QTest::currentDataTag())), original);
     }
 
     void keepsUnsavedChangesElsewhereOnAFullDisk()

@@ -187,8 +187,11 @@ private Q_SLOTS:
         QCOMPARE(window()->project()->files(), QStringList(verilog));
         QVERIFY(bar->isHidden());
 
+        write(verilog + QStringLiteral(".unsaved"), "// not of this run\n");
         generate(1);
         QCOMPARE(window()->project()->files(), QStringList({verilog, vhdl}));
+        QVERIFY(!window()->results()->files().contains(verilog + QStringLiteral(".unsaved")));
+        QVERIFY(window()->results()->files().contains(verilog));
         QVERIFY(isOld(QStringLiteral("tarvo_orix_m1.v")));
         QVERIFY(isOld(QStringLiteral("tarvo_orix_m1_tmp.v")));
         QVERIFY(!isOld(QStringLiteral("tarvo_orix_m1.vo")));

@@ -3,6 +3,7 @@
 #include "codeeditor.h"
 #include "findbar.h"
 #include "highlighting.h"
+#include "unsavedcopy.h"
 #include "widgets/infobar.h"
 
 #include <utils/fileutils.h>
@@ -16,34 +17,6 @@
 
 namespace Workbench
 {
-
-namespace
-{
-
-const QString unsavedSuffix = QStringLiteral(".unsaved");
-
-// Where the n-th copy of unsaved changes goes: "a.v.unsaved", "a.v.unsaved2", ...
-QString keptName(const QString &base, int n)
-{
-    return base + unsavedSuffix + (n > 1 ? QString::number(n) : QString());
-}
-
-// The newest copy beside the file; empty if there is none.
-QString newestKept(const QString &path)
-{
-    const QFileInfo info(path);
-    const QString start = info.fileName() + unsavedSuffix;
-    const QFileInfoList entries = info.dir().entryInfoList(QDir::Files, QDir::Time);
-    for (const QFileInfo &entry : entries) {
-        const QString name = entry.fileName();
-        if (name.startsWith(start) &&
-            keptName(info.fileName(), name.mid(start.size()).toInt()) == name)
-            return entry.filePath();
-    }
-    return {};
-}
-
-} // namespace
 
 EditorPage::EditorPage(const QString &path, QWidget *parent)
     : QWidget(parent)
@@ -104,8 +77,11 @@ bool EditorPage::load(QString *error)
     m_inserted = 0;
     delete m_highlighter;
     m_highlighter = nullptr;
-    if (bytes.size() <= pieceLimit)
-        m_highlighter = Highlighting::attach(m_editor->document(), m_path, palette());
+    if (bytes.size() <= pieceLimit) {
+        const QString original = UnsavedCopy::originalOf(m_path);
+        m_highlighter = Highlighting::attach(m_editor->document(),
+                                             original.isEmpty() ? m_path : original, palette());
+    }
 
     const QString text = m_format.decode(bytes);
     if (wasShown)
@@ -233,10 +209,7 @@ QString EditorPage::keepChanges(QString *error) const
         format.encoding = TextFormat::Utf8;
     const QString inTemp = QDir::tempPath() + u'/' + QFileInfo(m_path).fileName();
     for (const QString &base : {m_path, inTemp}) {
-        int n = 1;
-        while (QFileInfo::exists(keptName(base, n)))
-            ++n;
-        const QString kept = keptName(base, n);
+        const QString kept = UnsavedCopy::freePath(base);
         if (Utils::FileUtils::writeFile(kept, format.encode(text), error))
             return kept;
     }
@@ -245,7 +218,7 @@ QString EditorPage::keepChanges(QString *error) const
 
 void EditorPage::offerKeptChanges()
 {
-    const QString kept = newestKept(m_path);
+    const QString kept = UnsavedCopy::newestOf(m_path);
     if (kept.isEmpty())
         return;
     m_infoBar->showMessage(

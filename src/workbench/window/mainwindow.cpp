@@ -9,6 +9,7 @@
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
 #include "editor/editortabs.h"
+#include "editor/unsavedcopy.h"
 #include "messages/logview.h"
 #include "messages/messagemodel.h"
 #include "messages/messagesview.h"
@@ -462,7 +463,12 @@ void MainWindow::onIpClosed(const QStringList &files)
 {
     m_projectModel->refresh();
     if (m_hasNewReport) {
-        results()->setDelivered(files, m_project ? m_project->files() : QStringList());
+        QStringList delivered;
+        for (const QString &file : files) {
+            if (UnsavedCopy::originalOf(file).isEmpty())
+                delivered.append(file);
+        }
+        results()->setDelivered(delivered, m_project ? m_project->files() : QStringList());
         showResults();
     }
     m_hasNewReport = false;
