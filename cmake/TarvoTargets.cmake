@@ -20,7 +20,6 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/archive)
 set(TARVO_PLUGIN_DIR ${CMAKE_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}/tarvo/plugins)
 set(TARVO_DATA_DIR ${CMAKE_BINARY_DIR}/share/tarvo)
 set(TARVO_INSTALL_LIBDIR ${CMAKE_INSTALL_LIBDIR}/tarvo)
-set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}/tarvo;$ORIGIN;$ORIGIN/..")
 
 add_library(tarvo_flags INTERFACE)
 target_compile_features(tarvo_flags INTERFACE cxx_std_17)
@@ -37,10 +36,26 @@ if(TARVO_SANITIZE)
 endif()
 target_link_options(tarvo_flags INTERFACE -Wl,--no-undefined -Wl,--as-needed)
 
+# What an attacker's input would need is taken away: overrun stack frames and buffers end the program, and nothing that
+# the loader has resolved can be written to. The sanitizers bring checks of their own, which these would disturb.
+if(NOT TARVO_SANITIZE)
+    set(optimised "$<NOT:$<CONFIG:Debug>>")
+    target_compile_options(tarvo_flags INTERFACE
+        -fstack-protector-strong -fstack-clash-protection "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>")
+endif()
+target_link_options(tarvo_flags INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+
 # Marks a target's level and remembers it for tarvo_check_levels().
 function(tarvo_set_level target level)
     set_target_properties(${target} PROPERTIES TARVO_LEVEL ${level})
     set_property(GLOBAL APPEND PROPERTY TARVO_LEVELLED ${target})
+endfunction()
+
+# Lets the loader find the libraries of this repository relative to the target itself, in the build tree as in an
+# installation. Without this the build tree's binaries would get room for the longer of two paths, filled up with empty
+# elements, and an empty element is the current folder: whatever lies there would be run.
+function(tarvo_set_library_path target path)
+    set_target_properties(${target} PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN${path}")
 endfunction()
 
 # tarvo_add_library(NAME STATIC|SHARED LEVEL n SOURCES … [LINK …] [PRIVATE_LINK …])
@@ -69,6 +84,7 @@ function(tarvo_add_host_library name)
     string(TOUPPER ${name} upper)
     target_compile_definitions(${target} PRIVATE TARVO_${upper}_LIBRARY)
     target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
+    tarvo_set_library_path(${target} "")
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME folder)
     target_include_directories(${target} PUBLIC $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tarvo>)
     install(TARGETS ${target} EXPORT TarvoHostTargets
@@ -84,6 +100,7 @@ function(tarvo_add_plugin name)
     set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${TARVO_PLUGIN_DIR}
         LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/qtplugin.map)
     target_link_options(${name} PRIVATE -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/qtplugin.map)
+    tarvo_set_library_path(${name} "/..")
     install(TARGETS ${name} LIBRARY DESTINATION ${TARVO_INSTALL_LIBDIR}/plugins)
     tarvo_set_level(${name} ${ARG_LEVEL})
 endfunction()
@@ -94,6 +111,7 @@ function(tarvo_add_program name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_PRIVATE_LINK} tarvo_flags)
     if(NOT ARG_NO_INSTALL)
+        tarvo_set_library_path(${name} "/../${TARVO_INSTALL_LIBDIR}")
         install(TARGETS ${name} RUNTIME)
     endif()
     tarvo_set_level(${name} ${ARG_LEVEL})
