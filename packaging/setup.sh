@@ -6,11 +6,21 @@ set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 mapfile -t wanted < <(sed 's/#.*//; s/[[:space:]]//g; /^$/d' "$here/debian-packages.txt")
 
-missing=()
-for package in "${wanted[@]}"; do
-    status=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null || true)
-    [[ $status == installed ]] || missing+=("$package")
-done
+find_missing() {
+    missing=()
+    for package in "${wanted[@]}"; do
+        status=$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null || true)
+        [[ $status == installed ]] || missing+=("$package")
+    done
+}
+find_missing
+((${#missing[@]} == 0)) && exit 0
+
+# One caller at a time: the others find nothing to do afterwards.
+mkdir -p "$here/../build"
+exec {lock}>"$here/../build/.setup.lock"
+flock "$lock"
+find_missing
 ((${#missing[@]} == 0)) && exit 0
 
 echo "Installing: ${missing[*]}" >&2
@@ -23,5 +33,5 @@ if ((EUID != 0)); then
     as_root=(sudo)
 fi
 export DEBIAN_FRONTEND=noninteractive
-"${as_root[@]}" apt-get update -q >&2
-"${as_root[@]}" apt-get install -y -q --no-install-recommends "${missing[@]}" >&2
+"${as_root[@]}" apt-get update -q >&2 {lock}>&-
+"${as_root[@]}" apt-get install -y -q -o DPkg::Lock::Timeout=600 --no-install-recommends "${missing[@]}" >&2 {lock}>&-
