@@ -33,6 +33,13 @@ QVector<Finding> checkFrame(const IpcDocument &document, const QVariantMap &ipIn
                              QLatin1String("\", but this IP is \"") + id + u'"'});
     for (const QString &entry : document.unknownEntries)
         findings.append({Finding::Warning, entry, QStringLiteral("unknown entry")});
+    for (const Reading::IniEntry &entry : document.oddEntries)
+        findings.append(
+            {entry.bytes == Reading::IniEntry::Utf8 ? Finding::Error : Finding::Warning, entry.key,
+             QLatin1String("line ") + QString::number(entry.line) +
+                 QLatin1String(" holds bytes that are not ASCII, which are read as Latin-1: \"") +
+                 entry.values.join(QLatin1String(", ")) +
+                 QLatin1String("\"; write such a character as \\x and its number in hexadecimal")});
     return findings;
 }
 

@@ -5,6 +5,7 @@
 #include "output.h"
 
 #include <config/choices.h>
+#include <config/itcmcontents.h>
 #include <config/optionkeys.h>
 #include <generate/defines.h>
 #include <generate/outputs.h>
@@ -186,6 +187,12 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     runner.setTool(tool == Value::synplifyPro ? Synthesis::Tool::SynplifyPro
                                               : Synthesis::Tool::TarvoSynthesis);
     runner.setJob(jobFrom(request, document.device));
+    QStringList inputMistakes;
+    const QVector<ItcmMistake> mistakes =
+        itcmMistakes(document.options, document.device.device(), tempDir);
+    for (const ItcmMistake &mistake : mistakes)
+        inputMistakes.append(mistake.text());
+    runner.setInputMistakes(inputMistakes);
     const int exitCode = synthesise(runner, arguments.verbose);
     report.run = runner.report();
 

@@ -4,7 +4,7 @@
 #include "output.h"
 
 #include <config/ipcfile.h>
-#include <utils/fileutils.h>
+#include <utils/boundedfile.h>
 #include <utils/inifile.h>
 
 #include <QFileInfo>
@@ -24,10 +24,10 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
                        QString *error)
 {
     QByteArray bytes;
-    if (!Utils::FileUtils::readFile(path, &bytes, error))
+    if (!Utils::readConfigurationFile(path, &bytes, error))
         return false;
     QString reason;
-    if (!Utils::checkIniText(bytes, &reason)) {
+    if (!Utils::checkConfigurationText(bytes, &reason)) {
         *error = QLatin1String("\"") + path + QLatin1String("\" is no IP configuration file: ") +
                  reason + u'.';
         return false;
@@ -51,6 +51,12 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
         settings.value(QStringLiteral("target_device"), settings.value(QStringLiteral("device/id")))
             .toString();
     IpcFile::readOptions(settings, document->options);
+
+    const QVector<Reading::IniEntry> entries = Reading::iniEntries(bytes);
+    for (const Reading::IniEntry &entry : entries) {
+        if (entry.bytes != Reading::IniEntry::Ascii)
+            document->oddEntries.append(entry);
+    }
 
     const QStringList known = {QStringLiteral("target_device"), QStringLiteral("type"),
                                QStringLiteral("version")};

@@ -2,6 +2,7 @@
 
 #include <config/optionmap.h>
 #include <dev/devicearg.h>
+#include <reading/inientries.h>
 
 #include <QString>
 
@@ -22,7 +23,8 @@ struct IpcDocument {
     QString deviceText;    // what the file says of its device, for messages
     DEV::DeviceArg device; // null when the file names none or an unknown one
     TARVOORIXM1::OptionMap options;
-    QStringList unknownEntries; // outside of what the file format knows
+    QStringList unknownEntries;            // outside of what the file format knows
+    QVector<Reading::IniEntry> oddEntries; // with bytes that are not ASCII
 
     QString folder() const;
 

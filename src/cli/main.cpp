@@ -2,6 +2,8 @@
 #include "environment.h"
 #include "output.h"
 
+#include <utils/utf8names.h>
+
 #include <CLI/CLI.hpp>
 
 #include <QCoreApplication>
@@ -181,6 +183,15 @@ int main(int argc, char *argv[])
     }
     if (!command) {
         Cli::printError(QStringLiteral("A command is required; \"orixm1 --help\" lists them."));
+        return Cli::WrongUsage;
+    }
+    QString mistake = Utils::nonUtf8Argument(argc, argv);
+    for (const std::string *path : {&file, &outDir, &dataFolder, &deviceFolder}) {
+        if (mistake.isEmpty() && !path->empty() && path->front() != '/')
+            mistake = Utils::nonUtf8CurrentFolder();
+    }
+    if (!mistake.isEmpty()) {
+        Cli::printError(mistake);
         return Cli::WrongUsage;
     }
     environment.setDataFolder(text(dataFolder));

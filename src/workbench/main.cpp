@@ -8,6 +8,7 @@
 #include <core/idecore.h>
 #include <dev/devicedb.h>
 #include <utils/interrupt.h>
+#include <utils/utf8names.h>
 
 #include <QApplication>
 #include <QDir>
@@ -138,6 +139,11 @@ int main(int argc, char *argv[])
     if (rendering || asked) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
+    }
+    for (const QString &mistake : {Utils::nonUtf8Argument(argc, argv),
+                                   argc > 1 ? Utils::nonUtf8CurrentFolder() : QString()}) {
+        if (!mistake.isEmpty())
+            return fail(mistake);
     }
     Options options;
     int status = 0;

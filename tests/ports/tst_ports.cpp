@@ -5,6 +5,8 @@
 
 #include <config/check.h>
 #include <config/descriptor.h>
+#include <config/devicerules.h>
+#include <config/itcmcontents.h>
 #include <config/optionkeys.h>
 #include <config/optiontable.h>
 #include <core/corepins.h>
@@ -72,12 +74,17 @@ OptionMap allSwitches(bool on)
 // Takes back what the device cannot have and gives what is missing, until no error is left.
 OptionMap repaired(OptionMap options, const DEV::DeviceArg &device, const QString &programFolder)
 {
-    if (options.value(Key::initializeItcm).toBool()) {
-        options.insert(Key::itcmInitializationPath, programFolder);
-        options.insert(Key::itcmInitializationAbsolutePath, programFolder);
-    }
+    const auto setProgram = [&] {
+        const int index =
+            options.value(Key::itcmSize, defaultTcmSizeIndex(device.device())).toInt();
+        const QString folder = QStringLiteral("%1/%2").arg(programFolder).arg(index);
+        options.insert(Key::itcmInitializationPath, folder);
+        options.insert(Key::itcmInitializationAbsolutePath, folder);
+    };
     for (int round = 0; round < 10; ++round) {
         bool sound = true;
+        if (options.value(Key::initializeItcm).toBool())
+            setProgram();
         const QVector<Finding> findings = checkOptions(options, device, QDir::rootPath());
         for (const Finding &finding : findings) {
             if (finding.severity != Finding::Error)
@@ -198,9 +205,12 @@ void tst_Ports::initTestCase()
 {
     QVERIFY(m_dir.isValid());
     addDataFolders(m_ipInfo, QStringLiteral(TARVO_IP_DATA_DIR));
-    for (int i = 0; i < 4; ++i)
-        QVERIFY(TestSupport::write(m_dir.filePath(QStringLiteral("program/itcm%1").arg(i)),
-                                   "00\n11\n22\n33\n"));
+    for (int size = 0; size < 10; ++size) {
+        for (int i = 0; i < 4; ++i)
+            QVERIFY(TestSupport::write(
+                m_dir.filePath(QStringLiteral("program/%1/itcm%2").arg(size).arg(i)),
+                QByteArray("00\n11\n22\n33\n").repeated(itcmLaneSize(size) / 4)));
+    }
 }
 
 void tst_Ports::pinsArePorts_data()

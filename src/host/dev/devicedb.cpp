@@ -1,6 +1,8 @@
 #include "devicedb.h"
 
-#include <utils/fileutils.h>
+#include <reading/limits.h>
+#include <utils/boundedfile.h>
+#include <utils/jsonmistake.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -40,8 +42,15 @@ bool malformed(const QString &path, const QString &reason, QString *error)
 bool readObject(const QString &path, QJsonObject *object, QString *error)
 {
     QByteArray bytes;
-    if (!Utils::FileUtils::readFile(path, &bytes, error))
+    if (!Utils::readBoundedFile(path, Reading::Limits::deviceFile, &bytes, error))
         return false;
+    const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+    if (mistake.offset >= 0)
+        return malformed(
+            path,
+            tr("line %1: %2")
+                .arg(QString::number(1 + bytes.left(mistake.offset).count('\n')), mistake.reason),
+            error);
     QJsonParseError parseError;
     *object = QJsonDocument::fromJson(bytes, &parseError).object();
     return parseError.error == QJsonParseError::NoError ||
@@ -174,6 +183,10 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
         if (series.isEmpty() || size.isEmpty())
             return fail(
                 tr("the device name \"%1\" is not a series, a hyphen and a size").arg(device));
+        const qint64 records = qint64(packages.size()) * speeds.size();
+        if (m_devices.size() + records > Reading::Limits::devices)
+            return fail(tr("with \"%1\" there are more than %2 devices")
+                            .arg(device, QString::number(Reading::Limits::devices)));
         const QString base = series + QLatin1String("-LV") + size;
         for (const QJsonValue &packageValue : packages) {
             const QString package = packageValue.toString();

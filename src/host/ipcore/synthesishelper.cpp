@@ -19,6 +19,21 @@ public:
     QPointer<ProgressDialog> progress;
 };
 
+namespace
+{
+
+// What a configurator that can tell says about its inputs.
+QStringList mistakesTold(QObject *configurator)
+{
+    QStringList mistakes;
+    if (configurator && configurator->metaObject()->indexOfMethod("inputMistakes()") >= 0)
+        QMetaObject::invokeMethod(configurator, "inputMistakes", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QStringList, mistakes));
+    return mistakes;
+}
+
+} // namespace
+
 SynthesisHelper::SynthesisHelper(QObject *parent)
     : QObject(parent)
     , d(std::make_unique<Private>())
@@ -94,6 +109,7 @@ void SynthesisHelper::start()
         return;
     if (d->progress)
         d->progress->startClock();
+    d->runner.setInputMistakes(mistakesTold(parent()));
     d->runner.start();
     SynthesisMonitor::instance().add(this);
 }

@@ -1,5 +1,8 @@
 #include "designports.h"
 
+#include "designcheck.h"
+
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -10,6 +13,11 @@ namespace Synthesis
 
 namespace
 {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
 
 bool isBits(const QString &text)
 {
@@ -78,12 +86,18 @@ QByteArray Port::range() const
     return isRising ? '[' + low + ':' + high + ']' : '[' + high + ':' + low + ']';
 }
 
-bool DesignPorts::read(const QByteArray &outline, const QByteArray &cells)
+QString DesignPorts::read(const QByteArray &outline, const QByteArray &cells)
 {
     const QLatin1String modulesKey("modules");
     m_modules = QJsonDocument::fromJson(outline).object().value(modulesKey).toObject();
     const QJsonObject designs =
         QJsonDocument::fromJson(cells).object().value(modulesKey).toObject();
+    for (const QJsonObject &modules : {m_modules, designs}) {
+        if (QString mistake = designMistake(modules); !mistake.isEmpty()) {
+            m_modules = {};
+            return mistake;
+        }
+    }
     for (const QJsonValue &module : designs) {
         const QJsonObject instances = module.toObject().value(QLatin1String("cells")).toObject();
         for (const QJsonValue &instance : instances) {
@@ -101,7 +115,7 @@ bool DesignPorts::read(const QByteArray &outline, const QByteArray &cells)
             }
         }
     }
-    return !m_modules.isEmpty();
+    return m_modules.isEmpty() ? tr("it holds no modules") : QString();
 }
 
 bool DesignPorts::contains(const QByteArray &module) const

@@ -50,8 +50,9 @@ class DesignPorts
 public:
     // `outline` and `cells` are designs in the synthesis tool's JSON form: of `outline` the modules
     // are read, of `cells`, which may be empty, how wide the connections of the black boxes' ports
-    // are, since a port may be as wide as a parameter says. False if `outline` is not such a text.
-    bool read(const QByteArray &outline, const QByteArray &cells);
+    // are, since a port may be as wide as a parameter says. Empty on success, otherwise a clause on
+    // what is wrong with the texts.
+    QString read(const QByteArray &outline, const QByteArray &cells);
 
     bool contains(const QByteArray &module) const;
     QVector<Port> ports(const QByteArray &module) const;

@@ -103,6 +103,12 @@ QString Flow::readResult(const QString &file, const QString &shown, QByteArray *
     return error;
 }
 
+QString Flow::unusable(const QString &path, const QString &reason) const
+{
+    return tr("What %1 wrote for \"%2\" cannot be used: %3.")
+        .arg(m_commands.last().name, QDir::toNativeSeparators(path), reason);
+}
+
 QByteArray Flow::title(const char *what) const
 {
     QStringList words{QLatin1String(what), topModule()};

@@ -73,6 +73,8 @@ protected:
     QString writeScratch(const QString &file, const QByteArray &bytes) const;
     // Reads a file that a command should have left; `shown` is the name that the result would get.
     QString readResult(const QString &file, const QString &shown, QByteArray *bytes) const;
+    // What a command wrote for the result `path` makes no sense: a sentence of the clause `reason`.
+    QString unusable(const QString &path, const QString &reason) const;
     // The comment on top of an output.
     QByteArray title(const char *what) const;
 

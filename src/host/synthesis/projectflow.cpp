@@ -4,6 +4,8 @@
 #include "verilogscan.h"
 #include "yosysscript.h"
 
+#include <reading/limits.h>
+#include <utils/boundedfile.h>
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
@@ -131,10 +133,11 @@ QString ProjectFlow::stageOf(const QString &line)
 
 QStringList ProjectFlow::furtherLog() const
 {
-    QFile file(m_scratch.absolute(resultFile(QStringLiteral(".srr"))));
-    if (!file.open(QIODevice::ReadOnly))
+    QByteArray text;
+    if (!Utils::readBoundedFile(m_scratch.absolute(resultFile(QStringLiteral(".srr"))),
+                                Reading::Limits::toolLog, &text, nullptr))
         return {};
-    return QString::fromUtf8(file.readAll()).split(u'\n');
+    return QString::fromUtf8(text).split(u'\n');
 }
 
 QString ProjectFlow::collect(Results *results)
@@ -157,8 +160,14 @@ QString ProjectFlow::collect(Results *results)
     if (!scanned.complete || !scanned.defines(top))
         return tr("Synplify Pro reported success but what it wrote for \"%1\" is not complete.")
             .arg(shown);
+    results->instances = scanned.leavesOf(top, &error);
+    if (!error.isEmpty())
+        return unusable(netlistPath, error);
     DesignPorts design;
-    if (!design.read(outline, {}) || !design.contains(top))
+    error = design.read(outline, {});
+    if (!error.isEmpty())
+        return unusable(templatePath(), error);
+    if (!design.contains(top))
         return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
             .arg(QDir::toNativeSeparators(templatePath()));
 
@@ -177,7 +186,6 @@ QString ProjectFlow::collect(Results *results)
             return error;
         results->outputs << Output{path, vhdl};
     }
-    results->instances = scanned.leavesOf(top);
     return {};
 }
 

@@ -29,12 +29,14 @@ public:
 
     Tool tool = Tool::TarvoSynthesis;
     Job job;
+    QStringList inputMistakes;
     bool running = false;
     bool cancelled = false;
     QString errorMsg;
     QStringList details;
 
 private:
+    QString refuseInputs();
     void runCommand();
     void commandEnded();
     void receive(const QString &line);
@@ -71,12 +73,24 @@ void Runner::Private::start()
     else
         m_flow = std::make_unique<YosysFlow>(job);
 
-    const QString error = m_flow->prepare();
+    QString error = m_flow->prepare();
+    if (error.isEmpty() && !inputMistakes.isEmpty())
+        error = refuseInputs();
     if (error.isEmpty())
         runCommand();
     else
         QMetaObject::invokeMethod(
             q, [this, error] { end(error); }, Qt::QueuedConnection);
+}
+
+// Returns the summary of the run.
+QString Runner::Private::refuseInputs()
+{
+    for (const QString &mistake : qAsConst(inputMistakes))
+        m_log.addError(mistake);
+    const int count = m_log.errors().size();
+    return count == 1 ? tr("The inputs hold a mistake; the tool was not started.")
+                      : tr("The inputs hold %1 mistakes; the tool was not started.").arg(count);
 }
 
 void Runner::Private::cancel()
@@ -250,6 +264,11 @@ Runner::Runner(QObject *parent)
 }
 
 Runner::~Runner() = default;
+
+void Runner::setInputMistakes(const QStringList &mistakes)
+{
+    d->inputMistakes = mistakes;
+}
 
 void Runner::setTool(Tool tool)
 {

@@ -33,6 +33,9 @@ public:
     void setTool(Tool tool);
     Tool tool() const;
     void setJob(const Job &job);
+    // Mistakes of the job's inputs that were found before, one "file:line: reason" or
+    // "file: reason" each. With any, start() ends with them as errors and starts no tool.
+    void setInputMistakes(const QStringList &mistakes);
 
     // Starts a run and returns at once; finished() follows exactly once, never from within start().
     // Does nothing while a run is active.

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <cerrno>
 #include <cstring>
@@ -34,6 +35,9 @@ QString check(const QString &path)
         return tr("The source file \"%1\" does not exist.").arg(shown);
     if (info.isDir())
         return tr("The source file \"%1\" is a folder.").arg(shown);
+    // A tool would wait for ever for what a pipe has to say.
+    if (!info.isFile())
+        return tr("The source file \"%1\" is not a plain file.").arg(shown);
     if (suffix == QLatin1String("vhd") || suffix == QLatin1String("vhdl"))
         return tr("The source file \"%1\" is VHDL, which cannot be read; only Verilog can.")
             .arg(shown);
@@ -66,12 +70,14 @@ QString SourceStage::prepare(const QStringList &files, const ScratchFolder &scra
     m_originalDirs = QStringList{scratch.outputDir()};
     m_includeDirs = QStringList{QStringLiteral(".")};
     QStringList folders;
+    QSet<QString> seen;
     for (const QString &file : files) {
         if (QString error = check(file); !error.isEmpty())
             return error;
         const QString path = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
-        if (m_originals.contains(path))
+        if (seen.contains(path))
             continue;
+        seen.insert(path);
         const QFileInfo info(path);
         int number = folders.indexOf(info.absolutePath());
         if (number < 0) {

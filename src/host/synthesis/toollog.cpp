@@ -2,8 +2,11 @@
 
 #include "sourcestage.h"
 
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 
@@ -22,12 +25,16 @@ QString plainQuotes(QString text)
 
 int lineOfInclude(const QString &path, const QString &name)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    QByteArray text;
+    QString ignored;
+    if (!Reading::readPlainFile(path, Reading::Limits::anyFile, &text, &ignored))
         return 0;
     const QByteArray quoted = '"' + name.toUtf8() + '"';
-    for (int number = 1; !file.atEnd(); ++number) {
-        const QByteArray line = file.readLine();
+    int number = 0;
+    for (int from = 0, end = 0; end >= 0; from = end + 1) {
+        ++number;
+        end = text.indexOf('\n', from);
+        const QByteArray line = text.mid(from, end < 0 ? -1 : end - from);
         if (line.contains("`include") && line.contains(quoted))
             return number;
     }
@@ -39,6 +46,19 @@ QString absolutePath(const QString &path, const SourceStage &sources)
 {
     const QString inOutput = sources.originalDirs().value(0) + u'/' + path;
     return QDir::isRelativePath(path) && QFileInfo::exists(inOutput) ? inOutput : path;
+}
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
+
+// Equal for equal messages, whatever their count.
+QString keyOf(const Message &message)
+{
+    const QChar gap(0);
+    return QString::number(message.severity) + gap + QString::number(message.line) + gap +
+           message.file + gap + message.text;
 }
 
 // Netlist names as the sources have them: "top.\a" is "top.a".
@@ -62,14 +82,13 @@ QString ToolLog::add(const QString &line, const SourceStage &sources)
         "^@([EW]):\\s*[A-Z0-9]*\\s*:?\\s*(?:\"([^\"]*)\":(\\d+)(?::[\\d:]*)?\\s*\\|)?\\s*(.*)$"));
 
     QString shown = sources.restored(line);
-    m_text += shown.toUtf8() + '\n';
-
-    if (m_open >= 0) {
+    keep(shown);
+    if (m_open) {
         if (shown.startsWith(QLatin1String("    "))) {
-            m_messages[m_open].text += u' ' + plainText(shown.trimmed());
+            m_messages.last().text += u' ' + plainText(shown.trimmed());
             return shown;
         }
-        m_open = -1;
+        close();
     }
     if (const auto match = frontend.match(shown); match.hasMatch())
         m_reading = match.captured(1);
@@ -104,22 +123,80 @@ QString ToolLog::add(const QString &line, const SourceStage &sources)
     if (!message.file.isEmpty())
         message.file = absolutePath(message.file, sources);
     message.text = plainText(text);
-    take(message);
+    take(message, false);
     return shown;
 }
 
-void ToolLog::take(const Message &message)
+void ToolLog::addError(const QString &error)
 {
-    for (Message &known : m_messages) {
-        if (known.severity == message.severity && known.line == message.line &&
-            known.text == message.text && known.file == message.file) {
-            ++known.count;
-            return;
+    static const QRegularExpression placed(QStringLiteral("\\A(.+?):(?:(\\d+):)? (.*)\\z"),
+                                           QRegularExpression::DotMatchesEverythingOption);
+    keep(error);
+    close();
+    Message message;
+    message.severity = Message::Error;
+    message.text = error;
+    if (const auto match = placed.match(error); match.hasMatch()) {
+        message.file = match.captured(1);
+        message.line = match.captured(2).toInt();
+        message.text = match.captured(3);
+    }
+    take(message, true);
+}
+
+void ToolLog::keep(const QString &line)
+{
+    using Reading::Limits::toolLog;
+    if (m_text.size() >= toolLog)
+        return;
+    m_text += line.toUtf8() + '\n';
+    if (m_text.size() >= toolLog)
+        m_text += tr("The log ends here: it is larger than %1.")
+                      .arg(Reading::sizeText(toolLog))
+                      .toUtf8() +
+                  '\n';
+}
+
+// `whole`: nothing that follows belongs to the message.
+void ToolLog::take(const Message &message, bool whole)
+{
+    const QString key = keyOf(message);
+    if (const auto known = m_known.constFind(key); known != m_known.constEnd()) {
+        ++m_messages[known.value()].count;
+        return;
+    }
+    const bool isError = message.severity == Message::Error;
+    int &taken = isError ? m_errors : m_warnings;
+    if (taken < Reading::Limits::toolMessages) {
+        ++taken;
+        m_open = !whole && message.text.endsWith(u':');
+        if (!m_open)
+            m_known.insert(key, m_messages.size());
+        m_messages << message;
+    } else {
+        // Counted in one message of its own.
+        const QString text = isError ? tr("There are more errors; the log has them.")
+                                     : tr("There are more warnings; the log has them.");
+        const Message rest{message.severity, {}, 0, text, 1};
+        const auto place = m_known.constFind(keyOf(rest));
+        if (place != m_known.constEnd()) {
+            ++m_messages[place.value()].count;
+        } else {
+            m_known.insert(keyOf(rest), m_messages.size());
+            m_messages << rest;
         }
     }
-    m_messages << message;
-    if (message.text.endsWith(u':'))
-        m_open = m_messages.size() - 1;
+}
+
+// Only a message that is whole can be compared with the others.
+void ToolLog::close()
+{
+    if (!m_open)
+        return;
+    m_open = false;
+    const Message whole = m_messages.takeLast();
+    --(whole.severity == Message::Error ? m_errors : m_warnings);
+    take(whole, true);
 }
 
 QStringList ToolLog::errors() const

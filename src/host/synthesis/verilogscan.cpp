@@ -1,5 +1,8 @@
 #include "verilogscan.h"
 
+#include <reading/limits.h>
+
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -11,6 +14,11 @@ namespace Synthesis
 
 namespace
 {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Synthesis", text);
+}
 
 using namespace std::string_view_literals;
 
@@ -425,26 +433,74 @@ QMap<QByteArray, int> VerilogOutline::instances() const
     return result;
 }
 
-QMap<QByteArray, int> VerilogOutline::leavesOf(const QByteArray &top) const
+QMap<QByteArray, int> VerilogOutline::leavesOf(const QByteArray &top, QString *mistake) const
 {
     QHash<QByteArray, const Module *> byName;
     for (const Module &module : modules)
         byName.insert(module.name, &module);
-    QMap<QByteArray, int> leaves;
-    QMap<QByteArray, int> level{{top, 1}};
-    // A hierarchy is no deeper than there are modules; one that contains itself ends here.
-    for (int depth = 0; depth <= modules.size() && !level.isEmpty(); ++depth) {
-        QMap<QByteArray, int> below;
-        for (auto it = level.begin(); it != level.end(); ++it) {
-            const Module *module = byName.value(it.key());
-            if (!module || (module->instances.isEmpty() && it.key() != top)) {
-                leaves[it.key()] += it.value();
-                continue;
-            }
-            for (auto child = module->instances.begin(); child != module->instances.end(); ++child)
-                below[child.key()] += it.value() * child.value();
+    const auto isLeaf = [&](const QByteArray &name) {
+        const Module *module = byName.value(name);
+        return !module || (module->instances.isEmpty() && name != top);
+    };
+
+    // Depth first, without recursion: a module is done when everything below it is.
+    struct Visit {
+        QByteArray name;
+        QMap<QByteArray, int>::const_iterator next;
+        QMap<QByteArray, int>::const_iterator end;
+    };
+    enum State { Unseen, Open, Done };
+    static const QMap<QByteArray, int> none;
+    QHash<QByteArray, State> states;
+    QVector<Visit> path;
+    QByteArrayList belowFirst;
+    const auto open = [&](const QByteArray &name) {
+        states.insert(name, Open);
+        const QMap<QByteArray, int> &below = isLeaf(name) ? none : byName.value(name)->instances;
+        path.append({name, below.constBegin(), below.constEnd()});
+    };
+    open(top);
+    while (!path.isEmpty()) {
+        Visit &visit = path.last();
+        if (visit.next == visit.end) {
+            states.insert(visit.name, Done);
+            belowFirst.append(visit.name);
+            path.removeLast();
+            continue;
         }
-        level = below;
+        const QByteArray name = visit.next.key();
+        ++visit.next;
+        const State state = states.value(name, Unseen);
+        if (state == Open) {
+            *mistake = tr("the module \"%1\" contains itself").arg(QString::fromUtf8(name));
+            return {};
+        }
+        if (state == Unseen)
+            open(name);
+    }
+
+    using Reading::Limits::netlistInstances;
+    QHash<QByteArray, qint64> counts{{top, 1}};
+    QMap<QByteArray, int> leaves;
+    qint64 all = 0;
+    for (auto it = belowFirst.crbegin(); it != belowFirst.crend(); ++it) {
+        const qint64 count = counts.value(*it);
+        if (isLeaf(*it)) {
+            leaves.insert(*it, int(count));
+            all += count;
+        } else {
+            const QMap<QByteArray, int> &below = byName.value(*it)->instances;
+            for (auto child = below.begin(); child != below.end(); ++child) {
+                qint64 &sum = counts[child.key()];
+                // Both factors are 31 bits at most.
+                sum = std::min<qint64>(sum + count * child.value(), netlistInstances + 1);
+            }
+        }
+        if (count > netlistInstances || all > netlistInstances) {
+            *mistake = tr("the module \"%1\" holds more than %2 instances")
+                           .arg(QString::fromUtf8(top), QString::number(netlistInstances));
+            return {};
+        }
     }
     return leaves;
 }

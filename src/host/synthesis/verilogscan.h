@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QMap>
+#include <QString>
 #include <QVector>
 
 namespace Synthesis
@@ -22,8 +23,10 @@ struct VerilogOutline {
     // Over all modules.
     QMap<QByteArray, int> instances() const;
     // The instances of modules that the text does not define, or leaves empty, in the whole
-    // hierarchy below `top`.
-    QMap<QByteArray, int> leavesOf(const QByteArray &top) const;
+    // hierarchy below `top`. Nothing, and a clause on the reason in `*mistake`, for a hierarchy
+    // that contains itself or has more than 100 million of them. Takes time for the text, not for
+    // the hierarchy.
+    QMap<QByteArray, int> leavesOf(const QByteArray &top, QString *mistake) const;
 };
 
 // Reads netlists and models, not everything that the language allows: macros are not expanded.

@@ -1,5 +1,6 @@
 #include "vhdloutputs.h"
 
+#include "designcheck.h"
 #include "library.h"
 #include "vhdlnames.h"
 
@@ -70,14 +71,14 @@ QByteArray indented(const QByteArray &text, const QByteArray &by)
 // extended ones.
 QByteArrayList portNames(const QVector<Port> &ports)
 {
-    QByteArrayList lower;
+    QHash<QByteArray, int> alike;
     for (const Port &port : ports)
-        lower << port.name.toLower();
+        ++alike[port.name.toLower()];
     QByteArrayList names;
     VhdlNames region;
     region.reserve(predefined());
     for (const Port &port : ports) {
-        if (lower.count(port.name.toLower()) > 1)
+        if (alike.value(port.name.toLower()) > 1)
             region.reserve({port.name});
         names << region.add(port.name);
     }
@@ -283,6 +284,7 @@ private:
     const BlackBox *blackBox(const QByteArray &type) const;
     QVector<Port> portsOf(const QByteArray &type) const;
     Kind kindOf(const BlackBox &box, const QByteArray &parameter) const;
+    Kind findKind(const BlackBox &box, const QByteArray &parameter) const;
 
     void countUses();
     bool isRead(const QVector<Bit> &bits) const;
@@ -301,6 +303,7 @@ private:
     QByteArray m_top;
     QVector<Port> m_ports;
     QVector<BlackBox> m_blackBoxes;
+    mutable QHash<QPair<QByteArray, QByteArray>, Kind> m_kinds; // by black box and parameter
     QVector<QVector<Bit>> m_portBits;
     QVector<Cell> m_cells;
     QVector<Net> m_nets;
@@ -333,15 +336,23 @@ void Writer::read(const QJsonObject &module)
         cell.parameters = json.value(QLatin1String("parameters")).toObject();
         cell.connections = json.value(QLatin1String("connections")).toObject();
         if (!blackBox(cell.type) && !m_primitivePorts.contains(cell.type)) {
+            // As wide as the widest connection: one that is left open has no bits.
             QVector<Port> &shapes = m_primitivePorts[cell.type];
             const QJsonObject directions = json.value(QLatin1String("port_directions")).toObject();
             for (auto port = directions.begin(); port != directions.end(); ++port) {
                 Port shape;
                 shape.name = port.key().toUtf8();
                 shape.direction = port.value().toString().toLatin1();
-                shape.width = cell.connections.value(port.key()).toArray().size();
-                shape.isVector = shape.width > 1;
+                shape.width = 1;
                 shapes << shape;
+            }
+        }
+        if (const auto shapes = m_primitivePorts.find(cell.type);
+            shapes != m_primitivePorts.end()) {
+            for (Port &shape : *shapes) {
+                const QJsonValue bits = cell.connections.value(QString::fromUtf8(shape.name));
+                shape.width = std::max(shape.width, bits.toArray().size());
+                shape.isVector = shape.width > 1;
             }
         }
         m_cells << cell;
@@ -384,8 +395,17 @@ QByteArrayList Writer::primitives() const
     return result;
 }
 
-// One kind that fits the default and the values of all instances.
 Kind Writer::kindOf(const BlackBox &box, const QByteArray &parameter) const
+{
+    const QPair<QByteArray, QByteArray> key(box.name, parameter);
+    auto known = m_kinds.constFind(key);
+    if (known == m_kinds.constEnd())
+        known = m_kinds.insert(key, findKind(box, parameter));
+    return known.value();
+}
+
+// One kind that fits the default and the values of all instances.
+Kind Writer::findKind(const BlackBox &box, const QByteArray &parameter) const
 {
     QVector<ParameterValue> values;
     for (const BlackBox::Parameter &candidate : box.parameters) {
@@ -814,6 +834,9 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
     if (module.isEmpty())
         return tr("The netlist that the tool wrote has no module \"%1\".")
             .arg(QString::fromUtf8(top));
+    if (const QString mistake = designMistake({{QString::fromUtf8(top), module}});
+        !mistake.isEmpty())
+        return tr("The netlist that the tool wrote cannot be used: %1.").arg(mistake);
     Writer writer(module, top, ports, blackBoxes);
     if (QString error = writer.write(); !error.isEmpty())
         return error;

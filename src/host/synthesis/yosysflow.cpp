@@ -133,7 +133,10 @@ QString YosysFlow::collect(Results *results)
     const VerilogOutline bodyOutline = scanVerilog(body);
     if (!bodyOutline.complete || !bodyOutline.defines(top))
         return damaged(netlistPath);
-    if (!design.read(outline, cells) || !design.contains(top))
+    error = design.read(outline, cells);
+    if (!error.isEmpty())
+        return unusable(templatePath(), error);
+    if (!design.contains(top))
         return damaged(templatePath());
 
     const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
@@ -141,7 +144,9 @@ QString YosysFlow::collect(Results *results)
     results->ports = design.ports(top);
     results->outputs = {Output{templatePath(), instantiationTemplate(results->ports)},
                         Output{netlistPath, netlist}};
-    results->instances = bodyOutline.leavesOf(top);
+    results->instances = bodyOutline.leavesOf(top, &error);
+    if (!error.isEmpty())
+        return unusable(netlistPath, error);
     return writesVhdl() ? addVhdl(blackBoxes, results) : QString();
 }
 

@@ -1,7 +1,9 @@
 #include "descriptor.h"
 
-#include "fileutils.h"
+#include "boundedfile.h"
 #include "jsonmistake.h"
+
+#include <reading/limits.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -9,6 +11,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace Utils
 {
@@ -21,13 +25,22 @@ QString tr(const char *text)
     return QCoreApplication::translate("Utils::Descriptor", text);
 }
 
-void flatten(const QString &prefix, const QJsonObject &object, QVariantMap *map)
+// A clause on what cannot be taken; empty otherwise. `room`: how many characters the keys may still
+// have altogether, since each holds those of all objects around it.
+QString flatten(const QString &prefix, const QJsonObject &object, qint64 *room, QVariantMap *map)
 {
     for (auto it = object.begin(); it != object.end(); ++it) {
         const QString key = prefix.isEmpty() ? it.key() : QString(prefix + u'.' + it.key());
         const QJsonValue value = it.value();
+        *room -= key.size();
+        if (*room < 0)
+            return tr("the keys, each with those of the objects around it, have more than %1 "
+                      "characters altogether")
+                .arg(Reading::Limits::descriptorKeys);
         if (value.isObject()) {
-            flatten(key, value.toObject(), map);
+            const QString mistake = flatten(key, value.toObject(), room, map);
+            if (!mistake.isEmpty())
+                return mistake;
         } else if (value.isArray()) {
             QStringList list;
             const QJsonArray array = value.toArray();
@@ -38,6 +51,23 @@ void flatten(const QString &prefix, const QJsonObject &object, QVariantMap *map)
             map->insert(key, value.toVariant());
         }
     }
+    return {};
+}
+
+// The target names the files of an IP: "<folder>/<target>.ipc". A clause if it could name others.
+QString targetMistake(const QVariantMap &map)
+{
+    const QString key = QStringLiteral("ipcore.target");
+    const QString target = map.value(key).toString();
+    const bool isName = std::none_of(target.begin(), target.end(), [](QChar c) {
+        return c == u'/' || c == u'\\' || c.category() == QChar::Other_Control;
+    });
+    if (!isName || target == QLatin1String(".") || target == QLatin1String(".."))
+        return tr("\"%1\" is \"%2\", which is no name of a file").arg(key, target);
+    if (target.toUtf8().size() > Reading::Limits::targetNameLength)
+        return tr("\"%1\" is longer than %2 bytes")
+            .arg(key, QString::number(Reading::Limits::targetNameLength));
+    return {};
 }
 
 // The place is a line and a column in characters, both from 1.
@@ -60,7 +90,7 @@ QVariantMap fail(const QString &path, const QByteArray &bytes, int offset, const
 QVariantMap readDescriptor(const QString &path, QString *error)
 {
     QByteArray bytes;
-    if (!FileUtils::readFile(path, &bytes, error))
+    if (!readBoundedFile(path, Reading::Limits::descriptor, &bytes, error))
         return {};
 
     QJsonParseError parseError;
@@ -75,8 +105,15 @@ QVariantMap readDescriptor(const QString &path, QString *error)
     if (!document.isObject())
         return fail(path, bytes, 0, tr("the file holds no JSON object"), error);
     QVariantMap map;
-    flatten(QString(), document.object(), &map);
-    return map;
+    qint64 room = Reading::Limits::descriptorKeys;
+    QString mistake = flatten(QString(), document.object(), &room, &map);
+    if (mistake.isEmpty())
+        mistake = targetMistake(map);
+    if (mistake.isEmpty())
+        return map;
+    if (error)
+        *error = tr("%1: %2.").arg(QDir::toNativeSeparators(path), mistake);
+    return {};
 }
 
 } // namespace Utils

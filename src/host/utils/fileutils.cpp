@@ -1,5 +1,10 @@
 #include "fileutils.h"
 
+#include "boundedfile.h"
+#include "utf8names.h"
+
+#include <reading/limits.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -69,6 +74,8 @@ bool FileUtils::writeFile(const QString &path, const QByteArray &bytes, QString 
         return fail(error, "Cannot write \"%1\": %2.", path, tr("it is not a plain file"));
     if (info.exists() && holds(path, bytes))
         return true;
+    if (!info.exists() && isDamagedName(path))
+        return fail(error, "Cannot write \"%1\": %2.", path, tr("its name is not UTF-8"));
 
     // A chain of links is followed to its end, where QSaveFile would replace the second link.
     QSaveFile file(info.isSymLink() && info.exists() ? info.canonicalFilePath() : path);
@@ -90,21 +97,7 @@ bool FileUtils::writeLines(const QString &path, const QStringList &lines, QStrin
 
 bool FileUtils::readFile(const QString &path, QByteArray *bytes, QString *error)
 {
-    if (path.isEmpty()) {
-        if (error)
-            *error = tr("Cannot read a file without a name.");
-        return false;
-    }
-    const QFileInfo info(path);
-    if (info.isDir())
-        return fail(error, "Cannot read \"%1\": %2.", path, tr("it is a folder"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(error, "Cannot read \"%1\": %2.", path, file.errorString());
-    *bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return fail(error, "Cannot read \"%1\": %2.", path, file.errorString());
-    return true;
+    return readBoundedFile(path, Reading::Limits::anyFile, bytes, error);
 }
 
 bool FileUtils::makePath(const QString &path, QString *error)
@@ -114,6 +107,9 @@ bool FileUtils::makePath(const QString &path, QString *error)
             *error = tr("Cannot make a folder without a name.");
         return false;
     }
+    // What is meant has another name.
+    if (isDamagedName(path) && !QFileInfo::exists(path))
+        return fail(error, "Cannot make the folder \"%1\": %2.", path, tr("its name is not UTF-8"));
     if (QDir().mkpath(path))
         return true;
     // mkpath gives no reason: look for the nearest ancestor that stands in the way.

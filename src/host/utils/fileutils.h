@@ -29,7 +29,8 @@ public:
     // Writes each entry as one line: UTF-8, ended by a line feed. No entries give an empty file.
     static bool writeLines(const QString &path, const QStringList &lines, QString *error);
 
-    // Reads the whole of a plain file.
+    // Reads the whole of a plain file; see readBoundedFile() in boundedfile.h, whose limit is 1 GiB
+    // here.
     static bool readFile(const QString &path, QByteArray *bytes, QString *error);
 
     // Makes a folder with all missing parents; an existing folder is a success.

@@ -2,6 +2,8 @@
 
 #include "fileutils.h"
 
+#include <reading/inientries.h>
+
 #include <QCoreApplication>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -119,6 +121,16 @@ bool checkIniText(const QByteArray &bytes, QString *error)
             return fail(number, tr("a quoted value has no end"));
     }
     return true;
+}
+
+bool checkConfigurationText(const QByteArray &bytes, QString *error)
+{
+    if (!checkIniText(bytes, error))
+        return false;
+    const QString foreign = Reading::foreignIniValue(bytes);
+    if (!foreign.isEmpty() && error)
+        *error = foreign;
+    return foreign.isEmpty();
 }
 
 } // namespace Utils

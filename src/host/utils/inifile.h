@@ -21,4 +21,9 @@ TARVO_UTILS_EXPORT bool writeIniFile(const QString &path, const QVariantMap &hea
 // the reason in `*error` (may be null), with the line number.
 TARVO_UTILS_EXPORT bool checkIniText(const QByteArray &bytes, QString *error);
 
+// The same for an IP configuration, whose values are texts: one that QSettings would decode to an
+// object of another kind, which may overflow the stack, is refused by the name of its entry. To be
+// asked before QSettings gets the file.
+TARVO_UTILS_EXPORT bool checkConfigurationText(const QByteArray &bytes, QString *error);
+
 } // namespace Utils

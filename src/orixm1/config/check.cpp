@@ -2,6 +2,8 @@
 
 #include "core/tcmsizes.h"
 #include "devicerules.h"
+#include "generate/sourcefiles.h"
+#include "itcmcontents.h"
 #include "latin1literal.h"
 #include "optionkeys.h"
 #include "optiontable.h"
@@ -129,7 +131,20 @@ private:
         } else if (!QFileInfo(absolute).isAbsolute()) {
             add(Finding::Warning, Key::itcmInitializationAbsolutePath,
                 QStringLiteral("is not absolute"));
+        } else {
+            checkItcmContents();
         }
+    }
+
+    void checkItcmContents()
+    {
+        // Without a device the size may be unknown.
+        if (m_device.isNull() && !m_options.contains(Key::itcmSize))
+            return;
+        const QVector<ItcmMistake> mistakes =
+            itcmMistakes(m_options, m_device.device(), generationFolder(m_createInPath));
+        for (const ItcmMistake &mistake : mistakes)
+            add(Finding::Error, Key::itcmInitializationAbsolutePath, mistake.text());
     }
 
     void checkInterrupts()

@@ -20,7 +20,7 @@ struct Finding {
 
 // Everything wrong or doubtful in a configuration. `device` may be null: rules about the device are
 // then left out. `createInPath` is the folder that a relative initialisation path starts from.
-// Reads the file system for the initialisation folder only and changes nothing.
+// Reads the file system for the initialisation folder and its files only and changes nothing.
 QVector<Finding> checkOptions(const OptionMap &options, const DEV::DeviceArg &device,
                               const QString &createInPath);
 

@@ -5,6 +5,12 @@
 
 #include <dev/devicedb.h>
 
+#include <reading/inientries.h>
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace TARVOORIXM1
@@ -21,6 +27,20 @@ constexpr QLatin1String versionEntry = "version"_l1;
 constexpr QLatin1String typeEntry = "type"_l1;
 
 } // namespace
+
+QString danger(const QString &ipcFile)
+{
+    const QFileInfo info(ipcFile);
+    if (!info.exists() || info.isDir())
+        return {};
+    QByteArray bytes;
+    QString reason;
+    if (Reading::readPlainFile(ipcFile, Reading::Limits::configuration, &bytes, &reason))
+        reason = Reading::foreignIniValue(bytes);
+    if (reason.isEmpty())
+        return {};
+    return u'"' + QDir::toNativeSeparators(ipcFile) + "\" cannot be used: "_l1 + reason + u'.';
+}
 
 bool isVersionAccepted(const QSettings &settings)
 {

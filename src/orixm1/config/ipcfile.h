@@ -27,6 +27,11 @@ inline constexpr QLatin1String acceptedVersion = "1.0"_l1;
 inline constexpr QLatin1String configGroup = "Config"_l1;
 inline constexpr QLatin1String suffix = ".ipc"_l1;
 
+// Why QSettings must not open the file, as a sentence for the user: what is no plain file may never
+// end, and an object in it may overflow the stack. Empty where nothing speaks against it, also for
+// a file that does not exist.
+QString danger(const QString &ipcFile);
+
 // The text of a file's "version" entry must be exactly this; also false when the entry is missing.
 bool isVersionAccepted(const QSettings &settings);
 

@@ -47,7 +47,6 @@ LineItem::LineItem(const QList<QPoint> &points, bool dashed, const QColor &color
     , m_endStyle(endStyle)
     , m_dashed(dashed)
     , m_headPen(color)
-    , m_painterPen(Qt::NoPen)
 {
     if (points.isEmpty())
         return;
@@ -80,7 +79,7 @@ void LineItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*optio
         painter->drawPath(m_endHead);
 
     // Recoloured once: while panning and zooming, painters come with one and the same pen.
-    if (before != m_painterPen) {
+    if (!m_painterPen || before != *m_painterPen) {
         m_painterPen = before;
         m_linePen = before;
         m_linePen.setColor(m_headPen.color());

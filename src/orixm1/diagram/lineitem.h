@@ -5,7 +5,9 @@
 #include <QList>
 #include <QPainterPath>
 #include <QPen>
+
 #include <QPoint>
+#include <optional>
 
 namespace TARVOORIXM1
 {
@@ -42,7 +44,7 @@ private:
     const int m_endStyle;
     const bool m_dashed;
     const QPen m_headPen;
-    QPen m_painterPen; // the one that m_linePen was made from
+    std::optional<QPen> m_painterPen; // the one that m_linePen was made from
     QPen m_linePen;
     QPainterPath m_shape; // the stroke of all paths
     QRectF m_bounds;

@@ -1,7 +1,9 @@
 #include "tarvoorixm1.h"
 
 #include "config/descriptor.h"
+#include "config/ipcfile.h"
 #include "config/optionkeys.h"
+#include "ui/messagebox.h"
 #include "ui/tarvoorixm1dlg.h"
 
 #include <core/viewmanager.h>
@@ -35,6 +37,11 @@ void TarvoOrixM1::createIP(QString createInDir, DEV::DeviceArg device)
 
 void TarvoOrixM1::openIP(QString createInDir, QString ipcFile)
 {
+    // The dialog reads the file with QSettings as it is.
+    if (const QString danger = IpcFile::danger(ipcFile); !danger.isEmpty()) {
+        showErrorBox(Core::ViewManager::dialogParent(), danger);
+        return;
+    }
     TarvoOrixM1Dlg dialog(ipInfo, Core::ViewManager::dialogParent());
     if (dialog.prepareOpen(createInDir, ipcFile))
         dialog.exec();

@@ -3,10 +3,11 @@
 #include "config/latin1literal.h"
 #include "config/optiontable.h"
 
+#include <reading/limits.h>
+#include <reading/plainfile.h>
 #include <utils/jsonmistake.h>
 
 #include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -43,10 +44,10 @@ public:
 
     bool read(Peripheral *peripheral)
     {
-        QFile file(m_path);
-        if (!file.open(QIODevice::ReadOnly))
-            return fail("cannot be read: "_l1 + file.errorString());
-        const QByteArray bytes = file.readAll();
+        QByteArray bytes;
+        QString reason;
+        if (!Reading::readPlainFile(m_path, Reading::Limits::registerFile, &bytes, &reason))
+            return fail("cannot be read: "_l1 + reason);
         const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
         if (mistake.offset >= 0) {
             const int line = 1 + bytes.left(mistake.offset).count('\n');
@@ -72,12 +73,18 @@ private:
         const QJsonValue value = object.value(key);
         if (!value.isString() && (required || !value.isUndefined()))
             fail(u'"' + key + "\" is no text"_l1);
-        return value.toString();
+        // It becomes a cell of a table and a comment in C.
+        QString line = value.toString();
+        const bool isLine = std::none_of(
+            line.begin(), line.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+        if (!isLine || line.contains("*/"_l1))
+            fail(u'"' + key + "\" is not one line, or holds \"*/\""_l1);
+        return line;
     }
 
     QString identifier(const QJsonObject &object, QLatin1String key)
     {
-        static const QRegularExpression rule(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*$"));
+        static const QRegularExpression rule(QStringLiteral("\\A[A-Za-z][A-Za-z0-9_]*\\z"));
         QString name = text(object, key);
         if (!rule.match(name).hasMatch())
             fail(u'"' + name + "\" is no name"_l1);
@@ -187,7 +194,7 @@ private:
         field.name = identifier(object, "name"_l1);
         m_place += field.name + ": "_l1;
         checkKeys(object, {"name"_l1, "bits"_l1, "access"_l1, "reset"_l1, "minimum"_l1, "text"_l1});
-        static const QRegularExpression bits(QStringLiteral("^(\\d{1,2})(:(\\d{1,2}))?$"));
+        static const QRegularExpression bits(QStringLiteral("\\A(\\d{1,2})(:(\\d{1,2}))?\\z"));
         const auto match = bits.match(text(object, "bits"_l1));
         field.high = match.captured(1).toInt();
         field.low = match.captured(3).isEmpty() ? field.high : match.captured(3).toInt();
@@ -241,7 +248,9 @@ quint32 RegisterField::mask() const
 bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, QString *error)
 {
     const QDir folder(dataPath + "/registers"_l1);
-    const QStringList files = folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+    // With System what cannot be read is found too, so that it is named and not left out.
+    const QStringList files =
+        folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::System, QDir::Name);
     if (files.isEmpty()) {
         *error = "\""_l1 + QDir::toNativeSeparators(folder.path()) +
                  "\" holds no register descriptions"_l1;

@@ -4,6 +4,7 @@
 
 #include "config/devicerules.h"
 #include "config/ipcfile.h"
+#include "config/itcmcontents.h"
 #include "config/optionkeys.h"
 #include "core/itcmpath.h"
 #include "diagram/ipview.h"
@@ -120,6 +121,16 @@ bool TarvoOrixM1Dlg::loadIPConfig(const QString &ipcFile)
     selectSynthesisTool(options.value(Key::synthesisTool).toString());
     setLanguageIndex(options.value(Key::lang).toInt());
     return true;
+}
+
+QStringList TarvoOrixM1Dlg::inputMistakes() const
+{
+    QStringList texts;
+    const QVector<ItcmMistake> mistakes =
+        itcmMistakes(options, currentDevice().device(), tempDir());
+    for (const ItcmMistake &mistake : mistakes)
+        texts.append(mistake.text());
+    return texts;
 }
 
 void TarvoOrixM1Dlg::generateCore()

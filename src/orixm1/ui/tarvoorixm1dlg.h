@@ -31,6 +31,10 @@ public:
 
     const OptionMap &currentOptions() const { return options; }
 
+    // For hosts that ask before they start a tool: what no tool could make sense of, one
+    // "file:line: reason" each.
+    Q_INVOKABLE QStringList inputMistakes() const;
+
 public Q_SLOTS:
     // Validates, saves and starts generation; the dialog closes when the run has succeeded.
     void accept() override;

@@ -2,7 +2,7 @@
 
 #include "ipcatalogue.h"
 
-#include <utils/fileutils.h>
+#include <utils/boundedfile.h>
 #include <utils/inifile.h>
 
 #include <QDateTime>
@@ -104,10 +104,10 @@ bool IpSession::open(const QString &ipcFile, QString *error)
 QString IpSession::typeOf(const QString &ipcFile, QString *error)
 {
     QByteArray bytes;
-    if (!Utils::FileUtils::readFile(ipcFile, &bytes, error))
+    if (!Utils::readConfigurationFile(ipcFile, &bytes, error))
         return {};
     QString reason;
-    if (!Utils::checkIniText(bytes, &reason)) {
+    if (!Utils::checkConfigurationText(bytes, &reason)) {
         *error =
             tr("\"%1\" is no IP configuration: %2.").arg(QDir::toNativeSeparators(ipcFile), reason);
         return {};

@@ -1,6 +1,7 @@
 #include "testsupport.h"
 
 #include <config/check.h>
+#include <config/itcmcontents.h>
 #include <config/optionkeys.h>
 #include <dev/devicedb.h>
 
@@ -176,7 +177,9 @@ void tst_Check::finds()
 void tst_Check::initialisationFolders()
 {
     QTemporaryDir dir;
-    QVERIFY(QDir(dir.path()).mkdir(QStringLiteral("init")));
+    for (int lane = 0; lane < 4; ++lane)
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("init/itcm%1").arg(lane)),
+                                   QByteArray("00\n").repeated(itcmLaneSize(5))));
     QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("file")), "x"));
     const DEV::DeviceArg device = deviceNamed(QStringLiteral("TV2K-18"));
     const auto check = [&](const QString &path, const QString &absolute) {
@@ -193,6 +196,9 @@ void tst_Check::initialisationFolders()
     QCOMPARE(check(QString(), QString()), (QStringList{both, absoluteError}));
     QCOMPARE(check(QStringLiteral("gone"), dir.filePath(QStringLiteral("gone"))),
              (QStringList{both, absoluteError}));
+    QVERIFY(QFile::remove(dir.filePath(QStringLiteral("init/itcm3"))));
+    QCOMPARE(check(QStringLiteral("init"), dir.filePath(QStringLiteral("init"))),
+             QStringList{absoluteError});
     // Both must be folders.
     QCOMPARE(check(QStringLiteral("file"), dir.filePath(QStringLiteral("file"))),
              (QStringList{both, absoluteError}));

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void aLineWithoutHeadsIsJustTheLine();
     void aLineWithoutPointsDrawsNothing();
     void aDashedLineHasGaps();
+    void aLineIsDrawnWithThePaintersPen();
     void aLineIsHitAlongItsStroke();
     void paintersAreLeftAsTheyWere();
 };
@@ -370,6 +371,37 @@ void tst_DiagramItems::aDashedLineHasGaps()
     const QImage image = painted(line);
     const int count = countOf(image, red);
     QVERIFY2(count > 30 && count < 75, qPrintable(QString::number(count)));
+}
+
+// Recoloured, but otherwise as it is: without a pen only the heads, which have one of their own,
+// and dashes, which make a pen of none, are seen.
+void tst_DiagramItems::aLineIsDrawnWithThePaintersPen()
+{
+    const auto count = [](bool dashed, int style, const QList<QPen> &pens) {
+        LineItem line({{0, 20}, {60, 20}}, dashed, Qt::red, style, 4);
+        QImage image(100, 100, QImage::Format_RGB32);
+        QStyleOptionGraphicsItem option;
+        for (const QPen &pen : pens) {
+            image.fill(Qt::gray);
+            QPainter painter(&image);
+            painter.translate(margin, margin);
+            painter.setPen(pen);
+            line.paint(&painter, &option, nullptr);
+        }
+        const int reds = countOf(image, red);
+        return reds + countOf(image, grey) == 100 * 100 ? reds : -1;
+    };
+    const QPen without(Qt::NoPen);
+    const QPen thin(Qt::blue);
+    const QPen thick(Qt::blue, 3);
+    QCOMPARE(count(false, 4, {without}), 0);
+    QCOMPARE(count(false, 4, {thin, without}), 0);
+    QCOMPARE(count(false, 4, {without, thin}), 61);
+    QVERIFY(count(false, 4, {thick}) > 3 * 60);
+    const int head = count(false, 0, {without});
+    QVERIFY2(head > 10 && head < 40, qPrintable(QString::number(head)));
+    const int dashes = count(true, 4, {without});
+    QVERIFY2(dashes > 20 && dashes < 60, qPrintable(QString::number(dashes)));
 }
 
 void tst_DiagramItems::aLineIsHitAlongItsStroke()

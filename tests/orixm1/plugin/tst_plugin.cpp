@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 using TE::TE_IPCore_Def::BaseIPCoreInterface;
 using TE::TE_IPCore_Def::IPPlugin;
 
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void scriptingIsNotProvided();
     void createsAndReopensWhatTheCommandLineMakes();
     void anUnusableFileShowsNoDialog();
+    void aDangerousFileIsNotEvenRead_data();
+    void aDangerousFileIsNotEvenRead();
 
 private:
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
@@ -312,6 +316,43 @@ void tst_Plugin::anUnusableFileShowsNoDialog()
     QCOMPARE(presser.errors.size(), 2); // no device, no version
     QCOMPARE(presser.dialogs, 0);
     QCOMPARE(TestSupport::entriesOf(dir.path()), QStringList());
+}
+
+void tst_Plugin::aDangerousFileIsNotEvenRead_data()
+{
+    QTest::addColumn<QByteArray>("text"); // none: a pipe
+    QTest::addColumn<QString>("reason");
+    // A list that holds a list that holds a list …
+    QByteArray nested = "@Variant(";
+    for (int depth = 0; depth < 30000; ++depth)
+        nested += "\\0\\0\\0\\x9\\0\\0\\0\\0\\x1";
+    nested += "\\0\\0\\0\\x2\\0\\0\\0\\0\\x1)";
+    QTest::newRow("a value nested 30,000 deep")
+        << QByteArray("[General]\nversion=1.0\n[Config]\nITCM_Size=" + nested + '\n')
+        << QStringLiteral("line 4: \"Config/ITCM_Size\" is no text but an object (\"@Variant\")");
+    QTest::newRow("more than a megabyte")
+        << QByteArray((1 << 20) + 1, '\n') << QStringLiteral("it is larger than 1 MiB");
+    QTest::newRow("a pipe without a writer")
+        << QByteArray() << QStringLiteral("it is not a plain file");
+}
+
+void tst_Plugin::aDangerousFileIsNotEvenRead()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, reason);
+    QTemporaryDir dir;
+    const QString ipc = dir.filePath(QStringLiteral("x.ipc"));
+    if (text.isEmpty())
+        QCOMPARE(::mkfifo(QFile::encodeName(ipc).constData(), 0600), 0);
+    else
+        QVERIFY(TestSupport::write(ipc, text));
+    const auto ip = core();
+    const QList<TestSupport::SeenBox> boxes =
+        TestSupport::boxesOf([&] { ip->openIP(dir.path(), ipc); });
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes.first().title, QStringLiteral("Error"));
+    QVERIFY2(boxes.first().text.contains(reason) && boxes.first().text.contains(ipc),
+             qPrintable(boxes.first().text));
 }
 
 TARVO_TEST_MAIN(QApplication, tst_Plugin)

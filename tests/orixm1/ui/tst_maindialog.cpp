@@ -121,6 +121,8 @@ private Q_SLOTS:
     void closingTheDialogEndsTheTool();
     void generatesVhdl();
     void anotherToolTextRunsWithEmptyPaths();
+    void anotherToolTextLeavesTheToolOfTheRunBefore();
+    void brokenContentsEndTheRunBeforeTheTool();
 
 private:
     std::unique_ptr<TarvoOrixM1Dlg> newDialog(const char *device = "TV2KR-18C-QFN88P-C8/I7");
@@ -627,6 +629,56 @@ void tst_MainDialog::anotherToolTextRunsWithEmptyPaths()
     QCOMPARE(texts.size(), 2);
     QVERIFY(dialog->isVisible());
     QVERIFY(m_host->added.isEmpty());
+}
+
+void tst_MainDialog::anotherToolTextLeavesTheToolOfTheRunBefore()
+{
+    // Both tools fail at once and leave their names.
+    const QString trace = m_dir->filePath(QStringLiteral("trace"));
+    const QByteArray script = "echo $(basename \"$0\") >> '" + trace.toUtf8() + "'\nexit 1\n";
+    const FakeTool fake(script);
+    const QString project = fake.dir.filePath(QStringLiteral("synplify_pro"));
+    QVERIFY(TestSupport::write(project, "#!/bin/bash\n" + script));
+    QFile::setPermissions(project, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+    const auto dialog = newDialog();
+    dialog->show();
+    auto *tools = dialog->findChild<QComboBox *>(QStringLiteral("synToolComboBox"));
+    tools->addItems({QStringLiteral("Synplify Pro"), QStringLiteral("Another")});
+    for (const char *tool : {"Synplify Pro", "Another", "TarvoSynthesis", "Another"}) {
+        tools->setCurrentText(QString::fromLatin1(tool));
+        QVERIFY(!runToTheEnd(*dialog).isEmpty());
+        QVERIFY(dialog->isVisible());
+    }
+    QCOMPARE(TestSupport::contentsOf(trace),
+             QByteArray("synplify_pro\nsynplify_pro\nyosys\nyosys\n"));
+}
+
+void tst_MainDialog::brokenContentsEndTheRunBeforeTheTool()
+{
+    const QString trace = m_dir->filePath(QStringLiteral("trace"));
+    const FakeTool fake("touch '" + trace.toUtf8() + "'\nexit 1\n");
+    const QString program = m_dir->filePath(QStringLiteral("program"));
+    for (int lane = 0; lane < 4; ++lane)
+        QVERIFY(TestSupport::write(QStringLiteral("%1/itcm%2").arg(program).arg(lane),
+                                   lane == 2 ? "hello\n" : QByteArray("00\n").repeated(256)));
+    const QString ipc = m_dir->filePath(QStringLiteral("x.ipc"));
+    QVERIFY(TestSupport::write(
+        ipc, "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\nversion=1.0\n[Config]\nITCM_Size=0\n"
+             "Initialize%20ITCM=true\nITCM_Initialization_Path=program\n"
+             "ITCM_Initialization_AbsolutePath=" +
+                 program.toUtf8() + '\n'));
+    TarvoOrixM1Dlg dialog(descriptor());
+    QVERIFY(dialog.prepareOpen(m_dir->path(), ipc));
+    dialog.show();
+    const QStringList texts = runToTheEnd(dialog);
+    QCOMPARE(texts.value(0),
+             QStringLiteral("The inputs hold a mistake; the tool was not started."));
+    QVERIFY2(texts.value(1).contains(
+                 QString(program + QLatin1String("/itcm2:1: \"hello\" is no hexadecimal byte"))),
+             qPrintable(texts.join(u'|')));
+    QVERIFY(!QFileInfo::exists(trace));
+    QVERIFY(dialog.isVisible());
 }
 
 TARVO_TEST_MAIN(QApplication, tst_MainDialog)

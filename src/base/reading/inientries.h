@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace Reading
+{
+
+// An entry of an INI file in the dialect of QSettings.
+struct IniEntry {
+    int line = 0; // from 1: where its key stands
+    QString section;
+    QString key;
+    // As written, escapes and quotation marks resolved: more than one where commas part them.
+    QStringList values;
+    // Ascii also stands for everything in a text with a byte order mark, which is read as UTF-8.
+    // Without one all is read as Latin-1, so that what was meant to be UTF-8 comes out as another
+    // text.
+    enum Bytes { Ascii, Latin1, Utf8 } bytes = Ascii;
+
+    // "Config/ITCM_Size"; the section "General" is the top level.
+    QString name() const;
+};
+
+// The entries in order. Lines that are no entry are left out. Bytes above ASCII are read as
+// Latin-1, as QSettings does, or as UTF-8 in a text with a byte order mark.
+QVector<IniEntry> iniEntries(const QByteArray &text);
+
+// QSettings also stores objects of other kinds than text, and decodes them while it opens a file:
+// "@Variant(…)" may nest as deeply as the file is long. The first entry with a value of such a
+// kind, as a clause with line, entry and kind; empty if there is none. A file is safe for QSettings
+// only then.
+QString foreignIniValue(const QByteArray &text);
+
+} // namespace Reading
