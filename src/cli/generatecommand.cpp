@@ -13,6 +13,7 @@
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>
 #include <utils/fileutils.h>
+#include <utils/folderlock.h>
 #include <utils/interrupt.h>
 
 #include <QDir>
@@ -167,6 +168,10 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     QString error;
     if (!Utils::FileUtils::makePath(tempDir, &error))
         return fail(error);
+    // From the first file to the last.
+    const std::shared_ptr<Utils::FolderLock> lock = Utils::FolderLock::take(tempDir, &error);
+    if (!lock)
+        return fail(error);
     const QVector<IncludeFile> files = buildIncludeFiles(document.options, document.device);
     for (const IncludeFile &file : files) {
         const QString path = tempDir + u'/' + file.name;
@@ -186,6 +191,7 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     runner.setTool(tool == Value::synplifyPro ? Synthesis::Tool::SynplifyPro
                                               : Synthesis::Tool::TarvoSynthesis);
     runner.setJob(jobFrom(request, document.device));
+    runner.setFolderLock(lock);
     const int exitCode = synthesise(runner, arguments.verbose);
     report.run = runner.report();
 
