@@ -96,15 +96,22 @@ bool FileUtils::makePath(const QString &path, QString *error)
     }
     QStringList missing;
     QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    while (!info.isDir() && info.absolutePath() != info.absoluteFilePath()) {
+    for (;;) {
+        const QByteArray name = QFile::encodeName(info.absoluteFilePath());
         const QString shown = QDir::toNativeSeparators(info.absoluteFilePath());
         struct stat status = {};
-        if (::lstat(QFile::encodeName(info.absoluteFilePath()).constData(), &status) == 0)
-            return fail(
-                error, "Cannot make the folder \"%1\": %2.", path,
-                (info.exists() ? tr("\"%1\" is a file") : tr("\"%1\" is a link that leads nowhere"))
-                    .arg(shown));
+        const bool found =
+            ::stat(name.constData(), &status) == 0 || ::lstat(name.constData(), &status) == 0;
+        if (found && S_ISDIR(status.st_mode))
+            break;
+        if (found)
+            return fail(error, "Cannot make the folder \"%1\": %2.", path,
+                        (S_ISLNK(status.st_mode) ? tr("\"%1\" is a link that leads nowhere")
+                                                 : tr("\"%1\" is a file"))
+                            .arg(shown));
         missing.prepend(info.absoluteFilePath());
+        if (info.absolutePath() == info.absoluteFilePath())
+            break;
         info.setFile(info.absolutePath());
     }
     for (const QString &folder : qAsConst(missing)) {
