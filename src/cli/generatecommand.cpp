@@ -14,6 +14,7 @@
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>
 #include <utils/fileutils.h>
+#include <utils/folderlock.h>
 #include <utils/interrupt.h>
 
 #include <QDir>
@@ -168,6 +169,10 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     QString error;
     if (!Utils::FileUtils::makePath(tempDir, &error))
         return fail(error);
+    // From the first file to the last.
+    const std::shared_ptr<Utils::FolderLock> lock = Utils::FolderLock::take(tempDir, &error);
+    if (!lock)
+        return fail(error);
     const QVector<IncludeFile> files = buildIncludeFiles(document.options, document.device);
     for (const IncludeFile &file : files) {
         const QString path = tempDir + u'/' + file.name;
@@ -193,6 +198,7 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     for (const ItcmMistake &mistake : mistakes)
         inputMistakes.append(mistake.text());
     runner.setInputMistakes(inputMistakes);
+    runner.setFolderLock(lock);
     const int exitCode = synthesise(runner, arguments.verbose);
     report.run = runner.report();
 

@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <memory>
+
 namespace Cli
 {
 
@@ -32,8 +34,17 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
                  reason + u'.';
         return false;
     }
-    QSettings settings(path, QSettings::IniFormat);
+    // It opens the file once more, and does not tell why it could not. What fails once may succeed
+    // the next time; if it does not, reading has a reason.
+    auto reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    if (reader->status() == QSettings::AccessError) {
+        reader.reset();
+        reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    }
+    QSettings &settings = *reader;
     if (settings.status() != QSettings::NoError) {
+        if (!Utils::FileUtils::readFile(path, &bytes, error))
+            return false;
         *error = QLatin1String("\"") + path + QLatin1String("\" is no IP configuration file.");
         return false;
     }

@@ -1,6 +1,7 @@
 #include "ipcore.h"
 
 #include "errordialog.h"
+#include "writinglocks.h"
 
 #include <core/project.h>
 #include <core/projectmanager.h>
@@ -32,6 +33,7 @@ void report(QWidget *parent, const QString &message)
                     parent ? parent : Core::ViewManager::dialogParent());
     // Messages hold paths of the user, which must never be taken for mark-up.
     box.setTextFormat(Qt::PlainText);
+    const WritingLocks::Pause pause;
     box.exec();
 }
 
@@ -100,7 +102,7 @@ void writeIPConfig(const QString &path, const QVariantMap &header, const QVarian
 bool makeDirs(const QString &path, const QString &ipName)
 {
     QString error;
-    if (Utils::FileUtils::makePath(path, &error))
+    if (Utils::FileUtils::makePath(path, &error) && WritingLocks::take(path, &error))
         return true;
     report(nullptr, tr("%1 cannot be generated. %2").arg(ipName, error));
     return false;
@@ -115,6 +117,7 @@ bool generateFile(const QString &path, const QStringList &lines, QWidget *parent
         text.prepend(header.endsWith(u'\n') ? header.chopped(1) : header);
     if (Utils::FileUtils::writeLines(path, text, &error))
         return true;
+    WritingLocks::giveBack(QFileInfo(path).absolutePath());
     report(parent, error);
     return false;
 }

@@ -36,12 +36,15 @@ TARVO_IPCORE_EXPORT bool isSupported(const DEV::DeviceArg &device, const QString
 TARVO_IPCORE_EXPORT void writeIPConfig(const QString &path, const QVariantMap &header,
                                        const QVariantMap &options);
 
-// Makes a folder with all missing parents for the IP named `ipName`. Reports a failure and returns
-// false then.
+// Makes a folder with all missing parents for the IP named `ipName`, which is about to write into
+// it, and has a run for it alone: until the SynthesisHelper whose output folder it is has ended and
+// its results are collected, or, where none is started, until the event loop is reached again.
+// Reports a failure, also a folder that another run has, and returns false then.
 TARVO_IPCORE_EXPORT bool makeDirs(const QString &path, const QString &ipName);
 
 // Writes `lines` as a text file (UTF-8, line feeds) with the text `header` before them, which ends
-// with a line feed if it is not empty. Reports a failure and returns false then.
+// with a line feed if it is not empty. Reports a failure and returns false then; the folder is free
+// for others again.
 TARVO_IPCORE_EXPORT bool generateFile(const QString &path, const QStringList &lines,
                                       QWidget *parent, const QString &header);
 

@@ -2,6 +2,7 @@
 
 #include "progressdialog.h"
 #include "synthesismonitor.h"
+#include "writinglocks.h"
 
 #include <synthesis/runner.h>
 
@@ -15,6 +16,9 @@ class SynthesisHelper::Private
 {
 public:
     Synthesis::Runner runner;
+    // Until the results are collected, which the plug-in does when it hears of the end.
+    std::shared_ptr<Utils::FolderLock> lock;
+    QString outputDir;
     // Child of the helper's parent widget, which may delete it first.
     QPointer<ProgressDialog> progress;
 };
@@ -54,6 +58,8 @@ SynthesisHelper::SynthesisHelper(QObject *parent)
         SynthesisMonitor::instance().remove(this, report());
         if (self)
             Q_EMIT finished(exitCode);
+        if (self && !isRunning())
+            d->lock.reset();
     });
 }
 
@@ -82,6 +88,7 @@ SynthesisHelper::SynthesizeTool SynthesisHelper::synthesizeTool() const
 
 void SynthesisHelper::setArgs(const SynthesizeArgs &args)
 {
+    d->outputDir = args.outputDir;
     d->runner.setJob(args);
 }
 
@@ -101,6 +108,8 @@ void SynthesisHelper::hideProgressDlg()
 {
     if (d->progress)
         d->progress->hide();
+    if (!isRunning())
+        d->lock.reset();
 }
 
 void SynthesisHelper::start()
@@ -109,6 +118,10 @@ void SynthesisHelper::start()
         return;
     if (d->progress)
         d->progress->startClock();
+    // The old one first: it may be of the same folder.
+    d->lock.reset();
+    d->lock = WritingLocks::handOver(d->outputDir);
+    d->runner.setFolderLock(d->lock);
     d->runner.setInputMistakes(mistakesTold(parent()));
     d->runner.start();
     SynthesisMonitor::instance().add(this);

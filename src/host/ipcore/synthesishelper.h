@@ -41,7 +41,9 @@ public:
     void showProgressDlg();
     void hideProgressDlg();
 
-    // Starts a run and returns; finished() follows exactly once. Ignored while a run is active.
+    // Starts a run and returns; finished() follows exactly once. Ignored while a run is active. The
+    // output folder is kept from other runs until finished() has been heard, or hideProgressDlg()
+    // is called then.
     void start();
     void cancel();
     bool isRunning() const;

@@ -29,7 +29,7 @@ Flow::Flow(const Job &job)
 {
 }
 
-QString Flow::prepare()
+QString Flow::prepare(const std::shared_ptr<Utils::FolderLock> &lock)
 {
     static const QRegularExpression identifier(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_$]*\\z"));
 
@@ -37,7 +37,7 @@ QString Flow::prepare()
         return tr("\"%1\" cannot be the name of the output files.").arg(m_job.targetName);
     if (!identifier.match(topModule()).hasMatch())
         return tr("\"%1\" cannot be the name of the top module.").arg(topModule());
-    if (QString error = m_scratch.create(m_job.outputDir); !error.isEmpty())
+    if (QString error = m_scratch.create(m_job.outputDir, lock); !error.isEmpty())
         return error;
     const QStringList files = m_job.options.value(QStringLiteral("source_files")).toStringList();
     if (QString error = m_sources.prepare(files, m_scratch); !error.isEmpty())
@@ -76,12 +76,13 @@ QString Flow::outputPath(const QString &suffix) const
     return m_scratch.outputDir() + u'/' + m_job.targetName + suffix;
 }
 
-QString Flow::addCommand(const QString &name, const QString &program, const QStringList &arguments)
+QString Flow::addCommand(const QString &name, const QString &program, const QStringList &arguments,
+                         bool usersHome)
 {
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty())
         return tr("%1 is not installed: no program \"%2\" was found on PATH.").arg(name, program);
-    m_commands << Command{name, QFileInfo(path).absoluteFilePath(), arguments};
+    m_commands << Command{name, QFileInfo(path).absoluteFilePath(), arguments, usersHome};
     return {};
 }
 

@@ -37,8 +37,9 @@ public:
     virtual ~Flow() = default;
     Q_DISABLE_COPY(Flow)
 
-    // Checks the job, stages the sources and writes what the commands read.
-    QString prepare();
+    // Checks the job, stages the sources and writes what the commands read. For `lock` see
+    // ScratchFolder::create().
+    QString prepare(const std::shared_ptr<Utils::FolderLock> &lock);
     const QVector<Command> &commands() const { return m_commands; }
     const SourceStage &sources() const { return m_sources; }
     const ScratchFolder &scratch() const { return m_scratch; }
@@ -68,8 +69,9 @@ protected:
     QByteArray instantiationTemplate(const QVector<Port> &ports) const;
     // "<output folder>/<target><suffix>"
     QString outputPath(const QString &suffix) const;
-    // Adds a command for a program that PATH has.
-    QString addCommand(const QString &name, const QString &program, const QStringList &arguments);
+    // Adds a command for a program that PATH has; `usersHome`: see Command.
+    QString addCommand(const QString &name, const QString &program, const QStringList &arguments,
+                       bool usersHome = false);
     QString writeScratch(const QString &file, const QByteArray &bytes) const;
     // Reads a file that a command should have left; `shown` is the name that the result would get.
     QString readResult(const QString &file, const QString &shown, QByteArray *bytes) const;

@@ -100,8 +100,10 @@ QString ProjectFlow::prepareTool()
         return tr("\"%1\" cannot be the name of the result folder.").arg(folder);
 
     const QString project = m_job.targetName + QLatin1String(".prj");
-    QString error = addCommand(QStringLiteral("Synplify Pro"), QStringLiteral("synplify_pro"),
-                               {QStringLiteral("-batch"), QString(QLatin1String("./") + project)});
+    // It has settings and licences in the user's home.
+    QString error =
+        addCommand(QStringLiteral("Synplify Pro"), QStringLiteral("synplify_pro"),
+                   {QStringLiteral("-batch"), QString(QLatin1String("./") + project)}, true);
     // The template comes from the elaborated sources.
     if (error.isEmpty())
         error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"),

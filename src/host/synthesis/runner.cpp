@@ -9,8 +9,12 @@
 #include "toolprocess.h"
 #include "yosysflow.h"
 
+#include <utils/folderlock.h>
+
 #include <QElapsedTimer>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace Synthesis
 {
@@ -30,6 +34,7 @@ public:
     Tool tool = Tool::TarvoSynthesis;
     Job job;
     QStringList inputMistakes;
+    std::shared_ptr<Utils::FolderLock> lock; // for the next run
     bool running = false;
     bool cancelled = false;
     QString errorMsg;
@@ -73,7 +78,7 @@ void Runner::Private::start()
     else
         m_flow = std::make_unique<YosysFlow>(job);
 
-    QString error = m_flow->prepare();
+    QString error = m_flow->prepare(std::exchange(lock, nullptr));
     if (error.isEmpty() && !inputMistakes.isEmpty())
         error = refuseInputs();
     if (error.isEmpty())
@@ -117,9 +122,9 @@ RunReport Runner::Private::currentReport() const
 void Runner::Private::runCommand()
 {
     const Command &command = m_flow->commands().at(m_command);
-    m_process =
-        std::make_unique<ToolProcess>(command, QFileInfo(m_runningJob.outputDir).absoluteFilePath(),
-                                      ScratchFolder::relative(QStringLiteral("tmp")));
+    m_process = std::make_unique<ToolProcess>(
+        command, QFileInfo(m_runningJob.outputDir).absoluteFilePath(),
+        ScratchFolder::relative(QStringLiteral("tmp")), m_flow->scratch().descriptor());
     QObject::connect(m_process.get(), &ToolProcess::lineReceived, q,
                      [this](const QString &line) { receive(line); });
     // Queued, so that the process may be deleted.
@@ -283,6 +288,11 @@ Tool Runner::tool() const
 void Runner::setJob(const Job &job)
 {
     d->job = job;
+}
+
+void Runner::setFolderLock(const std::shared_ptr<Utils::FolderLock> &lock)
+{
+    d->lock = lock;
 }
 
 void Runner::start()

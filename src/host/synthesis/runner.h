@@ -9,6 +9,11 @@
 
 #include <memory>
 
+namespace Utils
+{
+class FolderLock;
+}
+
 namespace Synthesis
 {
 
@@ -36,6 +41,9 @@ public:
     // Mistakes of the job's inputs that were found before, one "file:line: reason" or
     // "file: reason" each. With any, start() ends with them as errors and starts no tool.
     void setInputMistakes(const QStringList &mistakes);
+    // For the next run: the right to write into its output folder, where the caller writes there
+    // too. Without it the run takes the right itself, and ends at once if another has it.
+    void setFolderLock(const std::shared_ptr<Utils::FolderLock> &lock);
 
     // Starts a run and returns at once; finished() follows exactly once, never from within start().
     // Does nothing while a run is active.

@@ -1,13 +1,18 @@
 #include "scratchfolder.h"
 
+#include <utils/folderlock.h>
+#include <utils/systemerror.h>
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 
-#include <cerrno>
-#include <cstring>
+#include <fcntl.h>
 #include <filesystem>
+#include <poll.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -16,6 +21,8 @@ namespace Synthesis
 
 namespace
 {
+
+constexpr int longestWait = 10000; // ms
 
 QString tr(const char *text)
 {
@@ -28,16 +35,36 @@ QString cannotUse(const QString &dir, const QString &reason)
         .arg(QDir::toNativeSeparators(dir), reason);
 }
 
-QString systemError()
-{
-    return QString::fromLocal8Bit(std::strerror(errno));
-}
-
-// Never follows a link: the folder holds links to the folders of the sources.
+// Never follows a link: the folder holds links to the folders of the sources. What fails once may
+// succeed the next time.
 void removeTree(const QString &path)
 {
-    std::error_code ignored;
-    std::filesystem::remove_all(QFile::encodeName(path).toStdString(), ignored);
+    for (int i = 0; i < 3; ++i) {
+        std::error_code error;
+        std::filesystem::remove_all(QFile::encodeName(path).toStdString(), error);
+        if (!error)
+            return;
+    }
+}
+
+// Waits until the tool of a run that was killed is gone, which the one who kills it tells by a lock
+// of the folder. False if it does not go. Where folders cannot be locked there is no waiting.
+bool isQuiet(const QString &path)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(),
+                          O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0)
+        return true;
+    QElapsedTimer clock;
+    clock.start();
+    bool held = false;
+    do {
+        if (held)
+            ::poll(nullptr, 0, 10);
+        held = ::flock(fd, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    } while (held && !clock.hasExpired(longestWait));
+    ::close(fd);
+    return !held;
 }
 
 } // namespace
@@ -46,9 +73,11 @@ ScratchFolder::~ScratchFolder()
 {
     if (!m_path.isEmpty())
         removeTree(m_path);
+    if (m_fd >= 0)
+        ::close(m_fd);
 }
 
-QString ScratchFolder::create(const QString &outputDir)
+QString ScratchFolder::create(const QString &outputDir, std::shared_ptr<Utils::FolderLock> lock)
 {
     const QFileInfo info(outputDir);
     if (outputDir.isEmpty())
@@ -60,32 +89,31 @@ QString ScratchFolder::create(const QString &outputDir)
         return tr("The output folder \"%1\" is not a folder.")
             .arg(QDir::toNativeSeparators(outputDir));
     if (::access(QFile::encodeName(outputDir).constData(), W_OK | X_OK) != 0)
-        return cannotUse(outputDir, systemError());
+        return cannotUse(outputDir, Utils::systemError());
 
     m_outputDir = info.absoluteFilePath();
     const QString path = m_outputDir + u'/' + name();
-    auto lock = std::make_unique<QLockFile>(QString(path + QLatin1String(".lock")));
-    lock->setStaleLockTime(0); // a run may take any time; only a dead owner makes a lock stale
-    if (!lock->tryLock()) {
-        if (lock->error() == QLockFile::LockFailedError)
-            return cannotUse(outputDir, tr("another run is working there"));
-        // The lock does not say why it could not be made; a file of its own does.
-        QFile probe(QString(path + QLatin1String(".probe")));
-        const bool opened =
-            probe.open(QIODevice::WriteOnly) && probe.write("x") == 1 && probe.flush();
-        const QString reason = opened ? tr("no lock file can be made there") : probe.errorString();
-        probe.remove();
-        return cannotUse(outputDir, reason);
+    if (!lock || !lock->covers(m_outputDir)) {
+        QString error;
+        lock = Utils::FolderLock::take(m_outputDir, &error);
+        if (!lock)
+            return error;
     }
+    if (!isQuiet(path))
+        return cannotUse(outputDir, tr("the tool of a run that was killed still works there"));
 
     removeTree(path);
     for (const QString &folder : {path, QString(path + QLatin1String("/tmp"))}) {
         if (::mkdir(QFile::encodeName(folder).constData(), 0777) != 0) {
-            const QString reason = systemError();
+            const QString reason = Utils::systemError();
             removeTree(path);
             return cannotUse(outputDir, reason);
         }
     }
+    // Best effort: without it a run that follows a killed one may meet its tool.
+    m_fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (m_fd >= 0)
+        ::flock(m_fd, LOCK_EX | LOCK_NB);
     m_lock = std::move(lock);
     m_path = path;
     return {};
@@ -96,15 +124,20 @@ QString ScratchFolder::problem() const
     if (m_path.isEmpty())
         return {};
     const QByteArray sample(1 << 16, 'x');
-    QFile probe(absolute(QStringLiteral("probe")));
-    const bool written = probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-                         probe.write(sample) == sample.size();
-    // A short write leaves no reason; the next one gives it.
-    if (!written && probe.isOpen())
-        probe.write(sample);
-    const QString reason = written ? QString() : probe.errorString();
-    probe.remove();
-    return written ? QString() : cannotUse(m_outputDir, reason);
+    const QByteArray probe = QFile::encodeName(absolute(QStringLiteral("probe")));
+    const int fd = ::open(probe.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    qint64 written = 0;
+    ssize_t step = fd < 0 ? -1 : 1;
+    while (step > 0 && written < sample.size()) {
+        step = ::write(fd, sample.constData() + written, size_t(sample.size() - written));
+        written += step;
+    }
+    const QString reason =
+        step <= 0 || ::fsync(fd) != 0 ? Utils::systemError(step == 0 ? EIO : errno) : QString();
+    if (fd >= 0)
+        ::close(fd);
+    ::unlink(probe.constData());
+    return reason.isEmpty() ? QString() : cannotUse(m_outputDir, reason);
 }
 
 QString ScratchFolder::relative(const QString &file)

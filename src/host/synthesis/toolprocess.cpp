@@ -1,12 +1,16 @@
 #include "toolprocess.h"
 
-#include "processguard.h"
+#include <utils/systemerror.h>
 
-#include <QProcess>
+#include <QDir>
+#include <QFile>
+#include <QProcessEnvironment>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include <csignal>
-#include <sys/prctl.h>
+#include <fcntl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Synthesis
@@ -18,98 +22,96 @@ namespace
 constexpr int stopGraceMs = 2000;
 constexpr int longestLine = 1 << 16;
 
+QByteArrayList encoded(const QStringList &texts)
+{
+    QByteArrayList result;
+    for (const QString &text : texts)
+        result << QFile::encodeName(text);
+    return result;
+}
+
 } // namespace
 
-class ToolProcess::Process : public QProcess
-{
-public:
-    Process()
-        : m_parent(::getpid())
-    {
-    }
-
-protected:
-    void setupChildProcess() override
-    {
-        ::setsid();
-        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-        // The parent may have died before the request above.
-        if (::getppid() != m_parent)
-            ::_exit(127);
-    }
-
-private:
-    const pid_t m_parent;
-};
-
 ToolProcess::ToolProcess(const Command &command, const QString &workingDir,
-                         const QString &scratchDir, QObject *parent)
+                         const QString &scratchDir, int kept, QObject *parent)
     : QObject(parent)
     , m_command(command)
-    , m_process(std::make_unique<Process>())
+    , m_kept(kept)
+    , m_guard(std::make_unique<ProcessGuard>())
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
     environment.insert(QStringLiteral("TMPDIR"), scratchDir);
+    if (!command.usersHome)
+        environment.insert(QStringLiteral("HOME"), scratchDir);
     environment.remove(QStringLiteral("LANGUAGE"));
-    m_process->setProcessEnvironment(environment);
-    m_process->setProcessChannelMode(QProcess::MergedChannels);
-    m_process->setStandardInputFile(QProcess::nullDevice());
-    m_process->setWorkingDirectory(workingDir);
-    m_process->setProgram(command.program);
-    m_process->setArguments(command.arguments);
-
-    connect(m_process.get(), &QProcess::readyRead, this, &ToolProcess::readOutput);
-    connect(m_process.get(), &QProcess::started, this,
-            [this] { m_group = m_process->processId(); });
-    connect(
-        m_process.get(), &QProcess::errorOccurred, this,
-        [this](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart)
-                finish(tr("%1 could not be started: %2.")
-                           .arg(m_command.name, m_process->errorString()));
-        },
-        Qt::QueuedConnection);
-    connect(
-        m_process.get(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
-        [this](int code, QProcess::ExitStatus status) {
-            if (status == QProcess::CrashExit)
-                finish(tr("%1 crashed (signal %2).").arg(m_command.name).arg(code));
-            else if (code != 0)
-                finish(tr("%1 failed with exit code %2.").arg(m_command.name).arg(code));
-            else
-                finish(QString());
-        },
-        Qt::QueuedConnection);
+    m_program.path = QFile::encodeName(command.program);
+    m_program.arguments = encoded(command.arguments);
+    m_program.environment = encoded(environment.toStringList());
+    m_program.folder = QFile::encodeName(workingDir);
 }
 
 ToolProcess::~ToolProcess()
 {
-    m_process->disconnect(this);
-    signalGroup(SIGKILL);
-    if (m_process->state() != QProcess::NotRunning)
-        m_process->waitForFinished(-1);
+    m_events.reset();
+    m_output.reset();
+    m_guard.reset();
+    if (m_pipe >= 0)
+        ::close(m_pipe);
+}
+
+QString ToolProcess::notStarted(int errorNumber) const
+{
+    return tr("%1 could not be started: \"%2\": %3.")
+        .arg(m_command.name, QDir::toNativeSeparators(m_command.program),
+             Utils::systemError(errorNumber));
 }
 
 void ToolProcess::start()
 {
-    m_guard = std::make_unique<ProcessGuard>();
-    m_process->start(QIODevice::ReadOnly);
-    m_group = m_process->processId();
-    if (m_group > 0)
-        m_guard->watch(static_cast<pid_t>(m_group));
+    int ends[2];
+    int number = ::pipe2(ends, O_CLOEXEC) == 0 ? 0 : errno;
+    if (number == 0) {
+        number = m_guard->start(m_program, ends[1], m_kept);
+        ::close(ends[1]);
+        m_pipe = ends[0];
+        ::fcntl(m_pipe, F_SETFL, O_NONBLOCK);
+    }
+    if (number != 0) {
+        QMetaObject::invokeMethod(
+            this, [this, number] { finish(notStarted(number)); }, Qt::QueuedConnection);
+        return;
+    }
+    m_output = std::make_unique<QSocketNotifier>(m_pipe, QSocketNotifier::Read);
+    connect(m_output.get(), &QSocketNotifier::activated, this, &ToolProcess::readOutput);
+    m_events = std::make_unique<QSocketNotifier>(m_guard->channel(), QSocketNotifier::Read);
+    connect(m_events.get(), &QSocketNotifier::activated, this, &ToolProcess::takeEvent);
 }
 
 void ToolProcess::stop()
 {
-    signalGroup(SIGTERM);
-    QTimer::singleShot(stopGraceMs, this, [this] { signalGroup(SIGKILL); });
+    if (!m_events || m_ended)
+        return;
+    m_guard->order(SIGTERM);
+    QTimer::singleShot(stopGraceMs, this, [this] {
+        if (!m_ended)
+            m_guard->order(SIGKILL);
+    });
 }
 
-void ToolProcess::readOutput()
+bool ToolProcess::readOutput()
 {
-    m_pending += m_process->readAll();
+    char buffer[1 << 16];
+    const ssize_t size =
+        Utils::uninterrupted([&] { return ::read(m_pipe, buffer, sizeof buffer); });
+    if (size <= 0) {
+        if (size == 0 || errno != EAGAIN)
+            m_output->setEnabled(false);
+        return false;
+    }
+    m_pending.append(buffer, int(size));
     int from = 0;
+    QStringList lines;
     for (int end;
          (end = m_pending.indexOf('\n', from)) >= 0 || m_pending.size() - from > longestLine;
          from = end + 1) {
@@ -118,9 +120,35 @@ void ToolProcess::readOutput()
         QByteArray line = m_pending.mid(from, end - from + 1);
         while (line.endsWith('\n') || line.endsWith('\r'))
             line.chop(1);
-        Q_EMIT lineReceived(QString::fromUtf8(line));
+        lines << QString::fromUtf8(line);
     }
     m_pending.remove(0, from);
+    for (const QString &line : qAsConst(lines))
+        Q_EMIT lineReceived(line);
+    return true;
+}
+
+void ToolProcess::takeEvent()
+{
+    int value = 0;
+    switch (m_guard->next(&value)) {
+    case ProcessGuard::Event::Nothing:
+        return;
+    case ProcessGuard::Event::NotStarted:
+        finish(notStarted(value));
+        return;
+    case ProcessGuard::Event::Lost:
+        finish(tr("%1 was killed from outside.").arg(m_command.name));
+        return;
+    case ProcessGuard::Event::Ended:
+        if (WIFSIGNALED(value))
+            finish(tr("%1 crashed (signal %2).").arg(m_command.name).arg(WTERMSIG(value)));
+        else if (WEXITSTATUS(value) != 0)
+            finish(tr("%1 failed with exit code %2.").arg(m_command.name).arg(WEXITSTATUS(value)));
+        else
+            finish(QString());
+        return;
+    }
 }
 
 void ToolProcess::finish(const QString &failure)
@@ -128,26 +156,19 @@ void ToolProcess::finish(const QString &failure)
     if (m_ended)
         return;
     m_ended = true;
-    signalGroup(SIGKILL);
-    readOutput();
+    if (m_events)
+        m_events->setEnabled(false);
+    // Nothing of the group is left, so all that it printed is in the pipe.
+    while (m_output && readOutput())
+        continue;
+    if (m_output)
+        m_output->setEnabled(false);
     if (!m_pending.isEmpty())
         Q_EMIT lineReceived(QString::fromUtf8(m_pending));
     m_pending.clear();
-    m_group = 0;
     m_guard.reset();
     m_failure = failure;
     Q_EMIT ended();
-}
-
-void ToolProcess::signalGroup(int number)
-{
-    if (m_group <= 0)
-        return;
-    // Just after the fork the child may not have made its group yet. It is still this program then,
-    // whose signal handlers must not run in it, and has nothing to tidy up.
-    if (::kill(-static_cast<pid_t>(m_group), number) != 0 &&
-        m_process->state() != QProcess::NotRunning)
-        ::kill(static_cast<pid_t>(m_group), SIGKILL);
 }
 
 } // namespace Synthesis

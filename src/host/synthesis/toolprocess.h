@@ -1,5 +1,7 @@
 #pragma once
 
+#include "processguard.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -7,29 +9,32 @@
 
 #include <memory>
 
+QT_FORWARD_DECLARE_CLASS(QSocketNotifier)
+
 namespace Synthesis
 {
-
-class ProcessGuard;
 
 // What is run: `name` is for people ("Yosys"), `program` the full path.
 struct Command {
     QString name;
     QString program;
     QStringList arguments;
+    bool usersHome = false; // else it has a home folder of its own
 };
 
-// One run of a command in a session and process group of its own, without a shell and without
-// standard input. Whatever the command leaves behind in its group dies with it, and all of it with
-// this object or this process.
+// One run of a command in a process group of its own, without a shell, a terminal and standard
+// input. Whatever the command leaves behind in its group dies with it, and all of it with this
+// object or this process.
 class ToolProcess : public QObject
 {
     Q_OBJECT
 
 public:
-    // `scratchDir`, relative to `workingDir`, takes the command's temporary files.
+    // `scratchDir`, relative to `workingDir`, takes the command's temporary files. `kept`, a file
+    // descriptor or -1, stays open until nothing of the group is left, also when this process is
+    // gone before.
     ToolProcess(const Command &command, const QString &workingDir, const QString &scratchDir,
-                QObject *parent = nullptr);
+                int kept, QObject *parent = nullptr);
     ~ToolProcess() override;
 
     void start();
@@ -46,18 +51,21 @@ Q_SIGNALS:
     void ended();
 
 private:
-    class Process;
-
-    void readOutput();
+    // Whether there was some.
+    bool readOutput();
+    void takeEvent();
     void finish(const QString &failure);
-    void signalGroup(int number);
+    QString notStarted(int errorNumber) const;
 
     Command m_command;
+    Program m_program;
+    int m_kept;
     std::unique_ptr<ProcessGuard> m_guard;
-    std::unique_ptr<Process> m_process;
+    std::unique_ptr<QSocketNotifier> m_events;
+    std::unique_ptr<QSocketNotifier> m_output;
+    int m_pipe = -1;      // what the command prints
     QByteArray m_pending; // output after the last line end
     QString m_failure;
-    qint64 m_group = 0;
     bool m_ended = false;
 };
 

@@ -39,6 +39,12 @@ constexpr Stage stages[] = {
     {"Executing Verilog backend", 4, QT_TRANSLATE_NOOP("Synthesis", "Writing netlist")},
 };
 
+QString notComplete(const QString &path)
+{
+    return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
+        .arg(QDir::toNativeSeparators(path));
+}
+
 } // namespace
 
 QString YosysFlow::prepareTool()
@@ -66,7 +72,10 @@ QString YosysFlow::commandDone(int command)
         return {};
     const QString file = QLatin1String(YosysScript::design);
     QByteArray text;
-    QString error = readResult(file, outputPath(QStringLiteral(".vg")), &text);
+    const QString path = outputPath(QStringLiteral(".vg"));
+    QString error = readResult(file, path, &text);
+    if (error.isEmpty() && !YosysScript::takeEndMark(&text))
+        error = notComplete(path);
     if (error.isEmpty())
         error = writeScratch(file, YosysScript::withoutOpenDrivers(text));
     return error;
@@ -113,11 +122,6 @@ QString YosysFlow::collect(Results *results)
 {
     const QString netlistPath = outputPath(QStringLiteral(".vg"));
     const QByteArray top = topModule().toUtf8();
-    const auto damaged = [&](const QString &path) {
-        return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
-            .arg(QDir::toNativeSeparators(path));
-    };
-
     QByteArray body;
     QByteArray cells;
     QByteArray outline;
@@ -132,12 +136,12 @@ QString YosysFlow::collect(Results *results)
     DesignPorts design;
     const VerilogOutline bodyOutline = scanVerilog(body);
     if (!bodyOutline.complete || !bodyOutline.defines(top))
-        return damaged(netlistPath);
+        return notComplete(netlistPath);
     error = design.read(outline, cells);
     if (!error.isEmpty())
         return unusable(templatePath(), error);
     if (!design.contains(top))
-        return damaged(templatePath());
+        return notComplete(templatePath());
 
     const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
     const QByteArray netlist = verilogNetlist(title("Netlist of"), body, blackBoxes);

@@ -18,6 +18,9 @@ namespace
 // flip-flops.
 constexpr int mostWordsInLogic = 4096;
 
+// A module that comes after all others of a design, which are written in the order of their names.
+constexpr char endMark[] = "\xff\xff\xff";
+
 QByteArray scratch(const char *file)
 {
     return ScratchFolder::relative(QLatin1String(file)).toLatin1();
@@ -91,8 +94,8 @@ QByteArray YosysScript::reading(const SourceStage &sources, const QString &top)
            scratch("map_tristate.v") +
            "\n"
            "tribuf\n"
-           "write_rtlil " +
-           scratch(design) + '\n';
+           "add -mod " +
+           endMark + "\nwrite_rtlil " + scratch(design) + '\n';
 }
 
 QByteArray YosysScript::mapping(const QString &top, bool whole)
@@ -163,6 +166,15 @@ QByteArray YosysScript::mapping(const QString &top, bool whole)
            "\n"
            "write_json " +
            scratch(outline) + '\n';
+}
+
+bool YosysScript::takeEndMark(QByteArray *text)
+{
+    const QByteArray end = QByteArray("module \\") + endMark + "\nend\n";
+    if (!text->endsWith(end))
+        return false;
+    text->chop(end.size());
+    return true;
 }
 
 QByteArray YosysScript::withoutOpenDrivers(const QByteArray &text)

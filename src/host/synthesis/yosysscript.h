@@ -28,8 +28,12 @@ QStringList arguments(const char *file);
 // Reads the sources and writes the ports of `top` and of the black boxes to `outline`.
 QByteArray elaboration(const SourceStage &sources, const QString &top);
 
-// Reads the sources and writes the elaborated `design`.
+// Reads the sources and writes the elaborated `design`, with a mark at its end.
 QByteArray reading(const SourceStage &sources, const QString &top);
+
+// Whether the text of a design is complete; takes the mark off. The tool does not notice a write
+// that fails: what comes after it is missing.
+bool takeEndMark(QByteArray *text);
 
 // The text of a design without the constants that say "not driven" of nets of a module: a pin that
 // is never driven may be read all the same, and with its constant, which the text calls unknown, it

@@ -1,6 +1,8 @@
 #include "fileutils.h"
 
 #include "boundedfile.h"
+#include "filereplacement.h"
+#include "systemerror.h"
 #include "utf8names.h"
 
 #include <reading/limits.h>
@@ -9,7 +11,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace Utils
 {
@@ -29,26 +34,20 @@ bool fail(QString *error, const char *text, const QString &path, const QString &
     return false;
 }
 
-bool holds(const QString &path, const QByteArray &bytes)
+// The new folder's entry is on the disk.
+bool syncParent(const QByteArray &folder)
 {
-    QFile file(path);
-    if (QFileInfo(path).size() != bytes.size() || !file.open(QIODevice::ReadOnly))
-        return false;
-    return file.readAll() == bytes;
-}
-
-// Writes on after a partial success, so that the device's error string tells the reason of a
-// failure.
-bool writeAll(QIODevice *device, const QByteArray &bytes)
-{
-    qint64 written = 0;
-    while (written < bytes.size()) {
-        const qint64 step = device->write(bytes.constData() + written, bytes.size() - written);
-        if (step <= 0)
-            return false;
-        written += step;
-    }
-    return true;
+    const int slash = folder.lastIndexOf('/');
+    const QByteArray parent = slash <= 0 ? QByteArray("/") : folder.left(slash);
+    const int fd = ::open(parent.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return errno == EACCES; // it may be written but not read
+    const bool synced = uninterrupted([fd] { return ::fsync(fd); }) == 0 || errno == EINVAL ||
+                        errno == EOPNOTSUPP || errno == ENOSYS;
+    const int number = errno;
+    ::close(fd);
+    errno = number;
+    return synced;
 }
 
 } // namespace
@@ -61,30 +60,8 @@ bool FileUtils::copyFile(const QString &source, const QString &destination, QStr
 
 bool FileUtils::writeFile(const QString &path, const QByteArray &bytes, QString *error)
 {
-    if (path.isEmpty()) {
-        if (error)
-            *error = tr("Cannot write a file without a name.");
-        return false;
-    }
-    const QFileInfo info(path);
-    if (info.isDir())
-        return fail(error, "Cannot write \"%1\": %2.", path, tr("it is a folder"));
-    // A device or a pipe would be replaced by a plain file, and reading one may never end.
-    if (info.exists() && !info.isFile())
-        return fail(error, "Cannot write \"%1\": %2.", path, tr("it is not a plain file"));
-    if (info.exists() && holds(path, bytes))
-        return true;
-    if (!info.exists() && isDamagedName(path))
-        return fail(error, "Cannot write \"%1\": %2.", path, tr("its name is not UTF-8"));
-
-    // A chain of links is followed to its end, where QSaveFile would replace the second link.
-    QSaveFile file(info.isSymLink() && info.exists() ? info.canonicalFilePath() : path);
-    // With a buffer the last bytes are written by commit(), which takes a full disk for a success.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        return fail(error, "Cannot write \"%1\": %2.", path, file.errorString());
-    if (!writeAll(&file, bytes) || !file.commit())
-        return fail(error, "Cannot write \"%1\": %2.", path, file.errorString());
-    return true;
+    FileReplacement file(path);
+    return file.prepare(bytes, error) && file.place(error);
 }
 
 bool FileUtils::writeLines(const QString &path, const QStringList &lines, QString *error)
@@ -110,19 +87,44 @@ bool FileUtils::makePath(const QString &path, QString *error)
     // What is meant has another name.
     if (isDamagedName(path) && !QFileInfo::exists(path))
         return fail(error, "Cannot make the folder \"%1\": %2.", path, tr("its name is not UTF-8"));
-    if (QDir().mkpath(path))
-        return true;
-    // mkpath gives no reason: look for the nearest ancestor that stands in the way.
+    QStringList missing;
     QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    while (!info.exists() && info.absolutePath() != info.absoluteFilePath())
+    for (;;) {
+        const QByteArray name = QFile::encodeName(info.absoluteFilePath());
+        const QString shown = QDir::toNativeSeparators(info.absoluteFilePath());
+        struct stat status = {};
+        const bool found =
+            ::stat(name.constData(), &status) == 0 || ::lstat(name.constData(), &status) == 0;
+        if (found && S_ISDIR(status.st_mode))
+            break;
+        if (found)
+            return fail(error, "Cannot make the folder \"%1\": %2.", path,
+                        (S_ISLNK(status.st_mode) ? tr("\"%1\" is a link that leads nowhere")
+                                                 : tr("\"%1\" is a file"))
+                            .arg(shown));
+        missing.prepend(info.absoluteFilePath());
+        if (info.absolutePath() == info.absoluteFilePath())
+            break;
         info.setFile(info.absolutePath());
-    QString reason = tr("the folder cannot be made");
-    if (!info.isDir())
-        reason = tr("\"%1\" is a file").arg(QDir::toNativeSeparators(info.absoluteFilePath()));
-    else if (!info.isWritable())
-        reason =
-            tr("\"%1\" is not writable").arg(QDir::toNativeSeparators(info.absoluteFilePath()));
-    return fail(error, "Cannot make the folder \"%1\": %2.", path, reason);
+    }
+    for (const QString &folder : qAsConst(missing)) {
+        const QByteArray name = QFile::encodeName(folder);
+        const bool made = ::mkdir(name.constData(), 0777) == 0;
+        if (made ? syncParent(name) : errno == EEXIST && QFileInfo(folder).isDir())
+            continue;
+        const int number = errno;
+        if (made)
+            ::rmdir(name.constData());
+        const QString parent = QDir::toNativeSeparators(QFileInfo(folder).absolutePath());
+        QString reason = tr("\"%1\" is not writable").arg(parent);
+        if (number != EACCES || ::access(QFile::encodeName(parent).constData(), W_OK) == 0)
+            reason = folder == missing.last()
+                         ? systemError(number)
+                         : QString(QLatin1Char('"') + QDir::toNativeSeparators(folder) +
+                                   QLatin1String("\": ") + systemError(number));
+        return fail(error, "Cannot make the folder \"%1\": %2.", path, reason);
+    }
+    return true;
 }
 
 } // namespace Utils

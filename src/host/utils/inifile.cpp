@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <cctype>
+
 namespace Utils
 {
 
@@ -43,27 +45,116 @@ LineEnd endOf(const QByteArray &line, bool quoted)
     return end;
 }
 
-} // namespace
-
-bool writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
-                  const QVariantMap &values, QString *error)
+// As QSettings has them in keys: all but these is a percent sign and digits.
+QByteArray escapedKey(const QString &key)
 {
-    // QSettings merges with what is on disk and caches per path, so it writes to a fresh file of
-    // its own and the finished text then replaces the target in one step.
+    QByteArray text;
+    for (const QChar c : key) {
+        const ushort code = c.unicode();
+        const bool plain = (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z') ||
+                           (code >= '0' && code <= '9') || code == '_' || code == '-' ||
+                           code == '.';
+        const bool wide = code > 0xff;
+        if (plain)
+            text += char(code);
+        else
+            text += (wide ? "%U" : "%") +
+                    QByteArray::number(code, 16).toUpper().rightJustified(wide ? 4 : 2, '0');
+    }
+    return text;
+}
+
+// A text as a value, or as one of several.
+QByteArray escapedText(const QString &value)
+{
+    // A leading "@" begins a value of another type.
+    QString full = value;
+    if (value.contains(QChar(QChar::Null)))
+        full = QLatin1String("@String(") + value + u')';
+    else if (value.startsWith(u'@'))
+        full.prepend(u'@');
+    constexpr char letters[] = "abtnvfr"; // from 7
+    bool quoted = full.startsWith(u' ') || full.endsWith(u' ');
+    bool afterNumber = false;
+    QByteArray text;
+    for (const QChar c : full) {
+        const ushort code = c.unicode();
+        const bool digit = code < 0x80 && isxdigit(code);
+        quoted = quoted || code == ';' || code == ',' || code == '=';
+        if (code == 0) {
+            text += "\\0";
+        } else if (code >= 7 && code <= 13) {
+            text += '\\';
+            text += letters[code - 7];
+        } else if (code == '"' || code == '\\') {
+            text += '\\';
+            text += char(code);
+        } else if (code < 0x20 || code > 0x7e || (afterNumber && digit)) {
+            // A digit would be taken for one of the number before it.
+            text += "\\x" + QByteArray::number(code, 16);
+        } else {
+            text += char(code);
+        }
+        afterNumber = code == 0 || code < 7 || (code > 13 && code < 0x20) || code > 0x7e ||
+                      (afterNumber && digit);
+    }
+    return quoted ? QByteArray('"' + text + '"') : text;
+}
+
+// False for a value that only QSettings can write.
+bool escapedValue(const QVariant &value, QByteArray *text)
+{
+    switch (int(value.type())) {
+    case QMetaType::QString:
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        *text = escapedText(value.toString());
+        return true;
+    case QMetaType::QStringList: {
+        QByteArrayList texts;
+        const QStringList list = value.toStringList();
+        for (const QString &entry : list)
+            texts << escapedText(entry);
+        *text = texts.join(", ");
+        return !list.isEmpty();
+    }
+    default:
+        return false;
+    }
+}
+
+bool appendSection(const QString &name, const QVariantMap &values, QByteArray *text)
+{
+    if (values.isEmpty())
+        return true;
+    if (!text->isEmpty())
+        *text += '\n';
+    *text += '[' + escapedKey(name) + "]\n";
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        QByteArray value;
+        // A slash in a key parts groups.
+        if (it.key().isEmpty() || it.key().contains(u'/') || !escapedValue(it.value(), &value))
+            return false;
+        *text += escapedKey(it.key()) + '=' + value + '\n';
+    }
+    return true;
+}
+
+// The text of a file with values of all kinds. QSettings merges with what is on disk and caches per
+// path, so it writes to a fresh file of its own.
+bool draftText(const QVariantMap &header, const QString &group, const QVariantMap &values,
+               QByteArray *bytes, QString *error)
+{
     const QTemporaryDir scratch;
     if (!scratch.isValid()) {
-        if (error)
-            *error = tr("Cannot write \"%1\": no temporary folder: %2.")
-                         .arg(path, scratch.errorString());
+        *error = tr("no temporary folder: %1").arg(scratch.errorString());
         return false;
     }
     const QString draft = scratch.filePath(QStringLiteral("draft.ini"));
-    const auto noDraft = [&] {
-        if (error)
-            *error = tr("Cannot write \"%1\": the temporary file \"%2\" could not be written.")
-                         .arg(path, draft);
-        return false;
-    };
+    bool written = false;
     {
         QSettings settings(draft, QSettings::IniFormat);
         for (auto it = header.cbegin(); it != header.cend(); ++it)
@@ -74,18 +165,52 @@ bool writeIniFile(const QString &path, const QVariantMap &header, const QString 
         settings.endGroup();
         settings.setValue(QStringLiteral("EndOfDraft/whole"), true);
         settings.sync();
-        if (settings.status() != QSettings::NoError)
-            return noDraft();
+        written = settings.status() == QSettings::NoError;
     }
-    QByteArray bytes;
     // QSettings takes a full disk for a success: only a draft with its end is whole.
     const QByteArray mark = "[EndOfDraft]\nwhole=true\n";
-    if (!FileUtils::readFile(draft, &bytes, nullptr) || !bytes.endsWith(mark))
-        return noDraft();
-    bytes.chop(mark.size());
-    if (bytes.endsWith("\n\n"))
-        bytes.chop(1); // the blank line between sections
-    return FileUtils::writeFile(path, bytes, error);
+    if (!written || !FileUtils::readFile(draft, bytes, nullptr) || !bytes->endsWith(mark)) {
+        // It does not tell why it could not.
+        QString reason;
+        *error = FileUtils::writeFile(draft, QByteArray(1 << 16, 'x'), &reason)
+                     ? tr("the temporary file \"%1\" could not be written").arg(draft)
+                     : reason.chopped(1);
+        return false;
+    }
+    bytes->chop(mark.size());
+    if (bytes->endsWith("\n\n"))
+        bytes->chop(1); // the blank line between sections
+    return true;
+}
+
+} // namespace
+
+bool iniText(const QVariantMap &header, const QString &group, const QVariantMap &values,
+             QByteArray *text, QString *error)
+{
+    text->clear();
+    if (appendSection(QStringLiteral("General"), header, text) &&
+        appendSection(group, values, text))
+        return true;
+    text->clear();
+    QString reason;
+    if (draftText(header, group, values, text, &reason))
+        return true;
+    if (error)
+        *error = reason;
+    return false;
+}
+
+bool writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
+                  const QVariantMap &values, QString *error)
+{
+    QByteArray text;
+    QString reason;
+    if (iniText(header, group, values, &text, &reason))
+        return FileUtils::writeFile(path, text, error);
+    if (error)
+        *error = tr("Cannot write \"%1\": %2.").arg(path, reason);
+    return false;
 }
 
 bool checkIniText(const QByteArray &bytes, QString *error)

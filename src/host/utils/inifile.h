@@ -8,6 +8,12 @@
 namespace Utils
 {
 
+// The text of an INI file in the QSettings dialect, see writeIniFile(). Returns false and stores a
+// clause with the reason in `*error` (may be null); only values of types that options do not have
+// can fail, since QSettings itself writes those, into a temporary file.
+TARVO_UTILS_EXPORT bool iniText(const QVariantMap &header, const QString &group,
+                                const QVariantMap &values, QByteArray *text, QString *error);
+
 // Replaces `path` by an INI file in the QSettings dialect: the entries of `header` at the top
 // level, those of `values` in the group `group`. What stood in the file before is gone; keys are in
 // alphabetical order, so that equal maps give equal bytes. Returns false and stores a sentence with

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QPoint>
+#include <QRandomGenerator>
 #include <QRect>
 #include <QScopeGuard>
 #include <QSet>
@@ -305,6 +306,94 @@ private Q_SLOTS:
         QVERIFY(!writeIniFile(QString(), {}, QStringLiteral("Config"), {}, nullptr));
     }
 
+    void needsNoTemporaryFolderForWhatOptionsHold()
+    {
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", QFile::encodeName(path(QStringLiteral("nowhere/below"))));
+        const auto restore = qScopeGuard([&before] {
+            if (before.isNull())
+                qunsetenv("TMPDIR");
+            else
+                qputenv("TMPDIR", before);
+        });
+        QByteArray text;
+        QString error;
+        QVERIFY(Utils::iniText({}, QStringLiteral("Config"),
+                               {{QStringLiteral("a"), true}, {QStringLiteral("b"), 1}}, &text,
+                               &error));
+        QCOMPARE(text, QByteArray("[Config]\na=true\nb=1\n"));
+    }
+
+    // The seed is printed when the test fails; TARVO_TEST_SEED repeats it.
+    void writesWhatQSettingsWould()
+    {
+        bool given = false;
+        quint32 seed = quint32(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
+        if (!given)
+            seed = QRandomGenerator::global()->generate() & 0x7fffffff;
+        QRandomGenerator random(seed);
+        const auto text = [&random](int least) {
+            const QString common = QStringLiteral("aF09 _.-%;,=@\"\\\t\n\r\v\a\b\f'[]#:~\u007f");
+            QString result;
+            const int size = least + random.bounded(8);
+            for (int i = 0; i < size; ++i) {
+                const int kind = random.bounded(10);
+                if (kind < 6)
+                    result += common.at(random.bounded(common.size()));
+                else if (kind < 8)
+                    result += QChar(random.bounded(0x180));
+                else
+                    result += QChar(random.bounded(0x10000));
+            }
+            return result;
+        };
+        const auto value = [&]() -> QVariant {
+            switch (random.bounded(8)) {
+            case 0:
+                return random.bounded(2) == 0;
+            case 1:
+                return int(random.generate());
+            case 2:
+                return random.generate();
+            case 3:
+                return qlonglong(random.generate64());
+            case 4: {
+                QStringList list;
+                for (int i = random.bounded(4); i > 0; --i)
+                    list << text(0);
+                return list;
+            }
+            default:
+                return text(0);
+            }
+        };
+        const auto map = [&](int most) {
+            QVariantMap result;
+            for (int i = random.bounded(most); i > 0; --i)
+                result.insert(text(1).replace(u'/', u'|'), value());
+            return result;
+        };
+        for (int round = 0; round < 400; ++round) {
+            const QVariantMap header = map(4);
+            const QVariantMap values = map(12);
+            const QString file = path(QStringLiteral("settings%1.ini").arg(round));
+            {
+                QSettings settings(file, QSettings::IniFormat);
+                for (auto it = header.begin(); it != header.end(); ++it)
+                    settings.setValue(it.key(), it.value());
+                for (auto it = values.begin(); it != values.end(); ++it)
+                    settings.setValue(QLatin1String("Config/") + it.key(), it.value());
+            }
+            QByteArray bytes;
+            QVERIFY(Utils::iniText(header, QStringLiteral("Config"), values, &bytes, nullptr));
+            QVERIFY2(bytes == TestSupport::contentsOf(file),
+                     QByteArray("TARVO_TEST_SEED=" + QByteArray::number(seed) + '\n' + bytes +
+                                "\n instead of \n" + TestSupport::contentsOf(file))
+                         .constData());
+            QFile::remove(file);
+        }
+    }
+
     void saysWhenThereIsNoTemporaryFolder()
     {
         const QByteArray before = qgetenv("TMPDIR");
@@ -324,8 +413,8 @@ private Q_SLOTS:
             const TestSupport::Unprivileged user;
             if (!user.holds())
                 QSKIP("root cannot give up its rights here, and may write everywhere");
-            written = writeIniFile(path(), {}, QStringLiteral("Config"), {{QStringLiteral("a"), 1}},
-                                   &error);
+            written = writeIniFile(path(), {}, QStringLiteral("Config"),
+                                   {{QStringLiteral("a"), QByteArray("bytes")}}, &error);
         }
         QVERIFY(!written);
         QVERIFY2(error.contains(path()) && error.contains(QStringLiteral("temporary folder")),
@@ -358,8 +447,9 @@ private Q_SLOTS:
                     continue;
                 QString error;
                 QVERIFY(!writeIniFile(path(), {}, QStringLiteral("Config"),
-                                      {{QStringLiteral("a"), QString(size, u'x')}}, &error));
-                QVERIFY2(error.contains(path()) && error.contains(QStringLiteral("temporary")),
+                                      {{QStringLiteral("a"), QByteArray(size, 'x')}}, &error));
+                QVERIFY2(error.contains(path()) && error.contains(disk) &&
+                             error.contains(QStringLiteral("No space left on device")),
                          qPrintable(error));
                 QCOMPARE(TestSupport::contentsOf(path()), old);
                 QCOMPARE(TestSupport::entriesOf(disk), QStringList{QStringLiteral("filler")});
