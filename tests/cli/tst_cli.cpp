@@ -258,8 +258,8 @@ void tst_Cli::generatesWithoutSynthesis()
     const Run result = run(
         {QStringLiteral("generate"), file, QStringLiteral("--no-synth"), QStringLiteral("--json")});
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.json().keys(),
-             words({"cells", "errors", "files", "outputs", "resources", "sources", "warnings"}));
+    QCOMPARE(result.json().keys(), words({"cells", "errors", "files", "notCounted", "outputs",
+                                          "resources", "sources", "warnings"}));
     const QString temp = path("temp/tv_orix_m1");
     const QJsonArray files = result.json().value(QLatin1String("files")).toArray();
     QCOMPARE(files.size(), 7);
@@ -347,6 +347,15 @@ void tst_Cli::generatesTheExample()
         }
     }
     QCOMPARE(blackBoxes, 1);
+    const QJsonObject notCounted = result.json().value(QLatin1String("notCounted")).toObject();
+    QCOMPARE(notCounted.value(QLatin1String("blackBoxes")).toArray(),
+             (QJsonArray{QJsonObject{{QStringLiteral("cell"), QStringLiteral("CortexM1Core")},
+                                     {QStringLiteral("count"), 1}}}));
+    const QString sentence =
+        QStringLiteral("Not counted are the contents of black boxes: 1 CortexM1Core.");
+    QCOMPARE(notCounted.value(QLatin1String("sentence")).toString(), sentence);
+    QVERIFY2(result.err.contains(QString(QLatin1String("orixm1: ") + sentence + u'\n')),
+             qPrintable(result.err));
 
     // The template names the ports of what was switched on.
     const QByteArray text = TestSupport::contentsOf(outputs.at(1));
