@@ -1,5 +1,6 @@
 #include "dialogdriver.h"
 #include "testsupport.h"
+#include "unprivileged.h"
 
 #include <dev/devicedb.h>
 #include <ipplugin/baseipcoreinterface.h>
@@ -38,8 +39,14 @@ private Q_SLOTS:
     void scriptingIsNotProvided();
     void createsAndReopensWhatTheCommandLineMakes();
     void anUnusableFileShowsNoDialog();
+    void movesAnIpToAnotherDevice();
+    void cannotMoveWhatCannotBeRead_data();
+    void cannotMoveWhatCannotBeRead();
+    void tellsThatAMoveCouldNotBeWritten();
 
 private:
+    // As a host calls it: by name.
+    QVariantMap moveToDevice(const QString &file, const QString &device, bool write);
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -312,6 +319,115 @@ void tst_Plugin::anUnusableFileShowsNoDialog()
     QCOMPARE(presser.errors.size(), 2); // no device, no version
     QCOMPARE(presser.dialogs, 0);
     QCOMPARE(TestSupport::entriesOf(dir.path()), QStringList());
+}
+
+QVariantMap tst_Plugin::moveToDevice(const QString &file, const QString &device, bool write)
+{
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(
+        plugin(), "moveToDevice", Qt::DirectConnection, Q_RETURN_ARG(QVariantMap, answer),
+        Q_ARG(QString, file), Q_ARG(QString, device), Q_ARG(bool, write));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::movesAnIpToAnotherDevice()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+    const QByteArray before = "[General]\nowner=me\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                              "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n"
+                              "[Config]\nCAN_BUFFER_DEPTH=64\nEnable%20CAN=true\nLANG=1\n";
+    QVERIFY(TestSupport::write(file, before));
+    const QString small = QStringLiteral("TV1KL-5A-QFN32-C6/I5");
+
+    const QVariantMap told = moveToDevice(file, small, false);
+    QCOMPARE(told.keys(), (QStringList{QStringLiteral("changed"), QStringLiteral("device"),
+                                       QStringLiteral("error"), QStringLiteral("losses")}));
+    QCOMPARE(told.value(QStringLiteral("error")), QVariant(QString()));
+    QCOMPARE(told.value(QStringLiteral("device")), QVariant(small));
+    QCOMPARE(told.value(QStringLiteral("changed")), QVariant(true));
+    const QStringList losses = told.value(QStringLiteral("losses")).toStringList();
+    QCOMPARE(
+        losses,
+        (QStringList{
+            QStringLiteral("Debug is taken out: TV1KL-5A cannot have it."),
+            QStringLiteral("The ITCM shrinks from 32 KB to 8 KB: TV1KL-5A has no more for it."),
+            QStringLiteral("The DTCM shrinks from 32 KB to 8 KB: TV1KL-5A has no more for it."),
+            QStringLiteral("CAN is taken out: TV1KL-5A cannot have it.")}));
+    QCOMPARE(TestSupport::contentsOf(file), before);
+
+    const QVariantMap moved = moveToDevice(file, small, true);
+    QCOMPARE(moved, told);
+    const QByteArray after = TestSupport::contentsOf(file);
+    QVERIFY2(after.contains("target_device=" + small.toUtf8() + "\n"), after.constData());
+    for (const char *line : {"owner=me\n", "LANG=1\n", "CAN_BUFFER_DEPTH=64\n",
+                             "Enable%20CAN=false\n", "Number%20of%20Interrupts=32\n"})
+        QVERIFY2(after.contains(line), after.constData());
+
+    const QVariantMap again = moveToDevice(file, small, true);
+    QCOMPARE(again.value(QStringLiteral("changed")), QVariant(false));
+    QCOMPARE(again.value(QStringLiteral("losses")).toStringList(), QStringList());
+    QCOMPARE(TestSupport::contentsOf(file), after);
+}
+
+void tst_Plugin::cannotMoveWhatCannotBeRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<QString>("named");
+    const QString known = QStringLiteral("TV1L-9-QFN48-C6/I5");
+    QTest::newRow("no file") << QByteArray() << known << QStringLiteral("x.ipc");
+    QTest::newRow("another version")
+        << QByteArray("[General]\nversion=2.0\n") << known << QStringLiteral("version");
+    QTest::newRow("unknown device") << QByteArray("[General]\nversion=1.0\n")
+                                    << QStringLiteral("TV9") << QStringLiteral("\"TV9\"");
+    QTest::newRow("no device") << QByteArray("[General]\nversion=1.0\n") << QString()
+                               << QStringLiteral("\"\"");
+}
+
+void tst_Plugin::cannotMoveWhatCannotBeRead()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, device);
+    QFETCH(QString, named);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    if (!bytes.isEmpty())
+        QVERIFY(TestSupport::write(file, bytes));
+    const QVariantMap answer = moveToDevice(file, device, true);
+    QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(named),
+             qPrintable(answer.value(QStringLiteral("error")).toString()));
+    QCOMPARE(answer.value(QStringLiteral("changed")), QVariant(false));
+    QCOMPARE(TestSupport::contentsOf(file), bytes);
+}
+
+void tst_Plugin::tellsThatAMoveCouldNotBeWritten()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    const QByteArray bytes("[General]\nversion=1.0\ntarget_device=TV9-unknown\n");
+    QVERIFY(TestSupport::write(file, bytes));
+    const QFile::Permissions readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    QVERIFY(QFile::setPermissions(file, readable));
+    QVERIFY(QFile::setPermissions(dir.path(),
+                                  readable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther));
+    QVariantMap answer;
+    QList<TestSupport::SeenBox> boxes;
+    {
+        const TestSupport::Unprivileged user;
+        if (!user.holds())
+            QSKIP("File permissions do not bind here.");
+        boxes = TestSupport::boxesOf(
+            [&] { answer = moveToDevice(file, QStringLiteral("TV1L-9-QFN48-C6/I5"), true); });
+    }
+    QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY2(
+        boxes.size() == 1,
+        qPrintable(
+            answer.value(QStringLiteral("error")).toString())); // the host's own, with the reason
+    QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(file),
+             qPrintable(answer.value(QStringLiteral("error")).toString()));
+    QCOMPARE(TestSupport::contentsOf(file), bytes);
 }
 
 TARVO_TEST_MAIN(QApplication, tst_Plugin)
