@@ -65,7 +65,10 @@ void TarvoOrixM1Dlg::accept()
     if (!IPCore::makeDirs(tempDir(), ipInfo.value(InfoKey::name).toString()))
         return;
     saveIPConfig();
-    generateCore();
+    // Saving took the output folder out of the map; the blocks' dialogs need it for as long as this
+    // one stays open.
+    if (!generateCore())
+        UpdateCreatinPath();
 }
 
 bool TarvoOrixM1Dlg::checkItcmInitPath()
@@ -122,14 +125,14 @@ bool TarvoOrixM1Dlg::loadIPConfig(const QString &ipcFile)
     return true;
 }
 
-void TarvoOrixM1Dlg::generateCore()
+bool TarvoOrixM1Dlg::generateCore()
 {
     const QString folder = tempDir();
     const DEV::DeviceArg target = currentDevice();
     const QVector<IncludeFile> files = buildIncludeFiles(options, target);
     for (const IncludeFile &file : files) {
         if (!IPCore::generateFile(folder + u'/' + file.name, file.lines, this, QString()))
-            return;
+            return false;
     }
     const QStringList sourceFiles = buildSourceFiles(options, ipInfo, target.device(), folder);
 
@@ -156,6 +159,7 @@ void TarvoOrixM1Dlg::generateCore()
     synthesis->showProgressDlg();
     synthesis->setArgs(args);
     synthesis->start();
+    return true;
 }
 
 void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
@@ -166,6 +170,7 @@ void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
                                              createInPath(), IPCore::decode);
     synthesis->hideProgressDlg();
     if (result.status != 0) {
+        UpdateCreatinPath();
         const QString summary = synthesis->errorMsg();
         IPCore::showErrorMsgs(summary.isEmpty() ? QStringLiteral("Core generation occur errors.")
                                                 : summary,

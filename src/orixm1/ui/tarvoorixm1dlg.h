@@ -43,7 +43,8 @@ private:
     void updateDeviceDependentState() override;
     bool loadIPConfig(const QString &ipcFile) override;
 
-    void generateCore();
+    // False: nothing was started, and the user has been told why.
+    bool generateCore();
     QString tempDir() const;
 
     const OptionMap ipInfo;
