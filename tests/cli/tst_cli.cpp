@@ -81,6 +81,7 @@ private Q_SLOTS:
     void optionsListEveryKey();
     void devicesCanBeNarrowed();
     void sourcesMatchGeneration();
+    void anOwnDebugEntryOfTheDescriptorCountsForNothing();
     void anOwnDeviceFolderCounts();
     void pinsAreThePortsOfTheNetlist_data();
     void pinsAreThePortsOfTheNetlist();
@@ -765,6 +766,29 @@ void tst_Cli::sourcesMatchGeneration()
     QCOMPARE(listed.out.split(u'\n', Qt::SkipEmptyParts), sources);
     for (const QString &source : sources)
         QVERIFY2(QFileInfo::exists(source), qPrintable(source));
+}
+
+void tst_Cli::anOwnDebugEntryOfTheDescriptorCountsForNothing()
+{
+    QJsonObject descriptor =
+        QJsonDocument::fromJson(
+            TestSupport::contentsOf(QStringLiteral(TARVO_IP_DATA_DIR "/tarvo_orix_m1.ipspec")))
+            .object();
+    descriptor.insert(QStringLiteral("debug"), path("elsewhere"));
+    descriptor.insert(QStringLiteral("no_debug"), path("elsewhere"));
+    QVERIFY(
+        TestSupport::write(path("own/tarvo_orix_m1.ipspec"), QJsonDocument(descriptor).toJson()));
+    for (const char *file : {"own/data/debug/a.v", "own/data/no_debug/b.v", "elsewhere/c.v"})
+        QVERIFY(TestSupport::write(path(file), "\n"));
+    for (const bool debug : {true, false}) {
+        const Run result =
+            run({QStringLiteral("--data"), QStringLiteral("own"), QStringLiteral("sources"),
+                 config(debug ? "" : "Enable%20Debug=false\n")});
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.out.section(u'\n', 0, 0),
+                 path(debug ? "own/data/debug/a.v" : "own/data/no_debug/b.v"));
+        QVERIFY(!result.out.contains(QLatin1String("elsewhere")));
+    }
 }
 
 void tst_Cli::anOwnDeviceFolderCounts()

@@ -2,6 +2,7 @@
 #include "testsupport.h"
 #include "unprivileged.h"
 
+#include <core/viewmanager.h>
 #include <dev/devicedb.h>
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
@@ -36,6 +37,8 @@ private Q_SLOTS:
     void anUnusableDescriptorGivesNoCore_data();
     void anUnusableDescriptorGivesNoCore();
     void asksTheHostAboutDevices();
+    void emptyDeviceListsSupportEveryDevice();
+    void itsDialogsBelongToTheHostsWindow();
     void scriptingIsNotProvided();
     void createsAndReopensWhatTheCommandLineMakes();
     void anUnusableFileShowsNoDialog();
@@ -206,6 +209,40 @@ void tst_Plugin::asksTheHostAboutDevices()
     const auto shipped = core();
     for (const DEV::DeviceArg &device : DEV::DeviceDb::bundled().devices())
         QVERIFY2(shipped->isSupported(device), qPrintable(device.id()));
+}
+
+void tst_Plugin::emptyDeviceListsSupportEveryDevice()
+{
+    QTemporaryDir dir;
+    QVERIFY(TestSupport::write(
+        dir.filePath(QStringLiteral("tarvo_orix_m1.ipspec")),
+        R"({"ipcore": {"id": "i", "name": "n", "version": "1", "target": "t", "category": ["c"],
+                                   "device": {"supported": [], "unsupported": []}}})"));
+    const auto ip = core(dir.path());
+    QVERIFY(ip);
+    for (const DEV::DeviceArg &device : DEV::DeviceDb::bundled().devices())
+        QVERIFY2(ip->isSupported(device), qPrintable(device.id()));
+    QVERIFY(!ip->isSupported({}));
+}
+
+void tst_Plugin::itsDialogsBelongToTheHostsWindow()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    QVERIFY(TestSupport::write(
+        file, "[General]\ntarget_device=TV1L-9-QFN48-C6/I5\nversion=1.0\n[Config]\n"));
+    QWidget window;
+    Core::ViewManager::setDialogParent(&window);
+    QList<QWidget *> parents;
+    const TestSupport::ModalWatcher watcher([&parents](QWidget *modal) {
+        parents.append(modal->parentWidget());
+        modal->close();
+    });
+    const auto ip = core();
+    ip->createIP(dir.path(), DEV::DeviceDb::bundled().devices().first());
+    ip->openIP(dir.path(), file);
+    Core::ViewManager::setDialogParent(nullptr);
+    QCOMPARE(parents, (QList<QWidget *>{&window, &window}));
 }
 
 void tst_Plugin::scriptingIsNotProvided()
