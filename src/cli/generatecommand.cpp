@@ -11,6 +11,7 @@
 #include <generate/outputs.h>
 #include <generate/sourcefiles.h>
 #include <generate/synthesisrequest.h>
+#include <synthesis/resources.h>
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>
 #include <utils/fileutils.h>
@@ -63,6 +64,19 @@ QJsonArray jsonOf(const QList<Synthesis::CellCount> &cells)
     return array;
 }
 
+// What the totals leave out.
+QJsonObject notCounted(const QList<Synthesis::CellCount> &cells)
+{
+    QJsonArray blackBoxes;
+    for (const Synthesis::CellCount &cell : cells) {
+        if (cell.isBlackBox)
+            blackBoxes.append(QJsonObject{{QStringLiteral("cell"), cell.cell},
+                                          {QStringLiteral("count"), cell.count}});
+    }
+    return {{QStringLiteral("blackBoxes"), blackBoxes},
+            {QStringLiteral("sentence"), Synthesis::notCountedSentence(cells)}};
+}
+
 QStringList warningsOf(const Synthesis::RunReport &run)
 {
     QStringList warnings;
@@ -88,6 +102,9 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
         printError(QLatin1String("warning: ") + warning);
     for (const Synthesis::ResourceUse &use : report.run.resources)
         printUse(use);
+    if (const QString sentence = Synthesis::notCountedSentence(report.run.cells);
+        !sentence.isEmpty())
+        printError(sentence);
     for (const QString &error : report.errors)
         printError(error);
     if (arguments.json) {
@@ -97,6 +114,7 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
                    {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
                    {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
                    {QStringLiteral("cells"), jsonOf(report.run.cells)},
+                   {QStringLiteral("notCounted"), notCounted(report.run.cells)},
                    {QStringLiteral("resources"), jsonOf(report.run.resources)}});
         return status;
     }

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void optionsListEveryKey();
     void devicesCanBeNarrowed();
     void sourcesMatchGeneration();
+    void anOwnDebugEntryOfTheDescriptorCountsForNothing();
     void anOwnDeviceFolderCounts();
     void pinsAreThePortsOfTheNetlist_data();
     void pinsAreThePortsOfTheNetlist();
@@ -258,8 +259,8 @@ void tst_Cli::generatesWithoutSynthesis()
     const Run result = run(
         {QStringLiteral("generate"), file, QStringLiteral("--no-synth"), QStringLiteral("--json")});
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.json().keys(),
-             words({"cells", "errors", "files", "outputs", "resources", "sources", "warnings"}));
+    QCOMPARE(result.json().keys(), words({"cells", "errors", "files", "notCounted", "outputs",
+                                          "resources", "sources", "warnings"}));
     const QString temp = path("temp/tv_orix_m1");
     const QJsonArray files = result.json().value(QLatin1String("files")).toArray();
     QCOMPARE(files.size(), 7);
@@ -347,6 +348,15 @@ void tst_Cli::generatesTheExample()
         }
     }
     QCOMPARE(blackBoxes, 1);
+    const QJsonObject notCounted = result.json().value(QLatin1String("notCounted")).toObject();
+    QCOMPARE(notCounted.value(QLatin1String("blackBoxes")).toArray(),
+             (QJsonArray{QJsonObject{{QStringLiteral("cell"), QStringLiteral("CortexM1Core")},
+                                     {QStringLiteral("count"), 1}}}));
+    const QString sentence =
+        QStringLiteral("Not counted are the contents of black boxes: 1 CortexM1Core.");
+    QCOMPARE(notCounted.value(QLatin1String("sentence")).toString(), sentence);
+    QVERIFY2(result.err.contains(QString(QLatin1String("orixm1: ") + sentence + u'\n')),
+             qPrintable(result.err));
 
     // The template names the ports of what was switched on.
     const QByteArray text = TestSupport::contentsOf(outputs.at(1));
@@ -756,6 +766,29 @@ void tst_Cli::sourcesMatchGeneration()
     QCOMPARE(listed.out.split(u'\n', Qt::SkipEmptyParts), sources);
     for (const QString &source : sources)
         QVERIFY2(QFileInfo::exists(source), qPrintable(source));
+}
+
+void tst_Cli::anOwnDebugEntryOfTheDescriptorCountsForNothing()
+{
+    QJsonObject descriptor =
+        QJsonDocument::fromJson(
+            TestSupport::contentsOf(QStringLiteral(TARVO_IP_DATA_DIR "/tarvo_orix_m1.ipspec")))
+            .object();
+    descriptor.insert(QStringLiteral("debug"), path("elsewhere"));
+    descriptor.insert(QStringLiteral("no_debug"), path("elsewhere"));
+    QVERIFY(
+        TestSupport::write(path("own/tarvo_orix_m1.ipspec"), QJsonDocument(descriptor).toJson()));
+    for (const char *file : {"own/data/debug/a.v", "own/data/no_debug/b.v", "elsewhere/c.v"})
+        QVERIFY(TestSupport::write(path(file), "\n"));
+    for (const bool debug : {true, false}) {
+        const Run result =
+            run({QStringLiteral("--data"), QStringLiteral("own"), QStringLiteral("sources"),
+                 config(debug ? "" : "Enable%20Debug=false\n")});
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.out.section(u'\n', 0, 0),
+                 path(debug ? "own/data/debug/a.v" : "own/data/no_debug/b.v"));
+        QVERIFY(!result.out.contains(QLatin1String("elsewhere")));
+    }
 }
 
 void tst_Cli::anOwnDeviceFolderCounts()

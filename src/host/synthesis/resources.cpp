@@ -87,4 +87,17 @@ QString usedSentence(const QList<ResourceUse> &resources)
     return tr("Used %1.").arg(parts.join(QLatin1String(", ")));
 }
 
+QString notCountedSentence(const QList<CellCount> &cells)
+{
+    QStringList parts;
+    for (const CellCount &cell : cells) {
+        if (cell.isBlackBox)
+            parts << QString::number(cell.count) + u' ' + cell.cell;
+    }
+    if (parts.isEmpty())
+        return {};
+    return tr("Not counted are the contents of black boxes: %1.")
+        .arg(parts.join(QLatin1String(", ")));
+}
+
 } // namespace Synthesis

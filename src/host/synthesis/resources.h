@@ -17,4 +17,8 @@ QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances,
 // not used are left out.
 QString usedSentence(const QList<ResourceUse> &resources);
 
+// "Not counted are the contents of black boxes: 1 CortexM1Core, 2 Analog." Empty if the netlist has
+// no black box, so that the totals are whole.
+TARVO_SYNTHESIS_EXPORT QString notCountedSentence(const QList<CellCount> &cells);
+
 } // namespace Synthesis

@@ -196,6 +196,10 @@ QString Runner::Private::takeResults()
     }
     m_report.summary = usedSentence(m_report.resources);
     receive(m_report.summary);
+    if (const QString rest = notCountedSentence(m_report.cells); !rest.isEmpty()) {
+        m_report.summary += u' ' + rest;
+        receive(rest);
+    }
     for (const Port &port : qAsConst(results.ports)) {
         const int highest = port.lowest + port.width - 1;
         m_report.ports << ReportPort{QString::fromUtf8(port.name),

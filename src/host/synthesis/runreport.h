@@ -60,7 +60,7 @@ struct RunReport {
     int exitCode = 0; // 0: the files belong to this job
     bool cancelled = false;
     qint64 milliseconds = 0;
-    QString summary;         // one sentence: what was used, or why there is no result
+    QString summary;         // what was used and what that leaves out, or why there is no result
     QList<Message> messages; // in the order in which they came; none twice
     // After a success only:
     QList<CellCount> cells; // sorted by name

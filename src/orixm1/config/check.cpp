@@ -2,6 +2,7 @@
 
 #include "core/tcmsizes.h"
 #include "devicerules.h"
+#include "dialogdefaults.h"
 #include "generate/sourcefiles.h"
 #include "itcmcontents.h"
 #include "latin1literal.h"
@@ -150,7 +151,7 @@ private:
     void checkInterrupts()
     {
         const int interrupts = m_options.value(Key::numberOfInterrupts, 32).toInt();
-        if (isOn(Key::externalInterrupts) && interrupts < 16)
+        if (isOn(Key::externalInterrupts) && !allowsExternalInterrupts(interrupts))
             add(Finding::Warning, Key::externalInterrupts,
                 QStringLiteral("needs 16 or 32 interrupts"));
     }
@@ -190,20 +191,14 @@ private:
     void checkDevice()
     {
         const QString name = m_device.device();
-        const auto cannotHave = [this, &name](QLatin1String key, const QString &block,
-                                              bool available) {
-            if (!available && isOn(key))
-                add(Finding::Error, key, QStringLiteral("%1 cannot have %2").arg(name, block));
-        };
-        cannotHave(Key::enablePsram, "PSRAM in package "_l1 + m_device.package(),
-                   isPsramAvailable(m_device));
-        cannotHave(Key::enableDdr3, QStringLiteral("DDR3"), isDdr3Available(name));
-        const bool small = isSmallDevice(name);
-        cannotHave(Key::enableEthernet, QStringLiteral("Ethernet"), !small);
-        cannotHave(Key::enableCan, QStringLiteral("CAN"), !small);
-        cannotHave(Key::enableSpiFlash, QStringLiteral("SPI-Flash"), !small);
-        if ((small || isDebugUnavailable(name)) && isOn(Key::enableDebug, true))
-            add(Finding::Error, Key::enableDebug, QStringLiteral("%1 cannot have debug").arg(name));
+        for (const RestrictedBlock &block : restrictedBlocks()) {
+            if (block.isAvailable(m_device) || !generatedValue(m_options, block.key, name).toBool())
+                continue;
+            QString what = block.name;
+            if (block.dependsOnPackage)
+                what += " in package "_l1 + m_device.package();
+            add(Finding::Error, block.key, QStringLiteral("%1 cannot have %2").arg(name, what));
+        }
         if (isInstructionMemoryExternalOnly(name) && isOn(Key::internalInstructionMemory, true))
             add(Finding::Error, Key::internalInstructionMemory,
                 QStringLiteral("the instruction memory of %1 is always external").arg(name));
@@ -242,18 +237,16 @@ private:
         const TcmSizes sizes = tcmSizes(m_device.device());
         const int itcm = internalSize(Key::itcmSize, Key::internalInstructionMemory, sizes);
         const int dtcm = internalSize(Key::dtcmSize, Key::internalDataMemory, sizes);
-        const int largest = sizes.full.size() - 1;
         if (itcm < 0 || dtcm < 0)
             return;
-        const bool itcmLimited = dtcm == largest && itcm >= sizes.reduced.size();
-        const bool dtcmLimited = itcm == largest && dtcm >= sizes.reduced.size();
-        if (itcmLimited && dtcmLimited) {
+        const TcmFit fit = tcmFit(sizes, itcm, dtcm);
+        if (!fit.itcm && !fit.dtcm) {
             add(Finding::Error, Key::dtcmSize,
                 QStringLiteral("both memories have the device's largest size, %1; one may have %2 "
                                "at most then")
                     .arg(sizes.largest, sizes.reduced.last()));
-        } else if (itcmLimited || dtcmLimited) {
-            add(Finding::Error, dtcmLimited ? Key::dtcmSize : Key::itcmSize,
+        } else if (!fit.both()) {
+            add(Finding::Error, fit.dtcm ? Key::itcmSize : Key::dtcmSize,
                 QStringLiteral("may be %1 at most while the other memory has %2")
                     .arg(sizes.reduced.last(), sizes.largest));
         }

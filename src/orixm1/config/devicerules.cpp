@@ -1,6 +1,7 @@
 #include "devicerules.h"
 
 #include "latin1literal.h"
+#include "optionkeys.h"
 
 #include <iterator>
 
@@ -51,7 +52,40 @@ constexpr QLatin1String lockedDdr3 = "TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C"_l1;
 constexpr QLatin1String withoutDebug = "TV1L-9/TV1LR-9"_l1;
 constexpr QLatin1String externalOnly = "TV5KRT-15A/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"_l1;
 
+bool isNoSmallDevice(const DEV::DeviceArg &device)
+{
+    return !isSmallDevice(device.device());
+}
+
+constexpr int fewestForExternalInterrupts = 16;
+
+constexpr RestrictedBlock restricted[] = {
+    {Key::enablePsram, "PSRAM"_l1, isPsramAvailable, true},
+    {Key::enableDdr3, "DDR3"_l1,
+     [](const DEV::DeviceArg &device) { return isDdr3Available(device.device()); }},
+    {Key::enableEthernet, "Ethernet"_l1, isNoSmallDevice},
+    {Key::enableCan, "CAN"_l1, isNoSmallDevice},
+    {Key::enableSpiFlash, "SPI-Flash"_l1, isNoSmallDevice},
+    {Key::enableDebug, "debug"_l1,
+     [](const DEV::DeviceArg &device) { return isDebugAvailable(device.device()); }},
+};
+
 } // namespace
+
+const RestrictedBlock *RestrictedBlocks::begin() const
+{
+    return std::begin(restricted);
+}
+
+const RestrictedBlock *RestrictedBlocks::end() const
+{
+    return std::end(restricted);
+}
+
+bool allowsExternalInterrupts(int numberOfInterrupts)
+{
+    return numberOfInterrupts >= fewestForExternalInterrupts;
+}
 
 bool isInDeviceList(const QString &device, QLatin1String list)
 {
@@ -99,6 +133,11 @@ bool isDdr3Available(const QString &device)
 bool isSmallDevice(const QString &device)
 {
     return isInDeviceList(device, smallDevices);
+}
+
+bool isDebugAvailable(const QString &device)
+{
+    return !isSmallDevice(device) && !isDebugUnavailable(device);
 }
 
 bool isDebugUnavailable(const QString &device)

@@ -27,7 +27,9 @@ bool isPsramAvailable(const DEV::DeviceArg &device);
 bool isDdr3Available(const QString &device);
 // The smallest devices, which have neither debug, Ethernet, CAN nor SPI-Flash.
 bool isSmallDevice(const QString &device);
-// Devices whose debug can't be switched on.
+// Whether debug can be switched on.
+bool isDebugAvailable(const QString &device);
+// Devices, the smallest aside, whose debug can't be switched on.
 bool isDebugUnavailable(const QString &device);
 // Devices whose instruction memory is always external.
 bool isInstructionMemoryExternalOnly(const QString &device);
@@ -38,6 +40,26 @@ bool isDdr3Locked(const QString &device);
 bool hasDdr3StopSignal(const QString &device);
 // In delay steps.
 int largestRgmiiInputDelay(const QString &device);
+
+// What a device may be without, and the switch that asks for it.
+struct RestrictedBlock {
+    QLatin1String key;
+    QLatin1String name;
+    bool (*isAvailable)(const DEV::DeviceArg &);
+    bool dependsOnPackage = false;
+};
+
+struct RestrictedBlocks {
+    const RestrictedBlock *begin() const;
+    const RestrictedBlock *end() const;
+};
+inline RestrictedBlocks restrictedBlocks()
+{
+    return {};
+}
+
+// With fewer inputs the core has none for external interrupts.
+bool allowsExternalInterrupts(int numberOfInterrupts);
 
 // Families by name prefix.
 bool isTv5k(const QString &device);

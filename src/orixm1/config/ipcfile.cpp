@@ -73,6 +73,31 @@ void readOptions(QSettings &settings, OptionMap &options)
     settings.endGroup();
 }
 
+QVariantMap otherEntries(QSettings &settings)
+{
+    QVariantMap entries;
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        const QString group = key.section(u'/', 0, -2);
+        const bool isKnown = group == configGroup || group == deviceGroup || key == targetDevice ||
+                             key == typeEntry || key == versionEntry;
+        if (!isKnown)
+            entries.insert(key, settings.value(key));
+    }
+    return entries;
+}
+
+QString type(const QSettings &settings)
+{
+    return settings.value(typeEntry).toString();
+}
+
+QString deviceText(const QSettings &settings)
+{
+    return settings.value(targetDevice, settings.value(deviceGroup + QStringLiteral("/id")))
+        .toString();
+}
+
 QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo)
 {
     return {
@@ -80,6 +105,15 @@ QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo)
         {typeEntry, ipInfo.value(InfoKey::id).toString()},
         {versionEntry, QString(acceptedVersion)},
     };
+}
+
+QVariantMap movedHeader(QSettings &settings, const QString &deviceId)
+{
+    QVariantMap entries = otherEntries(settings);
+    entries.insert(targetDevice, deviceId);
+    entries.insert(typeEntry, type(settings));
+    entries.insert(versionEntry, QString(acceptedVersion));
+    return entries;
 }
 
 QString path(const QString &createInPath, const QVariantMap &ipInfo)

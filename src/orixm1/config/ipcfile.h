@@ -43,8 +43,21 @@ DEV::DeviceArg readDevice(QSettings &settings, const DEV::DeviceDb &devices);
 // Inserts every entry of the group "Config" into `options`, except the folder of the file's author.
 void readOptions(QSettings &settings, OptionMap &options);
 
+// Every entry that is neither an option nor part of the identity, by its full key: what somebody
+// else has put into the file.
+QVariantMap otherEntries(QSettings &settings);
+
+// The id of the IP that the file belongs to.
+QString type(const QSettings &settings);
+
+// What the file says of its device, for messages.
+QString deviceText(const QSettings &settings);
+
 // The top-level entries of a new file.
 QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo);
+
+// All entries of a file outside of its options, for the same configuration on another device.
+QVariantMap movedHeader(QSettings &settings, const QString &deviceId);
 
 // createInPath + "/" + the descriptor's target + ".ipc"
 QString path(const QString &createInPath, const QVariantMap &ipInfo);

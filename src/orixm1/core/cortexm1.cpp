@@ -6,6 +6,7 @@
 #include "ui_memory.h"
 
 #include "config/devicerules.h"
+#include "config/dialogdefaults.h"
 #include "config/optionkeys.h"
 #include "itcmpath.h"
 #include "tcmsizes.h"
@@ -179,49 +180,48 @@ void CortexM1::loadOptions()
 {
     const QString device = targetDevice();
     const bool small = isSmallDevice(device);
-    const auto isOn = [this](QLatin1String key, bool byDefault) {
-        return m_options->value(key, byDefault).toBool();
+    const auto stored = [this, &device](QLatin1String key) {
+        return m_options->value(key, dialogDefault(key, device));
     };
+    const auto isOn = [&stored](QLatin1String key) { return stored(key).toBool(); };
 
-    const int interrupts = m_options->value(Key::numberOfInterrupts, small ? 1 : 32).toInt();
+    const int interrupts = stored(Key::numberOfInterrupts).toInt();
     QRadioButton *Ui::Common::*interruptButton = otherCountButton;
     for (const InterruptRow &row : interruptRows) {
         if (row.count == interrupts)
             interruptButton = row.button;
     }
     (common.get()->*interruptButton)->setChecked(true);
-    common->checkBoxOsExtension->setChecked(isOn(Key::osExtension, !small));
-    common->checkBoxSmallMultiplier->setChecked(isOn(Key::smallMultiplier, small));
-    common->checkBoxBigEndian->setChecked(isOn(Key::bigEndian, false));
-    common->checkBoxExternalInterrupts->setChecked(isOn(Key::externalInterrupts, false));
+    common->checkBoxOsExtension->setChecked(isOn(Key::osExtension));
+    common->checkBoxSmallMultiplier->setChecked(isOn(Key::smallMultiplier));
+    common->checkBoxBigEndian->setChecked(isOn(Key::bigEndian));
+    common->checkBoxExternalInterrupts->setChecked(isOn(Key::externalInterrupts));
 
     // Stays in the map even if the page is cancelled.
     if (small)
         (*m_options)[Key::enableDebug] = false;
-    debug->enableDebugCheckBox->setChecked(isOn(Key::enableDebug, true));
-    const QString port =
-        m_options->value(Key::debugPortSelect, QString(Value::jtagAndSerialWire)).toString();
+    debug->enableDebugCheckBox->setChecked(isOn(Key::enableDebug));
+    const QString port = stored(Key::debugPortSelect).toString();
     QRadioButton *Ui::Debug::*portButton = otherPortButton;
     for (const PortRow &row : portRows) {
         if (row.value == port)
             portButton = row.button;
     }
     (debug.get()->*portButton)->setChecked(true);
-    debug->checkBoxSmallDebug->setChecked(isOn(Key::smallDebug, false));
+    debug->checkBoxSmallDebug->setChecked(isOn(Key::smallDebug));
 
     // On a small device internal memory cannot be chosen, unless a stored configuration had it.
     if (small)
-        memory->internalInsBtn->setEnabled(isOn(Key::internalInstructionMemory, false));
+        memory->internalInsBtn->setEnabled(isOn(Key::internalInstructionMemory));
     else
-        memory->internalInsBtn->setChecked(isOn(Key::internalInstructionMemory, true));
-    memory->externalInsBtn->setChecked(isOn(Key::externalInstructionMemory, small));
+        memory->internalInsBtn->setChecked(isOn(Key::internalInstructionMemory));
+    memory->externalInsBtn->setChecked(isOn(Key::externalInstructionMemory));
 
-    const int defaultSize = defaultTcmSizeIndex(device);
-    memory->comboBoxItcmSize->setCurrentIndex(m_options->value(Key::itcmSize, defaultSize).toInt());
-    memory->comboBoxDtcmSize->setCurrentIndex(m_options->value(Key::dtcmSize, defaultSize).toInt());
-    memory->checkBoxInitItcm->setChecked(isOn(Key::initializeItcm, false));
-    memory->internalDataBtn->setChecked(isOn(Key::internalDataMemory, true));
-    memory->externalDataBtn->setChecked(isOn(Key::externalDataMemory, false));
+    memory->comboBoxItcmSize->setCurrentIndex(stored(Key::itcmSize).toInt());
+    memory->comboBoxDtcmSize->setCurrentIndex(stored(Key::dtcmSize).toInt());
+    memory->checkBoxInitItcm->setChecked(isOn(Key::initializeItcm));
+    memory->internalDataBtn->setChecked(isOn(Key::internalDataMemory));
+    memory->externalDataBtn->setChecked(isOn(Key::externalDataMemory));
 
     const QString path = m_options->value(Key::itcmInitializationPath).toString();
     if (!path.isEmpty())

@@ -95,6 +95,17 @@ TcmSizes tcmSizes(const QString &device)
     return sizes;
 }
 
+TcmFit tcmFit(const TcmSizes &sizes, int itcm, int dtcm)
+{
+    TcmFit fit;
+    if (sizes.full.isEmpty())
+        return fit;
+    const int largest = sizes.full.size() - 1;
+    fit.itcm = dtcm != largest || itcm < sizes.reduced.size();
+    fit.dtcm = itcm != largest || dtcm < sizes.reduced.size();
+    return fit;
+}
+
 TcmOffers balancedTcmSizes(const QString &device, const QString &itcm, const QString &dtcm,
                            bool bothInternal)
 {

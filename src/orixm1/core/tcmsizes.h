@@ -22,6 +22,16 @@ TcmSizes tcmSizes(const QString &device);
 // "1 KB" up to the size with this index (at most 9, "512 KB"); none for a negative index.
 QStringList tcmSizeList(int lastIndex);
 
+// Whether two internal memories with these size indexes can stand side by side: one may be larger
+// than the reduced list only while the other is smaller than the largest size. Both fit on an
+// unknown device.
+struct TcmFit {
+    bool itcm = true;
+    bool dtcm = true;
+    bool both() const { return itcm && dtcm; }
+};
+TcmFit tcmFit(const TcmSizes &sizes, int itcm, int dtcm);
+
 // What one memory's combo box offers, and the selected index; -1: nothing is selected.
 struct TcmOffer {
     QStringList sizes;

@@ -23,7 +23,7 @@ void CANDlg::connectOptions()
 
 void CANDlg::loadOptions()
 {
-    const QString depth = options().value(Key::canBufferDepth, QStringLiteral("256")).toString();
+    const QString depth = stored(Key::canBufferDepth).toString();
     ui->bufferDepthComboBox->setCurrentIndex(ui->bufferDepthComboBox->findText(depth));
     onCanEnableChanged();
 }

@@ -8,15 +8,6 @@
 namespace TARVOORIXM1
 {
 
-namespace
-{
-
-// What the dialog takes for absent keys; generation takes 0.
-constexpr int defaultInputDelay = 100;
-constexpr int defaultClockDivider = 20;
-
-} // namespace
-
 EthernetDlg::EthernetDlg(OptionMap *options, QWidget *parent)
     : PeripheralDlg(BlockId::Ethernet, options, parent)
     , ui(makeForm<Ui::EthernetConfig>())
@@ -37,15 +28,12 @@ void EthernetDlg::connectOptions()
 
 void EthernetDlg::loadOptions()
 {
-    const QString interface =
-        options().value(Key::ethernetInterface, QString(Value::rgmii)).toString();
+    const QString interface = stored(Key::ethernetInterface).toString();
     ui->interfaceComboBox->setCurrentIndex(ui->interfaceComboBox->findText(interface));
     // The form's range holds while the delay is set: on every device a larger one is cut off.
-    ui->inputDelaySpinBox->setValue(
-        options().value(Key::ethernetInputDelay, defaultInputDelay).toInt());
+    ui->inputDelaySpinBox->setValue(stored(Key::ethernetInputDelay).toInt());
     ui->inputDelaySpinBox->setMaximum(largestRgmiiInputDelay(targetDevice()));
-    ui->clockDividerSpinBox->setValue(
-        options().value(Key::ethernetClockDivider, defaultClockDivider).toInt());
+    ui->clockDividerSpinBox->setValue(stored(Key::ethernetClockDivider).toInt());
 }
 
 void EthernetDlg::storeOptions()

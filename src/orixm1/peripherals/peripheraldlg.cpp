@@ -1,5 +1,6 @@
 #include "peripheraldlg.h"
 
+#include "config/dialogdefaults.h"
 #include "config/optionkeys.h"
 #include "pins.h"
 #include "pintables.h"
@@ -56,6 +57,11 @@ void PeripheralDlg::refreshFigure()
     state.choice = choice();
     state.device = targetDevice();
     uiSetFigurePins(blockPins(m_block, state));
+}
+
+QVariant PeripheralDlg::stored(QLatin1String key) const
+{
+    return m_options->value(key, dialogDefault(key, targetDevice()));
 }
 
 QString PeripheralDlg::targetDevice() const

@@ -66,6 +66,8 @@ protected:
 
     QCheckBox *switchBox(int index) const { return m_switches.at(index); }
     OptionMap &options() const { return *m_options; }
+    // The option's value, or what the dialogs take for an absent one.
+    QVariant stored(QLatin1String key) const;
     QString targetDevice() const;
 
 private:

@@ -1,6 +1,9 @@
 #include "tarvoorixm1package.h"
 
+#include "movetodevice.h"
 #include "tarvoorixm1.h"
+
+#include <core/idecore.h>
 
 #include <memory>
 
@@ -13,6 +16,12 @@ QList<TE::TE_IPCore_Def::BaseIPCoreInterface *> TarvoOrixM1Package::ipCoreInterf
     if (!core->initialize())
         return {};
     return {core.release()};
+}
+
+QVariantMap TarvoOrixM1Package::moveToDevice(const QString &ipcFile, const QString &deviceId,
+                                             bool write)
+{
+    return TARVOORIXM1::moveToDevice(ipcFile, deviceId, write, *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

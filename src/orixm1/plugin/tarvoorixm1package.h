@@ -2,6 +2,8 @@
 
 #include <ipplugin/ipplugin.h>
 
+#include <QVariantMap>
+
 namespace TARVOORIXM1
 {
 
@@ -14,6 +16,12 @@ class TarvoOrixM1Package : public TE::TE_IPCore_Def::IPPlugin
 
 public:
     QList<TE::TE_IPCore_Def::BaseIPCoreInterface *> ipCoreInterfaces() override;
+
+    // For hosts that ask for it by name. Moves the configuration in an .ipc file to the device with
+    // this id, or, without `write`, only tells what that would cost: {"error": text, empty if all
+    // went well; "device": the id; "losses": sentences; "changed": whether the file changes}.
+    Q_INVOKABLE QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId,
+                                         bool write);
 };
 
 } // namespace TARVOORIXM1

@@ -139,8 +139,12 @@ void TarvoOrixM1Dlg::generateCore()
     const DEV::DeviceArg target = currentDevice();
     const QVector<IncludeFile> files = buildIncludeFiles(options, target);
     for (const IncludeFile &file : files) {
-        if (!IPCore::generateFile(folder + u'/' + file.name, file.lines, this, QString()))
+        if (!IPCore::generateFile(folder + u'/' + file.name, file.lines, this, QString())) {
+            // Saving took the output folder out of the map; the blocks' dialogs need it for as long
+            // as this one stays open.
+            UpdateCreatinPath();
             return;
+        }
     }
     const QStringList sourceFiles = buildSourceFiles(options, ipInfo, target.device(), folder);
 
@@ -177,6 +181,7 @@ void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
                                              createInPath(), IPCore::decode);
     synthesis->hideProgressDlg();
     if (result.status != 0) {
+        UpdateCreatinPath();
         const QString summary = synthesis->errorMsg();
         IPCore::showErrorMsgs(summary.isEmpty() ? QStringLiteral("Core generation occur errors.")
                                                 : summary,

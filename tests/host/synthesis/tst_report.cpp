@@ -1,5 +1,6 @@
 #include "synthesisrun.h"
 
+#include <synthesis/resources.h>
 #include <synthesis/runreport.h>
 
 #include <QSet>
@@ -105,6 +106,32 @@ private Q_SLOTS:
         QVERIFY2(report.summary.startsWith(QStringLiteral("Used ")) &&
                      report.summary.contains(QStringLiteral("16 Flip-flops")),
                  qPrintable(report.summary));
+        const QString rest =
+            QStringLiteral("Not counted are the contents of black boxes: 1 analog.");
+        QCOMPARE(Synthesis::notCountedSentence(report.cells), rest);
+        QVERIFY2(report.summary.endsWith(u' ' + rest), qPrintable(report.summary));
+        QVERIFY(TestSupport::contentsOf(report.logFile).contains(rest.toUtf8() + '\n'));
+    }
+
+    void namesEveryBlackBoxWithItsCount()
+    {
+        const auto cell = [](const char *name, int count, bool isBlackBox) {
+            return Synthesis::CellCount{QString::fromLatin1(name), count, isBlackBox};
+        };
+        QCOMPARE(Synthesis::notCountedSentence({}), QString());
+        QCOMPARE(Synthesis::notCountedSentence({cell("TV_LUT4", 7, false)}), QString());
+        QCOMPARE(Synthesis::notCountedSentence(
+                     {cell("A", 1, true), cell("TV_LUT4", 7, false), cell("b c", 20, true)}),
+                 QStringLiteral("Not counted are the contents of black boxes: 1 A, 20 b c."));
+    }
+
+    void aDesignWithoutBlackBoxesIsCountedWhole()
+    {
+        SynthesisRun run;
+        run.addSource(QStringLiteral("top.v"),
+                      "module top (input a, b, output y);\n    assign y = a & b;\nendmodule\n");
+        RUN_SUCCEEDS(run);
+        QCOMPARE(run.runner.report().summary, QStringLiteral("Used 1 LUT4."));
     }
 
     void comparesWithTheTotalsOfTheDevice()

@@ -1,6 +1,8 @@
 #include "dialogdriver.h"
 #include "testsupport.h"
+#include "unprivileged.h"
 
+#include <core/viewmanager.h>
 #include <dev/devicedb.h>
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
@@ -37,13 +39,21 @@ private Q_SLOTS:
     void anUnusableDescriptorGivesNoCore_data();
     void anUnusableDescriptorGivesNoCore();
     void asksTheHostAboutDevices();
+    void emptyDeviceListsSupportEveryDevice();
+    void itsDialogsBelongToTheHostsWindow();
     void scriptingIsNotProvided();
     void createsAndReopensWhatTheCommandLineMakes();
     void anUnusableFileShowsNoDialog();
     void aDangerousFileIsNotEvenRead_data();
     void aDangerousFileIsNotEvenRead();
+    void movesAnIpToAnotherDevice();
+    void cannotMoveWhatCannotBeRead_data();
+    void cannotMoveWhatCannotBeRead();
+    void tellsThatAMoveCouldNotBeWritten();
 
 private:
+    // As a host calls it: by name.
+    QVariantMap moveToDevice(const QString &file, const QString &device, bool write);
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -205,6 +215,40 @@ void tst_Plugin::asksTheHostAboutDevices()
         QVERIFY2(shipped->isSupported(device), qPrintable(device.id()));
 }
 
+void tst_Plugin::emptyDeviceListsSupportEveryDevice()
+{
+    QTemporaryDir dir;
+    QVERIFY(TestSupport::write(
+        dir.filePath(QStringLiteral("tarvo_orix_m1.ipspec")),
+        R"({"ipcore": {"id": "i", "name": "n", "version": "1", "target": "t", "category": ["c"],
+                                   "device": {"supported": [], "unsupported": []}}})"));
+    const auto ip = core(dir.path());
+    QVERIFY(ip);
+    for (const DEV::DeviceArg &device : DEV::DeviceDb::bundled().devices())
+        QVERIFY2(ip->isSupported(device), qPrintable(device.id()));
+    QVERIFY(!ip->isSupported({}));
+}
+
+void tst_Plugin::itsDialogsBelongToTheHostsWindow()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    QVERIFY(TestSupport::write(
+        file, "[General]\ntarget_device=TV1L-9-QFN48-C6/I5\nversion=1.0\n[Config]\n"));
+    QWidget window;
+    Core::ViewManager::setDialogParent(&window);
+    QList<QWidget *> parents;
+    const TestSupport::ModalWatcher watcher([&parents](QWidget *modal) {
+        parents.append(modal->parentWidget());
+        modal->close();
+    });
+    const auto ip = core();
+    ip->createIP(dir.path(), DEV::DeviceDb::bundled().devices().first());
+    ip->openIP(dir.path(), file);
+    Core::ViewManager::setDialogParent(nullptr);
+    QCOMPARE(parents, (QList<QWidget *>{&window, &window}));
+}
+
 void tst_Plugin::scriptingIsNotProvided()
 {
     const auto ip = core();
@@ -353,6 +397,115 @@ void tst_Plugin::aDangerousFileIsNotEvenRead()
     QCOMPARE(boxes.first().title, QStringLiteral("Error"));
     QVERIFY2(boxes.first().text.contains(reason) && boxes.first().text.contains(ipc),
              qPrintable(boxes.first().text));
+}
+
+QVariantMap tst_Plugin::moveToDevice(const QString &file, const QString &device, bool write)
+{
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(
+        plugin(), "moveToDevice", Qt::DirectConnection, Q_RETURN_ARG(QVariantMap, answer),
+        Q_ARG(QString, file), Q_ARG(QString, device), Q_ARG(bool, write));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::movesAnIpToAnotherDevice()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+    const QByteArray before = "[General]\nowner=me\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                              "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n"
+                              "[Config]\nCAN_BUFFER_DEPTH=64\nEnable%20CAN=true\nLANG=1\n";
+    QVERIFY(TestSupport::write(file, before));
+    const QString small = QStringLiteral("TV1KL-5A-QFN32-C6/I5");
+
+    const QVariantMap told = moveToDevice(file, small, false);
+    QCOMPARE(told.keys(), (QStringList{QStringLiteral("changed"), QStringLiteral("device"),
+                                       QStringLiteral("error"), QStringLiteral("losses")}));
+    QCOMPARE(told.value(QStringLiteral("error")), QVariant(QString()));
+    QCOMPARE(told.value(QStringLiteral("device")), QVariant(small));
+    QCOMPARE(told.value(QStringLiteral("changed")), QVariant(true));
+    const QStringList losses = told.value(QStringLiteral("losses")).toStringList();
+    QCOMPARE(
+        losses,
+        (QStringList{
+            QStringLiteral("Debug is taken out: TV1KL-5A cannot have it."),
+            QStringLiteral("The ITCM shrinks from 32 KB to 8 KB: TV1KL-5A has no more for it."),
+            QStringLiteral("The DTCM shrinks from 32 KB to 8 KB: TV1KL-5A has no more for it."),
+            QStringLiteral("CAN is taken out: TV1KL-5A cannot have it.")}));
+    QCOMPARE(TestSupport::contentsOf(file), before);
+
+    const QVariantMap moved = moveToDevice(file, small, true);
+    QCOMPARE(moved, told);
+    const QByteArray after = TestSupport::contentsOf(file);
+    QVERIFY2(after.contains("target_device=" + small.toUtf8() + "\n"), after.constData());
+    for (const char *line : {"owner=me\n", "LANG=1\n", "CAN_BUFFER_DEPTH=64\n",
+                             "Enable%20CAN=false\n", "Number%20of%20Interrupts=32\n"})
+        QVERIFY2(after.contains(line), after.constData());
+
+    const QVariantMap again = moveToDevice(file, small, true);
+    QCOMPARE(again.value(QStringLiteral("changed")), QVariant(false));
+    QCOMPARE(again.value(QStringLiteral("losses")).toStringList(), QStringList());
+    QCOMPARE(TestSupport::contentsOf(file), after);
+}
+
+void tst_Plugin::cannotMoveWhatCannotBeRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<QString>("named");
+    const QString known = QStringLiteral("TV1L-9-QFN48-C6/I5");
+    QTest::newRow("no file") << QByteArray() << known << QStringLiteral("x.ipc");
+    QTest::newRow("another version")
+        << QByteArray("[General]\nversion=2.0\n") << known << QStringLiteral("version");
+    QTest::newRow("unknown device") << QByteArray("[General]\nversion=1.0\n")
+                                    << QStringLiteral("TV9") << QStringLiteral("\"TV9\"");
+    QTest::newRow("no device") << QByteArray("[General]\nversion=1.0\n") << QString()
+                               << QStringLiteral("\"\"");
+}
+
+void tst_Plugin::cannotMoveWhatCannotBeRead()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, device);
+    QFETCH(QString, named);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    if (!bytes.isEmpty())
+        QVERIFY(TestSupport::write(file, bytes));
+    const QVariantMap answer = moveToDevice(file, device, true);
+    QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(named),
+             qPrintable(answer.value(QStringLiteral("error")).toString()));
+    QCOMPARE(answer.value(QStringLiteral("changed")), QVariant(false));
+    QCOMPARE(TestSupport::contentsOf(file), bytes);
+}
+
+void tst_Plugin::tellsThatAMoveCouldNotBeWritten()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    const QByteArray bytes("[General]\nversion=1.0\ntarget_device=TV9-unknown\n");
+    QVERIFY(TestSupport::write(file, bytes));
+    const QFile::Permissions readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    QVERIFY(QFile::setPermissions(file, readable));
+    QVERIFY(QFile::setPermissions(dir.path(),
+                                  readable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther));
+    QVariantMap answer;
+    QList<TestSupport::SeenBox> boxes;
+    {
+        const TestSupport::Unprivileged user;
+        if (!user.holds())
+            QSKIP("File permissions do not bind here.");
+        boxes = TestSupport::boxesOf(
+            [&] { answer = moveToDevice(file, QStringLiteral("TV1L-9-QFN48-C6/I5"), true); });
+    }
+    QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY2(
+        boxes.size() == 1,
+        qPrintable(
+            answer.value(QStringLiteral("error")).toString())); // the host's own, with the reason
+    QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(file),
+             qPrintable(answer.value(QStringLiteral("error")).toString()));
+    QCOMPARE(TestSupport::contentsOf(file), bytes);
 }
 
 TARVO_TEST_MAIN(QApplication, tst_Plugin)

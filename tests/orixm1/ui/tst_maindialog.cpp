@@ -14,6 +14,7 @@
 #include <ui/tarvoorixm1dlg.h>
 
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -110,6 +111,9 @@ private Q_SLOTS:
     void checksTheInitialisationFolder_data();
     void checksTheInitialisationFolder();
     void anEmptyFolderStopsBeforeAnythingIsMade();
+    void theFolderIsConfirmedBeforeTheInitialisationIsChecked();
+    void noGenerationFolderBeforeTheInitialisationIsSound();
+    void helpOpensTheDescriptorsFile();
     void aDeclinedOverwriteWritesNothing();
     void anUnmakeableGenerationFolderIsReported();
     void anUnwritableIncludeFileStopsBeforeTheRun();
@@ -123,6 +127,9 @@ private Q_SLOTS:
     void anotherToolTextRunsWithEmptyPaths();
     void anotherToolTextLeavesTheToolOfTheRunBefore();
     void brokenContentsEndTheRunBeforeTheTool();
+    void theOutputFolderComesBackWhereTheDialogStaysOpen_data();
+    void theOutputFolderComesBackWhereTheDialogStaysOpen();
+    void aFailedRunKeepsTheInitialisationFolder();
 
 private:
     std::unique_ptr<TarvoOrixM1Dlg> newDialog(const char *device = "TV2KR-18C-QFN88P-C8/I7");
@@ -439,6 +446,74 @@ void tst_MainDialog::anEmptyFolderStopsBeforeAnythingIsMade()
     QVERIFY(!QFileInfo::exists(QStringLiteral("temp")));
 }
 
+void tst_MainDialog::theFolderIsConfirmedBeforeTheInitialisationIsChecked()
+{
+    const auto dialog =
+        opened("[General]\ntarget_device=TV2K-55-PBGA256-C8/I7\nversion=1.0\n[Config]\n"
+               "Initialize%20ITCM=true\nITCM_Initialization_Path=gone\n");
+    // As for a new IP, whose folder is there.
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QVERIFY(QDir().mkpath(folder));
+    dialog->prepareNew(m_dir->path(), deviceNamed("TV2K-55"));
+    const auto asked = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Yes);
+    QCOMPARE(asked.size(), 2);
+    QVERIFY(asked.at(0).text.endsWith(QLatin1String("do you want to overwrite?")));
+    QCOMPARE(asked.at(1).text, QStringLiteral("ITCM Initialization Path is not exist."));
+    const auto declined = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Cancel);
+    QCOMPARE(declined.size(), 1);
+    QCOMPARE(TestSupport::entriesOf(folder), QStringList());
+}
+
+void tst_MainDialog::noGenerationFolderBeforeTheInitialisationIsSound()
+{
+    const auto dialog =
+        opened("[General]\ntarget_device=TV2K-55-PBGA256-C8/I7\nversion=1.0\n[Config]\n"
+               "Initialize%20ITCM=true\nITCM_Initialization_Path=gone\n");
+    dialog->prepareNew(m_dir->path(), deviceNamed("TV2K-55"));
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); });
+    QCOMPARE(boxes.size(), 1);
+    QCOMPARE(boxes.first().text, QStringLiteral("ITCM Initialization Path is not exist."));
+    // The output folder has been made by then, and nothing in it.
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(TestSupport::entriesOf(folder), QStringList());
+    QVERIFY(!dialog->findChild<IPCore::SynthesisHelper *>());
+}
+
+namespace
+{
+
+// Takes the place of the desktop's programs for files.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+    QList<QUrl> opened;
+
+public Q_SLOTS:
+    void open(const QUrl &url) { opened.append(url); }
+};
+
+} // namespace
+
+void tst_MainDialog::helpOpensTheDescriptorsFile()
+{
+    const QVariantMap info = descriptor();
+    const QString file = info.value(InfoKey::help).toString();
+    QVERIFY2(QFileInfo(file).isFile(), qPrintable(file));
+    TarvoOrixM1Dlg dialog(info);
+    QAbstractButton *help = dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))
+                                ->button(QDialogButtonBox::Help);
+    QVERIFY(help->isHidden());
+    Desktop desktop;
+    help->click();
+    QCOMPARE(desktop.opened, QList<QUrl>{QUrl::fromLocalFile(file)});
+}
+
 void tst_MainDialog::aDeclinedOverwriteWritesNothing()
 {
     const auto dialog = newDialog();
@@ -679,6 +754,116 @@ void tst_MainDialog::brokenContentsEndTheRunBeforeTheTool()
              qPrintable(texts.join(u'|')));
     QVERIFY(!QFileInfo::exists(trace));
     QVERIFY(dialog.isVisible());
+}
+
+void tst_MainDialog::theOutputFolderComesBackWhereTheDialogStaysOpen_data()
+{
+    QTest::addColumn<QString>("blocked"); // a folder that stands where a file would
+    QTest::addColumn<QByteArray>("tool"); // in place of the synthesis tool, if not empty
+    QTest::newRow("the first include file cannot be written")
+        << QStringLiteral("temp/tv_orix_m1/cm1_option_defs.v") << QByteArray();
+    QTest::newRow("the last include file cannot be written")
+        << QStringLiteral("temp/tv_orix_m1/triple_speed_mac_param.v") << QByteArray();
+    QTest::newRow("the run fails") << QString() << QByteArray("exit 1\n");
+    QTest::newRow("the tool crashes") << QString() << QByteArray("kill -SEGV $$\n");
+    QTest::newRow("the netlist cannot be copied")
+        << QStringLiteral("tarvo_orix_m1.v") << QByteArray();
+    QTest::newRow("the model cannot be made") << QStringLiteral("tarvo_orix_m1.vo") << QByteArray();
+    QTest::newRow("the run is cancelled") << QString() << QByteArray("sleep 1000\n");
+}
+
+void tst_MainDialog::theOutputFolderComesBackWhereTheDialogStaysOpen()
+{
+    QFETCH(QString, blocked);
+    QFETCH(QByteArray, tool);
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    if (!blocked.isEmpty())
+        QVERIFY(QDir().mkpath(folder + u'/' + blocked));
+    std::unique_ptr<FakeTool> fake;
+    if (!tool.isEmpty())
+        fake = std::make_unique<FakeTool>(tool);
+    const auto dialog = newDialog();
+    dialog->show();
+    const QVariant before = dialog->currentOptions().value(Key::createInPath);
+    QCOMPARE(before.toString(), folder);
+    QStringList errors;
+    {
+        const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+            if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+                if (QAbstractButton *yes = box->button(QMessageBox::Yes)) {
+                    yes->click();
+                    return;
+                }
+                errors.append(box->text());
+                box->close();
+            } else if (auto *title = modal->findChild<QLabel *>(QStringLiteral("titleLabel"))) {
+                errors.append(title->text());
+                // Nobody may see the map without its entry.
+                if (dialog->currentOptions().value(Key::createInPath) != before)
+                    errors.append(QStringLiteral("the folder is missing"));
+                modal->close();
+            } else if (tool.startsWith("sleep")) {
+                modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
+            }
+        });
+        pressOk(*dialog);
+        QTRY_VERIFY_WITH_TIMEOUT(!errors.isEmpty(), runTimeout);
+    }
+    QCOMPARE(errors.size(), 1);
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath), before);
+    // The file does not hold it.
+    QVERIFY(!TestSupport::contentsOf(folder + QStringLiteral("/tarvo_orix_m1.ipc"))
+                 .contains("createin_path"));
+}
+
+void tst_MainDialog::aFailedRunKeepsTheInitialisationFolder()
+{
+    const FakeTool fake("exit 1\n");
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    QVERIFY(QDir().mkpath(folder + QStringLiteral("/init")));
+    Core::ProjectManager::setCurrentProject(nullptr); // paths then start from the output folder
+    const auto dialog = newDialog();
+    dialog->show();
+    auto *view = dialog->findChild<IPView *>();
+    QVERIFY(view);
+    // Opens the core's page, changes it and presses OK; the texts of boxes that come up.
+    const auto editCore = [&](const std::function<void(QWidget *)> &edit) {
+        QStringList texts;
+        bool edited = false;
+        const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+            if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+                texts.append(box->text());
+                box->close();
+                return;
+            }
+            if (edited)
+                return;
+            edited = true;
+            edit(modal);
+            modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+            if (modal->isVisible())
+                modal->close();
+        });
+        QMetaObject::invokeMethod(view, "onCortexM1", Qt::DirectConnection);
+        return texts;
+    };
+    QCOMPARE(editCore([&](QWidget *page) {
+                 page->findChild<QAbstractButton *>(QStringLiteral("checkBoxInitItcm"))->click();
+                 page->findChild<QLineEdit *>(QStringLiteral("lineEditItcmInitPath"))
+                     ->setText(folder + QStringLiteral("/init"));
+             }),
+             QStringList());
+    const auto stored = [&](QLatin1String key) { return dialog->currentOptions().value(key); };
+    QCOMPARE(stored(Key::itcmInitializationPath).toString(), QStringLiteral("init"));
+
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(!runToTheEnd(*dialog).isEmpty());
+        QCOMPARE(editCore([](QWidget *) {}), QStringList());
+        QCOMPARE(stored(Key::itcmInitializationPath).toString(), QStringLiteral("init"));
+        QCOMPARE(stored(Key::itcmInitializationAbsolutePath).toString(),
+                 QString(folder + QStringLiteral("/init")));
+    }
 }
 
 TARVO_TEST_MAIN(QApplication, tst_MainDialog)
