@@ -115,8 +115,14 @@ bool EditorTabs::savePage(EditorPage *page)
 {
     QString error;
     const bool saved = page->save(&error);
-    if (!saved)
+    if (!saved && page->needsUtf8()) {
+        page->infoBar()->showMessage(error, {{tr("Save the Whole File as &UTF-8"), [this, page] {
+                                                  page->convertToUtf8();
+                                                  savePage(page);
+                                              }}});
+    } else if (!saved) {
         page->infoBar()->showMessage(error, {{tr("Try &Again"), [this, page] { savePage(page); }}});
+    }
     watch();
     return saved;
 }
