@@ -31,6 +31,9 @@ public:
 
     const OptionMap &currentOptions() const { return options; }
 
+    // For a host: what OK would store now, {"file": path, "header": map, "options": map}.
+    Q_INVOKABLE QVariantMap configuration() const;
+
 public Q_SLOTS:
     // Validates, saves and starts generation; the dialog closes when the run has succeeded.
     void accept() override;

@@ -203,7 +203,7 @@ bool EditorTabs::closeAll()
     return true;
 }
 
-QStringList EditorTabs::keepChanges() const
+QStringList EditorTabs::keepChanges(QStringList *copies) const
 {
     QStringList told;
     const QList<EditorPage *> all = pages();
@@ -212,6 +212,8 @@ QStringList EditorTabs::keepChanges() const
             continue;
         QString error;
         const QString kept = page->keepChanges(&error);
+        if (copies && !kept.isEmpty())
+            copies->append(kept);
         const QString name = QDir::toNativeSeparators(page->path());
         told.append(kept.isEmpty()
                         ? tr("The unsaved changes of \"%1\" are lost. %2").arg(name, error)
