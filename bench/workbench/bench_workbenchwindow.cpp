@@ -17,6 +17,7 @@ int main(int argc, char *argv[])
     QSettings settings(QStringLiteral("/nonexistent/settings.ini"), QSettings::IniFormat);
     Workbench::IpCatalogue catalogue;
     catalogue.setDataFolders({QStringLiteral(TARVO_SHARE)});
+    catalogue.setProbeCache(QCoreApplication::applicationFilePath() + QStringLiteral(".plugins"));
     if (!catalogue.loadLibrary(QStringLiteral(TARVO_PLUGIN)))
         return 1;
     Workbench::MainWindow window(catalogue, settings);

@@ -2,6 +2,7 @@
 #include "project/project.h"
 #include "render/diagramrenderer.h"
 #include "widgets/symbolicon.h"
+#include "window/exitguard.h"
 #include "window/mainwindow.h"
 #include "window/options.h"
 
@@ -15,6 +16,7 @@
 #include <QFileInfo>
 #include <QLoggingCategory>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTextCodec>
 #include <QTimer>
 
@@ -56,6 +58,8 @@ void loadPlugins(IpCatalogue &catalogue, const Options &options, const QSettings
     const QString root =
         QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/.."));
     catalogue.setDataFolders({root + QLatin1String("/share/tarvo")});
+    catalogue.setProbeCache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
+                            QLatin1String("/plugins.json"));
     catalogue.loadFolder(root + QLatin1String("/" TARVO_PLUGIN_SUBDIR), false);
     const QStringList chosen = settings.value(QStringLiteral("pluginFolders")).toStringList();
     for (const QString &folder : chosen)
@@ -171,6 +175,9 @@ int main(int argc, char *argv[])
                                  .fileName()
                            : QFileInfo(options.settings).absoluteFilePath(),
                        QSettings::IniFormat);
+    ExitGuard guard;
+    if (rendering)
+        ExitGuard::setDeadline(options.timeLimit, options.renderDiagram);
     IpCatalogue catalogue;
     loadPlugins(catalogue, options, settings);
     if (rendering) {
@@ -186,5 +193,8 @@ int main(int argc, char *argv[])
     const Utils::Interrupt interrupt;
     QObject::connect(&interrupt, &Utils::Interrupt::received, &window, &MainWindow::shutDown);
     window.show();
-    return QApplication::exec();
+    guard.setLastDeed([&window] { window.keepUnsaved(); });
+    const int ended = QApplication::exec();
+    guard.setLastDeed(nullptr);
+    return ended;
 }

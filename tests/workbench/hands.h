@@ -25,14 +25,15 @@ namespace TestSupport
 class Bench
 {
 public:
-    Bench()
+    // `fake` is the fake plug-in.
+    explicit Bench(const char *fake = "blinker")
         : settings(folder() + QStringLiteral("/settings.ini"), QSettings::IniFormat)
     {
         // Windows come and go here; none of them ends the program, and with it the dialogs.
         QApplication::setQuitOnLastWindowClosed(false);
         catalogue.setDataFolders({QStringLiteral(TARVO_SHARE_FOLDER)});
         catalogue.loadFolder(QStringLiteral(TARVO_PLUGIN_FOLDER), true);
-        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/blinker"), true);
+        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/") + QLatin1String(fake), true);
         reopen();
     }
 

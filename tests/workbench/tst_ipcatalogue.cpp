@@ -80,6 +80,15 @@ private Q_SLOTS:
         row("another kind of Qt plug-in", "other", "not one for IPs");
         row("no plug-in at all", "plain", "It is no plug-in");
         row("a missing symbol", "missingsymbol", "functionThatIsNowhere");
+        row("an IP that is no object", "null", "no object");
+        row("it ends the program when it is loaded", "exiting-loading", "ended the program");
+        row("it ends the program when asked for its IPs", "exiting-listing",
+            "ended the program when it was asked for its IPs (status 0)");
+        row("it ends the program when an IP is described", "leaving-describing",
+            "ended the program");
+        row("it crashes when it is made", "crashing-starting", "crashed while it was started");
+        row("it crashes when asked about devices", "crashing-supporting",
+            "crashed when it was asked about devices (signal 11)");
     }
 
     void skipsABrokenPluginAndSaysWhy()
@@ -93,6 +102,141 @@ private Q_SLOTS:
         QVERIFY2(catalogue.failures().first().reason.contains(reason, Qt::CaseInsensitive),
                  qPrintable(catalogue.failures().first().reason));
         QVERIFY(catalogue.failures().first().library.contains(kind));
+    }
+
+    void doesNotWaitForAPluginThatBlocks_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("blocks") << QStringLiteral("blocking-listing")
+                                << QStringLiteral("did not answer within 2 s");
+        QTest::newRow("prints") << QStringLiteral("printing-listing")
+                                << QStringLiteral("did not stop printing");
+    }
+
+    void doesNotWaitForAPluginThatBlocks()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, reason);
+        const QTemporaryDir dir;
+        const QString cache = dir.filePath(QStringLiteral("sub/probes.json"));
+        for (int start = 0; start < 3; ++start) {
+            IpCatalogue catalogue;
+            catalogue.setProbeCache(cache);
+            // What was found blocking is not waited for again.
+            catalogue.setProbeTimeLimit(start == 0 ? 2000 : 100000);
+            catalogue.loadFolder(fake(kind.toLatin1()), true);
+            QVERIFY(catalogue.entries().isEmpty());
+            QCOMPARE(catalogue.failures().size(), 1);
+            QVERIFY2(catalogue.failures().first().reason.contains(reason),
+                     qPrintable(catalogue.failures().first().reason));
+            if (start == 2) { // unless it is asked for
+                catalogue.setProbeTimeLimit(1000);
+                catalogue.tryAgain();
+                QCOMPARE(catalogue.failures().size(), 1);
+                QVERIFY(kind.startsWith(QLatin1String("printing")) ||
+                        catalogue.failures().first().reason.contains(QLatin1String("within 1 s")));
+            }
+        }
+    }
+
+    void leavesNoProcessOfAPluginThatBlocks()
+    {
+        {
+            IpCatalogue catalogue;
+            catalogue.setProbeTimeLimit(500);
+            catalogue.loadFolder(fake("blocking-listing"), true);
+            QCOMPARE(catalogue.failures().size(), 1);
+        }
+        const QStringList processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+        for (const QString &process : processes) {
+            const QByteArray command = contentsOf(QStringLiteral("/proc/%1/cmdline").arg(process));
+            QVERIFY(!command.contains(fake("blocking-listing").toUtf8()) ||
+                    process == QString::number(QCoreApplication::applicationPid()));
+        }
+    }
+
+    void takesTheGoodIpsOfAPluginWithBadOnes_data()
+    {
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("nullandgood") << QStringLiteral("no object");
+        QTest::newRow("twice") << QStringLiteral("one object twice");
+    }
+
+    void takesTheGoodIpsOfAPluginWithBadOnes()
+    {
+        QFETCH(QString, reason);
+        IpCatalogue catalogue;
+        catalogue.loadFolder(fake(QTest::currentDataTag()), true);
+        QCOMPARE(catalogue.entries().size(), 1);
+        QCOMPARE(catalogue.failures().size(), 1);
+        QVERIFY2(catalogue.failures().first().reason.contains(reason),
+                 qPrintable(catalogue.failures().first().reason));
+        QVERIFY(catalogue.isSupported(0, deviceOf("TV5K")));
+    }
+
+    void probesALibraryAgainOnlyAfterItChanged()
+    {
+        const QTemporaryDir dir;
+        const QString cache = dir.filePath(QStringLiteral("probes.json"));
+        const QString library = dir.filePath(QStringLiteral("plugins/libblinker.so"));
+        QDir().mkpath(QFileInfo(library).path());
+        QVERIFY(QFile::copy(fake("blinker") + QStringLiteral("/libblinker.so"), library));
+        const auto load = [&] {
+            IpCatalogue catalogue;
+            catalogue.setProbeCache(cache);
+            catalogue.loadFolder(QFileInfo(library).path(), true);
+            return catalogue.entries().size();
+        };
+        QCOMPARE(load(), 1);
+        const QByteArray first = contentsOf(cache);
+        QVERIFY(first.contains("libblinker"));
+        QCOMPARE(load(), 1);
+        QCOMPARE(contentsOf(cache), first);
+        QFile file(library);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addSecs(100),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QCOMPARE(load(), 1);
+        QVERIFY(contentsOf(cache) != first);
+        write(cache, "garbled");
+        QCOMPARE(load(), 1);
+    }
+
+    void movesAConfigurationWhereThePluginCan()
+    {
+        const QTemporaryDir dir;
+        const QString ipc = dir.filePath(QStringLiteral("x.ipc"));
+        write(ipc, "[General]\ntype=fake.blinker\ntarget_device=A\n[Config]\nLamps=99\n");
+        IpCatalogue::Move move;
+        QString error;
+        {
+            IpCatalogue catalogue;
+            catalogue.loadFolder(fake("blinker"), true);
+            QVERIFY(!catalogue.canMove(0));
+            QVERIFY(!catalogue.moveToDevice(0, ipc, QStringLiteral("B"), false, &move, &error));
+            QVERIFY2(error.contains(QLatin1String("Blinker")), qPrintable(error));
+        }
+        {
+            IpCatalogue catalogue;
+            catalogue.loadFolder(fake("moving"), true);
+            QVERIFY(catalogue.canMove(0));
+            QVERIFY(catalogue.moveToDevice(0, ipc, QStringLiteral("B"), false, &move, &error));
+            QCOMPARE(move.losses.size(), 1);
+            QVERIFY(move.changed);
+            QVERIFY(contentsOf(ipc).contains("target_device=A"));
+            QVERIFY(catalogue.moveToDevice(0, ipc, QStringLiteral("B"), true, &move, &error));
+            QVERIFY(contentsOf(ipc).contains("target_device=B"));
+        }
+        for (const char *kind : {"throwing-moving", "refusing-moving"}) {
+            IpCatalogue catalogue;
+            catalogue.loadFolder(fake(kind), true);
+            QVERIFY(!catalogue.moveToDevice(0, ipc, QStringLiteral("C"), true, &move, &error));
+            QVERIFY2(error.contains(QLatin1String("stuck")) ||
+                         error.contains(QLatin1String("No lamp fits")),
+                     qPrintable(error));
+        }
     }
 
     void loadsTheGoodOnesBesideTheBroken()

@@ -2,7 +2,9 @@
 
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
+#include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/logview.h>
+#include <workbench/project/ipchead.h>
 #include <workbench/widgets/infobar.h>
 #include <workbench/window/startpage.h>
 
@@ -14,15 +16,18 @@
 #include <ipcore/synthesismonitor.h>
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QCommandLinkButton>
 #include <QDialog>
 #include <QDockWidget>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTreeView>
+#include <QTreeWidget>
 
 using namespace Workbench;
 using namespace TestSupport;
@@ -374,6 +379,398 @@ private Q_SLOTS:
               "Create IP", "Add Source Files", "New Source File", "Remove from Project", "Move Up",
               "Move Down", "Top Module", "Device", "Results of the Last Run"})
             QVERIFY2(!m_bench->action(name)->isEnabled(), name);
+    }
+
+    void anotherIpIsOfferedAFolderOfItsOwn()
+    {
+        window()->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
+        QVERIFY(!window()->project()->device().isNull());
+        const QString folder = window()->project()->path();
+        const int blinker = m_bench->catalogue.indexOf(QStringLiteral("fake.blinker"));
+        const ModalWatcher watcher(
+            [](QWidget *modal) { qobject_cast<QDialog *>(modal)->accept(); });
+        QHash<QString, QByteArray> made;
+        for (const char *place : {"", "/ip2", "/ip3"}) {
+            window()->createSelectedIp(blinker);
+            const QString ipc =
+                folder + QLatin1String(place) + QStringLiteral("/blinker/blinker.ipc");
+            QVERIFY2(QFileInfo::exists(ipc), qPrintable(ipc));
+            write(ipc, contentsOf(ipc) + "; of " + place + '\n');
+            made.insert(ipc, contentsOf(ipc));
+            for (auto it = made.begin(); it != made.end(); ++it)
+                QCOMPARE(contentsOf(it.key()), it.value());
+            QCOMPARE(window()->project()->ipFiles().size(), made.size());
+        }
+    }
+
+    void theFirstIpFindsATakenFolder()
+    {
+        window()->openProject(m_bench->makeProject());
+        const QString folder = window()->project()->path();
+        QString proposed;
+        const ModalWatcher watcher([&proposed](QWidget *modal) {
+            proposed = modal->findChild<QLineEdit *>(QStringLiteral("editCreateIn"))->text();
+            qobject_cast<QDialog *>(modal)->reject();
+        });
+        window()->createSelectedIp(0);
+        QCOMPARE(proposed, QString(folder + QStringLiteral("/tarvo_orix_m1")));
+        QDir(folder).mkdir(QStringLiteral("tarvo_orix_m1")); // something of the user's
+        QVERIFY(!QFileInfo::exists(folder + QStringLiteral("/ip2")));
+        window()->createSelectedIp(0);
+        QCOMPARE(proposed, QString(folder + QStringLiteral("/ip2/tarvo_orix_m1")));
+    }
+
+    void aReplacedConfigurationComesBack_data()
+    {
+        QTest::addColumn<bool>("byHost");
+        QTest::newRow("written by the host") << true;
+        QTest::newRow("written by the plug-in") << false;
+    }
+
+    void aReplacedConfigurationComesBack()
+    {
+        QFETCH(bool, byHost);
+        window()->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
+        const QString ipc = window()->project()->path() + QStringLiteral("/blinker/blinker.ipc");
+        const QByteArray first = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                                 "type=fake.blinker\n\n[Config]\nLamps=3\n; mine\n";
+        write(ipc, first);
+        if (byHost) {
+            IPCore::writeIPConfig(ipc, {{QStringLiteral("type"), QStringLiteral("fake.blinker")}},
+                                  {{QStringLiteral("Lamps"), 4}});
+        } else {
+            const int blinker = m_bench->catalogue.indexOf(QStringLiteral("fake.blinker"));
+            const ModalWatcher watcher(
+                [](QWidget *modal) { qobject_cast<QDialog *>(modal)->accept(); });
+            window()->createIp(blinker, window()->project()->path(), window()->project()->device());
+        }
+        const QByteArray second = contentsOf(ipc);
+        QVERIFY(second != first);
+
+        // After a restart the start page tells file, time and device.
+        m_bench->reopen();
+        window()->openProject(m_bench->folder() + QStringLiteral("/board/board.tvproj"));
+        QCOMPARE(links(QStringLiteral("bringBackLink")), 1);
+        auto *link = findLink(QStringLiteral("bringBackLink"));
+        QVERIFY(link->text().contains(QLatin1String("blinker/blinker.ipc")));
+        QVERIFY2(link->description().contains(QLatin1String("TV2KR-18C, QFN88P, C8/I7")),
+                 qPrintable(link->description()));
+        const QDateTime time = window()->kept()->items().first().time;
+        QVERIFY(qAbs(time.secsTo(QDateTime::currentDateTime())) < 120);
+        QVERIFY(link->description().contains(QLocale().toString(time, QLocale::ShortFormat)));
+        QCOMPARE(contentsOf(window()->kept()->items().first().copy), first); // a whole file
+
+        const QString id = link->property("keptId").toString();
+        boxesOf([&] { QVERIFY(!window()->bringBack(id)); }, QMessageBox::Cancel);
+        QCOMPARE(contentsOf(ipc), second);
+        const auto boxes = boxesOf([&] { QVERIFY(window()->bringBack(id)); }, QMessageBox::Yes);
+        QCOMPARE(boxes.size(), 1);
+        QVERIFY(boxes.first().text.contains(ipc));
+        QCOMPARE(contentsOf(ipc), first);
+        // And what it replaced is kept in turn.
+        QCOMPARE(window()->kept()->items().size(), 1);
+        QCOMPARE(contentsOf(window()->kept()->items().first().copy), second);
+    }
+
+    void keepsALimitedNumberOfCopies()
+    {
+        KeptConfigurations *kept = window()->kept();
+        QString error;
+        const auto keep = [&](int file, int content) {
+            QVERIFY2(kept->keep(KeptConfigurations::Replaced,
+                                m_bench->folder() + QStringLiteral("/%1/a.ipc").arg(file),
+                                QByteArray::number(content), &error),
+                     qPrintable(error));
+        };
+        for (int i = 0; i < KeptConfigurations::limitForOneFile + 3; ++i)
+            keep(0, i);
+        QCOMPARE(kept->items().size(), KeptConfigurations::limitForOneFile);
+        QCOMPARE(contentsOf(kept->items().first().copy),
+                 QByteArray::number(KeptConfigurations::limitForOneFile + 2));
+        keep(0, 5); // once more: it becomes the newest
+        QCOMPARE(kept->items().size(), KeptConfigurations::limitForOneFile);
+        QCOMPARE(contentsOf(kept->items().first().copy), QByteArray("5"));
+        for (int i = 1; i <= KeptConfigurations::limit; ++i)
+            keep(i, i);
+        QCOMPARE(kept->items().size(), KeptConfigurations::limit);
+        QCOMPARE(entriesOf(kept->folder()).size(), KeptConfigurations::limit);
+        // A copy that was not finished is none.
+        QDir(kept->folder()).mkdir(QStringLiteral("99991231-000000-000-000"));
+        QCOMPARE(kept->items().size(), KeptConfigurations::limit);
+        m_bench->reopen();
+        QCOMPARE(window()->kept()->items().size(), KeptConfigurations::limit);
+    }
+
+    void keptConfigurationsAreListedAndDeleted()
+    {
+        KeptConfigurations *kept = window()->kept();
+        QString error;
+        for (const char *name : {"/a.ipc", "/b.ipc"})
+            QVERIFY(kept->keep(KeptConfigurations::Replaced,
+                               m_bench->folder() + QLatin1String(name), "[General]\n", &error));
+        const ModalWatcher watcher([&](QWidget *modal) {
+            auto *list = modal->findChild<QTreeWidget *>(QStringLiteral("keptList"));
+            QCOMPARE(list->topLevelItemCount(), 2);
+            QVERIFY(list->topLevelItem(0)->text(0).endsWith(QLatin1String("b.ipc")));
+            modal->findChild<QPushButton *>(QStringLiteral("deleteButton"))->click();
+            QCOMPARE(list->topLevelItemCount(), 1);
+            qobject_cast<QDialog *>(modal)->reject();
+        });
+        m_bench->action("Bring Back a Configuration")->trigger();
+        QCOMPARE(watcher.count(), 1);
+        QCOMPARE(kept->items().size(), 1);
+        QVERIFY(kept->items().first().origin.endsWith(QLatin1String("a.ipc")));
+    }
+
+    void aDialogDroppedByMistakeComesBack()
+    {
+        window()->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
+        const QString ipc = window()->project()->path() + QStringLiteral("/lamp/lamp.ipc");
+        const QByteArray stored = "[General]\ntype=fake.blinker\ntarget_device=" +
+                                  window()->project()->deviceId().toUtf8() +
+                                  "\n[Config]\nLamps=3\n";
+        write(ipc, stored);
+        const auto drop = [](bool change) {
+            return [change](QWidget *modal) {
+                if (change)
+                    QMetaObject::invokeMethod(modal, "change");
+                QTest::keyClick(modal, Qt::Key_Escape);
+            };
+        };
+        {
+            const ModalWatcher watcher(drop(false)); // nothing was changed
+            window()->openPath(ipc);
+        }
+        QVERIFY(window()->kept()->items().isEmpty());
+        {
+            const ModalWatcher watcher(drop(true));
+            window()->openPath(ipc);
+        }
+        QCOMPARE(window()->kept()->items().size(), 1);
+        QVERIFY(!window()->infoBar()->isHidden());
+        QVERIFY(window()->infoBar()->text().contains(ipc));
+        QCOMPARE(contentsOf(ipc), stored);
+
+        m_bench->reopen();
+        window()->openProject(m_bench->folder() + QStringLiteral("/board/board.tvproj"));
+        auto *link = findLink(QStringLiteral("bringBackLink"));
+        QVERIFY(link);
+        QVERIFY(link->description().contains(QLatin1String("without OK")));
+        QVariantMap seen;
+        bool accept = false;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            QMetaObject::invokeMethod(modal, "configuration", Q_RETURN_ARG(QVariantMap, seen));
+            if (accept)
+                qobject_cast<QDialog *>(modal)->accept();
+            else
+                qobject_cast<QDialog *>(modal)->reject();
+        });
+        const QString id = link->property("keptId").toString();
+        QVERIFY(window()->bringBack(id));
+        QCOMPARE(
+            seen.value(QStringLiteral("options")).toMap().value(QStringLiteral("Lamps")).toInt(),
+            7);
+        QCOMPARE(seen.value(QStringLiteral("file")).toString(), ipc); // where OK would store it
+        QCOMPARE(contentsOf(ipc), stored);
+        QCOMPARE(window()->kept()->items().size(), 1); // still to be had
+        accept = true;
+        QVERIFY(window()->bringBack(id));
+        QVERIFY(window()->kept()->items().isEmpty());
+    }
+
+    void theConfiguratorsDialogDroppedByMistakeComesBack()
+    {
+        window()->openProject(m_bench->makeProject());
+        bool vhdl = false;
+        QString createIn;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            auto *language = modal->findChild<QComboBox *>(QStringLiteral("comboBoxLanguage"));
+            createIn = modal->findChild<QLineEdit *>(QStringLiteral("editCreateIn"))->text();
+            vhdl = language->currentIndex() == 1;
+            language->setCurrentIndex(1);
+            QTest::keyClick(modal, Qt::Key_Escape);
+        });
+        window()->createSelectedIp(0);
+        QVERIFY(!vhdl);
+        QCOMPARE(window()->kept()->items().size(), 1);
+        const KeptConfigurations::Item item = window()->kept()->items().first();
+        QVERIFY(item.isNew);
+        QVERIFY(!QFileInfo::exists(item.origin));
+        QVERIFY(!contentsOf(item.copy).contains("createin_path"));
+        QVERIFY(window()->bringBack(item.id));
+        QVERIFY(vhdl);
+        QCOMPARE(createIn, QFileInfo(item.origin).path());
+        QCOMPARE(window()->kept()->items().size(), 1); // unchanged since
+        // Another IP took the place meanwhile.
+        write(item.origin, "[General]\n");
+        QVERIFY(window()->bringBack(item.id));
+        QCOMPARE(createIn, QString(QFileInfo(item.origin).path() + QStringLiteral("-2")));
+    }
+
+    void changesOfTheEditorOutliveAPluginThatEndsTheProgram()
+    {
+        const QString file = m_bench->folder() + QStringLiteral("/a.v");
+        write(file, "module a;\n");
+        window()->openPath(file);
+        EditorPage *page = window()->tabs()->currentPage();
+        page->startEditing();
+        page->editor()->insertPlainText(QStringLiteral("// "));
+        QByteArray during;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            during = contentsOf(file + QStringLiteral(".unsaved"));
+            qobject_cast<QDialog *>(modal)->reject();
+        });
+        const QString ipc = m_bench->folder() + QStringLiteral("/lamp.ipc");
+        write(ipc, "[General]\ntype=fake.blinker\n");
+        window()->openPath(ipc);
+        QCOMPARE(during, QByteArray("// module a;\n"));
+        QVERIFY(!QFileInfo::exists(file + QStringLiteral(".unsaved")));
+        QVERIFY(page->isModified());
+    }
+
+    void anIpMovesToAnotherDevice()
+    {
+        m_bench = std::make_unique<Bench>("moving");
+        window()->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
+        const QString ipc = window()->project()->path() + QStringLiteral("/lamp/lamp.ipc");
+        const QByteArray stored = "[General]\ntype=fake.blinker\n"
+                                  "target_device=TV2KR-18C-QFN88P-C8/I7\n[Config]\nLamps=99\n";
+        write(ipc, stored);
+        auto *tree = window()->findChild<QTreeView *>(QStringLiteral("projectTree"));
+        const auto select = [&] {
+            QTRY_COMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), 1);
+            tree->setCurrentIndex(tree->model()->index(0, 0, tree->model()->index(0, 0)));
+        };
+        select();
+        QVERIFY(tree->currentIndex().data().toString().contains(QLatin1String("TV5K-138B")));
+        QAction *move = m_bench->action("Move to Device");
+        QVERIFY(move->isEnabled());
+        QVERIFY(tree->actions().contains(move)); // in the context menu
+        bool agree = false;
+        QStringList losses;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            if (auto *list = modal->findChild<QListWidget *>(QStringLiteral("lossList"))) {
+                for (int i = 0; i < list->count(); ++i)
+                    losses.append(list->item(i)->text());
+            }
+            if (auto *button = modal->findChild<QPushButton *>(QStringLiteral("moveButton"));
+                button && agree)
+                button->click();
+            else if (button)
+                qobject_cast<QDialog *>(modal)->reject();
+            else
+                Bench::ok(modal)->click(); // the project's device is proposed
+        });
+        move->trigger();
+        QCOMPARE(losses, QStringList(QStringLiteral("The third lamp is left out.")));
+        QCOMPARE(contentsOf(ipc), stored);
+        QVERIFY(window()->kept()->items().isEmpty());
+        agree = true;
+        move->trigger();
+        QVERIFY(contentsOf(ipc).contains("TV5K-138B-PBGA484-C1/I0"));
+        QCOMPARE(window()->kept()->items().size(), 1);
+        QCOMPARE(contentsOf(window()->kept()->items().first().copy), stored);
+        select();
+        QCOMPARE(tree->currentIndex().data().toString(), QStringLiteral("lamp/lamp.ipc"));
+    }
+
+    void movingIsDisabledWhereThePluginCannot()
+    {
+        window()->openProject(m_bench->makeProject());
+        QAction *move = m_bench->action("Move to Device");
+        QVERIFY(!move->isEnabled());
+        write(window()->project()->path() + QStringLiteral("/lamp/lamp.ipc"),
+              "[General]\ntype=fake.blinker\n");
+        auto *tree = window()->findChild<QTreeView *>(QStringLiteral("projectTree"));
+        QTRY_COMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), 1);
+        tree->setCurrentIndex(tree->model()->index(0, 0, tree->model()->index(0, 0)));
+        QVERIFY(!move->isEnabled());
+        QVERIFY2(move->toolTip().contains(QLatin1String("Blinker cannot move")),
+                 qPrintable(move->toolTip()));
+    }
+
+    void tellsWhichIpsAreForTheOldDevice()
+    {
+        m_bench = std::make_unique<Bench>("moving");
+        window()->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
+        const QString ipc = window()->project()->path() + QStringLiteral("/lamp/lamp.ipc");
+        write(ipc, "[General]\ntype=fake.blinker\ntarget_device=" +
+                       window()->project()->deviceId().toUtf8() + '\n');
+        auto *tree = window()->findChild<QTreeView *>(QStringLiteral("projectTree"));
+        QTRY_COMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), 1);
+        bool picked = false;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            if (auto *button = modal->findChild<QPushButton *>(QStringLiteral("moveButton"))) {
+                button->click();
+                return;
+            }
+            auto *edit = modal->findChild<QLineEdit *>(QStringLiteral("deviceFilterEdit"));
+            QTest::keyClicks(edit, QStringLiteral("tv5k-138b pbga676"));
+            QTest::keyClick(edit, Qt::Key_Down);
+            picked = Bench::ok(modal)->isEnabled();
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        m_bench->action("Device")->trigger();
+        QVERIFY(picked);
+        QVERIFY(!window()->infoBar()->isHidden());
+        QVERIFY2(window()->infoBar()->text().contains(QLatin1String("TV5K-138B, PBGA484")),
+                 qPrintable(window()->infoBar()->text()));
+        window()->infoBar()->findChild<QPushButton *>()->click();
+        QCOMPARE(IpcHead::read(ipc).deviceName, window()->project()->deviceId());
+    }
+
+    void aConfigurationOfAnUnknownDeviceHasAWayOut()
+    {
+        const QTemporaryDir dir;
+        const QString ipc = dir.filePath(QStringLiteral("lamp.ipc"));
+        const QByteArray stored = "[General]\ntype=fake.blinker\ntarget_device=TV9-1\n";
+        for (const char *kind : {"blinker", "moving"}) {
+            m_bench = std::make_unique<Bench>(kind);
+            write(ipc, stored);
+            QString text;
+            QStringList buttons;
+            QString choose;
+            int opened = 0;
+            const ModalWatcher watcher([&](QWidget *modal) {
+                if (auto *box = qobject_cast<QMessageBox *>(modal)) {
+                    text = box->text();
+                    QAbstractButton *chosen = box->button(QMessageBox::Cancel);
+                    buttons.clear();
+                    for (QAbstractButton *button : box->buttons()) {
+                        buttons.append(button->text().remove(u'&'));
+                        if (!choose.isEmpty() && buttons.last().startsWith(choose))
+                            chosen = button;
+                    }
+                    chosen->click();
+                } else if (auto *move =
+                               modal->findChild<QPushButton *>(QStringLiteral("moveButton"))) {
+                    move->click();
+                } else if (auto *edit =
+                               modal->findChild<QLineEdit *>(QStringLiteral("deviceFilterEdit"))) {
+                    QTest::keyClicks(edit, QStringLiteral("tv5k-138b pbga484 c1"));
+                    QTest::keyClick(edit, Qt::Key_Down);
+                    QTest::keyClick(edit, Qt::Key_Return);
+                } else {
+                    ++opened;
+                    qobject_cast<QDialog *>(modal)->reject();
+                }
+            });
+            QVERIFY(!window()->openPath(ipc));
+            QVERIFY2(text.contains(QLatin1String("TV9-1")) && text.contains(ipc), qPrintable(text));
+            QCOMPARE(opened, 0);
+            choose = QStringLiteral("Open All");
+            QVERIFY(window()->openPath(ipc));
+            QCOMPARE(opened, 1);
+            QCOMPARE(contentsOf(ipc), stored);
+            const bool canMove = qstrcmp(kind, "moving") == 0;
+            QCOMPARE(buttons.filter(QStringLiteral("Move")).size(), canMove ? 1 : 0);
+            if (!canMove)
+                continue;
+            choose = QStringLiteral("Move");
+            QVERIFY(window()->openPath(ipc));
+            QCOMPARE(opened, 2);
+            QVERIFY(contentsOf(ipc).contains("target_device=TV5K-138B-PBGA484-C1/I0"));
+        }
     }
 
     void sourcesMoveAndLeaveByKeyboard()

@@ -1,6 +1,8 @@
 #include <testsupport.h>
 #include <unprivileged.h>
 
+#include <workbench/project/filelock.h>
+#include <workbench/project/ipchead.h>
 #include <workbench/project/project.h>
 #include <workbench/project/projectmodel.h>
 #include <workbench/results/superseded.h>
@@ -10,6 +12,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -200,6 +203,209 @@ private Q_SLOTS:
             QSKIP("permissions do not bind here");
         QCOMPARE(failed.size(), 1);
         QCOMPARE(project->topModule(), QStringLiteral("x"));
+    }
+
+    void anEntryThatIsSpelledTwiceIsOne()
+    {
+        const auto project = make();
+        QVERIFY(write(project->file(),
+                      "{\"format\": 1, \"files\": [\"./a.v\", \"a.v\", \"s/../a.v\", \"b.v\"]}"));
+        const QString a = m_folder + QStringLiteral("/a.v");
+        const QString b = m_folder + QStringLiteral("/b.v");
+        QTRY_COMPARE(project->files(), QStringList({a, b}));
+        project->addFiles({a, QStringLiteral("./a.v")});
+        QCOMPARE(project->files(), QStringList({a, b}));
+        project->moveFile(a, 1);
+        QCOMPARE(project->files(), QStringList({b, a}));
+        project->removeFile(a);
+        QCOMPARE(project->files(), QStringList(b));
+    }
+
+    void twoOfAProjectKeepAllEntries()
+    {
+        const auto one = make();
+        QString error;
+        const auto other = Project::open(one->file(), &error);
+        QVERIFY2(other, qPrintable(error));
+        // Neither learns of the other's changes but by making its own.
+        for (int i = 0; i < 20; ++i) {
+            one->addFiles({m_folder + QStringLiteral("/one%1.v").arg(i)});
+            other->addFiles({m_folder + QStringLiteral("/other%1.v").arg(i)});
+        }
+        one->removeFile(m_folder + QStringLiteral("/other3.v"));
+        other->setTopModule(QStringLiteral("top"));
+        one->setDevice(otherDevice());
+        const auto fresh = Project::open(one->file(), &error);
+        QCOMPARE(fresh->files().size(), 39);
+        QVERIFY(!fresh->files().contains(m_folder + QStringLiteral("/other3.v")));
+        QCOMPARE(fresh->topModule(), QStringLiteral("top"));
+        QCOMPARE(fresh->device().id(), otherDevice().id());
+        QTRY_COMPARE(other->files(), fresh->files()); // and shows it
+        QTRY_COMPARE(one->files(), fresh->files());
+    }
+
+    void processesKeepEachOthersEntries()
+    {
+        const auto project = make();
+        constexpr int count = 20;
+        std::vector<std::unique_ptr<QProcess>> others;
+        for (const char *name : {"a", "b", "c", "d"}) {
+            others.push_back(std::make_unique<QProcess>());
+            others.back()->start(QStringLiteral(TARVO_PROJECT_CHANGER),
+                                 {project->file(), QLatin1String(name), QString::number(count)});
+        }
+        QStringList expected;
+        for (int i = 0; i < count; ++i) {
+            const QString own = m_folder + QStringLiteral("/own%1.v").arg(i);
+            project->addFiles({own});
+            expected.append(own);
+        }
+        for (const auto &other : others) {
+            QVERIFY(other->waitForFinished(60000));
+            QVERIFY2(other->exitCode() == 0, other->readAllStandardError().constData());
+        }
+        for (const char *name : {"a", "b", "c", "d"}) {
+            for (int i = 1; i < count; i += 2)
+                expected.append(m_folder + u'/' + QLatin1String(name) + QString::number(i) +
+                                QStringLiteral(".v"));
+        }
+        QString error;
+        QStringList kept = Project::open(project->file(), &error)->files();
+        kept.sort();
+        expected.sort();
+        QCOMPARE(kept, expected);
+        QCOMPARE(entriesOf(m_folder), QStringList(QStringLiteral("p.tvproj")));
+        QTRY_COMPARE(project->files().size(), expected.size()); // and shows them
+    }
+
+    void tellsWhoseLockStandsInTheWay()
+    {
+        const auto project = make();
+        QSignalSpy failed(project.get(), &Project::failed);
+        {
+            const FileLock lock(project->file(), 0);
+            QVERIFY(lock.isHeld());
+            project->setTopModule(QStringLiteral("later"));
+        }
+        QCOMPARE(failed.size(), 1);
+        const QString said = failed.first().first().toString();
+        QVERIFY2(said.contains(project->file()), qPrintable(said));
+        QVERIFY(!contentsOf(project->file()).contains("later"));
+        // Nothing is lost: the next change brings both.
+        project->addFiles({m_folder + QStringLiteral("/a.v")});
+        QCOMPARE(failed.size(), 1);
+        QVERIFY(contentsOf(project->file()).contains("later"));
+        QVERIFY(contentsOf(project->file()).contains("a.v"));
+    }
+
+    void aFileThatCannotBeReadIsNotReplaced()
+    {
+        const auto project = make();
+        const QByteArray broken = "<<<<<<< mine\n{";
+        write(project->file(), broken);
+        QSignalSpy failed(project.get(), &Project::failed);
+        project->addFiles({m_folder + QStringLiteral("/a.v")});
+        QVERIFY(!failed.isEmpty());
+        QCOMPARE(contentsOf(project->file()), broken);
+        QCOMPARE(project->files().size(), 1);
+        // Once it is repaired the change is made.
+        write(project->file(), "{\"format\": 1, \"files\": [\"b.v\"]}");
+        QTRY_VERIFY(contentsOf(project->file()).contains("a.v"));
+        QVERIFY(contentsOf(project->file()).contains("b.v"));
+    }
+
+    void aLockEndsWithItsHolder()
+    {
+        const QString path = m_folder + QStringLiteral("/file");
+        {
+            const FileLock missing(path, 0); // of the folder
+            QVERIFY(missing.isHeld());
+            QVERIFY(!FileLock(path, 0).isHeld());
+        }
+        write(path, "x");
+        auto lock = std::make_unique<FileLock>(path, 0);
+        QVERIFY(lock->isHeld());
+        const FileLock refused(path, 10);
+        QVERIFY(!refused.isHeld());
+        QVERIFY2(refused.error().contains(path), qPrintable(refused.error()));
+        lock.reset();
+        QVERIFY(FileLock(path, 0).isHeld());
+        QVERIFY(!FileLock(path + QStringLiteral("/no/such"), 0).isHeld());
+        QCOMPARE(entriesOf(m_folder), QStringList(QStringLiteral("file")));
+    }
+
+    void readsTheHeadOfAConfiguration_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("words");
+        const QString words = QStringLiteral("TV2KR-18C, QFN88P, C8/I7");
+        const QString id = device().id();
+        QTest::newRow("as it is written")
+            << QByteArray("[General]\ntarget_device=" + id.toUtf8() +
+                          "\ntype=a.b\nversion=1.0\n\n[Config]\ntype=x\n")
+            << QStringLiteral("a.b") << id << words;
+        QTest::newRow("with the group of an older file")
+            << QByteArray(
+                   "type=a.b\r\n[device]\r\nid=TV2KR-18C\r\npackage=QFN88P\r\nspeed=C8/I7\r\n")
+            << QStringLiteral("a.b") << QStringLiteral("TV2KR-18C, QFN88P, C8/I7") << words;
+        QTest::newRow("of an unknown device")
+            << QByteArray("[General]\ntarget_device=\"TV9, \\x31\"\n") << QString()
+            << QStringLiteral("TV9, 1") << QStringLiteral("TV9, 1");
+        QTest::newRow("without any")
+            << QByteArray("[Config]\ntarget_device=x\n[") << QString() << QString() << QString();
+        QTest::newRow("binary") << QByteArray("\0=\xFF\n[[\n=\n", 8) << QString() << QString()
+                                << QString();
+    }
+
+    void readsTheHeadOfAConfiguration()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, type);
+        QFETCH(QString, name);
+        QFETCH(QString, words);
+        const IpcHead head = IpcHead::of(text);
+        QCOMPARE(head.type, type);
+        QCOMPARE(head.deviceName, name);
+        QCOMPARE(head.deviceWords(), words);
+    }
+
+    void modelTellsWhereDevicesDiffer()
+    {
+        const auto project = make();
+        const QString same = m_folder + QStringLiteral("/ip/same.ipc");
+        const QString unknown = m_folder + QStringLiteral("/ip/unknown.ipc");
+        write(same, "[General]\ntarget_device=" + device().id().toUtf8() + "\n");
+        write(unknown, "[General]\ntarget_device=TV9-1\n");
+        ProjectModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.setProject(project.get());
+        const auto text = [&](const QString &path, int role) {
+            return model.indexOf(path).data(role).toString();
+        };
+        QCOMPARE(text(same, Qt::DisplayRole), QStringLiteral("ip/same.ipc"));
+        QVERIFY(!model.indexOf(same).data(ProjectModel::OtherDeviceRole).toBool());
+        project->setDevice(otherDevice());
+        QVERIFY(model.indexOf(same).data(ProjectModel::OtherDeviceRole).toBool());
+        for (const int role :
+             {int(Qt::DisplayRole), int(Qt::ToolTipRole), int(Qt::AccessibleTextRole)}) {
+            for (const DEV::DeviceArg &named : {device(), otherDevice()})
+                QVERIFY2(text(same, role).contains(IpcHead::words(named)),
+                         qPrintable(text(same, role)));
+            QVERIFY2(text(unknown, role).contains(QLatin1String("TV9-1")),
+                     qPrintable(text(unknown, role)));
+        }
+        // What changes on disk shows, two folders down as well.
+        const QString deep = m_folder + QStringLiteral("/ip2/core/deep.ipc");
+        write(deep, "[General]\ntarget_device=" + otherDevice().id().toUtf8() + "\n");
+        model.refresh();
+        project->setTopModule(QStringLiteral("t")); // watches the new folder
+        QVERIFY(!model.indexOf(deep).data(ProjectModel::OtherDeviceRole).toBool());
+        write(deep + QStringLiteral(".new"), "[General]\ntarget_device=TV9-1\n");
+        QVERIFY(::rename(QFile::encodeName(deep + QStringLiteral(".new")).constData(),
+                         QFile::encodeName(deep).constData()) == 0);
+        QTRY_VERIFY(model.indexOf(deep).data(ProjectModel::OtherDeviceRole).toBool());
     }
 
     void modelShowsIpsAndSources()

@@ -195,6 +195,60 @@ private Q_SLOTS:
             << QStringLiteral("offers no diagram");
     }
 
+    void drawsNothingWithAPluginThatMisbehaves_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char *kind, const char *error) {
+            QTest::newRow(kind) << QString::fromLatin1(kind) << QString::fromLatin1(error);
+        };
+        row("null", "fake.blinker");
+        row("exiting-loading", "fake.blinker");
+        row("crashing-starting", "fake.blinker");
+        row("exiting-opening", "a plug-in has ended the program");
+        row("exiting-drawing", "a plug-in has ended the program");
+        row("blocking-opening", "x.ipc\" did not answer within 3 s");
+        row("lying-drawing", "wrote no picture");
+        row("garbling-drawing", "wrote no picture");
+    }
+
+    void drawsNothingWithAPluginThatMisbehaves()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, error);
+        const QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("x.ipc"));
+        const QString picture = dir.filePath(QStringLiteral("a.svg"));
+        write(file, "[General]\ntype=fake.blinker\n");
+        write(picture, "of an earlier time");
+        const QTemporaryDir home;
+        const Outcome outcome =
+            run({QStringLiteral("--plugin-dir"), QStringLiteral(TARVO_FAKE_PLUGINS "/") + kind,
+                 QStringLiteral("--render-diagram"), file, QStringLiteral("-o"), picture,
+                 QStringLiteral("--time-limit"), QStringLiteral("3")},
+                environment(home), home.path());
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(error), qPrintable(outcome.errors));
+        QCOMPARE(contentsOf(picture), QByteArray("of an earlier time"));
+        QCOMPARE(entriesOf(dir.path()).size(), 2);
+    }
+
+    void aPluginThatEndsTheProgramIsNoSuccess()
+    {
+        const QTemporaryDir dir;
+        QProcessEnvironment env = environment(dir);
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        const DEV::DeviceArg device = DEV::DeviceDb::bundled().filterDevice(tv5k()).constFirst();
+        const Outcome outcome =
+            run({QStringLiteral("--plugin-dir"),
+                 QStringLiteral(TARVO_FAKE_PLUGINS "/exiting-dialog"), QStringLiteral("--new-ip"),
+                 QStringLiteral("blinker"), QStringLiteral("--device"), device.device()},
+                env, dir.path());
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(QLatin1String("a plug-in has ended the program")),
+                 qPrintable(outcome.errors));
+    }
+
     void saysWhyADiagramCannotBeDrawn()
     {
         QFETCH(QByteArray, ipc);

@@ -37,6 +37,12 @@ void report(QWidget *parent, const QString &message)
     box.exec();
 }
 
+ConfigKeeper &configKeeper()
+{
+    static ConfigKeeper keeper;
+    return keeper;
+}
+
 bool names(const QString &entry, const DEV::DeviceArg &device)
 {
     if (entry.endsWith(u'*'))
@@ -95,8 +101,17 @@ bool isSupported(const DEV::DeviceArg &device, const QStringList &unsupported,
 void writeIPConfig(const QString &path, const QVariantMap &header, const QVariantMap &options)
 {
     QString error;
+    // A copy, because the keeper may take its own registration back.
+    const ConfigKeeper keep = configKeeper();
+    if (keep && QFileInfo::exists(path))
+        keep(path);
     if (!Utils::writeIniFile(path, header, QStringLiteral("Config"), options, &error))
         report(nullptr, error);
+}
+
+void setConfigKeeper(const ConfigKeeper &keeper)
+{
+    configKeeper() = keeper;
 }
 
 bool makeDirs(const QString &path, const QString &ipName)

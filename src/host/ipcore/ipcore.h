@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <functional>
+
 QT_FORWARD_DECLARE_CLASS(QWidget)
 
 // What an IP configurator asks of the environment. Functions that say "reports" show a modal
@@ -32,9 +34,14 @@ TARVO_IPCORE_EXPORT bool isSupported(const DEV::DeviceArg &device, const QString
                                      const QStringList &supported);
 
 // Replaces an IP configuration file: `header` at the top level, `options` in the group "Config".
-// Reports a failure.
+// The keeper, if there is one, is called before. Reports a failure.
 TARVO_IPCORE_EXPORT void writeIPConfig(const QString &path, const QVariantMap &header,
                                        const QVariantMap &options);
+
+// Told of a configuration file that stands at the path and is about to be replaced.
+using ConfigKeeper = std::function<void(const QString &path)>;
+// For the running application. An empty function takes it back.
+TARVO_IPCORE_EXPORT void setConfigKeeper(const ConfigKeeper &keeper);
 
 // Makes a folder with all missing parents for the IP named `ipName`, which is about to write into
 // it, and has a run for it alone: until the SynthesisHelper whose output folder it is has ended and

@@ -5,6 +5,7 @@
 #include "config/devicerules.h"
 #include "config/ipcfile.h"
 #include "config/itcmcontents.h"
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "core/itcmpath.h"
 #include "diagram/ipview.h"
@@ -106,6 +107,17 @@ bool TarvoOrixM1Dlg::saveIPConfig()
     IPCore::writeIPConfig(IpcFile::path(createInPath(), ipInfo),
                           IpcFile::header(currentDevice().id(), ipInfo), options);
     return true;
+}
+
+QVariantMap TarvoOrixM1Dlg::configuration() const
+{
+    OptionMap stored = options;
+    stored.remove(Key::createInPath);
+    stored[Key::synthesisTool] = synthesisTool();
+    stored[Key::lang] = languageIndex();
+    return {{"file"_l1, IpcFile::path(createInPath(), ipInfo)},
+            {"header"_l1, IpcFile::header(currentDevice().id(), ipInfo)},
+            {"options"_l1, stored}};
 }
 
 bool TarvoOrixM1Dlg::loadIPConfig(const QString &ipcFile)

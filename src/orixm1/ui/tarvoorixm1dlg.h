@@ -34,6 +34,8 @@ public:
     // For hosts that ask before they start a tool: what no tool could make sense of, one
     // "file:line: reason" each.
     Q_INVOKABLE QStringList inputMistakes() const;
+    // For a host: what OK would store now, {"file": path, "header": map, "options": map}.
+    Q_INVOKABLE QVariantMap configuration() const;
 
 public Q_SLOTS:
     // Validates, saves and starts generation; the dialog closes when the run has succeeded.

@@ -1,42 +1,54 @@
 #include "ipcatalogue.h"
 
+#include "pluginprobe.h"
+
+#include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
-#include <ipplugin/ipplugin.h>
+#include <utils/fileutils.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLibrary>
-#include <QPluginLoader>
+#include <QSet>
 
-#include <exception>
+#include <algorithm>
 
 namespace Workbench
 {
 
-using TE::TE_IPCore_Def::BaseIPCoreInterface;
-using TE::TE_IPCore_Def::IPPlugin;
+using PluginLoader::thrownBy;
 
 namespace
 {
+
+constexpr const char *moveMethod = "moveToDevice(QString,QString,bool)";
+constexpr int probesAtOnce = 4;
 
 QString tr(const char *text)
 {
     return QCoreApplication::translate("Workbench::IpCatalogue", text);
 }
 
-// Calls into a plug-in; the text of an exception, or an empty one.
-QString thrownBy(const std::function<void()> &call)
+// By library; {"stamp", "reason"}.
+QJsonObject readCache(const QString &file)
 {
-    try {
-        call();
-    } catch (const std::exception &exception) {
-        const QString what = QString::fromUtf8(exception.what());
-        return what.isEmpty() ? tr("an exception without a text") : what;
-    } catch (...) {
-        return tr("an exception of an unknown type");
-    }
-    return {};
+    QByteArray bytes;
+    if (file.isEmpty() || !QFileInfo(file).isFile() ||
+        !Utils::FileUtils::readFile(file, &bytes, nullptr))
+        return {};
+    return QJsonDocument::fromJson(bytes).object();
+}
+
+// Of this process: stamps of libraries that may be loaded.
+QSet<QString> &goodStamps()
+{
+    static QSet<QString> stamps;
+    return stamps;
 }
 
 QString plainName(const QString &name)
@@ -48,11 +60,6 @@ QString plainName(const QString &name)
 }
 
 } // namespace
-
-struct IpCatalogue::Core {
-    std::unique_ptr<BaseIPCoreInterface> object;
-    QString name;
-};
 
 IpCatalogue::IpCatalogue() = default;
 
@@ -86,79 +93,150 @@ void IpCatalogue::loadFolder(const QString &folder, bool required)
         return;
     }
     const QStringList names = dir.entryList(QDir::Files, QDir::Name);
+    QStringList paths;
     for (const QString &name : names) {
         const QString path = dir.absoluteFilePath(name);
         if (QLibrary::isLibrary(path))
-            loadLibrary(path);
+            paths.append(path);
     }
+    loadLibraries(paths);
 }
 
 bool IpCatalogue::loadLibrary(const QString &library)
 {
-    const QString canonical = QFileInfo(library).canonicalFilePath();
-    const QString path = canonical.isEmpty() ? library : canonical;
-    if (m_libraries.contains(path))
-        return true; // found again through another folder
-    m_libraries.append(path);
+    return loadLibraries({library});
+}
 
-    QPluginLoader loader(path);
-    // A missing symbol is found now, not in the middle of a dialog.
-    loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    IPPlugin *plugin = nullptr;
-    QList<BaseIPCoreInterface *> cores;
-    const QString thrown = thrownBy([&] {
-        plugin = qobject_cast<IPPlugin *>(loader.instance());
-        if (!plugin)
-            return;
-        plugin->setDataPath(dataFolderOf(path, m_dataFolders));
-        cores = plugin->ipCoreInterfaces();
-    });
-    if (!thrown.isEmpty()) {
-        fail(path, tr("It failed while it was started: %1.").arg(thrown));
-        return false;
+void IpCatalogue::tryAgain()
+{
+    QStringList paths;
+    for (const Failure &failure : qAsConst(m_failures)) {
+        if (QFileInfo(failure.library).isFile() && !paths.contains(failure.library))
+            paths.append(failure.library);
     }
-    if (!plugin) {
-        if (loader.isLoaded())
-            fail(path, tr("It is a Qt plug-in, but not one for IPs."));
-        else if (loader.metaData().isEmpty())
-            fail(path, tr("It is no plug-in: %1").arg(loader.errorString()));
-        else
-            fail(path, loader.errorString());
-        return false;
+    for (int i = m_failures.size() - 1; i >= 0; --i) {
+        const QString library = m_failures.at(i).library;
+        const bool used =
+            std::any_of(m_entries.begin(), m_entries.end(),
+                        [&](const IpEntry &entry) { return entry.library == library; });
+        if (used)
+            paths.removeAll(library); // some of its IPs are in use
+        else if (paths.contains(library))
+            m_failures.removeAt(i);
     }
-    if (cores.isEmpty()) {
-        fail(path, tr("It offers no IP: it finds no usable descriptor in its data folder \"%1\".")
-                       .arg(QDir::toNativeSeparators(plugin->dataPath())));
+    for (const QString &path : qAsConst(paths)) {
+        m_libraries.removeAll(path);
+        remember(path, QString(), QString());
+    }
+    loadLibraries(paths);
+}
+
+QString IpCatalogue::stampOf(const QString &library, const QString &dataFolder) const
+{
+    const QFileInfo info(library);
+    return QStringList{library, QString::number(info.size()),
+                       QString::number(info.lastModified().toMSecsSinceEpoch()), dataFolder,
+                       QCoreApplication::applicationVersion()}
+        .join(u'\n');
+}
+
+bool IpCatalogue::isProbed(const QString &stamp, QString *reason) const
+{
+    if (goodStamps().contains(stamp))
+        return true;
+    const QJsonObject known = readCache(m_probeCache).value(stamp.section(u'\n', 0, 0)).toObject();
+    if (known.value(QLatin1String("stamp")).toString() != stamp)
         return false;
+    *reason = known.value(QLatin1String("reason")).toString();
+    return true;
+}
+
+// An empty stamp forgets.
+void IpCatalogue::remember(const QString &library, const QString &stamp, const QString &reason)
+{
+    if (!stamp.isEmpty() && reason.isEmpty())
+        goodStamps().insert(stamp);
+    if (m_probeCache.isEmpty())
+        return;
+    QJsonObject cache = readCache(m_probeCache);
+    if (stamp.isEmpty())
+        cache.remove(library);
+    else
+        cache.insert(library, QJsonObject{{QStringLiteral("stamp"), stamp},
+                                          {QStringLiteral("reason"), reason}});
+    // Without the file the next start takes longer.
+    if (Utils::FileUtils::makePath(QFileInfo(m_probeCache).absolutePath(), nullptr))
+        Utils::FileUtils::writeFile(m_probeCache, QJsonDocument(cache).toJson(), nullptr);
+}
+
+bool IpCatalogue::loadLibraries(const QStringList &paths)
+{
+    struct Candidate {
+        QString path;
+        QString dataFolder;
+        QString stamp;
+        QString reason;
+        std::unique_ptr<PluginProbe> probe;
+    };
+    std::vector<Candidate> candidates;
+    for (const QString &library : paths) {
+        const QString canonical = QFileInfo(library).canonicalFilePath();
+        Candidate candidate;
+        candidate.path = canonical.isEmpty() ? library : canonical;
+        if (m_libraries.contains(candidate.path))
+            continue; // found again through another folder
+        m_libraries.append(candidate.path);
+        candidate.dataFolder = dataFolderOf(candidate.path, m_dataFolders);
+        candidate.stamp = stampOf(candidate.path, candidate.dataFolder);
+        candidates.push_back(std::move(candidate));
     }
     bool all = true;
-    for (BaseIPCoreInterface *object : qAsConst(cores)) {
-        Core core;
-        core.object.reset(object);
-        IpEntry entry;
-        entry.library = path;
-        const QString reason = thrownBy([&] {
-            entry.id = core.object->id();
-            entry.name = core.object->name();
-            entry.version = core.object->version();
-            entry.summary = core.object->summary();
-            entry.category = core.object->category();
-        });
-        core.name = entry.name;
-        const int twin = indexOf(entry.id);
-        if (!reason.isEmpty())
-            fail(path, tr("It failed when it was asked for an IP: %1.").arg(reason));
-        else if (entry.id.isEmpty() || entry.name.isEmpty())
-            fail(path, tr("One of its IPs has no id or no name."));
-        else if (twin >= 0)
+    for (size_t first = 0; first < candidates.size(); first += probesAtOnce) {
+        const size_t end = std::min(first + probesAtOnce, candidates.size());
+        for (size_t i = first; i < end; ++i) {
+            Candidate &candidate = candidates[i];
+            if (!isProbed(candidate.stamp, &candidate.reason))
+                candidate.probe = std::make_unique<PluginProbe>(
+                    candidate.path, candidate.dataFolder, m_probeTimeLimit);
+        }
+        for (size_t i = first; i < end; ++i) {
+            Candidate &candidate = candidates[i];
+            if (candidate.probe) {
+                const PluginProbe::Result result = candidate.probe->wait();
+                candidate.probe.reset();
+                candidate.reason = result.reason;
+                if (result.reason.isEmpty() || result.blocked)
+                    remember(candidate.path, candidate.stamp, result.reason);
+            }
+            if (!candidate.reason.isEmpty()) {
+                fail(candidate.path, candidate.reason);
+                all = false;
+            } else if (!take(PluginLoader::load(candidate.path, candidate.dataFolder),
+                             candidate.path, candidate.dataFolder)) {
+                all = false;
+            }
+        }
+    }
+    return all;
+}
+
+bool IpCatalogue::take(LoadedPlugin plugin, const QString &path, const QString &dataFolder)
+{
+    bool all = plugin.mistakes.isEmpty();
+    for (const QString &mistake : qAsConst(plugin.mistakes))
+        fail(path, mistake);
+    for (LoadedPlugin::Ip &ip : plugin.ips) {
+        const auto twin =
+            std::find_if(m_entries.begin(), m_entries.end(),
+                         [&ip](const IpEntry &entry) { return entry.id == ip.entry.id; });
+        if (twin != m_entries.end()) {
             fail(path, tr("Its IP \"%1\" is offered by \"%2\" already.")
-                           .arg(entry.id, QDir::toNativeSeparators(m_entries.at(twin).library)));
-        if (!reason.isEmpty() || entry.id.isEmpty() || entry.name.isEmpty() || twin >= 0) {
+                           .arg(ip.entry.id, QDir::toNativeSeparators(twin->library)));
             all = false;
             continue;
         }
-        m_entries.append(entry);
-        m_cores.push_back(std::move(core));
+        m_entries.append(ip.entry);
+        m_cores.push_back({std::move(ip.object), plugin.root, ip.entry.name, dataFolder});
     }
     return all;
 }
@@ -221,6 +299,48 @@ bool IpCatalogue::openIp(int index, const QString &folder, const QString &ipcFil
     const Core &core = m_cores.at(size_t(index));
     return run(
         core, [&] { core.object->openIP(folder, ipcFile); }, error);
+}
+
+QString IpCatalogue::targetOf(int index) const
+{
+    const QDir folder(m_cores.at(size_t(index)).dataFolder);
+    const QStringList names = folder.entryList({QStringLiteral("*.ipspec")}, QDir::Files);
+    for (const QString &name : names) {
+        const QVariantMap descriptor = IPCore::processIPInfoSpec(folder.filePath(name));
+        if (descriptor.value(QStringLiteral("ipcore.id")).toString() == m_entries.at(index).id)
+            return descriptor.value(QStringLiteral("ipcore.target")).toString();
+    }
+    return {};
+}
+
+bool IpCatalogue::canMove(int index) const
+{
+    const QObject *root = m_cores.at(size_t(index)).root;
+    return root && root->metaObject()->indexOfMethod(moveMethod) >= 0;
+}
+
+bool IpCatalogue::moveToDevice(int index, const QString &ipcFile, const QString &deviceId,
+                               bool write, Move *move, QString *error)
+{
+    const Core &core = m_cores.at(size_t(index));
+    QVariantMap result;
+    bool called = false;
+    if (!run(
+            core,
+            [&] {
+                called = canMove(index) &&
+                         QMetaObject::invokeMethod(core.root, "moveToDevice", Qt::DirectConnection,
+                                                   Q_RETURN_ARG(QVariantMap, result),
+                                                   Q_ARG(QString, ipcFile),
+                                                   Q_ARG(QString, deviceId), Q_ARG(bool, write));
+            },
+            error))
+        return false;
+    *error = called ? result.value(QStringLiteral("error")).toString()
+                    : tr("The plug-in of %1 cannot move its IPs to other devices.").arg(core.name);
+    move->losses = result.value(QStringLiteral("losses")).toStringList();
+    move->changed = result.value(QStringLiteral("changed")).toBool();
+    return error->isEmpty();
 }
 
 void IpCatalogue::fail(const QString &library, const QString &reason)

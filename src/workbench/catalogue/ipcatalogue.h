@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pluginloader.h"
+
 #include <dev/devicearg.h>
 
 #include <QList>
@@ -10,29 +12,13 @@
 #include <memory>
 #include <vector>
 
-namespace TE
-{
-namespace TE_IPCore_Def
-{
-class BaseIPCoreInterface;
-}
-} // namespace TE
-
 namespace Workbench
 {
 
-// One IP that a plug-in offers.
-struct IpEntry {
-    QString id; // what the "type" of an .ipc file names
-    QString name;
-    QString version;
-    QString summary;
-    QStringList category; // from the outermost to the innermost
-    QString library;      // full path of the plug-in
-};
-
 // The IPs of all plug-ins found in the plug-in folders. A plug-in that cannot be used is left out
-// and reported; whatever a plug-in throws ends here.
+// and reported; whatever a plug-in throws ends here. What it does beyond that is found in a process
+// of its own first, see PluginProbe: it is loaded here only if it neither crashed, nor blocked, nor
+// ended that process.
 class IpCatalogue
 {
 public:
@@ -50,6 +36,15 @@ public:
     // Folders that hold plug-ins' data folders, besides the folder of each plug-in itself; see
     // dataFolderOf().
     void setDataFolders(const QStringList &folders) { m_dataFolders = folders; }
+    // A file that keeps the results of probing for the next start, as long as the libraries do not
+    // change. Without one they are kept while this process lives. Of what fails, only blocking is
+    // kept, since finding it takes time.
+    void setProbeCache(const QString &file) { m_probeCache = file; }
+    // How long a plug-in may take for all its answers, in milliseconds.
+    void setProbeTimeLimit(int limit) { m_probeTimeLimit = limit; }
+    // Probes and loads once more what cannot be used.
+    void tryAgain();
+
     // Loads every shared library of a folder, in the order of their names. A folder that does not
     // exist is reported as a failure if `required`.
     void loadFolder(const QString &folder, bool required);
@@ -68,18 +63,49 @@ public:
     bool createIp(int index, const QString &folder, const DEV::DeviceArg &device, QString *error);
     bool openIp(int index, const QString &folder, const QString &ipcFile, QString *error);
 
+    // The name that the IP's files have by its descriptor; empty if that does not say.
+    QString targetOf(int index) const;
+    // Whether the plug-in can make the IP's configurations for other devices: its root object has
+    // an invokable QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId, bool
+    // write).
+    bool canMove(int index) const;
+    // Moves a configuration to a device, or only tells what would happen. False and a sentence in
+    // `*error` if it cannot be moved.
+    struct Move {
+        QStringList losses; // in sentences
+        bool changed = false;
+    };
+    bool moveToDevice(int index, const QString &ipcFile, const QString &deviceId, bool write,
+                      Move *move, QString *error);
+
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
     // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,
     // "_" and "-" count for nothing ("my_fine_ip"). Without one it is the library's own folder.
     static QString dataFolderOf(const QString &library, const QStringList &folders);
 
 private:
-    struct Core;
+    struct Core {
+        std::unique_ptr<TE::TE_IPCore_Def::BaseIPCoreInterface> object;
+        QPointer<QObject> root;
+        QString name;
+        QString dataFolder;
+    };
 
+    // A library's file as it was when it was probed.
+    QString stampOf(const QString &library, const QString &dataFolder) const;
+    // The reason why a library is not loaded, by what was found earlier; false if it was not
+    // probed.
+    bool isProbed(const QString &stamp, QString *reason) const;
+    void remember(const QString &library, const QString &stamp, const QString &reason);
+
+    bool loadLibraries(const QStringList &paths);
+    bool take(LoadedPlugin plugin, const QString &path, const QString &dataFolder);
     bool run(const Core &core, const std::function<void()> &call, QString *error) const;
     void fail(const QString &library, const QString &reason);
 
     QStringList m_dataFolders;
+    QString m_probeCache;
+    int m_probeTimeLimit = 10000;
     QStringList m_libraries;
     QList<IpEntry> m_entries;
     QList<Failure> m_failures;

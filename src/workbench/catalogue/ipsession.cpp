@@ -1,15 +1,20 @@
 #include "ipsession.h"
 
 #include "ipcatalogue.h"
+#include "kept/keptconfigurations.h"
 
 #include <utils/boundedfile.h>
 #include <utils/inifile.h>
 
+#include <QCoreApplication>
 #include <QDateTime>
+#include <QDialog>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
-#include <QHash>
+#include <QMetaMethod>
 #include <QSettings>
+#include <QTemporaryDir>
 
 namespace Workbench
 {
@@ -36,6 +41,33 @@ Stamps ipcStamps(const QString &folder)
     return stamps;
 }
 
+constexpr const char *configurationMethod = "configuration()";
+constexpr qint64 configurationLimit = 4 << 20; // in bytes
+
+// What the dialog would store; empty if it does not tell.
+QVariantMap configurationOf(QDialog *dialog)
+{
+    QVariantMap configuration;
+    const QString thrown = PluginLoader::thrownBy([&] {
+        QMetaObject::invokeMethod(dialog, "configuration", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QVariantMap, configuration));
+    });
+    return thrown.isEmpty() ? configuration : QVariantMap();
+}
+
+// As a configuration file.
+QByteArray textOf(const QVariantMap &configuration, QString *error)
+{
+    const QTemporaryDir scratch;
+    const QString path = scratch.filePath(QStringLiteral("configuration.ipc"));
+    QByteArray text;
+    if (Utils::writeIniFile(path, configuration.value(QStringLiteral("header")).toMap(),
+                            QStringLiteral("Config"),
+                            configuration.value(QStringLiteral("options")).toMap(), error))
+        Utils::FileUtils::readFile(path, &text, error);
+    return text;
+}
+
 QStringList filesOf(const QString &folder)
 {
     QStringList paths;
@@ -60,7 +92,89 @@ bool IpSession::begin(QString *error)
         return false;
     }
     m_active = true;
+    m_accepted = false;
+    m_droppedId.clear();
+    QCoreApplication::instance()->installEventFilter(this);
     return true;
+}
+
+void IpSession::end()
+{
+    QCoreApplication::instance()->removeEventFilter(this);
+    m_active = false;
+    m_dialog = nullptr;
+    m_opened.clear();
+}
+
+bool IpSession::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() == QEvent::Show && !m_dialog) {
+        auto *dialog = qobject_cast<QDialog *>(object);
+        if (dialog && dialog->metaObject()->indexOfMethod(configurationMethod) >= 0)
+            follow(dialog);
+    }
+    return QObject::eventFilter(object, event);
+}
+
+void IpSession::follow(QDialog *dialog)
+{
+    m_dialog = dialog;
+    m_opened = configurationOf(dialog);
+    connect(dialog, &QDialog::finished, this, &IpSession::onDialogFinished);
+}
+
+void IpSession::onDialogFinished(int result)
+{
+    m_accepted = result == QDialog::Accepted;
+    if (m_accepted || !m_kept || !m_dialog)
+        return;
+    const QVariantMap left = configurationOf(m_dialog);
+    const QString file = left.value(QStringLiteral("file")).toString();
+    if (left == m_opened || file.isEmpty())
+        return;
+    // A value may have changed its type and nothing else.
+    QString error;
+    const QByteArray text = textOf(left, &error);
+    if (text == textOf(m_opened, &error) && error.isEmpty())
+        return;
+    if (error.isEmpty() && m_kept->keep(KeptConfigurations::Dropped, file, text, &error)) {
+        m_droppedId = m_kept->newest().id;
+        m_droppedFile = file;
+    } else {
+        Q_EMIT keepFailed(error);
+    }
+}
+
+IpSession::Contents IpSession::contentsIn(const QString &folder) const
+{
+    Contents contents;
+    if (!m_kept)
+        return contents;
+    QStringList paths = ipcStamps(folder).keys();
+    if (m_knownFiles)
+        paths += m_knownFiles();
+    for (const QString &path : qAsConst(paths)) {
+        QByteArray bytes;
+        if (!contents.contains(path) && QFileInfo(path).isFile() &&
+            QFileInfo(path).size() <= configurationLimit &&
+            Utils::FileUtils::readFile(path, &bytes, nullptr))
+            contents.insert(path, bytes);
+    }
+    return contents;
+}
+
+// What a plug-in has replaced by other means than the host's.
+void IpSession::keepReplaced(const Contents &before)
+{
+    for (auto it = before.begin(); it != before.end(); ++it) {
+        QByteArray present;
+        QString error;
+        if (QFileInfo(it.key()).isFile() &&
+            Utils::FileUtils::readFile(it.key(), &present, nullptr) && present == it.value())
+            continue;
+        if (!m_kept->keep(KeptConfigurations::Replaced, it.key(), it.value(), &error))
+            Q_EMIT keepFailed(error);
+    }
 }
 
 bool IpSession::create(int ip, const QString &folder, const DEV::DeviceArg &device, QString *error)
@@ -68,8 +182,10 @@ bool IpSession::create(int ip, const QString &folder, const DEV::DeviceArg &devi
     if (!m_catalogue.isSupported(ip, device, error) || !begin(error))
         return false;
     const Stamps before = ipcStamps(folder);
+    const Contents contents = contentsIn(folder);
     const bool done = m_catalogue.createIp(ip, folder, device, error);
-    m_active = false;
+    end();
+    keepReplaced(contents);
     QStringList files;
     const Stamps after = ipcStamps(folder);
     for (auto it = after.begin(); it != after.end(); ++it) {
@@ -77,10 +193,17 @@ bool IpSession::create(int ip, const QString &folder, const DEV::DeviceArg &devi
             files = filesOf(QFileInfo(it.key()).absolutePath());
     }
     Q_EMIT finished(files);
+    if (!m_droppedId.isEmpty())
+        Q_EMIT dropped(m_droppedId, m_droppedFile);
     return done;
 }
 
 bool IpSession::open(const QString &ipcFile, QString *error)
+{
+    return openAs(ipcFile, QFileInfo(ipcFile).absolutePath(), error);
+}
+
+bool IpSession::openAs(const QString &ipcFile, const QString &folder, QString *error)
 {
     const QString type = typeOf(ipcFile, error);
     if (type.isEmpty())
@@ -94,10 +217,13 @@ bool IpSession::open(const QString &ipcFile, QString *error)
     }
     if (!begin(error))
         return false;
-    const QFileInfo file(ipcFile);
-    const bool done = m_catalogue.openIp(ip, file.absolutePath(), file.absoluteFilePath(), error);
-    m_active = false;
-    Q_EMIT finished(filesOf(file.absolutePath()));
+    const Contents contents = contentsIn(folder);
+    const bool done = m_catalogue.openIp(ip, folder, QFileInfo(ipcFile).absoluteFilePath(), error);
+    end();
+    keepReplaced(contents);
+    Q_EMIT finished(filesOf(folder));
+    if (!m_droppedId.isEmpty())
+        Q_EMIT dropped(m_droppedId, m_droppedFile);
     return done;
 }
 

@@ -77,6 +77,15 @@ PluginsDialog::PluginsDialog(const IpCatalogue &catalogue, const QStringList &fo
             [removeButton](int row) { removeButton->setEnabled(row >= 0); });
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    if (!catalogue.failures().isEmpty()) {
+        auto *again = buttons->addButton(tr("&Try Again"), QDialogButtonBox::ActionRole);
+        again->setObjectName(QStringLiteral("tryAgainButton"));
+        again->setToolTip(tr("Loads the plug-ins that cannot be used once more"));
+        connect(again, &QPushButton::clicked, this, [this] {
+            accept();
+            Q_EMIT tryAgainRequested();
+        });
+    }
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 

@@ -21,6 +21,10 @@ public:
 
     QStringList folders() const;
 
+Q_SIGNALS:
+    // The dialog is closed then: its lists are of before.
+    void tryAgainRequested();
+
 private:
     QListWidget *m_folders;
 };

@@ -9,11 +9,11 @@
 namespace Workbench
 {
 
-DeviceDialog::DeviceDialog(const QString &currentId, QWidget *parent)
+DeviceDialog::DeviceDialog(const QString &title, const QString &currentId, QWidget *parent)
     : QDialog(parent)
     , m_picker(new DevicePicker)
 {
-    setWindowTitle(tr("Device of the Project"));
+    setWindowTitle(title);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QPushButton *ok = buttons->button(QDialogButtonBox::Ok);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -15,7 +15,7 @@ class DeviceDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit DeviceDialog(const QString &currentId, QWidget *parent = nullptr);
+    DeviceDialog(const QString &title, const QString &currentId, QWidget *parent = nullptr);
 
     DEV::DeviceArg device() const;
 

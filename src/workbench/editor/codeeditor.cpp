@@ -1,15 +1,22 @@
 #include "codeeditor.h"
 
+#include "textfile.h"
 #include "widgets/fixedfont.h"
 
+#include <QHelpEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
+#include <QToolTip>
 
 namespace Workbench
 {
 
 namespace
 {
+
+// A selection as it is shown, with the bytes that no other program would take.
+const QString ownFormat = QStringLiteral("application/x-tarvo-shown-text");
 
 class LineNumbers : public QWidget
 {
@@ -143,7 +150,129 @@ void CodeEditor::keyPressEvent(QKeyEvent *event)
             return;
         }
     }
+    // It would break the line without ending it.
+    if (event->matches(QKeySequence::InsertLineSeparator) && !isReadOnly()) {
+        insert(QStringLiteral("\n"));
+        event->accept();
+        return;
+    }
     QPlainTextEdit::keyPressEvent(event);
+}
+
+void CodeEditor::insert(const QString &text)
+{
+    QTextCursor cursor = textCursor();
+    cursor.insertText(text);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+QMimeData *CodeEditor::createMimeDataFromSelection() const
+{
+    const QString selected = textCursor().selectedText();
+    auto *copied = new QMimeData;
+    copied->setText(TextFormat::fromShown(selected));
+    copied->setData(ownFormat, QByteArray(reinterpret_cast<const char *>(selected.constData()),
+                                          selected.size() * int(sizeof(QChar))));
+    return copied;
+}
+
+void CodeEditor::insertFromMimeData(const QMimeData *source)
+{
+    if (isReadOnly() || !source)
+        return;
+    QString text;
+    if (source->hasFormat(ownFormat)) {
+        const QByteArray copied = source->data(ownFormat);
+        text = QString(reinterpret_cast<const QChar *>(copied.constData()),
+                       copied.size() / int(sizeof(QChar)));
+    } else {
+        text = TextFormat::toShown(source->text());
+    }
+    if (!text.isEmpty())
+        insert(text);
+}
+
+bool CodeEditor::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QPlainTextEdit::viewportEvent(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QTextCursor cursor = cursorForPosition(help->pos());
+    // The cursor is the nearest gap, which may be the one behind the character.
+    int position = cursor.positionInBlock();
+    if (position > 0 && cursorRect(cursor).left() > help->pos().x())
+        --position;
+    const QString text = TextFormat::explanation(cursor.block().text(), position);
+    if (text.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(help->globalPos(), text, viewport());
+    return true;
+}
+
+void CodeEditor::paintEvent(QPaintEvent *event)
+{
+    QPlainTextEdit::paintEvent(event);
+    QPainter painter(viewport());
+    for (QTextBlock block = firstVisibleBlock(); block.isValid(); block = block.next()) {
+        const QRectF place = blockBoundingGeometry(block).translated(contentOffset());
+        if (place.top() > event->rect().bottom())
+            break;
+        if (block.isVisible() && place.bottom() >= event->rect().top())
+            paintStandIns(&painter, block, place.topLeft());
+    }
+}
+
+// Over what the font has for characters of a private range: two rows of small letters in a box.
+void CodeEditor::paintStandIns(QPainter *painter, const QTextBlock &block, const QPointF &origin)
+{
+    const QString text = block.text();
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool noBreak = c == QChar::Nbsp;
+        if (!noBreak && !TextFormat::isStandIn(c) && !TextFormat::isMark(c))
+            continue;
+        const QTextLine line = block.layout()->lineForTextPosition(i);
+        if (!line.isValid())
+            continue;
+        const QRectF box(QPointF(line.cursorToX(i), line.y()),
+                         QPointF(line.cursorToX(i + 1), line.y() + line.height()));
+        const QRectF place = box.translated(origin);
+        if (place.right() < 0 || place.left() > viewport()->width())
+            continue;
+        if (noBreak) { // a blank that says that it is another one
+            painter->setPen(palette().color(QPalette::Disabled, QPalette::Text));
+            const qreal y = place.bottom() - place.height() / 5;
+            painter->drawLine(QPointF(place.left() + 1, y), QPointF(place.right() - 1, y));
+            continue;
+        }
+        const QRectF inner = place.adjusted(0.5, 0.5, -0.5, -0.5);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(palette().color(QPalette::Base));
+        painter->drawRect(place);
+        QColor tint = palette().color(QPalette::Text);
+        tint.setAlphaF(0.16);
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setBrush(tint);
+        painter->drawRoundedRect(inner, 1.5, 1.5);
+        painter->setRenderHint(QPainter::Antialiasing, false);
+
+        const QString label = TextFormat::label(c);
+        const int half = (label.size() + 1) / 2;
+        const QString rows[] = {label.left(half), label.mid(half)};
+        QFont small = font();
+        small.setBold(false);
+        const int widest = qMax(rows[0].size(), rows[1].size());
+        small.setPixelSize(qMax(5, int(qMin(inner.height() / 2, inner.width() / widest * 1.7))));
+        painter->setFont(small);
+        painter->setPen(palette().color(QPalette::Text));
+        for (int row = 0; row < 2; ++row) {
+            const QRectF part(inner.left(), inner.top() + row * inner.height() / 2, inner.width(),
+                              inner.height() / 2);
+            painter->drawText(part, Qt::AlignCenter | Qt::TextDontClip, rows[row]);
+        }
+    }
 }
 
 void CodeEditor::wheelEvent(QWheelEvent *event)

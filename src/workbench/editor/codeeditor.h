@@ -2,10 +2,15 @@
 
 #include <QPlainTextEdit>
 
+QT_FORWARD_DECLARE_CLASS(QMimeData)
+QT_FORWARD_DECLARE_CLASS(QPainter)
+QT_FORWARD_DECLARE_CLASS(QTextBlock)
+
 namespace Workbench
 {
 
-// A plain text editor with line numbers and a mark at the line of the cursor.
+// A plain text editor with line numbers and a mark at the line of the cursor. Its text is one of
+// TextFormat: it shows the stand-ins and marks as what they are, and copies and pastes accordingly.
 class CodeEditor : public QPlainTextEdit
 {
     Q_OBJECT
@@ -17,6 +22,9 @@ public:
     void goToLine(int line);
     int currentLine() const; // from 1
     int lineCount() const { return blockCount(); }
+
+    // The text as TextFormat::encode() takes it. toPlainText() changes some characters.
+    QString shownText() const { return document()->toRawText(); }
 
     int lineNumberWidth() const;
     void paintLineNumbers(QPaintEvent *event);
@@ -34,8 +42,14 @@ protected:
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    QMimeData *createMimeDataFromSelection() const override;
+    void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    void paintStandIns(QPainter *painter, const QTextBlock &block, const QPointF &origin);
+    void insert(const QString &text);
     void layoutLineNumbers();
     void markCurrentLine();
 

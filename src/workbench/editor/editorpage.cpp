@@ -187,9 +187,15 @@ void EditorPage::offerEditing()
 
 bool EditorPage::save(QString *error)
 {
-    const QString text = m_editor->toPlainText();
-    if (!m_format.canEncode(text))
-        m_format.encoding = TextFormat::Utf8;
+    const QString text = m_editor->shownText();
+    const int missing = m_format.firstMissing(text);
+    m_needsUtf8 = missing >= 0;
+    if (m_needsUtf8) {
+        *error = tr("\"%1\" is not saved: its text is Latin-1, which has no \"%2\" (line %3).")
+                     .arg(QDir::toNativeSeparators(m_path), text.mid(missing, 1))
+                     .arg(m_editor->document()->findBlock(missing).blockNumber() + 1);
+        return false;
+    }
     const QByteArray bytes = m_format.encode(text);
     if (!Utils::FileUtils::writeFile(m_path, bytes, error))
         return false;
@@ -201,9 +207,17 @@ bool EditorPage::save(QString *error)
     return true;
 }
 
+void EditorPage::convertToUtf8()
+{
+    m_format.encoding = TextFormat::Utf8;
+    m_needsUtf8 = false;
+    m_editor->document()->setModified(true);
+    Q_EMIT stateChanged();
+}
+
 QString EditorPage::keepChanges(QString *error) const
 {
-    const QString text = m_editor->toPlainText();
+    const QString text = m_editor->shownText();
     TextFormat format = m_format;
     if (!format.canEncode(text))
         format.encoding = TextFormat::Utf8;

@@ -47,7 +47,14 @@ public:
     bool isEditable() const;
     // Says in the info bar why the file cannot be changed, if it cannot.
     void startEditing();
+    // What was not edited is written as it was read.
     bool save(QString *error);
+    // Whether the last save() failed because the file's encoding lacks a character of the text.
+    bool needsUtf8() const { return m_needsUtf8; }
+    // From now on the file is saved as UTF-8: every character beyond ASCII gets other bytes.
+    void convertToUtf8();
+    // How its text stands on disk: "UTF-8, LF".
+    QString formatName() const { return m_format.name(); }
     // Writes what is shown into a new file, "<path>.unsaved" ("<path>.unsaved2" if there is one) or
     // in the folder for temporary files if that cannot be; returns its path. Empty, and a sentence
     // in `*error`, if neither can be written. A page that opens the file later tells of a copy
@@ -79,6 +86,7 @@ private:
     TextFormat m_format;
     QByteArray m_digest; // of the bytes that were read or written last
     bool m_deleted = false;
+    bool m_needsUtf8 = false;
     QString m_rest; // of a file that comes in pieces
     int m_inserted = 0;
     int m_wantedLine = 0;

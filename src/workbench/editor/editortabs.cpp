@@ -115,8 +115,14 @@ bool EditorTabs::savePage(EditorPage *page)
 {
     QString error;
     const bool saved = page->save(&error);
-    if (!saved)
+    if (!saved && page->needsUtf8()) {
+        page->infoBar()->showMessage(error, {{tr("Save the Whole File as &UTF-8"), [this, page] {
+                                                  page->convertToUtf8();
+                                                  savePage(page);
+                                              }}});
+    } else if (!saved) {
         page->infoBar()->showMessage(error, {{tr("Try &Again"), [this, page] { savePage(page); }}});
+    }
     watch();
     return saved;
 }
@@ -197,7 +203,7 @@ bool EditorTabs::closeAll()
     return true;
 }
 
-QStringList EditorTabs::keepChanges() const
+QStringList EditorTabs::keepChanges(QStringList *copies) const
 {
     QStringList told;
     const QList<EditorPage *> all = pages();
@@ -206,6 +212,8 @@ QStringList EditorTabs::keepChanges() const
             continue;
         QString error;
         const QString kept = page->keepChanges(&error);
+        if (copies && !kept.isEmpty())
+            copies->append(kept);
         const QString name = QDir::toNativeSeparators(page->path());
         told.append(kept.isEmpty()
                         ? tr("The unsaved changes of \"%1\" are lost. %2").arg(name, error)

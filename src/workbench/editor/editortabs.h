@@ -32,8 +32,9 @@ public:
     // Asks about unsaved changes; false if the user wants to go on with them.
     bool closeTab(int index);
     bool closeAll();
-    // Writes the unsaved changes into files of their own; returns a sentence for each.
-    QStringList keepChanges() const;
+    // Writes the unsaved changes into files of their own, whose paths are appended to `copies` (may
+    // be null); returns a sentence for each.
+    QStringList keepChanges(QStringList *copies = nullptr) const;
 
 Q_SIGNALS:
     void currentStateChanged();

@@ -1,5 +1,6 @@
 #include "findbar.h"
 
+#include "textfile.h"
 #include "widgets/symbolicon.h"
 
 #include <QCheckBox>
@@ -59,8 +60,9 @@ FindBar::FindBar(QPlainTextEdit *editor, QWidget *parent)
 
 void FindBar::start()
 {
-    const QString selected = m_editor->textCursor().selectedText();
-    if (!selected.isEmpty() && !selected.contains(QChar::ParagraphSeparator))
+    const QString selected = TextFormat::fromShown(m_editor->textCursor().selectedText());
+    if (!selected.isEmpty() && !selected.contains(u'\n') &&
+        !selected.contains(QChar::ReplacementCharacter))
         m_text->setText(selected);
     show();
     m_text->setFocus();
@@ -81,19 +83,22 @@ void FindBar::findPrevious()
 void FindBar::find(QTextDocument::FindFlags direction, bool fromSelectionStart)
 {
     m_state->clear();
-    if (m_text->text().isEmpty())
+    // The search takes the text's no-break spaces for blanks.
+    const QString wanted =
+        TextFormat::toShown(m_text->text()).replace(QChar(QChar::Nbsp), QChar(QChar::Space));
+    if (wanted.isEmpty())
         return;
     if (m_matchCase->isChecked())
         direction |= QTextDocument::FindCaseSensitively;
     QTextCursor start = m_editor->textCursor();
     if (fromSelectionStart)
         start.setPosition(start.selectionStart());
-    QTextCursor found = m_editor->document()->find(m_text->text(), start, direction);
+    QTextCursor found = m_editor->document()->find(wanted, start, direction);
     if (found.isNull()) {
         QTextCursor end(m_editor->document());
         end.movePosition(direction & QTextDocument::FindBackward ? QTextCursor::End
                                                                  : QTextCursor::Start);
-        found = m_editor->document()->find(m_text->text(), end, direction);
+        found = m_editor->document()->find(wanted, end, direction);
         m_state->setText(found.isNull() ? tr("Not found") : tr("Continued at the other end"));
     }
     if (!found.isNull())

@@ -1,11 +1,14 @@
 #include "project.h"
 
+#include "filelock.h"
+
 #include <core/idecore.h>
 #include <dev/devicedb.h>
 #include <utils/fileutils.h>
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -19,6 +22,18 @@ const QString dotSuffix = QLatin1String(".") + QLatin1String(ProjectFile::suffix
 
 // Generated IPs put their configuration into a folder of their own, at most one more level down.
 constexpr int ipSearchDepth = 2;
+
+// A change takes a few milliseconds; longer, and somebody holds the lock for good. In milliseconds.
+constexpr int lockPatience = 3000;
+
+int indexOf(const QStringList &entries, const QString &entry)
+{
+    for (int i = 0; i < entries.size(); ++i) {
+        if (QDir::cleanPath(entries.at(i)) == entry)
+            return i;
+    }
+    return -1;
+}
 
 void collectIpFiles(const QDir &folder, int depth, QStringList *found)
 {
@@ -38,6 +53,7 @@ void collectIpFiles(const QDir &folder, int depth, QStringList *found)
 
 Project::Project(const QString &path, const ProjectFile &content)
     : m_path(path)
+    , m_stored(content)
     , m_content(content)
 {
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Project::onFileChanged);
@@ -125,77 +141,139 @@ DEV::DeviceArg Project::device() const
 
 void Project::setDevice(const DEV::DeviceArg &device)
 {
-    ProjectFile content = m_content;
-    content.deviceId = device.id();
-    replace(content);
+    change([id = device.id()](ProjectFile *content) { content->deviceId = id; });
 }
 
 void Project::setTopModule(const QString &name)
 {
-    ProjectFile content = m_content;
-    content.topModule = name;
-    replace(content);
+    change([name](ProjectFile *content) { content->topModule = name; });
 }
 
 QStringList Project::files() const
 {
+    const QDir folder(path());
     QStringList result;
+    result.reserve(m_content.files.size());
     for (const QString &entry : m_content.files)
-        result.append(absolute(entry));
+        result.append(QDir::cleanPath(folder.absoluteFilePath(entry)));
     return result;
 }
 
 void Project::addFiles(const QStringList &paths)
 {
-    ProjectFile content = m_content;
+    QStringList entries;
     for (const QString &path : paths) {
-        const QString entry = relative(path);
-        if (!path.isEmpty() && !content.files.contains(entry))
-            content.files.append(entry);
+        if (!path.isEmpty())
+            entries.append(relative(path));
     }
-    replace(content);
+    change([entries](ProjectFile *content) {
+        QSet<QString> listed;
+        for (const QString &entry : qAsConst(content->files))
+            listed.insert(QDir::cleanPath(entry));
+        for (const QString &entry : entries) {
+            if (!listed.contains(entry)) {
+                listed.insert(entry);
+                content->files.append(entry);
+            }
+        }
+    });
 }
 
-void Project::removeFile(const QString &path)
+void Project::removeFiles(const QStringList &paths)
 {
-    ProjectFile content = m_content;
-    content.files.removeAll(relative(path));
-    replace(content);
+    QSet<QString> entries;
+    for (const QString &path : paths)
+        entries.insert(relative(path));
+    change([entries](ProjectFile *content) {
+        QStringList rest;
+        for (const QString &entry : qAsConst(content->files)) {
+            if (!entries.contains(QDir::cleanPath(entry)))
+                rest.append(entry);
+        }
+        content->files = rest;
+    });
 }
 
 void Project::moveFile(const QString &path, int steps)
 {
-    ProjectFile content = m_content;
-    const int from = content.files.indexOf(relative(path));
-    if (from < 0)
-        return;
-    content.files.move(from, qBound(0, from + steps, content.files.size() - 1));
-    replace(content);
+    change([entry = relative(path), steps](ProjectFile *content) {
+        const int from = indexOf(content->files, entry);
+        if (from >= 0)
+            content->files.move(from, qBound(0, from + steps, content->files.size() - 1));
+    });
 }
 
 QStringList Project::ipFiles() const
 {
     QStringList found;
     collectIpFiles(QDir(path()), ipSearchDepth, &found);
+    QSet<QString> known(found.begin(), found.end());
     const QStringList listed = files();
     for (const QString &file : listed) {
-        if (file.endsWith(QLatin1String(".ipc")) && !found.contains(file))
+        if (file.endsWith(QLatin1String(".ipc")) && !known.contains(file)) {
+            known.insert(file);
             found.append(file);
+        }
     }
     return found;
 }
 
-void Project::replace(const ProjectFile &content)
+QString Project::freeIpFolder(const QString &target) const
+{
+    const QDir folder(path());
+    if (ipFiles().isEmpty() && (target.isEmpty() || !QFileInfo::exists(folder.filePath(target))))
+        return path();
+    for (int n = 2;; ++n) {
+        const QString candidate = folder.filePath(QStringLiteral("ip%1").arg(n));
+        if (!QFileInfo::exists(candidate) && !QFileInfo(candidate).isSymLink())
+            return candidate;
+    }
+}
+
+void Project::change(const Operation &operation)
+{
+    m_pending.append(operation);
+    QString error;
+    const bool written = writePending(&error);
+    watch();
+    if (!written)
+        Q_EMIT failed(error);
+}
+
+bool Project::writePending(QString *error)
+{
+    ProjectFile present = m_stored;
+    ProjectFile content;
+    bool written = false;
+    {
+        const FileLock lock(m_path, lockPatience);
+        if (!lock.isHeld())
+            *error = lock.error();
+        const bool known = lock.isHeld() && (!QFileInfo::exists(m_path) ||
+                                             ProjectFile::read(m_path, &present, error));
+        if (known)
+            m_stored = present;
+        content = m_stored;
+        for (const Operation &operation : qAsConst(m_pending))
+            operation(&content);
+        // A file that is missing is written even if nothing has changed.
+        written = known && ((content == m_stored && QFileInfo::exists(m_path)) ||
+                            content.write(m_path, error));
+    }
+    if (written) {
+        m_stored = content;
+        m_pending.clear();
+    }
+    show(content);
+    return written;
+}
+
+void Project::show(const ProjectFile &content)
 {
     if (content == m_content)
         return;
     m_content = content;
-    QString error;
-    const bool written = m_content.write(m_path, &error);
-    watch();
     Q_EMIT changed();
-    if (!written)
-        Q_EMIT failed(error);
 }
 
 // The watcher forgets a file that was replaced, and folders that did not exist.
@@ -209,6 +287,12 @@ void Project::watch()
         QDir(path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks).mid(0, 100);
     for (const QString &folder : folders)
         wanted.append(QDir(path()).filePath(folder));
+    const QStringList ips = ipFiles().mid(0, 100);
+    for (const QString &ip : ips) {
+        const QString folder = QFileInfo(ip).path();
+        if (!wanted.contains(folder) && QFileInfo::exists(folder))
+            wanted.append(folder);
+    }
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     QStringList missing;
     for (const QString &entry : wanted) {
@@ -233,10 +317,13 @@ void Project::onFileChanged()
     QString error;
     if (!ProjectFile::read(m_path, &content, &error)) {
         Q_EMIT failed(error);
-    } else if (!(content == m_content)) {
-        m_content = content;
-        Q_EMIT changed();
+        return;
     }
+    m_stored = content;
+    if (m_pending.isEmpty())
+        show(content);
+    else if (!writePending(&error))
+        Q_EMIT failed(error);
 }
 
 QString Project::relative(const QString &path) const
@@ -244,11 +331,6 @@ QString Project::relative(const QString &path) const
     const QString absolutePath =
         QDir::cleanPath(QDir(this->path()).absoluteFilePath(QDir::fromNativeSeparators(path)));
     return QDir(this->path()).relativeFilePath(absolutePath);
-}
-
-QString Project::absolute(const QString &entry) const
-{
-    return QDir::cleanPath(QDir(path()).absoluteFilePath(entry));
 }
 
 } // namespace Workbench

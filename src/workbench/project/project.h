@@ -8,12 +8,15 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 namespace Workbench
 {
 
-// The open project. Every change is written at once; there is nothing to save.
+// The open project. Every change is written at once; there is nothing to save. A change is applied
+// to what the file holds at that time, under a lock, so that other programs that change it
+// likewise lose nothing.
 class Project : public QObject, public Core::Project
 {
     Q_OBJECT
@@ -46,29 +49,41 @@ public:
     void setTopModule(const QString &name);
     // Absolute paths of the sources, in order.
     QStringList files() const;
-    void removeFile(const QString &path);
+    void removeFile(const QString &path) { removeFiles({path}); }
+    void removeFiles(const QStringList &paths);
     // Moves a source by `steps` places (negative: towards the top).
     void moveFile(const QString &path, int steps);
     // Absolute paths of the IP configurations (.ipc) in the project's folder, up to two folders
     // deep, and of those among the sources.
     QStringList ipFiles() const;
+    // The folder to make another IP in, below which the folder that the IP's dialog makes is new:
+    // the project's own for the first IP, then "ip2", "ip3", … in it, which do not exist.
+    // `target` is the name that the IP's files have, as far as it is known.
+    QString freeIpFolder(const QString &target) const;
 
 Q_SIGNALS:
     void changed();
     // A change could not be written, or the file was changed outside and cannot be read. The
-    // content in memory stands; the next change writes it.
+    // content in memory stands; the next change, or the file once it can be read, writes it. A file
+    // that cannot be read is not replaced.
     void failed(const QString &message);
 
 private:
+    // Applied again where the file has changed meanwhile.
+    using Operation = std::function<void(ProjectFile *)>;
+
     Project(const QString &path, const ProjectFile &content);
-    void replace(const ProjectFile &content);
+    void change(const Operation &operation);
+    bool writePending(QString *error);
+    void show(const ProjectFile &content);
     void watch();
     void onFileChanged();
     QString relative(const QString &path) const;
-    QString absolute(const QString &entry) const;
 
     QString m_path;
-    ProjectFile m_content;
+    ProjectFile m_stored;  // what the file held when it was read or written last
+    ProjectFile m_content; // the same with what is not written yet
+    QList<Operation> m_pending;
     QFileSystemWatcher m_watcher;
 };
 

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QSet>
 
 namespace Workbench
 {
@@ -92,11 +93,16 @@ bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectF
     if (!files.isArray() && !files.isUndefined())
         return fail(path, tr("\"files\" is no list"), error);
     const QJsonArray entries = files.toArray();
+    QSet<QString> listed;
     for (const QJsonValue &value : entries) {
         if (!value.isString() || value.toString().isEmpty())
             return fail(path, tr("\"files\" holds an entry that is no file name"), error);
-        if (!result.files.contains(value.toString()))
+        // "./a.v" and "a.v" are one file.
+        const QString entry = QDir::cleanPath(value.toString());
+        if (!listed.contains(entry)) {
+            listed.insert(entry);
             result.files.append(value.toString());
+        }
     }
     result.others = root;
     *file = result;

@@ -1,5 +1,6 @@
 #include "projectmodel.h"
 
+#include "ipchead.h"
 #include "project.h"
 #include "widgets/symbolicon.h"
 
@@ -34,8 +35,8 @@ void ProjectModel::setProject(Project *project)
     for (QList<Entry> &entries : m_entries)
         entries.clear();
     if (m_project) {
-        m_entries[Ips] = read(m_project->ipFiles());
-        m_entries[Sources] = read(m_project->files());
+        m_entries[Ips] = read(Ips);
+        m_entries[Sources] = read(Sources);
         connect(m_project, &Project::changed, this, &ProjectModel::refresh);
     }
     endResetModel();
@@ -45,9 +46,8 @@ void ProjectModel::refresh()
 {
     if (!m_project)
         return;
-    const QStringList paths[GroupCount] = {m_project->ipFiles(), m_project->files()};
     for (int group = 0; group < GroupCount; ++group) {
-        const QList<Entry> entries = read(paths[group]);
+        const QList<Entry> entries = read(Group(group));
         if (entries == m_entries[group])
             continue;
         // Views keep their groups open: only the rows below change.
@@ -67,13 +67,28 @@ void ProjectModel::refresh()
     Q_EMIT dataChanged(groupIndex(Ips), groupIndex(Sources));
 }
 
-QList<ProjectModel::Entry> ProjectModel::read(const QStringList &paths) const
+QList<ProjectModel::Entry> ProjectModel::read(Group group) const
 {
-    QList<Entry> entries;
+    const QStringList paths = group == Ips ? m_project->ipFiles() : m_project->files();
+    const DEV::DeviceArg device = m_project->device();
     const QDir folder(m_project->path());
-    for (const QString &path : paths)
-        entries.append({path, QDir::toNativeSeparators(folder.relativeFilePath(path)),
-                        !QFileInfo::exists(path)});
+    const QString inside = m_project->path() + u'/';
+    QList<Entry> entries;
+    entries.reserve(paths.size());
+    for (const QString &path : paths) {
+        Entry file;
+        file.path = path;
+        file.text = QDir::toNativeSeparators(
+            path.startsWith(inside) ? path.mid(inside.size()) : folder.relativeFilePath(path));
+        file.missing = !QFileInfo::exists(path);
+        if (group == Ips && !file.missing) {
+            const IpcHead head = IpcHead::read(path);
+            file.type = head.type;
+            file.difference = head.difference(device);
+            file.explanation = head.differenceSentence(device);
+        }
+        entries.append(file);
+    }
     return entries;
 }
 
@@ -164,15 +179,26 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
     }
     switch (role) {
     case Qt::DisplayRole:
-        return file->missing ? tr("%1 (missing)").arg(file->text) : file->text;
+        if (file->missing)
+            return tr("%1 (missing)").arg(file->text);
+        return file->difference.isEmpty() ? file->text
+                                          : tr("%1 (%2)").arg(file->text, file->difference);
+    case Qt::AccessibleTextRole:
+        if (file->difference.isEmpty())
+            return data(index, Qt::DisplayRole);
+        return tr("%1. %2").arg(file->text, file->explanation);
     case Qt::ToolTipRole: {
         const QString path = QDir::toNativeSeparators(file->path);
-        return file->missing ? tr("%1 does not exist").arg(path) : path;
+        if (file->missing)
+            return tr("%1 does not exist").arg(path);
+        if (file->difference.isEmpty())
+            return path;
+        return tr("%1\n%2\nProject > Move to Device… moves it.").arg(path, file->explanation);
     }
     case Qt::DecorationRole:
-        return symbolIcon(file->missing               ? QStringLiteral("warning")
-                          : index.internalId() == Ips ? QStringLiteral("ip-file")
-                                                      : QStringLiteral("file"));
+        return symbolIcon(file->missing || !file->difference.isEmpty() ? QStringLiteral("warning")
+                          : index.internalId() == Ips                  ? QStringLiteral("ip-file")
+                                                                       : QStringLiteral("file"));
     case Qt::ForegroundRole:
         if (file->missing)
             return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
@@ -181,6 +207,10 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
         return file->path;
     case MissingRole:
         return file->missing;
+    case TypeRole:
+        return file->type;
+    case OtherDeviceRole:
+        return !file->difference.isEmpty();
     default:
         return {};
     }

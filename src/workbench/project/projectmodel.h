@@ -10,14 +10,14 @@ namespace Workbench
 class Project;
 
 // The open project as a tree: its IPs (.ipc files) and its sources in order. A file that does not
-// exist is shown and says so.
+// exist is shown and says so, and so is an IP that is made for another device than the project's.
 class ProjectModel : public QAbstractItemModel
 {
     Q_OBJECT
 
 public:
     enum Group { Ips, Sources, GroupCount };
-    enum Role { PathRole = Qt::UserRole, MissingRole };
+    enum Role { PathRole = Qt::UserRole, MissingRole, OtherDeviceRole, TypeRole };
 
     explicit ProjectModel(QObject *parent = nullptr);
 
@@ -44,13 +44,17 @@ private:
         QString path;
         QString text; // relative to the project's folder
         bool missing = false;
+        QString type;       // of an IP
+        QString difference; // of an IP's device
+        QString explanation;
         bool operator==(const Entry &other) const
         {
-            return path == other.path && text == other.text && missing == other.missing;
+            return path == other.path && text == other.text && missing == other.missing &&
+                   type == other.type && difference == other.difference;
         }
     };
 
-    QList<Entry> read(const QStringList &paths) const;
+    QList<Entry> read(Group group) const;
     const Entry *entry(const QModelIndex &index) const;
 
     QPointer<Project> m_project;

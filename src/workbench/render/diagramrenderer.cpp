@@ -3,12 +3,15 @@
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/ipsession.h"
 
+#include <utils/fileutils.h>
+
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMetaMethod>
+#include <QTemporaryDir>
 
 namespace Workbench
 {
@@ -17,6 +20,23 @@ namespace
 {
 
 constexpr const char *saveMethod = "saveDiagram(QString,QString*)";
+
+// How the files of the formats begin, within their first kilobyte.
+struct Format {
+    const char *ending;
+    const char *mark;
+};
+constexpr Format formats[] = {{"svg", "<svg"}, {"png", "\x89PNG"}, {"pdf", "%PDF"}};
+
+const Format *formatOf(const QString &picture)
+{
+    const QString ending = QFileInfo(picture).suffix().toLower();
+    for (const Format &format : formats) {
+        if (ending == QLatin1String(format.ending))
+            return &format;
+    }
+    return nullptr;
+}
 
 QWidget *findDiagram(QWidget *dialog)
 {
@@ -42,18 +62,18 @@ DiagramRenderer::DiagramRenderer(IpCatalogue &catalogue, QObject *parent)
 
 bool DiagramRenderer::render(const QString &ipcFile, const QString &picture, QString *error)
 {
-    static const QStringList endings{QStringLiteral("svg"), QStringLiteral("png"),
-                                     QStringLiteral("pdf")};
-    if (!endings.contains(QFileInfo(picture).suffix().toLower())) {
+    const Format *format = formatOf(picture);
+    if (!format) {
         *error = tr("The picture \"%1\" must end in .svg, .png or .pdf.")
                      .arg(QDir::toNativeSeparators(picture));
         return false;
     }
-    m_picture = QFileInfo(picture).absoluteFilePath();
+    const QTemporaryDir scratch;
+    m_draft = scratch.filePath(QLatin1String("diagram.") + QLatin1String(format->ending));
+    m_drawing.clear();
     m_said.clear();
     m_error.clear();
     m_drawn = false;
-    m_saved = false;
     IpSession session(m_catalogue);
     m_timer.start();
     QString opening;
@@ -65,8 +85,11 @@ bool DiagramRenderer::render(const QString &ipcFile, const QString &picture, QSt
         if (!reason.isEmpty())
             reasons.append(reason);
     }
-    if (m_saved)
-        return true;
+    if (m_drawing.left(1024).contains(format->mark))
+        return Utils::FileUtils::writeFile(QFileInfo(picture).absoluteFilePath(), m_drawing, error);
+    if (m_drawn && reasons.isEmpty())
+        reasons.append(
+            tr("The plug-in of \"%1\" wrote no picture.").arg(QDir::toNativeSeparators(ipcFile)));
     if (reasons.isEmpty())
         reasons.append(
             tr("The dialog of \"%1\" did not open.").arg(QDir::toNativeSeparators(ipcFile)));
@@ -102,12 +125,18 @@ void DiagramRenderer::draw(QWidget *dialog)
     }
     QString reason;
     bool saved = false;
-    const bool called = QMetaObject::invokeMethod(
-        diagram, "saveDiagram", Qt::DirectConnection, Q_RETURN_ARG(bool, saved),
-        Q_ARG(QString, m_picture), Q_ARG(QString*, &reason));
-    m_saved = called && saved;
-    if (!m_saved)
+    bool called = false;
+    const QString thrown = PluginLoader::thrownBy([&] {
+        called = QMetaObject::invokeMethod(diagram, "saveDiagram", Qt::DirectConnection,
+                                           Q_RETURN_ARG(bool, saved), Q_ARG(QString, m_draft),
+                                           Q_ARG(QString *, &reason));
+    });
+    if (!thrown.isEmpty())
+        reason = tr("The plug-in failed when it was asked for the diagram: %1.").arg(thrown);
+    if (!called || !saved)
         m_error = reason.isEmpty() ? tr("The diagram could not be written.") : reason;
+    else if (QFileInfo(m_draft).isFile())
+        Utils::FileUtils::readFile(m_draft, &m_drawing, &m_error);
 }
 
 } // namespace Workbench

@@ -14,8 +14,9 @@ class IpCatalogue;
 //
 // The dialog, or a widget in it, offers its diagram by an invokable method
 // `bool saveDiagram(const QString &path, QString *error)`, which chooses the format by the ending
-// of the path. Everything else that comes up meanwhile is closed, and the text of a message box
-// becomes the reason of the failure.
+// of the path. It draws into a folder of the renderer's own; what it has drawn there, if it is a
+// picture of that format, is then put in place. Everything else that comes up meanwhile is closed,
+// and the text of a message box becomes the reason of the failure.
 class DiagramRenderer : public QObject
 {
     Q_OBJECT
@@ -33,11 +34,11 @@ private:
 
     IpCatalogue &m_catalogue;
     QTimer m_timer;
-    QString m_picture;
+    QString m_draft;
+    QByteArray m_drawing;
     QStringList m_said; // by message boxes
     QString m_error;
     bool m_drawn = false;
-    bool m_saved = false;
 };
 
 } // namespace Workbench

@@ -155,6 +155,12 @@ MainWindow::Actions::Actions(MainWindow *window)
             window->openPath(window->selectedFile(), 1);
     });
     openAsText->setStatusTip(tr("Shows an IP's configuration in the editor, not in its dialog"));
+    moveToDevice = add(project, tr("&Move to Device…"), {}, nothing, [window] {
+        if (!window->selectedFile().isEmpty())
+            window->chooseDeviceOf(window->selectedFile());
+    });
+    add(project, tr("&Bring Back a Configuration…"), {}, nothing, [window] { window->showKept(); });
+    project->setToolTipsVisible(true); // why an IP cannot be moved
     project->addSeparator();
     addSources = add(project, tr("&Add Source Files…"), QStringLiteral("add"),
                      QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_A),

@@ -31,6 +31,7 @@ public:
     QAction *newSource;
     QAction *openSelected;
     QAction *openAsText;
+    QAction *moveToDevice;
     QAction *removeSource;
     QAction *moveUp;
     QAction *moveDown;

@@ -4,17 +4,21 @@
 #include "catalogue/catalogueview.h"
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/ipsession.h"
+#include "catalogue/movedialog.h"
 #include "catalogue/pluginsdialog.h"
 #include "devices/devicedialog.h"
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
 #include "editor/editortabs.h"
 #include "editor/unsavedcopy.h"
+#include "kept/keptconfigurations.h"
+#include "kept/keptdialog.h"
 #include "messages/logview.h"
 #include "messages/messagemodel.h"
 #include "messages/messagesview.h"
 #include "messages/outputpane.h"
 #include "newprojectdialog.h"
+#include "project/ipchead.h"
 #include "project/projectmodel.h"
 #include "results/resultpage.h"
 #include "startpage.h"
@@ -24,6 +28,7 @@
 #include <core/editormanager.h>
 #include <core/projectmanager.h>
 #include <core/viewmanager.h>
+#include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
 #include <ipcore/synthesismonitor.h>
 #include <utils/fileutils.h>
@@ -73,6 +78,9 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_catalogue(catalogue)
     , m_settings(settings)
     , m_session(new IpSession(catalogue, this))
+    , m_kept(new KeptConfigurations(QFileInfo(settings.fileName()).absolutePath() +
+                                        QStringLiteral("/kept-configurations"),
+                                    this))
     , m_stack(new QStackedWidget)
     , m_start(new StartPage)
     , m_tabs(new EditorTabs)
@@ -105,8 +113,9 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     buildStatusBar();
     m_actions = std::make_unique<Actions>(this);
     m_projectTree->addActions({m_actions->openSelected, m_actions->openAsText,
-                               m_actions->addSources, m_actions->newSource, m_actions->removeSource,
-                               m_actions->moveUp, m_actions->moveDown, m_actions->topModule});
+                               m_actions->moveToDevice, m_actions->addSources, m_actions->newSource,
+                               m_actions->removeSource, m_actions->moveUp, m_actions->moveDown,
+                               m_actions->topModule});
 
     connect(m_start, &StartPage::newProjectRequested, this, &MainWindow::newProject);
     connect(m_start, &StartPage::openRequested, this, &MainWindow::open);
@@ -116,6 +125,29 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
         [this](const QString &path) { openPath(path); }, Qt::QueuedConnection);
     connect(m_start, &StartPage::createIpRequested, this, &MainWindow::createSelectedIp,
             Qt::QueuedConnection);
+    connect(m_start, &StartPage::bringBackRequested, this, &MainWindow::bringBack,
+            Qt::QueuedConnection);
+    connect(m_start, &StartPage::allKeptRequested, this, &MainWindow::showKept,
+            Qt::QueuedConnection);
+    m_session->setKept(m_kept);
+    m_session->setKnownFiles([this] { return m_project ? m_project->ipFiles() : QStringList(); });
+    const auto keepFailed = [this](const QString &message) {
+        m_messages->append(MessageModel::Warning,
+                           tr("No copy of a configuration was kept. %1").arg(message), {});
+        m_infoBar->showMessage(tr("No copy of a configuration was kept. %1").arg(message), {});
+    };
+    connect(m_session, &IpSession::keepFailed, this, keepFailed);
+    IPCore::setConfigKeeper([this, keepFailed](const QString &path) {
+        QString error;
+        if (!m_kept->keepFile(path, &error))
+            keepFailed(error);
+    });
+    connect(m_session, &IpSession::dropped, this, [this](const QString &id, const QString &file) {
+        m_infoBar->showMessage(
+            tr("The dialog of \"%1\" was closed without OK. Its changes are kept.")
+                .arg(QDir::toNativeSeparators(file)),
+            {{tr("&Bring Back…"), [this, id] { bringBack(id); }}});
+    });
     connect(m_catalogueView, &CatalogueView::activated, this, &MainWindow::createSelectedIp);
     connect(m_tabs, &EditorTabs::countChanged, this, &MainWindow::showStart);
     connect(m_tabs, &EditorTabs::currentStateChanged, this, &MainWindow::showEditorState);
@@ -144,6 +176,7 @@ MainWindow::~MainWindow()
     Core::EditorManager::setHandler(nullptr);
     Core::ViewManager::setDialogParent(nullptr);
     Core::ProjectManager::setCurrentProject(nullptr);
+    IPCore::setConfigKeeper(nullptr);
     IPCore::SynthesisMonitor::instance().disconnect(this);
     // Their signals must not reach a half-destroyed window.
     m_tabs->disconnect(this);
@@ -282,7 +315,7 @@ void MainWindow::showStart()
 {
     const bool empty = m_tabs->count() == 0;
     if (empty)
-        m_start->showState(m_project.get(), m_catalogue, recent());
+        m_start->showState(m_project.get(), m_catalogue, recent(), m_kept->items());
     m_stack->setCurrentWidget(empty ? static_cast<QWidget *>(m_start) : m_tabs);
     showEditorState();
 }
@@ -305,15 +338,28 @@ void MainWindow::showEditorState()
     const QModelIndex selected = m_projectTree->currentIndex();
     m_actions->openSelected->setEnabled(!selectedFile().isEmpty());
     m_actions->openAsText->setEnabled(m_projectModel->isIp(selected));
+    const int ip = m_projectModel->isIp(selected)
+                       ? m_catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
+                       : -1;
+    const bool canMove = ip >= 0 && m_catalogue.canMove(ip);
+    m_actions->moveToDevice->setEnabled(canMove);
+    const QString moveTip =
+        canMove   ? tr("Changes the device of the selected IP, and shows what it loses")
+        : ip >= 0 ? tr("The plug-in of %1 cannot move its IPs to other devices")
+                        .arg(m_catalogue.entries().at(ip).name)
+                  : tr("Select an IP in the project to change its device");
+    m_actions->moveToDevice->setToolTip(moveTip);
+    m_actions->moveToDevice->setStatusTip(moveTip);
     for (QAction *action : {m_actions->removeSource, m_actions->moveUp, m_actions->moveDown})
         action->setEnabled(m_projectModel->isSource(selected));
     m_cursorLabel->setVisible(page != nullptr);
     if (page)
-        m_cursorLabel->setText(
-            tr("Line %1, column %2   %3")
-                .arg(page->editor()->currentLine())
-                .arg(page->editor()->textCursor().positionInBlock() + 1)
-                .arg(page->isEditable() ? tr("editing") : tr("reading (Ctrl+E edits)")));
+        m_cursorLabel->setText(tr("Line %1, column %2   %3   %4")
+                                   .arg(page->editor()->currentLine())
+                                   .arg(page->editor()->textCursor().positionInBlock() + 1)
+                                   .arg(page->formatName(), page->isEditable()
+                                                                ? tr("editing")
+                                                                : tr("reading (Ctrl+E edits)")));
 }
 
 OutputPane *MainWindow::output()
@@ -341,10 +387,8 @@ ResultPage *MainWindow::results()
         connect(m_results, &ResultPage::openRequested, this,
                 [this](const QString &path) { openPath(path); });
         connect(m_results, &ResultPage::removalRequested, this, [this](const QStringList &files) {
-            for (const QString &file : files) {
-                if (m_project)
-                    m_project->removeFile(file);
-            }
+            if (m_project)
+                m_project->removeFiles(files);
         });
     }
     return m_results;
@@ -423,19 +467,74 @@ bool MainWindow::closeProject()
 
 bool MainWindow::openIp(const QString &ipcFile)
 {
+    if (!settleUnknownDevice(ipcFile))
+        return false;
     m_hasNewReport = false;
     QString error;
-    const bool opened = m_session->open(ipcFile, &error);
+    const bool opened = withCopies([&] { return m_session->open(ipcFile, &error); });
     if (!opened && !m_closing)
         report(error);
     return opened;
+}
+
+bool MainWindow::settleUnknownDevice(const QString &ipcFile)
+{
+    const IpcHead head = IpcHead::read(ipcFile);
+    const int ip = m_catalogue.indexOf(head.type);
+    if (!head.hasUnknownDevice() || ip < 0)
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("Unknown device"),
+                    tr("\"%1\" is made for the device \"%2\", which the device database does not "
+                       "know.")
+                        .arg(QDir::toNativeSeparators(ipcFile), head.deviceName),
+                    QMessageBox::Cancel, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        m_catalogue.canMove(ip)
+            ? tr("Move it to a device that is known, or open it all the same: its dialog has no "
+                 "device then, and OK there stores it without one.")
+            : tr("Its plug-in cannot move it to another device. Opened all the same, its dialog "
+                 "has "
+                 "no device, and OK there stores it without one."));
+    QPushButton *move = nullptr;
+    if (m_catalogue.canMove(ip)) {
+        move = box.addButton(tr("&Move to Device…"), QMessageBox::AcceptRole);
+        box.setDefaultButton(move);
+    } else {
+        box.setDefaultButton(QMessageBox::Cancel);
+    }
+    QPushButton *open = box.addButton(tr("&Open All the Same"), QMessageBox::DestructiveRole);
+    box.exec();
+    if (move && box.clickedButton() == move) {
+        chooseDeviceOf(ipcFile);
+        return !IpcHead::read(ipcFile).hasUnknownDevice();
+    }
+    return box.clickedButton() == open;
+}
+
+bool MainWindow::withCopies(const std::function<bool()> &call)
+{
+    QStringList copies;
+    m_copiesTold = m_tabs->keepChanges(&copies);
+    const bool result = call();
+    m_copiesTold.clear();
+    for (const QString &copy : qAsConst(copies))
+        QFile::remove(copy);
+    return result;
+}
+
+void MainWindow::keepUnsaved()
+{
+    const QStringList told = m_copiesTold.isEmpty() ? m_tabs->keepChanges() : m_copiesTold;
+    for (const QString &line : told)
+        qWarning("%s", qUtf8Printable(line));
 }
 
 bool MainWindow::createIp(int ip, const QString &folder, const DEV::DeviceArg &device)
 {
     m_hasNewReport = false;
     QString error;
-    const bool created = m_session->create(ip, folder, device, &error);
+    const bool created = withCopies([&] { return m_session->create(ip, folder, device, &error); });
     if (!created && !m_closing)
         report(error);
     return created;
@@ -456,7 +555,119 @@ void MainWindow::createSelectedIp(int ip)
         if (!m_project)
             return;
     }
-    createIp(ip, m_project->path(), m_project->device());
+    createIp(ip, m_project->freeIpFolder(m_catalogue.targetOf(ip)), m_project->device());
+}
+
+bool MainWindow::moveIp(const QString &ipcFile, const DEV::DeviceArg &device)
+{
+    const IpcHead head = IpcHead::read(ipcFile);
+    const int ip = m_catalogue.indexOf(head.type);
+    const QString name = QFileInfo(ipcFile).fileName();
+    QString error;
+    IpCatalogue::Move move;
+    if (ip < 0) {
+        report(tr("No plug-in offers the IP of \"%1\".").arg(QDir::toNativeSeparators(ipcFile)));
+        return false;
+    }
+    if (!m_catalogue.isSupported(ip, device, &error) || !withCopies([&] {
+            return m_catalogue.moveToDevice(ip, ipcFile, device.id(), false, &move, &error);
+        })) {
+        report(error);
+        return false;
+    }
+    MoveDialog dialog(name, head.deviceWords(), IpcHead::words(device), move.losses, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    if (!m_kept->keepFile(ipcFile, &error)) {
+        report(tr("\"%1\" is not moved, because no copy of it can be kept. %2").arg(name, error));
+        return false;
+    }
+    if (!withCopies([&] {
+            return m_catalogue.moveToDevice(ip, ipcFile, device.id(), true, &move, &error);
+        })) {
+        report(error);
+        return false;
+    }
+    m_projectModel->refresh();
+    showStart();
+    m_infoBar->showMessage(
+        tr("\"%1\" is for the device %2 now. What was generated is still for the "
+           "one before.")
+            .arg(name, IpcHead::words(device)),
+        {{tr("&Open It to Generate It Anew…"), [this, ipcFile] { openIp(ipcFile); }}});
+    return true;
+}
+
+void MainWindow::chooseDeviceOf(const QString &ipcFile)
+{
+    const IpcHead head = IpcHead::read(ipcFile);
+    const QString current =
+        m_project && !m_project->device().isNull() ? m_project->deviceId() : head.device.id();
+    DeviceDialog dialog(tr("Move \"%1\" to Device").arg(QFileInfo(ipcFile).fileName()), current,
+                        this);
+    if (dialog.exec() == QDialog::Accepted && !dialog.device().isNull())
+        moveIp(ipcFile, dialog.device());
+}
+
+bool MainWindow::bringBack(const QString &keptId)
+{
+    const KeptConfigurations::Item item = m_kept->item(keptId);
+    QString error;
+    if (item.id.isEmpty()) {
+        report(tr("This copy is gone."));
+        showStart();
+        return false;
+    }
+    const QString shown = QDir::toNativeSeparators(item.origin);
+    if (item.kind == KeptConfigurations::Dropped) {
+        QString folder = QFileInfo(item.origin).absolutePath();
+        // Another IP was made there meanwhile.
+        if (item.isNew && QFileInfo::exists(item.origin)) {
+            const QString taken = folder;
+            for (int n = 2; QFileInfo::exists(folder); ++n)
+                folder = QStringLiteral("%1-%2").arg(taken).arg(n);
+        }
+        m_hasNewReport = false;
+        const bool opened =
+            withCopies([&] { return m_session->openAs(item.copy, folder, &error); });
+        if (m_session->wasAccepted())
+            m_kept->forget(keptId);
+        if (!opened && !m_closing)
+            report(error);
+        return opened;
+    }
+    QMessageBox box(QMessageBox::Question, tr("Bring back"),
+                    QFileInfo::exists(item.origin)
+                        ? tr("Replace \"%1\" by what it was before?").arg(shown)
+                        : tr("Write \"%1\" again as it was?").arg(shown),
+                    QMessageBox::Yes | QMessageBox::Cancel, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(QFileInfo::exists(item.origin)
+                               ? tr("%1.\nA copy of the present configuration is kept as well.")
+                                     .arg(item.description())
+                               : tr("%1.").arg(item.description()));
+    box.setDefaultButton(QMessageBox::Yes);
+    if (box.exec() != QMessageBox::Yes)
+        return false;
+    if (!m_kept->restore(keptId, &error)) {
+        report(error);
+        return false;
+    }
+    m_projectModel->refresh();
+    showStart();
+    m_infoBar->showMessage(
+        tr("\"%1\" is as it was. What was generated is not.").arg(shown),
+        {{tr("&Open It to Generate It Anew…"), [this, path = item.origin] { openIp(path); }}});
+    return true;
+}
+
+void MainWindow::showKept()
+{
+    KeptDialog dialog(m_kept, this);
+    const bool chosen = dialog.exec() == QDialog::Accepted;
+    showStart();
+    if (chosen && !dialog.chosen().isEmpty())
+        bringBack(dialog.chosen());
 }
 
 void MainWindow::onIpClosed(const QStringList &files)
@@ -597,17 +808,59 @@ void MainWindow::chooseDevice()
 {
     if (!m_project)
         return;
-    DeviceDialog dialog(m_project->deviceId(), this);
-    if (dialog.exec() == QDialog::Accepted && !dialog.device().isNull())
-        m_project->setDevice(dialog.device());
+    DeviceDialog dialog(tr("Device of the Project"), m_project->deviceId(), this);
+    if (dialog.exec() != QDialog::Accepted || dialog.device().isNull())
+        return;
+    m_project->setDevice(dialog.device());
+    showDrift();
+}
+
+// After a change of the project's device: the IPs that are made for another one.
+void MainWindow::showDrift()
+{
+    QStringList others;
+    const QModelIndex ips = m_projectModel->groupIndex(ProjectModel::Ips);
+    for (int row = 0; row < m_projectModel->rowCount(ips); ++row) {
+        const QModelIndex index = m_projectModel->index(row, 0, ips);
+        if (index.data(ProjectModel::OtherDeviceRole).toBool())
+            others.append(index.data(ProjectModel::PathRole).toString());
+    }
+    if (others.isEmpty())
+        return;
+    const QString first = others.first();
+    const auto select = [this, first] {
+        m_projectDock->show();
+        m_projectTree->setFocus();
+        m_projectTree->setCurrentIndex(m_projectModel->indexOf(first));
+    };
+    if (others.size() > 1) {
+        m_infoBar->showMessage(
+            tr("%1 IPs of this project are made for other devices.").arg(others.size()),
+            {{tr("&Show"), select}});
+        return;
+    }
+    const IpcHead head = IpcHead::read(first);
+    const int ip = m_catalogue.indexOf(head.type);
+    QList<InfoBar::Action> actions{{tr("&Show"), select}};
+    if (ip >= 0 && m_catalogue.canMove(ip))
+        actions = {{tr("&Move It to the Project's Device…"),
+                    [this, first] { moveIp(first, m_project->device()); }}};
+    m_infoBar->showMessage(tr("\"%1\" is still made for the device %2.")
+                               .arg(QFileInfo(first).fileName(), head.deviceWords()),
+                           actions);
 }
 
 void MainWindow::showPlugins()
 {
     const QStringList before = m_settings.value(foldersKey).toStringList();
     PluginsDialog dialog(m_catalogue, before, this);
+    bool again = false;
+    connect(&dialog, &PluginsDialog::tryAgainRequested, this, [&again] { again = true; });
     if (dialog.exec() != QDialog::Accepted)
         return;
+    // When everything else here is done.
+    if (again)
+        QTimer::singleShot(0, this, &MainWindow::tryPluginsAgain);
     const QStringList folders = dialog.folders();
     m_settings.setValue(foldersKey, folders);
     const int failures = m_catalogue.failures().size();
@@ -620,6 +873,17 @@ void MainWindow::showPlugins()
     if (m_catalogue.failures().size() > failures)
         m_infoBar->showMessage(tr("Not every plug-in of the new folders can be used."),
                                {{tr("&Details"), [this] { showPlugins(); }}});
+}
+
+void MainWindow::tryPluginsAgain()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_catalogue.tryAgain();
+    QApplication::restoreOverrideCursor();
+    m_catalogueView->reload();
+    m_infoBar->hide();
+    showStart();
+    showPlugins();
 }
 
 void MainWindow::about()
@@ -752,8 +1016,9 @@ void MainWindow::shutDown()
     if (m_closing)
         return;
     m_closing = true;
-    const QStringList kept = m_tabs->keepChanges();
-    for (const QString &line : kept)
+    // Not those that stand while a plug-in runs: they go when it returns.
+    const QStringList told = m_tabs->keepChanges();
+    for (const QString &line : told)
         qWarning("%s", qUtf8Printable(line));
     IPCore::SynthesisMonitor::instance().cancelAll();
     continueClosing();

@@ -31,6 +31,7 @@ class EditorTabs;
 class InfoBar;
 class IpCatalogue;
 class IpSession;
+class KeptConfigurations;
 class LogView;
 class MessageModel;
 class OutputPane;
@@ -64,7 +65,14 @@ public:
     bool openPath(const QString &path, int line = 0);
     bool openIp(const QString &ipcFile);
     bool createIp(int ip, const QString &folder, const DEV::DeviceArg &device);
+    // Moves an IP to a device after showing what it loses; false if it was not moved.
+    bool moveIp(const QString &ipcFile, const DEV::DeviceArg &device);
+    // Restores a kept configuration after a question, or opens what was dropped in its dialog.
+    bool bringBack(const QString &keptId);
+    KeptConfigurations *kept() const { return m_kept; }
 
+    // Keeps unsaved changes in files of their own and tells where, on standard error.
+    void keepUnsaved();
     // Closes the window without a question: keeps unsaved changes in files of their own, ends the
     // runs, closes the dialogs, then emits closed().
     void shutDown();
@@ -107,7 +115,15 @@ private:
     void newSource();
     void chooseTopModule();
     void chooseDevice();
+    void showDrift();
+    void chooseDeviceOf(const QString &ipcFile);
+    // What to do with a configuration of an unknown device; true: open it.
+    bool settleUnknownDevice(const QString &ipcFile);
+    void showKept();
     void showPlugins();
+    void tryPluginsAgain();
+    // Runs what calls into a plug-in while unsaved changes stand in copies, which go afterwards.
+    bool withCopies(const std::function<bool()> &call);
     void about();
     void goToLine();
     void editAction(const char *method);
@@ -122,6 +138,7 @@ private:
     std::unique_ptr<Project> m_project;
     std::unique_ptr<Actions> m_actions;
     IpSession *m_session;
+    KeptConfigurations *m_kept;
     QStackedWidget *m_stack;
     StartPage *m_start;
     EditorTabs *m_tabs;
@@ -142,6 +159,7 @@ private:
     QLabel *m_cursorLabel;
     bool m_hasNewReport = false; // since the dialog of an IP was opened
     bool m_closing = false;
+    QStringList m_copiesTold; // of unsaved changes, while a plug-in runs
 };
 
 } // namespace Workbench

@@ -23,6 +23,7 @@ struct Arguments {
     std::string output;
     std::vector<std::string> pluginDirs;
     std::string settings;
+    unsigned timeLimit = 60;
 };
 
 void describe(CLI::App &app, Arguments &arguments)
@@ -59,6 +60,11 @@ void describe(CLI::App &app, Arguments &arguments)
                               ->type_name("FILE")
                               ->needs(render);
     render->needs(output);
+    app.add_option("--time-limit", arguments.timeLimit,
+                   "Longest time for --render-diagram (default: 60)")
+        ->type_name("SECONDS")
+        ->check(CLI::Range(1u, 86400u))
+        ->needs(render);
     app.add_option("--plugin-dir", arguments.pluginDirs,
                    "Search this folder for plug-ins too; may be repeated")
         ->type_name("DIR")
@@ -100,6 +106,7 @@ Options::Next Options::parse(int argc, char *argv[], int *status)
     renderDiagram = text(arguments.renderDiagram);
     output = text(arguments.output);
     settings = text(arguments.settings);
+    timeLimit = arguments.timeLimit;
     *status = 0;
     return Run;
 }

@@ -1,6 +1,7 @@
 #include "startpage.h"
 
 #include "catalogue/ipcatalogue.h"
+#include "project/ipchead.h"
 #include "project/project.h"
 #include "widgets/symbolicon.h"
 
@@ -16,6 +17,9 @@ namespace Workbench
 
 namespace
 {
+
+// More are in the dialog.
+constexpr int keptShown = 3;
 
 QLabel *makeLabel(const QString &text, qreal scale, bool bold)
 {
@@ -48,7 +52,7 @@ StartPage::StartPage(QWidget *parent)
 }
 
 void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
-                          const QStringList &recent)
+                          const QStringList &recent, const QList<KeptConfigurations::Item> &kept)
 {
     auto *content = new QWidget;
     auto *columns = new QHBoxLayout(content);
@@ -60,6 +64,7 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
         showProject(page, *project, catalogue);
     else
         showWelcome(page, recent);
+    showKept(page, project ? project->path() : QString(), kept);
     page->addStretch(1);
     // The old page may be the one whose button is being clicked.
     if (QWidget *old = takeWidget())
@@ -115,9 +120,12 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
     if (!ips.isEmpty())
         page->addWidget(makeLabel(tr("Change an IP of this project"), 1.2, true));
     for (const QString &path : ips) {
-        auto *link = makeLink(QDir::toNativeSeparators(folder.relativeFilePath(path)),
-                              tr("Opens its dialog again; OK there generates it anew."),
-                              QStringLiteral("ip-file"));
+        const QString difference = IpcHead::read(path).differenceSentence(device);
+        auto *link = makeLink(
+            QDir::toNativeSeparators(folder.relativeFilePath(path)),
+            difference.isEmpty() ? tr("Opens its dialog again; OK there generates it anew.")
+                                 : difference,
+            difference.isEmpty() ? QStringLiteral("ip-file") : QStringLiteral("warning"));
         link->setProperty("path", path);
         connect(link, &QPushButton::clicked, this,
                 [this, path] { Q_EMIT openFileRequested(path); });
@@ -151,6 +159,35 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
                "folder of this project, the netlist joins the sources, and the results are shown "
                "here."),
             1, false));
+}
+
+void StartPage::showKept(QVBoxLayout *page, const QString &folder,
+                         const QList<KeptConfigurations::Item> &kept)
+{
+    if (kept.isEmpty())
+        return;
+    page->addSpacing(fontMetrics().height());
+    page->addWidget(makeLabel(tr("Bring back a configuration"), 1.2, true));
+    int shown = 0;
+    for (const KeptConfigurations::Item &item : kept) {
+        if (!item.origin.startsWith(folder + u'/') || shown == keptShown)
+            continue;
+        ++shown;
+        const QString name = folder.isEmpty() ? item.origin : item.origin.mid(folder.size() + 1);
+        auto *link = makeLink(tr("%1…").arg(QDir::toNativeSeparators(name)), item.description(),
+                              QStringLiteral("ip-file"));
+        link->setObjectName(QStringLiteral("bringBackLink"));
+        link->setProperty("keptId", item.id);
+        connect(link, &QPushButton::clicked, this,
+                [this, id = item.id] { Q_EMIT bringBackRequested(id); });
+        page->addWidget(link);
+    }
+    auto *all = makeLink(tr("All kept configurations…"),
+                         tr("What was replaced, or was in a dialog that was closed without OK."),
+                         QStringLiteral("folder"));
+    all->setObjectName(QStringLiteral("allKeptLink"));
+    connect(all, &QPushButton::clicked, this, &StartPage::allKeptRequested);
+    page->addWidget(all);
 }
 
 } // namespace Workbench

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kept/keptconfigurations.h"
+
 #include <QScrollArea>
 
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
@@ -20,17 +22,23 @@ public:
     explicit StartPage(QWidget *parent = nullptr);
 
     // `project` may be null. Nothing is kept of the arguments.
-    void showState(const Project *project, const IpCatalogue &catalogue, const QStringList &recent);
+    void showState(const Project *project, const IpCatalogue &catalogue, const QStringList &recent,
+                   const QList<KeptConfigurations::Item> &kept);
 
 Q_SIGNALS:
     void newProjectRequested();
     void openRequested();
     void openFileRequested(const QString &path);
     void createIpRequested(int ip);
+    void bringBackRequested(const QString &keptId);
+    void allKeptRequested();
 
 private:
     void showWelcome(QVBoxLayout *page, const QStringList &recent);
     void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue);
+    // Those in the folder, which may be empty for all.
+    void showKept(QVBoxLayout *page, const QString &folder,
+                  const QList<KeptConfigurations::Item> &kept);
 };
 
 } // namespace Workbench

@@ -243,6 +243,24 @@ private Q_SLOTS:
                  QByteArray("[General]\nversion=\"1.0 \"\n\n[Config]\ngpio=true\nsize=16 KB\n"));
     }
 
+    void tellsOfAConfigurationBeforeItIsReplaced()
+    {
+        const QString file = path(QStringLiteral("kept.ipc"));
+        QList<QByteArray> seen;
+        IPCore::setConfigKeeper([&seen, &file](const QString &replaced) {
+            QCOMPARE(replaced, file);
+            seen.append(TestSupport::contentsOf(replaced));
+        });
+        IPCore::writeIPConfig(file, {}, {{QStringLiteral("a"), 1}});
+        QVERIFY(seen.isEmpty()); // there was none
+        const QByteArray first = TestSupport::contentsOf(file);
+        IPCore::writeIPConfig(file, {}, {{QStringLiteral("a"), 2}});
+        QCOMPARE(seen, QList<QByteArray>{first});
+        IPCore::setConfigKeeper(nullptr);
+        IPCore::writeIPConfig(file, {}, {{QStringLiteral("a"), 3}});
+        QCOMPARE(seen.size(), 1);
+    }
+
     void reportsAnIpConfigurationThatCannotBeWritten()
     {
         const QString file = path(QStringLiteral("file %1/a.ipc"));

@@ -12,6 +12,7 @@
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
 #include <ui/tarvoorixm1dlg.h>
+#include <utils/inifile.h>
 
 #include <QComboBox>
 #include <QDesktopServices>
@@ -104,6 +105,7 @@ private Q_SLOTS:
     void offersWhatTheDeviceCanHave();
     void savesWhatItLoads();
     void savingTakesTheFolderOutOfTheMap();
+    void tellsAHostWhatOkWouldStore();
     void refusesOtherVersions_data();
     void refusesOtherVersions();
     void warnsOfTheDeviceBeforeTheVersion();
@@ -213,6 +215,26 @@ QStringList tst_MainDialog::runToTheEnd(TarvoOrixM1Dlg &dialog)
     pressOk(dialog);
     [&] { QTRY_VERIFY_WITH_TIMEOUT(failed || accepted.count() > 0, runTimeout); }();
     return texts;
+}
+
+void tst_MainDialog::tellsAHostWhatOkWouldStore()
+{
+    const auto dialog = newDialog();
+    dialog->setLanguageIndex(1);
+    const OptionMap before = dialog->currentOptions();
+    QVariantMap told;
+    QVERIFY(
+        QMetaObject::invokeMethod(dialog.get(), "configuration", Q_RETURN_ARG(QVariantMap, told)));
+    QCOMPARE(dialog->currentOptions(), before); // it only looks
+    dialog->confirmOutputFolder();
+    dialog->saveIPConfig();
+    const QString file = told.value(QStringLiteral("file")).toString();
+    const QByteArray stored = TestSupport::contentsOf(file);
+    QVERIFY(!stored.isEmpty());
+    QVERIFY(Utils::writeIniFile(
+        file + QStringLiteral(".told"), told.value(QStringLiteral("header")).toMap(),
+        QStringLiteral("Config"), told.value(QStringLiteral("options")).toMap(), nullptr));
+    QCOMPARE(TestSupport::contentsOf(file + QStringLiteral(".told")), stored);
 }
 
 void tst_MainDialog::followsTheCreateInField()

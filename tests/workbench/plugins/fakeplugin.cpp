@@ -4,14 +4,21 @@
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
+#include <QThread>
 #include <QTimer>
+#include <QVariantMap>
 
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <stdexcept>
+#include <unistd.h>
 
 using TE::TE_IPCore_Def::BaseIPCoreInterface;
 using TE::TE_IPCore_Def::IPPlugin;
@@ -23,6 +30,69 @@ bool is(const char *kind)
 {
     return std::strcmp(FAKE_KIND, kind) == 0;
 }
+
+// Does what the plug-in's name says if it is the place's turn: "blocking-listing" blocks when it
+// is asked for its IPs.
+void misbehave(const char *place)
+{
+    const QByteArray kind = FAKE_KIND;
+    if (!kind.endsWith(QByteArray("-") + place))
+        return;
+    if (kind.startsWith("blocking"))
+        QThread::sleep(1000);
+    else if (kind.startsWith("exiting"))
+        std::exit(0);
+    else if (kind.startsWith("leaving"))
+        ::_exit(0);
+    else if (kind.startsWith("crashing"))
+        ::raise(SIGSEGV);
+    else if (kind.startsWith("printing"))
+        for (;;)
+            std::puts("and so on");
+}
+
+struct AtLoad {
+    AtLoad() { misbehave("loading"); }
+} atLoad;
+
+// A dialog that offers what the host may ask for.
+class BlinkerDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit BlinkerDialog(const QString &file)
+        : QDialog(Core::ViewManager::dialogParent())
+        , m_file(file)
+    {
+    }
+
+    QVariantMap options;
+    QVariantMap header;
+
+    Q_INVOKABLE QVariantMap configuration() const
+    {
+        return {{QStringLiteral("file"), m_file},
+                {QStringLiteral("header"), header},
+                {QStringLiteral("options"), options}};
+    }
+    Q_INVOKABLE void change() { options.insert(QStringLiteral("Lamps"), 7); }
+#ifdef FAKE_DRAWS
+    Q_INVOKABLE bool saveDiagram(const QString &path, QString *) const
+    {
+        misbehave("drawing");
+        if (is("lying-drawing"))
+            return true;
+        QFile file(path);
+        if (is("garbling-drawing"))
+            return file.open(QIODevice::WriteOnly) && file.write("no picture") > 0;
+        return file.open(QIODevice::WriteOnly) && file.write("<svg/>") > 0;
+    }
+#endif
+
+private:
+    QString m_file;
+};
 
 // For tests that have no hands in the program's process.
 void acceptIfAsked(QDialog *dialog)
@@ -40,29 +110,48 @@ public:
     {
         if (is("throwingdialog"))
             throw std::runtime_error("the lamp is broken");
-        QDialog dialog(Core::ViewManager::dialogParent());
+        const QDir folder(createInDir + QStringLiteral("/blinker"));
+        BlinkerDialog dialog(folder.filePath(QStringLiteral("blinker.ipc")));
         dialog.setWindowTitle(QStringLiteral("Blinker"));
+        dialog.header = {{QStringLiteral("type"), id()},
+                         {QStringLiteral("target_device"), device.id()}};
         acceptIfAsked(&dialog);
+        misbehave("creating");
+        if (is("exiting-dialog"))
+            QTimer::singleShot(0, &dialog, [] { std::exit(0); });
         if (dialog.exec() != QDialog::Accepted)
             return;
-        const QDir folder(createInDir + QStringLiteral("/blinker"));
         folder.mkpath(QStringLiteral("."));
         QSettings file(folder.filePath(QStringLiteral("blinker.ipc")), QSettings::IniFormat);
         file.setValue(QStringLiteral("type"), id());
         file.setValue(QStringLiteral("target_device"), device.id());
     }
-    void openIP(QString, QString ipcFile) override
+    void openIP(QString createInDir, QString ipcFile) override
     {
         if (is("throwingdialog"))
             throw 42;
-        QDialog dialog(Core::ViewManager::dialogParent());
+        misbehave("opening");
+        BlinkerDialog dialog(createInDir + u'/' + QFileInfo(ipcFile).fileName());
         dialog.setWindowTitle(ipcFile);
+        {
+            QSettings file(ipcFile, QSettings::IniFormat);
+            for (const char *key : {"type", "target_device"})
+                dialog.header.insert(QLatin1String(key), file.value(QLatin1String(key)));
+            file.beginGroup(QStringLiteral("Config"));
+            const QStringList keys = file.childKeys();
+            for (const QString &key : keys)
+                dialog.options.insert(key, file.value(key));
+        }
         acceptIfAsked(&dialog);
         if (dialog.exec() == QDialog::Accepted)
             QFile::copy(ipcFile, ipcFile + QStringLiteral(".opened"));
     }
     bool initialize() override { return true; }
-    QString version() override { return QStringLiteral("2.1"); }
+    QString version() override
+    {
+        misbehave("describing");
+        return QStringLiteral("2.1");
+    }
     QString id() override { return QStringLiteral("fake.blinker"); }
     QString name() override
     {
@@ -77,6 +166,7 @@ public:
     QString summary() override { return QStringLiteral("Makes a lamp blink."); }
     bool isSupported(DEV::DeviceArg device) override
     {
+        misbehave("supporting");
         return device.series() == QLatin1String("TV5K");
     }
 };
@@ -92,6 +182,7 @@ class FakePlugin : public IPPlugin
 public:
     FakePlugin()
     {
+        misbehave("starting");
         if (is("throwing"))
             throw std::runtime_error("out of lamps");
     }
@@ -101,8 +192,40 @@ public:
             throw std::runtime_error("no cores");
         if (is("empty"))
             return {};
+        misbehave("listing");
+        if (is("null"))
+            return {nullptr};
+        if (is("nullandgood"))
+            return {nullptr, new Blinker};
+        if (is("twice")) {
+            auto *core = new Blinker;
+            return {core, core};
+        }
         return {new Blinker};
     }
+
+#ifdef FAKE_MOVES
+    // What has more lamps than the name of the new device has letters loses them.
+    Q_INVOKABLE QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId,
+                                         bool write)
+    {
+        if (is("throwing-moving"))
+            throw std::runtime_error("stuck");
+        QVariantMap result{{QStringLiteral("error"), QString()},
+                           {QStringLiteral("device"), deviceId},
+                           {QStringLiteral("changed"), true},
+                           {QStringLiteral("losses"), QStringList()}};
+        QSettings file(ipcFile, QSettings::IniFormat);
+        if (file.value(QStringLiteral("Config/Lamps")).toInt() > deviceId.size())
+            result[QStringLiteral("losses")] =
+                QStringList{QStringLiteral("The third lamp is left out.")};
+        if (is("refusing-moving"))
+            result[QStringLiteral("error")] = QStringLiteral("No lamp fits this device.");
+        else if (write)
+            file.setValue(QStringLiteral("target_device"), deviceId);
+        return result;
+    }
+#endif
 };
 
 #include "fakeplugin.moc"

@@ -1,0 +1,123 @@
+#include "pluginloader.h"
+
+#include <ipplugin/baseipcoreinterface.h>
+#include <ipplugin/ipplugin.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibrary>
+#include <QPluginLoader>
+#include <QSet>
+
+#include <exception>
+
+namespace Workbench
+{
+
+using TE::TE_IPCore_Def::BaseIPCoreInterface;
+using TE::TE_IPCore_Def::IPPlugin;
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Workbench::IpCatalogue", text);
+}
+
+} // namespace
+
+LoadedPlugin::LoadedPlugin() = default;
+LoadedPlugin::LoadedPlugin(LoadedPlugin &&) noexcept = default;
+LoadedPlugin::~LoadedPlugin() = default;
+
+QString PluginLoader::thrownBy(const std::function<void()> &call)
+{
+    try {
+        call();
+    } catch (const std::exception &exception) {
+        const QString what = QString::fromUtf8(exception.what());
+        return what.isEmpty() ? tr("an exception without a text") : what;
+    } catch (...) {
+        return tr("an exception of an unknown type");
+    }
+    return {};
+}
+
+LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolder,
+                                const std::function<void(Step)> &about)
+{
+    const auto tell = [&about](Step step) {
+        if (about)
+            about(step);
+    };
+    LoadedPlugin result;
+    QPluginLoader loader(library);
+    // A missing symbol is found now, not in the middle of a dialog.
+    loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    IPPlugin *plugin = nullptr;
+    QList<BaseIPCoreInterface *> cores;
+    const QString thrown = thrownBy([&] {
+        tell(Loading);
+        loader.load();
+        tell(Starting);
+        plugin = qobject_cast<IPPlugin *>(loader.instance());
+        if (!plugin)
+            return;
+        plugin->setDataPath(dataFolder);
+        tell(Listing);
+        cores = plugin->ipCoreInterfaces();
+    });
+    if (!thrown.isEmpty()) {
+        result.mistakes.append(tr("It failed while it was started: %1.").arg(thrown));
+        return result;
+    }
+    if (!plugin) {
+        if (loader.isLoaded())
+            result.mistakes.append(tr("It is a Qt plug-in, but not one for IPs."));
+        else if (loader.metaData().isEmpty())
+            result.mistakes.append(tr("It is no plug-in: %1").arg(loader.errorString()));
+        else
+            result.mistakes.append(loader.errorString());
+        return result;
+    }
+    result.root = plugin;
+    if (cores.isEmpty()) {
+        result.mistakes.append(
+            tr("It offers no IP: it finds no usable descriptor in its data folder \"%1\".")
+                .arg(QDir::toNativeSeparators(plugin->dataPath())));
+        return result;
+    }
+    tell(Describing);
+    QSet<BaseIPCoreInterface *> seen;
+    for (BaseIPCoreInterface *object : qAsConst(cores)) {
+        if (!object) {
+            result.mistakes.append(tr("One of its IPs is no object."));
+            continue;
+        }
+        if (seen.contains(object)) {
+            result.mistakes.append(tr("It offers one object twice."));
+            continue;
+        }
+        seen.insert(object);
+        LoadedPlugin::Ip ip;
+        ip.object.reset(object);
+        ip.entry.library = library;
+        const QString reason = thrownBy([&] {
+            ip.entry.id = object->id();
+            ip.entry.name = object->name();
+            ip.entry.version = object->version();
+            ip.entry.summary = object->summary();
+            ip.entry.category = object->category();
+        });
+        if (!reason.isEmpty())
+            result.mistakes.append(tr("It failed when it was asked for an IP: %1.").arg(reason));
+        else if (ip.entry.id.isEmpty() || ip.entry.name.isEmpty())
+            result.mistakes.append(tr("One of its IPs has no id or no name."));
+        else
+            result.ips.push_back(std::move(ip));
+    }
+    return result;
+}
+
+} // namespace Workbench

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+namespace Workbench
+{
+
+// Copies of IP configurations that would be lost otherwise: those that were about to be replaced,
+// and those that were in a dialog that was closed without OK.
+//
+// Each stands in a folder of its own, as a whole file with the name that the configuration has,
+// beside "origin.json", which says where it belongs. The oldest go when there are too many.
+class KeptConfigurations : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int limit = 100;
+    static constexpr int limitForOneFile = 10;
+
+    enum Kind { Replaced, Dropped };
+    struct Item {
+        QString id; // the name of its folder
+        Kind kind = Replaced;
+        QString origin;     // full path of the configuration
+        QString copy;       // full path of the copy
+        QDateTime time;     // local
+        bool isNew = false; // nothing stood at the origin when it was dropped
+        QString device;     // in words
+
+        // "Replaced 21.11.26 18:30", and the device.
+        QString description() const;
+    };
+
+    // The folder is made with the first copy.
+    explicit KeptConfigurations(const QString &folder, QObject *parent = nullptr);
+
+    QString folder() const { return m_folder; }
+
+    // Keeps `bytes` as what stood, or would have stood, at `origin`. A copy of the same kind with
+    // the same bytes becomes the newest. False and a sentence in `*error` on failure.
+    bool keep(Kind kind, const QString &origin, const QByteArray &bytes, QString *error);
+    // Keeps what stands at the path as replaced; nothing if there is no plain file.
+    bool keepFile(const QString &path, QString *error);
+
+    // The newest first, without those that are what stands at their origin.
+    QList<Item> items() const;
+    // The one that was kept last, by this object.
+    Item newest() const { return item(m_newest); }
+    // An item with an empty id if there is none.
+    Item item(const QString &id) const;
+    // Writes the copy to its origin, and keeps what stood there. The copy itself goes.
+    bool restore(const QString &id, QString *error);
+    void forget(const QString &id);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    QList<Item> read() const;
+    Item read(const QString &id) const;
+    void drop(const QString &id);
+    void thinOut();
+
+    QString m_folder;
+    QString m_newest;
+};
+
+} // namespace Workbench
