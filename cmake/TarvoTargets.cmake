@@ -41,7 +41,7 @@ target_link_options(tarvo_flags INTERFACE -Wl,--no-undefined -Wl,--as-needed)
 if(NOT TARVO_SANITIZE)
     set(optimised "$<NOT:$<CONFIG:Debug>>")
     target_compile_options(tarvo_flags INTERFACE
-        -fstack-protector-strong -fstack-clash-protection "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>")
+        -fstack-protector-strong -fstack-clash-protection "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
 endif()
 target_link_options(tarvo_flags INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
 

@@ -5,6 +5,7 @@
 
 #include <config/ipcfile.h>
 #include <utils/boundedfile.h>
+#include <utils/fileutils.h>
 #include <utils/inifile.h>
 
 #include <QFileInfo>

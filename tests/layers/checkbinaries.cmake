@@ -1,7 +1,7 @@
 # Looks at every program and library that the build has made: none lets the loader search the current folder, and none
-# lacks the protections of the compiler and the linker.
+# that is installed lacks the protections of the compiler and the linker.
 #
-# -DBUILD=…  -DREADELF=…  -DPROTECTED=… (the build is optimised and has no sanitizers)
+# -DSOURCE=…  -DBUILD=…  -DREADELF=…  -DPROTECTED=… (the build is optimised and has no sanitizers)
 
 function(run_readelf variable)
     execute_process(COMMAND ${READELF} ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE error)
@@ -53,6 +53,9 @@ foreach(file IN LISTS files)
     math(EXPR count "${count} + 1")
     run_readelf(dynamic --wide --dynamic ${file})
     check_library_path(${file} "${dynamic}")
+    if(NOT file MATCHES "^${BUILD}/(bin|lib[^/]*)/")
+        continue()
+    endif()
     run_readelf(headers --wide --file-header --program-headers ${file})
     if(NOT headers MATCHES "Type:[ ]+DYN ")
         list(APPEND PROBLEMS "${file} lies at a fixed address")
@@ -67,12 +70,11 @@ endforeach()
 
 # What the compiler adds shows where there is something to protect: in every compiler call, and in the large binaries.
 if(PROTECTED)
-    file(READ ${BUILD}/compile_commands.json commands)
-    string(JSON calls LENGTH "${commands}")
-    string(REGEX MATCHALL "-fstack-protector-strong [^\"]*-D_FORTIFY_SOURCE=3 " protected "${commands}")
-    list(LENGTH protected protected)
-    if(NOT calls EQUAL protected)
-        list(APPEND PROBLEMS "of ${calls} compiler calls only ${protected} ask for protection")
+    file(STRINGS ${BUILD}/compile_commands.json calls REGEX "\"command\": .* -c ${SOURCE}/src/")
+    set(unprotected ${calls})
+    list(FILTER unprotected EXCLUDE REGEX "-fstack-protector-strong .*-D_FORTIFY_SOURCE=2 ")
+    if(NOT calls OR unprotected)
+        list(APPEND PROBLEMS "compiler calls without protection: ${unprotected}")
     endif()
     file(GLOB large ${BUILD}/bin/orixm1 ${BUILD}/bin/tarvo-workbench ${BUILD}/lib*/tarvo/libTarvoHostSynthesis.so
         ${BUILD}/lib*/tarvo/libTarvoHostUtils.so ${BUILD}/lib*/tarvo/plugins/libTarvoOrixM1.so)

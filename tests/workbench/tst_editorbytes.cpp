@@ -141,6 +141,9 @@ private Q_SLOTS:
             const int length = page->editor()->document()->characterCount();
             QTextCursor cursor = page->editor()->textCursor();
             cursor.setPosition(*rc::gen::inRange(0, length));
+            // Nobody's cursor can stand within a character of two code units.
+            if (page->editor()->document()->characterAt(cursor.position()).isLowSurrogate())
+                cursor.movePosition(QTextCursor::PreviousCharacter);
             page->editor()->setTextCursor(cursor);
             QTest::keyClick(page->editor(), Qt::Key_X);
             RC_ASSERT(m_tabs->savePage(page));

@@ -4,6 +4,7 @@
 #include "kept/keptconfigurations.h"
 
 #include <utils/boundedfile.h>
+#include <utils/fileutils.h>
 #include <utils/inifile.h>
 
 #include <QCoreApplication>
