@@ -11,9 +11,17 @@ namespace
 {
 
 int wakePipe[2] = {-1, -1};
+volatile std::sig_atomic_t isPending = 0;
 
-extern "C" void wake(int)
+extern "C" void wake(int signal)
 {
+    // Nobody has taken the one before: the event loop does not run any more.
+    if (isPending) {
+        std::signal(signal, SIG_DFL);
+        std::raise(signal);
+        return;
+    }
+    isPending = 1;
     const char byte = 1;
     // A full pipe has woken the reader already.
     [[maybe_unused]] const ssize_t written = ::write(wakePipe[1], &byte, 1);
@@ -57,6 +65,7 @@ void Interrupt::onWoken()
     while (::read(wakePipe[0], buffer, sizeof buffer) > 0)
         continue;
     handle(SIG_DFL);
+    isPending = 0;
     Q_EMIT received();
 }
 
