@@ -78,6 +78,17 @@ DEV::DeviceArg findDevice(const QString &idOrName)
     return Core::IdeCore::deviceDataBase()->filterDevice(filter).value(0);
 }
 
+void createIp(MainWindow &window, const IpCatalogue &catalogue, const Options &options, int ip,
+              const QString &dir, const DEV::DeviceArg &device)
+{
+    const Project *project = window.project();
+    const bool inProject =
+        project && options.dir.isEmpty() &&
+        QFileInfo(dir).canonicalFilePath() == QFileInfo(project->path()).canonicalFilePath();
+    window.createIp(ip, inProject ? project->freeIpFolder(catalogue.targetOf(ip)) : dir,
+                    device.isNull() && project ? project->device() : device);
+}
+
 // Opens what the command line names. False if there is something wrong that no window needs to
 // open for.
 bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &window, int *status)
@@ -119,14 +130,13 @@ bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &w
             projectFile = Project::fileAbove(QFileInfo(file).absolutePath());
     }
     *status = 0;
-    QTimer::singleShot(0, &window, [&window, options, ip, device, dir, projectFile] {
+    QTimer::singleShot(0, &window, [&window, &catalogue, options, ip, device, dir, projectFile] {
         if (!projectFile.isEmpty())
             window.openProject(projectFile);
         for (const QString &file : options.files)
             window.openPath(QFileInfo(file).absoluteFilePath());
         if (ip >= 0)
-            window.createIp(
-                ip, dir, device.isNull() && window.project() ? window.project()->device() : device);
+            createIp(window, catalogue, options, ip, dir, device);
     });
     return true;
 }
@@ -176,11 +186,10 @@ int main(int argc, char *argv[])
                            : QFileInfo(options.settings).absoluteFilePath(),
                        QSettings::IniFormat);
     ExitGuard guard;
-    if (rendering)
-        ExitGuard::setDeadline(options.timeLimit, options.renderDiagram);
     IpCatalogue catalogue;
     loadPlugins(catalogue, options, settings);
     if (rendering) {
+        ExitGuard::setDeadline(options.timeLimit, options.renderDiagram);
         DiagramRenderer renderer(catalogue);
         QString error;
         return renderer.render(options.renderDiagram, options.output, &error) ? 0 : fail(error);
@@ -194,7 +203,13 @@ int main(int argc, char *argv[])
     QObject::connect(&interrupt, &Utils::Interrupt::received, &window, &MainWindow::shutDown);
     window.show();
     guard.setLastDeed([&window] { window.keepUnsaved(); });
-    const int ended = QApplication::exec();
+    bool closed = false;
+    QObject::connect(&window, &MainWindow::closed, &window, [&closed] { closed = true; });
+    status = QApplication::exec();
     guard.setLastDeed(nullptr);
-    return ended;
+    if (closed)
+        return status;
+    // Somebody else has ended the event loop.
+    window.keepUnsaved();
+    return fail(MainWindow::tr("A plug-in has ended the program."));
 }

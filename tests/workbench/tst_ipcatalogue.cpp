@@ -88,7 +88,7 @@ private Q_SLOTS:
             "ended the program");
         row("it crashes when it is made", "crashing-starting", "crashed while it was started");
         row("it crashes when asked about devices", "crashing-supporting",
-            "crashed when it was asked about devices (signal 11)");
+            "crashed when it was asked about devices (signal 6)");
     }
 
     void skipsABrokenPluginAndSaysWhy()

@@ -390,9 +390,11 @@ private Q_SLOTS:
         QVERIFY(model.indexOf(same).data(ProjectModel::OtherDeviceRole).toBool());
         for (const int role :
              {int(Qt::DisplayRole), int(Qt::ToolTipRole), int(Qt::AccessibleTextRole)}) {
-            for (const DEV::DeviceArg &named : {device(), otherDevice()})
-                QVERIFY2(text(same, role).contains(IpcHead::words(named)),
+            for (const DEV::DeviceArg &named : {device(), otherDevice()}) {
+                const bool whole = role != Qt::DisplayRole;
+                QVERIFY2(text(same, role).contains(whole ? IpcHead::words(named) : named.device()),
                          qPrintable(text(same, role)));
+            }
             QVERIFY2(text(unknown, role).contains(QLatin1String("TV9-1")),
                      qPrintable(text(unknown, role)));
         }

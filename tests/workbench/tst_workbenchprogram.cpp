@@ -195,6 +195,20 @@ private Q_SLOTS:
             << QStringLiteral("offers no diagram");
     }
 
+    void saysWhyADiagramCannotBeDrawn()
+    {
+        QFETCH(QByteArray, ipc);
+        QFETCH(QString, picture);
+        QFETCH(QString, error);
+        const QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("x.ipc"));
+        write(file, ipc);
+        const Outcome outcome = render(file, dir.filePath(picture));
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(error), qPrintable(outcome.errors));
+        QCOMPARE(entriesOf(dir.path()), QStringList(QStringLiteral("x.ipc")));
+    }
+
     void drawsNothingWithAPluginThatMisbehaves_data()
     {
         QTest::addColumn<QString>("kind");
@@ -205,8 +219,8 @@ private Q_SLOTS:
         row("null", "fake.blinker");
         row("exiting-loading", "fake.blinker");
         row("crashing-starting", "fake.blinker");
-        row("exiting-opening", "a plug-in has ended the program");
-        row("exiting-drawing", "a plug-in has ended the program");
+        row("exiting-opening", "A plug-in has ended the program");
+        row("exiting-drawing", "A plug-in has ended the program");
         row("blocking-opening", "x.ipc\" did not answer within 3 s");
         row("lying-drawing", "wrote no picture");
         row("garbling-drawing", "wrote no picture");
@@ -225,7 +239,9 @@ private Q_SLOTS:
         const Outcome outcome =
             run({QStringLiteral("--plugin-dir"), QStringLiteral(TARVO_FAKE_PLUGINS "/") + kind,
                  QStringLiteral("--render-diagram"), file, QStringLiteral("-o"), picture,
-                 QStringLiteral("--time-limit"), QStringLiteral("3")},
+                 QStringLiteral("--time-limit"),
+                 kind == QLatin1String("blocking-opening") ? QStringLiteral("3")
+                                                           : QStringLiteral("60")},
                 environment(home), home.path());
         QCOMPARE(outcome.status, 1);
         QVERIFY2(outcome.errors.contains(error), qPrintable(outcome.errors));
@@ -233,34 +249,61 @@ private Q_SLOTS:
         QCOMPARE(entriesOf(dir.path()).size(), 2);
     }
 
+    void aPluginThatEndsTheProgramIsNoSuccess_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("by exit()") << QStringLiteral("exiting-dialog");
+        QTest::newRow("by ending the event loop") << QStringLiteral("quitting-dialog");
+    }
+
     void aPluginThatEndsTheProgramIsNoSuccess()
     {
+        QFETCH(QString, kind);
         const QTemporaryDir dir;
         QProcessEnvironment env = environment(dir);
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         const DEV::DeviceArg device = DEV::DeviceDb::bundled().filterDevice(tv5k()).constFirst();
         const Outcome outcome =
-            run({QStringLiteral("--plugin-dir"),
-                 QStringLiteral(TARVO_FAKE_PLUGINS "/exiting-dialog"), QStringLiteral("--new-ip"),
-                 QStringLiteral("blinker"), QStringLiteral("--device"), device.device()},
+            run({QStringLiteral("--plugin-dir"), QStringLiteral(TARVO_FAKE_PLUGINS "/") + kind,
+                 QStringLiteral("--new-ip"), QStringLiteral("blinker"), QStringLiteral("--device"),
+                 device.device()},
                 env, dir.path());
         QCOMPARE(outcome.status, 1);
-        QVERIFY2(outcome.errors.contains(QLatin1String("a plug-in has ended the program")),
+        QVERIFY2(outcome.errors.contains(QLatin1String("A plug-in has ended the program")),
                  qPrintable(outcome.errors));
     }
 
-    void saysWhyADiagramCannotBeDrawn()
+    void endsThoughAPluginBlocks()
     {
-        QFETCH(QByteArray, ipc);
-        QFETCH(QString, picture);
-        QFETCH(QString, error);
         const QTemporaryDir dir;
-        const QString file = dir.filePath(QStringLiteral("x.ipc"));
-        write(file, ipc);
-        const Outcome outcome = render(file, dir.filePath(picture));
-        QCOMPARE(outcome.status, 1);
-        QVERIFY2(outcome.errors.contains(error), qPrintable(outcome.errors));
-        QCOMPARE(entriesOf(dir.path()), QStringList(QStringLiteral("x.ipc")));
+        write(dir.filePath(QStringLiteral("x.ipc")), "[General]\ntype=fake.blinker\n");
+        QProcessEnvironment env = environment(dir);
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        QProcess process;
+        process.setProcessEnvironment(env);
+        process.setWorkingDirectory(dir.path());
+        process.start(QStringLiteral(TARVO_WORKBENCH),
+                      {QStringLiteral("--plugin-dir"),
+                       QStringLiteral(TARVO_FAKE_PLUGINS "/blocking-opening"),
+                       QStringLiteral("x.ipc")});
+        QVERIFY(process.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(catches(process.processId(), SIGTERM), 60000);
+        for (int times = 0; times < 100 && process.state() != QProcess::NotRunning; ++times) {
+            process.terminate();
+            process.waitForFinished(100);
+        }
+        QCOMPARE(process.state(), QProcess::NotRunning);
+    }
+
+    void proposesAFolderForAnotherIpOfTheProject()
+    {
+        const QTemporaryDir dir;
+        const DEV::DeviceArg device = DEV::DeviceDb::bundled().filterDevice(tv5k()).constFirst();
+        write(dir.filePath(QStringLiteral("p.tvproj")),
+              "{\"format\": 1, \"device\": \"" + device.id().toUtf8() + "\"}");
+        for (const char *made : {"blinker/blinker.ipc", "ip2/blinker/blinker.ipc"})
+            runUntil({QStringLiteral("--new-ip"), QStringLiteral("fake.blinker")},
+                     dir.filePath(QLatin1String(made)), dir);
     }
 
     void endsWhenItIsAskedTo_data()

@@ -138,6 +138,11 @@ void IpSession::onDialogFinished(int result)
     const QByteArray text = textOf(left, &error);
     if (text == textOf(m_opened, &error) && error.isEmpty())
         return;
+    // OK has stored it before, and a run failed.
+    QByteArray stored;
+    if (QFileInfo(file).isFile() && Utils::FileUtils::readFile(file, &stored, nullptr) &&
+        stored == text)
+        return;
     if (error.isEmpty() && m_kept->keep(KeptConfigurations::Dropped, file, text, &error)) {
         m_droppedId = m_kept->newest().id;
         m_droppedFile = file;

@@ -43,10 +43,11 @@ MoveDialog::MoveDialog(const QString &file, const QString &from, const QString &
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     QPushButton *move = buttons->addButton(tr("&Move"), QDialogButtonBox::AcceptRole);
     move->setObjectName(QStringLiteral("moveButton"));
-    move->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
+    move->setDefault(true);
+    move->setFocus();
     const QFontMetrics metrics = fontMetrics();
     setMinimumWidth(metrics.averageCharWidth() * 70);
     if (!losses.isEmpty())

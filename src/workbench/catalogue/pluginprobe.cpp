@@ -54,12 +54,20 @@ public:
     {
     }
 
+    void launch(const QString &path, const QStringList &arguments)
+    {
+        start(path, arguments, ReadOnly);
+        m_group = pid_t(processId());
+    }
+
     // With everything that the plug-in has started.
     void end()
     {
+        if (m_group > 0)
+            ::kill(-m_group, SIGKILL);
+        m_group = 0;
         if (state() == NotRunning)
             return;
-        ::kill(-pid_t(processId()), SIGKILL);
         kill();
         waitForFinished(-1);
     }
@@ -76,6 +84,7 @@ protected:
 
 private:
     unsigned m_seconds;
+    pid_t m_group = 0;
 };
 
 PluginProbe::PluginProbe(const QString &library, const QString &dataFolder, int timeLimit)
@@ -90,7 +99,7 @@ PluginProbe::PluginProbe(const QString &library, const QString &dataFolder, int 
     m_process->setProcessEnvironment(environment);
     m_process->setStandardInputFile(QProcess::nullDevice());
     m_process->setStandardErrorFile(QProcess::nullDevice());
-    m_process->start(path, {library, dataFolder}, QIODevice::ReadOnly);
+    m_process->launch(path, {library, dataFolder});
 }
 
 PluginProbe::~PluginProbe()
@@ -115,7 +124,7 @@ QString PluginProbe::stepWords(int step)
     case PluginLoader::Releasing:
         return tr("when its IPs were released");
     default:
-        return tr("before it was loaded");
+        return {};
     }
 }
 
@@ -151,11 +160,12 @@ PluginProbe::Result PluginProbe::wait()
             step = rest.toInt();
     }
     const QString when = stepWords(step);
-    if (tooMuch)
+    if (tooMuch && step >= 0)
         return {tr("It did not stop printing %1.").arg(when), true};
-    if (blocked)
+    if (blocked && step >= 0)
         return {tr("It did not answer within %1 s %2.").arg(m_timeLimit / 1000).arg(when), true};
-    if (m_process->error() == QProcess::FailedToStart)
+    // Nothing of the plug-in has run: that is not its fault.
+    if (step < 0)
         return {};
     if (m_process->exitStatus() == QProcess::CrashExit)
         return {tr("It crashed %1 (signal %2).").arg(when).arg(m_process->exitCode()), false};

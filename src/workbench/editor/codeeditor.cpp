@@ -241,12 +241,6 @@ void CodeEditor::paintStandIns(QPainter *painter, const QTextBlock &block, const
         const QRectF place = box.translated(origin);
         if (place.right() < 0 || place.left() > viewport()->width())
             continue;
-        if (noBreak) { // a blank that says that it is another one
-            painter->setPen(palette().color(QPalette::Disabled, QPalette::Text));
-            const qreal y = place.bottom() - place.height() / 5;
-            painter->drawLine(QPointF(place.left() + 1, y), QPointF(place.right() - 1, y));
-            continue;
-        }
         const QRectF inner = place.adjusted(0.5, 0.5, -0.5, -0.5);
         painter->setPen(Qt::NoPen);
         painter->setBrush(palette().color(QPalette::Base));
@@ -257,6 +251,8 @@ void CodeEditor::paintStandIns(QPainter *painter, const QTextBlock &block, const
         painter->setBrush(tint);
         painter->drawRoundedRect(inner, 1.5, 1.5);
         painter->setRenderHint(QPainter::Antialiasing, false);
+        if (noBreak)
+            continue; // a blank in a box
 
         const QString label = TextFormat::label(c);
         const int half = (label.size() + 1) / 2;

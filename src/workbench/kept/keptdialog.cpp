@@ -50,7 +50,6 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     m_bringBack = buttons->addButton(tr("&Bring Back…"), QDialogButtonBox::AcceptRole);
     m_bringBack->setObjectName(QStringLiteral("bringBackButton"));
-    m_bringBack->setDefault(true);
     m_delete = buttons->addButton(tr("&Delete"), QDialogButtonBox::DestructiveRole);
     m_delete->setObjectName(QStringLiteral("deleteButton"));
     m_delete->setAutoDefault(false);
@@ -62,6 +61,8 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     layout->addWidget(intro);
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
+    m_bringBack->setDefault(true);
+    m_list->setFocus();
     const QFontMetrics metrics = fontMetrics();
     resize(metrics.averageCharWidth() * 120, metrics.height() * 24);
     fill();

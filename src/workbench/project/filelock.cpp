@@ -58,6 +58,9 @@ FileLock::FileLock(const QString &path, int patience)
                 QThread::msleep(2);
                 continue;
             }
+            // A file system without locks: better none than no change at all.
+            if (reason == ENOSYS || reason == EOPNOTSUPP || reason == EINVAL || reason == ENOLCK)
+                break;
             ::close(descriptor);
             fail(path, reason == EWOULDBLOCK ? tr("another program is changing it")
                                              : qt_error_string(reason));

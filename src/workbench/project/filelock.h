@@ -8,7 +8,7 @@ namespace Workbench
 // Keeps other holders of such a lock, in this process and in others, away from a file that is
 // replaced as a whole: who holds it holds the file that stands at the path at that time. Where no
 // file stands there, its folder is held. Nothing is left on disk, and the kernel releases the lock
-// when the process ends, however it ends.
+// when the process ends, however it ends. On a file system without locks nothing is held.
 class FileLock
 {
 public:

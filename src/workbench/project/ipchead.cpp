@@ -116,7 +116,10 @@ QString IpcHead::difference(const DEV::DeviceArg &project) const
         return tr("for the unknown device %1").arg(deviceName);
     if (device.isNull() || project.isNull() || device.id() == project.id())
         return {};
-    return tr("for %1; the project has %2").arg(words(device), words(project));
+    // The whole names only where the first parts are the same.
+    return device.device() == project.device()
+               ? tr("for %1; project: %2").arg(words(device), words(project))
+               : tr("for %1; project: %2").arg(device.device(), project.device());
 }
 
 QString IpcHead::differenceSentence(const DEV::DeviceArg &project) const

@@ -32,7 +32,7 @@ extern "C" void endHere()
     if (!armed)
         return;
     armed = false;
-    std::fprintf(stderr, "tarvo-workbench: a plug-in has ended the program.\n");
+    std::fprintf(stderr, "tarvo-workbench: A plug-in has ended the program.\n");
     if (lastDeed())
         lastDeed()();
     std::fflush(nullptr);

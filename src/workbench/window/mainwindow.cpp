@@ -864,10 +864,12 @@ void MainWindow::showPlugins()
     const QStringList folders = dialog.folders();
     m_settings.setValue(foldersKey, folders);
     const int failures = m_catalogue.failures().size();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
     for (const QString &folder : folders) {
         if (!before.contains(folder))
             m_catalogue.loadFolder(folder, true);
     }
+    QApplication::restoreOverrideCursor();
     m_catalogueView->reload();
     showStart();
     if (m_catalogue.failures().size() > failures)

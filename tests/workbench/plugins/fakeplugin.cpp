@@ -45,7 +45,7 @@ void misbehave(const char *place)
     else if (kind.startsWith("leaving"))
         ::_exit(0);
     else if (kind.startsWith("crashing"))
-        ::raise(SIGSEGV);
+        ::raise(SIGABRT);
     else if (kind.startsWith("printing"))
         for (;;)
             std::puts("and so on");
@@ -119,6 +119,8 @@ public:
         misbehave("creating");
         if (is("exiting-dialog"))
             QTimer::singleShot(0, &dialog, [] { std::exit(0); });
+        if (is("quitting-dialog"))
+            QTimer::singleShot(0, &dialog, [] { QCoreApplication::exit(0); });
         if (dialog.exec() != QDialog::Accepted)
             return;
         folder.mkpath(QStringLiteral("."));
