@@ -9,6 +9,7 @@
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/editortabs.h>
 #include <workbench/editor/findbar.h>
+#include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/messagemodel.h>
 #include <workbench/window/mainwindow.h>
 
@@ -98,6 +99,41 @@ void saveDialog(const std::function<void()> &call, const char *name,
     call();
 }
 
+// What keeps the user from losing something or being misled.
+void savePicturesOfCare(MainWindow &window)
+{
+    const QString bytes = window.project()->path() + QStringLiteral("/bytes.v");
+    write(bytes, "module bytes; // UTF-8: \xC3\xA4 \xE2\x82\xAC\n"
+                 "wire\xC2\xA0x; // a no-break space\n"
+                 "// ends with CRLF\r\n"
+                 "// a byte: \xFF, a control character: \x1B, CR: \r\n"
+                 "// U+2028: \xE2\x80\xA8, reordering: \xE2\x80\xAE, soft hyphen: \xC2\xAD\n"
+                 "endmodule\n");
+    window.openPath(bytes);
+    save(&window, "workbench-bytes", false);
+
+    QString error;
+    const QString lamp = window.project()->path() + QStringLiteral("/lamp/lamp.ipc");
+    const QByteArray before = "[General]\ntype=fake.blinker\n"
+                              "target_device=TV5K-138B-PBGA484-C1/I0\n[Config]\nLamps=99\n";
+    write(lamp, before);
+    window.kept()->keep(KeptConfigurations::Replaced, lamp, before + "[x]\n", &error);
+    window.kept()->keep(KeptConfigurations::Dropped, lamp, before + "[y]\n", &error);
+    window.tabs()->closeAll();
+    window.openProject(window.project()->file());
+    save(&window, "workbench-drift", false);
+    saveDialog([&] { action(window, "Bring Back a Configuration")->trigger(); }, "workbench-kept");
+    saveDialog([&] { window.bringBack(window.kept()->items().last().id); }, "workbench-bringback");
+    const DEV::DeviceArg other =
+        DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV5K-138C-PBGA484-C1/I0"));
+    saveDialog([&] { window.moveIp(lamp, other); }, "workbench-move");
+    write(lamp, "[General]\ntype=fake.blinker\ntarget_device=TV9-12-QFN48-C5\n");
+    saveDialog([&] { window.openIp(lamp); }, "workbench-unknowndevice");
+    QFile::remove(lamp);
+    for (const KeptConfigurations::Item &item : window.kept()->items())
+        window.kept()->forget(item.id);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -119,7 +155,8 @@ int main(int argc, char *argv[])
     catalogue.setDataFolders({QStringLiteral(TARVO_SHARE_FOLDER)});
     catalogue.loadFolder(QStringLiteral(TARVO_PLUGIN_FOLDER), true);
     if (all) {
-        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/blinker"), false);
+        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/moving"), false);
+        catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/crashing-starting"), false);
         catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/missingsymbol"), false);
     }
     MainWindow window(catalogue, settings);
@@ -174,6 +211,9 @@ int main(int argc, char *argv[])
     save(&window, "workbench-ipc", false);
     window.openPath(projectFile, 1);
     save(&window, "workbench-json", false);
+
+    if (all)
+        savePicturesOfCare(window);
 
     Synthesis::RunReport report;
     report.exitCode = 1;
