@@ -4,6 +4,7 @@
 
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
+#include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/logview.h>
 #include <workbench/results/resultpage.h>
 #include <workbench/widgets/infobar.h>
@@ -276,6 +277,11 @@ private Q_SLOTS:
         window()->createSelectedIp(0);
         QVERIFY(isStillOpen);
         QVERIFY(cancelled);
+        // OK has stored it: nothing was dropped with the dialog.
+        QVERIFY(QFileInfo::exists(window()->project()->path() +
+                                  QStringLiteral("/tarvo_orix_m1/tarvo_orix_m1.ipc")));
+        QVERIFY(window()->kept()->items().isEmpty());
+        QVERIFY(window()->infoBar()->isHidden());
         QVERIFY(window()->project()->files().isEmpty());
         QVERIFY(m_bench->tabTexts().isEmpty());
         QCOMPARE(window()->findChild<QLabel *>(QStringLiteral("runLabel"))->text(),

@@ -46,6 +46,7 @@ Interrupt::Interrupt(QObject *parent)
         return; // without the pipe the signals keep their default effect: they end the program
     m_notifier = std::make_unique<QSocketNotifier>(wakePipe[0], QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &Interrupt::onWoken);
+    isPending = 0; // one that an earlier object did not take
     handle(wake);
 }
 

@@ -52,8 +52,29 @@ CodeEditor::CodeEditor(QWidget *parent)
             m_lineNumbers->update(0, rect.y(), m_lineNumbers->width(), rect.height());
     });
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CodeEditor::markCurrentLine);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CodeEditor::leaveHalfCharacters);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &CodeEditor::leaveHalfCharacters);
     layoutLineNumbers();
     markCurrentLine();
+}
+
+// A character of two code units stays whole, wherever the cursor was put.
+void CodeEditor::leaveHalfCharacters()
+{
+    QTextCursor cursor = textCursor();
+    const auto whole = [this](int position) {
+        const bool inside = position > 0 &&
+                            document()->characterAt(position - 1).isHighSurrogate() &&
+                            document()->characterAt(position).isLowSurrogate();
+        return inside ? position - 1 : position;
+    };
+    const int anchor = whole(cursor.anchor());
+    const int position = whole(cursor.position());
+    if (anchor == cursor.anchor() && position == cursor.position())
+        return;
+    cursor.setPosition(anchor);
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
 }
 
 void CodeEditor::goToLine(int line)

@@ -51,6 +51,7 @@ private:
     void paintStandIns(QPainter *painter, const QTextBlock &block, const QPointF &origin);
     void insert(const QString &text);
     void layoutLineNumbers();
+    void leaveHalfCharacters();
     void markCurrentLine();
 
     QWidget *m_lineNumbers;

@@ -191,9 +191,10 @@ bool EditorPage::save(QString *error)
     const int missing = m_format.firstMissing(text);
     m_needsUtf8 = missing >= 0;
     if (m_needsUtf8) {
-        *error = tr("\"%1\" is not saved: its text is Latin-1, which has no \"%2\" (line %3).")
-                     .arg(QDir::toNativeSeparators(m_path), text.mid(missing, 1))
-                     .arg(m_editor->document()->findBlock(missing).blockNumber() + 1);
+        const int line = m_editor->document()->findBlock(missing).blockNumber() + 1;
+        *error =
+            tr("\"%1\" is not saved: its text is Latin-1, which has no \"%2\" (line %3).")
+                .arg(QDir::toNativeSeparators(m_path), text.mid(missing, 1), QString::number(line));
         return false;
     }
     const QByteArray bytes = m_format.encode(text);

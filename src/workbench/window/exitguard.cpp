@@ -73,8 +73,7 @@ void ExitGuard::setDeadline(unsigned seconds, const QString &file)
         QCoreApplication::translate("Workbench::ExitGuard",
                                     "tarvo-workbench: the plug-in of \"%1\" did not answer within "
                                     "%2 s.\n")
-            .arg(file)
-            .arg(seconds)
+            .arg(file, QString::number(seconds))
             .toUtf8()
             .right(int(sizeof deadlineMessage));
     std::copy(message.begin(), message.end(), deadlineMessage);

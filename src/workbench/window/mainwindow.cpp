@@ -38,6 +38,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
@@ -203,6 +204,9 @@ void MainWindow::buildDocks()
     m_projectTree->setAccessibleName(tr("Project"));
     m_projectTree->setModel(m_projectModel);
     m_projectTree->setHeaderHidden(true);
+    // Scrolls to what is wider, such as an IP's device and the project's.
+    m_projectTree->header()->setStretchLastSection(false);
+    m_projectTree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_projectTree->setUniformRowHeights(true);
     m_projectTree->setFrameShape(QFrame::NoFrame);
     m_projectTree->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -590,6 +594,11 @@ bool MainWindow::moveIp(const QString &ipcFile, const DEV::DeviceArg &device)
     }
     m_projectModel->refresh();
     showStart();
+    if (IpcHead::read(ipcFile).device.id() != device.id()) {
+        report(tr("The plug-in has not moved \"%1\" to the device %2.")
+                   .arg(QDir::toNativeSeparators(ipcFile), IpcHead::words(device)));
+        return false;
+    }
     m_infoBar->showMessage(
         tr("\"%1\" is for the device %2 now. What was generated is still for the "
            "one before.")
@@ -625,7 +634,7 @@ bool MainWindow::bringBack(const QString &keptId)
         if (item.isNew && QFileInfo::exists(item.origin)) {
             const QString taken = folder;
             for (int n = 2; QFileInfo::exists(folder); ++n)
-                folder = QStringLiteral("%1-%2").arg(taken).arg(n);
+                folder = taken + u'-' + QString::number(n);
         }
         m_hasNewReport = false;
         const bool opened =
