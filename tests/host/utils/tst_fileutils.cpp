@@ -218,6 +218,22 @@ private Q_SLOTS:
         QCOMPARE(TestSupport::contentsOf(file), newBytes);
     }
 
+    void needsNoRightToLeaveAFileAsItIs()
+    {
+        const QString file = path(QStringLiteral("file"));
+        QVERIFY(TestSupport::write(file, oldBytes));
+        QCOMPARE(chmod(QFile::encodeName(file).constData(), 0444), 0);
+        QCOMPARE(chmod(QFile::encodeName(m_dir.path()).constData(), 0755), 0);
+        const TestSupport::Unprivileged user;
+        if (!user.holds())
+            QSKIP("root cannot give up its rights here, and permissions do not bind it");
+        QString error;
+        QVERIFY2(FileUtils::writeFile(file, oldBytes, &error), qPrintable(error));
+        QVERIFY(!FileUtils::writeFile(file, newBytes, &error));
+        QVERIFY2(error.contains(file) && error.contains(QStringLiteral("is not writable")),
+                 qPrintable(error));
+    }
+
     void placesSeveralFilesOrNone()
     {
         const QString first = path(QStringLiteral("first"));
