@@ -1,13 +1,15 @@
-// Many faults, kills and pairs of runs, by hand: longfaults [--faults N] [--pairs N] [--kills N]
-// [--seed N] [--command PROGRAM]. Prints what it finds and figures; the exit status is 0 if nothing
-// did harm.
+// Many faults, kills and pairs of runs, by hand: longfaults [--faults N] [--start N] [--pairs N]
+// [--kills N] [--seed N] [--command PROGRAM]. Prints what it finds and figures; the exit status is
+// 0 if nothing did harm.
 
 #include "campaign.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 using namespace Faults;
 
@@ -21,7 +23,8 @@ int main(int argc, char *argv[])
         parser.addOption(
             {QLatin1String(name), QLatin1String(text), QStringLiteral("N"), QLatin1String(value)});
     };
-    add("faults", "Injected faults, at least; all places once come first.", "10000");
+    add("faults", "Injected faults.", "10000");
+    add("start", "Leaves out that many places first, to go on with another run.", "0");
     add("pairs", "Pairs of runs into one folder.", "1000");
     add("kills", "Kills at random moments.", "500");
     add("seed", "Of what is random.", "1");
@@ -46,68 +49,60 @@ int main(int argc, char *argv[])
         return 1;
     }
 
-    struct Places {
+    struct Place {
         Command command;
-        QByteArray kind;
-        QByteArray programs;
-        int count;
+        Fault fault;
     };
-    QVector<Places> places;
-    int total = 0;
-    for (const Command command : {New, IncludeFiles, Generate}) {
-        for (const char *kind : kinds) {
-            QByteArrayList programs{"orixm1"};
-            if (command == Generate)
-                programs << "yosys:yosys-abc";
-            for (const QByteArray &program : qAsConst(programs)) {
-                const int count = campaign.calls(command, kind, program);
-                std::printf("command %d: %d calls of %s in %s\n", command, count, kind,
-                            program.constData());
-                places << Places{command, kind, program, count};
-                total += count;
+    // Each call with each error, over what each start of a run finds; then each for good.
+    QVector<Place> places;
+    for (const bool lasting : {false, true}) {
+        for (const Before before : {Other, Nothing, Same}) {
+            for (const Command command : {New, IncludeFiles, Generate}) {
+                for (const char *kind : kinds) {
+                    for (const char *programs : {"orixm1", "yosys:yosys-abc"}) {
+                        if (command != Generate && *programs != 'o')
+                            continue;
+                        const int count = campaign.calls(command, kind, programs, before);
+                        if (!lasting)
+                            std::printf("command %d, before %d: %d calls of %s in %s\n", command,
+                                        before, count, kind, programs);
+                        for (int at = 1; at <= count; ++at) {
+                            for (const int effect :
+                                 {ENOSPC, EIO, EACCES, EMFILE, int(ShortCount), int(KillBefore),
+                                  int(KillAfter), int(KillMain)}) {
+                                if ((effect == ShortCount && strcmp(kind, "write") != 0) ||
+                                    (lasting && effect < 0))
+                                    continue;
+                                places << Place{command,
+                                                {kind, at, effect, lasting, programs, before}};
+                            }
+                        }
+                    }
+                }
             }
         }
     }
-    std::printf("%d places\n", total);
+    std::shuffle(places.begin(), places.end(), random);
+    std::printf("%d places\n", places.size());
     std::fflush(stdout);
 
     int faults = 0;
     int succeeded = 0;
     int killed = 0;
-    const auto inject = [&](const Places &place, int at, int effect, bool lasting) {
-        Fault fault;
-        fault.kind = place.kind;
-        fault.programs = place.programs;
-        fault.at = at;
-        fault.effect = effect;
-        fault.lasting = lasting;
-        take(campaign.run(place.command, fault));
+    const int wanted = number("faults");
+    for (int i = number("start"); i < places.size() && faults < wanted; ++i) {
+        take(campaign.run(places.at(i).command, places.at(i).fault));
         if (!campaign.fired())
-            return;
+            continue;
         ++faults;
         succeeded += campaign.status() == 0 ? 1 : 0;
         killed += campaign.status() < 0 ? 1 : 0;
-    };
-    const int wanted = number("faults");
-    for (int round = 0; faults < wanted; ++round) {
-        const int before = faults;
-        for (const Places &place : qAsConst(places)) {
-            for (int at = 1; at <= place.count && faults < wanted; ++at) {
-                // Each place with each error, then with the other effects, then for good.
-                constexpr int effects[] = {ENOSPC,     EIO,        EACCES,    EMFILE,
-                                           ShortCount, KillBefore, KillAfter, KillMain};
-                const int effect = effects[round % 8];
-                const bool lasting = round >= 8;
-                if (effect == ShortCount && place.kind != "write")
-                    continue;
-                inject(place, at, effect, lasting && effect > 0);
-            }
+        if (faults % 100 == 0 || faults == wanted) {
+            std::printf("up to %d: %d faults, %d of them in a run that succeeded, %d kills; %d did "
+                        "harm\n",
+                        i + 1, faults, succeeded, killed, harm);
+            std::fflush(stdout);
         }
-        std::printf("round %d: %d faults, %d in a run that succeeded, %d kills, %d did harm\n",
-                    round, faults, succeeded, killed, harm);
-        std::fflush(stdout);
-        if (faults == before && round > 8)
-            break;
     }
 
     int refused = 0;

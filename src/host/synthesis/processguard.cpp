@@ -135,6 +135,7 @@ public:
         if (m_group < 0)
             leave(ProcessGuard::Event::NotStarted, errno);
         ::setpgid(m_group, m_group);
+        say(ProcessGuard::Event::Started, m_group);
         ::close(output);
         ::close(problem[1]);
         for (;;) {
@@ -158,10 +159,15 @@ public:
     }
 
 private:
-    [[noreturn]] void leave(ProcessGuard::Event event, int value)
+    void say(ProcessGuard::Event event, int value)
     {
         const Report report = {event, value};
         ::send(m_channel, &report, sizeof report, MSG_NOSIGNAL);
+    }
+
+    [[noreturn]] void leave(ProcessGuard::Event event, int value)
+    {
+        say(event, value);
         ::_exit(0);
     }
 
@@ -260,9 +266,15 @@ ProcessGuard::Event ProcessGuard::next(int *value)
     const ssize_t size = ::recv(m_channel, &report, sizeof report, MSG_DONTWAIT);
     if (size < 0 && (errno == EAGAIN || errno == EINTR))
         return Event::Nothing;
-    if (size != ssize_t(sizeof report))
+    if (size != ssize_t(sizeof report)) {
+        // The program itself is gone with the guard, but not what it has started.
+        if (m_group > 1)
+            ::kill(-m_group, SIGKILL);
+        m_group = -1;
         return Event::Lost;
+    }
     *value = report.value;
+    m_group = report.event == Event::Started ? report.value : -1;
     return report.event;
 }
 

@@ -27,6 +27,7 @@ class ProcessGuard
 public:
     enum class Event {
         Nothing,    // for now
+        Started,    // with the number of the group
         NotStarted, // with an error number
         Ended,      // with a status as of waitpid(); nothing of the group is left
         Lost,       // somebody has killed the guard, and so the program
@@ -52,6 +53,7 @@ public:
 
 private:
     pid_t m_child = -1;
+    pid_t m_group = -1;
     int m_channel = -1;
 };
 

@@ -133,6 +133,7 @@ void ToolProcess::takeEvent()
     int value = 0;
     switch (m_guard->next(&value)) {
     case ProcessGuard::Event::Nothing:
+    case ProcessGuard::Event::Started:
         return;
     case ProcessGuard::Event::NotStarted:
         finish(notStarted(value));

@@ -62,14 +62,15 @@ bool writeAll(int fd, const QByteArray &bytes)
 // From the start; false if it cannot be read.
 bool readAll(int fd, qint64 size, QByteArray *bytes)
 {
-    bytes->resize(int(size));
-    qint64 at = 0;
-    while (at < size) {
-        const ssize_t step = uninterrupted(
-            [&] { return ::pread(fd, bytes->data() + at, size_t(size - at), off_t(at)); });
+    char buffer[1 << 16];
+    bytes->clear();
+    bytes->reserve(int(size));
+    while (bytes->size() < size) {
+        const ssize_t step =
+            uninterrupted([&] { return ::pread(fd, buffer, sizeof buffer, off_t(bytes->size())); });
         if (step <= 0)
             return false;
-        at += step;
+        bytes->append(buffer, int(step));
     }
     return true;
 }
@@ -147,11 +148,11 @@ bool FileReplacement::resolve(QString *error)
         }
         if (!S_ISLNK(status.st_mode))
             break;
-        QByteArray target(4096, '\0');
-        const ssize_t size = ::readlink(m_target.constData(), target.data(), size_t(target.size()));
+        char buffer[4096];
+        const ssize_t size = ::readlink(m_target.constData(), buffer, sizeof buffer);
         if (size < 0 || i == mostLinks)
             return fail(error, systemError(size < 0 ? errno : ELOOP));
-        target.truncate(int(size));
+        const QByteArray target(buffer, int(size));
         m_target = target.startsWith('/') ? target : QByteArray(folder() + '/' + target);
     }
     if (S_ISDIR(status.st_mode))
@@ -159,8 +160,6 @@ bool FileReplacement::resolve(QString *error)
     // A device or a pipe would be replaced by a plain file, and reading one may never end.
     if (!S_ISREG(status.st_mode))
         return fail(error, tr("it is not a plain file"));
-    if (::access(m_target.constData(), W_OK) != 0)
-        return fail(error, errno == EACCES ? tr("it is not writable") : systemError());
     m_exists = true;
     m_mode = status.st_mode & 0777;
     // For a comparison and for revert(). Where it cannot be read there is neither.
@@ -232,6 +231,8 @@ bool FileReplacement::prepare(const QByteArray &bytes, QString *error)
         m_unchanged = true;
         return true;
     }
+    if (m_exists && ::access(m_target.constData(), W_OK) != 0)
+        return fail(error, errno == EACCES ? tr("it is not writable") : systemError());
     m_bytes = bytes;
     m_fd = openNameless();
     // Old kernels see a folder that is opened for writing.

@@ -11,6 +11,10 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
 namespace TARVOORIXM1
 {
 
@@ -72,6 +76,24 @@ bool writePdf(QIODevice *device, const QSize &size, const Draw &draw)
     return device->write(bytes) == bytes.size();
 }
 
+// The reason of a failure, or empty. A short write leaves none; what is left over of it then does.
+QString save(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return file.errorString();
+    for (qint64 written = 0; written < bytes.size();) {
+        const qint64 step = file.write(bytes.constData() + written, bytes.size() - written);
+        if (step <= 0)
+            return file.errorString();
+        written += step;
+    }
+    // Its end takes a disk that does not keep the bytes for a success.
+    if (::fsync(file.handle()) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return file.commit() ? QString() : file.errorString();
+}
+
 struct FormatRow {
     QLatin1String ending;
     bool (*write)(QIODevice *, const QSize &, const Draw &);
@@ -91,11 +113,17 @@ bool writePicture(const QString &path, const QSize &size, const Draw &draw, QStr
     for (const FormatRow &format : formats) {
         if (ending != format.ending)
             continue;
-        QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly) && format.write(&file, size, draw) && file.commit())
-            return true;
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QString reason = QStringLiteral("it cannot be drawn");
+        if (format.write(&buffer, size, draw)) {
+            reason = save(path, bytes);
+            if (reason.isEmpty())
+                return true;
+        }
         *error = QStringLiteral("The picture \"") + QDir::toNativeSeparators(path) +
-                 QStringLiteral("\" cannot be written: ") + file.errorString();
+                 QStringLiteral("\" cannot be written: ") + reason;
         return false;
     }
     *error = QStringLiteral("The picture \"") + QDir::toNativeSeparators(path) +

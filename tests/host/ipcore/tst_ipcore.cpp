@@ -5,6 +5,7 @@
 #include <core/projectmanager.h>
 #include <core/viewmanager.h>
 #include <ipcore/ipcore.h>
+#include <utils/folderlock.h>
 
 #include <QClipboard>
 #include <QDialog>
@@ -279,6 +280,43 @@ private Q_SLOTS:
         QVERIFY(IPCore::makeDirs(folder, QStringLiteral("IP")));
         QVERIFY(QFileInfo(folder).isDir());
         QVERIFY(IPCore::makeDirs(folder, QStringLiteral("IP")));
+    }
+
+    void refusesAFolderThatAnotherRunHas()
+    {
+        const QString folder = path(QStringLiteral("busy/temp"));
+        QVERIFY(QDir().mkpath(folder));
+        const auto other = Utils::FolderLock::take(folder, nullptr);
+        const NextDialog dialog;
+        QVERIFY(!IPCore::makeDirs(folder, QStringLiteral("IP")));
+        QVERIFY(dialog.wasShown());
+        QVERIFY2(dialog.text().contains(QString(folder + QLatin1String("/.tarvo-run.lock"))),
+                 qPrintable(dialog.text()));
+    }
+
+    // An IP that makes a folder and starts no run must not keep it.
+    void givesAFolderBackThatNoRunHasTaken()
+    {
+        const QString folder = path(QStringLiteral("unused/temp"));
+        QVERIFY(IPCore::makeDirs(folder, QStringLiteral("IP")));
+        QVERIFY(!Utils::FolderLock::take(folder, nullptr));
+        QTRY_VERIFY(Utils::FolderLock::take(folder, nullptr));
+        QCOMPARE(TestSupport::entriesOf(folder), QStringList());
+    }
+
+    void keepsAFolderWhileItTellsOfAFailure()
+    {
+        const QString folder = path(QStringLiteral("telling/temp"));
+        QVERIFY(IPCore::makeDirs(folder, QStringLiteral("IP")));
+        bool kept = false;
+        const NextDialog dialog([&](QWidget *) {
+            QCoreApplication::processEvents();
+            kept = !Utils::FolderLock::take(folder, nullptr);
+        });
+        IPCore::writeIPConfig(path(QStringLiteral("file %1/a.ipc")), {}, {});
+        QVERIFY(dialog.wasShown());
+        QVERIFY(kept);
+        QTRY_VERIFY(Utils::FolderLock::take(folder, nullptr));
     }
 
     void reportsFoldersThatCannotBeMade()

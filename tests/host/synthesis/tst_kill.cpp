@@ -128,6 +128,31 @@ private Q_SLOTS:
         QCOMPARE(TestSupport::entriesOf(place.job.outputDir).size(), 1 + int(std::size(suffixes)));
     }
 
+    // Whoever is killed of those who watch, the rest goes too.
+    void nothingStaysWithoutTheGuard()
+    {
+        const QByteArray before = qgetenv("PATH");
+        qputenv("PATH", QByteArray(FAKES_DIR "/sleeping:") + before);
+        SynthesisRun run;
+        prepare(run);
+        run.start();
+        qputenv("PATH", before);
+        QTRY_COMPARE_WITH_TIMEOUT(m_mark.processes("sleep").size(), 1, 60000);
+        qint64 guard = 0;
+        const QList<qint64> processes = m_mark.processes();
+        for (const qint64 process : processes) {
+            const QByteArray stat =
+                TestSupport::contentsOf(QStringLiteral("/proc/%1/stat").arg(process));
+            if (stat.mid(stat.lastIndexOf(')') + 2).split(' ').value(1).toLongLong() == ::getpid())
+                guard = process;
+        }
+        QVERIFY(guard > 1);
+        ::kill(pid_t(guard), SIGKILL);
+        QTRY_VERIFY_WITH_TIMEOUT(!run.finished.isEmpty(), 60000);
+        QVERIFY(run.finished.first().first().toInt() != 0);
+        QTRY_COMPARE_WITH_TIMEOUT(m_mark.processes(), QList<qint64>(), 60000);
+    }
+
 private:
     static void prepare(SynthesisRun &run)
     {

@@ -2,8 +2,10 @@
 #include <testsupport.h>
 #include <unprivileged.h>
 
+#include <utils/filereplacement.h>
 #include <utils/fileutils.h>
 
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -11,6 +13,7 @@
 
 #include <sys/stat.h>
 
+using Utils::FileReplacement;
 using Utils::FileUtils;
 
 namespace
@@ -177,6 +180,102 @@ private Q_SLOTS:
         QCOMPARE(TestSupport::contentsOf(target), newBytes);
         for (const QString &link : chain)
             QVERIFY(QFileInfo(path(link)).isSymLink());
+    }
+
+    void writesWhereALinkLeads()
+    {
+        const QString target = path(QStringLiteral("new"));
+        QVERIFY(QFile::link(QStringLiteral("new"), path(QStringLiteral("second"))));
+        QVERIFY(QFile::link(path(QStringLiteral("second")), path(QStringLiteral("first"))));
+        QVERIFY(FileUtils::writeFile(path(QStringLiteral("first")), newBytes, nullptr));
+        QCOMPARE(TestSupport::contentsOf(target), newBytes);
+        QVERIFY(QFileInfo(path(QStringLiteral("first"))).isSymLink());
+        QVERIFY(QFileInfo(path(QStringLiteral("second"))).isSymLink());
+
+        QVERIFY(QFile::link(QStringLiteral("loop"), path(QStringLiteral("loop"))));
+        QString error;
+        QVERIFY(!FileUtils::writeFile(path(QStringLiteral("loop")), newBytes, &error));
+        QVERIFY2(error.contains(path(QStringLiteral("loop"))), qPrintable(error));
+        QVERIFY(QFileInfo(path(QStringLiteral("loop"))).isSymLink());
+    }
+
+    void keepsThePermissionsOfAFile_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("for the owner") << 0600;
+        QTest::newRow("for all") << 0666;
+        QTest::newRow("to be run") << 0755;
+    }
+
+    void keepsThePermissionsOfAFile()
+    {
+        QFETCH(int, mode);
+        const QString file = path(QStringLiteral("file"));
+        QVERIFY(TestSupport::write(file, oldBytes));
+        QCOMPARE(chmod(QFile::encodeName(file).constData(), mode_t(mode)), 0);
+        QVERIFY(FileUtils::writeFile(file, newBytes, nullptr));
+        QCOMPARE(int(modeOf(file)), mode);
+        QCOMPARE(TestSupport::contentsOf(file), newBytes);
+    }
+
+    void needsNoRightToLeaveAFileAsItIs()
+    {
+        const QString file = path(QStringLiteral("file"));
+        QVERIFY(TestSupport::write(file, oldBytes));
+        QCOMPARE(chmod(QFile::encodeName(file).constData(), 0444), 0);
+        QCOMPARE(chmod(QFile::encodeName(m_dir.path()).constData(), 0755), 0);
+        const TestSupport::Unprivileged user;
+        if (!user.holds())
+            QSKIP("root cannot give up its rights here, and permissions do not bind it");
+        QString error;
+        QVERIFY2(FileUtils::writeFile(file, oldBytes, &error), qPrintable(error));
+        QVERIFY(!FileUtils::writeFile(file, newBytes, &error));
+        QVERIFY2(error.contains(file) && error.contains(QStringLiteral("is not writable")),
+                 qPrintable(error));
+    }
+
+    void placesSeveralFilesOrNone()
+    {
+        const QString first = path(QStringLiteral("first"));
+        const QString second = path(QStringLiteral("second"));
+        QVERIFY(TestSupport::write(first, oldBytes));
+        QString error;
+        {
+            FileReplacement a(first);
+            FileReplacement b(second);
+            QVERIFY(a.prepare(newBytes, &error) && b.prepare(newBytes, &error));
+            QCOMPARE(TestSupport::entriesOf(m_dir.path()), QStringList{QStringLiteral("first")});
+            QCOMPARE(TestSupport::contentsOf(first), oldBytes);
+            QVERIFY(a.place(&error) && b.place(&error));
+            QCOMPARE(TestSupport::contentsOf(first), newBytes);
+            QCOMPARE(TestSupport::contentsOf(second), newBytes);
+            a.revert();
+            b.revert();
+        }
+        QCOMPARE(TestSupport::contentsOf(first), oldBytes);
+        QCOMPARE(TestSupport::entriesOf(m_dir.path()), QStringList{QStringLiteral("first")});
+        {
+            FileReplacement unplaced(first);
+            QVERIFY(unplaced.prepare(newBytes, &error));
+        }
+        QCOMPARE(TestSupport::contentsOf(first), oldBytes);
+        QCOMPARE(TestSupport::entriesOf(m_dir.path()), QStringList{QStringLiteral("first")});
+    }
+
+    // What a process leaves that is killed between the only two steps that can be seen.
+    void usesUpWhatAKilledProcessLeft()
+    {
+        const QString file = path(QStringLiteral("file"));
+        QVERIFY(TestSupport::write(file, oldBytes));
+        const QString left =
+            path(QStringLiteral(".tarvo-") +
+                 QString::fromLatin1(
+                     QCryptographicHash::hash("file", QCryptographicHash::Sha1).toHex().left(16)) +
+                 QStringLiteral(".new"));
+        QVERIFY(TestSupport::write(left, "left"));
+        QVERIFY(FileUtils::writeFile(file, newBytes, nullptr));
+        QCOMPARE(TestSupport::contentsOf(file), newBytes);
+        QCOMPARE(TestSupport::entriesOf(m_dir.path()), QStringList{QStringLiteral("file")});
     }
 
     void refusesWhatIsNoPlainFile()

@@ -12,6 +12,7 @@
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
 #include <ui/tarvoorixm1dlg.h>
+#include <utils/folderlock.h>
 #include <utils/inifile.h>
 
 #include <QComboBox>
@@ -119,6 +120,11 @@ private Q_SLOTS:
     void aDeclinedOverwriteWritesNothing();
     void anUnmakeableGenerationFolderIsReported();
     void anUnwritableIncludeFileStopsBeforeTheRun();
+
+    void aFolderInUseStopsBeforeAnythingIsWritten();
+    void ofTwoDialogsOnlyOneHasTheFolder();
+    void theFolderIsFreeWhenARunIsOver_data();
+    void theFolderIsFreeWhenARunIsOver();
 
     void generatesAndCloses();
     void aMissingToolLeavesTheDialogOpenAndASecondTryWorks();
@@ -692,6 +698,84 @@ void tst_MainDialog::closingTheDialogEndsTheTool()
     dialog->reject();
     dialog.reset();
     QVERIFY(isGone(pid));
+}
+
+void tst_MainDialog::aFolderInUseStopsBeforeAnythingIsWritten()
+{
+    const auto dialog = newDialog();
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    const QString temp = folder + QLatin1String("/temp/tv_orix_m1");
+    QVERIFY(QDir().mkpath(temp));
+    auto other = Utils::FolderLock::take(temp, nullptr);
+    QVERIFY(other);
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Yes);
+    QCOMPARE(boxes.size(), 2);
+    QVERIFY2(boxes.at(1).text.contains(temp + QLatin1String("/.tarvo-run.lock")),
+             qPrintable(boxes.at(1).text));
+    QCOMPARE(TestSupport::entriesOf(folder), QStringList{QStringLiteral("temp")});
+    QCOMPARE(TestSupport::entriesOf(temp), QStringList{QStringLiteral(".tarvo-run.lock")});
+    other.reset();
+    QCOMPARE(runToTheEnd(*dialog).size(), 1); // the question
+    QCOMPARE(dialog->result(), int(QDialog::Accepted));
+}
+
+void tst_MainDialog::ofTwoDialogsOnlyOneHasTheFolder()
+{
+    const QString pidFile = m_dir->filePath(QStringLiteral("pid"));
+    auto fake = std::make_unique<FakeTool>(endlessScript(pidFile));
+    auto first = newDialog();
+    const auto second = newDialog("TV2KR-18C-QFN88-C8/I7");
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    first->show();
+    pressOk(*first);
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), runTimeout);
+    const QByteArray before = TestSupport::contentsOf(folder + QLatin1String("/tarvo_orix_m1.ipc"));
+    QVERIFY(!before.isEmpty());
+
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*second); }, QMessageBox::Yes);
+    QCOMPARE(boxes.size(), 2);
+    QVERIFY2(boxes.at(1).text.contains(QLatin1String("another run is working there")),
+             qPrintable(boxes.at(1).text));
+    QCOMPARE(TestSupport::contentsOf(folder + QLatin1String("/tarvo_orix_m1.ipc")), before);
+    QVERIFY(!second->findChild<IPCore::SynthesisHelper *>());
+
+    first.reset();
+    fake.reset();
+    QCOMPARE(runToTheEnd(*second).size(), 1);
+    QCOMPARE(second->result(), int(QDialog::Accepted));
+}
+
+void tst_MainDialog::theFolderIsFreeWhenARunIsOver_data()
+{
+    QTest::addColumn<QByteArray>("tool"); // empty: the real one
+    QTest::addColumn<bool>("blocked");    // an include file cannot be written
+    QTest::newRow("after a success") << QByteArray() << false;
+    QTest::newRow("while a failure is shown") << QByteArray("exit 3\n") << false;
+    QTest::newRow("while a file that cannot be written is shown") << QByteArray() << true;
+}
+
+void tst_MainDialog::theFolderIsFreeWhenARunIsOver()
+{
+    QFETCH(QByteArray, tool);
+    QFETCH(bool, blocked);
+    const auto fake = tool.isEmpty() ? nullptr : std::make_unique<FakeTool>(tool);
+    const auto dialog = newDialog();
+    const QString temp = m_dir->filePath(QStringLiteral("tarvo_orix_m1/temp/tv_orix_m1"));
+    QVERIFY(QDir().mkpath(temp));
+    if (blocked)
+        QVERIFY(QDir().mkpath(temp + QLatin1String("/psram_define.v")));
+    bool free = false;
+    const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+        const auto *box = qobject_cast<QMessageBox *>(modal);
+        if (modal->findChild<QLabel *>(QStringLiteral("titleLabel")) ||
+            (box && box->text().contains(QLatin1String("psram_define.v"))))
+            free = bool(Utils::FolderLock::take(temp, nullptr));
+    });
+    runToTheEnd(*dialog);
+    if (dialog->result() == int(QDialog::Accepted))
+        free = bool(Utils::FolderLock::take(temp, nullptr));
+    QVERIFY(free);
+    QVERIFY(!QFileInfo::exists(temp + QLatin1String("/.tarvo-run.lock")));
 }
 
 void tst_MainDialog::generatesVhdl()
