@@ -203,23 +203,27 @@ private:
         QString value;
         bool quoted = false;
         bool wasQuoted = false; // blanks at the end belong to it
+        int kept = 0;           // characters that stay, blanks or not
         int i = span.first;
         const auto skipBlanks = [&] {
             while (i < span.last && isBlank(m_text.at(i)))
                 ++i;
         };
         const auto finish = [&] {
-            while (!wasQuoted && (value.endsWith(u' ') || value.endsWith(u'\t')))
+            while (!wasQuoted && value.size() > kept &&
+                   (value.endsWith(u' ') || value.endsWith(u'\t')))
                 value.chop(1);
             list.append(value);
             value.clear();
             wasQuoted = false;
+            kept = 0;
         };
         skipBlanks();
         while (i < span.last) {
             const char c = m_text.at(i);
             if (c == '\\') {
                 value += escape(&i, span.last);
+                kept = value.size();
             } else if (c == '"') {
                 ++i;
                 wasQuoted = true;

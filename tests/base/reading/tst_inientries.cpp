@@ -45,6 +45,7 @@ void tst_IniEntries::readsAsQSettingsDoes_data()
     row("escapes", "a=\\a\\b\\f\\n\\r\\t\\v\\\"\\?\\'\\\\\\q\\x\n");
     row("characters by number", "a=\\x41\\x20ac\\101\\0\\x1f600z\\8\n");
     row("no value", "a=\nb\n");
+    row("a blank by number at the end", "a=b \\x20 \nc=d\\t\t, e\\x9\n");
     row("an escape at the end", "a=b\\");
     row("Latin-1", "a=\xfc\n");
     row("UTF-8 without a mark", "a=\xc3\xbc\n");
