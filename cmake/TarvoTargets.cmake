@@ -46,7 +46,7 @@ target_link_options(tarvo_flags INTERFACE -Wl,--as-needed)
 
 # What an attacker's input would need is taken away: overrun stack frames and buffers end the program, and nothing that
 # the loader has resolved can be written to. The sanitizers bring checks of their own, which these would disturb.
-if(NOT TARVO_SANITIZE)
+if(NOT TARVO_SANITIZE AND NOT TARVO_FUZZ)
     set(optimised "$<NOT:$<CONFIG:Debug>>")
     target_compile_options(tarvo_flags INTERFACE
         -fstack-protector-strong -fstack-clash-protection "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")

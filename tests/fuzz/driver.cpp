@@ -36,8 +36,11 @@ constexpr size_t longestInput = 1 << 16;
 
 #if defined(__SANITIZE_ADDRESS__)
 constexpr long mostMemoryKb = 4L << 20;
+// The sanitizers report the others themselves, and abort.
+constexpr int fatalSignals[] = {SIGABRT};
 #else
 constexpr long mostMemoryKb = 1L << 20;
+constexpr int fatalSignals[] = {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL};
 #endif
 
 // For the signal handler.
@@ -76,7 +79,7 @@ void watchSignals()
     struct sigaction action = {};
     action.sa_handler = keepInput;
     action.sa_flags = SA_ONSTACK;
-    for (const int number : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL})
+    for (const int number : fatalSignals)
         ::sigaction(number, &action, nullptr);
 }
 
