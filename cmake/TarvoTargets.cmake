@@ -34,11 +34,19 @@ if(TARVO_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(tarvo_flags INTERFACE -fsanitize=address,undefined)
 endif()
-target_link_options(tarvo_flags INTERFACE -Wl,--no-undefined -Wl,--as-needed)
+if(TARVO_FUZZ)
+    # The readers are watched while they run; only the targets themselves bring a main program.
+    target_compile_options(tarvo_flags INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(tarvo_flags INTERFACE -fsanitize=address,undefined)
+else()
+    target_link_options(tarvo_flags INTERFACE -Wl,--no-undefined)
+endif()
+target_link_options(tarvo_flags INTERFACE -Wl,--as-needed)
 
 # What an attacker's input would need is taken away: overrun stack frames and buffers end the program, and nothing that
 # the loader has resolved can be written to. The sanitizers bring checks of their own, which these would disturb.
-if(NOT TARVO_SANITIZE)
+if(NOT TARVO_SANITIZE AND NOT TARVO_FUZZ)
     set(optimised "$<NOT:$<CONFIG:Debug>>")
     target_compile_options(tarvo_flags INTERFACE
         -fstack-protector-strong -fstack-clash-protection "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")

@@ -179,6 +179,10 @@ int main(int argc, char *argv[])
     if (options.parse(argc, argv, &status) == Options::Leave)
         return status;
 
+    // QSettings would wait for ever for what a pipe has to say.
+    if (const QFileInfo file(options.settings); file.exists() && !file.isFile())
+        return fail(MainWindow::tr("\"%1\" cannot hold the settings: it is not a plain file.")
+                        .arg(QDir::toNativeSeparators(options.settings)));
     QSettings settings(options.settings.isEmpty()
                            ? QSettings(QSettings::IniFormat, QSettings::UserScope,
                                        QStringLiteral("tarvo"), QStringLiteral("workbench"))

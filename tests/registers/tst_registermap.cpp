@@ -97,6 +97,8 @@ void tst_RegisterMap::namesFileAndPlaceOfAMistake_data()
     row("unknown bus", "\"APB\"", "\"PCI\"", "\"bus\" is neither AHB nor APB");
     row("no name", "\"peripheral\": \"LAMP\"", "\"peripheral\": \"1 LAMP\"",
         "\"1 LAMP\" is no name");
+    row("a line end in a name", "\"peripheral\": \"LAMP\"", "\"peripheral\": \"LAMP\\n\"",
+        "\"peripheral\" is not one line");
     row("unknown switch", "Enable SPI", "Enable LAMP", "\"Enable LAMP\" is no switch");
     row("an option that is no switch", "Enable SPI", "ITCM_Size", "\"ITCM_Size\" is no switch");
     row("base that is no number", "0x50003000", "far", "\"base\" is no number");

@@ -13,6 +13,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <sys/stat.h>
 
 using namespace TestSupport;
 
@@ -190,6 +191,17 @@ private Q_SLOTS:
         QTest::newRow("another device")
             << QByteArray("[General]\ntype=tarvo.tarvo_orix_m1\ntarget_device=TV9-1\n")
             << QStringLiteral("a.svg") << QStringLiteral("device information");
+        QByteArray nested = "@Variant(";
+        for (int depth = 0; depth < 30000; ++depth)
+            nested += "\\0\\0\\0\\x9\\0\\0\\0\\0\\x1";
+        QTest::newRow("a value nested 30,000 deep")
+            << QByteArray("[General]\ntype=tarvo.tarvo_orix_m1\nversion=1.0\n[Config]\na=" +
+                          nested + ")\n")
+            << QStringLiteral("a.svg")
+            << QStringLiteral("line 5: \"Config/a\" is no text but an object (\"@Variant\")");
+        QTest::newRow("more than a megabyte")
+            << QByteArray((1 << 20) + 1, '\n') << QStringLiteral("a.svg")
+            << QStringLiteral("it is larger than 1 MiB");
         QTest::newRow("an IP without a diagram")
             << QByteArray("[General]\ntype=fake.blinker\n") << QStringLiteral("a.svg")
             << QStringLiteral("offers no diagram");
@@ -304,6 +316,23 @@ private Q_SLOTS:
         for (const char *made : {"blinker/blinker.ipc", "ip2/blinker/blinker.ipc"})
             runUntil({QStringLiteral("--new-ip"), QStringLiteral("fake.blinker")},
                      dir.filePath(QLatin1String(made)), dir);
+    }
+
+    // In place of a file a pipe would keep the program waiting, with nothing to see.
+    void waitsForNoPipe()
+    {
+        const QTemporaryDir dir;
+        const QString pipe = dir.filePath(QStringLiteral("x.ipc"));
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        Outcome outcome = render(pipe, dir.filePath(QStringLiteral("a.svg")));
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(QLatin1String("it is not a plain file")),
+                 qPrintable(outcome.errors));
+        outcome = run({QStringLiteral("--settings"), pipe, QStringLiteral("--render-diagram"), pipe,
+                       QStringLiteral("-o"), dir.filePath(QStringLiteral("a.svg"))});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(QLatin1String("cannot hold the settings")),
+                 qPrintable(outcome.errors));
     }
 
     void endsWhenItIsAskedTo_data()

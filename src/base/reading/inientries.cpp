@@ -74,7 +74,7 @@ public:
                 IniEntry entry;
                 entry.line = lineNumber(line.span.first);
                 entry.section = section;
-                entry.key = name({line.span.first, line.equals}).trimmed();
+                entry.key = name({line.span.first, line.equals});
                 entry.values = values({line.equals + 1, line.span.last});
                 entry.bytes = bytesOf(line.span);
                 entries.append(entry);
@@ -157,17 +157,24 @@ private:
     {
         const int end = m_text.indexOf(']', span.first);
         const bool closed = end >= 0 && end < span.last;
-        const QString section = name({span.first + 1, closed ? end : span.last}).trimmed();
+        const QString section = name({span.first + 1, closed ? end : span.last});
         if (section.compare(QLatin1String("general"), Qt::CaseInsensitive) == 0)
             return {};
+        if (section.isEmpty())
+            return QStringLiteral(""); // no name, but not the top level
         return section.compare(QLatin1String("%general"), Qt::CaseInsensitive) == 0
                    ? QStringLiteral("General")
                    : section;
     }
 
-    // "%20" and "%U20AC" are characters of their own.
+    // Without the blanks around it; "%20" and "%U20AC" are characters of their own.
     QString name(Span span) const
     {
+        const auto isSpace = [](char c) { return isBlank(c) || isNewline(c); };
+        while (span.first < span.last && isSpace(m_text.at(span.first)))
+            ++span.first;
+        while (span.last > span.first && isSpace(m_text.at(span.last - 1)))
+            --span.last;
         QString result;
         for (int i = span.first; i < span.last; ++i) {
             const bool wide = m_text.at(i) == '%' && i + 1 < span.last && m_text.at(i + 1) == 'U';
@@ -196,23 +203,27 @@ private:
         QString value;
         bool quoted = false;
         bool wasQuoted = false; // blanks at the end belong to it
+        int kept = 0;           // characters that stay, blanks or not
         int i = span.first;
         const auto skipBlanks = [&] {
             while (i < span.last && isBlank(m_text.at(i)))
                 ++i;
         };
         const auto finish = [&] {
-            while (!wasQuoted && (value.endsWith(u' ') || value.endsWith(u'\t')))
+            while (!wasQuoted && value.size() > kept &&
+                   (value.endsWith(u' ') || value.endsWith(u'\t')))
                 value.chop(1);
             list.append(value);
             value.clear();
             wasQuoted = false;
+            kept = 0;
         };
         skipBlanks();
         while (i < span.last) {
             const char c = m_text.at(i);
             if (c == '\\') {
                 value += escape(&i, span.last);
+                kept = value.size();
             } else if (c == '"') {
                 ++i;
                 wasQuoted = true;
@@ -292,7 +303,7 @@ QString foreignKind(const QString &value)
 
 QString IniEntry::name() const
 {
-    return section.isEmpty() ? key : QString(section + u'/' + key);
+    return section.isNull() ? key : QString(section + u'/' + key);
 }
 
 QVector<IniEntry> iniEntries(const QByteArray &text)

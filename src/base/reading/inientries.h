@@ -10,8 +10,8 @@ namespace Reading
 
 // An entry of an INI file in the dialect of QSettings.
 struct IniEntry {
-    int line = 0; // from 1: where its key stands
-    QString section;
+    int line = 0;    // from 1: where its key stands
+    QString section; // null at the top level
     QString key;
     // As written, escapes and quotation marks resolved: more than one where commas part them.
     QStringList values;

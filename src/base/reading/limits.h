@@ -14,7 +14,7 @@ constexpr qint64 mebibyte = 1024 * kibibyte;
 
 // Bytes.
 constexpr qint64 configuration = 1 * mebibyte; // .ipc
-constexpr qint64 descriptor = 1 * mebibyte;      // .ipspec
+constexpr qint64 descriptor = 1 * mebibyte;    // .ipspec
 constexpr qint64 deviceFile = 4 * mebibyte;
 constexpr qint64 registerFile = 4 * mebibyte;
 constexpr qint64 memoryFile = 16 * mebibyte; // contents of one byte lane of the ITCM

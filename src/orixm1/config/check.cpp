@@ -66,7 +66,10 @@ private:
         }
         const Option *option = findOption(key);
         if (!option) {
-            const QString nearest = nearestOptionKey(key);
+            // Looking for it takes time; a file with so many is no slip of the pen.
+            constexpr int mostSlips = 100;
+            const QString nearest =
+                ++m_unknownKeys <= mostSlips ? nearestOptionKey(key) : QString();
             add(Finding::Warning, key,
                 nearest.isEmpty()
                     ? QStringLiteral("unknown key")
@@ -255,6 +258,7 @@ private:
     const OptionMap &m_options;
     const DEV::DeviceArg &m_device;
     const QString m_createInPath;
+    int m_unknownKeys = 0;
     QVector<Finding> m_findings;
 };
 

@@ -33,7 +33,7 @@ void tst_IniEntries::readsAsQSettingsDoes_data()
     row("a plain entry", "a=b\n");
     row("blanks around all", " \t a b  =  c d  \n");
     row("a section", "[Config]\na=1\n[General]\nb=2\n[%General]\nc=3\n");
-    row("odd letters in names", "[a%20b]\n%U20ACx%41=1\n");
+    row("odd letters in names", "[a%20b]\n%U20ACx%41=1\n %20c%20 =2\n[ %20d ]\ne=3\n");
     row("comments", ";x=1\na=1;b=2\n ; c=3\n#d=4\n");
     row("line ends", "a=1\rb=2\r\nc=3\n\rd=4");
     row("a value over two lines", "a=1\\\n2\nb=3\\\r\n4\n");
@@ -45,6 +45,7 @@ void tst_IniEntries::readsAsQSettingsDoes_data()
     row("escapes", "a=\\a\\b\\f\\n\\r\\t\\v\\\"\\?\\'\\\\\\q\\x\n");
     row("characters by number", "a=\\x41\\x20ac\\101\\0\\x1f600z\\8\n");
     row("no value", "a=\nb\n");
+    row("a blank by number at the end", "a=b \\x20 \nc=d\\t\t, e\\x9\n");
     row("an escape at the end", "a=b\\");
     row("Latin-1", "a=\xfc\n");
     row("UTF-8 without a mark", "a=\xc3\xbc\n");

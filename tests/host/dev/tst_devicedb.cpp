@@ -350,6 +350,16 @@ private Q_SLOTS:
         row("empty", "", "");
         row("cut", series(entry("TV9K-1A", "A")).chopped(3), "");
         row("no JSON", "devices: none", "");
+        row("a mistake further down", "{\n\"devices\":\n[}", "line 3: a value is missing here");
+        row("nested without end", QByteArray(100000, '['), "line 1: the text is nested too deeply");
+        // 317 packages in 317 speed grades.
+        QByteArray many = "\"QFN88P\"";
+        for (int i = 1; i < 317; ++i)
+            many += ",\"QFN88P\"";
+        row("more devices than anyone has",
+            series("{\"device\": \"TV9-1\", \"packages\": [" + many + "], \"speeds\": [" + many +
+                   "]}"),
+            "with \"TV9-1\" there are more than 100000 devices");
         row("an array", "[]", "lists no devices");
         row("no devices", "{}", "lists no devices");
         row("an empty list of devices", series(""), "lists no devices");

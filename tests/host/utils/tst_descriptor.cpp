@@ -115,6 +115,43 @@ private Q_SLOTS:
         QCOMPARE(map.value(key.chopped(1)).toString(), QStringLiteral("deep"));
     }
 
+    // Each key holds those of all objects around it: a small file, gigabytes of keys.
+    void boundsWhatTheKeysExpandTo()
+    {
+        QByteArray text = "{\"" + QByteArray(100000, 'k') + "\": {\"a0\": 0";
+        for (int i = 1; i < 1000; ++i)
+            text += ", \"a" + QByteArray::number(i) + "\": 0";
+        QString error;
+        QVERIFY(read(text + "}}", &error).isEmpty());
+        QVERIFY2(error.contains(QLatin1String("have more than 16777216 characters altogether")),
+                 qPrintable(error));
+    }
+
+    void aTargetIsTheNameOfAFile_data()
+    {
+        QTest::addColumn<QByteArray>("target");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("a name") << QByteArray("tarvo_orix_m1") << true;
+        QTest::newRow("blanks and dots") << QByteArray("an ip.v2 ..") << true;
+        QTest::newRow("hidden") << QByteArray(".ip") << true;
+        QTest::newRow("200 bytes") << QByteArray(200, 'x') << true;
+        QTest::newRow("201 bytes") << QByteArray(201, 'x') << false;
+        QTest::newRow("upwards") << QByteArray("../../x") << false;
+        QTest::newRow("the folder above") << QByteArray("..") << false;
+        QTest::newRow("the folder itself") << QByteArray(".") << false;
+        QTest::newRow("a line end") << QByteArray("a\\nb") << false;
+    }
+
+    void aTargetIsTheNameOfAFile()
+    {
+        QFETCH(QByteArray, target);
+        QFETCH(bool, accepted);
+        QString error;
+        const QVariantMap map = read("{\"ipcore\": {\"target\": \"" + target + "\"}}", &error);
+        QCOMPARE(!map.isEmpty(), accepted);
+        QCOMPARE(error.contains(QLatin1String(": \"ipcore.target\" is ")), !accepted);
+    }
+
     void namesThePlaceOfAMistake_data()
     {
         QTest::addColumn<QByteArray>("text");

@@ -437,6 +437,19 @@ private Q_SLOTS:
         QCOMPARE(TestSupport::contentsOf(file), bytes);
     }
 
+    // Such a name was read from bytes that are not UTF-8: the folder that is meant has another.
+    void makesNothingOfADamagedName()
+    {
+        const QString name = path(QStringLiteral("a\ufffd/b"));
+        QString error;
+        QVERIFY(!FileUtils::makePath(name, &error));
+        QVERIFY2(error.contains(QLatin1String("is not UTF-8")), qPrintable(error));
+        error.clear();
+        QVERIFY(!FileUtils::writeFile(path(QStringLiteral("c\ufffd")), "x", &error));
+        QVERIFY2(error.contains(QLatin1String("is not UTF-8")), qPrintable(error));
+        QVERIFY(!TestSupport::entriesOf(m_dir.path()).join(QString()).contains(u'\ufffd'));
+    }
+
     void makesAllFoldersOfAPath()
     {
         const QString folder = path(QStringLiteral("a/b c/d"));

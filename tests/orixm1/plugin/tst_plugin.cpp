@@ -393,6 +393,13 @@ void tst_Plugin::aDangerousFileIsNotEvenRead()
     const auto ip = core();
     const QList<TestSupport::SeenBox> boxes =
         TestSupport::boxesOf([&] { ip->openIP(dir.path(), ipc); });
+    // Nor when it is to be moved to another device.
+    QVariantMap answer;
+    QVERIFY(QMetaObject::invokeMethod(
+        plugin(), "moveToDevice", Q_RETURN_ARG(QVariantMap, answer), Q_ARG(QString, ipc),
+        Q_ARG(QString, QStringLiteral("TV2KR-18C-QFN88P-C8/I7")), Q_ARG(bool, true)));
+    QVERIFY(!answer.value(QStringLiteral("error")).toString().isEmpty());
+    QVERIFY(text.isEmpty() || TestSupport::contentsOf(ipc) == text);
     QCOMPARE(boxes.size(), 1);
     QCOMPARE(boxes.first().title, QStringLiteral("Error"));
     QVERIFY2(boxes.first().text.contains(reason) && boxes.first().text.contains(ipc),

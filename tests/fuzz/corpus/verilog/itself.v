@@ -1,0 +1,1 @@
+module a; b x(); endmodule module b; a x(); endmodule

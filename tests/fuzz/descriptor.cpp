@@ -1,0 +1,30 @@
+#include "fuzz.h"
+
+#include <utils/descriptor.h>
+#include <utils/jsonmistake.h>
+
+#include <QJsonDocument>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes = Fuzz::bytesOf(data, size);
+    const QString path = Fuzz::file(QStringLiteral("ip.ipspec"), bytes);
+    QString error;
+    const QVariantMap map = Utils::readDescriptor(path, &error);
+    REQUIRE(map.isEmpty() || error.isEmpty());
+    const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+    REQUIRE(mistake.offset >= -1 && mistake.offset <= bytes.size());
+    REQUIRE((mistake.offset >= 0) == !mistake.reason.isEmpty());
+    if (!error.isEmpty()) {
+        REQUIRE(error.startsWith(path + u':'));
+        const QStringList place = error.mid(path.size() + 1).split(u':');
+        bool hasLine = false;
+        const int line = place.first().toInt(&hasLine);
+        REQUIRE(!hasLine || (line >= 1 && line <= Fuzz::lineCount(bytes)));
+        return 0;
+    }
+    REQUIRE(QJsonDocument::fromJson(bytes).isObject());
+    const QString target = map.value(QStringLiteral("ipcore.target")).toString();
+    REQUIRE(!target.contains(u'/') && !target.contains(QChar(0)) && target != QLatin1String(".."));
+    return 0;
+}

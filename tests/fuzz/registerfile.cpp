@@ -1,0 +1,43 @@
+#include "fuzz.h"
+
+#include <registers/registerdocs.h>
+#include <registers/registermap.h>
+
+using namespace TARVOORIXM1;
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static const bool made = QDir(Fuzz::folder()).mkdir(QStringLiteral("registers"));
+    REQUIRE(made);
+    const QByteArray bytes = Fuzz::bytesOf(data, size);
+    Fuzz::file(QStringLiteral("registers/a.json"), bytes);
+    QVector<Peripheral> peripherals;
+    QString error;
+    if (!readRegisterMap(Fuzz::folder(), &peripherals, &error)) {
+        REQUIRE(error.contains(QLatin1String("a.json")));
+        REQUIRE(Fuzz::lineIn(error) <= Fuzz::lineCount(bytes));
+        return 0;
+    }
+    REQUIRE(error.isEmpty() && peripherals.size() == 1);
+    int rows = 0;
+    const Peripheral &peripheral = peripherals.first();
+    for (const Register &entry : peripheral.registers) {
+        REQUIRE(entry.offset % 4 == 0 && entry.offset < peripheral.span);
+        quint32 mask = 0;
+        for (const RegisterField &field : entry.fields) {
+            REQUIRE(field.low >= 0 && field.low <= field.high && field.high < 32);
+            REQUIRE((mask & field.mask()) == 0);
+            mask |= field.mask();
+        }
+        REQUIRE((resetValue(entry) & ~mask) == 0);
+        rows += 1 + entry.fields.size();
+    }
+    // Every line of the tables is one: no text breaks out of its cell's line.
+    const QString document = registersMarkdown(peripherals);
+    REQUIRE(document.count(QLatin1String("\n| ")) == 2 + peripheral.instances.size() + rows);
+    const QString header = registersHeader(peripherals);
+    REQUIRE(header.count(QLatin1String("/*")) >= 2 && header.endsWith(QLatin1String("#endif\n")));
+    REQUIRE(header.count(QLatin1String("*/")) == 2);
+    enabledPeripherals(peripherals, {});
+    return 0;
+}
