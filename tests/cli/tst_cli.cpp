@@ -850,10 +850,12 @@ void tst_Cli::aDryRunOnlyTells()
 
 void tst_Cli::movesIntoAnotherFile()
 {
-    QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("init")));
-    const QString file = config("Initialize%20ITCM=true\nITCM_Initialization_Path=init\n"
-                                "ITCM_Initialization_AbsolutePath=" +
-                                path("init").toUtf8() + "\n");
+    for (const char *lane : {"init/itcm0", "init/itcm1", "init/itcm2", "init/itcm3"})
+        QVERIFY(TestSupport::write(path(lane), QByteArray("00\n").repeated(256)));
+    const QString file =
+        config("ITCM_Size=0\nDTCM_Size=0\nInitialize%20ITCM=true\nITCM_Initialization_Path=init\n"
+               "ITCM_Initialization_AbsolutePath=" +
+               path("init").toUtf8() + "\n");
     const QByteArray before = TestSupport::contentsOf(file);
     const QStringList arguments = {
         QStringLiteral("retarget"), file,

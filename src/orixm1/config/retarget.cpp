@@ -234,9 +234,12 @@ QString lossSentence(const Loss &loss, const Retargeted &result, const DEV::Devi
                            " to "_l1 + sizeText(loss.after) + ": "_l1 + name +
                            " has no more for it"_l1;
         const QString largest = tcmSizes(name).largest;
-        return sizeText(loss.after) == largest
-                   ? QString(sentence + u'.')
-                   : QString(sentence + " beside another memory of "_l1 + largest + u'.');
+        if (sizeText(loss.after) != largest)
+            sentence += " beside another memory of "_l1 + largest;
+        sentence += u'.';
+        if (loss.key == Key::itcmSize && result.options.value(Key::initializeItcm).toBool())
+            sentence += QStringLiteral(" Its initialisation files have to be made for that size.");
+        return sentence;
     }
     if (loss.key == Key::ethernetInputDelay)
         return "The RGMII input delay falls from "_l1 + loss.before.toString() + " to "_l1 +

@@ -40,7 +40,7 @@ QString unusable(const QString &ipcFile)
     QFile file(ipcFile);
     if (!file.open(QIODevice::ReadOnly))
         return shown(ipcFile) + " cannot be read: "_l1 + file.errorString() + u'.';
-    return {};
+    return IpcFile::danger(ipcFile);
 }
 
 } // namespace

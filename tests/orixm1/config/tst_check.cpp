@@ -52,6 +52,17 @@ OptionMap smallest(const OptionMap &more = {})
     return options;
 }
 
+// The files of an ITCM of 1 KB.
+bool writeSmallestContents(const QString &folder)
+{
+    const QByteArray lane = QByteArray("00\n").repeated(256);
+    for (int i = 0; i < 4; ++i) {
+        if (!TestSupport::write(folder + QStringLiteral("/itcm%1").arg(i), lane))
+            return false;
+    }
+    return true;
+}
+
 // "error KEY" for each finding.
 QStringList inShort(const QVector<Finding> &findings)
 {
@@ -257,7 +268,9 @@ void tst_Check::findsWhatNoGeneratedLineCanHold()
     QTemporaryDir dir;
     QVERIFY(QDir(dir.path()).mkdir(name));
     const DEV::DeviceArg device = deviceNamed(QStringLiteral("TV2K-18"));
-    OptionMap options = {{Key::initializeItcm, true},
+    QVERIFY(writeSmallestContents(dir.filePath(name)));
+    OptionMap options = {{Key::itcmSize, 0},
+                         {Key::initializeItcm, true},
                          {Key::itcmInitializationPath, name},
                          {Key::itcmInitializationAbsolutePath, dir.filePath(name)}};
     const QVector<Finding> findings = checkOptions(options, device, dir.path());
@@ -289,8 +302,11 @@ void tst_Check::theOutputFolderCanBeUnsafeToo()
     const QString folder = dir.filePath(QStringLiteral("e\"x"));
     QVERIFY(QDir().mkpath(folder + QStringLiteral("/init")));
     const DEV::DeviceArg device = deviceNamed(QStringLiteral("TV2K-18"));
+    QVERIFY(writeSmallestContents(dir.path()));
+    QVERIFY(writeSmallestContents(folder + QStringLiteral("/init")));
     const auto check = [&](const QString &path) {
-        return inShort(checkOptions({{Key::initializeItcm, true},
+        return inShort(checkOptions({{Key::itcmSize, 0},
+                                     {Key::initializeItcm, true},
                                      {Key::itcmInitializationPath, path},
                                      {Key::itcmInitializationAbsolutePath, dir.path()}},
                                     device, folder));

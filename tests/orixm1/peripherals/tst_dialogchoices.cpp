@@ -223,7 +223,9 @@ QStringList errorsOf(const OptionMap &options, const DEV::DeviceArg &device,
 {
     QStringList errors;
     for (const Finding &finding : checkOptions(options, device, createIn)) {
-        if (finding.severity == Finding::Error)
+        // The files that the memory is filled from are not the dialogs' matter.
+        if (finding.severity == Finding::Error &&
+            finding.key != Key::itcmInitializationAbsolutePath)
             errors.append(finding.key + text(": ") + finding.message);
     }
     return errors;
