@@ -1,11 +1,16 @@
 #include "commands.h"
 
 #include "environment.h"
+#include "findings.h"
 #include "ipcdocument.h"
 #include "output.h"
 
-#include <config/check.h>
 #include <config/optionkeys.h>
+#include <registers/interrupts.h>
+
+#include <QDir>
+
+#include <algorithm>
 
 namespace Cli
 {
@@ -19,13 +24,8 @@ namespace
 QVector<Finding> checkFrame(const IpcDocument &document, const QVariantMap &ipInfo)
 {
     QVector<Finding> findings;
-    if (document.device.isNull()) {
-        const QString message =
-            document.deviceText.isEmpty()
-                ? QStringLiteral("the file names no device")
-                : QString(QLatin1String("unknown device \"") + document.deviceText + u'"');
-        findings.append({Finding::Error, QStringLiteral("target_device"), message});
-    }
+    if (const QString problem = document.deviceProblem(); !problem.isEmpty())
+        findings.append({Finding::Error, QStringLiteral("target_device"), problem});
     const QString id = ipInfo.value(InfoKey::id).toString();
     if (document.type != id)
         findings.append({Finding::Warning, QStringLiteral("type"),
@@ -43,6 +43,37 @@ QVector<Finding> checkFrame(const IpcDocument &document, const QVariantMap &ipIn
     return findings;
 }
 
+// False: a message has been printed. Data without register descriptions has no interrupts to tell
+// of.
+bool readInterrupts(const QString &dataFolder, QVector<InterruptSource> *interrupts)
+{
+    QString error;
+    QVector<Peripheral> peripherals;
+    QVector<InterruptSource> others;
+    const bool described = !QDir(dataFolder + QLatin1String("/registers")).isEmpty(QDir::Files);
+    if ((described && !readRegisterMap(dataFolder, &peripherals, &error)) ||
+        !readOtherInterrupts(dataFolder, &others, &error)) {
+        printError(error);
+        return false;
+    }
+    *interrupts = interruptSources(peripherals, others);
+    return true;
+}
+
+// Where a key is in doubt already, its interrupt adds nothing.
+QVector<Finding> withInterrupts(QVector<Finding> findings, const QVector<Finding> &interrupts)
+{
+    const QVector<Finding> told = findings;
+    for (const Finding &finding : interrupts) {
+        const bool isTold = std::any_of(told.begin(), told.end(), [&finding](const Finding &other) {
+            return other.key == finding.key;
+        });
+        if (!isTold)
+            findings.append(finding);
+    }
+    return findings;
+}
+
 } // namespace
 
 int runCheck(Environment &environment, const QString &file, bool json)
@@ -53,24 +84,24 @@ int runCheck(Environment &environment, const QString &file, bool json)
     IpcDocument document;
     if (!openDocument(environment, file, &document))
         return BadInput;
+    QVector<InterruptSource> interrupts;
+    if (!readInterrupts(environment.dataFolder(), &interrupts))
+        return BadInput;
     const QVector<Finding> findings =
         checkFrame(document, ipInfo) +
-        checkOptions(document.options, document.device, document.folder());
+        withInterrupts(checkOptions(document.options, document.device, document.folder()),
+                       interruptFindings(interrupts, document.options));
 
     bool anyError = false;
     QJsonArray list;
     for (const Finding &finding : findings) {
         const bool isError = finding.severity == Finding::Error;
         anyError |= isError;
-        const QString severity = isError ? QStringLiteral("error") : QStringLiteral("warning");
-        if (json) {
-            list.append(QJsonObject{{QStringLiteral("severity"), severity},
-                                    {QStringLiteral("key"), finding.key},
-                                    {QStringLiteral("message"), finding.message}});
-        } else {
-            printLine(file + u':' + finding.key + QLatin1String(": ") + severity +
+        if (json)
+            list.append(jsonOf(finding));
+        else
+            printLine(file + u':' + finding.key + QLatin1String(": ") + severityName(finding) +
                       QLatin1String(": ") + finding.message);
-        }
     }
     if (json)
         printJson({{QStringLiteral("file"), file}, {QStringLiteral("findings"), list}});

@@ -16,6 +16,18 @@ struct NewArguments {
     QStringList settings; // "KEY=VALUE"
     QString outDir;
     bool force = false;
+    bool json = false;
+};
+
+struct RetargetArguments {
+    QString file;
+    QString device;
+    QString package;
+    QString speed;
+    QString out; // file; empty: in place
+    bool force = false;
+    bool dryRun = false;
+    bool json = false;
 };
 
 struct GenerateArguments {
@@ -28,9 +40,11 @@ struct GenerateArguments {
 
 // Each runs one command and returns the exit status; messages have been printed then.
 int runNew(Environment &environment, const NewArguments &arguments);
+int runRetarget(Environment &environment, const RetargetArguments &arguments);
 int runGenerate(Environment &environment, const GenerateArguments &arguments);
 int runCheck(Environment &environment, const QString &file, bool json);
-int runSources(Environment &environment, const QString &file, bool json);
+// An empty `outDir` means the file's folder.
+int runSources(Environment &environment, const QString &file, const QString &outDir, bool json);
 int runPins(Environment &environment, const QString &file, bool json);
 enum class RegistersForm { Table, Json, Markdown, CHeader };
 // An empty `file` means all peripherals.

@@ -8,6 +8,10 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QVector>
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace Cli
 {
@@ -62,29 +66,123 @@ const DEV::DeviceDb *Environment::devices()
     return m_devices;
 }
 
-DEV::DeviceArg Environment::findDevice(const QString &idOrName, const QString &package,
-                                       const QString &speed, QString *error)
+namespace
 {
-    DEV::ChipFilter filter;
-    filter.id = idOrName;
-    const QList<DEV::DeviceArg> named = m_devices->filterDevice(filter);
+
+using Devices = QList<DEV::DeviceArg>;
+using Field = QString (DEV::DeviceArg::*)() const;
+
+// Those with this text in one of the fields; without regard to letter case only if none has it
+// exactly. An empty text matches all.
+Devices matching(const Devices &devices, const QString &text, std::initializer_list<Field> fields)
+{
+    if (text.isEmpty())
+        return devices;
+    for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        Devices found;
+        for (const DEV::DeviceArg &device : devices) {
+            const bool matches = std::any_of(fields.begin(), fields.end(), [&](const Field &field) {
+                return (device.*field)().compare(text, sensitivity) == 0;
+            });
+            if (matches)
+                found.append(device);
+        }
+        if (!found.isEmpty())
+            return found;
+    }
+    return {};
+}
+
+QStringList distinct(const Devices &devices, const Field &field)
+{
+    QStringList values;
+    for (const DEV::DeviceArg &device : devices)
+        values.append((device.*field)());
+    values.removeDuplicates();
+    return values;
+}
+
+// A table with a line for each.
+QString listed(const Devices &devices)
+{
+    const QStringList head = {QStringLiteral("ID"), QStringLiteral("PACKAGE"),
+                              QStringLiteral("SPEED"), QStringLiteral("PART NUMBER")};
+    QVector<QStringList> lines = {head};
+    for (const DEV::DeviceArg &device : devices)
+        lines.append({device.id(), device.package(), device.speed(), device.partNumber()});
+    QString text;
+    for (const QStringList &line : qAsConst(lines)) {
+        text += u'\n';
+        for (int column = 0; column < line.size(); ++column) {
+            int width = 0;
+            for (const QStringList &other : qAsConst(lines))
+                width = qMax(width, other.at(column).size());
+            text +=
+                QLatin1String("  ") +
+                (column + 1 < line.size() ? line.at(column).leftJustified(width) : line.at(column));
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+DEV::DeviceArg Environment::findDevice(const QString &device, const QString &package,
+                                       const QString &speed, QString *error) const
+{
+    using DEV::DeviceArg;
+    const Devices all = m_devices->devices();
+    if (device.isEmpty()) {
+        *error = QLatin1String("The device is empty; it is one of ") +
+                 distinct(all, &DeviceArg::device).join(QLatin1String(", ")) +
+                 QLatin1String(", or an id or a part number, as \"orixm1 devices\" lists them.");
+        return {};
+    }
+    const Devices named =
+        matching(all, device, {&DeviceArg::id, &DeviceArg::device, &DeviceArg::partNumber});
     if (named.isEmpty()) {
-        *error = QLatin1String("Unknown device \"") + idOrName +
+        *error = QLatin1String("Unknown device \"") + device +
                  QLatin1String("\"; \"orixm1 devices\" lists the known ones.");
         return {};
     }
-    filter.package = package;
-    filter.speed = speed;
-    const QList<DEV::DeviceArg> found = m_devices->filterDevice(filter);
-    if (!found.isEmpty())
-        return found.first();
-    QStringList offered;
-    for (const DEV::DeviceArg &device : named)
-        offered.append(device.id());
-    *error = QLatin1String("\"") + idOrName + QLatin1String("\" does not exist with package \"") +
-             package + QLatin1String("\" and speed grade \"") + speed +
-             QLatin1String("\"; there are: ") + offered.join(QLatin1String(", "));
-    return {};
+    const Devices found =
+        matching(matching(named, package, {&DeviceArg::package}), speed, {&DeviceArg::speed});
+    if (found.isEmpty()) {
+        *error = QLatin1String("\"") + device + QLatin1String("\" does not exist with package \"") +
+                 package + QLatin1String("\" and speed grade \"") + speed +
+                 QLatin1String("\"; there are:") + listed(named);
+        return {};
+    }
+    if (distinct(found, &DeviceArg::device).size() > 1) {
+        *error = QLatin1String("\"") + device +
+                 QLatin1String("\" is a part number of several devices; name one by its id:") +
+                 listed(found);
+        return {};
+    }
+    if (distinct(found, &DeviceArg::package).size() > 1) {
+        *error = QLatin1String("\"") + device +
+                 QLatin1String("\" comes in several packages; choose one with --package, or name "
+                               "an id or a part number:") +
+                 listed(found);
+        return {};
+    }
+    return found.first();
+}
+
+QString Environment::chosenSpeed(const DEV::DeviceArg &found, const QString &device,
+                                 const QString &speed) const
+{
+    if (!speed.isEmpty() || device.compare(found.device(), Qt::CaseInsensitive) != 0)
+        return {};
+    DEV::ChipFilter filter;
+    filter.device = found.device();
+    filter.package = found.package();
+    QStringList others = distinct(m_devices->filterDevice(filter), &DEV::DeviceArg::speed);
+    others.removeAll(found.speed());
+    if (others.isEmpty())
+        return {};
+    return QLatin1String("Speed grade ") + found.speed() +
+           QLatin1String(" is taken; there is also ") + others.join(QLatin1String(", ")) + u'.';
 }
 
 } // namespace Cli

@@ -23,10 +23,16 @@ public:
     QVariantMap ipInfo();
     const DEV::DeviceDb *devices();
 
-    // Finds a device by id or name, narrowed by package and speed grade (both may be empty): the
-    // first match in database order. Null if there is none, and `*error` then says why.
-    DEV::DeviceArg findDevice(const QString &idOrName, const QString &package, const QString &speed,
-                              QString *error);
+    // Finds the one device that a user means: by id, name or part number, narrowed by package and
+    // speed grade (both may be empty); letter case counts only where it decides. Without a speed
+    // grade it is the first of a package's. Null if there is none or a choice is left, and `*error`
+    // then says why, with the choices. Needs devices().
+    DEV::DeviceArg findDevice(const QString &device, const QString &package, const QString &speed,
+                              QString *error) const;
+    // What findDevice() has chosen for the user, in a sentence; empty if the text and the speed
+    // grade left no choice.
+    QString chosenSpeed(const DEV::DeviceArg &found, const QString &device,
+                        const QString &speed) const;
 
 private:
     QString m_dataFolder;

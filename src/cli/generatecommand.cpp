@@ -18,7 +18,6 @@
 #include <utils/folderlock.h>
 #include <utils/interrupt.h>
 
-#include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
 
@@ -166,18 +165,12 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     IpcDocument document;
     if (!openDocument(environment, arguments.file, &document))
         return BadInput;
-    if (document.device.isNull()) {
-        printError(QLatin1String("\"") + document.path + QLatin1String("\" names ") +
-                   (document.deviceText.isEmpty() ? QStringLiteral("no device")
-                                                  : QString(QLatin1String("the unknown device \"") +
-                                                            document.deviceText + u'"')) +
-                   QLatin1String("."));
+    if (const QString problem = document.deviceProblem(); !problem.isEmpty()) {
+        printError(QLatin1String("\"") + document.path + QLatin1String("\" ") + problem + u'.');
         return BadInput;
     }
 
-    const QString outDir = arguments.outDir.isEmpty()
-                               ? document.folder()
-                               : QDir(QFileInfo(arguments.outDir).absoluteFilePath()).path();
+    const QString outDir = outputFolder(document, arguments.outDir);
     const QString tempDir = generationFolder(outDir);
     Report report;
     const auto fail = [&](const QString &reason) {

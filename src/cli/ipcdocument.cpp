@@ -8,6 +8,7 @@
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -21,6 +22,27 @@ using namespace TARVOORIXM1;
 QString IpcDocument::folder() const
 {
     return QFileInfo(path).absolutePath();
+}
+
+QVariantMap IpcDocument::movedHeader(const QString &deviceId) const
+{
+    return IpcFile::movedHeader(others, type, deviceId);
+}
+
+QString IpcDocument::deviceProblem() const
+{
+    if (!device.isNull())
+        return {};
+    const QString problem =
+        deviceText.isEmpty() ? QStringLiteral("no device")
+                             : QString(QLatin1String("the unknown device \"") + deviceText + u'"');
+    return QLatin1String("names ") + problem +
+           QLatin1String("; \"orixm1 retarget FILE --device NAME\" moves it to a known one");
+}
+
+QString outputFolder(const IpcDocument &document, const QString &outDir)
+{
+    return outDir.isEmpty() ? document.folder() : QDir(QFileInfo(outDir).absoluteFilePath()).path();
 }
 
 bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
@@ -57,11 +79,10 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
         return false;
     }
     document->path = QFileInfo(path).absoluteFilePath();
-    document->type = settings.value(QStringLiteral("type")).toString();
+    document->type = IpcFile::type(settings);
     document->device = IpcFile::readDevice(settings, devices);
-    document->deviceText =
-        settings.value(QStringLiteral("target_device"), settings.value(QStringLiteral("device/id")))
-            .toString();
+    document->deviceText = IpcFile::deviceText(settings);
+    document->others = IpcFile::otherEntries(settings);
     IpcFile::readOptions(settings, document->options);
 
     const QVector<Reading::IniEntry> entries = Reading::iniEntries(bytes);

@@ -21,18 +21,27 @@ struct IpcDocument {
     QString path;          // absolute
     QString type;          // the id of the IP
     QString deviceText;    // what the file says of its device, for messages
+    QVariantMap others;    // entries that belong to neither identity nor options
     DEV::DeviceArg device; // null when the file names none or an unknown one
     TARVOORIXM1::OptionMap options;
     QStringList unknownEntries;            // outside of what the file format knows
     QVector<Reading::IniEntry> oddEntries; // with bytes that are not ASCII
 
     QString folder() const;
+    // The entries outside of the options for the same configuration on another device.
+    QVariantMap movedHeader(const QString &deviceId) const;
+    // What is wrong with the device and how to put it right ("unknown device …; …"); empty if
+    // nothing is.
+    QString deviceProblem() const;
 
     // False, and a sentence with path and reason in `*error`, if the file cannot be read, is no INI
     // file or has a version that is not accepted.
     static bool read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
                      QString *error);
 };
+
+// Where a run puts its results: the folder that the user names, or that of the file.
+QString outputFolder(const IpcDocument &document, const QString &outDir);
 
 // Reads the file of a command with the environment's devices. False: a message has been printed.
 bool openDocument(Environment &environment, const QString &path, IpcDocument *document);

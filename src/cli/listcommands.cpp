@@ -4,6 +4,7 @@
 #include "ipcdocument.h"
 #include "output.h"
 
+#include <config/dialogdefaults.h>
 #include <config/optiontable.h>
 #include <generate/sourcefiles.h>
 
@@ -28,6 +29,13 @@ QString defaultText(const Option &option)
     return text.isEmpty() ? QStringLiteral("\"\"") : text;
 }
 
+// Whether the option's dialog takes something else for an absent key than generation does.
+bool differsInDialog(const Option &option)
+{
+    return option.defaultValue.isValid() &&
+           dialogDefault(option.key, QString()) != option.defaultValue;
+}
+
 } // namespace
 
 int runOptions(bool json)
@@ -41,6 +49,9 @@ int runOptions(bool json)
                 {QStringLiteral("default"), QJsonValue::fromVariant(option.defaultValue)},
                 {QStringLiteral("option"), option.isOption},
                 {QStringLiteral("description"), option.description}};
+            if (differsInDialog(option))
+                object.insert(QStringLiteral("dialogDefault"),
+                              QJsonValue::fromVariant(dialogDefault(option.key, QString())));
             if (!option.choices.isEmpty())
                 object.insert(QStringLiteral("choices"),
                               QJsonArray::fromStringList(option.choices));
@@ -63,11 +74,14 @@ int runOptions(bool json)
               padded(QStringLiteral("DEFAULT"), defaultWidth) + QLatin1String("  DESCRIPTION"));
     for (const Option &option : optionTable()) {
         const QString domain = option.type == OptionType::Bool ? QString() : domainText(option);
-        printLine(padded(option.key, keyWidth) + QLatin1String("  ") +
-                  padded(typeName(option.type), 6) + QLatin1String("  ") +
-                  padded(defaultText(option), defaultWidth) + QLatin1String("  ") +
-                  option.description +
-                  (domain.isEmpty() ? QString() : QString(QLatin1String(" (") + domain + u')')));
+        printLine(
+            padded(option.key, keyWidth) + QLatin1String("  ") + padded(typeName(option.type), 6) +
+            QLatin1String("  ") + padded(defaultText(option), defaultWidth) + QLatin1String("  ") +
+            option.description +
+            (domain.isEmpty() ? QString() : QString(QLatin1String(" (") + domain + u')')) +
+            (differsInDialog(option) ? QString(QLatin1String("; its dialog starts with ") +
+                                               dialogDefault(option.key, QString()).toString())
+                                     : QString()));
     }
     return Done;
 }
@@ -114,7 +128,7 @@ int runDevices(Environment &environment, const QString &series, bool json)
     return Done;
 }
 
-int runSources(Environment &environment, const QString &file, bool json)
+int runSources(Environment &environment, const QString &file, const QString &outDir, bool json)
 {
     const QVariantMap ipInfo = environment.ipInfo();
     if (ipInfo.isEmpty())
@@ -123,7 +137,7 @@ int runSources(Environment &environment, const QString &file, bool json)
     if (!openDocument(environment, file, &document))
         return BadInput;
     const QStringList sources = buildSourceFiles(document.options, ipInfo, document.device.device(),
-                                                 generationFolder(document.folder()));
+                                                 generationFolder(outputFolder(document, outDir)));
     if (json) {
         printJson({{QStringLiteral("sources"), QJsonArray::fromStringList(sources)}});
         return Done;

@@ -34,14 +34,8 @@ constexpr const char *footer = R"(Exit status:
   3  unreadable or incompatible input
   130  cancelled)";
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(int argc, char *argv[])
 {
-    // File names and arguments are UTF-8 in every locale.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    QCoreApplication application(argc, argv);
-
     Cli::Environment environment;
     std::function<int()> command;
 
@@ -78,13 +72,14 @@ int main(int argc, char *argv[])
     std::string language;
     std::vector<std::string> settings;
     bool force = false;
-    newCommand->add_option("--device", device, "Device id or name")
-        ->required()
-        ->type_name("ID|NAME");
-    newCommand->add_option("--package", package, "Package, if the device is a name")
-        ->type_name("P");
-    newCommand->add_option("--speed", speed, "Speed grade, if the device is a name")
-        ->type_name("S");
+    const auto addDevice = [&](CLI::App *sub) {
+        sub->add_option("--device", device, "Device id, name or part number")
+            ->required()
+            ->type_name("ID|NAME|PART");
+        sub->add_option("--package", package, "Package, if the device is a name")->type_name("P");
+        sub->add_option("--speed", speed, "Speed grade, if the device is a name")->type_name("S");
+    };
+    addDevice(newCommand);
     newCommand->add_option("--language", language, "Language of the outputs: verilog or vhdl")
         ->type_name("LANGUAGE");
     newCommand
@@ -96,11 +91,16 @@ int main(int argc, char *argv[])
     newCommand->add_option("--out", outDir, "Folder that the file is written to")
         ->required()
         ->type_name("DIR");
-    newCommand->add_flag("--force", force, "Replace an existing file");
+    const auto addForce = [&](CLI::App *sub) {
+        sub->add_flag("--force", force, "Replace an existing file");
+    };
+    addForce(newCommand);
+    addJson(newCommand);
     newCommand->callback([&] {
         command = [&] {
-            return Cli::runNew(environment, {text(device), text(package), text(speed),
-                                             text(language), texts(settings), text(outDir), force});
+            return Cli::runNew(environment,
+                               {text(device), text(package), text(speed), text(language),
+                                texts(settings), text(outDir), force, json});
         };
     });
 
@@ -109,8 +109,11 @@ int main(int argc, char *argv[])
     bool noSynth = false;
     bool verbose = false;
     addFile(generateCommand);
-    generateCommand->add_option("--out", outDir, "Output folder (default: the file's folder)")
-        ->type_name("DIR");
+    const auto addOutDir = [&outDir](CLI::App *sub) {
+        sub->add_option("--out", outDir, "Output folder (default: the file's folder)")
+            ->type_name("DIR");
+    };
+    addOutDir(generateCommand);
     generateCommand->add_flag("--no-synth", noSynth, "Stop after include files and source list");
     generateCommand->add_flag("-v,--verbose", verbose, "Print the tool's log to standard error");
     addJson(generateCommand);
@@ -131,9 +134,30 @@ int main(int argc, char *argv[])
     CLI::App *sourcesCommand =
         app.add_subcommand("sources", "List the files that synthesis compiles, in order");
     addFile(sourcesCommand);
+    addOutDir(sourcesCommand);
     addJson(sourcesCommand);
-    sourcesCommand->callback(
-        [&] { command = [&] { return Cli::runSources(environment, text(file), json); }; });
+    sourcesCommand->callback([&] {
+        command = [&] { return Cli::runSources(environment, text(file), text(outDir), json); };
+    });
+
+    CLI::App *retargetCommand = app.add_subcommand(
+        "retarget", "Move a configuration to another device and tell what it loses");
+    bool dryRun = false;
+    std::string outFile;
+    addFile(retargetCommand);
+    addDevice(retargetCommand);
+    retargetCommand
+        ->add_option("--out", outFile, "Write this file (default: the configuration itself)")
+        ->type_name("FILE");
+    addForce(retargetCommand);
+    retargetCommand->add_flag("--dry-run", dryRun, "Only tell; write nothing");
+    addJson(retargetCommand);
+    retargetCommand->callback([&] {
+        command = [&] {
+            return Cli::runRetarget(environment, {text(file), text(device), text(package),
+                                                  text(speed), text(outFile), force, dryRun, json});
+        };
+    });
 
     CLI::App *pinsCommand =
         app.add_subcommand("pins", "List the pins that the core has in a configuration");
@@ -196,6 +220,20 @@ int main(int argc, char *argv[])
     }
     environment.setDataFolder(text(dataFolder));
     environment.setDeviceFolder(text(deviceFolder));
-    const int status = command();
-    return Cli::flushOutput() ? status : Cli::Failed;
+    return command();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // File names and arguments are UTF-8 in every locale.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    QCoreApplication application(argc, argv);
+
+    const int status = run(argc, argv);
+    // Whatever was printed, a help text too, must have got to where it goes.
+    if (!Cli::flushOutput() && status == Cli::Done)
+        return Cli::Failed;
+    return status;
 }

@@ -1,10 +1,12 @@
 #include "commands.h"
 
 #include "environment.h"
+#include "findings.h"
 #include "output.h"
 
 #include <config/choices.h>
 #include <config/ipcfile.h>
+#include <config/newoptions.h>
 #include <config/optiontable.h>
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
@@ -87,6 +89,7 @@ int runNew(Environment &environment, const NewArguments &arguments)
 
     const QString folder = QDir(QFileInfo(arguments.outDir).absoluteFilePath()).path();
     const QString path = IpcFile::path(folder, ipInfo);
+    const OptionMap whole = optionsForChoices(options, device.device(), folder);
     if (QFileInfo::exists(path) && !arguments.force) {
         printError(QLatin1String("\"") + path +
                    QLatin1String("\" exists already; --force replaces it."));
@@ -94,9 +97,25 @@ int runNew(Environment &environment, const NewArguments &arguments)
     }
     if (!Utils::FileUtils::makePath(folder, &error) ||
         !Utils::writeIniFile(path, IpcFile::header(device.id(), ipInfo), IpcFile::configGroup,
-                             options, &error)) {
+                             whole, &error)) {
         printError(error);
         return Failed;
+    }
+    if (const QString note = environment.chosenSpeed(device, arguments.device, arguments.speed);
+        !note.isEmpty())
+        printError(note);
+    // Choices are written as they were given; what does not fit is told at once.
+    QJsonArray findings;
+    for (const Finding &finding : checkOptions(whole, device, folder)) {
+        findings.append(jsonOf(finding));
+        printError(finding.key + QLatin1String(": ") + severityName(finding) + QLatin1String(": ") +
+                   finding.message);
+    }
+    if (arguments.json) {
+        printJson({{QStringLiteral("file"), path},
+                   {QStringLiteral("device"), device.id()},
+                   {QStringLiteral("findings"), findings}});
+        return Done;
     }
     printLine(path);
     return Done;

@@ -12,9 +12,14 @@ namespace Cli
 namespace
 {
 
+int firstWriteError = 0;
+
 void put(FILE *stream, const QByteArray &bytes)
 {
-    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+    const size_t size = size_t(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stream) != size && stream == stdout &&
+        firstWriteError == 0)
+        firstWriteError = errno;
 }
 
 } // namespace
@@ -36,10 +41,17 @@ void printJson(const QJsonObject &object)
 
 bool flushOutput()
 {
+    // Without anything to flush there is nothing that could fail, even if standard output is
+    // closed.
+    errno = 0;
     if (std::fflush(stdout) == 0 && !std::ferror(stdout))
         return true;
-    printError(QLatin1String("The output could not be written: ") +
-               QString::fromLocal8Bit(std::strerror(errno)));
+    const int reason = firstWriteError != 0 ? firstWriteError : errno;
+    printError(QLatin1String("The output could not be written") +
+               (reason == 0 ? QString()
+                            : QString(QLatin1String(": ") +
+                                      QString::fromLocal8Bit(std::strerror(reason)))) +
+               u'.');
     return false;
 }
 

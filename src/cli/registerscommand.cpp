@@ -28,10 +28,14 @@ QJsonObject fieldObject(const RegisterField &field)
 QJsonObject peripheralObject(const Peripheral &peripheral)
 {
     QJsonArray instances;
-    for (const PeripheralInstance &instance : peripheral.instances)
-        instances.append(QJsonObject{{QStringLiteral("name"), instance.name},
-                                     {QStringLiteral("base"), double(instance.base)},
-                                     {QStringLiteral("interrupt"), instance.interrupt}});
+    for (const PeripheralInstance &instance : peripheral.instances) {
+        QJsonObject object{{QStringLiteral("name"), instance.name},
+                           {QStringLiteral("base"), double(instance.base)},
+                           {QStringLiteral("interrupt"), instance.interrupt}};
+        if (!instance.maskedInterrupt.isEmpty())
+            object.insert(QStringLiteral("maskedInterrupt"), instance.maskedInterrupt);
+        instances.append(object);
+    }
     QJsonArray registers;
     for (const Register &entry : peripheral.registers) {
         QJsonArray fields;
@@ -47,6 +51,38 @@ QJsonObject peripheralObject(const Peripheral &peripheral)
             {QStringLiteral("description"), peripheral.text},
             {QStringLiteral("instances"), instances},
             {QStringLiteral("registers"), registers}};
+}
+
+QJsonArray jsonOf(const QVector<OtherInterrupt> &others)
+{
+    QJsonArray list;
+    for (const OtherInterrupt &other : others) {
+        QJsonObject object{{QStringLiteral("name"), other.source.name},
+                           {QStringLiteral("option"), other.source.option}};
+        if (other.masked.isEmpty()) {
+            object.insert(QStringLiteral("interrupt"), other.source.number);
+            object.insert(QStringLiteral("count"), other.source.count);
+        } else {
+            object.insert(QStringLiteral("maskedInterrupt"), other.masked);
+        }
+        list.append(object);
+    }
+    return list;
+}
+
+// The table itself has no interrupts; which of them are missing is told beside it.
+void tellMasked(const QVector<Peripheral> &peripherals, const QVector<OtherInterrupt> &others)
+{
+    const auto tell = [](const QString &name, const QString &masked) {
+        if (!masked.isEmpty())
+            printError(name + QLatin1String(" never interrupts: ") + masked + u'.');
+    };
+    for (const Peripheral &peripheral : peripherals) {
+        for (const PeripheralInstance &instance : peripheral.instances)
+            tell(instance.name, instance.maskedInterrupt);
+    }
+    for (const OtherInterrupt &other : others)
+        tell(other.source.name, other.masked);
 }
 
 void printTable(const QVector<Peripheral> &peripherals)
@@ -88,28 +124,37 @@ int runRegisters(Environment &environment, const QString &file, RegistersForm fo
         printError(error);
         return BadInput;
     }
+    QVector<InterruptSource> sources;
+    if (!readOtherInterrupts(environment.dataFolder(), &sources, &error)) {
+        printError(error);
+        return BadInput;
+    }
+    QVector<OtherInterrupt> others = otherInterrupts(sources, nullptr);
     if (!file.isEmpty()) {
         IpcDocument document;
         if (!openDocument(environment, file, &document))
             return BadInput;
         peripherals = enabledPeripherals(peripherals, document.options);
+        others = otherInterrupts(sources, &document.options);
     }
     switch (form) {
     case RegistersForm::Json: {
         QJsonArray list;
         for (const Peripheral &peripheral : qAsConst(peripherals))
             list.append(peripheralObject(peripheral));
-        printJson({{QStringLiteral("peripherals"), list}});
+        printJson({{QStringLiteral("peripherals"), list},
+                   {QStringLiteral("otherInterrupts"), jsonOf(others)}});
         break;
     }
     case RegistersForm::Markdown:
-        printLine(registersMarkdown(peripherals).chopped(1));
+        printLine(registersMarkdown(peripherals, others).chopped(1));
         break;
     case RegistersForm::CHeader:
-        printLine(registersHeader(peripherals).chopped(1));
+        printLine(registersHeader(peripherals, others).chopped(1));
         break;
     case RegistersForm::Table:
         printTable(peripherals);
+        tellMasked(peripherals, others);
         break;
     }
     return Done;

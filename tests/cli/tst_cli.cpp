@@ -51,7 +51,15 @@ private Q_SLOTS:
     void wrongUsageIsStatusTwo_data();
     void wrongUsageIsStatusTwo();
 
+    void devicesAreRefusedWithTheChoices_data();
+    void devicesAreRefusedWithTheChoices();
+    void devicesAreFoundByWhatPeopleHave_data();
+    void devicesAreFoundByWhatPeopleHave();
+    void theSpeedGradeThatIsTakenIsTold();
     void newWritesOnlyWhatWasSet();
+    void newWritesWhatTheDialogsWould();
+    void newTellsWhatDoesNotFit();
+    void newPrintsOneObject();
     void newReplacesNothingUnasked();
     void newKeepsTypes();
     void newSaysWhyItCannotWrite();
@@ -73,6 +81,15 @@ private Q_SLOTS:
     void anErrorInASourceNamesFileAndLine();
     void aMissingDataFolderIsNamed();
     void interruptStopsTheToolToo();
+
+    void movesAConfigurationToAnotherDevice();
+    void movesNoOtherIp();
+    void aDryRunOnlyTells();
+    void movesIntoAnotherFile();
+    void curesAnUnknownDevice();
+    void unwritableOutputIsAFailure_data();
+    void unwritableOutputIsAFailure();
+    void tellsWhoseInterruptIsLost();
     void generatesVhdl();
 
     void checkFindsNothingInTheExample();
@@ -159,20 +176,20 @@ void tst_Cli::wrongUsageIsStatusTwo_data()
     QTest::newRow("device in no such package")
         << words({"new", "--device", "TV2KLR-18C", "--package", "QFN48", "--out", "x"})
         << QStringLiteral("TV2KLR-18C-QFN88-C8/I7");
-    QTest::newRow("unknown key") << words({"new", "--device", "TV2K-18", "--out", "x", "--set",
-                                           "Enable GPIO IO=1"})
+    QTest::newRow("unknown key") << words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x",
+                                           "--set", "Enable GPIO IO=1"})
                                  << QStringLiteral("\"Enabel GPIO IO\"");
-    QTest::newRow("wrong type") << words({"new", "--device", "TV2K-18", "--out", "x", "--set",
-                                          "Enable RTC=on"})
+    QTest::newRow("wrong type") << words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x",
+                                          "--set", "Enable RTC=on"})
                                 << QStringLiteral("true or false");
     QTest::newRow("out of the domain")
-        << words({"new", "--device", "TV2K-18", "--out", "x", "--set", "ITCM_Size=10"})
+        << words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x", "--set", "ITCM_Size=10"})
         << QStringLiteral("0 to 9");
     QTest::newRow("no assignment")
-        << words({"new", "--device", "TV2K-18", "--out", "x", "--set", "Enable RTC"})
+        << words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x", "--set", "Enable RTC"})
         << QStringLiteral("KEY=VALUE");
     QTest::newRow("unknown language")
-        << words({"new", "--device", "TV2K-18", "--out", "x", "--language", "ada"})
+        << words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x", "--language", "ada"})
         << QStringLiteral("ada");
     QTest::newRow("unknown series")
         << words({"devices", "--series", "TV7"}) << QStringLiteral("TV2KLR");
@@ -208,22 +225,158 @@ void tst_Cli::newWritesOnlyWhatWasSet()
                         "I7\ntype=tarvo.tarvo_orix_m1\nversion=1.0\n"));
 }
 
+void tst_Cli::devicesAreRefusedWithTheChoices_data()
+{
+    QTest::addColumn<QStringList>("device");
+    QTest::addColumn<QStringList>("choices");
+    QTest::newRow("none") << words({""}) << words({"TV2KR-18C", "TV1KL-5A", "orixm1 devices"});
+    QTest::newRow("several packages")
+        << words({"TV2KLR-18C"})
+        << words({"--package", "QFN88 ", "MBGA81P", "C8/I7", "TV2KLR-LV18MG81PC7/I6"});
+    QTest::newRow("several packages, in lower case")
+        << words({"tv2klr-18c"}) << words({"--package", "MBGA81P"});
+    QTest::newRow("several packages of one speed grade")
+        << words({"TV2KLR-18C", "--speed", "C8/I7"})
+        << words({"--package", "QFN88 ", "TV2KLR-LV18MG81PC8/I7"});
+    QTest::newRow("a part number of two devices")
+        << words({"TV2KR-LV18QN88PC8/I7"})
+        << words({"TV2KR-18-QFN88P-C8/I7", "TV2KR-18C-QFN88P-C8/I7"});
+    QTest::newRow("no such speed grade")
+        << words({"TV2KLR-18C", "--speed", "C1/I0"}) << words({"C1/I0", "TV2KLR-18C-QFN88-C7/I6"});
+}
+
+void tst_Cli::devicesAreRefusedWithTheChoices()
+{
+    QFETCH(QStringList, device);
+    QFETCH(QStringList, choices);
+    const QString file = config();
+    const QByteArray before = TestSupport::contentsOf(file);
+    for (const QStringList &command :
+         {words({"new", "--out", "x"}), QStringList{QStringLiteral("retarget"), file}}) {
+        const Run result = run(command + words({"--device"}) + device);
+        QCOMPARE(result.status, 2);
+        QCOMPARE(result.out, QString());
+        for (const QString &choice : choices)
+            QVERIFY2(result.err.contains(choice), qPrintable(result.err));
+        QCOMPARE(TestSupport::contentsOf(file), before);
+        QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc"}));
+    }
+}
+
+void tst_Cli::devicesAreFoundByWhatPeopleHave_data()
+{
+    QTest::addColumn<QStringList>("device");
+    QTest::addColumn<QString>("id");
+    const QString psram = QStringLiteral("TV2KR-18C-QFN88P-C8/I7");
+    QTest::newRow("id") << words({"TV2KR-18C-QFN88P-C8/I7"}) << psram;
+    QTest::newRow("id in lower case") << words({"tv2kr-18c-qfn88p-c8/i7"}) << psram;
+    QTest::newRow("name, package and speed grade")
+        << words({"TV2KR-18C", "--package", "QFN88P", "--speed", "C8/I7"}) << psram;
+    QTest::newRow("all of them in lower case")
+        << words({"tv2kr-18c", "--package", "qfn88p", "--speed", "c8/i7"}) << psram;
+    QTest::newRow("part number") << words({"TV2KLR-LV18QN88C7/I6"})
+                                 << QStringLiteral("TV2KLR-18C-QFN88-C7/I6");
+    QTest::newRow("part number in lower case")
+        << words({"tv2klr-lv18qn88c7/i6"}) << QStringLiteral("TV2KLR-18C-QFN88-C7/I6");
+    QTest::newRow("name and package")
+        << words({"TV2KLR-18C", "--package", "QFN88"}) << QStringLiteral("TV2KLR-18C-QFN88-C8/I7");
+}
+
+void tst_Cli::devicesAreFoundByWhatPeopleHave()
+{
+    QFETCH(QStringList, device);
+    QFETCH(QString, id);
+    const Run result = run(words({"new", "--out", "x", "--device"}) + device);
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    QVERIFY(TestSupport::contentsOf(path("x/tarvo_orix_m1.ipc"))
+                .contains("target_device=" + id.toUtf8() + '\n'));
+}
+
+void tst_Cli::theSpeedGradeThatIsTakenIsTold()
+{
+    const Run chosen =
+        run(words({"new", "--device", "TV2KLR-18C", "--package", "QFN88", "--out", "a"}));
+    QCOMPARE(chosen.status, 0);
+    QVERIFY2(chosen.err.contains(QLatin1String("Speed grade C8/I7 is taken; there is also C7/I6.")),
+             qPrintable(chosen.err));
+    const Run given = run(words({"new", "--device", "TV2KLR-18C-QFN88-C8/I7", "--out", "b"}));
+    QCOMPARE(given.err, QString());
+}
+
+void tst_Cli::newWritesWhatTheDialogsWould()
+{
+    const Run blocks =
+        run(words({"new", "--device", "TV2KR-18C-QFN88P-C8/I7", "--out", "x", "--set",
+                   "Enable GPIO=true", "--set", "Enable I2C=1", "--set", "Enable CAN=true", "--set",
+                   "Enable Ethernet=true", "--set", "ETHERNET_CLOCK_DIVIDER=7"}));
+    QCOMPARE(blocks.status, 0);
+    QCOMPARE(blocks.err, QString());
+    const QByteArray text = TestSupport::contentsOf(path("x/tarvo_orix_m1.ipc"));
+    QCOMPARE(text.mid(text.indexOf("[Config]")),
+             QByteArray("[Config]\nCAN_BUFFER_DEPTH=256\nETHERNET_CLOCK_DIVIDER=7\n"
+                        "ETHERNET_INPUT_DELAY=100\nEnabel%20GPIO%20IO=true\nEnable%20CAN=true\n"
+                        "Enable%20Ethernet=true\nEnable%20GPIO=true\nEnable%20I2C=true\n"
+                        "Enable%20I2C%20IO=true\n"));
+    QCOMPARE(run(words({"check", "x/tarvo_orix_m1.ipc"})).out, QString());
+
+    // A device whose core page starts elsewhere.
+    QCOMPARE(run(words({"new", "--device", "TV1KL-5A-QFN32-C6/I5", "--out", "small"})).status, 0);
+    const Run check = run(words({"check", "small/tarvo_orix_m1.ipc"}));
+    QCOMPARE(check.out, QString());
+    QCOMPARE(check.status, 0);
+    QVERIFY(TestSupport::contentsOf(path("small/tarvo_orix_m1.ipc"))
+                .contains("\nNumber%20of%20Interrupts=1\n"));
+
+    // The folder of the initialisation, as the page stores it.
+    QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("fw/init")));
+    QCOMPARE(run(words({"new", "--device", "TV2KR-18C-QFN88P-C8/I7", "--out", "fw", "--set",
+                        "Initialize ITCM=true", "--set", "ITCM_Initialization_Path=init"}))
+                 .status,
+             0);
+    QVERIFY(TestSupport::contentsOf(path("fw/tarvo_orix_m1.ipc"))
+                .contains("ITCM_Initialization_AbsolutePath=" + path("fw/init").toUtf8() + '\n'));
+}
+
+void tst_Cli::newTellsWhatDoesNotFit()
+{
+    const Run result = run(words(
+        {"new", "--device", "TV1KL-5A-QFN32-C6/I5", "--out", "x", "--set", "Enable CAN=true"}));
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.err.contains(QLatin1String("Enable CAN: error: TV1KL-5A cannot have CAN")),
+             qPrintable(result.err));
+    QVERIFY(TestSupport::contentsOf(path("x/tarvo_orix_m1.ipc")).contains("Enable%20CAN=true\n"));
+}
+
+void tst_Cli::newPrintsOneObject()
+{
+    const Run result = run(words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x", "--json",
+                                  "--set", "Enable PSRAM=true"}));
+    QCOMPARE(result.status, 0);
+    const QJsonObject object = result.json();
+    QCOMPARE(object.keys(), words({"device", "file", "findings"}));
+    QCOMPARE(object.value(QLatin1String("file")).toString(), path("x/tarvo_orix_m1.ipc"));
+    QCOMPARE(object.value(QLatin1String("device")).toString(),
+             QStringLiteral("TV2K-18-QFN88-C8/I7"));
+    QCOMPARE(object.value(QLatin1String("findings")).toArray().size(), 1);
+}
+
 void tst_Cli::newReplacesNothingUnasked()
 {
     const QString file = path("x/tarvo_orix_m1.ipc");
     QVERIFY(TestSupport::write(file, "mine"));
-    const Run refused = run(words({"new", "--device", "TV2K-18", "--out", "x"}));
+    const Run refused = run(words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x"}));
     QCOMPARE(refused.status, 1);
     QVERIFY(refused.err.contains(file) && refused.err.contains(QLatin1String("--force")));
     QCOMPARE(TestSupport::contentsOf(file), QByteArray("mine"));
-    QCOMPARE(run(words({"new", "--device", "TV2K-18", "--out", "x", "--force"})).status, 0);
+    QCOMPARE(run(words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "x", "--force"})).status,
+             0);
     QVERIFY(TestSupport::contentsOf(file).contains("TV2K-18"));
 }
 
 void tst_Cli::newKeepsTypes()
 {
     // Every key, then read back through generation's own reader.
-    QStringList arguments = words({"new", "--device", "TV5KT-138", "--out", "all"});
+    QStringList arguments = words({"new", "--device", "TV5KT-138-PBGA484-C2/I1", "--out", "all"});
     OptionMap expected;
     for (const Option &option : optionTable()) {
         QString text = QString::fromUtf8("p\xc3\xa4th/with = sign");
@@ -246,7 +399,8 @@ void tst_Cli::newKeepsTypes()
 void tst_Cli::newSaysWhyItCannotWrite()
 {
     QVERIFY(TestSupport::write(path("file"), "x"));
-    const Run result = run(words({"new", "--device", "TV2K-18", "--out", "file/below"}));
+    const Run result =
+        run(words({"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "file/below"}));
     QCOMPARE(result.status, 1);
     QVERIFY2(result.err.contains(path("file") + QLatin1String("\" is a file")),
              qPrintable(result.err));
@@ -635,6 +789,184 @@ void tst_Cli::interruptStopsTheToolToo()
     }
 }
 
+void tst_Cli::movesAConfigurationToAnotherDevice()
+{
+    const QString file = config("Enable%20CAN=true\nCAN_BUFFER_DEPTH=64\nITCM_Size=6\n"
+                                "DTCM_Size=2\nmine=1\n");
+    const Run result = run({QStringLiteral("retarget"), file, QStringLiteral("--device"),
+                            QStringLiteral("TV1KL-5A"), QStringLiteral("--package"),
+                            QStringLiteral("QFN32"), QStringLiteral("--json")});
+    QCOMPARE(result.status, 0);
+    const QJsonObject object = result.json();
+    QCOMPARE(object.keys(), words({"before", "changed", "device", "file", "losses", "written"}));
+    QCOMPARE(object.value(QLatin1String("file")).toString(), file);
+    QCOMPARE(object.value(QLatin1String("before")).toString(),
+             QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));
+    QCOMPARE(object.value(QLatin1String("device")).toString(),
+             QStringLiteral("TV1KL-5A-QFN32-C6/I5"));
+    QCOMPARE(object.value(QLatin1String("written")).toBool(), true);
+    QStringList keys;
+    for (const QJsonValue &loss : object.value(QLatin1String("losses")).toArray()) {
+        QCOMPARE(loss.toObject().keys(), words({"after", "before", "key", "message"}));
+        keys.append(loss.toObject().value(QLatin1String("key")).toString());
+    }
+    QCOMPARE(keys, words({"Enable Debug", "ITCM_Size", "Enable CAN"}));
+    const QByteArray text = TestSupport::contentsOf(file);
+    QVERIFY2(text.contains("\ntarget_device=TV1KL-5A-QFN32-C6/I5\n") &&
+                 text.contains("\nITCM_Size=3\n") && text.contains("\nmine=1\n"),
+             text.constData());
+    const Run check = run({QStringLiteral("check"), file});
+    QVERIFY2(check.status == 0, qPrintable(check.out));
+
+    const Run again = run({QStringLiteral("retarget"), file, QStringLiteral("--device"),
+                           QStringLiteral("TV1KL-5A-QFN32-C6/I5")});
+    QCOMPARE(again.status, 0);
+    QCOMPARE(again.out, QStringLiteral("Nothing is lost.\n"));
+    QCOMPARE(TestSupport::contentsOf(file), text);
+}
+
+void tst_Cli::movesNoOtherIp()
+{
+    const QByteArray bytes("[General]\ntype=other.ip\nversion=1.0\n[Config]\nwidth=3\n");
+    QVERIFY(TestSupport::write(path("x.ipc"), bytes));
+    const Run result = run(words({"retarget", "x.ipc", "--device", "TV2K-18-QFN88-C8/I7"}));
+    QCOMPARE(result.status, 3);
+    QVERIFY2(result.err.contains(QLatin1String("other.ip")), qPrintable(result.err));
+    QCOMPARE(TestSupport::contentsOf(path("x.ipc")), bytes);
+}
+
+void tst_Cli::aDryRunOnlyTells()
+{
+    const QString file = config("Enable%20DDR3=true\nITCM_Size=0\nDTCM_Size=0\n");
+    const QByteArray before = TestSupport::contentsOf(file);
+    const Run result = run({QStringLiteral("retarget"), file, QStringLiteral("--device"),
+                            QStringLiteral("TV1L-9-QFN48-C6/I5"), QStringLiteral("--dry-run")});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.out, QStringLiteral("Debug is taken out: TV1L-9 cannot have it.\n"
+                                        "DDR3 is taken out: TV1L-9 cannot have it.\n"));
+    QCOMPARE(TestSupport::contentsOf(file), before);
+    QCOMPARE(TestSupport::entriesOf(m_dir->path()), words({"config.ipc"}));
+}
+
+void tst_Cli::movesIntoAnotherFile()
+{
+    for (const char *lane : {"init/itcm0", "init/itcm1", "init/itcm2", "init/itcm3"})
+        QVERIFY(TestSupport::write(path(lane), QByteArray("00\n").repeated(256)));
+    const QString file =
+        config("ITCM_Size=0\nDTCM_Size=0\nInitialize%20ITCM=true\nITCM_Initialization_Path=init\n"
+               "ITCM_Initialization_AbsolutePath=" +
+               path("init").toUtf8() + "\n");
+    const QByteArray before = TestSupport::contentsOf(file);
+    const QStringList arguments = {
+        QStringLiteral("retarget"), file,
+        QStringLiteral("--device"), QStringLiteral("TV2KR-18C-QFN88-C8/I7"),
+        QStringLiteral("--out"),    QStringLiteral("other/moved.ipc")};
+    const Run result = run(arguments);
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.out,
+             QString(QLatin1String("Nothing is lost.\n") + path("other/moved.ipc") + u'\n'));
+    QCOMPARE(TestSupport::contentsOf(file), before);
+    const QByteArray moved = TestSupport::contentsOf(path("other/moved.ipc"));
+    // The folder stays the one that it was.
+    QVERIFY2(moved.contains("\nITCM_Initialization_Path=" + path("init").toUtf8() + '\n'),
+             moved.constData());
+    QCOMPARE(run(words({"check", "other/moved.ipc"})).out, QString());
+
+    const Run refused = run(arguments);
+    QCOMPARE(refused.status, 1);
+    QVERIFY(refused.err.contains(QLatin1String("--force")));
+    QCOMPARE(TestSupport::contentsOf(path("other/moved.ipc")), moved);
+    QCOMPARE(run(arguments + words({"--force"})).status, 0);
+}
+
+void tst_Cli::curesAnUnknownDevice()
+{
+    for (const char *device : {"target_device=TV9-1\n", "", "[device]\nid=TV9-1\n[General]\n"}) {
+        const QString file = path("x.ipc");
+        QVERIFY(TestSupport::write(file, QByteArray("[General]\n") + device +
+                                             "type=tarvo.tarvo_orix_m1\nversion=1.0\n[Config]\n"
+                                             "Enable%20RTC=true\n"));
+        const Run check = run(words({"check", "x.ipc"}));
+        QCOMPARE(check.status, 1);
+        QVERIFY2(check.out.startsWith(QLatin1String("x.ipc:target_device: error: names ")) &&
+                     check.out.contains(QLatin1String("orixm1 retarget FILE --device")),
+                 qPrintable(check.out));
+        const Run generate = run(words({"generate", "x.ipc"}));
+        QCOMPARE(generate.status, 3);
+        QVERIFY(generate.err.contains(QLatin1String("orixm1 retarget")));
+        QCOMPARE(run(words({"retarget", "x.ipc", "--device", "TV2K-18-QFN88-C8/I7"})).status, 0);
+        const Run cured = run(words({"check", "x.ipc"}));
+        QCOMPARE(cured.out, QString());
+        QCOMPARE(cured.status, 0);
+        QVERIFY(TestSupport::contentsOf(file).contains("Enable%20RTC=true\n"));
+    }
+}
+
+void tst_Cli::unwritableOutputIsAFailure_data()
+{
+    QTest::addColumn<QString>("arguments");
+    for (const char *arguments :
+         {"--help", "--help-all", "--version", "new --help", "options", "options --json", "devices",
+          "check " TARVO_EXAMPLES_DIR "/sensor-node.ipc --json",
+          "pins " TARVO_EXAMPLES_DIR "/sensor-node.ipc",
+          "sources " TARVO_EXAMPLES_DIR "/sensor-node.ipc", "registers", "registers --c-header",
+          "registers --markdown", "new --device TV2K-18-QFN88-C8/I7 --out made",
+          "retarget " TARVO_EXAMPLES_DIR "/sensor-node.ipc --device TV1L-9-QFN48-C6/I5 --dry-run",
+          "generate " TARVO_EXAMPLES_DIR "/sensor-node.ipc --no-synth --out made"})
+        QTest::newRow(arguments) << QString::fromLatin1(arguments);
+}
+
+void tst_Cli::unwritableOutputIsAFailure()
+{
+    QFETCH(QString, arguments);
+    if (!QFileInfo::exists(QStringLiteral("/dev/full")))
+        QSKIP("There is no device that is always full.");
+    QProcess process;
+    process.setWorkingDirectory(m_dir->path());
+    process.setStandardOutputFile(QStringLiteral("/dev/full"));
+    process.start(QStringLiteral(TARVO_COMMAND), arguments.split(u' '));
+    QVERIFY(process.waitForFinished(300000));
+    const QByteArray errors = process.readAllStandardError();
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY2(errors.contains("The output could not be written: ") && errors.contains("space"),
+             errors.constData());
+}
+
+void tst_Cli::tellsWhoseInterruptIsLost()
+{
+    const QString file =
+        config("Number%20of%20Interrupts=8\nEnable%20SPI=true\nEnable%20TRNG=true\n"
+               "Enable%20UART0=true\nExternal%20Interrupts=true\n");
+    Run check = run({QStringLiteral("check"), file});
+    QCOMPARE(check.status, 0);
+    QCOMPARE(check.out.remove(file + u':').split(u'\n', Qt::SkipEmptyParts),
+             (QStringList{
+                 QStringLiteral("External Interrupts: warning: needs 16 or 32 interrupts"),
+                 QStringLiteral("Enable SPI: warning: SPI never interrupts: its interrupt 8 is "
+                                "masked: \"Number of Interrupts\" is 8, and 16 would be enough"),
+                 QStringLiteral("Enable TRNG: warning: TRNG never interrupts: its interrupt 16 is "
+                                "masked: \"Number of Interrupts\" is 8, and 32 would be enough")}));
+    const Run header = run({QStringLiteral("registers"), file, QStringLiteral("--c-header")});
+    QVERIFY(
+        header.out.contains(QLatin1String("/* SPI_IRQ is left out: its interrupt 8 is masked")));
+    QVERIFY(!header.out.contains(QLatin1String("#define SPI_IRQ")));
+    QVERIFY(!header.out.contains(QLatin1String("#define TRNG_IRQ")));
+    QVERIFY(header.out.contains(QLatin1String("#define UART0_IRQ")));
+    const Run table = run({QStringLiteral("registers"), file});
+    QVERIFY2(table.err.contains(QLatin1String("SPI never interrupts: its interrupt 8 is masked")),
+             qPrintable(table.err));
+    const QJsonObject json =
+        run({QStringLiteral("registers"), file, QStringLiteral("--json")}).json();
+    for (const QJsonValue &value : json.value(QLatin1String("peripherals")).toArray()) {
+        const QJsonObject instance =
+            value.toObject().value(QLatin1String("instances")).toArray().at(0).toObject();
+        const bool isSpi = instance.value(QLatin1String("name")) == QLatin1String("SPI");
+        QCOMPARE(instance.contains(QLatin1String("maskedInterrupt")), isSpi);
+        QCOMPARE(instance.value(QLatin1String("interrupt")).toString().isEmpty(), isSpi);
+    }
+    QCOMPARE(json.value(QLatin1String("otherInterrupts")).toArray().size(), 2);
+}
+
 void tst_Cli::generatesVhdl()
 {
     const QByteArray options =
@@ -730,6 +1062,14 @@ void tst_Cli::optionsListEveryKey()
                  optionTable().at(i).key);
         QVERIFY(text.out.contains(u'\n' + optionTable().at(i).key + u' '));
     }
+    QVERIFY(text.out.contains(QLatin1String("its dialog starts with 256\n")));
+    QStringList differing;
+    for (const QJsonValue &option : list) {
+        if (option.toObject().contains(QLatin1String("dialogDefault")))
+            differing.append(option.toObject().value(QLatin1String("key")).toString());
+    }
+    QCOMPARE(differing, words({"Enabel GPIO IO", "CAN_BUFFER_DEPTH", "ETHERNET_INPUT_DELAY",
+                               "ETHERNET_CLOCK_DIVIDER", "Enable I2C IO"}));
 }
 
 void tst_Cli::devicesCanBeNarrowed()
@@ -764,6 +1104,20 @@ void tst_Cli::sourcesMatchGeneration()
     for (const QJsonValue &value : generated)
         sources.append(value.toString());
     QCOMPARE(listed.out.split(u'\n', Qt::SkipEmptyParts), sources);
+
+    // In another folder the include files stand there.
+    const QStringList elsewhere{QStringLiteral("--out"), QStringLiteral("else/where")};
+    const Run there = run(QStringList{QStringLiteral("sources"), file} + elsewhere);
+    const QJsonArray generatedThere =
+        run(QStringList{QStringLiteral("generate"), file, QStringLiteral("--no-synth"),
+                        QStringLiteral("--json")} +
+            elsewhere)
+            .json()
+            .value(QLatin1String("sources"))
+            .toArray();
+    QCOMPARE(QJsonArray::fromStringList(there.out.split(u'\n', Qt::SkipEmptyParts)),
+             generatedThere);
+    QVERIFY(there.out.contains(path("else/where/temp/tv_orix_m1/cm1_option_defs.v\n")));
     for (const QString &source : sources)
         QVERIFY2(QFileInfo::exists(source), qPrintable(source));
 }

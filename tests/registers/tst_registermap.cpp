@@ -3,6 +3,7 @@
 #include <registers/registerdocs.h>
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -38,10 +39,19 @@ private Q_SLOTS:
     void namesFileAndPlaceOfAMistake();
     void aFolderWithoutDescriptionsIsAnError();
     void leavesOutWhatIsSwitchedOff();
+    void interruptNumbersAreThoseOfTheRtl();
+    void leavesOutMaskedInterrupts_data();
+    void leavesOutMaskedInterrupts();
+    void namesMistakesInTheOtherInterrupts_data();
+    void namesMistakesInTheOtherInterrupts();
     void theDocumentIsTheOneInDocs();
     void theHeaderCompiles();
 
 private:
+    // The shipped descriptions.
+    QVector<Peripheral> m_all;
+    QVector<InterruptSource> m_others;
+
     void write(const QByteArray &json)
     {
         QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("registers/lamp.json")), json));
@@ -53,6 +63,10 @@ private:
 void tst_RegisterMap::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
+    QString error;
+    const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    QVERIFY2(readRegisterMap(data, &m_all, &error), qPrintable(error));
+    QVERIFY2(readOtherInterrupts(data, &m_others, &error), qPrintable(error));
 }
 
 void tst_RegisterMap::readsWhatTheFileSays()
@@ -143,42 +157,157 @@ void tst_RegisterMap::aFolderWithoutDescriptionsIsAnError()
 
 void tst_RegisterMap::leavesOutWhatIsSwitchedOff()
 {
-    QVector<Peripheral> all;
-    QString error;
-    QVERIFY2(readRegisterMap(QStringLiteral(TARVO_IP_DATA_DIR), &all, &error), qPrintable(error));
-    QVERIFY(enabledPeripherals(all, {}).isEmpty());
+    QVERIFY(enabledPeripherals(m_all, {}).isEmpty());
     const OptionMap options = {{QStringLiteral("Enable UART1"), QStringLiteral("true")},
                                {QStringLiteral("Enable GPIO"), true},
                                {QStringLiteral("Enable SPI"), false}};
-    const QVector<Peripheral> some = enabledPeripherals(all, options);
+    const QVector<Peripheral> some = enabledPeripherals(m_all, options);
     QCOMPARE(some.size(), 2);
     QCOMPARE(some.at(0).name, QStringLiteral("GPIO"));
     QCOMPARE(some.at(1).instances.size(), 1);
     QCOMPARE(some.at(1).instances.first().name, QStringLiteral("UART1"));
 }
 
+void tst_RegisterMap::interruptNumbersAreThoseOfTheRtl()
+{
+    const QString defines =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(RTL_DIR "/define.vh")));
+    QMap<QString, int> expected;
+    const QRegularExpression line(QStringLiteral("^`define ORIX_IRQ_(\\w+) +(\\d+)$"),
+                                  QRegularExpression::MultilineOption);
+    for (auto it = line.globalMatch(defines); it.hasNext();) {
+        const auto match = it.next();
+        expected.insert(match.captured(1), match.captured(2).toInt());
+    }
+    QMap<QString, int> actual;
+    int last = -1;
+    for (const InterruptSource &source : interruptSources(m_all, m_others)) {
+        QVERIFY2(source.number > last, qPrintable(source.name)); // none twice
+        last = source.number + source.count - 1;
+        actual.insert(source.name, source.number);
+    }
+    QCOMPARE(actual, expected);
+    QVERIFY(actual.size() >= 14);
+}
+
+void tst_RegisterMap::leavesOutMaskedInterrupts_data()
+{
+    QTest::addColumn<int>("inputs");
+    QTest::addColumn<QStringList>("masked");
+    const auto row = [](int inputs, std::initializer_list<const char *> names) {
+        QStringList list;
+        for (const char *name : names)
+            list.append(QString::fromLatin1(name));
+        QTest::newRow(qPrintable(QStringLiteral("%1 inputs").arg(inputs))) << inputs << list;
+    };
+    row(1, {"UART1 8", "TIMER0 8", "TIMER1 8", "GPIO 8", "DTIMER 8", "I2C 8", "RTC 8", "SPI 16",
+            "CAN 16", "ETH 16", "SD 16", "EXTINT 16", "TRNG 32"});
+    row(8, {"SPI 16", "CAN 16", "ETH 16", "SD 16", "EXTINT 16", "TRNG 32"});
+    row(16, {"TRNG 32"});
+    row(32, {});
+}
+
+void tst_RegisterMap::leavesOutMaskedInterrupts()
+{
+    QFETCH(int, inputs);
+    QFETCH(QStringList, masked);
+    OptionMap options = {{QStringLiteral("Number of Interrupts"), QString::number(inputs)}};
+    const QVector<InterruptSource> sources = interruptSources(m_all, m_others);
+    for (const InterruptSource &source : sources)
+        options.insert(source.option, true);
+    options.insert(QStringLiteral("Enable WatchDog"), true);
+
+    QStringList found;
+    for (const Finding &finding : interruptFindings(sources, options)) {
+        QCOMPARE(finding.severity, Finding::Warning);
+        static const QRegularExpression form(
+            QStringLiteral("^(\\w+) never interrupts: its interrupts? .* masked: \"Number of "
+                           "Interrupts\" is %1, and (\\d+) would be enough$")
+                .arg(QStringLiteral("\\d+")));
+        const auto match = form.match(finding.message);
+        QVERIFY2(match.hasMatch(), qPrintable(finding.message));
+        QVERIFY(finding.message.contains(QStringLiteral("is %1,").arg(inputs)));
+        found.append(match.captured(1) + u' ' + match.captured(2));
+    }
+    QCOMPARE(found, masked);
+
+    // A number that cannot interrupt stands in no document, and the reason does.
+    const QVector<Peripheral> some = enabledPeripherals(m_all, options);
+    const QVector<OtherInterrupt> others = otherInterrupts(m_others, &options);
+    const QString header = registersHeader(some, others);
+    const QString document = registersMarkdown(some, others);
+    for (const InterruptSource &source : sources) {
+        const bool isMasked = !masked.filter(source.name + u' ').isEmpty();
+        const QString name = source.name + (source.count == 1 ? QString() : QStringLiteral("0")) +
+                             QStringLiteral("_IRQ");
+        const QRegularExpression define(QStringLiteral("^#define %1 +\\d+$").arg(name),
+                                        QRegularExpression::MultilineOption);
+        const QRegularExpression reason(
+            QStringLiteral("^/\\* %1 is left out: .* would be enough\\. \\*/$").arg(name),
+            QRegularExpression::MultilineOption);
+        QCOMPARE(define.match(header).hasMatch(), !isMasked);
+        QCOMPARE(reason.match(header).hasMatch(), isMasked);
+        const QRegularExpression row(
+            QStringLiteral("^\\| %1 \\|(.*\\|)? none: its interrupt").arg(source.name),
+            QRegularExpression::MultilineOption);
+        QCOMPARE(row.match(document).hasMatch(), isMasked);
+    }
+    QVERIFY(document.contains(QStringLiteral("| WDOG | 0x50008000 | APB | NMI | WDOG |")));
+}
+
+void tst_RegisterMap::namesMistakesInTheOtherInterrupts_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no JSON") << QByteArray("{\n{") << QStringLiteral("line 2");
+    QTest::newRow("no name") << QByteArray(R"({"interrupts": [{"number": 3}]})")
+                             << QStringLiteral("no name");
+    QTest::newRow("no number") << QByteArray(
+                                      R"({"interrupts": [{"name": "A", "option": "Enable CAN"}]})")
+                               << QStringLiteral("A: the number");
+    QTest::newRow("beyond the last input")
+        << QByteArray(
+               R"({"interrupts": [{"name": "A", "number": 30, "count": 3, "option": "Enable CAN"}]})")
+        << QStringLiteral("A: the number");
+    QTest::newRow("no switch")
+        << QByteArray(R"({"interrupts": [{"name": "A", "number": 3, "option": "ITCM_Size"}]})")
+        << QStringLiteral("\"ITCM_Size\" is no switch");
+    QTest::newRow("unknown word")
+        << QByteArray(
+               R"({"interrupts": [{"name": "A", "numbre": 1, "number": 3, "option": "Enable CAN"}]})")
+        << QStringLiteral("numbre");
+}
+
+void tst_RegisterMap::namesMistakesInTheOtherInterrupts()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, message);
+    QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("interrupts.json")), json));
+    QVector<InterruptSource> sources;
+    QString error;
+    QVERIFY(!readOtherInterrupts(m_dir->path(), &sources, &error));
+    QVERIFY2(error.contains(message) && error.contains(QStringLiteral("interrupts.json")),
+             qPrintable(error));
+}
+
 // "orixm1 registers --markdown > docs/registers.md" makes it anew.
 void tst_RegisterMap::theDocumentIsTheOneInDocs()
 {
-    QVector<Peripheral> all;
-    QString error;
-    QVERIFY2(readRegisterMap(QStringLiteral(TARVO_IP_DATA_DIR), &all, &error), qPrintable(error));
     QCOMPARE(QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(DOCS_DIR "/registers.md"))),
-             registersMarkdown(all));
+             registersMarkdown(m_all, otherInterrupts(m_others, nullptr)));
 }
 
 void tst_RegisterMap::theHeaderCompiles()
 {
-    QVector<Peripheral> all;
-    QString error;
-    QVERIFY2(readRegisterMap(QStringLiteral(TARVO_IP_DATA_DIR), &all, &error), qPrintable(error));
-    QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("registers.h")),
-                               registersHeader(all).toUtf8()));
+    QVERIFY(
+        TestSupport::write(m_dir->filePath(QStringLiteral("registers.h")),
+                           registersHeader(m_all, otherInterrupts(m_others, nullptr)).toUtf8()));
     QVERIFY(TestSupport::write(
         m_dir->filePath(QStringLiteral("use.c")),
         "#include \"registers.h\"\n"
         "_Static_assert(UART1_BASE + UART_STATUS_OFFSET == 0x50005004u, \"address\");\n"
         "_Static_assert(UART_STATUS_RXFULL_Msk == 1u << UART_STATUS_RXFULL_Pos, \"mask\");\n"
+        "_Static_assert(CAN_IRQ == 9 && EXTINT3_IRQ == 15 && TRNG_IRQ == 16, \"others\");\n"
         "_Static_assert(SD_IRQ == 11 && WDOG_LOAD_CYCLES_Msk == 0xFFFFFFFFu, \"widest\");\n"));
     QProcess compiler;
     compiler.setWorkingDirectory(m_dir->path());

@@ -1,5 +1,6 @@
 #include "check.h"
 
+#include "core/itcmpath.h"
 #include "core/tcmsizes.h"
 #include "devicerules.h"
 #include "dialogdefaults.h"
@@ -8,9 +9,12 @@
 #include "latin1literal.h"
 #include "optionkeys.h"
 #include "optiontable.h"
+#include "plaintext.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace TARVOORIXM1
 {
@@ -44,6 +48,8 @@ public:
             checkDevice();
             checkSizes();
         }
+        checkGeneratedTexts();
+        checkUnsetKeys();
         return m_findings;
     }
 
@@ -167,19 +173,75 @@ private:
                     "is not set although CAN is on: the generated parameter has no value"));
     }
 
+    // What stands in a generated line as it is.
+    void checkGeneratedTexts()
+    {
+        if (isOn(Key::enableCan))
+            checkGeneratedText(Key::canBufferDepth,
+                               m_options.value(Key::canBufferDepth).toString());
+        if (!isOn(Key::initializeItcm) || !isOn(Key::internalInstructionMemory, true))
+            return;
+        checkGeneratedText(Key::itcmInitializationAbsolutePath,
+                           m_options.value(Key::itcmInitializationAbsolutePath).toString());
+        // The dialogs make the absolute path of this one.
+        checkGeneratedText(Key::itcmInitializationPath,
+                           absoluteItcmPath(m_options.value(Key::itcmInitializationPath).toString(),
+                                            m_createInPath));
+    }
+
+    void checkGeneratedText(QLatin1String key, const QString &text)
+    {
+        const QString unsafe = unsafeCharacter(text);
+        if (!unsafe.isEmpty())
+            add(Finding::Error, key,
+                QStringLiteral("\"%1\" holds %2, which a generated line cannot hold")
+                    .arg(shown(text).simplified(), unsafe));
+    }
+
+    // Keys that generation reads otherwise than the dialogs, which would change the result without
+    // a choice of the user.
+    void checkUnsetKeys()
+    {
+        const QVector<UnsetKey> unset = unsetKeys(m_options, m_device.device());
+        for (const UnsetKey &entry : unset) {
+            const bool isTold =
+                std::any_of(m_findings.begin(), m_findings.end(), [&entry](const Finding &told) {
+                    return told.key == entry.key || told.key == otherMemory(entry.key);
+                });
+            if (isTold || (entry.key == Key::ethernetInputDelay && !isRgmii()))
+                continue;
+            add(Finding::Warning, entry.key,
+                QStringLiteral("is not set: %1 is generated, but its dialog shows %2 and stores "
+                               "that with OK")
+                    .arg(entry.generated.toString(), entry.dialog.toString()));
+        }
+    }
+
+    // Of the two keys that say where a memory is, the one beside `key`; empty for any other key.
+    static QString otherMemory(const QString &key)
+    {
+        constexpr QLatin1String pairs[][2] = {
+            {Key::internalInstructionMemory, Key::externalInstructionMemory},
+            {Key::internalDataMemory, Key::externalDataMemory}};
+        for (const auto &pair : pairs) {
+            if (key == pair[0])
+                return pair[1];
+            if (key == pair[1])
+                return pair[0];
+        }
+        return {};
+    }
+
+    bool isRgmii() const
+    {
+        return m_options.value(Key::ethernetInterface, QString(Value::rgmii)).toString() ==
+               Value::rgmii;
+    }
+
     void checkEthernet()
     {
         if (!isOn(Key::enableEthernet))
             return;
-        const bool rgmii =
-            m_options.value(Key::ethernetInterface, QString(Value::rgmii)).toString() ==
-            Value::rgmii;
-        if (rgmii && !m_options.contains(Key::ethernetInputDelay))
-            add(Finding::Warning, Key::ethernetInputDelay,
-                QStringLiteral("is not set: 0 is generated"));
-        if (!m_options.contains(Key::ethernetClockDivider))
-            add(Finding::Warning, Key::ethernetClockDivider,
-                QStringLiteral("is not set: 0 is generated"));
         const QString name = m_device.device();
         const int largest = largestRgmiiInputDelay(name);
         const QVariant delay = m_options.value(Key::ethernetInputDelay);

@@ -107,11 +107,11 @@ QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo)
     };
 }
 
-QVariantMap movedHeader(QSettings &settings, const QString &deviceId)
+QVariantMap movedHeader(const QVariantMap &others, const QString &type, const QString &deviceId)
 {
-    QVariantMap entries = otherEntries(settings);
+    QVariantMap entries = others;
     entries.insert(targetDevice, deviceId);
-    entries.insert(typeEntry, type(settings));
+    entries.insert(typeEntry, type);
     entries.insert(versionEntry, QString(acceptedVersion));
     return entries;
 }

@@ -56,8 +56,9 @@ QString deviceText(const QSettings &settings);
 // The top-level entries of a new file.
 QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo);
 
-// All entries of a file outside of its options, for the same configuration on another device.
-QVariantMap movedHeader(QSettings &settings, const QString &deviceId);
+// All entries of a file outside of its options, for the same configuration on another device:
+// its other entries and type are kept.
+QVariantMap movedHeader(const QVariantMap &others, const QString &type, const QString &deviceId);
 
 // createInPath + "/" + the descriptor's target + ".ipc"
 QString path(const QString &createInPath, const QVariantMap &ipInfo);

@@ -135,14 +135,21 @@ private:
 
     void balanceSizes()
     {
+        const TcmSizes sizes = tcmSizes(m_to.device());
         for (const Memory &memory : memories) {
-            if (!isOn(memory.internalKey) ||
-                !isInDomain(*findOption(memory.sizeKey), now(memory.sizeKey)))
+            if (!isInDomain(*findOption(memory.sizeKey), now(memory.sizeKey)))
                 return;
         }
-        const TcmSizes sizes = tcmSizes(m_to.device());
-        if (tcmFit(sizes, now(Key::itcmSize).toInt(), now(Key::dtcmSize).toInt()).both())
+        if (!isOn(Key::internalInstructionMemory) ||
+            tcmFit(sizes, now(Key::itcmSize).toInt(), now(Key::dtcmSize).toInt()).both())
             return;
+        if (!isOn(Key::internalDataMemory)) {
+            // The size of a memory that is outside counts for nothing, but the page looks at it
+            // before it knows.
+            if (m_from.device() != m_to.device())
+                set(Key::dtcmSize, sizes.reduced.size() - 1);
+            return;
+        }
         // The page takes a memory for external that a file calls both; generation does not.
         OptionMap internal = m_result.options;
         internal[Key::externalInstructionMemory] = false;
@@ -227,9 +234,12 @@ QString lossSentence(const Loss &loss, const Retargeted &result, const DEV::Devi
                            " to "_l1 + sizeText(loss.after) + ": "_l1 + name +
                            " has no more for it"_l1;
         const QString largest = tcmSizes(name).largest;
-        return sizeText(loss.after) == largest
-                   ? QString(sentence + u'.')
-                   : QString(sentence + " beside another memory of "_l1 + largest + u'.');
+        if (sizeText(loss.after) != largest)
+            sentence += " beside another memory of "_l1 + largest;
+        sentence += u'.';
+        if (loss.key == Key::itcmSize && result.options.value(Key::initializeItcm).toBool())
+            sentence += QStringLiteral(" Its initialisation files have to be made for that size.");
+        return sentence;
     }
     if (loss.key == Key::ethernetInputDelay)
         return "The RGMII input delay falls from "_l1 + loss.before.toString() + " to "_l1 +

@@ -46,7 +46,7 @@ QString unusable(const QString &ipcFile)
 } // namespace
 
 QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId, bool write,
-                         const DEV::DeviceDb &devices)
+                         const QString &ipId, const DEV::DeviceDb &devices)
 {
     if (const QString error = unusable(ipcFile); !error.isEmpty())
         return answer(error);
@@ -63,10 +63,15 @@ QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId, bool w
             return answer(shown(ipcFile) + " is no IP configuration file."_l1);
         if (!IpcFile::isVersionAccepted(settings))
             return answer(shown(ipcFile) + " has a version that this IP does not know."_l1);
+        const QString type = IpcFile::type(settings);
+        if (!ipId.isEmpty() && !type.isEmpty() && type != ipId)
+            return answer(shown(ipcFile) + " is a configuration of \""_l1 + type +
+                          "\", not of this IP."_l1);
         from = IpcFile::readDevice(settings, devices);
         before = IpcFile::deviceText(settings);
         IpcFile::readOptions(settings, options);
-        header = IpcFile::movedHeader(settings, to.id());
+        header =
+            IpcFile::movedHeader(IpcFile::otherEntries(settings), IpcFile::type(settings), to.id());
     }
     const Retargeted moved = retarget(options, from, to);
     QStringList losses;

@@ -21,7 +21,10 @@ QList<TE::TE_IPCore_Def::BaseIPCoreInterface *> TarvoOrixM1Package::ipCoreInterf
 QVariantMap TarvoOrixM1Package::moveToDevice(const QString &ipcFile, const QString &deviceId,
                                              bool write)
 {
-    return TARVOORIXM1::moveToDevice(ipcFile, deviceId, write, *Core::IdeCore::deviceDataBase());
+    TarvoOrixM1 core(dataPath());
+    const QString id = core.initialize() ? core.id() : QString();
+    return TARVOORIXM1::moveToDevice(ipcFile, deviceId, write, id,
+                                     *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

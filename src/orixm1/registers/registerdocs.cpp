@@ -29,6 +29,8 @@ QString resetText(const RegisterField &field)
 
 QString interruptText(const PeripheralInstance &instance)
 {
+    if (!instance.maskedInterrupt.isEmpty())
+        return "none: "_l1 + instance.maskedInterrupt;
     return instance.interrupt.isEmpty() ? QStringLiteral("none") : instance.interrupt;
 }
 
@@ -54,7 +56,19 @@ quint32 resetValue(const Register &entry)
     return value;
 }
 
-QString registersMarkdown(const QVector<Peripheral> &peripherals)
+QVector<OtherInterrupt> otherInterrupts(const QVector<InterruptSource> &sources,
+                                        const OptionMap *options)
+{
+    QVector<OtherInterrupt> others;
+    const QVector<InterruptSource> present =
+        options ? enabledInterrupts(sources, *options) : sources;
+    for (const InterruptSource &source : present)
+        others.append({source, options ? maskedInterrupt(source, *options) : QString()});
+    return others;
+}
+
+QString registersMarkdown(const QVector<Peripheral> &peripherals,
+                          const QVector<OtherInterrupt> &others)
 {
     QString text = QStringLiteral(
         "# Registers\n\n"
@@ -69,6 +83,20 @@ QString registersMarkdown(const QVector<Peripheral> &peripherals)
             text += "| "_l1 + instance.name + " | "_l1 + hexAddress(instance.base) + " | "_l1 +
                     peripheral.bus + " | "_l1 + interruptText(instance) + " | "_l1 +
                     peripheral.name + " |\n"_l1;
+    }
+    if (!others.isEmpty())
+        text += "\nInterrupts of blocks that are not described here:\n\n"
+                "| block | interrupt | switched on by |\n|---|---|---|\n"_l1;
+    for (const OtherInterrupt &other : others) {
+        const int first = other.source.number;
+        const int last = first + other.source.count - 1;
+        QString numbers = QString::number(first);
+        if (last != first)
+            numbers += " to "_l1 + QString::number(last);
+        if (!other.masked.isEmpty())
+            numbers = "none: "_l1 + other.masked;
+        text += "| "_l1 + other.source.name + " | "_l1 + numbers + " | "_l1 + other.source.option +
+                " |\n"_l1;
     }
     for (const Peripheral &peripheral : peripherals) {
         text += "\n## "_l1 + peripheral.name + "\n\n"_l1 + peripheral.text +
@@ -86,7 +114,8 @@ QString registersMarkdown(const QVector<Peripheral> &peripherals)
     return text;
 }
 
-QString registersHeader(const QVector<Peripheral> &peripherals)
+QString registersHeader(const QVector<Peripheral> &peripherals,
+                        const QVector<OtherInterrupt> &others)
 {
     QString text = QStringLiteral(
         "/* Registers of Tarvo_ORIX_M1. Offsets are in bytes from an instance's base address. */\n"
@@ -94,6 +123,9 @@ QString registersHeader(const QVector<Peripheral> &peripherals)
         "#define TARVO_ORIX_M1_REGISTERS_H\n");
     const auto define = [&text](const QString &name, const QString &value) {
         text += "#define "_l1 + name.leftJustified(32) + u' ' + value + u'\n';
+    };
+    const auto leaveOut = [&text](const QString &name, const QString &reason) {
+        text += "/* "_l1 + name + " is left out: "_l1 + reason + ". */\n"_l1;
     };
     for (const Peripheral &peripheral : peripherals) {
         text += "\n/* "_l1 + peripheral.text + " */\n"_l1;
@@ -103,6 +135,8 @@ QString registersHeader(const QVector<Peripheral> &peripherals)
             instance.interrupt.toInt(&isNumber);
             if (isNumber)
                 define(instance.name + "_IRQ"_l1, instance.interrupt);
+            if (!instance.maskedInterrupt.isEmpty())
+                leaveOut(instance.name + "_IRQ"_l1, instance.maskedInterrupt);
         }
         for (const Register &entry : peripheral.registers) {
             const QString prefix = peripheral.name + u'_' + entry.name;
@@ -111,6 +145,18 @@ QString registersHeader(const QVector<Peripheral> &peripherals)
                 define(prefix + u'_' + field.name + "_Pos"_l1, QString::number(field.low) + u'u');
                 define(prefix + u'_' + field.name + "_Msk"_l1, hexAddress(field.mask()) + u'u');
             }
+        }
+    }
+    if (!others.isEmpty())
+        text += "\n/* Interrupts of blocks that are not described here. */\n"_l1;
+    for (const OtherInterrupt &other : others) {
+        for (int i = 0; i < other.source.count; ++i) {
+            const QString index = other.source.count == 1 ? QString() : QString::number(i);
+            const QString name = other.source.name + index + "_IRQ"_l1;
+            if (other.masked.isEmpty())
+                define(name, QString::number(other.source.number + i));
+            else
+                leaveOut(name, other.masked);
         }
     }
     return text + "\n#endif\n"_l1;

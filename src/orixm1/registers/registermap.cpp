@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optiontable.h"
+#include "interrupts.h"
 
 #include <reading/limits.h>
 #include <reading/plainfile.h>
@@ -286,6 +287,16 @@ QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
                      std::back_inserter(instances), isOn);
         if (instances.isEmpty())
             continue;
+        for (PeripheralInstance &instance : instances) {
+            bool isNumber = false;
+            const int number = instance.interrupt.toInt(&isNumber);
+            if (!isNumber)
+                continue;
+            instance.maskedInterrupt =
+                maskedInterrupt({instance.name, number, 1, instance.option}, options);
+            if (!instance.maskedInterrupt.isEmpty())
+                instance.interrupt.clear();
+        }
         enabled.append(peripheral);
         enabled.last().instances = instances;
     }

@@ -45,9 +45,11 @@ struct Register {
 // A place where a peripheral stands in the subsystem.
 struct PeripheralInstance {
     QString name;
-    quint32 base = 0;  // address
-    QString interrupt; // number of the processor's interrupt, "NMI", or empty
-    QString option;    // key of the bool option that switches it on
+    quint32 base = 0;        // address
+    QString interrupt;       // number of the processor's interrupt, "NMI", or empty
+    QString maskedInterrupt; // why a configuration has no such interrupt although the block drives
+                             // one: a part of a sentence, and `interrupt` is empty
+    QString option;          // key of the bool option that switches it on
 };
 
 // What software sees of a peripheral of the sample subsystem.
@@ -67,7 +69,7 @@ struct Peripheral {
 // file cannot be read or contradicts itself.
 bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, QString *error);
 
-// Those that a configuration has, with the instances that it has.
+// Those that a configuration has, with the instances and the interrupts that it has.
 QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
                                        const OptionMap &options);
 

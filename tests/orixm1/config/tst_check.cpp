@@ -20,6 +20,9 @@ private Q_SLOTS:
     void finds_data();
     void finds();
     void initialisationFolders();
+    void findsWhatNoGeneratedLineCanHold_data();
+    void findsWhatNoGeneratedLineCanHold();
+    void theOutputFolderCanBeUnsafeToo();
     void aNullDeviceIsNotJudged();
     void changesNothing();
 };
@@ -33,6 +36,31 @@ DEV::DeviceArg deviceNamed(const QString &name, const QString &package = QString
     filter.device = name;
     filter.package = package;
     return DEV::DeviceDb::bundled().filterDevice(filter).value(0);
+}
+
+// What the core page stores on one of the smallest devices, whose defaults are not generation's.
+OptionMap smallest(const OptionMap &more = {})
+{
+    OptionMap options = {{Key::numberOfInterrupts, 1},
+                         {Key::osExtension, false},
+                         {Key::smallMultiplier, true},
+                         {Key::enableDebug, false},
+                         {Key::internalInstructionMemory, false},
+                         {Key::externalInstructionMemory, true}};
+    for (auto it = more.cbegin(); it != more.cend(); ++it)
+        options.insert(it.key(), it.value());
+    return options;
+}
+
+// The files of an ITCM of 1 KB.
+bool writeSmallestContents(const QString &folder)
+{
+    const QByteArray lane = QByteArray("00\n").repeated(256);
+    for (int i = 0; i < 4; ++i) {
+        if (!TestSupport::write(folder + QStringLiteral("/itcm%1").arg(i), lane))
+            return false;
+    }
+    return true;
 }
 
 // "error KEY" for each finding.
@@ -55,7 +83,8 @@ void tst_Check::aSoundConfigurationHasNoFindings_data()
     QTest::newRow("empty map") << QStringLiteral("TV2K-18") << OptionMap();
     QTest::newRow("smallest device")
         << QStringLiteral("TV1KL-5A")
-        << OptionMap{{Key::enableDebug, false}}; // both memories may have its largest size
+        << smallest({{Key::internalInstructionMemory, true}, // both may have its largest size
+                     {Key::externalInstructionMemory, false}});
     QTest::newRow("both largest where the rules allow it")
         << QStringLiteral("TV5KT-75B") << OptionMap{{Key::itcmSize, 8}, {Key::dtcmSize, 8}};
     QTest::newRow("texts of a file") << QStringLiteral("TV5K-138C")
@@ -121,21 +150,18 @@ void tst_Check::finds_data()
     row("PSRAM", "TV2K-18", {{Key::enablePsram, true}}, "error Enable PSRAM", "cannot have PSRAM");
     row("DDR3", "TV1L-9C", {{Key::enableDdr3, true}}, "error Enable DDR3", "cannot have DDR3");
     row("Ethernet", "TV1KL-5A",
-        {{Key::enableDebug, false},
-         {Key::enableEthernet, true},
-         {Key::ethernetInputDelay, 1},
-         {Key::ethernetClockDivider, 1}},
+        smallest({{Key::enableEthernet, true},
+                  {Key::ethernetInputDelay, 1},
+                  {Key::ethernetClockDivider, 1}}),
         "error Enable Ethernet", "cannot have Ethernet");
     row("CAN", "TV1KL-5B",
-        {{Key::enableDebug, false},
-         {Key::enableCan, true},
-         {Key::canBufferDepth, QStringLiteral("16")}},
+        smallest({{Key::enableCan, true}, {Key::canBufferDepth, QStringLiteral("16")}}),
         "error Enable CAN", "cannot have CAN");
-    row("SPI-Flash", "TV1KL-5A", {{Key::enableDebug, false}, {Key::enableSpiFlash, true}},
-        "error Enable SPI-Flash", "cannot have SPI-Flash");
+    row("SPI-Flash", "TV1KL-5A", smallest({{Key::enableSpiFlash, true}}), "error Enable SPI-Flash",
+        "cannot have SPI-Flash");
     row("debug where there is none", "TV1LR-9", {}, "error Enable Debug", "cannot have debug");
-    row("internal instructions", "TV5KT-15A", {}, "error Internal_Instruction_Memory",
-        "always external");
+    row("internal instructions", "TV5KT-15A", {{Key::externalInstructionMemory, false}},
+        "error Internal_Instruction_Memory", "always external");
     row("no instruction memory", "TV2K-18", {{Key::internalInstructionMemory, false}},
         "warning Internal_Instruction_Memory", "neither");
     row("both data memories", "TV2K-18", {{Key::externalDataMemory, true}},
@@ -153,6 +179,21 @@ void tst_Check::finds_data()
     row("external interrupts without enough inputs", "TV2K-18",
         {{Key::externalInterrupts, true}, {Key::numberOfInterrupts, 8}},
         "warning External Interrupts", "16 or 32");
+    row("Ethernet without a delay", "TV2K-18",
+        {{Key::enableEthernet, true}, {Key::ethernetClockDivider, 5}},
+        "warning ETHERNET_INPUT_DELAY", "0 is generated, but its dialog shows 100");
+    row("GPIO without its kind of pins", "TV2K-18", {{Key::enableGpio, true}},
+        "warning Enabel GPIO IO", "false is generated, but its dialog shows true");
+    row("I2C without its kind of pins", "TV2K-18", {{Key::enableI2c, QStringLiteral("true")}},
+        "warning Enable I2C IO", "false is generated, but its dialog shows true");
+    row(
+        "the smallest device without a number of interrupts", "TV1KL-5A",
+        [] {
+            OptionMap options = smallest();
+            options.remove(Key::numberOfInterrupts);
+            return options;
+        }(),
+        "warning Number of Interrupts", "32 is generated, but its dialog shows 1");
     row("another stored device", "TV2K-18", {{Key::ipDevice, QStringLiteral("TV1L-9")}},
         "warning ip_device", "TV2K-18");
     row("initialisation without an ITCM", "TV2K-18",
@@ -202,6 +243,77 @@ void tst_Check::initialisationFolders()
     // Both must be folders.
     QCOMPARE(check(QStringLiteral("file"), dir.filePath(QStringLiteral("file"))),
              (QStringList{both, absoluteError}));
+}
+
+void tst_Check::findsWhatNoGeneratedLineCanHold_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("quotation mark") << QStringLiteral("e\"x") << QStringLiteral("quotation mark");
+    QTest::newRow("backslash") << QStringLiteral("e\\x") << QStringLiteral("backslash");
+    QTest::newRow("backtick") << QStringLiteral("e`x") << QStringLiteral("backtick");
+    QTest::newRow("line feed") << QStringLiteral("e\nx") << QStringLiteral("line end");
+    QTest::newRow("carriage return") << QStringLiteral("e\rx") << QStringLiteral("line end");
+    QTest::newRow("a macro of its own") << QStringLiteral("x\"\n`define MINE 1\n`define REST \"")
+                                        << QStringLiteral("quotation mark");
+    QTest::newRow("an escape") << QStringLiteral("e\x1bx") << QStringLiteral("control character");
+    QTest::newRow("odd, but harmless")
+        << QString::fromUtf8("e 'x' $y %n {z} \xc3\xbc") << QString();
+}
+
+void tst_Check::findsWhatNoGeneratedLineCanHold()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, named);
+    QTemporaryDir dir;
+    QVERIFY(QDir(dir.path()).mkdir(name));
+    const DEV::DeviceArg device = deviceNamed(QStringLiteral("TV2K-18"));
+    QVERIFY(writeSmallestContents(dir.filePath(name)));
+    OptionMap options = {{Key::itcmSize, 0},
+                         {Key::initializeItcm, true},
+                         {Key::itcmInitializationPath, name},
+                         {Key::itcmInitializationAbsolutePath, dir.filePath(name)}};
+    const QVector<Finding> findings = checkOptions(options, device, dir.path());
+    if (named.isEmpty()) {
+        QCOMPARE(inShort(findings), QStringList());
+        return;
+    }
+    QCOMPARE(inShort(findings),
+             (QStringList{QStringLiteral("error ITCM_Initialization_AbsolutePath"),
+                          QStringLiteral("error ITCM_Initialization_Path")}));
+    for (const Finding &finding : findings)
+        QVERIFY2(finding.message.contains(named) && !finding.message.contains(u'\n'),
+                 qPrintable(finding.message));
+    // It has to reach a line.
+    options[Key::initializeItcm] = false;
+    QCOMPARE(inShort(checkOptions(options, device, dir.path())), QStringList());
+
+    const QVector<Finding> depth =
+        checkOptions({{Key::enableCan, true}, {Key::canBufferDepth, name}}, device, dir.path());
+    QVERIFY(!depth.isEmpty());
+    QVERIFY(std::any_of(depth.begin(), depth.end(), [&named](const Finding &finding) {
+        return finding.severity == Finding::Error && finding.message.contains(named);
+    }));
+}
+
+void tst_Check::theOutputFolderCanBeUnsafeToo()
+{
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("e\"x"));
+    QVERIFY(QDir().mkpath(folder + QStringLiteral("/init")));
+    const DEV::DeviceArg device = deviceNamed(QStringLiteral("TV2K-18"));
+    QVERIFY(writeSmallestContents(dir.path()));
+    QVERIFY(writeSmallestContents(folder + QStringLiteral("/init")));
+    const auto check = [&](const QString &path) {
+        return inShort(checkOptions({{Key::itcmSize, 0},
+                                     {Key::initializeItcm, true},
+                                     {Key::itcmInitializationPath, path},
+                                     {Key::itcmInitializationAbsolutePath, dir.path()}},
+                                    device, folder));
+    };
+    QCOMPARE(check(QStringLiteral("init")),
+             QStringList{QStringLiteral("error ITCM_Initialization_Path")});
+    QCOMPARE(check(dir.path()), QStringList());
 }
 
 void tst_Check::aNullDeviceIsNotJudged()

@@ -94,6 +94,10 @@ void tst_Retarget::tellsWhatIsLost_data()
     row("sizes of its own", large, deviceNamed("TV2K-18"),
         {{Key::itcmSize, QStringLiteral("9")}, {Key::dtcmSize, 2}}, {{Key::itcmSize, 6}},
         {"The ITCM shrinks from 512 KB to 64 KB: TV2K-18 has no more for it."});
+    row("contents for another size", large, deviceNamed("TV2K-18"),
+        {{Key::itcmSize, 7}, {Key::dtcmSize, 2}, {Key::initializeItcm, true}}, {{Key::itcmSize, 6}},
+        {"The ITCM shrinks from 128 KB to 64 KB: TV2K-18 has no more for it. Its initialisation "
+         "files have to be made for that size."});
     row("sizes that were left open", large, deviceNamed("TV2K-18"), {},
         {{Key::itcmSize, 6}, {Key::dtcmSize, 4}},
         {"The ITCM shrinks from 128 KB to 64 KB: TV2K-18 has no more for it.",

@@ -183,10 +183,10 @@ void tst_CorePins::theProgramListsThem()
 {
     const QTemporaryDir folder;
     const Result made =
-        run({QStringLiteral("new"), QStringLiteral("--device"), QStringLiteral("TV2KR-18C"),
-             QStringLiteral("--set"), QStringLiteral("Debug Port Select=Serial Wire"),
-             QStringLiteral("--set"), QStringLiteral("External Interrupts=true"),
-             QStringLiteral("--out"), folder.path()});
+        run({QStringLiteral("new"), QStringLiteral("--device"),
+             QStringLiteral("TV2KR-18C-QFN88P-C8/I7"), QStringLiteral("--set"),
+             QStringLiteral("Debug Port Select=Serial Wire"), QStringLiteral("--set"),
+             QStringLiteral("External Interrupts=true"), QStringLiteral("--out"), folder.path()});
     QVERIFY2(made.status == 0, made.errors.constData());
     const QStringList files = QDir(folder.path()).entryList({QStringLiteral("tarvo*.ipc")});
     QCOMPARE(files.size(), 1);

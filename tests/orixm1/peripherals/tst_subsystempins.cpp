@@ -180,7 +180,8 @@ void tst_SubsystemPins::theProgramListsWhatTheFiguresShow()
     QVERIFY(figures.size() > 20);
 
     const QTemporaryDir folder;
-    QStringList arguments = {text("new"), text("--device"), device, text("--out"), folder.path()};
+    QStringList arguments = {text("new"), text("--device"), deviceNamed(device).id(), text("--out"),
+                             folder.path()};
     for (auto it = map.cbegin(); it != map.cend(); ++it) {
         if (findOption(it.key())->isOption && !it.value().toString().isEmpty())
             arguments << text("--set") << QString(it.key() + u'=' + it.value().toString());
@@ -208,8 +209,9 @@ void tst_SubsystemPins::theProgramKeepsNamesToTheLetter()
 {
     const QTemporaryDir folder;
     int status = 0;
-    run({text("new"), text("--device"), text("TV2KR-18C"), text("--out"), folder.path(),
-         text("--set"), text("Enable_AHB_Master4=true"), text("--set"), text("Enable RTC=true")},
+    run({text("new"), text("--device"), text("TV2KR-18C-QFN88P-C8/I7"), text("--out"),
+         folder.path(), text("--set"), text("Enable_AHB_Master4=true"), text("--set"),
+         text("Enable RTC=true")},
         &status);
     QCOMPARE(status, 0);
     const QString file = folder.filePath(QDir(folder.path()).entryList({text("*.ipc")}).value(0));

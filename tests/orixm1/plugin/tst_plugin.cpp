@@ -464,6 +464,8 @@ void tst_Plugin::cannotMoveWhatCannotBeRead_data()
     QTest::newRow("no file") << QByteArray() << known << QStringLiteral("x.ipc");
     QTest::newRow("another version")
         << QByteArray("[General]\nversion=2.0\n") << known << QStringLiteral("version");
+    QTest::newRow("another IP") << QByteArray("[General]\ntype=other.ip\nversion=1.0\n") << known
+                                << QStringLiteral("other.ip");
     QTest::newRow("unknown device") << QByteArray("[General]\nversion=1.0\n")
                                     << QStringLiteral("TV9") << QStringLiteral("\"TV9\"");
     QTest::newRow("no device") << QByteArray("[General]\nversion=1.0\n") << QString()
@@ -479,6 +481,7 @@ void tst_Plugin::cannotMoveWhatCannotBeRead()
     const QString file = dir.filePath(QStringLiteral("x.ipc"));
     if (!bytes.isEmpty())
         QVERIFY(TestSupport::write(file, bytes));
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
     const QVariantMap answer = moveToDevice(file, device, true);
     QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(named),
              qPrintable(answer.value(QStringLiteral("error")).toString()));

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <config/check.h>
+
+#include <QJsonObject>
+#include <QString>
+
+namespace Cli
+{
+
+// "error" or "warning"
+QString severityName(const TARVOORIXM1::Finding &finding);
+
+// {"severity", "key", "message"}
+QJsonObject jsonOf(const TARVOORIXM1::Finding &finding);
+
+} // namespace Cli

@@ -1,0 +1,167 @@
+#include "interrupts.h"
+
+#include "config/latin1literal.h"
+#include "config/optionkeys.h"
+#include "config/optiontable.h"
+
+#include <utils/jsonmistake.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+constexpr int inputCount = 32; // of the processor
+
+QString nameOf(const QString &path)
+{
+    return u'"' + QDir::toNativeSeparators(path) + u'"';
+}
+
+// What is wrong with an entry; empty if nothing is.
+QString mistakeIn(const QJsonObject &entry, const InterruptSource &source)
+{
+    const Option *option = findOption(source.option);
+    if (source.name.isEmpty())
+        return QStringLiteral("an entry has no name");
+    if (!entry.value("number"_l1).isDouble() || source.number < 0 || source.count < 1 ||
+        source.number > inputCount - source.count)
+        return source.name + ": the number is none from 0 to "_l1 + QString::number(inputCount - 1);
+    if (!option || option->type != OptionType::Bool)
+        return source.name + ": \""_l1 + source.option + "\" is no switch of the configuration"_l1;
+    for (auto it = entry.begin(); it != entry.end(); ++it) {
+        const QStringList known = {QStringLiteral("name"), QStringLiteral("number"),
+                                   QStringLiteral("count"), QStringLiteral("option")};
+        if (!known.contains(it.key()))
+            return source.name + ": unknown key \""_l1 + it.key() + u'"';
+    }
+    return {};
+}
+
+bool isOn(const InterruptSource &source, const OptionMap &options)
+{
+    const Option *option = findOption(source.option);
+    return option && options.value(source.option, option->defaultValue).toBool();
+}
+
+int numberOfInputs(const OptionMap &options)
+{
+    return options.value(Key::numberOfInterrupts, findOption(Key::numberOfInterrupts)->defaultValue)
+        .toInt();
+}
+
+// The smallest number of inputs that can be chosen and includes input `last`.
+QString enoughFor(int last)
+{
+    const QStringList choices = findOption(Key::numberOfInterrupts)->choices;
+    const auto enough = std::find_if(choices.begin(), choices.end(), [last](const QString &choice) {
+        return choice.toInt() > last;
+    });
+    return enough == choices.end() ? QString() : *enough;
+}
+
+} // namespace
+
+bool readOtherInterrupts(const QString &dataPath, QVector<InterruptSource> *sources, QString *error)
+{
+    sources->clear();
+    const QString path = dataPath + "/interrupts.json"_l1;
+    QFile file(path);
+    if (!file.exists())
+        return true;
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = nameOf(path) + ": cannot be read: "_l1 + file.errorString();
+        return false;
+    }
+    const QByteArray bytes = file.readAll();
+    const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+    if (mistake.offset >= 0) {
+        const int line = 1 + bytes.left(mistake.offset).count('\n');
+        *error = nameOf(path) + ": line "_l1 + QString::number(line) + ": "_l1 + mistake.reason;
+        return false;
+    }
+    const QJsonArray list =
+        QJsonDocument::fromJson(bytes).object().value("interrupts"_l1).toArray();
+    for (const QJsonValue &value : list) {
+        const QJsonObject entry = value.toObject();
+        InterruptSource source;
+        source.name = entry.value("name"_l1).toString();
+        source.number = entry.value("number"_l1).toInt(-1);
+        source.count = entry.value("count"_l1).toInt(1);
+        source.option = entry.value("option"_l1).toString();
+        if (const QString wrong = mistakeIn(entry, source); !wrong.isEmpty()) {
+            *error = nameOf(path) + ": "_l1 + wrong;
+            return false;
+        }
+        sources->append(source);
+    }
+    return true;
+}
+
+QVector<InterruptSource> interruptSources(const QVector<Peripheral> &peripherals,
+                                          const QVector<InterruptSource> &others)
+{
+    QVector<InterruptSource> sources = others;
+    for (const Peripheral &peripheral : peripherals) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            bool isNumber = false;
+            const int number = instance.interrupt.toInt(&isNumber);
+            if (isNumber)
+                sources.append({instance.name, number, 1, instance.option});
+        }
+    }
+    std::sort(
+        sources.begin(), sources.end(),
+        [](const InterruptSource &a, const InterruptSource &b) { return a.number < b.number; });
+    return sources;
+}
+
+QVector<InterruptSource> enabledInterrupts(const QVector<InterruptSource> &sources,
+                                           const OptionMap &options)
+{
+    QVector<InterruptSource> enabled;
+    for (const InterruptSource &source : sources) {
+        if (isOn(source, options))
+            enabled.append(source);
+    }
+    return enabled;
+}
+
+QString maskedInterrupt(const InterruptSource &source, const OptionMap &options)
+{
+    const int inputs = numberOfInputs(options);
+    const int last = source.number + source.count - 1;
+    if (last < inputs)
+        return {};
+    QString which = "its interrupt "_l1 + QString::number(source.number) + " is"_l1;
+    if (source.count > 1)
+        which = "its interrupts "_l1 + QString::number(source.number) + " to "_l1 +
+                QString::number(last) + " are"_l1;
+    return which + " masked: \""_l1 + Key::numberOfInterrupts + "\" is "_l1 +
+           QString::number(inputs) + ", and "_l1 + enoughFor(last) + " would be enough"_l1;
+}
+
+QVector<Finding> interruptFindings(const QVector<InterruptSource> &sources,
+                                   const OptionMap &options)
+{
+    QVector<Finding> findings;
+    const QVector<InterruptSource> enabled = enabledInterrupts(sources, options);
+    for (const InterruptSource &source : enabled) {
+        const QString masked = maskedInterrupt(source, options);
+        if (!masked.isEmpty())
+            findings.append(
+                {Finding::Warning, source.option, source.name + " never interrupts: "_l1 + masked});
+    }
+    return findings;
+}
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "config/check.h"
+#include "registermap.h"
+
+namespace TARVOORIXM1
+{
+
+// Interrupt inputs of the processor that something in the subsystem drives.
+struct InterruptSource {
+    QString name;   // "UART0"
+    int number = 0; // of the first input
+    int count = 1;
+    QString option; // key of the bool option that switches it on
+};
+
+// Reads "interrupts.json" of a data folder: the sources without register descriptions. A folder
+// without that file has none. False, and a sentence in `*error` that names file and place, if it
+// cannot be read or contradicts itself.
+bool readOtherInterrupts(const QString &dataPath, QVector<InterruptSource> *sources,
+                         QString *error);
+
+// All sources by number: those of the peripherals and the others. The non-maskable interrupt is
+// none of them.
+QVector<InterruptSource> interruptSources(const QVector<Peripheral> &peripherals,
+                                          const QVector<InterruptSource> &others);
+
+// The sources that a configuration switches on.
+QVector<InterruptSource> enabledInterrupts(const QVector<InterruptSource> &sources,
+                                           const OptionMap &options);
+
+// Why a source never interrupts in a configuration, and how many inputs would be enough, as a part
+// of a sentence ("its interrupt 9 is masked: …"); empty if it does.
+QString maskedInterrupt(const InterruptSource &source, const OptionMap &options);
+
+// A warning for each source that is on and whose interrupt the configuration masks.
+QVector<Finding> interruptFindings(const QVector<InterruptSource> &sources,
+                                   const OptionMap &options);
+
+} // namespace TARVOORIXM1
