@@ -83,6 +83,29 @@ Expected afterWrite(const Register &entry, quint32 pattern)
     return expected;
 }
 
+// A write of one or two bytes, or of all.
+struct Part {
+    int byte;
+    int size; // as HSIZE: 1 << size bytes
+    quint32 mask() const { return quint32((quint64(1) << (8 << size)) - 1) << (8 * byte); }
+};
+
+constexpr Part parts[] = {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {0, 1}, {2, 1}};
+
+// What a register reads after `first` was written to it right after reset, and `second` to a part
+// of it.
+Expected afterPart(const Register &entry, quint32 first, quint32 second, const Part &part)
+{
+    Expected expected = afterWrite(entry, (first & ~part.mask()) | (second & part.mask()));
+    for (const RegisterField &field : entry.fields) {
+        if (field.access != RegisterAccess::WriteOneToClear)
+            continue;
+        expected.value &= ~field.mask();
+        expected.value |= (field.reset << field.low) & ~first & ~(second & part.mask());
+    }
+    return expected;
+}
+
 QVector<quint32> patterns()
 {
     QVector<quint32> list = {0xFFFFFFFFu, 0x55555555u, 0xAAAAAAAAu, 0u, 0x12345678u};
@@ -114,16 +137,29 @@ public:
             "    task write_word(input [31:0] address, input [31:0] value);\n");
         m_text += m_isAhb ? QLatin1String("        ahb_write(address, value);\n")
                           : QLatin1String("        apb_write(address[11:0], value);\n");
+        m_text += QLatin1String("    endtask\n"
+                                "    task write_part(input [31:0] address, input [2:0] size, input "
+                                "[31:0] value);\n");
+        m_text += m_isAhb ? QLatin1String("        ahb_transfer(address, 1'b1, size, value);\n")
+                          : QLatin1String("        apb_write_lanes(address[11:0], value, size[0] ? "
+                                          "4'b0011 << address[1:0] : 4'b0001 << address[1:0]);\n");
         m_text += QLatin1String("    endtask\n    initial begin\n");
         afterReset();
         unlistedOffsets();
-        for (const Register &entry : m_peripheral.registers)
+        for (const Register &entry : m_peripheral.registers) {
             writes(entry);
+            partialWrites(entry);
+        }
         return m_text + QLatin1String("        finish;\n    end\nendmodule\n");
     }
 
 private:
     void line(const QString &text) { m_text += QLatin1String("        ") + text + u'\n'; }
+
+    int addressBits() const
+    {
+        return m_peripheral.module == QLatin1String("ahb_spi_flash") ? 25 : 24;
+    }
 
     // Where a module that decodes more than the registers has them.
     quint32 address(quint32 offset) const
@@ -146,17 +182,40 @@ private:
                 QStringLiteral(
                     "`include \"ahb_master.vh\"\n    %1 dut (.HCLK(clk), .HRESETn(rstn), "
                     ".HSEL(1'b1), "
-                    ".HADDR(haddr), .HTRANS(htrans), .HWRITE(hwrite), .HWDATA(hwdata), "
-                    ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%2);\n")
-                    .arg(m_peripheral.module, more);
+                    ".HADDR(%2), .HTRANS(htrans), %3.HWRITE(hwrite), .HWDATA(hwdata), "
+                    ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%4);\n")
+                    .arg(m_peripheral.module, QStringLiteral("haddr[%1:0]").arg(addressBits() - 1),
+                         m_peripheral.module == QLatin1String("ahb_gpio")
+                             ? QStringLiteral(".HSIZE(hsize), ")
+                             : QString(),
+                         more);
             return;
         }
         m_text +=
             QStringLiteral(
                 "`include \"apb_master.vh\"\n    %1 dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), "
                 ".PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr), .PWDATA(pwdata), "
+                ".PSTRB(pstrb), "
                 ".PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)%2);\n")
                 .arg(m_peripheral.module, more);
+    }
+
+    // The words that are tried: all of the first 4 KB, and beyond them each register's offset with
+    // every one and two of the higher address bits changed.
+    QVector<quint32> words() const
+    {
+        QVector<quint32> result;
+        for (quint32 offset = 0; offset < qMin(m_peripheral.span, 0x1000u); offset += 4)
+            result.append(offset);
+        for (const Register &entry : m_peripheral.registers) {
+            for (quint32 a = 0x1000; a < m_peripheral.span; a <<= 1) {
+                for (quint32 b = a; b < m_peripheral.span; b <<= 1)
+                    result.append(entry.offset | a | b);
+            }
+        }
+        if (m_peripheral.span > 0x1000)
+            result.append(m_peripheral.span - 4);
+        return result;
     }
 
     const Register *at(quint32 offset) const
@@ -176,7 +235,8 @@ private:
     void afterReset()
     {
         line(QStringLiteral("reset;"));
-        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+        const QVector<quint32> all = words();
+        for (const quint32 offset : all) {
             if (const Register *entry = at(offset))
                 expectReset(*entry, entry->name + QLatin1String(" after reset"));
             else
@@ -187,11 +247,12 @@ private:
     void unlistedOffsets()
     {
         line(QStringLiteral("reset;"));
-        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+        const QVector<quint32> all = words();
+        for (const quint32 offset : all) {
             if (!at(offset))
                 line(QStringLiteral("write_word(%1, 32'hFFFFFFFF);").arg(word(address(offset))));
         }
-        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+        for (const quint32 offset : all) {
             if (!at(offset))
                 expect(offset, {}, QStringLiteral("written unlisted offset %1").arg(offset));
         }
@@ -212,6 +273,32 @@ private:
                 if (other.offset != entry.offset && !entry.changes.contains(other.name))
                     expectReset(other,
                                 other.name + QLatin1String(" after a write to ") + entry.name);
+            }
+        }
+    }
+
+    // Bytes and halfwords: nothing changes beside them, and they are read wherever they begin.
+    void partialWrites(const Register &entry)
+    {
+        constexpr quint32 first = 0x3C5A691E;
+        for (const quint32 pattern : {first, ~first}) {
+            for (const Part &part : parts) {
+                const QString what =
+                    QStringLiteral(" after %1 bytes at %2").arg(1 << part.size).arg(part.byte);
+                line(QStringLiteral("reset;"));
+                line(QStringLiteral("write_word(%1, %2);")
+                         .arg(word(address(entry.offset)), word(pattern)));
+                line(QStringLiteral("write_part(%1, 3'd%2, %3);")
+                         .arg(word(address(entry.offset + quint32(part.byte))))
+                         .arg(part.size)
+                         .arg(word(~pattern)));
+                const Expected expected = afterPart(entry, pattern, ~pattern, part);
+                for (quint32 byte = 0; byte < 4; ++byte)
+                    expect(entry.offset + byte, expected, entry.name + what);
+                for (const Register &other : m_peripheral.registers) {
+                    if (other.offset != entry.offset && !entry.changes.contains(other.name))
+                        expectReset(other, other.name + what + QLatin1String(" of ") + entry.name);
+                }
             }
         }
     }
@@ -320,6 +407,8 @@ private Q_SLOTS:
     void interruptsAreTheSubsystems();
     void mistakesAreFound_data();
     void mistakesAreFound();
+    void faultsOfModulesAreFound_data();
+    void faultsOfModulesAreFound();
 
 private:
     QVector<Peripheral> m_peripherals;
@@ -415,6 +504,44 @@ void tst_RegistersInRtl::mistakesAreFound()
     else
         peripheral.registers[0].changes.clear();
     const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
+    QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::faultsOfModulesAreFound_data()
+{
+    QTest::addColumn<QString>("module");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    const auto row = [](const char *name, const char *module, const char *from, const char *to) {
+        QTest::newRow(name) << QString::fromLatin1(module) << QString::fromLatin1(from)
+                            << QString::fromLatin1(to);
+    };
+    row("parts write the whole register", "apb_timer", "PSTRB[n]", "1'b1");
+    row("parts of control registers write them", "apb_timer", "if (PSTRB[0]) ctrl", "ctrl");
+    row("parts are written at their own address only", "apb_timer", "{PADDR[11:2], 2'b00}",
+        "PADDR");
+    row("registers repeat in the whole region", "ahb_gpio", "HADDR[23:6] == 18'd0", "1'b1");
+    row("registers repeat once", "ahb_gpio", "HADDR[23:6] == 18'd0", "HADDR[22:6] == 17'd0");
+    row("registers repeat further up", "ahb_spi_flash", "word[23:4] == 20'd0",
+        "word[12:4] == 9'd0");
+}
+
+// The benches notice modules that do not do what all of them must.
+void tst_RegistersInRtl::faultsOfModulesAreFound()
+{
+    QFETCH(QString, module);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    const auto found = std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                                    [&](const Peripheral &p) { return p.module == module; });
+    QVERIFY(found != m_peripherals.cend());
+    QString text =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(RTL_DIR "/%1.v").arg(module)));
+    QVERIFY(text.contains(from));
+    const QTemporaryDir dir;
+    const QString changed = dir.filePath(QStringLiteral("changed.v"));
+    TestSupport::write(changed, text.replace(from, to).toUtf8());
+    const QString wrong = simulate(Bench(*found).text(), {changed, rtl("spi_engine.v")});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 
