@@ -366,6 +366,84 @@ QString subsystemBench(const QVector<Peripheral> &peripherals)
     return text + QLatin1String("        finish;\n    end\nendmodule\n");
 }
 
+// The rows of the table in the user guide that begins behind `heading`, without its head.
+QVector<QStringList> guideTable(const QString &heading)
+{
+    const QString guide =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(DOCS_DIR "/user-guide.md")));
+    QVector<QStringList> rows;
+    const QStringList lines = guide.mid(guide.indexOf(heading)).split(u'\n');
+    for (const QString &line : lines) {
+        if (!line.startsWith(u'|')) {
+            if (rows.size() > 2)
+                break;
+            continue;
+        }
+        QStringList cells = line.split(u'|').mid(1);
+        cells.removeLast();
+        for (QString &cell : cells)
+            cell = cell.trimmed();
+        rows.append(cells);
+    }
+    return rows.mid(2);
+}
+
+struct Region {
+    quint32 first = 0;
+    quint32 last = 0;
+    QString select; // number of the slave on the AHB
+    int port = 0;   // of the APB extension ports, from 1
+};
+
+QVector<Region> regionsOfGuide()
+{
+    static const QMap<QString, QString> slaves = {
+        {QStringLiteral("external flash"), QStringLiteral("EXTFLASH")},
+        {QStringLiteral("external SRAM"), QStringLiteral("EXTSRAM")},
+        {QStringLiteral("GPIO"), QStringLiteral("GPIO")},
+        {QStringLiteral("CAN"), QStringLiteral("CAN")},
+        {QStringLiteral("Ethernet"), QStringLiteral("ETH")},
+        {QStringLiteral("internal APB"), QStringLiteral("APBINT")},
+        {QStringLiteral("SPI-Flash"), QStringLiteral("SPIFLASH")},
+        {QStringLiteral("PSRAM"), QStringLiteral("PSRAM")},
+        {QStringLiteral("DDR3"), QStringLiteral("DDR3")}};
+    static const QRegularExpression numbered(QStringLiteral("^(AHB|APB) extension port (\\d+)$"));
+    QVector<Region> regions;
+    const QVector<QStringList> rows = guideTable(QStringLiteral("### Memory map"));
+    for (const QStringList &row : rows) {
+        Region region;
+        region.first = row.at(0).toUInt(nullptr, 0);
+        region.last = row.at(1).toUInt(nullptr, 0);
+        const auto match = numbered.match(row.at(2));
+        const QString what = row.at(2).section(u',', 0, 0);
+        if (match.captured(1) == QLatin1String("APB")) {
+            region.port = match.captured(2).toInt();
+            region.select = QStringLiteral("APBEXT");
+        } else {
+            region.select = match.hasMatch() ? QString(QLatin1String("AHB") + match.captured(2))
+                                             : slaves.value(what, QLatin1String("unknown_") + what);
+        }
+        regions.append(region);
+    }
+    return regions;
+}
+
+// Attributes of the ports of the top module: name and note.
+QVector<QPair<QString, QString>> notesOfTop()
+{
+    static const QRegularExpression attribute(QStringLiteral(
+        "\\(\\* note = \"([^\"]*)\" \\*\\)\\s+(?:input|output|inout) +wire +(?:\\[[^\\]]*\\] "
+        "+)?(\\w+)"));
+    const QString top =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(RTL_DIR "/tarvo_orix_m1_top.v")));
+    QVector<QPair<QString, QString>> notes;
+    for (auto it = attribute.globalMatch(top); it.hasNext();) {
+        const auto match = it.next();
+        notes.append({match.captured(2), match.captured(1)});
+    }
+    return notes;
+}
+
 // Compiles and runs; the text that is wrong about it, or nothing.
 QString simulate(const QString &bench, const QStringList &sources)
 {
@@ -407,6 +485,9 @@ private Q_SLOTS:
     void interruptsAreTheSubsystems();
     void mistakesAreFound_data();
     void mistakesAreFound();
+    void theGuidesPortsAreTheNotesOfTheTop();
+    void theGuidesMapIsTheSubsystems();
+    void theGuidesInterruptsAreTheSubsystems();
     void faultsOfModulesAreFound_data();
     void faultsOfModulesAreFound();
 
@@ -438,7 +519,8 @@ void tst_RegistersInRtl::modulesAreAsDescribed()
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
-void tst_RegistersInRtl::instancesStandAtTheirAddresses()
+// Everything that the subsystem has.
+static QStringList subsystemSources()
 {
     QStringList sources = {QStringLiteral("-I" RTL_TESTS_DIR "/defines/everything-5k"),
                            rtl("itcmdbg.v"), rtl("dtcmdbg.v")};
@@ -451,8 +533,140 @@ void tst_RegistersInRtl::instancesStandAtTheirAddresses()
         if (!left.match(file).hasMatch())
             sources.append(QStringLiteral(RTL_DIR "/") + file);
     }
-    const QString wrong = simulate(subsystemBench(m_peripherals), sources);
+    return sources;
+}
+
+void tst_RegistersInRtl::instancesStandAtTheirAddresses()
+{
+    const QString wrong = simulate(subsystemBench(m_peripherals), subsystemSources());
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::theGuidesPortsAreTheNotesOfTheTop()
+{
+    static const QRegularExpression number(QStringLiteral("^(AHB|APB)\\d+"));
+    QStringList expected;
+    const auto notes = notesOfTop();
+    for (const auto &note : notes) {
+        const QString port = QString(note.first).replace(number, QStringLiteral("\\1n"));
+        if (!note.second.contains(QLatin1String(" at 0x")))
+            expected.append(u'`' + port + QLatin1String("` ") + note.second);
+    }
+    expected.removeDuplicates();
+    QStringList told;
+    const QVector<QStringList> rows = guideTable(QStringLiteral("### Ports to take care of"));
+    for (const QStringList &row : rows)
+        told.append(row.join(u' '));
+    QVERIFY(told.size() > 20);
+    QCOMPARE(told, expected);
+    // What a board must know.
+    QVERIFY(
+        told.filter(QStringLiteral("`JTAG_15`")).join(QString()).contains(QLatin1String("pull")));
+    QCOMPARE(told.filter(QStringLiteral("RESET` reset of the port, active low")).size(), 4);
+}
+
+void tst_RegistersInRtl::theGuidesMapIsTheSubsystems()
+{
+    const QVector<Region> regions = regionsOfGuide();
+    QVERIFY(regions.size() > 30);
+    const auto at = [&](quint32 address) {
+        for (const Region &region : regions) {
+            if (address >= region.first && address <= region.last)
+                return region;
+        }
+        return Region();
+    };
+    QString text = QStringLiteral(
+        "`include \"core_model.v\"\n`include \"define.vh\"\nmodule tb;\n`include \"bench.vh\"\n"
+        "`include \"ahb_master.vh\"\n    reg hwRstn = 1'b0;\n    reg [15:0] psel = 16'd0;\n"
+        "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn)");
+    for (int n = 1; n <= 16; ++n)
+        text += QStringLiteral(", .APB%1PREDADY(1'b1), .APB%1PSLVERR(1'b0)").arg(n);
+    text += QLatin1String(
+        ");\n"
+        "    assign hready = dut.u_core.HREADY;\n"
+        "    assign hresp  = dut.u_core.HRESP;\n"
+        "    assign hrdata = dut.u_core.HRDATA;\n"
+        "    always @* begin\n"
+        "        dut.u_core.HADDR = haddr;\n"
+        "        dut.u_core.HTRANS = htrans;\n"
+        "        dut.u_core.HSIZE = hsize;\n"
+        "        dut.u_core.HWRITE = hwrite;\n"
+        "    end\n"
+        "    always @(posedge clk) if (|dut.apbext_psel_s) psel <= dut.apbext_psel_s;\n"
+        "    task select(input [31:0] address, input [15:0] expected);\n"
+        "        begin\n            haddr = address;\n            #1;\n"
+        "            check32(dut.hsel_s, expected, \"selected\");\n        end\n"
+        "    endtask\n"
+        "    initial begin\n        cycles(5);\n        hwRstn = 1'b1;\n"
+        "        cycles(40);\n");
+    for (const Region &region : regions) {
+        for (const quint32 address :
+             {region.first, region.last - 3, region.first - 4, region.last + 1}) {
+            const Region there = at(address);
+            const QString expected = there.select.isEmpty()
+                                         ? QStringLiteral("16'd0")
+                                         : QStringLiteral("16'd1 << `ORIX_S_%1").arg(there.select);
+            text += QStringLiteral("        select(%1, %2);\n").arg(word(address), expected);
+            if (there.port != 0)
+                text += QStringLiteral("        ahb_transfer(%1, 1'b0, 3'd2, 32'd0);\n"
+                                       "        check32(psel, 16'd1 << %2, \"port %3\");\n")
+                            .arg(word(address))
+                            .arg(there.port - 1)
+                            .arg(there.port);
+        }
+    }
+    // The external memories too, which that configuration has inside.
+    const QStringList memories{QStringLiteral("-DCM1_EXTERNAL_FLASH_EN"),
+                               QStringLiteral("-DCM1_EXTERNAL_SRAM_EN")};
+    const QString wrong = simulate(text + QLatin1String("        finish;\n    end\nendmodule\n"),
+                                   memories + subsystemSources());
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+
+    // The notes say the same.
+    static const QRegularExpression range(QStringLiteral(" at (0x\\w+) to (0x\\w+)"));
+    int checked = 0;
+    const auto notes = notesOfTop();
+    for (const auto &note : notes) {
+        const auto match = range.match(note.second);
+        if (!match.hasMatch())
+            continue;
+        ++checked;
+        const Region region = at(match.captured(1).toUInt(nullptr, 0));
+        QCOMPARE(region.first, match.captured(1).toUInt(nullptr, 0));
+        QCOMPARE(region.last, match.captured(2).toUInt(nullptr, 0));
+        const QString owner = region.port != 0 ? QStringLiteral("APB%1P").arg(region.port)
+                                               : QString(region.select + u'H');
+        if (note.first.startsWith(QLatin1String("A")) ||
+            note.first.startsWith(QLatin1String("EXT")))
+            QVERIFY2(QString(note.first)
+                         .remove(QLatin1String("0H"))
+                         .startsWith(QString(owner).remove(QLatin1String("H"))),
+                     qPrintable(note.first));
+    }
+    QVERIFY(checked >= 27);
+}
+
+void tst_RegistersInRtl::theGuidesInterruptsAreTheSubsystems()
+{
+    const QString defines = QString::fromUtf8(TestSupport::contentsOf(rtl("define.vh")));
+    static const QRegularExpression line(QStringLiteral("^`define ORIX_IRQ_(\\w+) +(\\d+)$"),
+                                         QRegularExpression::MultilineOption);
+    QStringList expected;
+    for (auto it = line.globalMatch(defines); it.hasNext();) {
+        const auto match = it.next();
+        expected.append(match.captured(1) == QLatin1String("EXTINT")
+                            ? QStringLiteral("12 to 15 EXTINT, bits 0 to 3")
+                            : QString(match.captured(2) + u' ' + match.captured(1)));
+        if (match.captured(1) == QLatin1String("EXTINT"))
+            QCOMPARE(match.captured(2), QStringLiteral("12"));
+    }
+    expected.append(QStringLiteral("NMI WDOG"));
+    QStringList told;
+    const QVector<QStringList> rows = guideTable(QStringLiteral("| interrupt | source |"));
+    for (const QStringList &row : rows)
+        told.append(row.join(u' '));
+    QCOMPARE(told, expected);
 }
 
 void tst_RegistersInRtl::interruptsAreTheSubsystems()
