@@ -1,5 +1,7 @@
 // A board for the simulation model of sensor-node.ipc: UART0 and UART1 are connected to each other, the upper eight GPIO
 // pins show the lower ones, MISO hears MOSI. The processor's model plays a script of bus transfers.
+`timescale 1ns / 1ps
+
 module sensor_node_tb;
     reg clk = 1'b0;
     always #10 clk = ~clk;

@@ -3,7 +3,7 @@
 // the lowest address arrives in bits 7 to 0.  The bus waits meanwhile.  A write in the window, and a read while
 // SELECT is 1, get the error response.  The serial clock idles low (mode 0).
 // Registers: registers/spi_flash.json.
-// Registers are accessed as words and repeat in the upper 16 MB.
+// They stand at the start of the upper 16 MB and have their bits in the lowest byte; what lies behind them reads as 0.
 module ahb_spi_flash (
     input  wire        HCLK,
     input  wire        HRESETn,
@@ -36,6 +36,7 @@ module ahb_spi_flash (
     reg [2:0]  state;
     reg        write;
     reg [23:2] word;
+    reg        lowest;        // a write that reaches the lowest byte
     reg [2:0]  index;         // byte of the read sequence: command, 3 of address, 4 of data
     reg [31:0] data;
     reg        select;
@@ -50,7 +51,8 @@ module ahb_spi_flash (
     wire       done;
 
     wire accept  = HSEL & HREADY & HTRANS[1];
-    wire store   = (state == REGS) & write;
+    wire listed  = word[23:4] == 20'd0;
+    wire store   = (state == REGS) & write & lowest & listed;
     wire held    = (store & (word[3:2] == 2'd1)) ? HWDATA[0] : select;   // a write of SELECT counts at once
     wire refused = ~HADDR[24] & (HWRITE | held);
     wire sends   = store & (word[3:2] == 2'd0);
@@ -71,6 +73,7 @@ module ahb_spi_flash (
             state       <= IDLE;
             write       <= 1'b0;
             word        <= 22'd0;
+            lowest      <= 1'b0;
             index       <= 3'd0;
             data        <= 32'd0;
             select      <= 1'b0;
@@ -127,6 +130,7 @@ module ahb_spi_flash (
                         if (accept) begin
                             write       <= HWRITE;
                             word        <= HADDR[23:2];
+                            lowest      <= HADDR[1:0] == 2'd0;
                             index       <= 3'd0;
                             from_window <= ~HADDR[24];
                             state       <= refused ? ERROR1 : HADDR[24] ? REGS : WINDOW;
@@ -152,7 +156,7 @@ module ahb_spi_flash (
             2'd3: r = {7'd0, protect};
         endcase
 
-    assign HRDATA      = from_window ? data : {24'd0, r};
+    assign HRDATA      = from_window ? data : {24'd0, r & {8{listed}}};
     assign HREADYOUT   = (state == IDLE) | ((state == REGS) & ~sends) | (state == READY) | (state == ERROR2);
     assign HRESP       = (state == ERROR1) | (state == ERROR2);
     assign flash_wpn   = ~protect;

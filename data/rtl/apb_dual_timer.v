@@ -9,6 +9,7 @@ module apb_dual_timer (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output wire [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -30,6 +31,8 @@ module apb_dual_timer (
             reg [31:0] value, reload;
             wire count = en & (part == 8'd0);
             wire wrap  = count & (value == 32'd0);
+            wire [7:0] written = PSTRB[1] ? PWDATA[15:8] : prescale;   // PRESCALE after a write to CTRL
+            integer k;
             always @(posedge PCLK or negedge PRESETn)
                 if (!PRESETn) begin
                     en       <= 1'b0;
@@ -53,15 +56,14 @@ module apb_dual_timer (
                     if (store)
                         case (PADDR[3:2])
                             2'd0: begin
-                                en       <= PWDATA[0];
-                                ie       <= PWDATA[1];
-                                oneshot  <= PWDATA[2];
-                                prescale <= PWDATA[15:8];
-                                part     <= PWDATA[15:8];
+                                if (PSTRB[0])
+                                    {oneshot, ie, en} <= PWDATA[2:0];
+                                prescale <= written;
+                                part     <= written;
                             end
-                            2'd1: value  <= PWDATA;
-                            2'd2: reload <= PWDATA;
-                            2'd3: if (PWDATA[0]) pend <= 1'b0;
+                            2'd1: for (k = 0; k < 4; k = k + 1) if (PSTRB[k]) value[8*k +: 8] <= PWDATA[8*k +: 8];
+                            2'd2: for (k = 0; k < 4; k = k + 1) if (PSTRB[k]) reload[8*k +: 8] <= PWDATA[8*k +: 8];
+                            2'd3: if (PSTRB[0] & PWDATA[0]) pend <= 1'b0;
                         endcase
                     if (wrap)
                         pend <= 1'b1;

@@ -9,6 +9,7 @@ module apb_i2c (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -27,6 +28,7 @@ module apb_i2c (
     localparam [2:0] STOP  = 3'd3;
 
     wire store = PSEL & PENABLE & PWRITE;
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
 
     reg [1:0] scl_sync, sda_sync;
     always @(posedge PCLK or negedge PRESETn)
@@ -61,8 +63,9 @@ module apb_i2c (
     // A released clock line that is still low is being stretched: the quarter does not run.
     wire stretched = ~scl_low & ~scl;
     wire tick      = (state != IDLE) & (count == 16'd0) & ~stretched;
-    wire command   = store & (PADDR == 12'h010) & (state == IDLE) & ctrl[0];
+    wire command   = store & (offset == 12'h010) & PSTRB[0] & (state == IDLE) & ctrl[0];
 
+    integer n;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             prescale  <= 16'd99;
@@ -86,11 +89,11 @@ module apb_i2c (
             sda_low   <= 1'b0;
         end else begin
             if (store)
-                case (PADDR)
-                    12'h000: prescale <= PWDATA[15:0];
-                    12'h004: ctrl     <= PWDATA[1:0];
-                    12'h008: txdata   <= PWDATA[7:0];
-                    12'h014: begin
+                case (offset)
+                    12'h000: for (n = 0; n < 2; n = n + 1) if (PSTRB[n]) prescale[8*n +: 8] <= PWDATA[8*n +: 8];
+                    12'h004: if (PSTRB[0]) ctrl <= PWDATA[1:0];
+                    12'h008: if (PSTRB[0]) txdata <= PWDATA[7:0];
+                    12'h014: if (PSTRB[0]) begin
                         complete <= complete & ~PWDATA[3];
                         arblost  <= arblost & ~PWDATA[4];
                     end
@@ -171,7 +174,7 @@ module apb_i2c (
         end
 
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = {16'd0, prescale};
             12'h004: PRDATA = {30'd0, ctrl};
             12'h008: PRDATA = {24'd0, txdata};

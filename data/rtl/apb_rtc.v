@@ -8,6 +8,7 @@ module apb_rtc (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -16,6 +17,7 @@ module apb_rtc (
     output wire        irq
 );
     wire store = PSEL & PENABLE & PWRITE;
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
 
     reg [2:0] src;
     always @(posedge PCLK or negedge PRESETn)
@@ -33,6 +35,7 @@ module apb_rtc (
     wire tick   = ctrl[0] & src[1] & ~src[2];
     wire second = tick & (part >= prescale);
     wire [31:0] next = seconds + 32'd1;
+    integer n;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             seconds  <= 32'd0;
@@ -47,15 +50,15 @@ module apb_rtc (
             if (second)
                 seconds <= next;
             if (store)
-                case (PADDR)
+                case (offset)
                     12'h000: begin
-                        seconds <= PWDATA;
-                        part    <= 24'd0;
+                        for (n = 0; n < 4; n = n + 1) if (PSTRB[n]) seconds[8*n +: 8] <= PWDATA[8*n +: 8];
+                        part <= 24'd0;
                     end
-                    12'h004: alarm    <= PWDATA;
-                    12'h008: ctrl     <= PWDATA[2:0];
-                    12'h00C: pend     <= pend & ~PWDATA[1:0];
-                    12'h010: prescale <= PWDATA[23:0];
+                    12'h004: for (n = 0; n < 4; n = n + 1) if (PSTRB[n]) alarm[8*n +: 8] <= PWDATA[8*n +: 8];
+                    12'h008: if (PSTRB[0]) ctrl <= PWDATA[2:0];
+                    12'h00C: if (PSTRB[0]) pend <= pend & ~PWDATA[1:0];
+                    12'h010: for (n = 0; n < 3; n = n + 1) if (PSTRB[n]) prescale[8*n +: 8] <= PWDATA[8*n +: 8];
                     default: ;
                 endcase
             if (second) begin
@@ -66,7 +69,7 @@ module apb_rtc (
         end
 
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = seconds;
             12'h004: PRDATA = alarm;
             12'h008: PRDATA = {29'd0, ctrl};

@@ -11,6 +11,7 @@ module apb_sdcard (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -25,7 +26,8 @@ module apb_sdcard (
     output wire        sd_checkout,
     output wire        irq
 );
-    wire store = PSEL & PENABLE & PWRITE;
+    wire store = PSEL & PENABLE & PWRITE & PSTRB[0];   // every register has its bits in the lowest byte
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
 
     reg [2:0] src;
     reg [1:0] det;
@@ -61,7 +63,7 @@ module apb_sdcard (
     wire       busy;
     wire       done;
     wire [7:0] rx_data;
-    wire       write_data = store & (PADDR == 12'h000);
+    wire       write_data = store & (offset == 12'h000);
     wire       start      = write_data & ~busy;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
@@ -70,12 +72,12 @@ module apb_sdcard (
             lost     <= 1'b0;
             changed  <= 1'b0;
         end else begin
-            if (store & (PADDR == 12'h004)) begin
+            if (store & (offset == 12'h004)) begin
                 complete <= complete & ~PWDATA[1];
                 lost     <= lost & ~PWDATA[2];
                 changed  <= changed & ~PWDATA[4];
             end
-            if (store & (PADDR == 12'h008))
+            if (store & (offset == 12'h008))
                 ctrl <= PWDATA[3:0];
             if (write_data & busy)
                 lost <= 1'b1;
@@ -98,7 +100,7 @@ module apb_sdcard (
     );
 
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = {24'd0, rx_data};
             12'h004: PRDATA = {27'd0, changed, card, lost, complete, busy};
             12'h008: PRDATA = {28'd0, ctrl};

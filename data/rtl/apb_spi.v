@@ -8,6 +8,7 @@ module apb_spi (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -19,6 +20,7 @@ module apb_spi (
     output wire        irq
 );
     wire store = PSEL & PENABLE & PWRITE;
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
 
     reg [3:0]  ctrl;
     reg [15:0] div;
@@ -29,9 +31,10 @@ module apb_spi (
     wire       busy;
     wire       done;
     wire [7:0] rx_data;
-    wire       write_data = store & (PADDR == 12'h000);
+    wire       write_data = store & (offset == 12'h000) & PSTRB[0];
     wire       start      = write_data & ~busy;
     wire       tick       = count == 16'd0;
+    integer    n;
 
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
@@ -44,14 +47,14 @@ module apb_spi (
         end else begin
             count <= (start | tick) ? div : count - 16'd1;
             if (store)
-                case (PADDR)
-                    12'h004: begin
+                case (offset)
+                    12'h004: if (PSTRB[0]) begin
                         complete <= complete & ~PWDATA[1];
                         lost     <= lost & ~PWDATA[2];
                     end
-                    12'h008: ctrl   <= PWDATA[3:0];
-                    12'h00C: div    <= PWDATA[15:0];
-                    12'h010: select <= PWDATA[0];
+                    12'h008: if (PSTRB[0]) ctrl <= PWDATA[3:0];
+                    12'h00C: for (n = 0; n < 2; n = n + 1) if (PSTRB[n]) div[8*n +: 8] <= PWDATA[8*n +: 8];
+                    12'h010: if (PSTRB[0]) select <= PWDATA[0];
                     default: ;
                 endcase
             if (write_data & busy)
@@ -70,7 +73,7 @@ module apb_spi (
     );
 
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = {24'd0, rx_data};
             12'h004: PRDATA = {29'd0, lost, complete, busy};
             12'h008: PRDATA = {28'd0, ctrl};

@@ -9,6 +9,7 @@ module apb_timer (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -17,6 +18,7 @@ module apb_timer (
     output wire        irq
 );
     wire store = PSEL & PENABLE & PWRITE;
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
 
     reg [2:0] ext;
     always @(posedge PCLK or negedge PRESETn)
@@ -33,6 +35,7 @@ module apb_timer (
     reg        pend;
     wire count = ctrl[0] & (ctrl[3] ? ext_rise : (~ctrl[2] | ext_level));
     wire wrap  = count & (value == 24'd0);
+    integer n;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             ctrl   <= 4'd0;
@@ -43,11 +46,11 @@ module apb_timer (
             if (count)
                 value <= wrap ? reload : value - 24'd1;
             if (store)
-                case (PADDR)
-                    12'h000: ctrl   <= PWDATA[3:0];
-                    12'h004: value  <= PWDATA[23:0];
-                    12'h008: reload <= PWDATA[23:0];
-                    12'h00C: if (PWDATA[0]) pend <= 1'b0;
+                case (offset)
+                    12'h000: if (PSTRB[0]) ctrl <= PWDATA[3:0];
+                    12'h004: for (n = 0; n < 3; n = n + 1) if (PSTRB[n]) value[8*n +: 8] <= PWDATA[8*n +: 8];
+                    12'h008: for (n = 0; n < 3; n = n + 1) if (PSTRB[n]) reload[8*n +: 8] <= PWDATA[8*n +: 8];
+                    12'h00C: if (PSTRB[0] & PWDATA[0]) pend <= 1'b0;
                     default: ;
                 endcase
             if (wrap)
@@ -55,7 +58,7 @@ module apb_timer (
         end
 
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = {28'd0, ctrl};
             12'h004: PRDATA = {8'd0, value};
             12'h008: PRDATA = {8'd0, reload};

@@ -8,6 +8,7 @@ module apb_uart (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -18,22 +19,34 @@ module apb_uart (
 );
     wire store = PSEL & PENABLE & PWRITE;
     wire fetch = PSEL & PENABLE & ~PWRITE;
-    wire at_data   = PADDR == 12'h000;
-    wire at_status = PADDR == 12'h004;
-    wire at_ctrl   = PADDR == 12'h008;
-    wire at_baud   = PADDR == 12'h00C;
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
+    wire at_data   = offset == 12'h000;
+    wire at_status = offset == 12'h004;
+    wire at_ctrl   = offset == 12'h008;
+    wire at_baud   = offset == 12'h00C;
+    // A byte is sent and taken only by an access that reaches the lowest byte of DATA.
+    wire push      = store & at_data & PSTRB[0];
+    wire pop       = fetch & at_data & (PADDR[1:0] == 2'd0);
 
     reg [4:0]  ctrl;
-    reg [19:0] bauddiv;
+    reg [19:0] divider;      // as written
+    wire        too_small = divider[19:4] == 16'd0;
+    wire [19:0] bauddiv   = {divider[19:5], divider[4] | too_small, divider[3:0] & {4{~too_small}}};
+    integer n;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             ctrl    <= 5'd0;
-            bauddiv <= 20'd16;
+            divider <= 20'd16;
         end else if (store) begin
-            if (at_ctrl)
+            if (at_ctrl & PSTRB[0])
                 ctrl <= PWDATA[4:0];
-            if (at_baud)
-                bauddiv <= (PWDATA[19:0] < 20'd16) ? 20'd16 : PWDATA[19:0];
+            if (at_baud) begin
+                for (n = 0; n < 2; n = n + 1)
+                    if (PSTRB[n])
+                        divider[8*n +: 8] <= PWDATA[8*n +: 8];
+                if (PSTRB[2])
+                    divider[19:16] <= PWDATA[19:16];
+            end
         end
 
     // Transmitter: start bit, 8 data bits, stop bit.
@@ -54,7 +67,7 @@ module apb_uart (
             tx_count  <= 20'd0;
             txd       <= 1'b1;
         end else begin
-            if (store & at_data & ~tx_full) begin
+            if (push & ~tx_full) begin
                 tx_full   <= 1'b1;
                 tx_buffer <= PWDATA[7:0];
             end
@@ -87,7 +100,7 @@ module apb_uart (
     wire rx        = rx_sync[1];
     wire rx_sample = rx_active & (rx_count == 20'd0);
     wire rx_done   = rx_sample & (rx_bits == 4'd0);
-    wire clear     = store & at_status;
+    wire clear     = store & at_status & PSTRB[0];
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             rx_sync   <= 3'b111;
@@ -107,9 +120,9 @@ module apb_uart (
                 rx_frame <= rx_frame & ~PWDATA[4];
                 tx_over  <= tx_over & ~PWDATA[5];
             end
-            if (store & at_data & tx_full)
+            if (push & tx_full)
                 tx_over <= 1'b1;
-            if (fetch & at_data)
+            if (pop)
                 rx_full <= 1'b0;
             if (!ctrl[1])
                 rx_active <= 1'b0;
@@ -130,7 +143,7 @@ module apb_uart (
                     rx_active <= 1'b0;
                     if (!rx)
                         rx_frame <= 1'b1;
-                    else if (rx_full & ~(fetch & at_data))
+                    else if (rx_full & ~pop)
                         rx_over <= 1'b1;        // the new byte is lost
                     else begin
                         rx_full   <= 1'b1;
@@ -143,7 +156,7 @@ module apb_uart (
 
     wire [5:0] status = {tx_over, rx_frame, rx_over, tx_full | ~tx_idle, rx_full, tx_full};
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = {24'd0, rx_buffer};
             12'h004: PRDATA = {26'd0, status};
             12'h008: PRDATA = {27'd0, ctrl};

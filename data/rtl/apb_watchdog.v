@@ -9,6 +9,7 @@ module apb_watchdog (
     input  wire        PWRITE,
     input  wire [11:0] PADDR,
     input  wire [31:0] PWDATA,
+    input  wire [3:0]  PSTRB,
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
@@ -20,13 +21,18 @@ module apb_watchdog (
     localparam [31:0] UNLOCK_KEY = 32'h554E4C4B;
 
     wire store = PSEL & PENABLE & PWRITE;
+    wire [11:0] offset = {PADDR[11:2], 2'b00};
+    // The keys are whole words: a write that reaches fewer bytes is another value.
+    wire [31:0] mask   = {{8{PSTRB[3]}}, {8{PSTRB[2]}}, {8{PSTRB[1]}}, {8{PSTRB[0]}}};
+    wire [31:0] key    = PWDATA & mask;
 
     reg [31:0] load;
     reg [31:0] count;
     reg [1:0]  ctrl;
     reg        locked;
     reg        pend;
-    wire kick   = store & (PADDR == 12'h00C) & (PWDATA == KICK_KEY);
+    wire kick   = store & (offset == 12'h00C) & (key == KICK_KEY);
+    wire [31:0] period = (load & ~mask) | key;   // LOAD after a write to it
     wire expire = ctrl[0] & (count == 32'd0);
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
@@ -46,18 +52,18 @@ module apb_watchdog (
                 count <= load;
                 pend  <= 1'b0;
             end
-            if (store & ~locked & (PADDR == 12'h000)) begin
-                load  <= PWDATA;
-                count <= PWDATA;
+            if (store & ~locked & (offset == 12'h000)) begin
+                load  <= period;
+                count <= period;
             end
-            if (store & ~locked & (PADDR == 12'h008))
+            if (store & ~locked & (offset == 12'h008) & PSTRB[0])
                 ctrl <= PWDATA[1:0];
-            if (store & (PADDR == 12'h014))
-                locked <= PWDATA != UNLOCK_KEY;
+            if (store & (offset == 12'h014))
+                locked <= key != UNLOCK_KEY;
         end
 
     always @*
-        case (PADDR)
+        case (offset)
             12'h000: PRDATA = load;
             12'h004: PRDATA = count;
             12'h008: PRDATA = {30'd0, ctrl};

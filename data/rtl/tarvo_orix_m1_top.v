@@ -11,45 +11,68 @@
 //
 // Debug connector, 20 pins, by pin number: 3 nTRST, 5 TDI, 7 TMS / SWDIO, 9 TCK / SWCLK, 13 TDO, 15 nSRST; 4, 6, 8, 10,
 // 12, 14, 16 and 18 are ground returns, driven low, as is the unused return clock 11; 17 is not connected.
+//
+// The attribute "note" of a port is what its user must know beside the name; it comes out in the instantiation template.
 `include "cm1_option_defs.v"
 `include "ahb_option_defs.v"
 `include "DDR3_define.v"
 `include "define.vh"
 `include "static_macro_define.vh"
 
+(* note = "Memories of the processor: ITCM at 0x00000000 (lower alias) and 0x10000000 (upper alias), where switched on;\nDTCM at 0x20000000. An address at which nothing stands gives an error response." *)
 module Tarvo_ORIX_M1_Top (
     // processor
       input  wire         HCLK
-    , input  wire         hwRstn
+    , (* note = "asynchronous reset, active low" *)
+      input  wire         hwRstn
     , output wire         LOCKUP
 `ifdef CM1_JTAG
     , output wire         HALTED
-    , inout  wire         JTAG_7
-    , inout  wire         JTAG_9
+    , (* note = "TMS or SWDIO" *)
+      inout  wire         JTAG_7
+    , (* note = "TCK or SWCLK" *)
+      inout  wire         JTAG_9
 `ifdef DEBUG_PORT_JTAG
-    , inout  wire         JTAG_3
-    , inout  wire         JTAG_4
-    , inout  wire         JTAG_5
-    , inout  wire         JTAG_6
-    , inout  wire         JTAG_8
-    , inout  wire         JTAG_10
-    , inout  wire         JTAG_11
-    , inout  wire         JTAG_12
-    , inout  wire         JTAG_13
-    , inout  wire         JTAG_14
-    , inout  wire         JTAG_15
-    , inout  wire         JTAG_16
-    , inout  wire         JTAG_17
-    , inout  wire         JTAG_18
+    , (* note = "nTRST, active low: pull it up" *)
+      inout  wire         JTAG_3
+    , (* note = "driven low" *)
+      inout  wire         JTAG_4
+    , (* note = "TDI" *)
+      inout  wire         JTAG_5
+    , (* note = "driven low" *)
+      inout  wire         JTAG_6
+    , (* note = "driven low" *)
+      inout  wire         JTAG_8
+    , (* note = "driven low" *)
+      inout  wire         JTAG_10
+    , (* note = "driven low" *)
+      inout  wire         JTAG_11
+    , (* note = "driven low" *)
+      inout  wire         JTAG_12
+    , (* note = "TDO" *)
+      inout  wire         JTAG_13
+    , (* note = "driven low" *)
+      inout  wire         JTAG_14
+    , (* note = "nSRST, active low: pull it up; left open, it can hold the subsystem in reset for ever" *)
+      inout  wire         JTAG_15
+    , (* note = "driven low" *)
+      inout  wire         JTAG_16
+    , (* note = "not connected" *)
+      inout  wire         JTAG_17
+    , (* note = "driven low" *)
+      inout  wire         JTAG_18
 `endif
 `endif
 `ifdef TARVO_EXTINT_SUPPORT
-    , input  wire [3:0]   EXTINT
+    , (* note = "interrupts 12 (bit 0) to 15 (bit 3), requested while high, synchronised to HCLK" *)
+      input  wire [3:0]   EXTINT
 `endif
 `ifdef CM1_EXTERNAL_FLASH_EN
-    , input  wire [31:0]  EXTFLASH0HRDATA
+    , (* note = "AHB-Lite port at 0x00000000 to 0x1FFFFFFF, behind the ITCM" *)
+      input  wire [31:0]  EXTFLASH0HRDATA
     , input  wire         EXTFLASH0HREADYOUT
-    , input  wire [1:0]   EXTFLASH0HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   EXTFLASH0HRESP
     , output wire [1:0]   EXTFLASH0HTRANS
     , output wire [2:0]   EXTFLASH0HBURST
     , output wire [3:0]   EXTFLASH0HPROT
@@ -62,12 +85,15 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  EXTFLASH0HWDATA
     , output wire         EXTFLASH0HSEL
     , output wire         EXTFLASH0HCLK
-    , output wire         EXTFLASH0HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         EXTFLASH0HRESET
 `endif
 `ifdef CM1_EXTERNAL_SRAM_EN
-    , input  wire [31:0]  EXTSRAM0HRDATA
+    , (* note = "AHB-Lite port at 0x20000000 to 0x3FFFFFFF, behind the DTCM" *)
+      input  wire [31:0]  EXTSRAM0HRDATA
     , input  wire         EXTSRAM0HREADYOUT
-    , input  wire [1:0]   EXTSRAM0HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   EXTSRAM0HRESP
     , output wire [1:0]   EXTSRAM0HTRANS
     , output wire [2:0]   EXTSRAM0HBURST
     , output wire [3:0]   EXTSRAM0HPROT
@@ -80,7 +106,8 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  EXTSRAM0HWDATA
     , output wire         EXTSRAM0HSEL
     , output wire         EXTSRAM0HCLK
-    , output wire         EXTSRAM0HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         EXTSRAM0HRESET
 `endif
     // AHB peripherals
 `ifdef TARVO_GPIO_SUPPORT
@@ -93,12 +120,15 @@ module Tarvo_ORIX_M1_Top (
 `endif
 `endif
 `ifdef TARVO_CAN_SUPPORT
-    , input  wire         CAN_RX
+    , (* note = "controller at 0x41000000 to 0x41FFFFFF, interrupt 9" *)
+      input  wire         CAN_RX
     , output wire         CAN_TX
 `endif
 `ifdef TARVO_INTERNET_SUPPORT
-    , output wire         MDC
-    , inout  wire         MDIO
+    , (* note = "MAC at 0x42000000 to 0x42FFFFFF, interrupt 10" *)
+      output wire         MDC
+    , (* note = "pull it up" *)
+      inout  wire         MDIO
 `ifdef RGMII_IF
     , output wire         RGMII_TXC
     , output wire         RGMII_TX_CTL
@@ -133,7 +163,8 @@ module Tarvo_ORIX_M1_Top (
 `endif
 `endif
 `ifdef TARVO_SPI_FLASH_SUPPORT
-    , inout  wire         FLASH_SPI_HOLDN
+    , (* note = "read window at 0x68000000 to 0x68FFFFFF, registers behind it" *)
+      inout  wire         FLASH_SPI_HOLDN
     , inout  wire         FLASH_SPI_CSN
     , inout  wire         FLASH_SPI_MISO
     , inout  wire         FLASH_SPI_MOSI
@@ -141,7 +172,8 @@ module Tarvo_ORIX_M1_Top (
     , inout  wire         FLASH_SPI_CLK
 `endif
 `ifdef TARVO_PSRAM_SUPPORT
-    , output wire [1:0]   O_psram_ck
+    , (* note = "memory at 0x70000000 to 0x7FFFFFFF" *)
+      output wire [1:0]   O_psram_ck
     , output wire [1:0]   O_psram_ck_n
     , inout  wire [1:0]   IO_psram_rwds
     , inout  wire [15:0]  IO_psram_dq
@@ -157,7 +189,8 @@ module Tarvo_ORIX_M1_Top (
     , output wire         DDR_STOP_O
 `endif
 `endif
-    , input  wire         DDR_CLK_I
+    , (* note = "memory at 0xA0000000 to 0xBFFFFFFF" *)
+      input  wire         DDR_CLK_I
     , input  wire         DDR_MEM_CLK_I
     , input  wire         DDR_LOCK_I
     , input  wire         DDR_RSTN_I
@@ -180,9 +213,11 @@ module Tarvo_ORIX_M1_Top (
 `endif
     // AHB extension ports
 `ifdef TARVO_AHB1_SUPPORT
-    , input  wire [31:0]  AHB1HRDATA
+    , (* note = "AHB-Lite port at 0x80000000 to 0x80FFFFFF" *)
+      input  wire [31:0]  AHB1HRDATA
     , input  wire         AHB1HREADYOUT
-    , input  wire [1:0]   AHB1HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   AHB1HRESP
     , output wire [1:0]   AHB1HTRANS
     , output wire [2:0]   AHB1HBURST
     , output wire [3:0]   AHB1HPROT
@@ -195,12 +230,15 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  AHB1HWDATA
     , output wire         AHB1HSEL
     , output wire         AHB1HCLK
-    , output wire         AHB1HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         AHB1HRESET
 `endif
 `ifdef TARVO_AHB2_SUPPORT
-    , input  wire [31:0]  AHB2HRDATA
+    , (* note = "AHB-Lite port at 0x81000000 to 0x81FFFFFF" *)
+      input  wire [31:0]  AHB2HRDATA
     , input  wire         AHB2HREADYOUT
-    , input  wire [1:0]   AHB2HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   AHB2HRESP
     , output wire [1:0]   AHB2HTRANS
     , output wire [2:0]   AHB2HBURST
     , output wire [3:0]   AHB2HPROT
@@ -213,12 +251,15 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  AHB2HWDATA
     , output wire         AHB2HSEL
     , output wire         AHB2HCLK
-    , output wire         AHB2HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         AHB2HRESET
 `endif
 `ifdef TARVO_AHB3_SUPPORT
-    , input  wire [31:0]  AHB3HRDATA
+    , (* note = "AHB-Lite port at 0x86000000 to 0x86FFFFFF" *)
+      input  wire [31:0]  AHB3HRDATA
     , input  wire         AHB3HREADYOUT
-    , input  wire [1:0]   AHB3HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   AHB3HRESP
     , output wire [1:0]   AHB3HTRANS
     , output wire [2:0]   AHB3HBURST
     , output wire [3:0]   AHB3HPROT
@@ -231,12 +272,15 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  AHB3HWDATA
     , output wire         AHB3HSEL
     , output wire         AHB3HCLK
-    , output wire         AHB3HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         AHB3HRESET
 `endif
 `ifdef TARVO_AHB4_SUPPORT
-    , input  wire [31:0]  AHB4HRDATA
+    , (* note = "AHB-Lite port at 0x89000000 to 0x89FFFFFF" *)
+      input  wire [31:0]  AHB4HRDATA
     , input  wire         AHB4HREADYOUT
-    , input  wire [1:0]   AHB4HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   AHB4HRESP
     , output wire [1:0]   AHB4HTRANS
     , output wire [2:0]   AHB4HBURST
     , output wire [3:0]   AHB4HPROT
@@ -249,12 +293,15 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  AHB4HWDATA
     , output wire         AHB4HSEL
     , output wire         AHB4HCLK
-    , output wire         AHB4HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         AHB4HRESET
 `endif
 `ifdef TARVO_AHB5_SUPPORT
-    , input  wire [31:0]  AHB5HRDATA
+    , (* note = "AHB-Lite port at 0x8A000000 to 0x8AFFFFFF" *)
+      input  wire [31:0]  AHB5HRDATA
     , input  wire         AHB5HREADYOUT
-    , input  wire [1:0]   AHB5HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   AHB5HRESP
     , output wire [1:0]   AHB5HTRANS
     , output wire [2:0]   AHB5HBURST
     , output wire [3:0]   AHB5HPROT
@@ -267,12 +314,15 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  AHB5HWDATA
     , output wire         AHB5HSEL
     , output wire         AHB5HCLK
-    , output wire         AHB5HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         AHB5HRESET
 `endif
 `ifdef TARVO_AHB6_SUPPORT
-    , input  wire [31:0]  AHB6HRDATA
+    , (* note = "AHB-Lite port at 0x8B000000 to 0x8BFFFFFF" *)
+      input  wire [31:0]  AHB6HRDATA
     , input  wire         AHB6HREADYOUT
-    , input  wire [1:0]   AHB6HRESP
+    , (* note = "any value but 0 is an error" *)
+      input  wire [1:0]   AHB6HRESP
     , output wire [1:0]   AHB6HTRANS
     , output wire [2:0]   AHB6HBURST
     , output wire [3:0]   AHB6HPROT
@@ -285,7 +335,8 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  AHB6HWDATA
     , output wire         AHB6HSEL
     , output wire         AHB6HCLK
-    , output wire         AHB6HRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         AHB6HRESET
 `endif
     // APB peripherals
 `ifdef TARVO_UART0_SUPPORT
@@ -307,8 +358,10 @@ module Tarvo_ORIX_M1_Top (
 `endif
 `ifdef TARVO_I2C_SUPPORT
 `ifdef I2C_IOBUF_EN
-    , inout  wire         SCL
-    , inout  wire         SDA
+    , (* note = "open drain: pull it up" *)
+      inout  wire         SCL
+    , (* note = "open drain: pull it up" *)
+      inout  wire         SDA
 `else
     , input  wire         SCLIN
     , output wire         SCLOUT
@@ -336,7 +389,8 @@ module Tarvo_ORIX_M1_Top (
 `endif
     // APB extension ports
 `ifdef TARVO_APB1_SUPPORT
-    , output wire [31:0]  APB1PADDR
+    , (* note = "APB port at 0x60000000 to 0x600FFFFF" *)
+      output wire [31:0]  APB1PADDR
     , output wire         APB1PENABLE
     , output wire         APB1PWRITE
     , output wire [3:0]   APB1PSTRB
@@ -344,13 +398,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB1PWDATA
     , output wire         APB1PSEL
     , input  wire [31:0]  APB1PRDATA
-    , input  wire         APB1PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB1PREDADY
     , input  wire         APB1PSLVERR
     , output wire         APB1PCLK
-    , output wire         APB1PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB1PRESET
 `endif
 `ifdef TARVO_APB2_SUPPORT
-    , output wire [31:0]  APB2PADDR
+    , (* note = "APB port at 0x60100000 to 0x601FFFFF" *)
+      output wire [31:0]  APB2PADDR
     , output wire         APB2PENABLE
     , output wire         APB2PWRITE
     , output wire [3:0]   APB2PSTRB
@@ -358,13 +415,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB2PWDATA
     , output wire         APB2PSEL
     , input  wire [31:0]  APB2PRDATA
-    , input  wire         APB2PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB2PREDADY
     , input  wire         APB2PSLVERR
     , output wire         APB2PCLK
-    , output wire         APB2PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB2PRESET
 `endif
 `ifdef TARVO_APB3_SUPPORT
-    , output wire [31:0]  APB3PADDR
+    , (* note = "APB port at 0x60200000 to 0x602FFFFF" *)
+      output wire [31:0]  APB3PADDR
     , output wire         APB3PENABLE
     , output wire         APB3PWRITE
     , output wire [3:0]   APB3PSTRB
@@ -372,13 +432,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB3PWDATA
     , output wire         APB3PSEL
     , input  wire [31:0]  APB3PRDATA
-    , input  wire         APB3PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB3PREDADY
     , input  wire         APB3PSLVERR
     , output wire         APB3PCLK
-    , output wire         APB3PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB3PRESET
 `endif
 `ifdef TARVO_APB4_SUPPORT
-    , output wire [31:0]  APB4PADDR
+    , (* note = "APB port at 0x60300000 to 0x603FFFFF" *)
+      output wire [31:0]  APB4PADDR
     , output wire         APB4PENABLE
     , output wire         APB4PWRITE
     , output wire [3:0]   APB4PSTRB
@@ -386,13 +449,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB4PWDATA
     , output wire         APB4PSEL
     , input  wire [31:0]  APB4PRDATA
-    , input  wire         APB4PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB4PREDADY
     , input  wire         APB4PSLVERR
     , output wire         APB4PCLK
-    , output wire         APB4PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB4PRESET
 `endif
 `ifdef TARVO_APB5_SUPPORT
-    , output wire [31:0]  APB5PADDR
+    , (* note = "APB port at 0x60400000 to 0x604FFFFF" *)
+      output wire [31:0]  APB5PADDR
     , output wire         APB5PENABLE
     , output wire         APB5PWRITE
     , output wire [3:0]   APB5PSTRB
@@ -400,13 +466,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB5PWDATA
     , output wire         APB5PSEL
     , input  wire [31:0]  APB5PRDATA
-    , input  wire         APB5PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB5PREDADY
     , input  wire         APB5PSLVERR
     , output wire         APB5PCLK
-    , output wire         APB5PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB5PRESET
 `endif
 `ifdef TARVO_APB6_SUPPORT
-    , output wire [31:0]  APB6PADDR
+    , (* note = "APB port at 0x60500000 to 0x605FFFFF" *)
+      output wire [31:0]  APB6PADDR
     , output wire         APB6PENABLE
     , output wire         APB6PWRITE
     , output wire [3:0]   APB6PSTRB
@@ -414,13 +483,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB6PWDATA
     , output wire         APB6PSEL
     , input  wire [31:0]  APB6PRDATA
-    , input  wire         APB6PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB6PREDADY
     , input  wire         APB6PSLVERR
     , output wire         APB6PCLK
-    , output wire         APB6PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB6PRESET
 `endif
 `ifdef TARVO_APB7_SUPPORT
-    , output wire [31:0]  APB7PADDR
+    , (* note = "APB port at 0x60600000 to 0x606FFFFF" *)
+      output wire [31:0]  APB7PADDR
     , output wire         APB7PENABLE
     , output wire         APB7PWRITE
     , output wire [3:0]   APB7PSTRB
@@ -428,13 +500,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB7PWDATA
     , output wire         APB7PSEL
     , input  wire [31:0]  APB7PRDATA
-    , input  wire         APB7PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB7PREDADY
     , input  wire         APB7PSLVERR
     , output wire         APB7PCLK
-    , output wire         APB7PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB7PRESET
 `endif
 `ifdef TARVO_APB8_SUPPORT
-    , output wire [31:0]  APB8PADDR
+    , (* note = "APB port at 0x60700000 to 0x607FFFFF" *)
+      output wire [31:0]  APB8PADDR
     , output wire         APB8PENABLE
     , output wire         APB8PWRITE
     , output wire [3:0]   APB8PSTRB
@@ -442,13 +517,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB8PWDATA
     , output wire         APB8PSEL
     , input  wire [31:0]  APB8PRDATA
-    , input  wire         APB8PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB8PREDADY
     , input  wire         APB8PSLVERR
     , output wire         APB8PCLK
-    , output wire         APB8PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB8PRESET
 `endif
 `ifdef TARVO_APB9_SUPPORT
-    , output wire [31:0]  APB9PADDR
+    , (* note = "APB port at 0x60800000 to 0x608FFFFF" *)
+      output wire [31:0]  APB9PADDR
     , output wire         APB9PENABLE
     , output wire         APB9PWRITE
     , output wire [3:0]   APB9PSTRB
@@ -456,13 +534,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB9PWDATA
     , output wire         APB9PSEL
     , input  wire [31:0]  APB9PRDATA
-    , input  wire         APB9PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB9PREDADY
     , input  wire         APB9PSLVERR
     , output wire         APB9PCLK
-    , output wire         APB9PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB9PRESET
 `endif
 `ifdef TARVO_APB10_SUPPORT
-    , output wire [31:0]  APB10PADDR
+    , (* note = "APB port at 0x60900000 to 0x609FFFFF" *)
+      output wire [31:0]  APB10PADDR
     , output wire         APB10PENABLE
     , output wire         APB10PWRITE
     , output wire [3:0]   APB10PSTRB
@@ -470,13 +551,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB10PWDATA
     , output wire         APB10PSEL
     , input  wire [31:0]  APB10PRDATA
-    , input  wire         APB10PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB10PREDADY
     , input  wire         APB10PSLVERR
     , output wire         APB10PCLK
-    , output wire         APB10PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB10PRESET
 `endif
 `ifdef TARVO_APB11_SUPPORT
-    , output wire [31:0]  APB11PADDR
+    , (* note = "APB port at 0x60A00000 to 0x60AFFFFF" *)
+      output wire [31:0]  APB11PADDR
     , output wire         APB11PENABLE
     , output wire         APB11PWRITE
     , output wire [3:0]   APB11PSTRB
@@ -484,13 +568,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB11PWDATA
     , output wire         APB11PSEL
     , input  wire [31:0]  APB11PRDATA
-    , input  wire         APB11PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB11PREDADY
     , input  wire         APB11PSLVERR
     , output wire         APB11PCLK
-    , output wire         APB11PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB11PRESET
 `endif
 `ifdef TARVO_APB12_SUPPORT
-    , output wire [31:0]  APB12PADDR
+    , (* note = "APB port at 0x60B00000 to 0x60BFFFFF" *)
+      output wire [31:0]  APB12PADDR
     , output wire         APB12PENABLE
     , output wire         APB12PWRITE
     , output wire [3:0]   APB12PSTRB
@@ -498,13 +585,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB12PWDATA
     , output wire         APB12PSEL
     , input  wire [31:0]  APB12PRDATA
-    , input  wire         APB12PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB12PREDADY
     , input  wire         APB12PSLVERR
     , output wire         APB12PCLK
-    , output wire         APB12PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB12PRESET
 `endif
 `ifdef TARVO_APB13_SUPPORT
-    , output wire [31:0]  APB13PADDR
+    , (* note = "APB port at 0x60C00000 to 0x60CFFFFF" *)
+      output wire [31:0]  APB13PADDR
     , output wire         APB13PENABLE
     , output wire         APB13PWRITE
     , output wire [3:0]   APB13PSTRB
@@ -512,13 +602,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB13PWDATA
     , output wire         APB13PSEL
     , input  wire [31:0]  APB13PRDATA
-    , input  wire         APB13PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB13PREDADY
     , input  wire         APB13PSLVERR
     , output wire         APB13PCLK
-    , output wire         APB13PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB13PRESET
 `endif
 `ifdef TARVO_APB14_SUPPORT
-    , output wire [31:0]  APB14PADDR
+    , (* note = "APB port at 0x60D00000 to 0x60DFFFFF" *)
+      output wire [31:0]  APB14PADDR
     , output wire         APB14PENABLE
     , output wire         APB14PWRITE
     , output wire [3:0]   APB14PSTRB
@@ -526,13 +619,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB14PWDATA
     , output wire         APB14PSEL
     , input  wire [31:0]  APB14PRDATA
-    , input  wire         APB14PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB14PREDADY
     , input  wire         APB14PSLVERR
     , output wire         APB14PCLK
-    , output wire         APB14PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB14PRESET
 `endif
 `ifdef TARVO_APB15_SUPPORT
-    , output wire [31:0]  APB15PADDR
+    , (* note = "APB port at 0x60E00000 to 0x60EFFFFF" *)
+      output wire [31:0]  APB15PADDR
     , output wire         APB15PENABLE
     , output wire         APB15PWRITE
     , output wire [3:0]   APB15PSTRB
@@ -540,13 +636,16 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB15PWDATA
     , output wire         APB15PSEL
     , input  wire [31:0]  APB15PRDATA
-    , input  wire         APB15PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB15PREDADY
     , input  wire         APB15PSLVERR
     , output wire         APB15PCLK
-    , output wire         APB15PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB15PRESET
 `endif
 `ifdef TARVO_APB16_SUPPORT
-    , output wire [31:0]  APB16PADDR
+    , (* note = "APB port at 0x60F00000 to 0x60FFFFFF" *)
+      output wire [31:0]  APB16PADDR
     , output wire         APB16PENABLE
     , output wire         APB16PWRITE
     , output wire [3:0]   APB16PSTRB
@@ -554,10 +653,12 @@ module Tarvo_ORIX_M1_Top (
     , output wire [31:0]  APB16PWDATA
     , output wire         APB16PSEL
     , input  wire [31:0]  APB16PRDATA
-    , input  wire         APB16PREDADY
+    , (* note = "PREADY of the port" *)
+      input  wire         APB16PREDADY
     , input  wire         APB16PSLVERR
     , output wire         APB16PCLK
-    , output wire         APB16PRESET
+    , (* note = "reset of the port, active low" *)
+      output wire         APB16PRESET
 `endif
 );
 
@@ -1038,8 +1139,9 @@ module Tarvo_ORIX_M1_Top (
         .HCLK(HCLK),
         .HRESETn(sys_n),
         .HSEL(hsel_s[`ORIX_S_GPIO]),
-        .HADDR(haddr[5:0]),
+        .HADDR(haddr[23:0]),
         .HTRANS(htrans),
+        .HSIZE(hsize),
         .HWRITE(hwrite),
         .HWDATA(hwdata),
         .HREADY(hready),
@@ -1573,6 +1675,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_TIMER0 +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_TIMER0]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_TIMER0]),
@@ -1595,6 +1698,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_TIMER1 +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_TIMER1]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_TIMER1]),
@@ -1617,6 +1721,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_DTIMER +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_DTIMER]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_DTIMER]),
@@ -1638,6 +1743,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_UART0 +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_UART0]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_UART0]),
@@ -1661,6 +1767,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_UART1 +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_UART1]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_UART1]),
@@ -1684,6 +1791,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_RTC +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_RTC]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_RTC]),
@@ -1706,6 +1814,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_WDOG +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_WDOG]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_WDOG]),
@@ -1756,6 +1865,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_I2C +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_I2C]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_I2C]),
@@ -1796,6 +1906,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_SPI +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_SPI]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_SPI]),
@@ -1821,6 +1932,7 @@ module Tarvo_ORIX_M1_Top (
         .PWRITE(apbint_pwrite),
         .PADDR(apbint_paddr[11:0]),
         .PWDATA(apbint_pwdata),
+        .PSTRB(apbint_pstrb),
         .PRDATA(apbint_prdata_s[32*`ORIX_P_SD +: 32]),
         .PREADY(apbint_pready_s[`ORIX_P_SD]),
         .PSLVERR(apbint_pslverr_s[`ORIX_P_SD]),

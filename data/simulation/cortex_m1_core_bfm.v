@@ -15,6 +15,13 @@
 // over the memories' own interfaces, all others over AHB-Lite. Data is little-endian whatever BE8 says. A line has at most
 // 255 characters. Each failure is printed with the line of the script, and the end is "PASS" or "FAIL: n of m checks"; done is
 // 1 then, and with +finish the simulation ends.
+//
+// The time scale is for simulators that want one for every module or for none: nothing here is a delay, and any clock will
+// do. Files behind this one without a time scale of their own get this one, unless TARVO_NO_TIMESCALE is defined.
+`ifndef TARVO_NO_TIMESCALE
+`timescale 1ns / 1ps
+`endif
+
 module CortexM1Core #(
     parameter       NUM_IRQ     = 32,
     parameter       OS          = 1,
@@ -103,12 +110,23 @@ module CortexM1Core #(
     reg [31:0] data;             // of the last read, the addressed bytes in the low bits
     reg        failed;           // the last transfer got an error response
 
-    // Signals change a little after the clock edge, as flip-flops do.
+    // The script goes on at falling edges: there it sees settled inputs, and sets what the outputs show from the next
+    // rising edge on.
+    reg         next_SYSRESETREQ, next_HWRITE, next_ITCMEN, next_DTCMEN;
+    reg  [31:0] next_HADDR, next_HWDATA, next_ITCMWDATA, next_DTCMWDATA;
+    reg  [1:0]  next_HTRANS;
+    reg  [2:0]  next_HSIZE;
+    reg  [3:0]  next_ITCMWE, next_DTCMWE;
+    reg  [17:0] next_ITCMADDR, next_DTCMADDR;
+    always @(posedge HCLK) begin
+        SYSRESETREQ <= next_SYSRESETREQ;
+        {HADDR, HTRANS, HSIZE, HWRITE, HWDATA} <= {next_HADDR, next_HTRANS, next_HSIZE, next_HWRITE, next_HWDATA};
+        {ITCMEN, ITCMWE, ITCMADDR, ITCMWDATA} <= {next_ITCMEN, next_ITCMWE, next_ITCMADDR, next_ITCMWDATA};
+        {DTCMEN, DTCMWE, DTCMADDR, DTCMWDATA} <= {next_DTCMEN, next_DTCMWE, next_DTCMADDR, next_DTCMWDATA};
+    end
+
     task cycle;
-        begin
-            @(posedge HCLK);
-            #1;
-        end
+        @(negedge HCLK);
     endtask
 
     task fail(input [8*64-1:0] what);
@@ -126,7 +144,6 @@ module CortexM1Core #(
             while (HREADY !== 1'b1 && left != 0) begin
                 left = left - 1;
                 cycle;
-                #1;
             end
             if (left == 0)
                 fail("HREADY stays low");
@@ -145,22 +162,23 @@ module CortexM1Core #(
             dtcm = address - 32'h20000000 < bytes(DTCMSIZE);
             failed = 1'b0;
             if (itcm || dtcm) begin
-                ITCMEN = itcm; ITCMADDR = address[19:2]; ITCMWDATA = word; ITCMWE = (itcm && write) ? lanes : 4'd0;
-                DTCMEN = dtcm; DTCMADDR = address[19:2]; DTCMWDATA = word; DTCMWE = (dtcm && write) ? lanes : 4'd0;
+                next_ITCMEN = itcm; next_ITCMADDR = address[19:2]; next_ITCMWDATA = word;
+                next_ITCMWE = (itcm && write) ? lanes : 4'd0;
+                next_DTCMEN = dtcm; next_DTCMADDR = address[19:2]; next_DTCMWDATA = word;
+                next_DTCMWE = (dtcm && write) ? lanes : 4'd0;
                 cycle;
-                ITCMEN = 1'b0; ITCMWE = 4'd0; DTCMEN = 1'b0; DTCMWE = 4'd0;
+                next_ITCMEN = 1'b0; next_ITCMWE = 4'd0; next_DTCMEN = 1'b0; next_DTCMWE = 4'd0;
+                cycle;
                 data = itcm ? ITCMRDATA : DTCMRDATA;
             end else begin
-                HADDR = address; HTRANS = 2'b10; HSIZE = {1'b0, size}; HWRITE = write;
-                #1;
-                ready;
+                next_HADDR = address; next_HTRANS = 2'b10; next_HSIZE = {1'b0, size}; next_HWRITE = write;
                 cycle;
-                HTRANS = 2'b00; HWRITE = 1'b0; HWDATA = word;
-                #1;
+                ready;
+                next_HTRANS = 2'b00; next_HWRITE = 1'b0; next_HWDATA = word;
+                cycle;
                 ready;
                 failed = failed | (HRESP !== 1'b0);
                 data = HRDATA;
-                cycle;
             end
             if (size == 2'd1)
                 data = (data >> (8 * {address[1], 1'b0})) & 32'h0000FFFF;
@@ -276,9 +294,9 @@ module CortexM1Core #(
                         fail("the non-maskable interrupt does not get the level");
                 end
                 "reset": begin
-                    SYSRESETREQ = 1'b1;
+                    next_SYSRESETREQ = 1'b1;
                     while (SYSRESETn !== 1'b0) cycle;
-                    SYSRESETREQ = 1'b0;
+                    next_SYSRESETREQ = 1'b0;
                     while (SYSRESETn !== 1'b1) cycle;
                     cycle;
                 end
@@ -294,6 +312,10 @@ module CortexM1Core #(
         {HADDR, HTRANS, HSIZE, HWRITE, HWDATA} = 0;
         {ITCMEN, ITCMWE, ITCMADDR, ITCMWDATA} = 0;
         {DTCMEN, DTCMWE, DTCMADDR, DTCMWDATA} = 0;
+        next_SYSRESETREQ = 1'b0;
+        {next_HADDR, next_HTRANS, next_HSIZE, next_HWRITE, next_HWDATA} = 0;
+        {next_ITCMEN, next_ITCMWE, next_ITCMADDR, next_ITCMWDATA} = 0;
+        {next_DTCMEN, next_DTCMWE, next_DTCMADDR, next_DTCMWDATA} = 0;
         if (!$value$plusargs("script=%s", name))
             name = "play.txt";
         file = $fopen(name, "r");
@@ -339,3 +361,6 @@ module CortexM1Core #(
         end
     endfunction
 endmodule
+`ifndef HAVE_CortexM1Core
+`define HAVE_CortexM1Core // for models behind this file
+`endif

@@ -34,6 +34,7 @@ struct Report {
     QStringList files;
     QStringList sources;
     QStringList outputs;
+    QString library; // without which no tool reads the netlist; not written by the generation
     QStringList errors;
     Synthesis::RunReport run;
 };
@@ -110,6 +111,8 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
         printJson({{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
                    {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
                    {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
+                   {QStringLiteral("libraries"),
+                    report.library.isEmpty() ? QJsonArray() : QJsonArray{report.library}},
                    {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
                    {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
                    {QStringLiteral("cells"), jsonOf(report.run.cells)},
@@ -120,6 +123,10 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
     const QStringList paths = report.files + report.outputs;
     for (const QString &path : paths)
         printLine(path);
+    if (!report.library.isEmpty()) {
+        printLine(report.library);
+        printError(QLatin1String("needed to read the netlist: ") + report.library);
+    }
     return status;
 }
 
@@ -230,6 +237,8 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     if (!paths.model.isEmpty() && QFileInfo::exists(paths.model))
         report.outputs.append(paths.model);
     report.outputs.append(paths.decoded);
+    if (tool == Value::tarvoSynthesis)
+        report.library = Synthesis::primitiveLibrary(language != 0);
     return finish(report, arguments, Done);
 }
 

@@ -49,6 +49,7 @@ QJsonObject peripheralObject(const Peripheral &peripheral)
     return {{QStringLiteral("name"), peripheral.name},
             {QStringLiteral("bus"), peripheral.bus},
             {QStringLiteral("description"), peripheral.text},
+            {QStringLiteral("partialWrites"), peripheral.parts},
             {QStringLiteral("instances"), instances},
             {QStringLiteral("registers"), registers}};
 }

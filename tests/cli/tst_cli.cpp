@@ -472,6 +472,10 @@ void tst_Cli::generatesTheExample()
     for (const QString &output : outputs)
         QVERIFY2(QFileInfo(output).size() > 0, qPrintable(output));
     QCOMPARE(TestSupport::contentsOf(example), before);
+    const QString library =
+        QDir::cleanPath(QStringLiteral(TARVO_IP_DATA_DIR "/../primitives/primitives.v"));
+    QVERIFY(QFileInfo(library).isFile());
+    QCOMPARE(result.json().value(QLatin1String("libraries")).toArray(), QJsonArray{library});
 
     // What it takes of the device, for people and for scripts.
     QStringList resources;
@@ -526,7 +530,13 @@ void tst_Cli::generatedModelCompiles()
 {
     const QString file = config("Enable%20GPIO=true\nEnabel%20GPIO%20IO=true\nEnable%20Timer0="
                                 "true\nITCM_Size=1\nDTCM_Size=0\n");
-    QCOMPARE(run({QStringLiteral("generate"), file}).status, 0);
+    const Run result = run({QStringLiteral("generate"), file});
+    QVERIFY2(result.status == 0, qPrintable(result.err));
+    // What the netlist needs is named, and not written.
+    const QString library =
+        QDir::cleanPath(QStringLiteral(TARVO_IP_DATA_DIR "/../primitives/primitives.v"));
+    QVERIFY(result.out.endsWith(QString(u'\n' + library + u'\n')));
+    QVERIFY(result.err.contains(QLatin1String("needed to read the netlist: ") + library));
     QProcess compiler;
     compiler.setWorkingDirectory(m_dir->path());
     compiler.start(QStringLiteral("iverilog"), words({"-g2005", "-s", "Tarvo_ORIX_M1_Top", "-o",
@@ -982,6 +992,9 @@ void tst_Cli::generatesVhdl()
     QCOMPARE(TestSupport::entriesOf(path("ip")),
              words({"tarvo_orix_m1.vhd", "tarvo_orix_m1.vho", "tarvo_orix_m1.vo",
                     "tarvo_orix_m1_tmp.vhd", "temp"}));
+    QCOMPARE(result.json().value(QLatin1String("libraries")).toArray(),
+             QJsonArray{QDir::cleanPath(
+                 QStringLiteral(TARVO_IP_DATA_DIR "/../primitives/primitives.vhd"))});
     // The Verilog model is the one that Verilog outputs come with.
     QCOMPARE(run({QStringLiteral("generate"), config(options)}).status, 0);
     QCOMPARE(TestSupport::contentsOf(path("ip/tarvo_orix_m1.vo")),

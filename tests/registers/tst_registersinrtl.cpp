@@ -83,6 +83,29 @@ Expected afterWrite(const Register &entry, quint32 pattern)
     return expected;
 }
 
+// A write of one or two bytes, or of all.
+struct Part {
+    int byte;
+    int size; // as HSIZE: 1 << size bytes
+    quint32 mask() const { return quint32((quint64(1) << (8 << size)) - 1) << (8 * byte); }
+};
+
+constexpr Part parts[] = {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {0, 1}, {2, 1}};
+
+// What a register reads after `first` was written to it right after reset, and `second` to a part
+// of it.
+Expected afterPart(const Register &entry, quint32 first, quint32 second, const Part &part)
+{
+    Expected expected = afterWrite(entry, (first & ~part.mask()) | (second & part.mask()));
+    for (const RegisterField &field : entry.fields) {
+        if (field.access != RegisterAccess::WriteOneToClear)
+            continue;
+        expected.value &= ~field.mask();
+        expected.value |= (field.reset << field.low) & ~first & ~(second & part.mask());
+    }
+    return expected;
+}
+
 QVector<quint32> patterns()
 {
     QVector<quint32> list = {0xFFFFFFFFu, 0x55555555u, 0xAAAAAAAAu, 0u, 0x12345678u};
@@ -114,16 +137,29 @@ public:
             "    task write_word(input [31:0] address, input [31:0] value);\n");
         m_text += m_isAhb ? QLatin1String("        ahb_write(address, value);\n")
                           : QLatin1String("        apb_write(address[11:0], value);\n");
+        m_text += QLatin1String("    endtask\n"
+                                "    task write_part(input [31:0] address, input [2:0] size, input "
+                                "[31:0] value);\n");
+        m_text += m_isAhb ? QLatin1String("        ahb_transfer(address, 1'b1, size, value);\n")
+                          : QLatin1String("        apb_write_lanes(address[11:0], value, size[0] ? "
+                                          "4'b0011 << address[1:0] : 4'b0001 << address[1:0]);\n");
         m_text += QLatin1String("    endtask\n    initial begin\n");
         afterReset();
         unlistedOffsets();
-        for (const Register &entry : m_peripheral.registers)
+        for (const Register &entry : m_peripheral.registers) {
             writes(entry);
+            partialWrites(entry);
+        }
         return m_text + QLatin1String("        finish;\n    end\nendmodule\n");
     }
 
 private:
     void line(const QString &text) { m_text += QLatin1String("        ") + text + u'\n'; }
+
+    int addressBits() const
+    {
+        return m_peripheral.module == QLatin1String("ahb_spi_flash") ? 25 : 24;
+    }
 
     // Where a module that decodes more than the registers has them.
     quint32 address(quint32 offset) const
@@ -146,17 +182,40 @@ private:
                 QStringLiteral(
                     "`include \"ahb_master.vh\"\n    %1 dut (.HCLK(clk), .HRESETn(rstn), "
                     ".HSEL(1'b1), "
-                    ".HADDR(haddr), .HTRANS(htrans), .HWRITE(hwrite), .HWDATA(hwdata), "
-                    ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%2);\n")
-                    .arg(m_peripheral.module, more);
+                    ".HADDR(%2), .HTRANS(htrans), %3.HWRITE(hwrite), .HWDATA(hwdata), "
+                    ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%4);\n")
+                    .arg(m_peripheral.module, QStringLiteral("haddr[%1:0]").arg(addressBits() - 1),
+                         m_peripheral.module == QLatin1String("ahb_gpio")
+                             ? QStringLiteral(".HSIZE(hsize), ")
+                             : QString(),
+                         more);
             return;
         }
         m_text +=
             QStringLiteral(
                 "`include \"apb_master.vh\"\n    %1 dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), "
                 ".PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr), .PWDATA(pwdata), "
+                ".PSTRB(pstrb), "
                 ".PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)%2);\n")
                 .arg(m_peripheral.module, more);
+    }
+
+    // The words that are tried: all of the first 4 KB, and beyond them each register's offset with
+    // every one and two of the higher address bits changed.
+    QVector<quint32> words() const
+    {
+        QVector<quint32> result;
+        for (quint32 offset = 0; offset < qMin(m_peripheral.span, 0x1000u); offset += 4)
+            result.append(offset);
+        for (const Register &entry : m_peripheral.registers) {
+            for (quint32 a = 0x1000; a < m_peripheral.span; a <<= 1) {
+                for (quint32 b = a; b < m_peripheral.span; b <<= 1)
+                    result.append(entry.offset | a | b);
+            }
+        }
+        if (m_peripheral.span > 0x1000)
+            result.append(m_peripheral.span - 4);
+        return result;
     }
 
     const Register *at(quint32 offset) const
@@ -176,7 +235,8 @@ private:
     void afterReset()
     {
         line(QStringLiteral("reset;"));
-        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+        const QVector<quint32> all = words();
+        for (const quint32 offset : all) {
             if (const Register *entry = at(offset))
                 expectReset(*entry, entry->name + QLatin1String(" after reset"));
             else
@@ -187,11 +247,12 @@ private:
     void unlistedOffsets()
     {
         line(QStringLiteral("reset;"));
-        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+        const QVector<quint32> all = words();
+        for (const quint32 offset : all) {
             if (!at(offset))
                 line(QStringLiteral("write_word(%1, 32'hFFFFFFFF);").arg(word(address(offset))));
         }
-        for (quint32 offset = 0; offset < m_peripheral.span; offset += 4) {
+        for (const quint32 offset : all) {
             if (!at(offset))
                 expect(offset, {}, QStringLiteral("written unlisted offset %1").arg(offset));
         }
@@ -212,6 +273,32 @@ private:
                 if (other.offset != entry.offset && !entry.changes.contains(other.name))
                     expectReset(other,
                                 other.name + QLatin1String(" after a write to ") + entry.name);
+            }
+        }
+    }
+
+    // Bytes and halfwords: nothing changes beside them, and they are read wherever they begin.
+    void partialWrites(const Register &entry)
+    {
+        constexpr quint32 first = 0x3C5A691E;
+        for (const quint32 pattern : {first, ~first}) {
+            for (const Part &part : parts) {
+                const QString what =
+                    QStringLiteral(" after %1 bytes at %2").arg(1 << part.size).arg(part.byte);
+                line(QStringLiteral("reset;"));
+                line(QStringLiteral("write_word(%1, %2);")
+                         .arg(word(address(entry.offset)), word(pattern)));
+                line(QStringLiteral("write_part(%1, 3'd%2, %3);")
+                         .arg(word(address(entry.offset + quint32(part.byte))))
+                         .arg(part.size)
+                         .arg(word(~pattern)));
+                const Expected expected = afterPart(entry, pattern, ~pattern, part);
+                for (quint32 byte = 0; byte < 4; ++byte)
+                    expect(entry.offset + byte, expected, entry.name + what);
+                for (const Register &other : m_peripheral.registers) {
+                    if (other.offset != entry.offset && !entry.changes.contains(other.name))
+                        expectReset(other, other.name + what + QLatin1String(" of ") + entry.name);
+                }
             }
         }
     }
@@ -279,6 +366,84 @@ QString subsystemBench(const QVector<Peripheral> &peripherals)
     return text + QLatin1String("        finish;\n    end\nendmodule\n");
 }
 
+// The rows of the table in the user guide that begins behind `heading`, without its head.
+QVector<QStringList> guideTable(const QString &heading)
+{
+    const QString guide =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(DOCS_DIR "/user-guide.md")));
+    QVector<QStringList> rows;
+    const QStringList lines = guide.mid(guide.indexOf(heading)).split(u'\n');
+    for (const QString &line : lines) {
+        if (!line.startsWith(u'|')) {
+            if (rows.size() > 2)
+                break;
+            continue;
+        }
+        QStringList cells = line.split(u'|').mid(1);
+        cells.removeLast();
+        for (QString &cell : cells)
+            cell = cell.trimmed();
+        rows.append(cells);
+    }
+    return rows.mid(2);
+}
+
+struct Region {
+    quint32 first = 0;
+    quint32 last = 0;
+    QString select; // number of the slave on the AHB
+    int port = 0;   // of the APB extension ports, from 1
+};
+
+QVector<Region> regionsOfGuide()
+{
+    static const QMap<QString, QString> slaves = {
+        {QStringLiteral("external flash"), QStringLiteral("EXTFLASH")},
+        {QStringLiteral("external SRAM"), QStringLiteral("EXTSRAM")},
+        {QStringLiteral("GPIO"), QStringLiteral("GPIO")},
+        {QStringLiteral("CAN"), QStringLiteral("CAN")},
+        {QStringLiteral("Ethernet"), QStringLiteral("ETH")},
+        {QStringLiteral("internal APB"), QStringLiteral("APBINT")},
+        {QStringLiteral("SPI-Flash"), QStringLiteral("SPIFLASH")},
+        {QStringLiteral("PSRAM"), QStringLiteral("PSRAM")},
+        {QStringLiteral("DDR3"), QStringLiteral("DDR3")}};
+    static const QRegularExpression numbered(QStringLiteral("^(AHB|APB) extension port (\\d+)$"));
+    QVector<Region> regions;
+    const QVector<QStringList> rows = guideTable(QStringLiteral("### Memory map"));
+    for (const QStringList &row : rows) {
+        Region region;
+        region.first = row.at(0).toUInt(nullptr, 0);
+        region.last = row.at(1).toUInt(nullptr, 0);
+        const auto match = numbered.match(row.at(2));
+        const QString what = row.at(2).section(u',', 0, 0);
+        if (match.captured(1) == QLatin1String("APB")) {
+            region.port = match.captured(2).toInt();
+            region.select = QStringLiteral("APBEXT");
+        } else {
+            region.select = match.hasMatch() ? QString(QLatin1String("AHB") + match.captured(2))
+                                             : slaves.value(what, QLatin1String("unknown_") + what);
+        }
+        regions.append(region);
+    }
+    return regions;
+}
+
+// Attributes of the ports of the top module: name and note.
+QVector<QPair<QString, QString>> notesOfTop()
+{
+    static const QRegularExpression attribute(QStringLiteral(
+        "\\(\\* note = \"([^\"]*)\" \\*\\)\\s+(?:input|output|inout) +wire +(?:\\[[^\\]]*\\] "
+        "+)?(\\w+)"));
+    const QString top =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(RTL_DIR "/tarvo_orix_m1_top.v")));
+    QVector<QPair<QString, QString>> notes;
+    for (auto it = attribute.globalMatch(top); it.hasNext();) {
+        const auto match = it.next();
+        notes.append({match.captured(2), match.captured(1)});
+    }
+    return notes;
+}
+
 // Compiles and runs; the text that is wrong about it, or nothing.
 QString simulate(const QString &bench, const QStringList &sources)
 {
@@ -320,6 +485,11 @@ private Q_SLOTS:
     void interruptsAreTheSubsystems();
     void mistakesAreFound_data();
     void mistakesAreFound();
+    void theGuidesPortsAreTheNotesOfTheTop();
+    void theGuidesMapIsTheSubsystems();
+    void theGuidesInterruptsAreTheSubsystems();
+    void faultsOfModulesAreFound_data();
+    void faultsOfModulesAreFound();
 
 private:
     QVector<Peripheral> m_peripherals;
@@ -349,7 +519,8 @@ void tst_RegistersInRtl::modulesAreAsDescribed()
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
-void tst_RegistersInRtl::instancesStandAtTheirAddresses()
+// Everything that the subsystem has.
+static QStringList subsystemSources()
 {
     QStringList sources = {QStringLiteral("-I" RTL_TESTS_DIR "/defines/everything-5k"),
                            rtl("itcmdbg.v"), rtl("dtcmdbg.v")};
@@ -362,8 +533,140 @@ void tst_RegistersInRtl::instancesStandAtTheirAddresses()
         if (!left.match(file).hasMatch())
             sources.append(QStringLiteral(RTL_DIR "/") + file);
     }
-    const QString wrong = simulate(subsystemBench(m_peripherals), sources);
+    return sources;
+}
+
+void tst_RegistersInRtl::instancesStandAtTheirAddresses()
+{
+    const QString wrong = simulate(subsystemBench(m_peripherals), subsystemSources());
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::theGuidesPortsAreTheNotesOfTheTop()
+{
+    static const QRegularExpression number(QStringLiteral("^(AHB|APB)\\d+"));
+    QStringList expected;
+    const auto notes = notesOfTop();
+    for (const auto &note : notes) {
+        const QString port = QString(note.first).replace(number, QStringLiteral("\\1n"));
+        if (!note.second.contains(QLatin1String(" at 0x")))
+            expected.append(u'`' + port + QLatin1String("` ") + note.second);
+    }
+    expected.removeDuplicates();
+    QStringList told;
+    const QVector<QStringList> rows = guideTable(QStringLiteral("### Ports to take care of"));
+    for (const QStringList &row : rows)
+        told.append(row.join(u' '));
+    QVERIFY(told.size() > 20);
+    QCOMPARE(told, expected);
+    // What a board must know.
+    QVERIFY(
+        told.filter(QStringLiteral("`JTAG_15`")).join(QString()).contains(QLatin1String("pull")));
+    QCOMPARE(told.filter(QStringLiteral("RESET` reset of the port, active low")).size(), 4);
+}
+
+void tst_RegistersInRtl::theGuidesMapIsTheSubsystems()
+{
+    const QVector<Region> regions = regionsOfGuide();
+    QVERIFY(regions.size() > 30);
+    const auto at = [&](quint32 address) {
+        for (const Region &region : regions) {
+            if (address >= region.first && address <= region.last)
+                return region;
+        }
+        return Region();
+    };
+    QString text = QStringLiteral(
+        "`include \"core_model.v\"\n`include \"define.vh\"\nmodule tb;\n`include \"bench.vh\"\n"
+        "`include \"ahb_master.vh\"\n    reg hwRstn = 1'b0;\n    reg [15:0] psel = 16'd0;\n"
+        "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn)");
+    for (int n = 1; n <= 16; ++n)
+        text += QStringLiteral(", .APB%1PREDADY(1'b1), .APB%1PSLVERR(1'b0)").arg(n);
+    text += QLatin1String(
+        ");\n"
+        "    assign hready = dut.u_core.HREADY;\n"
+        "    assign hresp  = dut.u_core.HRESP;\n"
+        "    assign hrdata = dut.u_core.HRDATA;\n"
+        "    always @* begin\n"
+        "        dut.u_core.HADDR = haddr;\n"
+        "        dut.u_core.HTRANS = htrans;\n"
+        "        dut.u_core.HSIZE = hsize;\n"
+        "        dut.u_core.HWRITE = hwrite;\n"
+        "    end\n"
+        "    always @(posedge clk) if (|dut.apbext_psel_s) psel <= dut.apbext_psel_s;\n"
+        "    task select(input [31:0] address, input [15:0] expected);\n"
+        "        begin\n            haddr = address;\n            #1;\n"
+        "            check32(dut.hsel_s, expected, \"selected\");\n        end\n"
+        "    endtask\n"
+        "    initial begin\n        cycles(5);\n        hwRstn = 1'b1;\n"
+        "        cycles(40);\n");
+    for (const Region &region : regions) {
+        for (const quint32 address :
+             {region.first, region.last - 3, region.first - 4, region.last + 1}) {
+            const Region there = at(address);
+            const QString expected = there.select.isEmpty()
+                                         ? QStringLiteral("16'd0")
+                                         : QStringLiteral("16'd1 << `ORIX_S_%1").arg(there.select);
+            text += QStringLiteral("        select(%1, %2);\n").arg(word(address), expected);
+            if (there.port != 0)
+                text += QStringLiteral("        ahb_transfer(%1, 1'b0, 3'd2, 32'd0);\n"
+                                       "        check32(psel, 16'd1 << %2, \"port %3\");\n")
+                            .arg(word(address))
+                            .arg(there.port - 1)
+                            .arg(there.port);
+        }
+    }
+    // The external memories too, which that configuration has inside.
+    const QStringList memories{QStringLiteral("-DCM1_EXTERNAL_FLASH_EN"),
+                               QStringLiteral("-DCM1_EXTERNAL_SRAM_EN")};
+    const QString wrong = simulate(text + QLatin1String("        finish;\n    end\nendmodule\n"),
+                                   memories + subsystemSources());
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+
+    // The notes say the same.
+    static const QRegularExpression range(QStringLiteral(" at (0x\\w+) to (0x\\w+)"));
+    int checked = 0;
+    const auto notes = notesOfTop();
+    for (const auto &note : notes) {
+        const auto match = range.match(note.second);
+        if (!match.hasMatch())
+            continue;
+        ++checked;
+        const Region region = at(match.captured(1).toUInt(nullptr, 0));
+        QCOMPARE(region.first, match.captured(1).toUInt(nullptr, 0));
+        QCOMPARE(region.last, match.captured(2).toUInt(nullptr, 0));
+        const QString owner = region.port != 0 ? QStringLiteral("APB%1P").arg(region.port)
+                                               : QString(region.select + u'H');
+        if (note.first.startsWith(QLatin1String("A")) ||
+            note.first.startsWith(QLatin1String("EXT")))
+            QVERIFY2(QString(note.first)
+                         .remove(QLatin1String("0H"))
+                         .startsWith(QString(owner).remove(QLatin1String("H"))),
+                     qPrintable(note.first));
+    }
+    QVERIFY(checked >= 27);
+}
+
+void tst_RegistersInRtl::theGuidesInterruptsAreTheSubsystems()
+{
+    const QString defines = QString::fromUtf8(TestSupport::contentsOf(rtl("define.vh")));
+    static const QRegularExpression line(QStringLiteral("^`define ORIX_IRQ_(\\w+) +(\\d+)$"),
+                                         QRegularExpression::MultilineOption);
+    QStringList expected;
+    for (auto it = line.globalMatch(defines); it.hasNext();) {
+        const auto match = it.next();
+        expected.append(match.captured(1) == QLatin1String("EXTINT")
+                            ? QStringLiteral("12 to 15 EXTINT, bits 0 to 3")
+                            : QString(match.captured(2) + u' ' + match.captured(1)));
+        if (match.captured(1) == QLatin1String("EXTINT"))
+            QCOMPARE(match.captured(2), QStringLiteral("12"));
+    }
+    expected.append(QStringLiteral("NMI WDOG"));
+    QStringList told;
+    const QVector<QStringList> rows = guideTable(QStringLiteral("| interrupt | source |"));
+    for (const QStringList &row : rows)
+        told.append(row.join(u' '));
+    QCOMPARE(told, expected);
 }
 
 void tst_RegistersInRtl::interruptsAreTheSubsystems()
@@ -415,6 +718,44 @@ void tst_RegistersInRtl::mistakesAreFound()
     else
         peripheral.registers[0].changes.clear();
     const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
+    QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::faultsOfModulesAreFound_data()
+{
+    QTest::addColumn<QString>("module");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    const auto row = [](const char *name, const char *module, const char *from, const char *to) {
+        QTest::newRow(name) << QString::fromLatin1(module) << QString::fromLatin1(from)
+                            << QString::fromLatin1(to);
+    };
+    row("parts write the whole register", "apb_timer", "PSTRB[n]", "1'b1");
+    row("parts of control registers write them", "apb_timer", "if (PSTRB[0]) ctrl", "ctrl");
+    row("parts are written at their own address only", "apb_timer", "{PADDR[11:2], 2'b00}",
+        "PADDR");
+    row("registers repeat in the whole region", "ahb_gpio", "HADDR[23:6] == 18'd0", "1'b1");
+    row("registers repeat once", "ahb_gpio", "HADDR[23:6] == 18'd0", "HADDR[22:6] == 17'd0");
+    row("registers repeat further up", "ahb_spi_flash", "word[23:4] == 20'd0",
+        "word[12:4] == 9'd0");
+}
+
+// The benches notice modules that do not do what all of them must.
+void tst_RegistersInRtl::faultsOfModulesAreFound()
+{
+    QFETCH(QString, module);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    const auto found = std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                                    [&](const Peripheral &p) { return p.module == module; });
+    QVERIFY(found != m_peripherals.cend());
+    QString text =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(RTL_DIR "/%1.v").arg(module)));
+    QVERIFY(text.contains(from));
+    const QTemporaryDir dir;
+    const QString changed = dir.filePath(QStringLiteral("changed.v"));
+    TestSupport::write(changed, text.replace(from, to).toUtf8());
+    const QString wrong = simulate(Bench(*found).text(), {changed, rtl("spi_engine.v")});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 

@@ -2,21 +2,36 @@
     reg         psel = 1'b0, penable = 1'b0, pwrite = 1'b0;
     reg  [11:0] paddr = 12'd0;
     reg  [31:0] pwdata = 32'd0;
+    reg  [3:0]  pstrb = 4'd0;
     wire [31:0] prdata;
     wire        pready, pslverr;
     reg  [31:0] rd;
 
-    task apb_write(input [11:0] address, input [31:0] data);
+    // The bytes of `data` that `lanes` names.
+    task apb_write_lanes(input [11:0] address, input [31:0] data, input [3:0] lanes);
         begin
-            psel = 1'b1; penable = 1'b0; pwrite = 1'b1; paddr = address; pwdata = data;
+            psel = 1'b1; penable = 1'b0; pwrite = 1'b1; paddr = address; pwdata = data; pstrb = lanes;
             cycles(1);
             penable = 1'b1;
             #1;
             while (!pready) cycles(1);
             check(pslverr === 1'b0, "no error of an APB write");
             cycles(1);
-            psel = 1'b0; penable = 1'b0; pwrite = 1'b0;
+            psel = 1'b0; penable = 1'b0; pwrite = 1'b0; pstrb = 4'd0;
         end
+    endtask
+
+    task apb_write(input [11:0] address, input [31:0] data);
+        apb_write_lanes(address, data, 4'b1111);
+    endtask
+
+    // As the bridge does it: a byte stands in every lane, a halfword in both.
+    task apb_write8(input [11:0] address, input [7:0] data);
+        apb_write_lanes(address, {4{data}}, 4'b0001 << address[1:0]);
+    endtask
+
+    task apb_write16(input [11:0] address, input [15:0] data);
+        apb_write_lanes(address, {2{data}}, address[1] ? 4'b1100 : 4'b0011);
     endtask
 
     task apb_read(input [11:0] address);

@@ -4,7 +4,7 @@ module tb;
 `include "apb_master.vh"
     wire irq;
     apb_dual_timer dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                        .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .irq(irq));
+                        .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .irq(irq));
     localparam [11:0] CTRL = 0, VALUE = 4, RELOAD = 8, PEND = 12;
     integer n;
     reg [11:0] base, other;
@@ -50,6 +50,19 @@ module tb;
             check(irq === 1'b0, "only once");
         end
         apb_expect(12'h040, 0, "nothing after the counters");
+        // Parts.
+        apb_write(CTRL, 32'h303);
+        apb_write(RELOAD, 1);
+        apb_write(VALUE, 1);
+        @(posedge irq); #1;
+        apb_write8(PEND + 1, 8'h01); apb_write16(PEND + 2, 16'h0001);
+        check(irq === 1'b1, "nothing cleared beside the byte");
+        apb_write8(CTRL + 1, 8'h40);
+        apb_expect(CTRL, 32'h4003, "a byte of CTRL");
+        apb_write8(PEND, 8'h01);
+        check(irq === 1'b0, "cleared by its byte");
+        apb_write8(CTRL, 8'h00);
+        apb_expect(CTRL, 32'h4000, "stopped, PRESCALE kept");
         finish;
     end
 endmodule

@@ -5,7 +5,7 @@ module tb;
     reg  [15:0] pins = 16'h0000;
     wire [15:0] out, outen;
     wire        irq;
-    ahb_gpio dut (.HCLK(clk), .HRESETn(rstn), .HSEL(haddr[31:24] == 8'h40), .HADDR(haddr[5:0]), .HTRANS(htrans),
+    ahb_gpio dut (.HCLK(clk), .HRESETn(rstn), .HSEL(haddr[31:24] == 8'h40), .HADDR(haddr[23:0]), .HTRANS(htrans), .HSIZE(hsize),
                   .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp),
                   .gpio_in(pins), .gpio_out(out), .gpio_outen(outen), .irq(irq));
     localparam [31:0] DATA = 32'h40000000, OUT = DATA + 4, OUTEN = DATA + 8, OUTSET = DATA + 12, OUTCLR = DATA + 16,
@@ -85,6 +85,30 @@ module tb;
             ahb_expect(PEND, 32'd1 << n, "one edge of each pulse");
             ahb_write(PEND, 32'd1 << n);
         end
+        // Parts: each pin's bit is reached by its byte alone.
+        ahb_write(OUT, 32'h1234);
+        ahb_transfer(OUT + 1, 1'b1, 3'd0, 32'h56565656);
+        check(out === 16'h5634, "a byte of OUT");
+        ahb_transfer(OUTSET, 1'b1, 3'd0, 32'h81818181);
+        check(out === 16'h56B5, "OUTSET of the lower pins");
+        ahb_transfer(OUTCLR + 1, 1'b1, 3'd0, 32'h12121212);
+        check(out === 16'h44B5, "OUTCLR of the upper pins");
+        ahb_transfer(OUTCLR + 2, 1'b1, 3'd1, 32'hFFFFFFFF);
+        check(out === 16'h44B5, "no pins in the upper halfword");
+        pins = 16'hFFFF; cycles(4);
+        pins = 16'h0000; cycles(4);
+        ahb_expect(PEND, 32'hFFFF, "an edge of every pin");
+        ahb_transfer(PEND + 1, 1'b1, 3'd0, 32'h0F0F0F0F);
+        ahb_expect(PEND, 32'hF0FF, "cleared in one byte");
+        ahb_transfer(PEND + 2, 1'b1, 3'd1, 32'hFFFFFFFF);
+        ahb_expect(PEND, 32'hF0FF, "nothing beside it");
+        ahb_transfer(PEND, 1'b1, 3'd1, 32'hFFFFFFFF);
+        ahb_expect(PEND, 0, "cleared as a halfword");
+        // What looks like a register further up is none.
+        ahb_write(OUT + 64, 32'hFFFF);
+        ahb_write(OUT + 32'h800000, 32'hFFFF);
+        check(out === 16'h44B5, "registers do not repeat");
+        ahb_expect(OUT + 64, 0, "reads as 0");
         finish;
     end
 endmodule

@@ -11,7 +11,7 @@ module tb;
     assign scl = slave_scl ? 1'bz : 1'b0;
     assign sda = (slave_sda & other_sda) ? 1'bz : 1'b0;
     apb_i2c dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                 .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
+                 .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
                  .scl_in(scl), .scl_out(scl_out), .scl_outen(scl_outen),
                  .sda_in(sda), .sda_out(sda_out), .sda_outen(sda_outen), .irq(irq));
     localparam [11:0] PRESCALE = 0, CTRL = 4, TX = 8, RX = 12, COMMAND = 16, STATUS = 20;
@@ -119,6 +119,17 @@ module tb;
         other_sda = 1'b1;
         apb_write(STATUS, 32'h18);
         apb_expect(STATUS, 0, "flags cleared");
+        // Only the lowest byte of COMMAND starts something.
+        apb_write8(COMMAND + 1, START | WRITE); apb_write16(COMMAND + 2, START | WRITE);
+        apb_expect(STATUS, 0, "no command");
+        apb_write(TX, 8'h70);
+        apb_write8(COMMAND, START | WRITE | STOP);
+        @(posedge irq); #1;
+        apb_expect(STATUS, 32'hA, "a command of one byte");
+        apb_write8(STATUS + 1, 8'hFF); apb_write16(STATUS + 2, 16'hFFFF);
+        apb_expect(STATUS, 32'hA, "nothing cleared beside the byte");
+        apb_write8(STATUS, 8'h08);
+        apb_expect(STATUS, 32'h2, "cleared by its byte");
         finish;
     end
 endmodule

@@ -6,7 +6,7 @@ module tb;
     wire irq;
     always #83 slow = ~slow;    // not related to the bus clock
     apb_rtc dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                 .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .rtc_clk(slow), .irq(irq));
+                 .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .rtc_clk(slow), .irq(irq));
     localparam [11:0] SECONDS = 0, ALARM = 4, CTRL = 8, PEND = 12, PRESCALE = 16;
     integer n;
     time first;
@@ -45,6 +45,15 @@ module tb;
         apb_write(ALARM, 0);
         @(posedge irq); #1;
         apb_expect(SECONDS, 0, "the time wraps");
+        // Parts.
+        apb_write(CTRL, 0);
+        apb_write(SECONDS, 32'h11223344);
+        apb_write16(SECONDS + 2, 16'hAABB);
+        apb_expect(SECONDS, 32'hAABB3344, "a halfword of SECONDS");
+        apb_write8(PEND + 1, 8'hFF); apb_write16(PEND + 2, 16'hFFFF);
+        apb_expect(PEND, 3, "nothing cleared beside the byte");
+        apb_write8(PEND, 8'h02);
+        apb_expect(PEND, 1, "cleared by its byte");
         finish;
     end
 endmodule

@@ -6,7 +6,7 @@ module tb;
     wire sd_clk, cs, dataout, card_init, checkout, irq;
     always #67 src = ~src;
     apb_sdcard dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                    .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
+                    .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
                     .sd_spiclk(src), .sd_clk(sd_clk), .sd_cs(cs), .sd_datain(datain), .sd_dataout(dataout),
                     .sd_card_init(card_init), .sd_checkin(checkin), .sd_checkout(checkout), .irq(irq));
     localparam [11:0] DATA = 0, STATUS = 4, CTRL = 8;
@@ -70,6 +70,16 @@ module tb;
         check(checkout === 1'b0 && card_init === 1'b0, "no card, INIT cleared");
         apb_expect(CTRL, 32'h5, "the other bits stay");
         apb_expect(STATUS, 32'h10, "CHANGED");
+        // Only the lowest byte is sent, and only its flags are cleared.
+        apb_write8(DATA + 1, 8'h55); apb_write16(DATA + 2, 16'h5555);
+        apb_write8(STATUS + 3, 8'hFF); apb_write16(STATUS + 2, 16'hFFFF);
+        apb_expect(STATUS, 32'h10, "nothing sent, nothing cleared");
+        taken = 0;
+        apb_write8(DATA, 8'h3C);
+        @(posedge irq); #1;
+        check32(heard, 8'h3C, "a byte written as a byte");
+        apb_write8(STATUS, 8'h12);
+        apb_expect(STATUS, 0, "cleared by its byte");
         finish;
     end
 endmodule

@@ -5,7 +5,7 @@ module tb;
     wire sclk, mosi, nss, irq;
     reg  miso = 1'bz;
     apb_spi dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                 .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
+                 .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
                  .sclk(sclk), .mosi(mosi), .miso(miso), .nss(nss), .irq(irq));
     localparam [11:0] DATA = 0, STATUS = 4, CTRL = 8, DIV = 12, SELECT = 16;
 
@@ -85,6 +85,17 @@ module tb;
         apb_expect(STATUS, 6, "LOST");
         apb_write(STATUS, 4);
         apb_expect(STATUS, 2, "LOST cleared");
+        // Only the lowest byte is sent, and only its flags are cleared.
+        apb_write(STATUS, 6);
+        apb_write8(DATA + 1, 8'h55); apb_write16(DATA + 2, 16'h5555);
+        apb_expect(STATUS, 0, "nothing is sent");
+        apb_write8(DATA, 8'h3C);
+        @(posedge irq); #1;
+        check32(heard, 8'h3C, "a byte written as a byte");
+        apb_write8(STATUS + 1, 8'hFF); apb_write16(STATUS + 2, 16'hFFFF);
+        apb_expect(STATUS, 2, "nothing cleared beside the byte");
+        apb_write16(STATUS, 2);
+        apb_expect(STATUS, 0, "cleared by its halfword");
         finish;
     end
 endmodule

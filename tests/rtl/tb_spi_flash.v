@@ -100,6 +100,25 @@ module tb;
         check32(hrdata, word(24'h40), "word right behind the release");
         cycles(1);
         ahb_expect(BASE + 32'h44, word(24'h44), "and the next one");
+        // Parts: the lowest byte is the register.
+        ahb_write(SELECT, 1);
+        ahb_transfer(DATA + 1, 1'b1, 3'd0, 32'h9F9F9F9F);
+        check(waits == 0, "nothing is sent by another byte");
+        ahb_transfer(DATA + 2, 1'b1, 3'd1, 32'h9F9F9F9F);
+        check(waits == 0, "nor by the other halfword");
+        ahb_transfer(DATA, 1'b1, 3'd0, 32'h9F9F9F9F);
+        check(waits > 8 && others == 2, "a byte written as a byte");
+        ahb_transfer(SELECT + 3, 1'b1, 3'd0, 32'd0);
+        check(csn === 1'b0, "still selected");
+        ahb_transfer(SELECT, 1'b1, 3'd1, 32'd0);
+        check(csn === 1'b1, "deselected by a halfword");
+        // What looks like a register further up is none.
+        ahb_write(SELECT + 16, 1);
+        ahb_write(SELECT + 32'h800000, 1);
+        check(csn === 1'b1, "registers do not repeat");
+        ahb_write(DATA + 32'h1000, 8'h9F);
+        check(waits == 0 && others == 2, "nothing is sent there");
+        ahb_expect(DIV + 16, 0, "reads as 0");
         finish;
     end
 endmodule

@@ -6,7 +6,7 @@ module tb;
     reg  rxd = 1'b1;
     wire txd, irq;
     apb_uart dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                  .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .rxd(rxd), .txd(txd), .irq(irq));
+                  .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .rxd(rxd), .txd(txd), .irq(irq));
     localparam [11:0] DATA = 0, STATUS = 4, CTRL = 8, BAUD = 12;
 
     // Clock cycles of one bit of txd, decoder in the testbench: collects bytes.
@@ -112,6 +112,29 @@ module tb;
         apb_expect(STATUS, 32'h0, "a glitch is not a start bit");
         send(8'hC3, 210, 1'b1);
         apb_expect(DATA, 8'hC3, "received after it");
+        // Parts: DATA is sent and taken by its lowest byte alone.
+        apb_write(CTRL, 0);
+        apb_write8(DATA + 1, 8'h55); apb_write8(DATA + 3, 8'h55); apb_write16(DATA + 2, 16'h5555);
+        apb_expect(STATUS, 32'h0, "nothing to send");
+        apb_write8(DATA, 8'h77);
+        apb_expect(STATUS, 32'h5, "a byte written as a byte");
+        apb_write16(DATA, 16'h0011);
+        apb_expect(STATUS, 32'h25, "TXOVER");
+        apb_write8(STATUS + 1, 8'hFF); apb_write16(STATUS + 2, 16'hFFFF);
+        apb_expect(STATUS, 32'h25, "nothing cleared beside the byte");
+        apb_write8(STATUS, 8'h20);
+        apb_expect(STATUS, 32'h5, "cleared by its byte");
+        apb_write(CTRL, 2);
+        send(8'h42, 210, 1'b1);
+        apb_read(DATA + 1); apb_read(DATA + 2); apb_read(DATA + 3);
+        apb_expect(STATUS, 32'h7, "reads of the other bytes take nothing");
+        apb_expect(DATA, 8'h42, "the byte");
+        apb_expect(STATUS, 32'h5, "taken");
+        apb_write(BAUD, 32'h00000107);
+        apb_write8(BAUD + 1, 8'h00);
+        apb_expect(BAUD, 16, "the minimum");
+        apb_write8(BAUD + 2, 8'h01);
+        apb_expect(BAUD, 32'h10007, "counts only while the whole is smaller");
         finish;
     end
 endmodule

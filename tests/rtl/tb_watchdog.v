@@ -4,7 +4,7 @@ module tb;
 `include "apb_master.vh"
     wire nmi, reset_req;
     apb_watchdog dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
-                      .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
+                      .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
                       .nmi(nmi), .reset_req(reset_req));
     localparam [11:0] LOAD = 0, COUNT = 4, CTRL = 8, KICK = 12, STATUS = 16, LOCK = 20;
     integer resets = 0, n;
@@ -60,6 +60,27 @@ module tb;
         apb_expect(LOCK, 0, "unlocked");
         apb_write(CTRL, 0);
         apb_expect(CTRL, 0, "CTRL can be written again");
+        // The keys are whole words.
+        apb_write(LOAD, 20);
+        apb_write(CTRL, 1);
+        @(posedge nmi); #1;
+        apb_write8(KICK, 8'h4B); apb_write8(KICK + 1, 8'h49); apb_write8(KICK + 2, 8'h43); apb_write8(KICK + 3, 8'h4B);
+        apb_write16(KICK, 16'h434B); apb_write16(KICK + 2, 16'h4B49);
+        check(nmi === 1'b1, "no kick in parts");
+        apb_write(KICK, 32'h4B49434B);
+        check(nmi === 1'b0, "a whole one");
+        apb_write(CTRL, 0);
+        apb_write16(LOCK, 16'h4C4B);
+        apb_expect(LOCK, 1, "a part locks");
+        apb_write8(LOCK + 3, 8'h55);
+        apb_expect(LOCK, 1, "and does not unlock");
+        apb_write8(LOAD, 1);
+        apb_expect(LOAD, 20, "protected from bytes too");
+        apb_write(LOCK, 32'h554E4C4B);
+        apb_write(LOAD, 32'h01020304);
+        apb_write8(LOAD + 2, 8'hAA);
+        apb_expect(LOAD, 32'h01AA0304, "a byte of LOAD");
+        apb_expect(COUNT, 32'h01AA0304, "restarts the count with the whole of it");
         finish;
     end
 endmodule

@@ -35,6 +35,13 @@ QByteArray verilogValue(const QJsonValue &json)
     return '"' + text + '"';
 }
 
+// Of a module or net.
+QByteArray noteIn(const QJsonObject &object)
+{
+    const QJsonObject attributes = object.value(QLatin1String("attributes")).toObject();
+    return ParameterValue::read(attributes.value(QLatin1String("note"))).text;
+}
+
 QVector<Port> readPorts(const QJsonObject &module)
 {
     struct Row {
@@ -43,6 +50,7 @@ QVector<Port> readPorts(const QJsonObject &module)
     };
     QVector<Row> rows;
     const QJsonObject ports = module.value(QLatin1String("ports")).toObject();
+    const QJsonObject nets = module.value(QLatin1String("netnames")).toObject();
     for (auto it = ports.begin(); it != ports.end(); ++it) {
         const QJsonObject json = it.value().toObject();
         const QJsonArray bits = json.value(QLatin1String("bits")).toArray();
@@ -53,6 +61,7 @@ QVector<Port> readPorts(const QJsonObject &module)
         port.lowest = json.value(QLatin1String("offset")).toInt();
         port.isRising = json.value(QLatin1String("upto")).toInt() != 0;
         port.isVector = port.width != 1 || port.lowest != 0 || port.isRising;
+        port.note = noteIn(nets.value(it.key()).toObject());
         rows << Row{bits.isEmpty() ? 0 : bits.first().toInt(), port};
     }
     // Without contents every bit is a net of its own, numbered in the order of declaration.
@@ -121,6 +130,11 @@ QString DesignPorts::read(const QByteArray &outline, const QByteArray &cells)
 bool DesignPorts::contains(const QByteArray &module) const
 {
     return m_modules.contains(QString::fromUtf8(module));
+}
+
+QByteArray DesignPorts::note(const QByteArray &module) const
+{
+    return noteIn(m_modules.value(QString::fromUtf8(module)).toObject());
 }
 
 QVector<Port> DesignPorts::ports(const QByteArray &module) const

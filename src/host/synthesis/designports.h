@@ -16,6 +16,7 @@ struct Port {
     int lowest = 0;        // index of the range's lowest bit
     bool isVector = false; // declared with a range, which may have one bit
     bool isRising = false; // [0:7] rather than [7:0]
+    QByteArray note;       // what the design says about it, by an attribute "note"; may be empty
 
     // "[15:0]", empty for a single bit.
     QByteArray range() const;
@@ -56,6 +57,8 @@ public:
 
     bool contains(const QByteArray &module) const;
     QVector<Port> ports(const QByteArray &module) const;
+    // What the design says about the module, as Port::note.
+    QByteArray note(const QByteArray &module) const;
     // All modules but the named ones, by name.
     QVector<BlackBox> blackBoxes(const QByteArrayList &except) const;
 

@@ -65,10 +65,11 @@ QString Flow::templatePath() const
     return outputPath(writesVhdl() ? QStringLiteral("_tmp.vhd") : QStringLiteral("_tmp.v"));
 }
 
-QByteArray Flow::instantiationTemplate(const QVector<Port> &ports) const
+QByteArray Flow::instantiationTemplate(const DesignPorts &design) const
 {
     const QByteArray top = topModule().toUtf8();
-    return writesVhdl() ? vhdlTemplate(top, ports) : verilogTemplate(top, ports);
+    return (writesVhdl() ? vhdlTemplate : verilogTemplate)(top, design.ports(top),
+                                                           design.note(top));
 }
 
 QString Flow::outputPath(const QString &suffix) const

@@ -65,8 +65,8 @@ protected:
     QString topModule() const { return option("top_module"); }
     bool writesVhdl() const { return m_job.writesVhdl(); }
     QString templatePath() const;
-    // In the language of the job.
-    QByteArray instantiationTemplate(const QVector<Port> &ports) const;
+    // Of the top module, in the language of the job.
+    QByteArray instantiationTemplate(const DesignPorts &design) const;
     // "<output folder>/<target><suffix>"
     QString outputPath(const QString &suffix) const;
     // Adds a command for a program that PATH has; `usersHome`: see Command.

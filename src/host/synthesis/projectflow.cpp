@@ -176,7 +176,7 @@ QString ProjectFlow::collect(Results *results)
     if (!Utils::FileUtils::makePath(m_scratch.outputDir() + u'/' + implementation(), &error))
         return error;
     results->ports = design.ports(top);
-    results->outputs = {Output{templatePath(), instantiationTemplate(results->ports)},
+    results->outputs = {Output{templatePath(), instantiationTemplate(design)},
                         Output{netlistPath, netlist}};
     if (writesVhdl()) {
         const QString file = resultFile(QStringLiteral(".vhm"));

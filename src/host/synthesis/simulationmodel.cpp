@@ -1,12 +1,14 @@
 #include "simulationmodel.h"
 
 #include "library.h"
+#include "verilogoutputs.h"
 #include "verilogscan.h"
 
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 namespace Synthesis
 {
@@ -27,6 +29,15 @@ int fail(QString *message, const QString &text)
 }
 
 } // namespace
+
+QString primitiveLibrary(bool vhdl)
+{
+    // The build tree and an installation are laid out alike.
+    const QString path = QDir::cleanPath(
+        QCoreApplication::applicationDirPath() + QLatin1String("/../share/tarvo/primitives/") +
+        (vhdl ? QLatin1String("primitives.vhd") : QLatin1String("primitives.v")));
+    return QFileInfo(path).isFile() ? path : QString();
+}
 
 int writeSimulationModel(const QString &netlist, const QString &destination, QString *message)
 {
@@ -56,6 +67,9 @@ int writeSimulationModel(const QString &netlist, const QString &destination, QSt
 
     if (!text.endsWith('\n'))
         text += '\n';
+    if (!text.contains("`timescale"))
+        text.prepend(verilogTimeScale());
+    text = withVerilogStandIns(text);
     const QByteArrayList known = Library::primitives();
     for (const QByteArray &primitive : known) {
         if (instances.contains(primitive) && !outline.defines(primitive))

@@ -1,5 +1,6 @@
 #include "verilogoutputs.h"
 
+#include "standins.h"
 #include "verilogscan.h"
 
 #include <algorithm>
@@ -9,6 +10,20 @@ namespace Synthesis
 
 namespace
 {
+
+constexpr char boxStart[] = "(* blackbox *)\nmodule ";
+
+// The macro that says that a module is there: names of macros have no escaped form.
+QByteArray macroOf(const QByteArray &module)
+{
+    QByteArray macro = "HAVE_";
+    for (const char c : module) {
+        const bool isWord =
+            (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+        macro += isWord ? QByteArray(1, c) : "_x" + QByteArray(1, c).toHex() + '_';
+    }
+    return macro;
+}
 
 QByteArray declaration(const BlackBox &box)
 {
@@ -21,17 +36,40 @@ QByteArray declaration(const BlackBox &box)
         ports << "    " + port.direction + ' ' + (range.isEmpty() ? range : range + ' ') +
                      verilogName(port.name);
     }
-    const QByteArray name = verilogName(box.name);
-    QByteArray text = "(* blackbox *)\nmodule " + name;
+    QByteArray text = boxStart + verilogName(box.name);
     if (!parameters.isEmpty())
         text += " #(\n" + parameters.join(",\n") + "\n)";
     if (!ports.isEmpty())
         text += " (\n" + ports.join(",\n") + "\n)";
     text += ";\nendmodule\n";
-    if (name.startsWith('\\')) // no name of a macro
-        return text;
-    return "// Define HAVE_" + name + " where the real module is compiled as well.\n`ifndef HAVE_" +
-           name + '\n' + text + "`endif\n";
+    const QByteArray macro = macroOf(box.name);
+    return "// Define " + macro + " where the real module is compiled as well.\n`ifndef " + macro +
+           '\n' + text + "`define " + macro + "\n`endif\n";
+}
+
+// "    input [31:0] HADDR," of a declaration.
+bool readPort(const QByteArray &line, Port *port)
+{
+    QByteArrayList words = line.simplified().split(' ');
+    static const QByteArrayList directions{"input", "output", "inout"};
+    if (!line.startsWith("    ") || words.size() < 2 || !directions.contains(words.first()))
+        return false;
+    port->direction = words.takeFirst();
+    if (words.first().startsWith('[')) {
+        const QByteArrayList ends = words.takeFirst().mid(1).chopped(1).split(':');
+        const int left = ends.first().toInt();
+        const int right = ends.last().toInt();
+        port->isVector = true;
+        port->isRising = left < right;
+        port->lowest = std::min(left, right);
+        port->width = std::max(left, right) - port->lowest + 1;
+    }
+    port->name = words.value(0);
+    if (port->name.startsWith('\\'))
+        port->name.remove(0, 1);
+    else if (port->name.endsWith(','))
+        port->name.chop(1);
+    return true;
 }
 
 QByteArray signalName(const Port &port)
@@ -55,17 +93,68 @@ QByteArray verilogNetlist(const QByteArray &title, const QByteArray &body,
     QByteArray netlist = body;
     if (netlist.startsWith("/*"))
         netlist.remove(0, netlist.indexOf("*/") + 2);
-    QByteArray text = "// " + oneLine(title) + "\n\n" + netlist.trimmed() + '\n';
+    QByteArray text = "// " + oneLine(title) + "\n\n" + verilogTimeScale() +
+                      "// Bits of a vector may depend on each other without being a loop.\n"
+                      "/* verilator lint_off UNOPTFLAT */\n\n" +
+                      netlist.trimmed() + '\n';
     for (const BlackBox &box : blackBoxes)
         text += '\n' + declaration(box);
     return text;
 }
 
-QByteArray verilogTemplate(const QByteArray &module, const QVector<Port> &ports)
+QByteArray verilogTimeScale()
+{
+    return "// There are no delays here. Files behind this one without a time scale of their own "
+           "get "
+           "this one, unless\n// TARVO_NO_TIMESCALE is defined.\n"
+           "`ifndef TARVO_NO_TIMESCALE\n`timescale 1ns / 1ps\n`endif\n\n";
+}
+
+QByteArray withVerilogStandIns(const QByteArray &netlist)
+{
+    QByteArray text;
+    int copied = 0;
+    for (int at = netlist.indexOf(boxStart); at >= 0; at = netlist.indexOf(boxStart, copied)) {
+        const int name = at + int(qstrlen(boxStart));
+        const int end = netlist.indexOf("\nendmodule\n", name) + 1;
+        if (end <= 0)
+            break;
+        const QByteArrayList lines = netlist.mid(name, end - name).split('\n');
+        QByteArray module = lines.first().split(' ').first();
+        module = module.startsWith('\\') ? module.mid(1)
+                 : module.endsWith(';')  ? module.chopped(1)
+                                         : module;
+        QVector<Port> ports;
+        for (const QByteArray &line : lines) {
+            Port port;
+            if (readPort(line, &port))
+                ports << port;
+        }
+        text += netlist.mid(copied, end - copied) + verilogStandIn(module, ports);
+        copied = end;
+    }
+    return text + netlist.mid(copied);
+}
+
+QByteArray commentLines(const QByteArray &sign, const QByteArray &note)
+{
+    QByteArray text;
+    if (note.isEmpty())
+        return text;
+    for (const QByteArray &line : note.split('\n'))
+        text += sign + oneLine(line) + '\n';
+    return text;
+}
+
+QByteArray verilogTemplate(const QByteArray &module, const QVector<Port> &ports,
+                           const QByteArray &note)
 {
     QByteArray text =
         "// Template of an instance: copy it into your design, and put a signal of yours into the\n"
-        "// brackets of each port. Leave the brackets of an output that you do not use empty.\n\n";
+        "// brackets of each port. Leave the brackets of an output that you do not use empty.\n";
+    if (!note.isEmpty())
+        text += '\n' + commentLines("// ", note);
+    text += '\n';
     text += verilogName(module) + " u_" + module;
     if (ports.isEmpty())
         return text + " ();\n";
@@ -80,6 +169,7 @@ QByteArray verilogTemplate(const QByteArray &module, const QVector<Port> &ports)
     text += " (\n";
     for (int i = 0; i < ports.size(); ++i) {
         const QByteArray range = ports.at(i).range();
+        text += commentLines("    // " + ports.at(i).name + ": ", ports.at(i).note);
         text += connections.at(i).leftJustified(widest) + " // " + ports.at(i).direction +
                 (range.isEmpty() ? QByteArray() : QByteArray(' ' + range)) + '\n';
     }

@@ -12,11 +12,21 @@ namespace Synthesis
 
 // `body` is the netlist as the tool wrote it; its leading comment, which names the tool's build, is
 // replaced by one that says `title`. Black boxes follow as modules without contents, marked by an
-// attribute.
+// attribute, each unless the macro HAVE_ and its name says that it is there.
 QByteArray verilogNetlist(const QByteArray &title, const QByteArray &body,
                           const QVector<BlackBox> &blackBoxes);
 
-// An instance of `module` to paste into a design.
-QByteArray verilogTemplate(const QByteArray &module, const QVector<Port> &ports);
+// The directives that set the time scale of a file.
+QByteArray verilogTimeScale();
+
+// `netlist`, the text of verilogNetlist(), with stand-ins in its black boxes.
+QByteArray withVerilogStandIns(const QByteArray &netlist);
+
+// Each line of `note` behind `sign`, which begins a comment.
+QByteArray commentLines(const QByteArray &sign, const QByteArray &note);
+
+// An instance of `module` to paste into a design, with `note` on top and the notes of its ports.
+QByteArray verilogTemplate(const QByteArray &module, const QVector<Port> &ports,
+                           const QByteArray &note = {});
 
 } // namespace Synthesis

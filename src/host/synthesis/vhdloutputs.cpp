@@ -2,6 +2,8 @@
 
 #include "designcheck.h"
 #include "library.h"
+#include "standins.h"
+#include "verilogoutputs.h"
 #include "vhdlnames.h"
 
 #include <QCoreApplication>
@@ -449,9 +451,11 @@ QByteArray Writer::blackBoxTexts(bool asEntities) const
             body += "    generic (\n" + generics.join(";\n") + "\n    );\n";
         body += portClause(box.ports);
         if (asEntities)
-            text += "\n-- A block that this model leaves empty.\n" + QByteArray(context) +
-                    "\nentity " + name + " is\n" + body + "end entity;\n\narchitecture empty of " +
-                    name + " is\nbegin\nend architecture;\n";
+            text += "\n-- A block that the netlist leaves empty. An architecture of it that is "
+                    "analysed "
+                    "behind this file,\n-- into the same library, takes the place of this one.\n" +
+                    QByteArray(context) + "\nentity " + name + " is\n" + body + "end entity;\n\n" +
+                    vhdlStandIn(name, box.ports, portNames(box.ports));
         else
             text += "component " + name + '\n' + body + "end component;\n";
     }
@@ -851,7 +855,8 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
     return {};
 }
 
-QByteArray vhdlTemplate(const QByteArray &module, const QVector<Port> &ports)
+QByteArray vhdlTemplate(const QByteArray &module, const QVector<Port> &ports,
+                        const QByteArray &note)
 {
     const QByteArray name = vhdlName(module);
     QByteArray text =
@@ -859,10 +864,11 @@ QByteArray vhdlTemplate(const QByteArray &module, const QVector<Port> &ports)
         "architecture and the\n"
         "-- instance behind it, and put a signal of yours behind each \"=>\", or "
         "\"open\" for an output that you\n"
-        "-- do not use.\n\n"
-        "component " +
-        name + '\n' + portClause(ports) + "end component;\n\n" + vhdlName("u_" + module) + " : " +
-        name;
+        "-- do not use.\n";
+    if (!note.isEmpty())
+        text += '\n' + commentLines("-- ", note);
+    text += "\ncomponent " + name + '\n' + portClause(ports) + "end component;\n\n" +
+            vhdlName("u_" + module) + " : " + name;
     if (ports.isEmpty())
         return text + ";\n";
     const QByteArrayList names = portNames(ports);
@@ -877,9 +883,11 @@ QByteArray vhdlTemplate(const QByteArray &module, const QVector<Port> &ports)
         widest = std::max(widest, lines.last().size());
     }
     text += "\n    port map (\n";
-    for (int i = 0; i < ports.size(); ++i)
+    for (int i = 0; i < ports.size(); ++i) {
+        text += commentLines("        -- " + names.at(i) + ": ", ports.at(i).note);
         text += lines.at(i).leftJustified(widest) + " -- " + modeOf(ports.at(i)) + ' ' +
                 typeOf(ports.at(i)) + '\n';
+    }
     return text + "    );\n";
 }
 

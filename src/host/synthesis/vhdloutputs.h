@@ -27,7 +27,9 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
                     const QVector<Port> &ports, const QVector<BlackBox> &blackBoxes,
                     VhdlNetlist *result);
 
-// The component declaration of `module` and an instance of it to paste into a design.
-QByteArray vhdlTemplate(const QByteArray &module, const QVector<Port> &ports);
+// The component declaration of `module` and an instance of it to paste into a design, with `note`
+// on top and the notes of its ports.
+QByteArray vhdlTemplate(const QByteArray &module, const QVector<Port> &ports,
+                        const QByteArray &note = {});
 
 } // namespace Synthesis

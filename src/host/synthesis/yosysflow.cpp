@@ -146,7 +146,7 @@ QString YosysFlow::collect(Results *results)
     const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
     const QByteArray netlist = verilogNetlist(title("Netlist of"), body, blackBoxes);
     results->ports = design.ports(top);
-    results->outputs = {Output{templatePath(), instantiationTemplate(results->ports)},
+    results->outputs = {Output{templatePath(), instantiationTemplate(design)},
                         Output{netlistPath, netlist}};
     results->instances = bodyOutline.leavesOf(top, &error);
     if (!error.isEmpty())

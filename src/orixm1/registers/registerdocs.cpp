@@ -72,9 +72,11 @@ QString registersMarkdown(const QVector<Peripheral> &peripherals,
 {
     QString text = QStringLiteral(
         "# Registers\n\n"
-        "Registers are 32 bits wide and accessed as words. Bits and offsets that are not listed "
-        "read as 0, and writing "
-        "them does nothing. Access: R/W reads what was written; R ignores writes; W reads as 0; "
+        "Registers are 32 bits wide. Bits and offsets that are not listed read as 0, and writing "
+        "them does nothing. A byte or a halfword can be read and written too: a write changes "
+        "the bytes that it reaches and no other, and what it does not reach counts as written "
+        "with 0 where writing 1 sets, clears or starts something. Access: R/W reads what was "
+        "written; R ignores writes; W reads as 0; "
         "R/W1C reads, and writing 1 "
         "clears the bit; \"R, W\" means one thing when read and another when written.\n\n"
         "| instance | address | bus | interrupt | described under |\n|---|---|---|---|---|\n");
@@ -99,8 +101,10 @@ QString registersMarkdown(const QVector<Peripheral> &peripherals,
                 " |\n"_l1;
     }
     for (const Peripheral &peripheral : peripherals) {
-        text += "\n## "_l1 + peripheral.name + "\n\n"_l1 + peripheral.text +
-                "\n\n| offset | register | bits | field | access | reset | meaning |\n"
+        text += "\n## "_l1 + peripheral.name + "\n\n"_l1 + peripheral.text + "\n\n"_l1;
+        if (!peripheral.parts.isEmpty())
+            text += "Writes of a part: "_l1 + peripheral.parts + "\n\n"_l1;
+        text += "| offset | register | bits | field | access | reset | meaning |\n"
                 "|---|---|---|---|---|---|---|\n"_l1;
         for (const Register &entry : peripheral.registers) {
             text += "| "_l1 + hex(entry.offset, 2) + " | **"_l1 + entry.name + "** | | | | "_l1 +

@@ -120,7 +120,7 @@ private:
 
     void readPeripheral(const QJsonObject &object, Peripheral *peripheral)
     {
-        checkKeys(object, {"peripheral"_l1, "module"_l1, "bus"_l1, "span"_l1, "text"_l1,
+        checkKeys(object, {"peripheral"_l1, "module"_l1, "bus"_l1, "span"_l1, "text"_l1, "parts"_l1,
                            "instances"_l1, "registers"_l1});
         peripheral->name = identifier(object, "peripheral"_l1);
         peripheral->module = identifier(object, "module"_l1);
@@ -129,6 +129,7 @@ private:
             fail(QStringLiteral("\"bus\" is neither AHB nor APB"));
         peripheral->span = number(object, "span"_l1);
         peripheral->text = text(object, "text"_l1);
+        peripheral->parts = text(object, "parts"_l1, false);
         const QJsonArray instances = list(object, "instances"_l1);
         for (const QJsonValue &value : instances)
             peripheral->instances.append(readInstance(value.toObject()));

@@ -59,6 +59,7 @@ struct Peripheral {
     QString bus;      // "AHB" or "APB"
     quint32 span = 0; // bytes that the module decodes
     QString text;
+    QString parts; // what else a write of a byte or halfword does; may be empty
     QVector<PeripheralInstance> instances;
     QVector<Register> registers; // by offset
 };

@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -123,6 +125,9 @@ private Q_SLOTS:
     void modelRefusesNetlists();
     void modelReadsNetlistsOfAnyForm_data();
     void modelReadsNetlistsOfAnyForm();
+    void modelStandsInForEmptyModules_data();
+    void modelStandsInForEmptyModules();
+    void modelsOfOneNameStandBesideEachOther();
     void modelNamesADestinationThatCannotBe();
 
 private:
@@ -268,7 +273,9 @@ void TestNetlist::modelHoldsWhatTheNetlistNeeds()
     QCOMPARE(Synthesis::writeSimulationModel(run.path(QStringLiteral(".vg")), model, &message), 0);
     QCOMPARE(message, QStringLiteral("untouched"));
     const QByteArray text = TestSupport::contentsOf(model);
-    QVERIFY(text.startsWith(run.netlist()));
+    // The netlist, up to the contents of its empty module.
+    const QByteArray netlist = run.netlist();
+    QVERIFY(text.startsWith(netlist.left(netlist.lastIndexOf("endmodule"))));
     QStringList expected = instancesIn(run.netlist());
     QVERIFY(expected.size() > 5);
     expected << QStringLiteral("analog") << QStringLiteral("top");
@@ -393,6 +400,115 @@ void TestNetlist::modelReadsNetlistsOfAnyForm()
     const int code = execute(QStringLiteral("iverilog"),
                              {QStringLiteral("-g2005"), QStringLiteral("-tnull"), model}, &output);
     QVERIFY2(code == 0, output.constData());
+}
+
+void TestNetlist::modelStandsInForEmptyModules_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("ports");
+    QTest::addColumn<QByteArray>("said"); // of what is done in place of the module
+    const QByteArray ahb =
+        "input HCLK, input HRESETn, input HSEL, input [1:0] HTRANS, input HREADY, "
+        "output HREADYOUT, output HRESP";
+    const QByteArray apb = "input PCLK, input PSEL, input PENABLE, output PREADY, output PSLVERR";
+    const QByteArray error = "so that an access gets an error response";
+    const QByteArray open = "so that its outputs are open";
+    QTest::newRow("slave of AHB") << QByteArray("box") << ahb << error;
+    QTest::newRow("slave of AHB with more pins")
+        << QByteArray("box")
+        << QByteArray(ahb +
+                      ", input [31:0] HADDR, output [31:0] HRDATA, output [0:3] up, inout pad")
+        << error + " (address %h)\", HADDR);";
+    QTest::newRow("slave of APB") << QByteArray("box") << apb << error;
+    QTest::newRow("slave of APB with more pins")
+        << QByteArray("box")
+        << QByteArray(apb + ", input [11:0] PADDR, output [31:0] PRDATA, output \\a.b ")
+        << error + " (address %h)\", PADDR);";
+    QTest::newRow("name with signs") << QByteArray("\\a%\"b\"\\box ") << apb << error;
+    QTest::newRow("a pin is missing")
+        << QByteArray("box") << QByteArray(ahb).replace("HSEL", "SEL") << open;
+    QTest::newRow("a pin of another width")
+        << QByteArray("box") << QByteArray(ahb).replace("output HRESP", "output [1:0] HRESP")
+        << open;
+    QTest::newRow("a pin of another direction")
+        << QByteArray("box") << QByteArray(apb).replace("output PREADY", "input PREADY") << open;
+    QTest::newRow("a pin in the way of the stand-in's names")
+        << QByteArray("box") << QByteArray(ahb + ", input stand_in") << open;
+    QTest::newRow("no slave") << QByteArray("box") << QByteArray("input a, output b") << open;
+    QTest::newRow("no ports") << QByteArray("box") << QByteArray() << open;
+}
+
+void TestNetlist::modelStandsInForEmptyModules()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(QByteArray, ports);
+    QFETCH(QByteArray, said);
+    SynthesisRun run;
+    run.job.options[QStringLiteral("write_vhdl")] = true;
+    run.addSource(QStringLiteral("top.v"), "(* blackbox *) module " + name + " (" + ports +
+                                               ");\nendmodule\nmodule top (input a);\n(* keep *) " +
+                                               name + " u ();\nendmodule\n");
+    RUN_SUCCEEDS(run);
+    const QString model = run.path(QStringLiteral(".vo"));
+    QString message;
+    QVERIFY2(Synthesis::writeSimulationModel(run.path(QStringLiteral(".vg")), model, &message) == 0,
+             qPrintable(message));
+    const QByteArray text = TestSupport::contentsOf(model);
+    QVERIFY2(text.contains(said), text.constData());
+    QByteArray output;
+    execute(QStringLiteral("iverilog"),
+            {QStringLiteral("-g2005"), QStringLiteral("-Wall"), QStringLiteral("-Wno-portbind"),
+             QStringLiteral("-o"), run.path(QStringLiteral(".sim")), model},
+            &output);
+    for (const QByteArray &line : output.split('\n'))
+        QVERIFY2(line.isEmpty() || line.contains("floating"), line.constData());
+    if (said.contains("open")) {
+        QCOMPARE(execute(QStringLiteral("vvp"),
+                         {QStringLiteral("-n"), run.path(QStringLiteral(".sim"))}, &output),
+                 0);
+        QCOMPARE(output, QByteArray("top.u: no model of box is there, " + said + '\n'));
+    }
+    const QByteArray vhdl = TestSupport::contentsOf(run.path(QStringLiteral(".vho")));
+    QVERIFY2(vhdl.contains(said.left(said.indexOf(" (")) + "\" severity warning;"),
+             vhdl.constData());
+    const QTemporaryDir work;
+    for (const char *standard : {"--std=93", "--std=08"})
+        QVERIFY2(
+            execute(QStringLiteral("ghdl"),
+                    {QStringLiteral("-a"), QLatin1String(standard),
+                     QLatin1String("--workdir=") + work.path(), run.path(QStringLiteral(".vho"))},
+                    &output) == 0 &&
+                output.isEmpty(),
+            output.constData());
+}
+
+void TestNetlist::modelsOfOneNameStandBesideEachOther()
+{
+    const QTemporaryDir folder;
+    QStringList models;
+    for (const char *top : {"one", "two"}) {
+        SynthesisRun run;
+        run.addSource(
+            QStringLiteral("top.v"),
+            "(* blackbox *) module plain (input a);\nendmodule\n"
+            "(* blackbox *) module \\a+b (input a);\nendmodule\nmodule " +
+                QByteArray(top) +
+                " (input c, input [3:0] d, output reg [3:0] q);\nalways @(posedge c) q <= "
+                "q + d;\nplain u (.a(c));\n\\a+b v (.a(c));\nendmodule\n");
+        run.job.options[QStringLiteral("top_module")] = QLatin1String(top);
+        RUN_SUCCEEDS(run);
+        models << folder.filePath(QLatin1String(top) + QStringLiteral(".vo"));
+        QString message;
+        QCOMPARE(Synthesis::writeSimulationModel(run.path(QStringLiteral(".vg")), models.last(),
+                                                 &message),
+                 0);
+    }
+    models << folder.filePath(QStringLiteral("primitives.v"));
+    TestSupport::write(models.last(), primitivesText());
+    QByteArray output;
+    QVERIFY2(compiles(models, &output), output.constData());
+    std::reverse(models.begin(), models.end());
+    QVERIFY2(compiles(models, &output), output.constData());
 }
 
 void TestNetlist::modelNamesADestinationThatCannotBe()

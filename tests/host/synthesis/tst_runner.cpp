@@ -73,6 +73,7 @@ private Q_SLOTS:
     void makesNetlistTemplateAndLog();
     void reportsStagesAndLogWhileItRuns();
     void keepsBlackBoxesWithTheirPorts();
+    void putsTheNotesOfADesignIntoTheTemplate();
     void leavesUnchangedOutputsUntouched();
     void takesPathsOfAnyKind_data();
     void takesPathsOfAnyKind();
@@ -203,6 +204,7 @@ void TestRunner::keepsBlackBoxesWithTheirPorts()
         "    output [4:0] level\n"
         ");\n"
         "endmodule\n"
+        "`define HAVE_analog\n"
         "`endif\n";
     QVERIFY2(netlist.endsWith(declaration), netlist.right(400).constData());
     QVERIFY(netlist.contains("u_analog"));
@@ -212,6 +214,35 @@ void TestRunner::keepsBlackBoxesWithTheirPorts()
     QCOMPARE(Synthesis::writeSimulationModel(run.path(QStringLiteral(".vg")), model, &message), 0);
     QByteArray output;
     QVERIFY2(compiles({model}, &output), output.constData());
+}
+
+void TestRunner::putsTheNotesOfADesignIntoTheTemplate()
+{
+    SynthesisRun run;
+    run.addSource(
+        QStringLiteral("top.v"),
+        "(* note = \"Two words.\\nAnd two lines.\" *)\n"
+        "module top ((* note = \"active low\" *) input rstn, input plain, (* note = \"x\" *) "
+        "output [1:0] y, (* keep, note = 3 *) output z);\n"
+        "assign y = {2{!rstn}};\nassign z = plain;\nendmodule\n");
+    RUN_SUCCEEDS(run);
+    QVERIFY2(
+        TestSupport::contentsOf(run.path(QStringLiteral("_tmp.v")))
+            .endsWith("// Two words.\n// And two lines.\n\ntop u_top (\n    // rstn: active low\n"
+                      "    .rstn(rstn_i),   // input\n"
+                      "    .plain(plain_i), // input\n    // y: x\n"
+                      "    .y(y_o),         // output [1:0]\n"
+                      "    .z(z_o)          // output\n);\n"),
+        TestSupport::contentsOf(run.path(QStringLiteral("_tmp.v"))).constData());
+    run.job.options[QStringLiteral("write_vhdl")] = true;
+    RUN_SUCCEEDS(run);
+    const QByteArray vhdl = TestSupport::contentsOf(run.path(QStringLiteral("_tmp.vhd")));
+    QVERIFY2(vhdl.contains("-- Two words.\n-- And two lines.\n\ncomponent top\n"),
+             vhdl.constData());
+    QVERIFY2(vhdl.contains("    port map (\n        -- rstn: active low\n        rstn => rstn_i,"),
+             vhdl.constData());
+    // Notes are no contents.
+    QVERIFY(!run.netlist().contains("active low"));
 }
 
 void TestRunner::leavesUnchangedOutputsUntouched()

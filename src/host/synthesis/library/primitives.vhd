@@ -1,6 +1,7 @@
--- The primitives that a netlist is made of, as simulation models: the same as primitives.v. Each entity is
--- complete in itself but for the package tv_simulation; a simulation model takes over the text of exactly those
--- that its netlist instantiates.
+-- The primitives that a netlist is made of, as simulation models: the same as primitives.v. Analyse this file in
+-- front of a netlist, into the same library. Each entity is complete in itself but for the package tv_simulation;
+-- a simulation model takes over the text of exactly those that its netlist instantiates, so that it needs no
+-- library.
 --
 -- Clocked primitives: NEG = '1' turns the clock's active edge into the falling one; INIT is the value at
 -- power-up, 'X' where the design gives none. The tables give 'X' only where the 'X' of an input matters.
