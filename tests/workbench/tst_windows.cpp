@@ -566,8 +566,9 @@ private:
     static void addScenes()
     {
         QTest::addColumn<QString>("scene");
-        for (const char *scene : {"start", "project", "editor", "results", "log", "new project",
-                                  "device", "plug-ins", "about", "line", "guide", "message"})
+        for (const char *scene :
+             {"start", "project", "editor", "results", "log", "new project", "device", "plug-ins",
+              "about", "line", "guide", "message", "kept"})
             QTest::newRow(scene) << QString::fromLatin1(scene);
     }
 
@@ -595,6 +596,8 @@ private:
             m_bench->action("Plug-ins")->trigger();
         } else if (scene == QLatin1String("about")) {
             m_bench->action("About Tarvo Workbench")->trigger();
+        } else if (scene == QLatin1String("kept")) {
+            m_bench->action("Bring Back a Configuration")->trigger();
         } else if (scene == QLatin1String("message")) {
             window()->openPath(u'/' + QStringLiteral("a_folder_with_a_long_name/").repeated(12));
         } else if (scene == QLatin1String("line")) {

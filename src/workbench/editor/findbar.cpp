@@ -19,7 +19,7 @@ FindBar::FindBar(QPlainTextEdit *editor, QWidget *parent)
     : QWidget(parent)
     , m_editor(editor)
     , m_text(new QLineEdit)
-    , m_matchCase(new QCheckBox(tr("Match ca&se")))
+    , m_matchCase(new QCheckBox(tr("Match case")))
     , m_state(new QLabel)
 {
     m_text->setObjectName(QStringLiteral("findEdit"));

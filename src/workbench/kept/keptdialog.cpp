@@ -3,6 +3,8 @@
 #include "keptconfigurations.h"
 #include "widgets/symbolicon.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QHeaderView>
@@ -63,7 +65,8 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 120, metrics.height() * 24);
+    resize(QSize(metrics.averageCharWidth() * 120, metrics.height() * 24)
+               .boundedTo(IPCore::roomOnScreen(this)));
     fill();
 }
 

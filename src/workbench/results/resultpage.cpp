@@ -110,8 +110,8 @@ ResultPage::ResultPage(QWidget *parent)
     });
 
     m_left->setObjectName(QStringLiteral("resultTabs"));
-    m_left->addTab(m_figure, tr("P&orts"));
-    m_left->addTab(m_cellTable, tr("Pri&mitives"));
+    m_left->addTab(m_figure, tr("Ports"));
+    m_left->addTab(m_cellTable, tr("Primitives"));
     auto *right = new QSplitter(Qt::Vertical);
     right->addWidget(makeGroup(tr("Share of the device"), m_resourceTable));
     right->addWidget(makeGroup(tr("Files (double-click to open)"), m_files));
@@ -158,8 +158,8 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
     m_figure->setLabel(name);
     m_figure->setPins(pinsOf(report.ports));
     fitFigure();
-    m_left->setTabText(0, tr("P&orts (%1)").arg(report.ports.size()));
-    m_left->setTabText(1, tr("Pri&mitives (%1 kinds)").arg(report.cells.size()));
+    m_left->setTabText(0, tr("Ports (%1)").arg(report.ports.size()));
+    m_left->setTabText(1, tr("Primitives (%1 kinds)").arg(report.cells.size()));
     m_resources->setResources(report.resources);
     m_cells->setCells(report.cells);
     m_made = report.files;

@@ -376,16 +376,17 @@ void MainWindow::showEditorState()
     const QModelIndex selected = m_projectTree->currentIndex();
     m_actions->openSelected->setEnabled(!selectedFile().isEmpty());
     m_actions->openAsText->setEnabled(m_projectModel->isIp(selected));
-    const int selectedIp = m_projectModel->isIp(selected)
-                       ? m_catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
-                       : -1;
+    const int selectedIp =
+        m_projectModel->isIp(selected)
+            ? m_catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
+            : -1;
     const bool canMove = selectedIp >= 0 && m_catalogue.canMove(selectedIp);
     m_actions->moveToDevice->setEnabled(canMove);
     const QString moveTip =
-        canMove   ? tr("Changes the device of the selected IP, and shows what it loses")
+        canMove           ? tr("Changes the device of the selected IP, and shows what it loses")
         : selectedIp >= 0 ? tr("The plug-in of %1 cannot move its IPs to other devices")
-                        .arg(m_catalogue.entries().at(selectedIp).name)
-                  : tr("Select an IP in the project to change its device");
+                                .arg(m_catalogue.entries().at(selectedIp).name)
+                          : tr("Select an IP in the project to change its device");
     m_actions->moveToDevice->setToolTip(moveTip);
     m_actions->moveToDevice->setStatusTip(moveTip);
     const bool isSource = m_projectModel->isSource(selected);
@@ -666,7 +667,7 @@ bool MainWindow::moveIp(const QString &ipcFile, const DEV::DeviceArg &device)
         tr("\"%1\" is for the device %2 now. What was generated is still for the "
            "one before.")
             .arg(name, IpcHead::words(device)),
-        {{tr("&Open It to Generate It Anew…"), [this, ipcFile] { openIp(ipcFile); }}});
+        {{tr("Open It to Generate It Ane&w…"), [this, ipcFile] { openIp(ipcFile); }}});
     return true;
 }
 
@@ -729,7 +730,7 @@ bool MainWindow::bringBack(const QString &keptId)
     showStart();
     m_infoBar->showMessage(
         tr("\"%1\" is as it was. What was generated is not.").arg(shown),
-        {{tr("&Open It to Generate It Anew…"), [this, path = item.origin] { openIp(path); }}});
+        {{tr("Open It to Generate It Ane&w…"), [this, path = item.origin] { openIp(path); }}});
     return true;
 }
 
