@@ -135,7 +135,8 @@ function(tarvo_add_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false")
+    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false"
+        XDG_CACHE_HOME=${CMAKE_BINARY_DIR}/tests/cache)
     if(TARVO_SANITIZE)
         # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
         list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0

@@ -1,5 +1,5 @@
-// Saves pictures of the workbench at work: workbenchpictures FOLDER [all] [dark]. Without "all"
-// those that the documents show.
+// Saves pictures of the workbench at work: workbenchpictures FOLDER [all] [dark] [large]. Without
+// "all" those that the documents show; with "large" in 16 points on a small screen.
 
 #include <dialogdriver.h>
 #include <testsupport.h>
@@ -11,15 +11,18 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/messagemodel.h>
+#include <workbench/window/helpwindow.h>
 #include <workbench/window/mainwindow.h>
 
 #include <dev/devicedb.h>
+#include <ipcore/ipcore.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QDockWidget>
 #include <QGraphicsView>
 #include <QLineEdit>
 #include <QPushButton>
@@ -146,6 +149,13 @@ int main(int argc, char *argv[])
     all = arguments.removeAll(QStringLiteral("all")) > 0;
     if (arguments.removeAll(QStringLiteral("dark")) > 0)
         useDarkPalette();
+    QSize size(1280, 800);
+    if (arguments.removeAll(QStringLiteral("large")) > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(16);
+        QApplication::setFont(font);
+        size = QSize(1366, 698);
+    }
     folder.setPath(arguments.value(0));
 
     const QTemporaryDir home;
@@ -160,7 +170,8 @@ int main(int argc, char *argv[])
         catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/missingsymbol"), false);
     }
     MainWindow window(catalogue, settings);
-    window.resize(1280, 800);
+    window.setRunStore(RunStore(home.filePath(QStringLiteral("runs"))));
+    window.resize(size);
     window.show();
     save(&window, "workbench-start", false);
 
@@ -228,10 +239,18 @@ int main(int argc, char *argv[])
     warning.text = QStringLiteral("the wire is used but has no driver");
     warning.count = 4;
     report.messages = {mistake, warning};
-    window.messages()->setReport(report);
     window.closeProject();
     window.openProject(projectFile);
+    window.messages()->setReport(report);
+    window.findChild<QDockWidget *>(QStringLiteral("outputDock"))->show();
     save(&window, "workbench-messages", false);
+    action(window, "Results of the Last Run")->trigger();
+    save(&window, "workbench-oldresults", false);
+    saveDialog([&] { IPCore::showErrorMsgs(report.summary, {mistake.toString()}); },
+               "workbench-error");
+    window.showGuide();
+    save(window.help(), "workbench-guide", false);
+    window.help()->close();
     window.closeProject();
     save(&window, "workbench-recent", false);
     window.resize(800, 560);

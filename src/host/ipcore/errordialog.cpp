@@ -1,5 +1,8 @@
 #include "errordialog.h"
 
+#include "focusring.h"
+#include "screenfit.h"
+
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QFontDatabase>
@@ -18,6 +21,7 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     , m_title(title)
     , m_details(new QPlainTextEdit)
 {
+    FocusRing::install();
     setWindowTitle(tr("Error"));
 
     auto *icon = new QLabel;
@@ -37,13 +41,15 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     m_details->setObjectName(QStringLiteral("detailsEdit"));
     m_details->setAccessibleName(tr("Details"));
     m_details->setReadOnly(true);
-    m_details->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_details->setTabChangesFocus(true);
+    m_details->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere); // paths have no blanks
     m_details->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_details->setPlainText(lines.join(u'\n'));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    buttons->button(QDialogButtonBox::Close)->setDefault(true);
-    auto *copy = buttons->addButton(tr("&Copy"), QDialogButtonBox::ActionRole);
+    QPushButton *close = buttons->button(QDialogButtonBox::Close);
+    auto *copy = buttons->addButton(tr("Cop&y"), QDialogButtonBox::ActionRole);
     copy->setObjectName(QStringLiteral("copyButton"));
     connect(copy, &QPushButton::clicked, this, &ErrorDialog::copyAll);
     connect(buttons, &QDialogButtonBox::rejected, this, &ErrorDialog::reject);
@@ -58,9 +64,12 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(1, 1);
 
+    close->setDefault(true); // only now: a button without a dialog cannot be its default
+    close->setFocus();       // Enter and the space bar close it
     if (!lines.isEmpty()) {
         const QFontMetrics metrics(m_details->font());
-        resize(metrics.averageCharWidth() * 88, metrics.lineSpacing() * 20);
+        const QSize wanted(metrics.averageCharWidth() * 88, metrics.lineSpacing() * 20);
+        resize(wanted.boundedTo(roomOnScreen(this)));
     }
 }
 

@@ -1,6 +1,8 @@
 #include "ipcore.h"
 
 #include "errordialog.h"
+#include "synthesismonitor.h"
+#include "usermessages.h"
 #include "writinglocks.h"
 
 #include <core/project.h>
@@ -76,6 +78,8 @@ QVariantMap processIPInfoSpec(const QString &path, QString *error)
     const auto help = ipInfo.find(QStringLiteral("ipcore.doc.help"));
     if (help != ipInfo.end() && !help->toString().isEmpty())
         *help = QFileInfo(path).absoluteDir().absoluteFilePath(help->toString());
+    if (!ipInfo.isEmpty())
+        addProductFolder(QFileInfo(path).absolutePath());
     return ipInfo;
 }
 
@@ -150,7 +154,9 @@ int decode(const QString &outDir, const QString &netlist, const QString &destina
 
 void showErrorMsgs(const QString &title, const QStringList &details)
 {
-    ErrorDialog dialog(title, details, Core::ViewManager::dialogParent());
+    if (SynthesisMonitor::instance().isCancellation(title))
+        return;
+    ErrorDialog dialog(title, detailsForUser(title, details), Core::ViewManager::dialogParent());
     dialog.exec();
 }
 

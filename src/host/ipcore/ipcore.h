@@ -61,8 +61,10 @@ TARVO_IPCORE_EXPORT bool generateFile(const QString &path, const QStringList &li
 TARVO_IPCORE_EXPORT int decode(const QString &outDir, const QString &netlist,
                                const QString &destination, QString &message);
 
-// Shows `title` and the details in a modal window and returns when it is closed. Empty details are
-// left out.
+// Shows `title` and the details in a modal window and returns when it is closed. Details that name
+// files of the user's come before those about the files beside a descriptor that was read; empty
+// ones and those that repeat the title or each other are left out. Shows nothing if `title` is what
+// a run that was cancelled just now ended with: whoever cancels knows.
 TARVO_IPCORE_EXPORT void showErrorMsgs(const QString &title, const QStringList &details);
 
 // Adds files to the open project; does nothing without one.

@@ -1,6 +1,8 @@
 #include "microsyschildipgendlg.h"
 
+#include "focusring.h"
 #include "pinfigureview.h"
+#include "screenfit.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -39,6 +41,19 @@ void forgetSizes(const QWidget *page)
     const QList<QLayout *> layouts = page->findChildren<QLayout *>();
     for (QLayout *layout : layouts)
         layout->invalidate();
+}
+
+// Everything of the page that can have the focus, as Tab walks within the page.
+QList<QWidget *> fieldsOf(QWidget *page)
+{
+    QList<QWidget *> fields;
+    QWidget *widget = page;
+    do {
+        if ((widget == page || page->isAncestorOf(widget)) && widget->focusPolicy() != Qt::NoFocus)
+            fields.append(widget);
+        widget = widget->nextInFocusChain();
+    } while (widget != page);
+    return fields;
 }
 
 // Shows a wrapped label in the height that its text needs at the given width, up to a few lines;
@@ -83,7 +98,9 @@ MicroSysChildIPGenDlg::MicroSysChildIPGenDlg(QWidget *parent)
     , m_tabs(new QTabWidget)
     , m_figure(new PinFigureView)
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
+    , m_lastField(m_tabs->tabBar())
 {
+    FocusRing::install();
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
     m_module->setObjectName(QStringLiteral("moduleNameLabel"));
@@ -183,7 +200,7 @@ void MicroSysChildIPGenDlg::setVisible(bool visible)
         constexpr qreal shareOfScreen = 0.9;
         const QSize room = (QSizeF(screen()->availableSize()) * shareOfScreen).toSize();
         if (!testAttribute(Qt::WA_Resized))
-            resize(sizeHint().boundedTo(room));
+            resize(sizeHint().boundedTo(room.boundedTo(roomOnScreen(this))));
         const int options = optionsSize().width();
         m_splitter->setSizes({options, qMax(1, width() - options)});
     }
@@ -210,7 +227,16 @@ void MicroSysChildIPGenDlg::uiSetSummaryText(const QString &text)
 void MicroSysChildIPGenDlg::uiAddTab(QWidget *page, const QString &title)
 {
     forgetSizes(page);
+    // An area that only scrolls would take the focus and not show it; it follows its fields.
+    const QList<QScrollArea *> areas = page->findChildren<QScrollArea *>();
+    for (QScrollArea *area : areas)
+        area->setFocusPolicy(Qt::NoFocus);
     m_tabs->addTab(page, title);
+    const QList<QWidget *> fields = fieldsOf(page);
+    for (QWidget *field : fields) {
+        setTabOrder(m_lastField, field);
+        m_lastField = field;
+    }
 }
 
 void MicroSysChildIPGenDlg::uiSetFigurePins(const QList<Utils::PinFigure> &pins)

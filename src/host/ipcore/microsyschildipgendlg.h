@@ -47,7 +47,7 @@ protected:
     void uiSetLabelText(const QString &text);
     // Plain text; line ends count.
     void uiSetSummaryText(const QString &text);
-    // Takes ownership of the page.
+    // Takes ownership of the page. Tab walks the pages' fields before the figure and the buttons.
     void uiAddTab(QWidget *page, const QString &title);
     void uiSetFigurePins(const QList<Utils::PinFigure> &pins);
 
@@ -61,6 +61,7 @@ private:
     QTabWidget *m_tabs;
     PinFigureView *m_figure;
     QDialogButtonBox *m_buttons;
+    QWidget *m_lastField; // the last of the options, as Tab walks
     QString m_summaryText;
     bool m_sized = false; // the first size has been chosen
 };

@@ -1,5 +1,7 @@
 #include "pinfigureview.h"
 
+#include "focusring.h"
+
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
@@ -53,6 +55,7 @@ void drawArrowHead(QPainter *painter, const QPointF &tip, int direction, qreal l
 PinFigureView::PinFigureView(QWidget *parent)
     : QAbstractScrollArea(parent)
 {
+    FocusRing::install();
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Base);
     viewport()->setAutoFillBackground(true);
@@ -337,9 +340,12 @@ void PinFigureView::wheelEvent(QWheelEvent *event)
 void PinFigureView::keyPressEvent(QKeyEvent *event)
 {
     const QPoint centre = viewport()->rect().center();
-    if (event->matches(QKeySequence::ZoomIn))
+    const bool control = event->modifiers() & Qt::ControlModifier;
+    // Also where the desktop has no keys of its own for it; "+" may need Shift.
+    if (event->matches(QKeySequence::ZoomIn) ||
+        (control && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)))
         setZoom(m_zoom * zoomStep, centre);
-    else if (event->matches(QKeySequence::ZoomOut))
+    else if (event->matches(QKeySequence::ZoomOut) || (control && event->key() == Qt::Key_Minus))
         setZoom(m_zoom / zoomStep, centre);
     else if (event->key() == Qt::Key_0 && event->modifiers() == Qt::ControlModifier)
         setZoom(1, centre);

@@ -12,8 +12,9 @@ QT_FORWARD_DECLARE_CLASS(QPushButton)
 namespace IPCore
 {
 
-// Shows a running tool. Never ends the run itself: Cancel, Escape and the window's close button
-// only ask for it.
+// Shows a running tool. Never ends the run itself: Cancel, the window's close button and Escape,
+// pressed twice, only ask for it. No other key does: one may still be on its way to the window that
+// was there before.
 class ProgressDialog : public QDialog
 {
     Q_OBJECT
@@ -31,17 +32,23 @@ public:
 
     void reject() override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 Q_SIGNALS:
     void cancelRequested();
 
 private:
     void showElapsed();
+    void disarm();
 
     QLabel *m_stage;
     QLabel *m_elapsed;
     QProgressBar *m_bar;
     QPlainTextEdit *m_log;
+    QLabel *m_hint;
     QPushButton *m_cancel;
+    QTimer m_armed; // runs after a first Escape, while a second one counts
     QTimer m_tick;
     QElapsedTimer m_clock;
 };

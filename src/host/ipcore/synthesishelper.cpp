@@ -2,6 +2,7 @@
 
 #include "progressdialog.h"
 #include "synthesismonitor.h"
+#include "usermessages.h"
 #include "writinglocks.h"
 
 #include <synthesis/runner.h>
@@ -66,7 +67,7 @@ SynthesisHelper::SynthesisHelper(QObject *parent)
 SynthesisHelper::~SynthesisHelper()
 {
     if (isRunning()) {
-        Synthesis::RunReport report = d->runner.report();
+        Synthesis::RunReport report = this->report();
         report.exitCode = 1;
         report.cancelled = true;
         report.summary = tr("The synthesis was cancelled.");
@@ -149,7 +150,9 @@ QStringList SynthesisHelper::detailErrorMsgs() const
 
 Synthesis::RunReport SynthesisHelper::report() const
 {
-    return d->runner.report();
+    Synthesis::RunReport report = d->runner.report();
+    report.messages = userFilesFirst(report.messages);
+    return report;
 }
 
 } // namespace IPCore

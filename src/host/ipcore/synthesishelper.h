@@ -51,7 +51,8 @@ public:
     // Of the last run: the summary error, empty after a success, and the detailed messages.
     QString errorMsg() const;
     QStringList detailErrorMsgs() const;
-    // All of the last run; while one is active, what is known of it so far.
+    // All of the last run; while one is active, what is known of it so far. Messages about the
+    // user's files come first.
     Synthesis::RunReport report() const;
 
 Q_SIGNALS:

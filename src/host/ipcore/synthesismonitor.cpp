@@ -38,14 +38,21 @@ void SynthesisMonitor::cancelAll()
     }
 }
 
+bool SynthesisMonitor::isCancellation(const QString &message) const
+{
+    return !m_cancellation.isEmpty() && message == m_cancellation;
+}
+
 void SynthesisMonitor::add(SynthesisHelper *helper)
 {
+    m_cancellation.clear();
     m_active << helper;
     Q_EMIT runStarted(helper);
 }
 
 void SynthesisMonitor::remove(SynthesisHelper *helper, const Synthesis::RunReport &report)
 {
+    m_cancellation = report.cancelled ? report.summary : QString();
     if (m_active.removeOne(helper))
         Q_EMIT runFinished(report);
 }

@@ -27,6 +27,8 @@ public:
     QList<SynthesisHelper *> activeRuns() const;
     // Asks all active runs to end; runFinished() follows for each.
     void cancelAll();
+    // Whether `message` is the summary of the last run, and that was cancelled.
+    bool isCancellation(const QString &message) const;
 
 Q_SIGNALS:
     // The helper's own signals tell how the run goes on.
@@ -43,6 +45,7 @@ private:
     void remove(SynthesisHelper *helper, const Synthesis::RunReport &report);
 
     QList<SynthesisHelper *> m_active;
+    QString m_cancellation; // summary of the last run, if it was cancelled
 };
 
 } // namespace IPCore

@@ -222,6 +222,29 @@ void IPView::buildButtons()
         makeButton(QStringLiteral(":/image/zoom_out.png"), tr("Zoom out"), SLOT(zoomOut()));
     m_zoomInButton =
         makeButton(QStringLiteral(":/image/zoom_in.png"), tr("Zoom in"), SLOT(zoomIn()));
+    reserveRoom();
+}
+
+void IPView::reserveRoom()
+{
+    const int extent = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const int widest =
+        qMax(m_zoomInButton->sizeHint().width(), m_zoomOutButton->sizeHint().width());
+    constexpr int ring = 2; // of the focus
+    setViewportMargins(ring, ring, widest + extent + 2 * ring, ring);
+}
+
+bool IPView::event(QEvent *event)
+{
+    const bool result = QGraphicsView::event(event);
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        constexpr int width = 2;
+        QPainter painter(this);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), width, Qt::SolidLine,
+                            Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+    }
+    return result;
 }
 
 // Opening and updating
@@ -551,6 +574,7 @@ bool IPView::focusNextPrevChild(bool next)
 void IPView::focusInEvent(QFocusEvent *event)
 {
     QGraphicsView::focusInEvent(event);
+    update(); // the ring around the view
     const QList<IPItem *> blocks = clickableBlocks();
     if (event->reason() == Qt::TabFocusReason)
         setFocusedBlock(blocks.value(0));
@@ -563,6 +587,7 @@ void IPView::focusInEvent(QFocusEvent *event)
 void IPView::focusOutEvent(QFocusEvent *event)
 {
     QGraphicsView::focusOutEvent(event);
+    update();
     updateFocusFrame();
 }
 
@@ -575,9 +600,12 @@ void IPView::keyPressEvent(QKeyEvent *event)
             event->ignore();
         return;
     }
-    if (event->matches(QKeySequence::ZoomIn))
+    const bool control = event->modifiers() & Qt::ControlModifier;
+    // Also where the desktop has no keys of its own for it; "+" may need Shift.
+    if (event->matches(QKeySequence::ZoomIn) ||
+        (control && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)))
         zoomIn();
-    else if (event->matches(QKeySequence::ZoomOut))
+    else if (event->matches(QKeySequence::ZoomOut) || (control && event->key() == Qt::Key_Minus))
         zoomOut();
     else if (event->key() == Qt::Key_0 && event->modifiers() == Qt::ControlModifier)
         setFitted(true);
@@ -643,6 +671,8 @@ void IPView::changeEvent(QEvent *event)
     QGraphicsView::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         updateLabelFont();
+    else if (event->type() == QEvent::StyleChange)
+        reserveRoom();
 }
 
 void IPView::updateLabelFont()

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void onSavePicture();
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -102,6 +103,8 @@ private:
 
     void buildScene();
     void buildButtons();
+    // Leaves a strip beside the diagram for the zoom buttons, so that they never cover a block.
+    void reserveRoom();
     void setAvailable(QLatin1String key, bool available);
     // Runs the block's dialog on the option map.
     template <class Dialog>

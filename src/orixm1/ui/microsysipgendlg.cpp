@@ -14,9 +14,12 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace TARVOORIXM1
 {
@@ -109,6 +112,35 @@ void MicroSysIPGenDlg::setContentWidget(QWidget *widget)
     auto *layout = new QVBoxLayout(ui->wgtContainer);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(widget);
+
+    // Tab walks as people read: what stands above, the content with what is in it, the buttons,
+    // which have their places behind the last field already.
+    QList<QWidget *> inner = widget->findChildren<QWidget *>();
+    inner.erase(
+        std::remove_if(inner.begin(), inner.end(),
+                       [](const QWidget *child) { return child->focusPolicy() == Qt::NoFocus; }),
+        inner.end());
+    QWidget *last = ui->comboBoxLanguage;
+    const QList<QWidget *> all = QList<QWidget *>{widget} + inner;
+    for (QWidget *next : all) {
+        setTabOrder(last, next);
+        last = next;
+    }
+}
+
+void MicroSysIPGenDlg::setVisible(bool visible)
+{
+    if (visible && !m_sized) {
+        m_sized = true;
+        // What the title bar takes is not known before it is there. A screen that is not even wide
+        // enough is none of a desktop: there the system decides.
+        const int titleBar = qMax(40, 2 * fontMetrics().height());
+        const QSize screenSize = screen()->availableSize();
+        const int room = screenSize.height() - titleBar;
+        if (screenSize.width() >= width() && height() > room)
+            resize(width(), room);
+    }
+    QDialog::setVisible(visible);
 }
 
 QStringList MicroSysIPGenDlg::createInErrors() const

@@ -51,6 +51,9 @@ public:
     bool confirmOutputFolder();
     void showErrors(const QStringList &errors);
 
+    // Keeps the first size within the height of the screen, buttons included.
+    void setVisible(bool visible) override;
+
 protected:
     virtual void updateDeviceDependentState();
     virtual void readDeviceFromIPConfig(QSettings &settings);
@@ -72,6 +75,7 @@ private:
     DEV::DeviceArg device;
     QString browseSuffix; // follows the folder that Browse gave; empty
     bool openMode = false;
+    bool m_sized = false; // the first size has been chosen
 };
 
 } // namespace TARVOORIXM1

@@ -2,7 +2,9 @@
 
 #include "cataloguemodel.h"
 #include "ipcatalogue.h"
+#include "widgets/focusforward.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +25,7 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     , m_tree(new QTreeView)
     , m_details(new QLabel)
     , m_create(new QPushButton(tr("&Create IP…")))
+    , m_help(new QAction(tr("Help on This IP"), this))
 {
     m_filter->setSourceModel(m_model);
     m_filter->setRecursiveFilteringEnabled(true);
@@ -73,12 +76,19 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
             Q_EMIT activated(currentIp());
     });
 
+    connect(m_help, &QAction::triggered, this, [this] {
+        if (currentIp() >= 0)
+            Q_EMIT helpRequested(currentIp());
+    });
+    m_tree->addAction(m_help);
+    m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
+
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_details);
     layout->addWidget(m_create);
-    setFocusProxy(m_tree);
+    forwardFocus(this, m_tree);
     reload();
 }
 
@@ -115,6 +125,8 @@ void CatalogueView::showDetails()
 {
     const QModelIndex index = m_tree->currentIndex();
     const int ip = currentIp();
+    Q_EMIT selectionChanged();
+    m_help->setEnabled(ip >= 0 && !m_catalogue.entries().at(ip).help.isEmpty());
     if (ip < 0) {
         m_details->setText(m_catalogue.entries().isEmpty()
                                ? tr("No plug-in offers an IP. Tools > Plug-ins says why.")

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+QT_FORWARD_DECLARE_CLASS(QAction)
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
@@ -34,6 +35,9 @@ public:
 Q_SIGNALS:
     // Double-click, Enter or the button; also for an IP that does not support the device.
     void activated(int index);
+    void selectionChanged();
+    // Its document, from the context menu; the IP has one.
+    void helpRequested(int index);
 
 private:
     void showDetails();
@@ -45,6 +49,7 @@ private:
     QTreeView *m_tree;
     QLabel *m_details;
     QPushButton *m_create;
+    QAction *m_help;
 };
 
 } // namespace Workbench

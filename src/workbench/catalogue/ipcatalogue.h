@@ -36,6 +36,7 @@ public:
     // Folders that hold plug-ins' data folders, besides the folder of each plug-in itself; see
     // dataFolderOf().
     void setDataFolders(const QStringList &folders) { m_dataFolders = folders; }
+    const QStringList &dataFolders() const { return m_dataFolders; }
     // A file that keeps the results of probing for the next start, as long as the libraries do not
     // change. Without one they are kept while this process lives. Of what fails, only blocking is
     // kept, since finding it takes time.

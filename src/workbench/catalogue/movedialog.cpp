@@ -1,5 +1,7 @@
 #include "movedialog.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
@@ -51,7 +53,8 @@ MoveDialog::MoveDialog(const QString &file, const QString &from, const QString &
     const QFontMetrics metrics = fontMetrics();
     setMinimumWidth(metrics.averageCharWidth() * 70);
     if (!losses.isEmpty())
-        resize(metrics.averageCharWidth() * 80, metrics.height() * 18);
+        resize(QSize(metrics.averageCharWidth() * 80, metrics.height() * 18)
+                   .boundedTo(IPCore::roomOnScreen(this)));
 }
 
 } // namespace Workbench

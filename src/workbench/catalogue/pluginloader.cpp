@@ -1,10 +1,12 @@
 #include "pluginloader.h"
 
+#include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLibrary>
 #include <QPluginLoader>
 #include <QSet>
@@ -23,6 +25,23 @@ namespace
 QString tr(const char *text)
 {
     return QCoreApplication::translate("Workbench::IpCatalogue", text);
+}
+
+// The help document of an IP: as its plug-in says, or else as the descriptor with its id does.
+QString helpOf(BaseIPCoreInterface &core, const QString &dataFolder)
+{
+    const QString key = QStringLiteral("ipcore.doc.help");
+    QString help = core.getIpinfoMap().value(key).toString();
+    const QStringList names =
+        QDir(dataFolder).entryList({QStringLiteral("*.ipspec")}, QDir::Files, QDir::Name);
+    for (const QString &name : names) {
+        if (!help.isEmpty())
+            break;
+        const QVariantMap ipInfo = IPCore::processIPInfoSpec(QDir(dataFolder).filePath(name));
+        if (ipInfo.value(QStringLiteral("ipcore.id")).toString() == core.id())
+            help = ipInfo.value(key).toString();
+    }
+    return QFileInfo(help).isFile() ? help : QString();
 }
 
 } // namespace
@@ -109,6 +128,7 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
             ip.entry.version = object->version();
             ip.entry.summary = object->summary();
             ip.entry.category = object->category();
+            ip.entry.help = helpOf(*object, dataFolder);
         });
         if (!reason.isEmpty())
             result.mistakes.append(tr("It failed when it was asked for an IP: %1.").arg(reason));

@@ -27,6 +27,7 @@ struct IpEntry {
     QString summary;
     QStringList category; // from the outermost to the innermost
     QString library;      // full path of the plug-in
+    QString help;         // full path of its document; empty without one
 };
 
 // A library that was loaded and asked for its IPs.

@@ -3,6 +3,8 @@
 #include "ipcatalogue.h"
 #include "widgets/symbolicon.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -100,7 +102,8 @@ PluginsDialog::PluginsDialog(const IpCatalogue &catalogue, const QStringList &fo
     layout->setRowStretch(0, 3);
     layout->setRowStretch(5, 1);
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 90, metrics.height() * 30);
+    resize(QSize(metrics.averageCharWidth() * 90, metrics.height() * 30)
+               .boundedTo(IPCore::roomOnScreen(this)));
 }
 
 QStringList PluginsDialog::folders() const

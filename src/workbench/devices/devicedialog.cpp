@@ -2,6 +2,8 @@
 
 #include "devicepicker.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -27,7 +29,8 @@ DeviceDialog::DeviceDialog(const QString &title, const QString &currentId, QWidg
     layout->addWidget(m_picker, 1);
     layout->addWidget(buttons);
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 108, metrics.height() * 28);
+    resize(QSize(metrics.averageCharWidth() * 108, metrics.height() * 28)
+               .boundedTo(IPCore::roomOnScreen(this)));
 }
 
 DEV::DeviceArg DeviceDialog::device() const

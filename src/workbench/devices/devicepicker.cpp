@@ -1,5 +1,7 @@
 #include "devicepicker.h"
 
+#include "widgets/focusforward.h"
+#include "widgets/shortcuts.h"
 #include <core/idecore.h>
 #include <dev/devicedb.h>
 
@@ -82,7 +84,7 @@ DevicePicker::DevicePicker(QWidget *parent)
             &DevicePicker::deviceChanged);
     connect(m_table, &QTableView::activated, this, &DevicePicker::activated);
 
-    auto *copy = new QPushButton(tr("&Copy Part Number"));
+    auto *copy = new QPushButton(tr("Copy &Part Number"));
     copy->setObjectName(QStringLiteral("copyPartNumberButton"));
     copy->setAutoDefault(false);
     connect(copy, &QPushButton::clicked, this, &DevicePicker::copyPartNumber);
@@ -90,7 +92,7 @@ DevicePicker::DevicePicker(QWidget *parent)
             [this, copy] { copy->setEnabled(!device().isNull()); });
     copy->setEnabled(false);
     auto *copyAction = new QAction(tr("Copy Part Number"), m_table);
-    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setShortcuts(keysOf(QKeySequence::Copy));
     copyAction->setShortcutContext(Qt::WidgetShortcut);
     connect(copyAction, &QAction::triggered, this, &DevicePicker::copyPartNumber);
     m_table->addAction(copyAction);
@@ -104,7 +106,7 @@ DevicePicker::DevicePicker(QWidget *parent)
     layout->addWidget(m_count, 3, 0);
     layout->addWidget(copy, 3, 1, Qt::AlignRight);
     layout->setRowStretch(2, 1);
-    setFocusProxy(m_text);
+    forwardFocus(this, m_text);
 
     connect(m_filter, &DeviceFilter::rowsInserted, this, &DevicePicker::showCount);
     connect(m_filter, &DeviceFilter::rowsRemoved, this, &DevicePicker::showCount);

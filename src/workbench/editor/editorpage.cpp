@@ -4,6 +4,7 @@
 #include "findbar.h"
 #include "highlighting.h"
 #include "unsavedcopy.h"
+#include "widgets/focusforward.h"
 #include "widgets/infobar.h"
 
 #include <utils/fileutils.h>
@@ -41,7 +42,7 @@ EditorPage::EditorPage(const QString &path, QWidget *parent)
     layout->addWidget(m_infoBar);
     layout->addWidget(m_editor, 1);
     layout->addWidget(m_findBar);
-    setFocusProxy(m_editor);
+    forwardFocus(this, m_editor);
 }
 
 QByteArray EditorPage::digestOf(const QByteArray &bytes)
@@ -182,7 +183,7 @@ void EditorPage::offerEditing()
     if (isLoading() || !m_infoBar->isHidden())
         return;
     m_infoBar->showMessage(tr("This file is open for reading. Press Ctrl+E to edit it."),
-                           {{tr("&Edit"), [this] { startEditing(); }}});
+                           {{tr("Edit"), [this] { startEditing(); }}});
 }
 
 bool EditorPage::save(QString *error)

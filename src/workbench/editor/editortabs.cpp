@@ -121,7 +121,7 @@ bool EditorTabs::savePage(EditorPage *page)
                                                   savePage(page);
                                               }}});
     } else if (!saved) {
-        page->infoBar()->showMessage(error, {{tr("Try &Again"), [this, page] { savePage(page); }}});
+        page->infoBar()->showMessage(error, {{tr("Try A&gain"), [this, page] { savePage(page); }}});
     }
     watch();
     return saved;

@@ -1,6 +1,7 @@
 #include "findbar.h"
 
 #include "textfile.h"
+#include "widgets/focusforward.h"
 #include "widgets/symbolicon.h"
 
 #include <QCheckBox>
@@ -18,7 +19,7 @@ FindBar::FindBar(QPlainTextEdit *editor, QWidget *parent)
     : QWidget(parent)
     , m_editor(editor)
     , m_text(new QLineEdit)
-    , m_matchCase(new QCheckBox(tr("Match &case")))
+    , m_matchCase(new QCheckBox(tr("Match case")))
     , m_state(new QLabel)
 {
     m_text->setObjectName(QStringLiteral("findEdit"));
@@ -54,7 +55,7 @@ FindBar::FindBar(QPlainTextEdit *editor, QWidget *parent)
     layout->addWidget(m_matchCase);
     layout->addWidget(m_state, 1);
     layout->addWidget(close);
-    setFocusProxy(m_text);
+    forwardFocus(this, m_text);
     hide();
 }
 

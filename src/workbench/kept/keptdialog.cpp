@@ -3,6 +3,8 @@
 #include "keptconfigurations.h"
 #include "widgets/symbolicon.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QHeaderView>
@@ -64,7 +66,8 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     m_bringBack->setDefault(true);
     m_list->setFocus();
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 120, metrics.height() * 24);
+    resize(QSize(metrics.averageCharWidth() * 120, metrics.height() * 24)
+               .boundedTo(IPCore::roomOnScreen(this)));
     fill();
 }
 

@@ -23,16 +23,24 @@ void MessageModel::setReport(const Synthesis::RunReport &report)
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
     m_rows.append({report.exitCode == 0 || report.cancelled ? Summary : Error,
                    name.isEmpty() ? report.summary : tr("%1: %2").arg(name, report.summary),
-                   report.logFile, 0});
+                   report.logFile, 0, true});
     for (const auto severity : {Synthesis::Message::Error, Synthesis::Message::Warning}) {
         for (const Synthesis::Message &message : report.messages) {
             if (message.severity != severity)
                 continue;
+            // One cause is one message: the headline gets the place.
+            if (message.text == report.summary && report.exitCode != 0) {
+                if (!message.file.isEmpty() && m_rows.first().line == 0) {
+                    m_rows.first().file = message.file;
+                    m_rows.first().line = message.line;
+                }
+                continue;
+            }
             const QString text = message.count > 1
                                      ? tr("%1 (%2 times)").arg(message.text).arg(message.count)
                                      : message.text;
             m_rows.append({severity == Synthesis::Message::Error ? Error : Warning, text,
-                           message.file, message.line});
+                           message.file, message.line, false});
         }
     }
     endResetModel();
@@ -41,7 +49,7 @@ void MessageModel::setReport(const Synthesis::RunReport &report)
 void MessageModel::append(Severity severity, const QString &text, const QString &file)
 {
     beginInsertRows({}, m_rows.size(), m_rows.size());
-    m_rows.append({severity, text, file, 0});
+    m_rows.append({severity, text, file, 0, false});
     endInsertRows();
 }
 
@@ -54,8 +62,18 @@ void MessageModel::clear()
 
 int MessageModel::count(Severity severity) const
 {
-    return int(std::count_if(m_rows.begin(), m_rows.end(),
-                             [severity](const Row &row) { return row.severity == severity; }));
+    const auto headline = std::count_if(m_rows.begin(), m_rows.end(), [severity](const Row &row) {
+        return row.severity == severity && row.isHeadline;
+    });
+    const auto others = std::count_if(m_rows.begin(), m_rows.end(), [severity](const Row &row) {
+        return row.severity == severity && !row.isHeadline;
+    });
+    return int(others > 0 ? others : headline);
+}
+
+bool MessageModel::hasPlaces() const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(), [](const Row &row) { return row.line > 0; });
 }
 
 QString MessageModel::nameOf(Severity severity)

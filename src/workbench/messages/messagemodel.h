@@ -24,7 +24,10 @@ public:
     // Puts a message of the workbench itself at the end.
     void append(Severity severity, const QString &text, const QString &file = QString());
     void clear();
+    // The headline of a run that failed is an error of its own only if nothing explains it.
     int count(Severity severity) const;
+    // Whether a message names a line of a file.
+    bool hasPlaces() const;
     // One line for each message, "severity: file:line: text".
     QString toText() const;
 
@@ -40,6 +43,7 @@ private:
         QString text;
         QString file;
         int line = 0;
+        bool isHeadline = false; // of a run
     };
     static QString nameOf(Severity severity);
 

@@ -1,11 +1,14 @@
 #include "messagesview.h"
 
 #include "messagemodel.h"
+#include "widgets/focusforward.h"
+#include "widgets/shortcuts.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -34,8 +37,7 @@ MessagesView::MessagesView(MessageModel *model, QWidget *parent)
     connect(m_list, &QTreeView::activated, this, &MessagesView::open);
 
     auto *copyAction = new QAction(tr("Copy"), m_list);
-    copyAction->setShortcut(QKeySequence::Copy);
-    copyAction->setShortcutContext(Qt::WidgetShortcut);
+    m_list->installEventFilter(this); // for its keys, before the window takes them
     connect(copyAction, &QAction::triggered, this, &MessagesView::copy);
     auto *clearAction = new QAction(tr("Clear"), m_list);
     connect(clearAction, &QAction::triggered, model, &MessageModel::clear);
@@ -45,7 +47,21 @@ MessagesView::MessagesView(MessageModel *model, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
-    setFocusProxy(m_list);
+    forwardFocus(this, m_list);
+}
+
+bool MessagesView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const QKeySequence pressed(int(key->modifiers()) | key->key());
+    if (watched != m_list || !keysOf(QKeySequence::Copy).contains(pressed))
+        return QWidget::eventFilter(watched, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        copy();
+    return true;
 }
 
 void MessagesView::step(int direction)

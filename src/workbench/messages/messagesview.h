@@ -28,6 +28,9 @@ public Q_SLOTS:
 Q_SIGNALS:
     void openRequested(const QString &path, int line);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void open(const QModelIndex &index);
 

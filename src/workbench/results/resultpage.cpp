@@ -1,11 +1,14 @@
 #include "resultpage.h"
 
 #include "resulttables.h"
+#include "widgets/focusforward.h"
 #include "widgets/infobar.h"
 #include "widgets/symbolicon.h"
 
 #include <ipcore/pinfigureview.h>
+#include <synthesis/resources.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -67,7 +70,8 @@ ResultPage::ResultPage(QWidget *parent)
     : QWidget(parent)
     , m_heading(new QLabel)
     , m_summary(new QLabel)
-    , m_change(new QPushButton(tr("&Change the IP…")))
+    , m_age(new QLabel)
+    , m_change(new QPushButton(tr("Change the &IP…")))
     , m_leftOver(new InfoBar)
     , m_left(new QTabWidget)
     , m_figure(new IPCore::PinFigureView)
@@ -81,11 +85,18 @@ ResultPage::ResultPage(QWidget *parent)
     large.setPointSizeF(large.pointSizeF() * 1.4);
     m_heading->setFont(large);
     m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setWordWrap(true);
+    for (QLabel *label : {m_heading, m_summary, m_age})
+        label->setMinimumWidth(1); // a long name must not push the buttons off the window
     m_heading->setObjectName(QStringLiteral("resultHeading"));
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);
     m_summary->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_summary->setObjectName(QStringLiteral("resultSummary"));
+    m_age->setTextFormat(Qt::PlainText);
+    m_age->setWordWrap(true);
+    m_age->setObjectName(QStringLiteral("resultAge"));
+    m_age->hide();
     m_resourceTable->setObjectName(QStringLiteral("resourceTable"));
     m_cellTable->setObjectName(QStringLiteral("cellTable"));
     m_figure->setAccessibleName(tr("Ports of the netlist"));
@@ -99,8 +110,8 @@ ResultPage::ResultPage(QWidget *parent)
     });
 
     m_left->setObjectName(QStringLiteral("resultTabs"));
-    m_left->addTab(m_figure, tr("&Ports"));
-    m_left->addTab(m_cellTable, tr("P&rimitives"));
+    m_left->addTab(m_figure, tr("Ports"));
+    m_left->addTab(m_cellTable, tr("Primitives"));
     auto *right = new QSplitter(Qt::Vertical);
     right->addWidget(makeGroup(tr("Share of the device"), m_resourceTable));
     right->addWidget(makeGroup(tr("Files (double-click to open)"), m_files));
@@ -126,9 +137,10 @@ ResultPage::ResultPage(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addWidget(m_summary);
+    layout->addWidget(m_age);
     layout->addWidget(m_leftOver);
     layout->addWidget(halves, 1);
-    setFocusProxy(m_files);
+    forwardFocus(this, m_files);
 }
 
 void ResultPage::setReport(const Synthesis::RunReport &report)
@@ -137,12 +149,17 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
     m_heading->setText(tr("%1 for %2").arg(name, report.job.device.partNumber()));
     const QString seconds = QLocale().toString(double(report.milliseconds) / 1000.0, 'f', 1);
-    m_summary->setText(tr("%1 The run took %2 s.").arg(report.summary, seconds));
+    QString text = tr("%1 The run took %2 s.").arg(report.summary, seconds);
+    const QString missing = Synthesis::notCountedSentence(report.cells);
+    if (!missing.isEmpty() && !text.contains(missing))
+        text += u'\n' + missing;
+    m_summary->setText(text);
+    m_age->hide();
     m_figure->setLabel(name);
     m_figure->setPins(pinsOf(report.ports));
     fitFigure();
-    m_left->setTabText(0, tr("&Ports (%1)").arg(report.ports.size()));
-    m_left->setTabText(1, tr("P&rimitives (%1 kinds)").arg(report.cells.size()));
+    m_left->setTabText(0, tr("Ports (%1)").arg(report.ports.size()));
+    m_left->setTabText(1, tr("Primitives (%1 kinds)").arg(report.cells.size()));
     m_resources->setResources(report.resources);
     m_cells->setCells(report.cells);
     m_made = report.files;
@@ -203,6 +220,23 @@ void ResultPage::showLeftOvers(const QStringList &sources)
            "the same module.")
             .arg(names.join(QLatin1String(", "))),
         {{tr("&Remove from Project"), [this, listed] { Q_EMIT removalRequested(listed); }}});
+}
+
+void ResultPage::showAge(const QDateTime &when, const QStringList &changed)
+{
+    QString text = tr("This run ended on %1.").arg(QLocale().toString(when, QLocale::ShortFormat));
+    if (changed.isEmpty()) {
+        text += u' ' + tr("Its files are as it left them.");
+    } else {
+        QStringList names;
+        for (const QString &file : changed) {
+            const QString name = QFileInfo(file).fileName();
+            names.append(QFileInfo::exists(file) ? name : tr("%1 (missing)").arg(name));
+        }
+        text += u' ' + tr("Changed since then: %1.").arg(names.join(QLatin1String(", ")));
+    }
+    m_age->setText(text);
+    m_age->show();
 }
 
 QStringList ResultPage::files() const

@@ -39,6 +39,8 @@ public:
     // other language come last, and the page offers to take them out of `sources`, the project's.
     void setDelivered(const QStringList &files, const QStringList &sources = {});
     QStringList files() const;
+    // Says when the run of the report was, and what is no longer as it left it.
+    void showAge(const QDateTime &when, const QStringList &changed);
     IPCore::PinFigureView *figure() const { return m_figure; }
 
 Q_SIGNALS:
@@ -58,6 +60,7 @@ private:
 
     QLabel *m_heading;
     QLabel *m_summary;
+    QLabel *m_age;
     QPushButton *m_change;
     InfoBar *m_leftOver;
     QTabWidget *m_left;

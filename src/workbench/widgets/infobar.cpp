@@ -23,6 +23,7 @@ InfoBar::InfoBar(QWidget *parent)
     m_text->setObjectName(QStringLiteral("infoText"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
+    m_text->setMinimumWidth(1); // a long path must not push the buttons off the window
     auto *close = new QToolButton;
     close->setIcon(symbolIcon(QStringLiteral("close")));
     close->setAutoRaise(true);

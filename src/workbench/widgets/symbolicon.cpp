@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
+#include <QRegularExpression>
 #include <QSvgRenderer>
 
 static void initIcons()
@@ -39,17 +40,24 @@ public:
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
     {
         const QColor color = ink(mode);
-        const QString key = QStringLiteral("symbol/%1/%2x%3/%4")
-                                .arg(m_path)
-                                .arg(size.width())
-                                .arg(size.height())
-                                .arg(color.rgba());
+        const QString key =
+            QStringLiteral("symbol/%1/%2x%3/%4")
+                .arg(m_path)
+                .arg(size.width())
+                .arg(size.height())
+                .arg(color.rgba()) +
+            (mode == QIcon::Selected ? QLatin1String("/selected") : QLatin1String());
         QPixmap result;
         if (QPixmapCache::find(key, &result))
             return result;
         QFile file(m_path);
         QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         svg.replace("currentColor", color.name().toLatin1());
+        // On a selection a colour of its own may be lost: blue on blue, for one.
+        if (mode == QIcon::Selected && m_path.startsWith(QLatin1String(":/workbench/icons/"))) {
+            static const QRegularExpression ownColor(QStringLiteral("\"#[0-9a-fA-F]{3,6}\""));
+            svg = QString::fromUtf8(svg).replace(ownColor, u'"' + color.name() + u'"').toUtf8();
+        }
         QSvgRenderer renderer(svg);
         result = QPixmap(size);
         result.fill(Qt::transparent);

@@ -1,12 +1,14 @@
 #include "actions.h"
 
 #include "catalogue/catalogueview.h"
+#include "editactions.h"
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
 #include "editor/editortabs.h"
 #include "editor/findbar.h"
 #include "messages/messagesview.h"
 #include "messages/outputpane.h"
+#include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
 
 #include <QApplication>
@@ -17,19 +19,39 @@
 namespace Workbench
 {
 
+namespace
+{
+
+// Of an action: one of its own, or those of a standard action.
+struct Keys {
+    Keys() = default;
+    Keys(const QKeySequence &key) // NOLINT(google-explicit-constructor)
+        : sequences{key}
+    {
+    }
+    Keys(QKeySequence::StandardKey key) // NOLINT(google-explicit-constructor)
+        : sequences(keysOf(key))
+    {
+    }
+
+    QList<QKeySequence> sequences;
+};
+
+} // namespace
+
 MainWindow::Actions::Actions(MainWindow *window)
 {
     const auto add = [window](QMenu *menu, const QString &text, const QString &icon,
-                              const QKeySequence &key, auto slot) {
+                              const Keys &keys, auto slot) {
         auto *action = new QAction(text, window);
         if (!icon.isEmpty())
             action->setIcon(symbolIcon(icon));
-        action->setShortcut(key);
+        action->setShortcuts(keys.sequences);
         QObject::connect(action, &QAction::triggered, window, slot);
         menu->addAction(action);
         return action;
     };
-    const auto nothing = QKeySequence();
+    const Keys nothing;
     QMenuBar *bar = window->menuBar();
 
     QMenu *file = bar->addMenu(tr("&File"));
@@ -61,20 +83,7 @@ MainWindow::Actions::Actions(MainWindow *window)
                        });
     startEditing->setStatusTip(tr("Lets the file be changed; it opens for reading"));
     edit->addSeparator();
-    // The widget with the focus handles these keys itself; the menu only names them.
-    const auto addEdit = [&](const QString &text, QKeySequence::StandardKey key,
-                             const char *method) {
-        add(edit, text, {}, key, [window, method] {
-            window->editAction(method);
-        })->setShortcutContext(Qt::WidgetShortcut);
-    };
-    addEdit(tr("&Undo"), QKeySequence::Undo, "undo");
-    addEdit(tr("&Redo"), QKeySequence::Redo, "redo");
-    edit->addSeparator();
-    addEdit(tr("Cu&t"), QKeySequence::Cut, "cut");
-    addEdit(tr("&Copy"), QKeySequence::Copy, "copy");
-    addEdit(tr("&Paste"), QKeySequence::Paste, "paste");
-    addEdit(tr("Select &All"), QKeySequence::SelectAll, "selectAll");
+    editActions = new EditActions(window, edit);
     edit->addSeparator();
     const auto withPage = [window](void (*call)(EditorPage *)) {
         return [window, call] {
@@ -100,21 +109,25 @@ MainWindow::Actions::Actions(MainWindow *window)
     showResults = add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
                       QKeySequence(int(Qt::CTRL) + Qt::Key_R), [window] { window->showResults(); });
     showResults->setEnabled(false);
-    add(view, tr("&Next Message"), {}, QKeySequence(Qt::Key_F8),
-        [window] { window->output()->messages()->step(1); });
-    add(view, tr("&Previous Message"), {}, QKeySequence(int(Qt::SHIFT) + Qt::Key_F8),
-        [window] { window->output()->messages()->step(-1); });
+    nextMessage = add(view, tr("&Next Message"), {}, QKeySequence(Qt::Key_F8),
+                      [window] { window->output()->messages()->step(1); });
+    previousMessage =
+        add(view, tr("&Previous Message"), {}, QKeySequence(int(Qt::SHIFT) + Qt::Key_F8),
+            [window] { window->output()->messages()->step(-1); });
     view->addSeparator();
-    add(view, tr("Next &Tab"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_PageDown), [window] {
-        if (const int count = window->m_tabs->count())
-            window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + 1) % count);
-    });
-    add(view, tr("Pre&vious Tab"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_PageUp), [window] {
-        if (const int count = window->m_tabs->count())
-            window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + count - 1) % count);
-    });
+    nextTab =
+        add(view, tr("Next &Tab"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_PageDown), [window] {
+            if (const int count = window->m_tabs->count())
+                window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + 1) % count);
+        });
+    previousTab =
+        add(view, tr("Pre&vious Tab"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_PageUp), [window] {
+            if (const int count = window->m_tabs->count())
+                window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + count - 1) %
+                                                count);
+        });
     const auto addPlace = [&](const QString &text, Qt::Key key, auto place) {
-        add(view, text, {}, QKeySequence(int(Qt::CTRL) + key), place);
+        return add(view, text, {}, QKeySequence(int(Qt::CTRL) + key), place);
     };
     addPlace(tr("Go to Pro&ject"), Qt::Key_1, [window] {
         window->m_projectDock->show();
@@ -124,7 +137,7 @@ MainWindow::Actions::Actions(MainWindow *window)
         window->m_catalogueDock->show();
         window->m_catalogueView->setFocus();
     });
-    addPlace(tr("Go to &Editor"), Qt::Key_3, [window] {
+    goToEditor = addPlace(tr("Go to &Editor"), Qt::Key_3, [window] {
         if (QWidget *page = window->m_tabs->currentWidget())
             page->setFocus();
     });
@@ -134,10 +147,10 @@ MainWindow::Actions::Actions(MainWindow *window)
         window->output()->messages()->setFocus();
     });
     view->addSeparator();
-    add(view, tr("&Larger Text"), {}, QKeySequence::ZoomIn,
-        withPage([](EditorPage *page) { page->editor()->zoomBy(1); }));
-    add(view, tr("&Smaller Text"), {}, QKeySequence::ZoomOut,
-        withPage([](EditorPage *page) { page->editor()->zoomBy(-1); }));
+    larger = add(view, tr("&Larger Text"), {}, QKeySequence::ZoomIn,
+                 withPage([](EditorPage *page) { page->editor()->zoomBy(1); }));
+    smaller = add(view, tr("&Smaller Text"), {}, QKeySequence::ZoomOut,
+                  withPage([](EditorPage *page) { page->editor()->zoomBy(-1); }));
 
     QMenu *project = bar->addMenu(tr("&Project"));
     createIp = add(project, tr("Create &IP…"), QStringLiteral("ip"),
@@ -186,13 +199,18 @@ MainWindow::Actions::Actions(MainWindow *window)
     project->addSeparator();
     topModule =
         add(project, tr("&Top Module…"), {}, nothing, [window] { window->chooseTopModule(); });
-    device = add(project, tr("&Device…"), QStringLiteral("device"), nothing,
+    device = add(project, tr("De&vice…"), QStringLiteral("device"), nothing,
                  [window] { window->chooseDevice(); });
 
     QMenu *tools = bar->addMenu(tr("&Tools"));
     add(tools, tr("&Plug-ins…"), {}, nothing, [window] { window->showPlugins(); });
 
     QMenu *help = bar->addMenu(tr("&Help"));
+    add(help, tr("&User Guide"), {}, QKeySequence::HelpContents, [window] { window->showGuide(); });
+    ipHelp = add(help, tr("Help on the Selected &IP"), {}, nothing,
+                 [window] { window->showIpHelp(window->m_catalogueView->currentIp()); });
+    ipHelp->setStatusTip(tr("The document of the IP that is selected in the catalogue"));
+    help->addSeparator();
     add(help, tr("&About Tarvo Workbench"), {}, nothing, [window] { window->about(); });
     add(help, tr("About &Qt"), {}, nothing, [] { QApplication::aboutQt(); });
 }

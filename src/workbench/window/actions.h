@@ -8,6 +8,8 @@ QT_FORWARD_DECLARE_CLASS(QMenu)
 namespace Workbench
 {
 
+class EditActions;
+
 // The menus of the window and what in them changes with its state.
 class MainWindow::Actions
 {
@@ -21,11 +23,19 @@ public:
     QAction *saveAll;
     QAction *closeTab;
     QAction *startEditing;
+    EditActions *editActions;
     QAction *find;
     QAction *findNext;
     QAction *findPrevious;
     QAction *goToLine;
     QAction *showResults;
+    QAction *nextMessage;
+    QAction *previousMessage;
+    QAction *nextTab;
+    QAction *previousTab;
+    QAction *goToEditor;
+    QAction *larger;
+    QAction *smaller;
     QAction *createIp;
     QAction *addSources;
     QAction *newSource;
@@ -37,6 +47,7 @@ public:
     QAction *moveDown;
     QAction *topModule;
     QAction *device;
+    QAction *ipHelp;
 };
 
 } // namespace Workbench

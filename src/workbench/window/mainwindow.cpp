@@ -7,10 +7,12 @@
 #include "catalogue/movedialog.h"
 #include "catalogue/pluginsdialog.h"
 #include "devices/devicedialog.h"
+#include "editactions.h"
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
 #include "editor/editortabs.h"
 #include "editor/unsavedcopy.h"
+#include "helpwindow.h"
 #include "kept/keptconfigurations.h"
 #include "kept/keptdialog.h"
 #include "messages/logview.h"
@@ -28,6 +30,7 @@
 #include <core/editormanager.h>
 #include <core/projectmanager.h>
 #include <core/viewmanager.h>
+#include <ipcore/focusring.h>
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
 #include <ipcore/synthesismonitor.h>
@@ -40,6 +43,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -52,6 +56,8 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Workbench
 {
@@ -91,7 +97,9 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_projectStack(new QStackedWidget)
     , m_projectTree(new QTreeView)
     , m_catalogueView(new CatalogueView(catalogue))
+    , m_runs(RunStore::defaultFolder())
 {
+    IPCore::FocusRing::install();
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
     setDockNestingEnabled(true);
@@ -150,11 +158,16 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
             {{tr("&Bring Back…"), [this, id] { bringBack(id); }}});
     });
     connect(m_catalogueView, &CatalogueView::activated, this, &MainWindow::createSelectedIp);
+    connect(m_catalogueView, &CatalogueView::helpRequested, this, &MainWindow::showIpHelp);
+    connect(m_catalogueView, &CatalogueView::selectionChanged, this, &MainWindow::showEditorState);
+    connect(m_messages, &QAbstractItemModel::modelReset, this, &MainWindow::showEditorState);
+    connect(m_messages, &QAbstractItemModel::rowsInserted, this, &MainWindow::showEditorState);
     connect(m_tabs, &EditorTabs::countChanged, this, &MainWindow::showStart);
     connect(m_tabs, &EditorTabs::currentStateChanged, this, &MainWindow::showEditorState);
     connect(m_session, &IpSession::finished, this, &MainWindow::onIpClosed);
     connect(m_actions->recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecent);
 
+    qApp->installEventFilter(this);
     connectHost();
     restoreState();
     setProject(nullptr);
@@ -168,7 +181,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
             m_catalogue.failures().size() == 1
                 ? tr("The plug-in \"%1\" cannot be used.").arg(name)
                 : tr("%1 plug-ins cannot be used.").arg(m_catalogue.failures().size()),
-            {{tr("&Details"), [this] { showPlugins(); }}});
+            {{tr("Detai&ls"), [this] { showPlugins(); }}});
     }
 }
 
@@ -273,9 +286,20 @@ void MainWindow::report(const QString &message)
 
 bool MainWindow::setProject(std::unique_ptr<Project> project)
 {
+    if (m_project || m_report) {
+        // What a run said belongs to its project.
+        m_messages->clear();
+        if (m_output)
+            m_output->log()->clear();
+        if (m_results)
+            m_results->deleteLater(); // its button may be what closes the project
+        m_results = nullptr;
+        m_report.reset();
+    }
     Core::ProjectManager::setCurrentProject(nullptr);
     m_projectModel->setProject(project.get());
     m_project = std::move(project);
+    m_hasKeptRun = m_project && m_runs.has(m_project->file());
     if (m_project) {
         Core::ProjectManager::setCurrentProject(m_project.get());
         m_projectTree->expandAll();
@@ -287,7 +311,7 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
             m_infoBar->showMessage(
                 tr("The device \"%1\" of this project is not in the device database.")
                     .arg(m_project->deviceId()),
-                {{tr("&Choose a Device…"), [this] { chooseDevice(); }}});
+                {{tr("Choose &a Device…"), [this] { chooseDevice(); }}});
     }
     m_projectStack->setCurrentWidget(m_project ? static_cast<QWidget *>(m_projectTree)
                                                : m_noProject);
@@ -328,34 +352,52 @@ void MainWindow::showEditorState()
 {
     if (!m_actions)
         return;
+    m_actions->editActions->refresh();
     const EditorPage *page = m_tabs->currentPage();
     m_actions->save->setEnabled(page && page->isModified());
-    m_actions->saveAll->setEnabled(m_tabs->count() > 0);
+    const QList<EditorPage *> pages = m_tabs->pages();
+    m_actions->saveAll->setEnabled(
+        std::any_of(pages.begin(), pages.end(), [](EditorPage *any) { return any->isModified(); }));
     m_actions->closeTab->setEnabled(m_tabs->count() > 0);
     m_actions->startEditing->setEnabled(page && !page->isEditable() && !page->isLoading());
     for (QAction *action :
          {m_actions->find, m_actions->findNext, m_actions->findPrevious, m_actions->goToLine})
         action->setEnabled(page != nullptr);
+    for (QAction *action : {m_actions->larger, m_actions->smaller})
+        action->setEnabled(page != nullptr);
+    for (QAction *action : {m_actions->nextTab, m_actions->previousTab})
+        action->setEnabled(m_tabs->count() > 1);
+    m_actions->goToEditor->setEnabled(m_tabs->count() > 0);
+    const bool hasPlaces = m_messages->hasPlaces();
+    m_actions->nextMessage->setEnabled(hasPlaces);
+    m_actions->previousMessage->setEnabled(hasPlaces);
+    m_actions->showResults->setEnabled(m_report || m_hasKeptRun);
+    const int ip = m_catalogueView->currentIp();
+    m_actions->ipHelp->setEnabled(ip >= 0 && !m_catalogue.entries().at(ip).help.isEmpty());
     for (QAction *action : {m_actions->closeProject, m_actions->createIp, m_actions->addSources,
                             m_actions->newSource, m_actions->topModule, m_actions->device})
         action->setEnabled(m_project != nullptr);
     const QModelIndex selected = m_projectTree->currentIndex();
     m_actions->openSelected->setEnabled(!selectedFile().isEmpty());
     m_actions->openAsText->setEnabled(m_projectModel->isIp(selected));
-    const int ip = m_projectModel->isIp(selected)
-                       ? m_catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
-                       : -1;
-    const bool canMove = ip >= 0 && m_catalogue.canMove(ip);
+    const int selectedIp =
+        m_projectModel->isIp(selected)
+            ? m_catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
+            : -1;
+    const bool canMove = selectedIp >= 0 && m_catalogue.canMove(selectedIp);
     m_actions->moveToDevice->setEnabled(canMove);
     const QString moveTip =
-        canMove   ? tr("Changes the device of the selected IP, and shows what it loses")
-        : ip >= 0 ? tr("The plug-in of %1 cannot move its IPs to other devices")
-                        .arg(m_catalogue.entries().at(ip).name)
-                  : tr("Select an IP in the project to change its device");
+        canMove           ? tr("Changes the device of the selected IP, and shows what it loses")
+        : selectedIp >= 0 ? tr("The plug-in of %1 cannot move its IPs to other devices")
+                                .arg(m_catalogue.entries().at(selectedIp).name)
+                          : tr("Select an IP in the project to change its device");
     m_actions->moveToDevice->setToolTip(moveTip);
     m_actions->moveToDevice->setStatusTip(moveTip);
-    for (QAction *action : {m_actions->removeSource, m_actions->moveUp, m_actions->moveDown})
-        action->setEnabled(m_projectModel->isSource(selected));
+    const bool isSource = m_projectModel->isSource(selected);
+    m_actions->removeSource->setEnabled(isSource);
+    m_actions->moveUp->setEnabled(isSource && selected.row() > 0);
+    m_actions->moveDown->setEnabled(isSource && selected.row() + 1 <
+                                                    m_projectModel->rowCount(selected.parent()));
     m_cursorLabel->setVisible(page != nullptr);
     if (page)
         m_cursorLabel->setText(tr("Line %1, column %2   %3   %4")
@@ -398,8 +440,37 @@ ResultPage *MainWindow::results()
     return m_results;
 }
 
+void MainWindow::setRunStore(const RunStore &store)
+{
+    m_runs = store;
+    m_hasKeptRun = m_project && m_runs.has(m_project->file());
+    showEditorState();
+}
+
+void MainWindow::keepRun(const QStringList &delivered)
+{
+    if (!m_report || !m_project)
+        return;
+    QString error;
+    if (!m_runs.keep(m_project->file(), KeptRun::of(*m_report, delivered), &error))
+        m_messages->append(MessageModel::Warning,
+                           tr("The results cannot be shown after a restart. %1").arg(error));
+}
+
 void MainWindow::showResults()
 {
+    if (!m_report) { // from before the start
+        KeptRun run;
+        QString error;
+        if (!m_runs.load(m_project ? m_project->file() : QString(), &run, &error)) {
+            report(error);
+            return;
+        }
+        m_messages->setReport(run.report);
+        results()->setReport(run.report);
+        results()->setDelivered(run.delivered, m_project ? m_project->files() : QStringList());
+        results()->showAge(run.when, run.changedFiles());
+    }
     m_tabs->showPage(results(), symbolIcon(QStringLiteral("results")), tr("Results"));
 }
 
@@ -475,6 +546,7 @@ bool MainWindow::openIp(const QString &ipcFile)
         return false;
     m_hasNewReport = false;
     QString error;
+    m_openedIp = m_catalogue.indexOf(IpSession::typeOf(ipcFile, &error));
     const bool opened = withCopies([&] { return m_session->open(ipcFile, &error); });
     if (!opened && !m_closing)
         report(error);
@@ -537,6 +609,7 @@ void MainWindow::keepUnsaved()
 bool MainWindow::createIp(int ip, const QString &folder, const DEV::DeviceArg &device)
 {
     m_hasNewReport = false;
+    m_openedIp = ip;
     QString error;
     const bool created = withCopies([&] { return m_session->create(ip, folder, device, &error); });
     if (!created && !m_closing)
@@ -603,7 +676,7 @@ bool MainWindow::moveIp(const QString &ipcFile, const DEV::DeviceArg &device)
         tr("\"%1\" is for the device %2 now. What was generated is still for the "
            "one before.")
             .arg(name, IpcHead::words(device)),
-        {{tr("&Open It to Generate It Anew…"), [this, ipcFile] { openIp(ipcFile); }}});
+        {{tr("Open It to Generate It Ane&w…"), [this, ipcFile] { openIp(ipcFile); }}});
     return true;
 }
 
@@ -666,7 +739,7 @@ bool MainWindow::bringBack(const QString &keptId)
     showStart();
     m_infoBar->showMessage(
         tr("\"%1\" is as it was. What was generated is not.").arg(shown),
-        {{tr("&Open It to Generate It Anew…"), [this, path = item.origin] { openIp(path); }}});
+        {{tr("Open It to Generate It Ane&w…"), [this, path = item.origin] { openIp(path); }}});
     return true;
 }
 
@@ -689,9 +762,11 @@ void MainWindow::onIpClosed(const QStringList &files)
                 delivered.append(file);
         }
         results()->setDelivered(delivered, m_project ? m_project->files() : QStringList());
+        keepRun(delivered);
         showResults();
     }
     m_hasNewReport = false;
+    m_openedIp = -1;
     showStart();
 }
 
@@ -720,8 +795,11 @@ void MainWindow::onRunFinished(const Synthesis::RunReport &report)
     if (report.exitCode != 0)
         return;
     results()->setReport(report);
+    m_report = std::make_unique<Synthesis::RunReport>(report);
     m_hasNewReport = true;
-    m_actions->showResults->setEnabled(true);
+    if (!m_session->isActive())
+        keepRun({});
+    showEditorState();
 }
 
 QStringList MainWindow::recent() const
@@ -883,7 +961,64 @@ void MainWindow::showPlugins()
     showStart();
     if (m_catalogue.failures().size() > failures)
         m_infoBar->showMessage(tr("Not every plug-in of the new folders can be used."),
-                               {{tr("&Details"), [this] { showPlugins(); }}});
+                               {{tr("Detai&ls"), [this] { showPlugins(); }}});
+}
+
+// In a window of its own, which can be used while a dialog waits.
+void MainWindow::showDocument(const QString &path, const QString &title)
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    QWidget *parent = modal ? modal : this;
+    if (m_help && m_help->parentWidget() != parent)
+        delete m_help;
+    if (!m_help)
+        m_help = new HelpWindow(parent);
+    if (!m_help->showDocument(path, title))
+        report(tr("\"%1\" cannot be read.").arg(QDir::toNativeSeparators(path)));
+}
+
+HelpWindow *MainWindow::help() const
+{
+    return m_help;
+}
+
+void MainWindow::showGuide()
+{
+    for (const QString &folder : m_catalogue.dataFolders()) {
+        const QString path = folder + QLatin1String("/guide/user-guide.md");
+        if (QFileInfo(path).isFile()) {
+            showDocument(path, tr("User Guide"));
+            return;
+        }
+    }
+    report(tr("The user guide is not installed. It belongs into the folder \"guide\" of %1.")
+               .arg(QDir::toNativeSeparators(m_catalogue.dataFolders().value(0))));
+}
+
+void MainWindow::showIpHelp(int ip)
+{
+    if (ip < 0 || m_catalogue.entries().at(ip).help.isEmpty())
+        return;
+    const IpEntry &entry = m_catalogue.entries().at(ip);
+    showDocument(entry.help, tr("%1 %2").arg(entry.name, entry.version));
+}
+
+// The window's own F1 does not reach the dialogs in front of it.
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType() ||
+        !QApplication::activeModalWidget())
+        return QMainWindow::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
+        return QMainWindow::eventFilter(watched, event);
+    const bool hasDocument =
+        m_openedIp >= 0 && !m_catalogue.entries().at(m_openedIp).help.isEmpty();
+    if (hasDocument)
+        showIpHelp(m_openedIp);
+    else
+        showGuide();
+    return true;
 }
 
 void MainWindow::tryPluginsAgain()
@@ -927,18 +1062,6 @@ void MainWindow::goToLine()
     if (chosen)
         page->goToLine(line);
     page->editor()->setFocus();
-}
-
-// The nearest widget from the focus outwards that knows the method.
-void MainWindow::editAction(const char *method)
-{
-    const QByteArray signature = QByteArray(method) + "()";
-    for (QWidget *widget = QApplication::focusWidget(); widget; widget = widget->parentWidget()) {
-        if (widget->metaObject()->indexOfMethod(signature) >= 0) {
-            QMetaObject::invokeMethod(widget, method);
-            return;
-        }
-    }
 }
 
 void MainWindow::saveState()

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "project/project.h"
+#include "results/runstore.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <memory>
 
@@ -28,6 +30,7 @@ namespace Workbench
 
 class CatalogueView;
 class EditorTabs;
+class HelpWindow;
 class InfoBar;
 class IpCatalogue;
 class IpSession;
@@ -70,6 +73,10 @@ public:
     // Restores a kept configuration after a question, or opens what was dropped in its dialog.
     bool bringBack(const QString &keptId);
     KeptConfigurations *kept() const { return m_kept; }
+    // Where the last successful run of each project is kept; the user's cache at first.
+    void setRunStore(const RunStore &store);
+    // The window of the guide and of IPs' documents; null while there is none.
+    HelpWindow *help() const;
 
     // Keeps unsaved changes in files of their own and tells where, on standard error.
     void keepUnsaved();
@@ -81,11 +88,15 @@ public Q_SLOTS:
     void newProject();
     void open();
     void createSelectedIp(int ip);
+    void showGuide();
+    // The document of an IP of the catalogue.
+    void showIpHelp(int ip);
 
 Q_SIGNALS:
     void closed();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -102,6 +113,8 @@ private:
     void showEditorState();
     void showStart();
     void showResults();
+    void keepRun(const QStringList &delivered);
+    void showDocument(const QString &path, const QString &title);
     OutputPane *output();
     void rememberRecent(const QString &file);
     QStringList recent() const;
@@ -126,7 +139,6 @@ private:
     bool withCopies(const std::function<bool()> &call);
     void about();
     void goToLine();
-    void editAction(const char *method);
 
     void onRunStarted(IPCore::SynthesisHelper *helper);
     void onRunFinished(const Synthesis::RunReport &report);
@@ -157,6 +169,11 @@ private:
     QPushButton *m_deviceButton;
     QLabel *m_runLabel;
     QLabel *m_cursorLabel;
+    RunStore m_runs;
+    std::unique_ptr<Synthesis::RunReport> m_report; // of the last success since the start
+    bool m_hasKeptRun = false;                      // of the open project, from before the start
+    QPointer<HelpWindow> m_help;
+    int m_openedIp = -1;         // whose dialog is open
     bool m_hasNewReport = false; // since the dialog of an IP was opened
     bool m_closing = false;
     QStringList m_copiesTold; // of unsaved changes, while a plug-in runs

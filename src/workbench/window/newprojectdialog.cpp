@@ -3,6 +3,8 @@
 #include "devices/devicepicker.h"
 #include "project/project.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -59,7 +61,8 @@ NewProjectDialog::NewProjectDialog(const QString &location, QWidget *parent)
     layout->addWidget(buttons, 4, 0, 1, 3);
     layout->setRowStretch(2, 1);
     const QFontMetrics metrics = fontMetrics();
-    resize(metrics.averageCharWidth() * 108, metrics.height() * 32);
+    resize(QSize(metrics.averageCharWidth() * 108, metrics.height() * 32)
+               .boundedTo(IPCore::roomOnScreen(this)));
 
     connect(m_name, &QLineEdit::textChanged, this, &NewProjectDialog::check);
     connect(m_location, &QLineEdit::textChanged, this, &NewProjectDialog::check);

@@ -3,10 +3,11 @@
 #include "catalogue/ipcatalogue.h"
 #include "project/ipchead.h"
 #include "project/project.h"
+#include "widgets/linkbutton.h"
 #include "widgets/symbolicon.h"
 
-#include <QCommandLinkButton>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -24,21 +25,16 @@ constexpr int keptShown = 3;
 QLabel *makeLabel(const QString &text, qreal scale, bool bold)
 {
     auto *label = new QLabel(text);
-    QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * scale);
-    font.setBold(bold);
-    label->setFont(font);
+    label->setProperty("scale", scale);
+    label->setProperty("bold", bold);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
 }
 
-QCommandLinkButton *makeLink(const QString &text, const QString &description, const QString &icon)
+LinkButton *makeLink(const QString &text, const QString &description, const QString &icon)
 {
-    auto *button =
-        new QCommandLinkButton(QString(text).replace(u'&', QLatin1String("&&")), description);
-    button->setIcon(symbolIcon(icon));
-    return button;
+    return new LinkButton(text, description, symbolIcon(icon));
 }
 
 } // namespace
@@ -57,8 +53,6 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
     auto *content = new QWidget;
     auto *columns = new QHBoxLayout(content);
     auto *page = new QVBoxLayout;
-    const int gap = fontMetrics().height();
-    columns->setContentsMargins(2 * gap, gap, 2 * gap, gap);
     columns->addLayout(page, 1);
     if (project)
         showProject(page, *project, catalogue);
@@ -70,6 +64,33 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
     if (QWidget *old = takeWidget())
         old->deleteLater();
     setWidget(content);
+    applyFont();
+}
+
+void StartPage::applyFont()
+{
+    if (!widget())
+        return;
+    const int gap = fontMetrics().height();
+    widget()->layout()->setContentsMargins(2 * gap, gap, 2 * gap, gap);
+    const QList<QLabel *> labels = widget()->findChildren<QLabel *>();
+    for (QLabel *label : labels) {
+        QFont scaled = font();
+        const qreal scale = label->property("scale").toReal();
+        if (scaled.pointSizeF() > 0)
+            scaled.setPointSizeF(scaled.pointSizeF() * scale);
+        else
+            scaled.setPixelSize(qRound(scaled.pixelSize() * scale));
+        scaled.setBold(label->property("bold").toBool());
+        label->setFont(scaled);
+    }
+}
+
+void StartPage::changeEvent(QEvent *event)
+{
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        applyFont();
 }
 
 void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent)

@@ -33,7 +33,12 @@ Q_SIGNALS:
     void bringBackRequested(const QString &keptId);
     void allKeptRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    // Headings are larger than the user's font.
+    void applyFont();
     void showWelcome(QVBoxLayout *page, const QStringList &recent);
     void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue);
     // Those in the folder, which may be empty for all.

@@ -1,4 +1,5 @@
 #include <testsupport.h>
+#include <windowwalk.h>
 
 #include <ipcore/progressdialog.h>
 
@@ -117,7 +118,7 @@ private Q_SLOTS:
     void asksOnceForCancellation_data()
     {
         QTest::addColumn<QString>("way");
-        for (const char *way : {"Cancel", "Escape", "closing"})
+        for (const char *way : {"Cancel", "Escape twice", "closing"})
             QTest::newRow(way) << QString::fromLatin1(way);
     }
 
@@ -133,8 +134,9 @@ private Q_SLOTS:
         for (int turn = 0; turn < 2; ++turn) {
             if (way == QLatin1String("Cancel"))
                 cancel->click();
-            else if (way == QLatin1String("Escape"))
-                QTest::keyClick(&dialog, Qt::Key_Escape);
+            else if (way == QLatin1String("Escape twice"))
+                for (int press = 0; press < 2; ++press)
+                    QTest::keyClick(&dialog, Qt::Key_Escape);
             else
                 QVERIFY(!dialog.close());
             QCOMPARE(asked.count(), 1);
@@ -146,6 +148,53 @@ private Q_SLOTS:
         dialog.startClock();
         dialog.reject();
         QCOMPARE(asked.count(), 2);
+    }
+
+    void oneStrayKeyCancelsNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::newRow("Escape") << int(Qt::Key_Escape);
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Enter") << int(Qt::Key_Enter);
+        QTest::newRow("space bar") << int(Qt::Key_Space);
+    }
+
+    // Meant for the window that was in front a moment ago.
+    void oneStrayKeyCancelsNothing()
+    {
+        QFETCH(int, key);
+        ProgressDialog dialog;
+        QSignalSpy asked(&dialog, &ProgressDialog::cancelRequested);
+        dialog.open();
+        dialog.startClock();
+        QApplication::setActiveWindow(&dialog);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(dialog.focusWidget());
+        QTest::keyClick(dialog.focusWidget(), Qt::Key(key));
+        QCOMPARE(asked.count(), 0);
+        QVERIFY(dialog.isVisible());
+        QVERIFY(dialog.findChild<QPushButton *>()->isEnabled());
+    }
+
+    void aFirstEscapeTellsOfTheSecond()
+    {
+        ProgressDialog dialog;
+        QSignalSpy asked(&dialog, &ProgressDialog::cancelRequested);
+        dialog.open();
+        dialog.startClock();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QVERIFY(label(dialog, "hintLabel").contains(QLatin1String("Escape")));
+        // A key that is held is one press.
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(&dialog, &held);
+        QCOMPARE(asked.count(), 0);
+        // Any other key takes it back.
+        QTest::keyClick(&dialog, Qt::Key_Left);
+        QCOMPARE(label(dialog, "hintLabel"), QString());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(asked.count(), 0);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(asked.count(), 1);
     }
 
     void closesWithoutAskingWhenNothingRuns_data()
@@ -168,6 +217,27 @@ private Q_SLOTS:
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(!dialog.isVisible());
         QCOMPARE(asked.count(), 0);
+    }
+
+    void isUsableWithoutAMouseAndOnASmallScreen()
+    {
+        const QFont before = QApplication::font();
+        QFont large = before;
+        large.setPointSize(16);
+        QApplication::setFont(large);
+        ProgressDialog dialog;
+        dialog.open();
+        dialog.startClock();
+        dialog.setStage(QStringLiteral("a stage with many words ").repeated(6));
+        dialog.appendLog(QStringLiteral("x").repeated(500));
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        QCOMPARE(TestSupport::cutOff(&dialog, TestSupport::smallScreen()).join(u';'), QString());
+        dialog.stopClock(); // nothing moves now
+        dialog.findChild<QPushButton *>()->setEnabled(true);
+        const TestSupport::TabWalk walk(&dialog);
+        QCOMPARE(walk.stops.size(), 2);
+        QCOMPARE(walk.unseen().join(u';'), QString());
+        QApplication::setFont(before);
     }
 
     void whatHasNoTextHasAName()

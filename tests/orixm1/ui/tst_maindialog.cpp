@@ -679,10 +679,11 @@ void tst_MainDialog::cancellingEndsTheRunOnly()
     QVERIFY(progress);
     QCOMPARE(progress->windowTitle(), descriptor().value(InfoKey::label).toString());
     progress->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
-    QTRY_COMPARE_WITH_TIMEOUT(texts.size(), 1, runTimeout);
+    QTRY_VERIFY_WITH_TIMEOUT(!progress->isVisible(), runTimeout);
     QVERIFY(isGone(pid));
     QVERIFY(dialog->isVisible());
-    QVERIFY(!progress->isVisible());
+    QCoreApplication::processEvents();
+    QCOMPARE(texts, QStringList()); // cancelling is no error
 }
 
 void tst_MainDialog::closingTheDialogEndsTheTool()

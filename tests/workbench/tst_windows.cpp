@@ -1,0 +1,627 @@
+#include "hands.h"
+
+#include <windowwalk.h>
+
+#include <workbench/editor/codeeditor.h>
+#include <workbench/editor/editorpage.h>
+#include <workbench/editor/findbar.h>
+#include <workbench/messages/logview.h>
+#include <workbench/results/resultpage.h>
+#include <workbench/widgets/infobar.h>
+#include <workbench/window/helpwindow.h>
+#include <workbench/window/startpage.h>
+
+#include <ipcore/synthesishelper.h>
+#include <ipcore/synthesismonitor.h>
+
+#include <QClipboard>
+#include <QCommandLinkButton>
+#include <QDialog>
+#include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTextBlock>
+#include <QTreeView>
+
+using namespace Workbench;
+using namespace TestSupport;
+
+class TestWindows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_bench = std::make_unique<Bench>(); }
+    void cleanup()
+    {
+        m_bench.reset();
+        QApplication::setFont(m_font);
+    }
+
+    void noMenuMarksAKeyTwice()
+    {
+        openEverything();
+        QMetaObject::invokeMethod(m_bench->action("New Project"), "hover"); // menus are made
+        const auto menus = window()->findChildren<QMenu *>();
+        QVERIFY(menus.size() >= 7);
+        for (QMenu *menu : menus) {
+            Q_EMIT menu->aboutToShow();
+            QStringList texts;
+            for (const QAction *action : menu->actions())
+                texts.append(action->text());
+            QCOMPARE(sharedMnemonics(texts).join(u';'), QString());
+        }
+    }
+
+    void noWindowMarksAKeyTwice_data() { addScenes(); }
+    void noWindowMarksAKeyTwice()
+    {
+        show([](QWidget *window) {
+            QStringList texts = mnemonicTexts(window);
+            QVERIFY(!texts.isEmpty());
+            // As some desktops have them.
+            if (auto *buttons = window->findChild<QDialogButtonBox *>()) {
+                if (buttons->button(QDialogButtonBox::Cancel)) {
+                    texts.removeAll(buttons->button(QDialogButtonBox::Cancel)->text());
+                    texts.append(QStringLiteral("&Cancel"));
+                }
+            }
+            QCOMPARE(sharedMnemonics(texts).join(u';'), QString());
+        });
+    }
+
+    void focusIsSeenWhereverTabLeads_data() { addScenes(); }
+    void focusIsSeenWhereverTabLeads()
+    {
+        show([](QWidget *window) {
+            const TabWalk walk(window);
+            QVERIFY(!walk.stops.isEmpty());
+            QCOMPARE(walk.unseen().join(u';'), QString());
+        });
+    }
+
+    void everyButtonIsOnASmallScreenWithALargeFont_data() { addScenes(); }
+    void everyButtonIsOnASmallScreenWithALargeFont()
+    {
+        QFont large = m_font;
+        large.setPointSize(16);
+        QApplication::setFont(large);
+        m_bench = std::make_unique<Bench>();
+        show(
+            [](QWidget *window) { QCOMPARE(cutOff(window, smallScreen()).join(u';'), QString()); });
+    }
+
+    void startPageFollowsTheFont()
+    {
+        const auto *page = window()->findChild<StartPage *>();
+        const QWidget *link = page->widget()->findChild<QCommandLinkButton *>();
+        const auto *label = page->widget()->findChild<QLabel *>();
+        QVERIFY(link && label);
+        const int before = link->sizeHint().height();
+        const qreal heading = label->font().pointSizeF();
+        QFont large = m_font;
+        large.setPointSizeF(m_font.pointSizeF() * 2);
+        QApplication::setFont(large);
+        QCoreApplication::processEvents();
+        QVERIFY(link->sizeHint().height() > before * 3 / 2);
+        QVERIFY(label->font().pointSizeF() > heading * 1.9);
+        // Both of its texts are as large as the others are.
+        QVERIFY(link->heightForWidth(2000) >= 2 * QFontMetrics(large).height());
+    }
+
+    void selectedMessagesKeepTheirIcons_data()
+    {
+        QTest::addColumn<int>("severity");
+        QTest::newRow("summary") << int(MessageModel::Summary);
+        QTest::newRow("error") << int(MessageModel::Error);
+        QTest::newRow("warning") << int(MessageModel::Warning);
+    }
+    void selectedMessagesKeepTheirIcons()
+    {
+        QFETCH(int, severity);
+        for (const QColor &highlight : {QColor(48, 140, 198), QColor(200, 60, 50),
+                                        QColor(200, 134, 0), m_palette.highlight().color()}) {
+            QPalette palette = m_palette;
+            palette.setColor(QPalette::Highlight, highlight);
+            palette.setColor(QPalette::HighlightedText, Qt::white);
+            QApplication::setPalette(palette);
+            window()->messages()->clear();
+            window()->messages()->append(MessageModel::Severity(severity), QStringLiteral("text"));
+            auto *dock = window()->findChild<QDockWidget *>(QStringLiteral("outputDock"));
+            dock->show();
+            QCoreApplication::processEvents();
+            auto *list = window()->findChild<QTreeView *>(QStringLiteral("messageList"));
+            const QModelIndex index = window()->messages()->index(0, 0);
+            list->setCurrentIndex(index);
+            list->setFocus();
+            QRect icon = list->visualRect(index);
+            icon.setWidth(icon.height());
+            const QImage shown = list->viewport()->grab(icon).toImage();
+            int seen = 0;
+            for (int x = 0; x < shown.width(); ++x) {
+                for (int y = 0; y < shown.height(); ++y)
+                    seen += qAbs(qGray(shown.pixel(x, y)) - qGray(highlight.rgb())) > 60;
+            }
+            QVERIFY2(seen >= 8, qPrintable(highlight.name()));
+        }
+        QApplication::setPalette(m_palette);
+    }
+
+    // Results and messages
+
+    void blackBoxesAreNamedBesideTheTotals()
+    {
+        window()->openProject(m_bench->makeProject());
+        finishRun();
+        const auto *summary =
+            window()->results()->findChild<QLabel *>(QStringLiteral("resultSummary"));
+        QVERIFY2(summary->text().contains(QLatin1String("black box")), qPrintable(summary->text()));
+        QCOMPARE(summary->text().count(QLatin1String("CortexM1Core")), 1);
+    }
+
+    void resultsAndMessagesCloseWithTheirProject()
+    {
+        window()->openProject(m_bench->makeProject());
+        finishRun();
+        m_bench->action("Results of the Last Run")->trigger();
+        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Results")));
+        window()->log()->appendPlainText(QStringLiteral("said"));
+        QVERIFY(window()->messages()->rowCount() > 0);
+        QVERIFY(window()->closeProject());
+        QCOMPARE(window()->messages()->rowCount(), 0);
+        QCOMPARE(window()->log()->toPlainText(), QString());
+        QVERIFY(m_bench->tabTexts().isEmpty());
+        QVERIFY(!m_bench->action("Results of the Last Run")->isEnabled());
+        QVERIFY(!m_bench->action("Next Message")->isEnabled());
+    }
+
+    void theLastResultsComeBackAfterARestart()
+    {
+        const QString project = m_bench->makeProject();
+        window()->openProject(project);
+        const QStringList files = finishRun();
+        m_bench->reopen();
+        QVERIFY(!m_bench->action("Results of the Last Run")->isEnabled()); // of no project
+        window()->openProject(project);
+        QVERIFY(m_bench->action("Results of the Last Run")->isEnabled());
+        m_bench->action("Results of the Last Run")->trigger();
+        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Results")));
+        ResultPage *page = window()->results();
+        QVERIFY(page->findChild<QLabel *>(QStringLiteral("resultHeading"))
+                    ->text()
+                    .contains(QLatin1String("TV2KR-LV18")));
+        QCOMPARE(page->files(), files);
+        QCOMPARE(
+            page->findChild<QTableView *>(QStringLiteral("resourceTable"))->model()->rowCount(), 1);
+        QCOMPARE(page->findChild<QTableView *>(QStringLiteral("cellTable"))->model()->rowCount(),
+                 2);
+        QVERIFY(m_bench->message(0).contains(QLatin1String("Used 121 LUT4")));
+        const auto *age = page->findChild<QLabel *>(QStringLiteral("resultAge"));
+        QVERIFY(!age->isHidden());
+        QVERIFY(age->text().contains(QString::number(QDate::currentDate().year() % 100)));
+        QVERIFY2(age->text().contains(QLatin1String("as it left them")), qPrintable(age->text()));
+
+        // Another run's results say nothing of an age.
+        finishRun();
+        QVERIFY(window()->results()->findChild<QLabel *>(QStringLiteral("resultAge"))->isHidden());
+    }
+
+    void oldResultsTellWhatHasChangedSince()
+    {
+        const QString project = m_bench->makeProject();
+        window()->openProject(project);
+        const QStringList files = finishRun();
+        m_bench->reopen();
+        write(files.at(0), "something else\n");
+        QVERIFY(QFile::remove(files.at(1)));
+        window()->openProject(project);
+        m_bench->action("Results of the Last Run")->trigger();
+        const QString age =
+            window()->results()->findChild<QLabel *>(QStringLiteral("resultAge"))->text();
+        QVERIFY2(age.contains(QFileInfo(files.at(0)).fileName()), qPrintable(age));
+        QVERIFY2(age.contains(QFileInfo(files.at(1)).fileName() + QStringLiteral(" (missing)")),
+                 qPrintable(age));
+        QVERIFY2(!age.contains(QFileInfo(files.at(2)).fileName()), qPrintable(age));
+    }
+
+    void aKeptRunThatCannotBeReadIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("no JSON") << QByteArray("\x00\xff{{{", 6);
+        QTest::newRow("a list") << QByteArray("[1, 2]");
+        QTest::newRow("a later format") << QByteArray("{\"format\": 99, \"report\": {}}");
+        QTest::newRow("texts where numbers belong")
+            << QByteArray("{\"format\": 1, \"report\": {\"summary\": 3, \"exitCode\": \"x\"}}");
+        QTest::newRow("deep") << QByteArray("[").repeated(100000);
+    }
+    void aKeptRunThatCannotBeReadIsTold()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString folder = m_bench->folder() + QStringLiteral("/runs");
+        const QString project = m_bench->makeProject();
+        window()->setRunStore(RunStore(folder));
+        window()->openProject(project);
+        finishRun();
+        m_bench->reopen();
+        window()->setRunStore(RunStore(folder));
+        const QStringList kept = entriesOf(folder);
+        QCOMPARE(kept.size(), 1);
+        write(folder + u'/' + kept.first(), bytes);
+        window()->openProject(project);
+        const auto boxes =
+            boxesOf([this] { m_bench->action("Results of the Last Run")->trigger(); });
+        QCOMPARE(boxes.size(), 1);
+        QVERIFY2(boxes.first().text.contains(kept.first()), qPrintable(boxes.first().text));
+        QVERIFY(m_bench->tabTexts().isEmpty());
+    }
+
+    void aRunThatCannotBeKeptIsAWarning()
+    {
+        const QString blocked = m_bench->folder() + QStringLiteral("/file");
+        write(blocked, "x");
+        window()->setRunStore(RunStore(blocked + QStringLiteral("/runs")));
+        window()->openProject(m_bench->makeProject());
+        finishRun();
+        const int last = window()->messages()->rowCount() - 1;
+        QVERIFY2(m_bench->message(last).contains(blocked), qPrintable(m_bench->message(last)));
+        QVERIFY(m_bench->action("Results of the Last Run")->isEnabled());
+    }
+
+    void oneCauseIsOneMessageInTheList()
+    {
+        Synthesis::RunReport report;
+        report.exitCode = 1;
+        report.summary = QStringLiteral("The disk is full.");
+        Synthesis::Message same;
+        same.text = report.summary;
+        report.messages = {same};
+        window()->messages()->setReport(report);
+        QCOMPARE(window()->messages()->rowCount(), 1);
+        QCOMPARE(window()->messages()->count(MessageModel::Error), 1);
+        // A headline that others explain is no error of its own.
+        report.summary = QStringLiteral("TarvoSynthesis found an error.");
+        window()->messages()->setReport(report);
+        QCOMPARE(window()->messages()->rowCount(), 2);
+        QCOMPARE(window()->messages()->count(MessageModel::Error), 1);
+    }
+
+    // Actions
+
+    void editCommandsActOnlyWhereTheyCan()
+    {
+        const QString file = m_bench->folder() + QStringLiteral("/x.v");
+        write(file, "hello\n");
+        window()->openPath(file);
+        EditorPage *page = window()->tabs()->currentPage();
+        CodeEditor *editor = page->editor();
+        QApplication::setActiveWindow(window());
+        QGuiApplication::clipboard()->setText(QStringLiteral("clip"));
+        focus(editor);
+        QCOMPARE(enabledEdits(), QStringLiteral("Select All"));
+        editor->selectAll();
+        QCOMPARE(enabledEdits(), QStringLiteral("Copy, Select All")); // for reading
+        page->startEditing();
+        QCOMPARE(enabledEdits(), QStringLiteral("Cut, Copy, Paste, Select All"));
+        m_bench->action("Cut")->trigger();
+        QCOMPARE(editor->toPlainText(), QString());
+        QCOMPARE(enabledEdits(), QStringLiteral("Undo, Paste"));
+        m_bench->action("Undo")->trigger();
+        QCOMPARE(editor->toPlainText(), QStringLiteral("hello\n"));
+        QVERIFY(!m_bench->action("Undo")->isEnabled());
+        QVERIFY(m_bench->action("Redo")->isEnabled());
+
+        auto *filter = window()->findChild<QLineEdit *>(QStringLiteral("catalogueFilterEdit"));
+        focus(filter);
+        QCOMPARE(enabledEdits(), QStringLiteral("Paste"));
+        QTest::keyClicks(filter, QStringLiteral("abc"));
+        QCOMPARE(enabledEdits(), QStringLiteral("Undo, Paste, Select All"));
+        filter->selectAll();
+        QCOMPARE(enabledEdits(), QStringLiteral("Undo, Cut, Copy, Paste, Select All"));
+        filter->clear();
+
+        // A list without rows has nothing to give.
+        window()->findChild<QDockWidget *>(QStringLiteral("outputDock"))->show();
+        auto *list = window()->findChild<QTreeView *>(QStringLiteral("messageList"));
+        focus(list);
+        QCOMPARE(enabledEdits(), QString());
+        window()->messages()->append(MessageModel::Warning, QStringLiteral("note"));
+        QCOMPARE(enabledEdits(), QStringLiteral("Copy, Select All"));
+        m_bench->action("Copy")->trigger();
+        QVERIFY(QGuiApplication::clipboard()->text().contains(QLatin1String("note")));
+        QGuiApplication::clipboard()->clear();
+        QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+        QVERIFY(QGuiApplication::clipboard()->text().contains(QLatin1String("note")));
+    }
+
+    void editCommandsWorkFromTheMenuBar()
+    {
+        const QString file = m_bench->folder() + QStringLiteral("/x.v");
+        write(file, "hello\n");
+        window()->openPath(file);
+        CodeEditor *editor = window()->tabs()->currentPage()->editor();
+        QApplication::setActiveWindow(window());
+        focus(editor);
+        editor->selectAll();
+        // The menu bar takes the focus while it is used with the keyboard.
+        window()->menuBar()->setFocus();
+        QVERIFY(m_bench->action("Copy")->isEnabled());
+        m_bench->action("Copy")->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("hello\n"));
+    }
+
+    void moveAndTabsAndMessagesActOnlyWhereTheyCan()
+    {
+        window()->openProject(m_bench->makeProject());
+        const QString folder = window()->project()->path();
+        QStringList files;
+        for (const char *name : {"a.v", "b.v", "c.v"}) {
+            files.append(folder + u'/' + QLatin1String(name));
+            write(files.last(), "x\n");
+        }
+        window()->project()->addFiles(files);
+        auto *tree = window()->findChild<QTreeView *>(QStringLiteral("projectTree"));
+        const auto select = [tree](int row) {
+            tree->setCurrentIndex(tree->model()->index(row, 0, tree->model()->index(1, 0)));
+        };
+        const auto moves = [this]() -> QString {
+            return QString::fromLatin1(m_bench->action("Move Up")->isEnabled() ? "up" : "") +
+                   QString::fromLatin1(m_bench->action("Move Down")->isEnabled() ? "down" : "");
+        };
+        select(0);
+        QCOMPARE(moves(), QStringLiteral("down"));
+        select(1);
+        QCOMPARE(moves(), QStringLiteral("updown"));
+        select(2);
+        QCOMPARE(moves(), QStringLiteral("up"));
+        tree->setCurrentIndex(tree->model()->index(1, 0));
+        QCOMPARE(moves(), QString());
+
+        for (const char *name : {"Next Tab", "Previous Tab", "Go to Editor", "Larger Text",
+                                 "Smaller Text", "Save All", "Next Message"})
+            QVERIFY2(!m_bench->action(name)->isEnabled(), name);
+        window()->openPath(files.at(0));
+        for (const char *name : {"Go to Editor", "Larger Text", "Smaller Text"})
+            QVERIFY2(m_bench->action(name)->isEnabled(), name);
+        QVERIFY(!m_bench->action("Next Tab")->isEnabled());
+        window()->openPath(files.at(1));
+        QVERIFY(m_bench->action("Next Tab")->isEnabled());
+        QVERIFY(!m_bench->action("Save All")->isEnabled());
+        window()->tabs()->currentPage()->startEditing();
+        window()->tabs()->currentPage()->editor()->insertPlainText(QStringLiteral("y"));
+        QVERIFY(m_bench->action("Save All")->isEnabled());
+        window()->messages()->append(MessageModel::Warning, QStringLiteral("without a line"));
+        QVERIFY(!m_bench->action("Next Message")->isEnabled());
+        Synthesis::RunReport report;
+        Synthesis::Message placed;
+        placed.file = files.at(0);
+        placed.line = 1;
+        placed.text = QStringLiteral("here");
+        report.messages = {placed};
+        window()->messages()->setReport(report);
+        QVERIFY(m_bench->action("Next Message")->isEnabled());
+        window()->tabs()->currentPage()->editor()->undo();
+    }
+
+    // Help
+
+    void f1OpensTheGuide()
+    {
+        QApplication::setActiveWindow(window());
+        QVERIFY(QTest::qWaitForWindowActive(window()));
+        QTest::keyClick(window(), Qt::Key_F1);
+        QVERIFY(window()->help());
+        HelpBrowser *browser = window()->help()->browser();
+        QVERIFY(window()->help()->isVisible());
+        QCOMPARE(browser->document()->begin().text(), QStringLiteral("User guide"));
+        // The guide as the sources have it, with its pictures.
+        const QString source = browser->source().toLocalFile();
+        QCOMPARE(contentsOf(source),
+                 contentsOf(QStringLiteral(TARVO_SOURCE_DIR "/docs/user-guide.md")));
+        QTest::keyClick(browser, Qt::Key_Escape);
+        QVERIFY(!window()->help()->isVisible());
+    }
+
+    void everyLinkAndPictureOfTheGuideLeadsSomewhere()
+    {
+        window()->showGuide();
+        HelpBrowser *browser = window()->help()->browser();
+        const QUrl guide = browser->source();
+        QSet<QString> links;
+        QSet<QString> pictures;
+        for (QTextBlock block = browser->document()->begin(); block.isValid();
+             block = block.next()) {
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QTextCharFormat format = it.fragment().charFormat();
+                if (format.isAnchor())
+                    links.insert(format.anchorHref());
+                if (format.isImageFormat())
+                    pictures.insert(format.toImageFormat().name());
+            }
+        }
+        QVERIFY(links.size() >= 3);
+        QVERIFY(pictures.size() >= 4);
+        for (const QString &picture : qAsConst(pictures)) {
+            const QVariant loaded =
+                browser->loadResource(QTextDocument::ImageResource, QUrl(picture));
+            QVERIFY2(!loaded.value<QImage>().isNull(), qPrintable(picture));
+            QVERIFY(loaded.value<QImage>().width() <= browser->viewport()->width());
+        }
+        for (const QString &link : qAsConst(links)) {
+            browser->setSource(guide);
+            browser->verticalScrollBar()->setValue(0);
+            browser->setSource(QUrl(link));
+            if (link.startsWith(u'#'))
+                QVERIFY2(browser->verticalScrollBar()->value() > 0, qPrintable(link));
+            else
+                QVERIFY2(browser->document()->characterCount() > 100, qPrintable(link));
+        }
+    }
+
+    void theDocumentOfAnIpIsReachable()
+    {
+        m_bench->action("Help on the Selected IP")->trigger();
+        QVERIFY(window()->help());
+        QVERIFY(window()->help()->browser()->source().toLocalFile().endsWith(
+            QLatin1String("help/tarvo_orix_m1.html")));
+        QVERIFY(window()->help()->browser()->document()->characterCount() > 100);
+        // The other IP has none.
+        auto *tree = window()->findChild<QTreeView *>(QStringLiteral("catalogueTree"));
+        QStringList offered;
+        for (QModelIndex index = tree->model()->index(0, 0); index.isValid();
+             index = tree->indexBelow(index)) {
+            tree->setCurrentIndex(index);
+            if (m_bench->action("Help on the Selected IP")->isEnabled())
+                offered.append(index.data().toString());
+        }
+        QCOMPARE(offered, QStringList(QStringLiteral("Tarvo_ORIX_M1")));
+    }
+
+    void f1InTheDialogOfAnIpOpensItsDocument()
+    {
+        window()->openProject(m_bench->makeProject());
+        QString source;
+        bool isUsable = false;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            QTest::keyClick(modal, Qt::Key_F1);
+            if (HelpWindow *help = window()->help()) {
+                source = help->browser()->source().toLocalFile();
+                isUsable = help->parentWidget() == modal;
+            }
+            qobject_cast<QDialog *>(modal)->reject();
+        });
+        window()->createSelectedIp(0);
+        QVERIFY2(source.endsWith(QLatin1String("help/tarvo_orix_m1.html")), qPrintable(source));
+        QVERIFY(isUsable);          // a window behind a modal dialog is not
+        QVERIFY(!window()->help()); // it goes with the dialog
+    }
+
+private:
+    using Look = std::function<void(QWidget *)>;
+
+    MainWindow *window() const { return m_bench->window.get(); }
+
+    static void focus(QWidget *widget)
+    {
+        widget->setFocus();
+        QVERIFY(QTest::qWaitFor([widget] { return widget->hasFocus(); }));
+    }
+
+    QString enabledEdits() const
+    {
+        QStringList names;
+        for (const char *name : {"Undo", "Redo", "Cut", "Copy", "Paste", "Select All"}) {
+            if (m_bench->action(name)->isEnabled())
+                names.append(QLatin1String(name));
+        }
+        return names.join(QLatin1String(", "));
+    }
+
+    // A run that succeeded, as the host tells of it. Returns the files of the results.
+    QStringList finishRun() const
+    {
+        const QString folder = window()->project()->path();
+        Synthesis::RunReport report;
+        report.job.targetName =
+            QStringLiteral("lamp") + QStringLiteral("_of_a_long_name").repeated(6);
+        report.job.device = window()->project()->device();
+        report.summary = QStringLiteral("Used 121 LUT4 (1 %).");
+        report.milliseconds = 1500;
+        report.cells = {{QStringLiteral("CortexM1Core"), 1, true},
+                        {QStringLiteral("TV_LUT4"), 121, false}};
+        report.resources = {{QStringLiteral("LUT4"), 121, 20000}};
+        report.ports = {{QStringLiteral("clk"), QStringLiteral("input"), 0, 0, false}};
+        for (const char *name : {"lamp.v", "lamp_tmp.v", "lamp.vg"}) {
+            report.files.append(folder + u'/' + QLatin1String(name));
+            write(report.files.last(), name);
+        }
+        Q_EMIT IPCore::SynthesisMonitor::instance().runFinished(report);
+        return report.files;
+    }
+
+    // Project, results, messages, an editor with its bars.
+    void openEverything() const
+    {
+        window()->openProject(m_bench->makeProject());
+        finishRun();
+        window()->findChild<QDockWidget *>(QStringLiteral("outputDock"))->show();
+        const QString name = QStringLiteral("a_source_file_with_a_rather_long_name_").repeated(3);
+        const QString file = window()->project()->path() + u'/' + name + QStringLiteral(".v");
+        write(file, "module x;\nendmodule\n");
+        window()->project()->addFiles({file});
+        window()->openPath(file);
+        EditorPage *page = window()->tabs()->currentPage();
+        page->findBar()->start();
+        QTest::keyClick(page->editor(), Qt::Key_X); // offers editing
+        QVERIFY(!page->infoBar()->isHidden());
+        window()->infoBar()->showMessage(
+            QStringLiteral("A message of the window. ").repeated(6) + name,
+            {{QStringLiteral("Choose &a Device…"), [] {}}, {QStringLiteral("Detai&ls"), [] {}}});
+        QCoreApplication::processEvents();
+    }
+
+    static void addScenes()
+    {
+        QTest::addColumn<QString>("scene");
+        for (const char *scene :
+             {"start", "project", "editor", "results", "log", "new project", "device", "plug-ins",
+              "about", "line", "guide", "message", "kept"})
+            QTest::newRow(scene) << QString::fromLatin1(scene);
+    }
+
+    // Brings about the scene of the row and lets `look` see its window.
+    void show(const Look &look)
+    {
+        QFETCH(QString, scene);
+        bool seen = false;
+        const auto lookOnce = [&](QWidget *window) {
+            seen = true;
+            look(window);
+        };
+        const ModalWatcher watcher([&](QWidget *modal) {
+            lookOnce(modal);
+            if (auto *dialog = qobject_cast<QDialog *>(modal))
+                dialog->reject();
+        });
+        if (scene != QLatin1String("start"))
+            openEverything();
+        if (scene == QLatin1String("new project")) {
+            window()->newProject();
+        } else if (scene == QLatin1String("device")) {
+            m_bench->action("Device")->trigger();
+        } else if (scene == QLatin1String("plug-ins")) {
+            m_bench->action("Plug-ins")->trigger();
+        } else if (scene == QLatin1String("about")) {
+            m_bench->action("About Tarvo Workbench")->trigger();
+        } else if (scene == QLatin1String("kept")) {
+            m_bench->action("Bring Back a Configuration")->trigger();
+        } else if (scene == QLatin1String("message")) {
+            window()->openPath(u'/' + QStringLiteral("a_folder_with_a_long_name/").repeated(12));
+        } else if (scene == QLatin1String("line")) {
+            m_bench->action("Go to Line")->trigger();
+        } else if (scene == QLatin1String("guide")) {
+            window()->showGuide();
+            lookOnce(window()->help());
+        } else {
+            window()->resize(smallScreen());
+            if (scene == QLatin1String("project"))
+                window()->tabs()->closeAll();
+            if (scene == QLatin1String("results"))
+                m_bench->action("Results of the Last Run")->trigger();
+            if (scene == QLatin1String("log"))
+                window()->findChild<QTabWidget *>(QStringLiteral("outputTabs"))->setCurrentIndex(1);
+            lookOnce(window());
+        }
+        QVERIFY(seen);
+    }
+
+    std::unique_ptr<Bench> m_bench;
+    const QFont m_font = QApplication::font();
+    const QPalette m_palette = QApplication::palette();
+};
+
+TARVO_TEST_MAIN(QApplication, TestWindows)
+#include "tst_windows.moc"
