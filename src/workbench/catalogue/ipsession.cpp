@@ -43,7 +43,6 @@ Stamps ipcStamps(const QString &folder)
 }
 
 constexpr const char *configurationMethod = "configuration()";
-constexpr qint64 configurationLimit = 4 << 20; // in bytes
 
 // What the dialog would store; empty if it does not tell.
 QVariantMap configurationOf(QDialog *dialog)
@@ -162,8 +161,7 @@ IpSession::Contents IpSession::contentsIn(const QString &folder) const
     for (const QString &path : qAsConst(paths)) {
         QByteArray bytes;
         if (!contents.contains(path) && QFileInfo(path).isFile() &&
-            QFileInfo(path).size() <= configurationLimit &&
-            Utils::FileUtils::readFile(path, &bytes, nullptr))
+            Utils::readConfigurationFile(path, &bytes, nullptr))
             contents.insert(path, bytes);
     }
     return contents;
