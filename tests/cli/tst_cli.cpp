@@ -15,6 +15,7 @@
 
 #include <csignal>
 #include <unistd.h>
+#include <vector>
 
 using namespace TARVOORIXM1;
 
@@ -914,27 +915,43 @@ void tst_Cli::curesAnUnknownDevice()
 
 void tst_Cli::unwritableOutputIsAFailure_data()
 {
-    QTest::addColumn<QString>("arguments");
-    for (const char *arguments :
-         {"--help", "--help-all", "--version", "new --help", "options", "options --json", "devices",
-          "check " TARVO_EXAMPLES_DIR "/sensor-node.ipc --json",
-          "pins " TARVO_EXAMPLES_DIR "/sensor-node.ipc",
-          "sources " TARVO_EXAMPLES_DIR "/sensor-node.ipc", "registers", "registers --c-header",
-          "registers --markdown", "new --device TV2K-18-QFN88-C8/I7 --out made",
-          "retarget " TARVO_EXAMPLES_DIR "/sensor-node.ipc --device TV1L-9-QFN48-C6/I5 --dry-run",
-          "generate " TARVO_EXAMPLES_DIR "/sensor-node.ipc --no-synth --out made"})
-        QTest::newRow(arguments) << QString::fromLatin1(arguments);
+    QTest::addColumn<QStringList>("arguments");
+    const char *const example = TARVO_EXAMPLES_DIR "/sensor-node.ipc";
+    const std::vector<std::vector<const char *>> rows = {
+        {"--help"},
+        {"--help-all"},
+        {"--version"},
+        {"new", "--help"},
+        {"options"},
+        {"options", "--json"},
+        {"devices"},
+        {"check", example, "--json"},
+        {"pins", example},
+        {"sources", example},
+        {"registers"},
+        {"registers", "--c-header"},
+        {"registers", "--markdown"},
+        {"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "made"},
+        {"retarget", example, "--device", "TV1L-9-QFN48-C6/I5", "--dry-run"},
+        {"generate", example, "--no-synth", "--out", "made"}};
+    for (const std::vector<const char *> &row : rows) {
+        QStringList arguments;
+        for (const char *argument : row)
+            arguments.append(QString::fromUtf8(argument));
+        QTest::newRow(qPrintable(arguments.mid(0, 2).join(u' ') + u' ' + arguments.last()))
+            << arguments;
+    }
 }
 
 void tst_Cli::unwritableOutputIsAFailure()
 {
-    QFETCH(QString, arguments);
+    QFETCH(QStringList, arguments);
     if (!QFileInfo::exists(QStringLiteral("/dev/full")))
         QSKIP("There is no device that is always full.");
     QProcess process;
     process.setWorkingDirectory(m_dir->path());
     process.setStandardOutputFile(QStringLiteral("/dev/full"));
-    process.start(QStringLiteral(TARVO_COMMAND), arguments.split(u' '));
+    process.start(QStringLiteral(TARVO_COMMAND), arguments);
     QVERIFY(process.waitForFinished(300000));
     const QByteArray errors = process.readAllStandardError();
     QCOMPARE(process.exitCode(), 1);

@@ -43,7 +43,7 @@ QVariant asRead(const Option &option, const QVariant &value)
 
 QString sizeText(const QVariant &index)
 {
-    return tcmSizeList(index.toInt()).constLast();
+    return tcmSizeList(index.toInt()).value(index.toInt());
 }
 
 class Mover

@@ -83,7 +83,7 @@ QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId, bool w
         // The host tells nobody whether it could write.
         const QSettings settings(ipcFile, QSettings::IniFormat);
         if (IpcFile::deviceText(settings) != to.id())
-            return answer(shown(ipcFile) + " could not be written."_l1, to.id(), losses, changed);
+            return answer(shown(ipcFile) + " could not be written."_l1, to.id(), losses, false);
     }
     return answer(QString(), to.id(), losses, changed);
 }

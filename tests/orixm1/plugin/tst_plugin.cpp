@@ -515,6 +515,7 @@ void tst_Plugin::tellsThatAMoveCouldNotBeWritten()
             answer.value(QStringLiteral("error")).toString())); // the host's own, with the reason
     QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(file),
              qPrintable(answer.value(QStringLiteral("error")).toString()));
+    QCOMPARE(answer.value(QStringLiteral("changed")), QVariant(false));
     QCOMPARE(TestSupport::contentsOf(file), bytes);
 }
 
