@@ -108,16 +108,17 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
     for (const QString &error : report.errors)
         printError(error);
     if (arguments.json) {
-        printJson({{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
-                   {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
-                   {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
-                   {QStringLiteral("libraries"),
-                    report.library.isEmpty() ? QJsonArray() : QJsonArray{report.library}},
-                   {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
-                   {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
-                   {QStringLiteral("cells"), jsonOf(report.run.cells)},
-                   {QStringLiteral("notCounted"), notCounted(report.run.cells)},
-                   {QStringLiteral("resources"), jsonOf(report.run.resources)}});
+        QJsonObject object{{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
+                           {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
+                           {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
+                           {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
+                           {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
+                           {QStringLiteral("cells"), jsonOf(report.run.cells)},
+                           {QStringLiteral("notCounted"), notCounted(report.run.cells)},
+                           {QStringLiteral("resources"), jsonOf(report.run.resources)}};
+        if (!report.library.isEmpty())
+            object.insert(QStringLiteral("libraries"), QJsonArray{report.library});
+        printJson(object);
         return status;
     }
     const QStringList paths = report.files + report.outputs;

@@ -315,7 +315,9 @@ QString subsystemBench(const QVector<Peripheral> &peripherals)
         "`include \"core_model.v\"\nmodule tb;\n`include \"bench.vh\"\n`include \"ahb_master.vh\"\n"
         "    reg hwRstn = 1'b0;\n"
         "    tri0 flash;\n"
-        "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .UART0RXD(1'b1), .UART1RXD(1'b1), "
+        "    tri1 srst;\n"
+        "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .JTAG_15(srst), .UART0RXD(1'b1), "
+        ".UART1RXD(1'b1), "
         ".TIMER0EXTIN(1'b0), .TIMER1EXTIN(1'b0), .RTCSRCCLK(1'b0), .MISO(1'b0), .SD_SPICLK(1'b0), "
         ".SD_DATAIN(1'b0), "
         ".SD_CHECKIN(1'b1), .FLASH_SPI_MISO(flash));\n"
@@ -579,7 +581,8 @@ void tst_RegistersInRtl::theGuidesMapIsTheSubsystems()
     QString text = QStringLiteral(
         "`include \"core_model.v\"\n`include \"define.vh\"\nmodule tb;\n`include \"bench.vh\"\n"
         "`include \"ahb_master.vh\"\n    reg hwRstn = 1'b0;\n    reg [15:0] psel = 16'd0;\n"
-        "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn)");
+        "    tri1 srst;\n    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .JTAG_15(srst), "
+        ".EXTFLASH0HREADYOUT(1'b1), .EXTFLASH0HRESP(2'b00)");
     for (int n = 1; n <= 16; ++n)
         text += QStringLiteral(", .APB%1PREDADY(1'b1), .APB%1PSLVERR(1'b0)").arg(n);
     text += QLatin1String(
@@ -596,7 +599,10 @@ void tst_RegistersInRtl::theGuidesMapIsTheSubsystems()
         "    always @(posedge clk) if (|dut.apbext_psel_s) psel <= dut.apbext_psel_s;\n"
         "    task select(input [31:0] address, input [15:0] expected);\n"
         "        begin\n            haddr = address;\n            #1;\n"
-        "            check32(dut.hsel_s, expected, \"selected\");\n        end\n"
+        "            check32(dut.hsel_s, expected, \"selected\");\n"
+        // No clock edge at an address whose block is not there.
+        "            haddr = 32'hF0000000;\n            cycles(1);\n        "
+        "end\n"
         "    endtask\n"
         "    initial begin\n        cycles(5);\n        hwRstn = 1'b1;\n"
         "        cycles(40);\n");
