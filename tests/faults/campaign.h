@@ -167,9 +167,7 @@ public:
                 return complain(
                     QStringLiteral("It reports success, but what is there is not right"));
             // Only the log may be lost without a word.
-            const bool matters =
-                fault.kind == "write" || fault.kind == "fsync" || fault.kind == "rename";
-            if (m_fired && fault.effect > 0 && matters && !inTool &&
+            if (m_state->onFile > 0 && fault.effect > 0 && !inTool &&
                 (command != Generate || (isNewLog(now) && fault.before != Same)))
                 return complain(QStringLiteral("It takes an error for a success"));
             return {};
@@ -304,6 +302,7 @@ private:
         for (std::atomic<int> &count : m_state->counts)
             count = 0;
         m_state->fired = 0;
+        m_state->onFile = 0;
         m_state->main = 0;
         for (const char *folder : {"out", "tmp", "home"}) {
             QDir(path(folder)).removeRecursively();
