@@ -158,8 +158,9 @@ public:
             return complain(QStringLiteral("A process stays"));
         if (kills && m_status < 0)
             return afterKill(command, complain);
-        if (QString left = leftOver(command);
-            !left.isEmpty() && !(fault.kind == "unlink" && fault.lasting))
+        // A folder that cannot be read, or files that cannot be removed, stay until the next run.
+        const bool mayStay = fault.lasting && (fault.kind == "unlink" || fault.kind == "open");
+        if (const QString left = leftOver(command); !left.isEmpty() && !mayStay)
             return complain(left);
         const Files now = filesOf(path("out"), m_expected[command][1]);
         if (m_status == 0) {
@@ -167,14 +168,14 @@ public:
                 return complain(
                     QStringLiteral("It reports success, but what is there is not right"));
             // Only the log may be lost without a word.
-            const bool matters =
-                fault.kind == "write" || fault.kind == "fsync" || fault.kind == "rename";
-            if (m_fired && fault.effect > 0 && matters && !inTool &&
+            if (m_state->onFile > 0 && fault.effect > 0 && !inTool &&
                 (command != Generate || (isNewLog(now) && fault.before != Same)))
                 return complain(QStringLiteral("It takes an error for a success"));
             return {};
         }
-        if (const QString half = notWhole(command, now); !half.isEmpty())
+        // Where no file can be put in place any more, none can be put back.
+        const bool mayMix = fault.lasting && fault.kind == "rename";
+        if (const QString half = notWhole(command, now, mayMix); !half.isEmpty())
             return complain(half);
         if (!said.contains(m_dir.path()) &&
             !said.contains(QLatin1String("yosys"), Qt::CaseInsensitive))
@@ -304,6 +305,7 @@ private:
         for (std::atomic<int> &count : m_state->counts)
             count = 0;
         m_state->fired = 0;
+        m_state->onFile = 0;
         m_state->main = 0;
         for (const char *folder : {"out", "tmp", "home"}) {
             QDir(path(folder)).removeRecursively();
@@ -416,7 +418,7 @@ private:
     }
 
     // Every file is there, old or new; those that a run places together are of one kind.
-    QString notWhole(Command command, const Files &now) const
+    QString notWhole(Command command, const Files &now, bool mayMix) const
     {
         const Files &after = m_expected[command][1];
         int together = 0;
@@ -429,7 +431,8 @@ private:
                 continue;
             together |= now.value(name) == it.value() ? 2 : 1;
         }
-        return together == 3 ? QStringLiteral("The results of one run are partly old") : QString();
+        return together == 3 && !mayMix ? QStringLiteral("The results of one run are partly old")
+                                        : QString();
     }
 
     // What a killed run has left is whole, and the next one is as if nothing had been.

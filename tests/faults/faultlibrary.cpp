@@ -14,6 +14,7 @@
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/types.h>
 #include <sys/uio.h>
@@ -102,6 +103,8 @@ bool isChosen(Kind kind)
     if (kind != chosenKind || (number != chosenCall && !(lasting && number > chosenCall)))
         return false;
     ++state->fired;
+    if (kind == Fsync || kind == Rename)
+        ++state->onFile;
     return true;
 }
 
@@ -126,7 +129,8 @@ bool failsBefore()
             die();
         if (state->main > 1)
             syscall(SYS_kill, int(state->main), SIGKILL);
-        stand(60000);
+        // Before it becomes another program a child is helpless; elsewhere it is only late.
+        stand(chosenKind == Exec ? 60000 : 2000);
     }
     return false;
 }
@@ -179,11 +183,21 @@ int __open64_2(const char *path, int flags);
 int __openat_2(int dir, const char *path, int flags);
 int __openat64_2(int dir, const char *path, int flags);
 
+// Writes also wake an event loop, or tell another process.
 ssize_t write(int fd, const void *bytes, size_t size)
 {
-    if (effect != ShortCount)
-        return pass(Write, "write", &::write, fd, bytes, size);
     const bool chosen = isChosen(Write);
+    struct stat status = {};
+    if (chosen && fstat(fd, &status) == 0 && S_ISREG(status.st_mode))
+        ++state->onFile;
+    if (effect != ShortCount) {
+        if (chosen && failsBefore())
+            return -1;
+        const ssize_t result = original(&::write, "write")(fd, bytes, size);
+        if (chosen && effect == KillAfter)
+            die();
+        return result;
+    }
     return original(&::write, "write")(fd, bytes, chosen && size > 1 ? size / 2 : size);
 }
 

@@ -10,6 +10,7 @@ inline constexpr const char *kinds[] = {"write", "fsync",  "rename", "open", "mk
 struct FaultState {
     std::atomic<int> counts[16]; // calls of each kind so far, in all processes of the programs
     std::atomic<int> fired;      // of those, the ones that were made to fail
+    std::atomic<int> onFile;     // of those, the ones that would have changed a file
     std::atomic<int> main;       // the first process of the program
 };
 
