@@ -2,7 +2,6 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
-#include <QCommandLinkButton>
 #include <QDialogButtonBox>
 #include <QFocusEvent>
 #include <QGraphicsView>
@@ -73,8 +72,9 @@ void FocusRing::install()
 
 bool FocusRing::isNeeded(const QWidget *widget)
 {
-    if (const auto *button = qobject_cast<const QPushButton *>(widget))
-        return button->isFlat() || qobject_cast<const QCommandLinkButton *>(button);
+    // The default button of a dialog looks the same without the focus, a flat one has no frame.
+    if (qobject_cast<const QPushButton *>(widget))
+        return true;
     if (!qobject_cast<const QAbstractScrollArea *>(widget))
         return false;
     if (qobject_cast<const QGraphicsView *>(widget))

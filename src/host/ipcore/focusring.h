@@ -9,8 +9,8 @@ namespace IPCore
 {
 
 // A frame around the widget that has the keyboard's focus, where that does not show it by itself:
-// lists, tables, read-only texts and figures, or only while they have a current item, and buttons
-// without a frame of their own. Areas scroll to the widget that Tab leads to.
+// lists, tables, read-only texts and figures, or only while they have a current item, and push
+// buttons. Areas scroll to the widget that Tab leads to.
 //
 // Once installed it serves every window of the program. Styles show the focus in a window from the
 // beginning then, not only after the first Tab, and Tab reaches every button of a button box: the
