@@ -33,9 +33,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         rows += 1 + entry.fields.size();
     }
     // Every line of the tables is one: no text breaks out of its cell's line.
-    const QString document = registersMarkdown(peripherals);
+    const QString document = registersMarkdown(peripherals, {});
     REQUIRE(document.count(QLatin1String("\n| ")) == 2 + peripheral.instances.size() + rows);
-    const QString header = registersHeader(peripherals);
+    const QString header = registersHeader(peripherals, {});
     REQUIRE(header.count(QLatin1String("/*")) >= 2 && header.endsWith(QLatin1String("#endif\n")));
     REQUIRE(header.count(QLatin1String("*/")) == 2);
     enabledPeripherals(peripherals, {});
