@@ -173,9 +173,8 @@ public:
                 return complain(QStringLiteral("It takes an error for a success"));
             return {};
         }
-        // Where no file can be put in place any more, none can be put back.
-        const bool mayMix = fault.lasting && fault.kind == "rename";
-        if (const QString half = notWhole(command, now, mayMix); !half.isEmpty())
+        // Where nothing can be put in place any more, nothing can be put back.
+        if (const QString half = notWhole(command, now, fault.lasting); !half.isEmpty())
             return complain(half);
         if (!said.contains(m_dir.path()) &&
             !said.contains(QLatin1String("yosys"), Qt::CaseInsensitive))

@@ -197,7 +197,7 @@ int FileReplacement::openNamed()
     return -1;
 }
 
-bool FileReplacement::write(QString *error)
+bool FileReplacement::write(QString *error, bool onDisk)
 {
     if (m_fd < 0)
         return fail(error, systemError());
@@ -205,7 +205,7 @@ bool FileReplacement::write(QString *error)
     const bool written =
         writeAll(m_fd, m_bytes) && ::fstat(m_fd, &status) == 0 &&
         (!m_exists || (status.st_mode & 0777) == m_mode || ::fchmod(m_fd, m_mode) == 0) &&
-        sync(m_fd);
+        (sync(m_fd) || !onDisk);
     if (written)
         return true;
     const int number = errno;
@@ -360,7 +360,8 @@ void FileReplacement::revert()
     m_fd = openNameless();
     if (m_fd < 0)
         m_fd = openNamed();
-    if (write(nullptr))
+    // The disk may be why they are put back.
+    if (write(nullptr, false))
         move(nullptr);
     discard();
 }

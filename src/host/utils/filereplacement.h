@@ -44,7 +44,7 @@ private:
     bool resolve(QString *error);
     int openNameless() const;
     int openNamed();
-    bool write(QString *error);
+    bool write(QString *error, bool onDisk = true);
     bool link(int *errorNumber);
     bool move(QString *error);
     bool syncFolder(int *errorNumber);
