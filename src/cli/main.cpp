@@ -10,6 +10,7 @@
 #include <QTextCodec>
 
 #include <functional>
+#include <sstream>
 
 namespace
 {
@@ -203,7 +204,12 @@ int run(int argc, char *argv[])
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
-        return app.exit(error) == 0 ? Cli::Done : Cli::WrongUsage;
+        std::ostringstream output;
+        std::ostringstream errors;
+        const bool isHelp = app.exit(error, output, errors) == 0;
+        Cli::printText(stdout, output.str());
+        Cli::printText(stderr, errors.str());
+        return isHelp ? Cli::Done : Cli::WrongUsage;
     }
     if (!command) {
         Cli::printError(QStringLiteral("A command is required; \"orixm1 --help\" lists them."));

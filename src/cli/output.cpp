@@ -29,6 +29,11 @@ void printLine(const QString &line)
     put(stdout, line.toUtf8() + '\n');
 }
 
+void printText(FILE *stream, const std::string &text)
+{
+    put(stream, QByteArray::fromStdString(text));
+}
+
 void printError(const QString &line)
 {
     put(stderr, QByteArray("orixm1: ") + line.toUtf8() + '\n');

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdio>
+#include <string>
+
 namespace Cli
 {
 
@@ -14,6 +17,8 @@ enum Status { Done = 0, Failed = 1, WrongUsage = 2, BadInput = 3, Cancelled = 13
 // All output is UTF-8, whatever the locale says.
 void printLine(const QString &line);
 void printError(const QString &line);
+// As it is, to standard output or standard error.
+void printText(FILE *stream, const std::string &text);
 // One object, indented, with its keys in alphabetical order.
 void printJson(const QJsonObject &object);
 
