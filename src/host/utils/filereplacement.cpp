@@ -197,15 +197,38 @@ int FileReplacement::openNamed()
     return -1;
 }
 
+// Whoever looks at time and size alone, as QSettings does in milliseconds, notices the new contents
+// also where they come within the same tick of the clock as the old ones.
+void FileReplacement::setApart(const struct stat &status) const
+{
+    const auto milliseconds = [](const struct timespec &time) {
+        return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1000000;
+    };
+    struct stat old = {};
+    if (m_old < 0 || ::fstat(m_old, &old) != 0)
+        return;
+    const qint64 before = milliseconds(old.st_mtim);
+    const qint64 ahead = before - milliseconds(status.st_mtim);
+    constexpr qint64 otherClock = 1000; // a file from further ahead is none of the last writes
+    if (ahead < 0 || ahead > otherClock)
+        return;
+    const qint64 next = before + 1;
+    const struct timespec times[2] = {{0, UTIME_OMIT},
+                                      {time_t(next / 1000), long(next % 1000) * 1000000}};
+    ::futimens(m_fd, times);
+}
+
 bool FileReplacement::write(QString *error, bool onDisk)
 {
     if (m_fd < 0)
         return fail(error, systemError());
     struct stat status = {};
-    const bool written =
-        writeAll(m_fd, m_bytes) && ::fstat(m_fd, &status) == 0 &&
-        (!m_exists || (status.st_mode & 0777) == m_mode || ::fchmod(m_fd, m_mode) == 0) &&
-        (sync(m_fd) || !onDisk);
+    bool written = writeAll(m_fd, m_bytes) && ::fstat(m_fd, &status) == 0 &&
+                   (!m_exists || (status.st_mode & 0777) == m_mode || ::fchmod(m_fd, m_mode) == 0);
+    if (written) {
+        setApart(status);
+        written = sync(m_fd) || !onDisk;
+    }
     if (written)
         return true;
     const int number = errno;

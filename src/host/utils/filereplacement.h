@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <sys/stat.h>
 #include <sys/types.h>
 
 namespace Utils
@@ -44,6 +45,7 @@ private:
     bool resolve(QString *error);
     int openNameless() const;
     int openNamed();
+    void setApart(const struct stat &status) const;
     bool write(QString *error, bool onDisk = true);
     bool link(int *errorNumber);
     bool move(QString *error);

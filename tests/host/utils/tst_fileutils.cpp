@@ -8,6 +8,7 @@
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QScopeGuard>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -156,6 +157,18 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(source, QFile::ReadOwner));
         QVERIFY(FileUtils::copyFile(source, copy, nullptr));
         QCOMPARE(modeOf(copy), modeOf(usual));
+    }
+
+    void contentsOfOneSizeDifferInTime()
+    {
+        const QString file = path(QStringLiteral("quick"));
+        const auto remove = qScopeGuard([&file] { QFile::remove(file); });
+        QSet<qint64> times;
+        for (int i = 0; i < 200; ++i) {
+            QVERIFY(FileUtils::writeFile(file, QByteArray::number(100 + i), nullptr));
+            times.insert(QFileInfo(file).lastModified().toMSecsSinceEpoch());
+        }
+        QCOMPARE(times.size(), 200);
     }
 
     void writesThroughLinks_data()
