@@ -37,10 +37,10 @@ inline QByteArray bytesOf(const uint8_t *data, size_t size)
 // A folder of this process for readers that want files; in memory where there is such a place.
 inline QString folder()
 {
-    static const QTemporaryDir dir(
-        (QFileInfo(QStringLiteral("/dev/shm")).isWritable() ? QStringLiteral("/dev/shm")
-                                                            : QDir::tempPath()) +
-        QStringLiteral("/fuzz-XXXXXX"));
+    static const QTemporaryDir dir((QFileInfo(QStringLiteral("/dev/shm")).isWritable()
+                                        ? QStringLiteral("/dev/shm")
+                                        : QDir::tempPath()) +
+                                   QStringLiteral("/fuzz-XXXXXX"));
     static const bool isSet = qputenv("TMPDIR", QFile::encodeName(dir.path()));
     REQUIRE(isSet && dir.isValid());
     return dir.path();

@@ -1,4 +1,5 @@
-// A library that stands in the current folder under another's name and leaves a trace where it is loaded.
+// A library that stands in the current folder under another's name and leaves a trace where it is
+// loaded.
 #include <cstdio>
 
 namespace

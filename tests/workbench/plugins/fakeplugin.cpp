@@ -1,4 +1,5 @@
-// Plug-ins for the tests, one for each way in which a plug-in can behave: the library's name says which.
+// Plug-ins for the tests, one for each way in which a plug-in can behave: the library's name says
+// which.
 
 #include <core/viewmanager.h>
 #include <ipplugin/baseipcoreinterface.h>
