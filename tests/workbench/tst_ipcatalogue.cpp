@@ -239,6 +239,30 @@ private Q_SLOTS:
         }
     }
 
+    // The configurator and the workbench know each other's method by name only.
+    void theConfiguratorMovesItsConfigurations()
+    {
+        const QTemporaryDir dir;
+        const QString ipc = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+        const QByteArray before = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                                  "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n"
+                                  "[Config]\nEnable%20CAN=true\n";
+        write(ipc, before);
+        IpCatalogue catalogue;
+        loadBoth(catalogue);
+        QVERIFY(catalogue.canMove(0));
+        const QString small = QStringLiteral("TV1KL-5A-QFN32-C6/I5");
+        IpCatalogue::Move move;
+        QString error;
+        QVERIFY2(catalogue.moveToDevice(0, ipc, small, false, &move, &error), qPrintable(error));
+        QVERIFY(move.changed);
+        QVERIFY2(move.losses.contains(QStringLiteral("CAN is taken out: TV1KL-5A cannot have it.")),
+                 qPrintable(move.losses.join(u'|')));
+        QCOMPARE(contentsOf(ipc), before);
+        QVERIFY2(catalogue.moveToDevice(0, ipc, small, true, &move, &error), qPrintable(error));
+        QVERIFY(contentsOf(ipc).contains("target_device=" + small.toUtf8() + '\n'));
+    }
+
     void loadsTheGoodOnesBesideTheBroken()
     {
         IpCatalogue catalogue;
