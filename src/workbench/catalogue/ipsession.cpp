@@ -45,7 +45,7 @@ Stamps ipcStamps(const QString &folder)
 constexpr const char *configurationMethod = "configuration()";
 
 // What the dialog would store; empty if it does not tell.
-QVariantMap configurationOf(QDialog *dialog)
+QVariantMap configurationOf(QObject *dialog)
 {
     QVariantMap configuration;
     const QString thrown = PluginLoader::thrownBy([&] {

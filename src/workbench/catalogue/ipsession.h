@@ -75,8 +75,9 @@ private:
     std::function<QStringList()> m_knownFiles;
     bool m_active = false;
     bool m_accepted = false;
-    QPointer<QDialog> m_dialog; // the one that tells its configuration
-    QVariantMap m_opened;       // what it told when it came up
+    // The dialog that tells its configuration; looked at also while it is taken down.
+    QPointer<QObject> m_dialog;
+    QVariantMap m_opened; // what it told when it came up
     QString m_droppedId;
     QString m_droppedFile;
 };
