@@ -2,13 +2,13 @@
 // to a block dialog without options and pins. Both are timed in turn; printed are the medians and
 // their ratio. bench_blockdialogs [RUNS]
 
-#include <peripherals/candlg.h>
-#include <peripherals/ddr3dlg.h>
-#include <peripherals/ethernetdlg.h>
-#include <peripherals/extensiondialogs.h>
-#include <peripherals/interfacetypedialogs.h>
-#include <peripherals/singleswitchdialogs.h>
-#include <peripherals/twoinstancedialogs.h>
+#include <dialogs/candlg.h>
+#include <dialogs/ddr3dlg.h>
+#include <dialogs/ethernetdlg.h>
+#include <dialogs/extensiondialogs.h>
+#include <dialogs/interfacetypedialogs.h>
+#include <dialogs/singleswitchdialogs.h>
+#include <dialogs/twoinstancedialogs.h>
 
 #include <QApplication>
 #include <QElapsedTimer>

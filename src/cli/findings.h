@@ -1,6 +1,6 @@
 #pragma once
 
-#include <config/check.h>
+#include <rules/check.h>
 
 #include <QJsonObject>
 #include <QString>

@@ -5,12 +5,13 @@
 #include "output.h"
 
 #include <config/choices.h>
-#include <config/itcmcontents.h>
 #include <config/optionkeys.h>
 #include <generate/defines.h>
 #include <generate/outputs.h>
 #include <generate/sourcefiles.h>
 #include <generate/synthesisrequest.h>
+#include <rules/generationfolder.h>
+#include <rules/itcmcontents.h>
 #include <synthesis/resources.h>
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>

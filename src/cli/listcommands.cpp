@@ -4,9 +4,10 @@
 #include "ipcdocument.h"
 #include "output.h"
 
-#include <config/dialogdefaults.h>
 #include <config/optiontable.h>
 #include <generate/sourcefiles.h>
+#include <rules/dialogdefaults.h>
+#include <rules/generationfolder.h>
 
 namespace Cli
 {

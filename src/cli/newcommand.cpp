@@ -6,8 +6,8 @@
 
 #include <config/choices.h>
 #include <config/ipcfile.h>
-#include <config/newoptions.h>
 #include <config/optiontable.h>
+#include <rules/newoptions.h>
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
 

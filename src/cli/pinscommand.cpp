@@ -4,8 +4,8 @@
 #include "ipcdocument.h"
 #include "output.h"
 
-#include <core/corepins.h>
-#include <peripherals/pins.h>
+#include <rules/corepins.h>
+#include <rules/pins.h>
 
 namespace Cli
 {

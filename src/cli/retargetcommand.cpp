@@ -6,8 +6,8 @@
 
 #include <config/ipcfile.h>
 #include <config/optionkeys.h>
-#include <config/retarget.h>
-#include <core/itcmpath.h>
+#include <rules/itcmpath.h>
+#include <rules/retarget.h>
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
 

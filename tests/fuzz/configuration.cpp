@@ -1,10 +1,10 @@
 #include "fuzz.h"
 
-#include <config/check.h>
 #include <config/ipcfile.h>
 #include <config/optionkeys.h>
 #include <dev/devicedb.h>
 #include <reading/inientries.h>
+#include <rules/check.h>
 #include <utils/inifile.h>
 
 #include <QMap>

@@ -2,9 +2,9 @@
 
 #include <config/descriptor.h>
 #include <config/optionkeys.h>
-#include <core/cortexm1.h>
+#include <dialogs/cortexm1.h>
+#include <dialogs/ethernetdlg.h>
 #include <ipcore/ipcore.h>
-#include <peripherals/ethernetdlg.h>
 #include <ui/tarvoorixm1dlg.h>
 
 #include <QApplication>

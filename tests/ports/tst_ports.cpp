@@ -3,17 +3,17 @@
 
 #include "testsupport.h"
 
-#include <config/check.h>
 #include <config/descriptor.h>
-#include <config/devicerules.h>
-#include <config/itcmcontents.h>
 #include <config/optionkeys.h>
 #include <config/optiontable.h>
-#include <core/corepins.h>
 #include <dev/devicedb.h>
 #include <generate/defines.h>
 #include <generate/sourcefiles.h>
-#include <peripherals/pins.h>
+#include <rules/check.h>
+#include <rules/corepins.h>
+#include <rules/devicerules.h>
+#include <rules/itcmcontents.h>
+#include <rules/pins.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,8 +1,8 @@
 #include "defines.h"
 
-#include "config/devicerules.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "rules/devicerules.h"
 
 #include <QDir>
 

@@ -1,9 +1,9 @@
 #include "sourcefiles.h"
 
-#include "config/devicerules.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "defines.h"
+#include "rules/devicerules.h"
 
 #include <QDir>
 
@@ -65,11 +65,6 @@ bool isSupportFile(const QString &name)
 }
 
 } // namespace
-
-QString generationFolder(const QString &createInPath)
-{
-    return createInPath + "/temp/"_l1 + "tv_orix_m1"_l1;
-}
 
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir)

@@ -8,9 +8,6 @@
 namespace TARVOORIXM1
 {
 
-// The folder below an output folder that holds the generated files.
-QString generationFolder(const QString &createInPath);
-
 // The full paths of the files that synthesis compiles, in order: the RTL of the descriptor's
 // "debug" or "no_debug" folder as far as the device needs it (sorted by name without regard to
 // case), then the generated include files in `tempDir`. A data folder that is missing or has an

@@ -2,7 +2,7 @@
 
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
-#include "config/retarget.h"
+#include "rules/retarget.h"
 
 #include <dev/devicedb.h>
 #include <ipcore/ipcore.h>

@@ -3,7 +3,7 @@
 #include "config/descriptor.h"
 #include "config/ipcfile.h"
 #include "config/optionkeys.h"
-#include "ui/messagebox.h"
+#include "dialogs/messagebox.h"
 #include "ui/tarvoorixm1dlg.h"
 
 #include <core/viewmanager.h>

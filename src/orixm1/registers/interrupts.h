@@ -1,7 +1,7 @@
 #pragma once
 
-#include "config/check.h"
 #include "registermap.h"
+#include "rules/check.h"
 
 namespace TARVOORIXM1
 {

@@ -5,7 +5,7 @@
 
 #include "config/choices.h"
 #include "config/ipcfile.h"
-#include "messagebox.h"
+#include "dialogs/messagebox.h"
 
 #include <core/idecore.h>
 #include <dev/devicedb.h>

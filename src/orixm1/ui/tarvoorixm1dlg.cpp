@@ -2,18 +2,19 @@
 
 #include "ui_microsysipgendlg.h"
 
-#include "config/devicerules.h"
 #include "config/ipcfile.h"
-#include "config/itcmcontents.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
-#include "core/itcmpath.h"
 #include "diagram/ipview.h"
+#include "dialogs/messagebox.h"
 #include "generate/defines.h"
 #include "generate/outputs.h"
 #include "generate/sourcefiles.h"
 #include "generate/synthesisrequest.h"
-#include "messagebox.h"
+#include "rules/devicerules.h"
+#include "rules/generationfolder.h"
+#include "rules/itcmcontents.h"
+#include "rules/itcmpath.h"
 
 #include <core/editormanager.h>
 #include <ipcore/ipcore.h>

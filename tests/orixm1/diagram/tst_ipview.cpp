@@ -2,12 +2,12 @@
 #include "testsupport.h"
 
 #include <config/optionkeys.h>
-#include <core/cortexm1.h>
 #include <dev/devicedb.h>
 #include <diagram/ipitem.h>
 #include <diagram/ipview.h>
 #include <diagram/lineitem.h>
 #include <diagram/textitem.h>
+#include <dialogs/cortexm1.h>
 #include <ui/tarvoorixm1dlg.h>
 
 #include <QAccessible>

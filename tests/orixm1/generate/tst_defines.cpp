@@ -1,9 +1,9 @@
 #include "testsupport.h"
 
-#include <config/devicerules.h>
 #include <config/optionkeys.h>
 #include <dev/devicedb.h>
 #include <generate/defines.h>
+#include <rules/devicerules.h>
 
 #include <QtTest>
 

@@ -3,10 +3,10 @@
 
 #include "reference.h"
 
-#include <config/devicerules.h>
 #include <config/ipcfile.h>
 #include <generate/defines.h>
 #include <generate/sourcefiles.h>
+#include <rules/devicerules.h>
 #include <utils/inifile.h>
 
 #include <QSettings>

@@ -1,12 +1,12 @@
-#include "peripherals/expectedblocks.h"
+#include "dialogs/expectedblocks.h"
 
 #include <windowwalk.h>
 
 #include <config/descriptor.h>
 #include <config/optionkeys.h>
-#include <core/cortexm1.h>
 #include <diagram/ipitem.h>
 #include <diagram/ipview.h>
+#include <dialogs/cortexm1.h>
 #include <ipcore/ipcore.h>
 #include <ipcore/pinfigureview.h>
 #include <ui/tarvoorixm1dlg.h>

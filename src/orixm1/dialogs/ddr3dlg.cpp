@@ -1,0 +1,25 @@
+#include "ddr3dlg.h"
+
+#include "ui_ddr3config.h"
+
+#include "rules/devicerules.h"
+
+namespace TARVOORIXM1
+{
+
+DDR3Dlg::DDR3Dlg(OptionMap *options, QWidget *parent)
+    : PeripheralDlg(BlockId::Ddr3, options, parent)
+    , ui(makeForm<Ui::DDR3Config>())
+{
+    start({ui->enableDDR3CheckBox}, SIGNAL(clicked()));
+    // Refreshes nothing: the pins of a stored configuration stay in sight although the device
+    // cannot have them.
+    if (isDdr3Locked(targetDevice())) {
+        ui->enableDDR3CheckBox->setChecked(false);
+        ui->enableDDR3CheckBox->setEnabled(false);
+    }
+}
+
+DDR3Dlg::~DDR3Dlg() = default;
+
+} // namespace TARVOORIXM1

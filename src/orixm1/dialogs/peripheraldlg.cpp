@@ -1,0 +1,80 @@
+#include "peripheraldlg.h"
+
+#include "config/optionkeys.h"
+#include "rules/dialogdefaults.h"
+#include "rules/pins.h"
+#include "rules/pintables.h"
+
+#include <QCheckBox>
+#include <QScrollArea>
+
+namespace TARVOORIXM1
+{
+
+PeripheralDlg::PeripheralDlg(BlockId id, OptionMap *options, QWidget *parent)
+    : MicroSysChildIPGenDlg(parent)
+    , m_block(block(id))
+    , m_options(options)
+{
+    setWindowTitle(m_block.title);
+    uiSetModuleName(m_block.module);
+    uiSetLabelText(m_block.title);
+    uiSetSummaryText(m_block.summary);
+}
+
+void PeripheralDlg::start(const QVector<QCheckBox *> &switches, const char *refreshSignal)
+{
+    Q_ASSERT(switches.size() == m_block.switches.size());
+    m_switches = switches;
+    connectOptions();
+    if (refreshSignal) {
+        for (const QCheckBox *box : switches)
+            connect(box, refreshSignal, this, SLOT(refreshFigure()));
+    }
+    for (int i = 0; i < switches.size(); ++i) {
+        const SwitchRow &row = m_block.switches[i];
+        switches.at(i)->setChecked(m_options->value(row.key(), row.byDefault).toBool());
+    }
+    loadOptions();
+    refreshFigure();
+}
+
+void PeripheralDlg::accept()
+{
+    for (int i = 0; i < m_switches.size(); ++i)
+        m_options->insert(m_block.switches[i].key(), m_switches.at(i)->isChecked());
+    storeOptions();
+    MicroSysChildIPGenDlg::accept();
+}
+
+void PeripheralDlg::refreshFigure()
+{
+    BlockState state;
+    for (int i = 0; i < m_switches.size(); ++i) {
+        if (m_switches.at(i)->isChecked())
+            state.switches |= switchBit(i);
+    }
+    state.choice = choice();
+    state.device = targetDevice();
+    uiSetFigurePins(blockPins(m_block, state));
+}
+
+QVariant PeripheralDlg::stored(QLatin1String key) const
+{
+    return m_options->value(key, dialogDefault(key, targetDevice()));
+}
+
+QString PeripheralDlg::targetDevice() const
+{
+    return m_options->value(Key::ipDevice).toString();
+}
+
+QSize PeripheralDlg::sizeHint() const
+{
+    // A scroll area asks for a limited height only, however much its contents need.
+    const QSize hint = MicroSysChildIPGenDlg::sizeHint();
+    const int missing = m_area->widget()->sizeHint().height() - m_area->sizeHint().height();
+    return missing > 0 ? hint.expandedTo({0, hint.height() + missing}) : hint;
+}
+
+} // namespace TARVOORIXM1

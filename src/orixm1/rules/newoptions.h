@@ -1,0 +1,18 @@
+#pragma once
+
+#include "config/optionmap.h"
+
+#include <QString>
+
+namespace TARVOORIXM1
+{
+
+// A configuration for a device name that generates what the dialogs would give for the same
+// choices: opening the core page and the blocks' dialogs on an empty map, setting these, OK. Holds
+// the choices as they are, also those that no dialog offers, and of the other keys those whose
+// absence would mean something else to generation than to the dialogs. `createIn` is the output
+// folder, absolute.
+OptionMap optionsForChoices(const OptionMap &choices, const QString &device,
+                            const QString &createIn);
+
+} // namespace TARVOORIXM1
