@@ -1,5 +1,5 @@
 # How every target of this repository is made: language level, warnings, sanitizers, output folders and
-# the level rule (a target links only targets of its own level or below) live here once.
+# the level rule (a target links only targets of its own level or below, a folder includes none above it) live here once.
 
 include_guard(GLOBAL)
 
@@ -145,7 +145,50 @@ function(tarvo_add_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
 endfunction()
 
-# Stops the configuration when a target links one of a higher level.
+# tarvo_order_folders(FOLDER …): the folders of the calling one that hold sources, lowest first. Remembered for
+# tarvo_check_levels(); what lies beside the folders may include all of them.
+function(tarvo_order_folders)
+    file(GLOB present RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/*/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*/*.h)
+    list(TRANSFORM present REPLACE "/.*" "")
+    list(REMOVE_DUPLICATES present)
+    list(REMOVE_ITEM present ${ARGN})
+    if(present)
+        message(FATAL_ERROR "${CMAKE_CURRENT_SOURCE_DIR}: no place in the order of folders for ${present}")
+    endif()
+    set_property(GLOBAL APPEND PROPERTY TARVO_ORDERED ${CMAKE_CURRENT_SOURCE_DIR})
+    set_property(GLOBAL PROPERTY TARVO_ORDER_OF_${CMAKE_CURRENT_SOURCE_DIR} ${ARGN})
+endfunction()
+
+# Stops the configuration when a source in one of the ordered folders of `base` includes a header of a later one, however
+# that is written.
+function(tarvo_check_folders base folders)
+    set(above ${folders})
+    foreach(folder IN LISTS folders)
+        list(POP_FRONT above)
+        file(GLOB sources ${base}/${folder}/*.cpp ${base}/${folder}/*.h)
+        foreach(source IN LISTS sources)
+            file(STRINGS ${source} includes REGEX "^[ \t]*#[ \t]*include[ \t]*[\"<]")
+            foreach(include IN LISTS includes)
+                string(REGEX REPLACE "^[^\"<]*[\"<]([^\">]*).*" "\\1" header "${include}")
+                foreach(start IN ITEMS ${base}/${folder} ${base} ${base}/..)
+                    cmake_path(ABSOLUTE_PATH header BASE_DIRECTORY ${start} NORMALIZE OUTPUT_VARIABLE path)
+                    if(NOT EXISTS ${path})
+                        continue()
+                    endif()
+                    cmake_path(GET path PARENT_PATH home)
+                    cmake_path(RELATIVE_PATH home BASE_DIRECTORY ${base})
+                    if(home IN_LIST above)
+                        message(FATAL_ERROR "${source} includes ${header}: "
+                            "${folder} stands below ${home}, and a folder includes none above it")
+                    endif()
+                    break()
+                endforeach()
+            endforeach()
+        endforeach()
+    endforeach()
+endfunction()
+
+# Stops the configuration when a target links one of a higher level, or a folder includes one above it.
 function(tarvo_check_levels)
     get_property(targets GLOBAL PROPERTY TARVO_LEVELLED)
     foreach(target IN LISTS targets)
@@ -167,5 +210,10 @@ function(tarvo_check_levels)
                     "a target links only its own level or below")
             endif()
         endforeach()
+    endforeach()
+    get_property(bases GLOBAL PROPERTY TARVO_ORDERED)
+    foreach(base IN LISTS bases)
+        get_property(folders GLOBAL PROPERTY TARVO_ORDER_OF_${base})
+        tarvo_check_folders(${base} "${folders}")
     endforeach()
 endfunction()
