@@ -2,7 +2,7 @@
 # Checks sources.json: it names every source of the folder exactly once, and each debug mode has the variants it needs.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-rtl=${RTL_DIR:-$here/../../data/rtl}
+rtl=${RTL_DIR:-$here/../../data/tarvo_orix_m1/rtl}
 status=0
 fail() { echo "FAILED: $*"; status=1; }
 

@@ -8,7 +8,7 @@
 # carry macros from file to file in different ways; Icarus also elaborates the whole design.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-rtl=${RTL_DIR:-$here/../../data/rtl}
+rtl=${RTL_DIR:-$here/../../data/tarvo_orix_m1/rtl}
 name=${1:?case}
 [[ -d $here/defines/$name ]] || { echo "no such case: $name"; exit 2; }
 tmp=$(mktemp -d) || exit 2

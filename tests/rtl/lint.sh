@@ -3,7 +3,7 @@
 #   lint.sh CASE
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-rtl=${RTL_DIR:-$here/../../data/rtl}
+rtl=${RTL_DIR:-$here/../../data/tarvo_orix_m1/rtl}
 case_dir=$here/defines/${1:?case}
 [[ -d $case_dir ]] || { echo "no such case: $1"; exit 2; }
 sources=()

@@ -3,7 +3,7 @@
 #   run-testbench.sh NAME
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-rtl=${RTL_DIR:-$here/../../data/rtl}
+rtl=${RTL_DIR:-$here/../../data/tarvo_orix_m1/rtl}
 name=${1:?name of a testbench}
 bench=
 sources=()
