@@ -1,0 +1,2 @@
+module bulb_bright;
+endmodule

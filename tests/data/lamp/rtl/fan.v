@@ -1,0 +1,2 @@
+module fan;
+endmodule
