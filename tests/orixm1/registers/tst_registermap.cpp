@@ -170,8 +170,8 @@ void tst_RegisterMap::leavesOutWhatIsSwitchedOff()
 
 void tst_RegisterMap::interruptNumbersAreThoseOfTheRtl()
 {
-    const QString defines =
-        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(RTL_DIR "/define.vh")));
+    const QString defines = QString::fromUtf8(
+        TestSupport::contentsOf(QStringLiteral(TARVO_IP_DATA_DIR "/data/debug/define.vh")));
     QMap<QString, int> expected;
     const QRegularExpression line(QStringLiteral("^`define ORIX_IRQ_(\\w+) +(\\d+)$"),
                                   QRegularExpression::MultilineOption);
