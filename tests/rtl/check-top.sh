@@ -1,22 +1,18 @@
 #!/usr/bin/env bash
-# Elaborates the top module with one set of configuration files and compares its ports with the expected ones.
-#   check-top.sh CASE
-# CASE is a folder of defines/: the seven generated files as a configuration gives them, "tcm-sources" (the memory
-# sources of the device) and "blocks" (the blocks present: a file of pins/, and the name that replaces @ in it).
-# "parameters", where there is one, names black boxes, and the values that their parameters must have.
+# Elaborates the top module in one configuration and compares its ports with the expected ones.
+#   check-top.sh ORIXM1 CASE
+# CASE is a folder of cases/: the configuration, from which everything else is generated, and "blocks" (the blocks present: a
+# file of pins/, and the name that replaces @ in it). "parameters", where there is one, names black boxes, and the values
+# that their parameters must have.
 # The ports are read twice, from Yosys and from the text that the Icarus preprocessor leaves, since the two tools
 # carry macros from file to file in different ways; Icarus also elaborates the whole design.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-rtl=${RTL_DIR:-$here/../../data/tarvo_orix_m1/rtl}
-name=${1:?case}
-[[ -d $here/defines/$name ]] || { echo "no such case: $name"; exit 2; }
+. "$here/configure.sh"
 tmp=$(mktemp -d) || exit 2
 trap 'rm -rf "$tmp"' EXIT
-# A program folder stands in the files as @TESTS@/program.
-case_dir=$tmp/generated
-cp -r "$here/defines/$name" "$case_dir" || exit 2
-sed -i "s|@TESTS@|$here|" "$case_dir/cm1_option_defs.v" || exit 2
+configure "${1:?orixm1}" "${2:?case}" "$tmp" || exit 2
+case_dir=$here/cases/$2
 top=Tarvo_ORIX_M1_Top
 fail() { echo "FAILED: $*"; exit 1; }
 
@@ -27,26 +23,8 @@ while read -r block instance; do
 done < "$case_dir/blocks" | sort > "$tmp/expected"
 [[ -s $tmp/expected ]] || fail "empty list of expected ports"
 
-# Sources: everything but the included support files and the other memory variants, then the generated files.
-support=" ddr3_name.v psram_local_define.v psram_local_param.v psram_param.v triple_speed_mac_name.v tvmc_local_param.v tvmc_param.v "
-sources=()
-for file in "$rtl"/*.v; do
-    base=$(basename "$file")
-    [[ $support == *" $base "* ]] && continue
-    [[ $base == itcm* || $base == dtcm* ]] && continue
-    sources+=("$file")
-done
-while read -r file; do
-    [[ -f $rtl/$file ]] || fail "no memory source $file"
-    sources+=("$rtl/$file")
-done < "$case_dir/tcm-sources"
-generated=()
-for file in cm1_option_defs.v ahb_option_defs.v parameter.vh triple_speed_mac_param.v triple_speed_mac_define.v DDR3_define.v; do
-    generated+=("$case_dir/$file")
-done
-
 # Yosys, the generated files last.
-memories=$(awk '/define CM1_[ID]TCMSIZE/ && !/4.b0000/ { n++ } END { print n + 0 }' "$case_dir/cm1_option_defs.v")
+memories=$(awk '/define CM1_[ID]TCMSIZE/ && !/4.b0000/ { n++ } END { print n + 0 }' "$generated_dir/cm1_option_defs.v")
 parameters=
 if [[ -f $case_dir/parameters ]]; then
     while read -r module parameter value; do
@@ -54,7 +32,7 @@ if [[ -f $case_dir/parameters ]]; then
     done < "$case_dir/parameters"
 fi
 cat > "$tmp/check.ys" <<Y
-read_verilog -I$case_dir -I$rtl ${sources[*]} ${generated[*]}
+read_verilog -I$generated_dir -I$rtl ${sources[*]} ${generated[*]}
 hierarchy -check -top $top
 proc
 check -assert
@@ -88,7 +66,7 @@ A
 awk -f "$tmp/ports.awk" "$tmp/yosys-ports" | sort > "$tmp/from-yosys"
 diff -u "$tmp/expected" "$tmp/from-yosys" || fail "ports that Yosys sees"
 found=$(wc -l < "$tmp/memories")
-if grep -q CM1_ITCM_INIT_EN "$case_dir/cm1_option_defs.v"; then
+if grep -q CM1_ITCM_INIT_EN "$generated_dir/cm1_option_defs.v"; then
     # The first four words of the byte lanes, as the program files have them: word n of lane l is l and n as nibbles.
     b=(0000 0001 0010 0011)
     for lane in 0 1 2 3; do
@@ -103,20 +81,20 @@ boxes=()
 for file in cortex_m1_core can_core triple_speed_mac ddr3_controller psram_interface trng_core; do
     boxes+=("$rtl/$file.v")
 done
-iverilog -g2005 -t null -I "$case_dir" -I "$rtl" -s $top "$tmp/netlist.v" "${boxes[@]}" > "$tmp/netlist.log" 2>&1 \
+iverilog -g2005 -t null -I "$generated_dir" -I "$rtl" -s $top "$tmp/netlist.v" "${boxes[@]}" > "$tmp/netlist.log" 2>&1 \
     || { cat "$tmp/netlist.log"; fail "netlist"; }
 
 # The ports again, with the macro files first (parameters outside of modules must stay last: Yosys adds them to every module
 # that follows), read as SystemVerilog; and with every file as a unit of its own, without the macros of the others.
-macros=("$case_dir"/cm1_option_defs.v "$case_dir"/ahb_option_defs.v "$case_dir"/triple_speed_mac_define.v "$case_dir"/DDR3_define.v)
+macros=("$generated_dir"/cm1_option_defs.v "$generated_dir"/ahb_option_defs.v "$generated_dir"/triple_speed_mac_define.v "$generated_dir"/DDR3_define.v)
 {
-    echo "read_verilog -sv -I$case_dir -I$rtl ${macros[*]} ${sources[*]} $case_dir/parameter.vh $case_dir/triple_speed_mac_param.v"
+    echo "read_verilog -sv -I$generated_dir -I$rtl ${macros[*]} ${sources[*]} $generated_dir/parameter.vh $generated_dir/triple_speed_mac_param.v"
     echo "hierarchy -check -top $top"
     echo "tee -q -o $tmp/yosys-ports-first dump $top/x:*"
 } > "$tmp/first.ys"
 {
     for file in "${sources[@]}" "${generated[@]}"; do
-        echo "read_verilog -I$case_dir -I$rtl $file"
+        echo "read_verilog -I$generated_dir -I$rtl $file"
         echo "design -reset-vlog"
     done
     echo "hierarchy -check -top $top"
@@ -129,14 +107,14 @@ for order in first units; do
 done
 
 # Icarus: one compilation unit, in which every macro lives on.  Parameters outside of modules need -g2012.
-iverilog -g2005 -Wall -I "$case_dir" -I "$rtl" -s $top -o "$tmp/a.out" "${sources[@]}" > "$tmp/icarus.log" 2>&1 \
+iverilog -g2005 -Wall -I "$generated_dir" -I "$rtl" -s $top -o "$tmp/a.out" "${sources[@]}" > "$tmp/icarus.log" 2>&1 \
     || { cat "$tmp/icarus.log"; fail "Icarus"; }
-iverilog -g2012 -Wall -I "$case_dir" -I "$rtl" -s $top -o "$tmp/a.out" "${generated[@]}" "${sources[@]}" \
+iverilog -g2012 -Wall -I "$generated_dir" -I "$rtl" -s $top -o "$tmp/a.out" "${generated[@]}" "${sources[@]}" \
     > "$tmp/icarus2.log" 2>&1 || { cat "$tmp/icarus2.log"; fail "Icarus, generated files first"; }
 grep -i warning "$tmp"/icarus*.log && fail "warnings of Icarus"
 for order in first last; do
     if [[ $order == first ]]; then list=("${generated[@]}" "${sources[@]}"); else list=("${sources[@]}" "${generated[@]}"); fi
-    iverilog -g2012 -E -I "$case_dir" -I "$rtl" -o "$tmp/flat.v" "${list[@]}" || fail "Icarus preprocessor"
+    iverilog -g2012 -E -I "$generated_dir" -I "$rtl" -o "$tmp/flat.v" "${list[@]}" || fail "Icarus preprocessor"
     awk -v top=$top '
         $1 == "module" { inside = $2 == top }
         inside && /^ *\);/ { exit }

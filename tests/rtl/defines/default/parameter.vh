@@ -1,1 +1,0 @@
-parameter CFIFO_DEPTH = 256;

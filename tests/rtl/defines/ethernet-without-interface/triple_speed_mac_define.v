@@ -1,3 +1,0 @@
-`ifndef MAC_DEFINE
-`define MAC_DEFINE
-`endif

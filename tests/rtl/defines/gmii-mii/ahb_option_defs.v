@@ -1,8 +1,0 @@
-`define DEBUG_PORT_JTAG
-`define TARVO_CAN_SUPPORT
-`define TARVO_INTERNET_SUPPORT
-`define GMII_IF
-`define MII_IF
-`define TARVO_PSRAM_SUPPORT
-`define TARVO_DDR3_SUPPORT
-`define VIRLA_TV2K

@@ -1,2 +1,0 @@
-`define TARVO_INTERNET_SUPPORT
-`define GMII_IF

@@ -1,5 +1,0 @@
-`ifndef MAC_DEFINE
-`define MAC_DEFINE
-`define GMII_IF
-`define module_name mac
-`endif

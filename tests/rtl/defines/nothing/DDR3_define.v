@@ -1,2 +1,0 @@
-`define DDR3_PHY_MC
-`define EBR_BASED

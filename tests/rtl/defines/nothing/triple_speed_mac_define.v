@@ -1,5 +1,0 @@
-`ifndef MAC_DEFINE
-`define MAC_DEFINE
-`define RGMII_IF
-`define module_name mac
-`endif

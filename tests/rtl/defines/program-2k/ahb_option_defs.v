@@ -1,1 +1,0 @@
-`define DEBUG_PORT_JTAG

@@ -1,2 +1,0 @@
-`define DEBUG_PORT_JTAG
-`define TARVO_PSRAM_SUPPORT

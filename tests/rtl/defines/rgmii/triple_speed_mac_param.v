@@ -1,3 +1,0 @@
-parameter RGMII_INPUT_DELAY_VALUE = 100;
-parameter MIIM_CLK_DIVIDER = 20;
-parameter DEVICE = "3K_Series";
