@@ -45,7 +45,7 @@ run(${CMAKE_COMMAND} --install ${build} --prefix ${prefix})
 
 set(share ${prefix}/share/tarvo)
 expect(${share}/lamp lamp.ipspec help/lamp.html registers/lamp.json data/bare/lamp.v data/bright/lamp.v
-    data/bright/bulb_bright.v data/bright/fan.v data/dim/lamp.v data/dim/bulb_dim.v)
+    data/bright/bulb_bright.v data/bright/fan.v data/dim/lamp.v data/dim/bulb_dim.v data/dim/switches.v)
 foreach(name lamp.ipspec help/lamp.html registers/lamp.json)
     expect_same(${share}/lamp/${name} ${HERE}/lamp/${name})
 endforeach()
@@ -53,6 +53,10 @@ foreach(name bright/lamp.v dim/lamp.v bare/lamp.v bright/bulb_bright.v bright/fa
     cmake_path(GET name FILENAME module)
     expect_same(${share}/lamp/data/${name} ${HERE}/lamp/rtl/${module})
 endforeach()
+file(READ ${share}/lamp/data/dim/switches.v switches)
+if(NOT switches STREQUAL "module switches (\n    input wire on, // from 0x10\n    input wire off // from 0x20, as well\n);\nendmodule\n")
+    message(FATAL_ERROR "not as its rows say:\n${switches}")
+endif()
 
 # Everything else is as without it.
 file(REMOVE_RECURSE ${share}/lamp)

@@ -2,7 +2,7 @@
 # Checks sources.json: it names every source of the folder exactly once, and each debug mode has the variants it needs.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
-rtl=${RTL_DIR:-$here/../../data/tarvo_orix_m1/rtl}
+rtl=$here/../../data/tarvo_orix_m1/rtl
 status=0
 fail() { echo "FAILED: $*"; status=1; }
 
@@ -13,7 +13,7 @@ done
 named=$(list common; list debug; list no_debug)
 twice=$(sort <<< "$named" | uniq -d)
 [[ -z $twice ]] || fail "named twice: $twice"
-diff <(sort <<< "$named") <(cd "$rtl" && ls -- *.v *.vh | sort) || fail "sources.json and the folder differ"
+diff <(sort <<< "$named") <(cd "$rtl" && ls -- *.v *.vh *.in | sed 's/\.in$//' | sort) || fail "sources.json and the folder differ"
 diff <(list debug) <(printf '%s\n' dtcmdbg.v itcmdbg.v itcmdbg_2kc.v) || fail "sources with debug"
 diff <(list no_debug) <(printf '%s\n' dtcm.v dtcm_3k.v dtcm_5k.v itcm.v itcm_3k.v itcm_5k.v) || fail "sources without debug"
 
@@ -23,6 +23,6 @@ triple_speed_mac_name.v tvmc_local_param.v tvmc_param.v"
 generated="DDR3_define.v ahb_option_defs.v cm1_option_defs.v parameter.vh psram_define.v triple_speed_mac_define.v
 triple_speed_mac_param.v"
 diff <(printf '%s\n' $support $generated | LC_ALL=C sort) \
-     <(grep -hoE '^ *`include "[^"]+"' "$rtl"/*.v "$rtl"/*.vh | grep -oE '"[^"]+"' | tr -d '"' | LC_ALL=C sort -u) || fail "included files"
+     <(grep -hoE '^ *`include "[^"]+"' "$rtl"/*.v "$rtl"/*.vh "$rtl"/*.in | grep -oE '"[^"]+"' | tr -d '"' | LC_ALL=C sort -u) || fail "included files"
 [[ $status -eq 0 ]] && echo PASS
 exit $status
