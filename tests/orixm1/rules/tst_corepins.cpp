@@ -142,16 +142,27 @@ void tst_CorePins::internalMemoryWins_data()
     QTest::addColumn<bool>("sram");
     const QString internalCode = Key::internalInstructionMemory;
     const QString externalCode = Key::externalInstructionMemory;
-    QTest::newRow("external alone is not enough")
+    const QString internalData = Key::internalDataMemory;
+    const QString externalData = Key::externalDataMemory;
+    QTest::newRow("external instructions alone are not enough")
         << OptionMap{{externalCode, true}} << false << false;
-    QTest::newRow("both") << OptionMap{{internalCode, true}, {externalCode, true}} << false
-                          << false;
-    QTest::newRow("neither") << OptionMap{{internalCode, false}} << false << false;
+    QTest::newRow("external data alone is not enough")
+        << OptionMap{{externalData, true}} << false << false;
+    QTest::newRow("instructions in both")
+        << OptionMap{{internalCode, true}, {externalCode, true}} << false << false;
+    QTest::newRow("data in both") << OptionMap{{internalData, true}, {externalData, true}} << false
+                                  << false;
+    QTest::newRow("instructions in neither") << OptionMap{{internalCode, false}} << false << false;
+    QTest::newRow("data in neither") << OptionMap{{internalData, false}} << false << false;
     QTest::newRow("external instructions")
         << OptionMap{{internalCode, false}, {externalCode, true}} << true << false;
     QTest::newRow("external data")
-        << OptionMap{{Key::internalDataMemory, false}, {Key::externalDataMemory, true}} << false
-        << true;
+        << OptionMap{{internalData, false}, {externalData, true}} << false << true;
+    QTest::newRow("both external") << OptionMap{{internalCode, false},
+                                                {externalCode, true},
+                                                {internalData, false},
+                                                {externalData, true}}
+                                   << true << true;
 }
 
 void tst_CorePins::internalMemoryWins()
