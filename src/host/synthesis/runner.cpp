@@ -1,13 +1,13 @@
 #include "runner.h"
 
-#include "flow.h"
-#include "library.h"
-#include "outputset.h"
-#include "projectflow.h"
+#include "flow/flow.h"
+#include "flow/projectflow.h"
+#include "flow/yosysflow.h"
+#include "netlist/library.h"
 #include "resources.h"
-#include "toollog.h"
-#include "toolprocess.h"
-#include "yosysflow.h"
+#include "run/outputset.h"
+#include "run/toollog.h"
+#include "run/toolprocess.h"
 
 #include <utils/folderlock.h>
 

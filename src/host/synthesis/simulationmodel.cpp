@@ -1,8 +1,8 @@
 #include "simulationmodel.h"
 
-#include "library.h"
-#include "verilogoutputs.h"
-#include "verilogscan.h"
+#include "netlist/library.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/verilogscan.h"
 
 #include <utils/fileutils.h>
 

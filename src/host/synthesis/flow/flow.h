@@ -1,10 +1,10 @@
 #pragma once
 
-#include "designports.h"
-#include "job.h"
-#include "scratchfolder.h"
-#include "sourcestage.h"
-#include "toolprocess.h"
+#include "netlist/designports.h"
+#include "run/scratchfolder.h"
+#include "run/sourcestage.h"
+#include "run/toolprocess.h"
+#include <synthesis/job.h>
 
 #include <QMap>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "flow.h"
+#include "flow/flow.h"
 
 namespace Synthesis
 {

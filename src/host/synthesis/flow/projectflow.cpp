@@ -1,7 +1,7 @@
 #include "projectflow.h"
 
-#include "verilogoutputs.h"
-#include "verilogscan.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/verilogscan.h"
 #include "yosysscript.h"
 
 #include <reading/limits.h>

@@ -1,7 +1,7 @@
 #include "flow.h"
 
-#include "verilogoutputs.h"
-#include "vhdloutputs.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/vhdloutputs.h"
 
 #include <utils/fileutils.h>
 

@@ -1,9 +1,9 @@
 #include "yosysflow.h"
 
-#include "library.h"
-#include "verilogoutputs.h"
-#include "verilogscan.h"
-#include "vhdloutputs.h"
+#include "netlist/library.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/verilogscan.h"
+#include "netlist/vhdloutputs.h"
 #include "yosysscript.h"
 
 #include <QCoreApplication>

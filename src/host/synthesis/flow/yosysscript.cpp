@@ -1,8 +1,8 @@
 #include "yosysscript.h"
 
-#include "library.h"
-#include "scratchfolder.h"
-#include "sourcestage.h"
+#include "netlist/library.h"
+#include "run/scratchfolder.h"
+#include "run/sourcestage.h"
 
 #include <QStringList>
 
