@@ -1,6 +1,7 @@
 #pragma once
 
 #include "netlist/designports.h"
+#include "run/outputset.h"
 #include "run/scratchfolder.h"
 #include "run/sourcestage.h"
 #include "run/toolprocess.h"
@@ -12,12 +13,6 @@
 
 namespace Synthesis
 {
-
-// A finished file of a run: where it is to be (full path), and its contents.
-struct Output {
-    QString path;
-    QByteArray bytes;
-};
 
 // What a run has made.
 struct Results {
