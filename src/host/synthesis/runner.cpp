@@ -1,8 +1,7 @@
 #include "runner.h"
 
 #include "flow/flow.h"
-#include "flow/projectflow.h"
-#include "flow/yosysflow.h"
+#include "flow/tools.h"
 #include "netlist/library.h"
 #include "resources.h"
 #include "run/outputset.h"
@@ -73,10 +72,7 @@ void Runner::Private::start()
     m_report = RunReport();
     m_report.tool = tool;
     m_report.job = job;
-    if (tool == Tool::SynplifyPro)
-        m_flow = std::make_unique<ProjectFlow>(job);
-    else
-        m_flow = std::make_unique<YosysFlow>(job);
+    m_flow = makeFlow(tool, job);
 
     QString error = m_flow->prepare(std::exchange(lock, nullptr));
     if (error.isEmpty() && !inputMistakes.isEmpty())
