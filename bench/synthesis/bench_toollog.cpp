@@ -1,7 +1,7 @@
 // How the time for a tool's output grows with it: each message is another one.
 
-#include <synthesis/sourcestage.h>
-#include <synthesis/toollog.h>
+#include <synthesis/run/sourcestage.h>
+#include <synthesis/run/toollog.h>
 
 #include <benchmark/benchmark.h>
 

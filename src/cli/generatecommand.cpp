@@ -240,7 +240,7 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
         report.outputs.append(paths.model);
     report.outputs.append(paths.decoded);
     if (tool == Value::tarvoSynthesis)
-        report.library = Synthesis::primitiveLibrary(language != 0);
+        report.library = Synthesis::primitiveLibrary(runner.report().job.language());
     return finish(report, arguments, Done);
 }
 

@@ -1,7 +1,7 @@
 #include "fuzz.h"
 
-#include <synthesis/sourcestage.h>
-#include <synthesis/toollog.h>
+#include <synthesis/run/sourcestage.h>
+#include <synthesis/run/toollog.h>
 
 #include <QSet>
 

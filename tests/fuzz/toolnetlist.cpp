@@ -1,9 +1,9 @@
 #include "fuzz.h"
 
-#include <synthesis/designports.h>
-#include <synthesis/verilogoutputs.h>
-#include <synthesis/verilogscan.h>
-#include <synthesis/vhdloutputs.h>
+#include <synthesis/netlist/designports.h>
+#include <synthesis/netlist/verilogoutputs.h>
+#include <synthesis/netlist/verilogscan.h>
+#include <synthesis/netlist/vhdloutputs.h>
 
 #include <QResource>
 

@@ -1,6 +1,6 @@
 #include "fuzz.h"
 
-#include <synthesis/verilogscan.h>
+#include <synthesis/netlist/verilogscan.h>
 
 using namespace Synthesis;
 

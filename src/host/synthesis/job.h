@@ -8,6 +8,9 @@
 namespace Synthesis
 {
 
+// What is asked for beside the Verilog netlist, which every run makes.
+enum class Language { Verilog, Vhdl };
+
 // What a run works on. A plain value.
 //
 // Keys of `options`: "top_module" (string), "source_files" (string list of full paths),
@@ -26,7 +29,11 @@ struct Job {
     DEV::DeviceArg device;
     QVariantMap options;
 
-    bool writesVhdl() const { return options.value(QStringLiteral("write_vhdl")).toBool(); }
+    Language language() const
+    {
+        return options.value(QStringLiteral("write_vhdl")).toBool() ? Language::Vhdl
+                                                                    : Language::Verilog;
+    }
 };
 
 } // namespace Synthesis

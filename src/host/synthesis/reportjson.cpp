@@ -1,5 +1,7 @@
 #include "reportjson.h"
 
+#include "flow/tools.h"
+
 #include <QJsonArray>
 
 namespace Synthesis
@@ -143,7 +145,7 @@ QJsonObject toJson(const RunReport &report)
     RunReport copy = report;
     describe(writer, copy);
     writer.entry("tool", int(report.tool));
-    writer.entry("vhdl", report.job.writesVhdl());
+    writer.entry("vhdl", report.job.language() == Language::Vhdl);
     const DEV::DeviceArg &device = report.job.device;
     DeviceTexts texts{device.device(),  device.deviceN(), device.deviceNVersion(),
                       device.package(), device.speed(),   device.partNumber()};
@@ -164,7 +166,7 @@ bool fromJson(const QJsonObject &object, RunReport *report)
     bool vhdl = false;
     reader.entry("tool", tool);
     reader.entry("vhdl", vhdl);
-    report->tool = tool == int(Tool::SynplifyPro) ? Tool::SynplifyPro : Tool::TarvoSynthesis;
+    report->tool = toolOf(tool);
     report->job.options = {{QStringLiteral("write_vhdl"), vhdl}};
     DeviceTexts texts;
     const Reader inner{object.value(QLatin1String("device")).toObject()};

@@ -1,13 +1,12 @@
 #include "runner.h"
 
-#include "flow.h"
-#include "library.h"
-#include "outputset.h"
-#include "projectflow.h"
+#include "flow/flow.h"
+#include "flow/tools.h"
+#include "netlist/library.h"
 #include "resources.h"
-#include "toollog.h"
-#include "toolprocess.h"
-#include "yosysflow.h"
+#include "run/outputset.h"
+#include "run/toollog.h"
+#include "run/toolprocess.h"
 
 #include <utils/folderlock.h>
 
@@ -73,10 +72,7 @@ void Runner::Private::start()
     m_report = RunReport();
     m_report.tool = tool;
     m_report.job = job;
-    if (tool == Tool::SynplifyPro)
-        m_flow = std::make_unique<ProjectFlow>(job);
-    else
-        m_flow = std::make_unique<YosysFlow>(job);
+    m_flow = makeFlow(tool, job);
 
     QString error = m_flow->prepare(std::exchange(lock, nullptr));
     if (error.isEmpty() && !inputMistakes.isEmpty())

@@ -1,8 +1,9 @@
 #include "simulationmodel.h"
 
-#include "library.h"
-#include "verilogoutputs.h"
-#include "verilogscan.h"
+#include "netlist/languages.h"
+#include "netlist/library.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/verilogscan.h"
 
 #include <utils/fileutils.h>
 
@@ -30,12 +31,12 @@ int fail(QString *message, const QString &text)
 
 } // namespace
 
-QString primitiveLibrary(bool vhdl)
+QString primitiveLibrary(Language language)
 {
     // The build tree and an installation are laid out alike.
-    const QString path = QDir::cleanPath(
-        QCoreApplication::applicationDirPath() + QLatin1String("/../share/tarvo/primitives/") +
-        (vhdl ? QLatin1String("primitives.vhd") : QLatin1String("primitives.v")));
+    const QString path = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                         QLatin1String("/../share/tarvo/primitives/") +
+                                         QLatin1String(languageRow(language).primitives));
     return QFileInfo(path).isFile() ? path : QString();
 }
 

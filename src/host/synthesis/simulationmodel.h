@@ -1,5 +1,6 @@
 #pragma once
 
+#include "job.h"
 #include "synthesis_global.h"
 
 #include <QString>
@@ -20,6 +21,6 @@ TARVO_SYNTHESIS_EXPORT int writeSimulationModel(const QString &netlist, const QS
 // The installed models of the primitives that netlists of the own tool are made of, without which
 // no other tool reads these: one file for Verilog, one for VHDL. Full path; empty if the program
 // has none beside it.
-TARVO_SYNTHESIS_EXPORT QString primitiveLibrary(bool vhdl);
+TARVO_SYNTHESIS_EXPORT QString primitiveLibrary(Language language);
 
 } // namespace Synthesis

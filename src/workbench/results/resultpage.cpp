@@ -165,7 +165,7 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
     m_made = report.files;
     if (!report.logFile.isEmpty())
         m_made.append(report.logFile);
-    m_language = report.job.writesVhdl() ? Language::Vhdl : Language::Verilog;
+    m_language = report.job.language();
     setDelivered({});
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <synthesis/job.h>
+
 #include <QStringList>
 
 namespace Workbench
 {
 
-enum class Language { Verilog, Vhdl };
+using Synthesis::Language;
 
 // Of `files` (full paths), those that an IP left behind when it was generated in the other language
 // before `last`: with Verilog "x.vhd" and its model "x.vho" beside an "x.v", with VHDL "x.v" beside

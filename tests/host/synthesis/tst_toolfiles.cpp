@@ -1,10 +1,10 @@
-#include <synthesis/designports.h>
-#include <synthesis/library.h>
-#include <synthesis/scratchfolder.h>
-#include <synthesis/sourcestage.h>
-#include <synthesis/toollog.h>
-#include <synthesis/verilogscan.h>
-#include <synthesis/vhdloutputs.h>
+#include <synthesis/netlist/designports.h>
+#include <synthesis/netlist/library.h>
+#include <synthesis/netlist/verilogscan.h>
+#include <synthesis/netlist/vhdloutputs.h>
+#include <synthesis/run/scratchfolder.h>
+#include <synthesis/run/sourcestage.h>
+#include <synthesis/run/toollog.h>
 #include <testsupport.h>
 
 #include <QTemporaryDir>

@@ -23,7 +23,9 @@ protected:
 private:
     QString implementation() const;
     // The implementation's folder while the run lasts, relative to the scratch folder.
-    QString resultFile(const QString &suffix) const;
+    QString resultFile(const char *suffix) const;
+    // Reads the output with this suffix and adds it to the results.
+    QString addOutput(const char *suffix, Results *results) const;
     QByteArray projectFile() const;
 
     int m_stage = 0;

@@ -1,4 +1,4 @@
-#include "synthesisrun.h"
+#include "../synthesisrun.h"
 
 #include <synthesis/simulationmodel.h>
 

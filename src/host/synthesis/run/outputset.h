@@ -1,9 +1,18 @@
 #pragma once
 
-#include "flow.h"
+#include "scratchfolder.h"
+
+#include <QByteArray>
+#include <QVector>
 
 namespace Synthesis
 {
+
+// A finished file of a run: where it is to be (full path), and its contents.
+struct Output {
+    QString path;
+    QByteArray bytes;
+};
 
 // Puts finished files at their places: all of them are on the disk before the first one gets its
 // place, so that a run that is killed leaves nothing beside its outputs; if one cannot have its

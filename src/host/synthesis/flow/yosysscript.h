@@ -1,5 +1,7 @@
 #pragma once
 
+#include <synthesis/job.h>
+
 #include <QByteArray>
 #include <QString>
 
@@ -41,8 +43,9 @@ bool takeEndMark(QByteArray *text);
 QByteArray withoutOpenDrivers(const QByteArray &text);
 
 // Maps the `design` to the primitives of the library and writes `netlist`, `cells` and `outline`,
-// and if `whole` the netlist once more in JSON as `mapped`.
-QByteArray mapping(const QString &top, bool whole);
+// and what else the outputs in `language` are made from: for VHDL the netlist once more in JSON, as
+// `mapped`.
+QByteArray mapping(const QString &top, Language language);
 
 } // namespace YosysScript
 

@@ -1,13 +1,12 @@
 #include "yosysflow.h"
 
-#include "library.h"
-#include "verilogoutputs.h"
-#include "verilogscan.h"
-#include "vhdloutputs.h"
+#include "netlist/library.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/verilogscan.h"
+#include "netlist/vhdloutputs.h"
 #include "yosysscript.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -39,12 +38,6 @@ constexpr Stage stages[] = {
     {"Executing Verilog backend", 4, QT_TRANSLATE_NOOP("Synthesis", "Writing netlist")},
 };
 
-QString notComplete(const QString &path)
-{
-    return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
-        .arg(QDir::toNativeSeparators(path));
-}
-
 } // namespace
 
 QString YosysFlow::prepareTool()
@@ -58,10 +51,10 @@ QString YosysFlow::prepareTool()
     }
     QString error = writeScratch(QLatin1String(script), reading(m_sources, topModule()));
     if (error.isEmpty())
-        error = writeScratch(QLatin1String(mappingScript), mapping(topModule(), writesVhdl()));
+        error = writeScratch(QLatin1String(mappingScript), mapping(topModule(), language()));
     for (const char *name : {script, mappingScript}) {
         if (error.isEmpty())
-            error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"), arguments(name));
+            error = addCommand(m_tool, arguments(name));
     }
     return error;
 }
@@ -72,10 +65,10 @@ QString YosysFlow::commandDone(int command)
         return {};
     const QString file = QLatin1String(YosysScript::design);
     QByteArray text;
-    const QString path = outputPath(QStringLiteral(".vg"));
+    const QString path = outputPath(m_tool.netlist);
     QString error = readResult(file, path, &text);
     if (error.isEmpty() && !YosysScript::takeEndMark(&text))
-        error = notComplete(path);
+        error = notComplete(QLatin1String(m_tool.name), path);
     if (error.isEmpty())
         error = writeScratch(file, YosysScript::withoutOpenDrivers(text));
     return error;
@@ -120,7 +113,7 @@ int YosysFlow::stageCount() const
 
 QString YosysFlow::collect(Results *results)
 {
-    const QString netlistPath = outputPath(QStringLiteral(".vg"));
+    const QString netlistPath = outputPath(m_tool.netlist);
     const QByteArray top = topModule().toUtf8();
     QByteArray body;
     QByteArray cells;
@@ -136,12 +129,12 @@ QString YosysFlow::collect(Results *results)
     DesignPorts design;
     const VerilogOutline bodyOutline = scanVerilog(body);
     if (!bodyOutline.complete || !bodyOutline.defines(top))
-        return notComplete(netlistPath);
+        return notComplete(QLatin1String(m_tool.name), netlistPath);
     error = design.read(outline, cells);
     if (!error.isEmpty())
         return unusable(templatePath(), error);
     if (!design.contains(top))
-        return notComplete(templatePath());
+        return notComplete(QLatin1String(m_tool.name), templatePath());
 
     const QVector<BlackBox> blackBoxes = design.blackBoxes(Library::primitives() << top);
     const QByteArray netlist = verilogNetlist(title("Netlist of"), body, blackBoxes);
@@ -151,12 +144,18 @@ QString YosysFlow::collect(Results *results)
     results->instances = bodyOutline.leavesOf(top, &error);
     if (!error.isEmpty())
         return unusable(netlistPath, error);
-    return writesVhdl() ? addVhdl(blackBoxes, results) : QString();
+    switch (language()) {
+    case Language::Verilog:
+        return {};
+    case Language::Vhdl:
+        return addVhdl(blackBoxes, results);
+    }
+    Q_UNREACHABLE();
 }
 
 QString YosysFlow::addVhdl(const QVector<BlackBox> &blackBoxes, Results *results) const
 {
-    const QString path = outputPath(QStringLiteral(".vhg"));
+    const QString path = outputPath(m_tool.vhdlNetlist);
     QByteArray mapped;
     QString error = readResult(QLatin1String(YosysScript::mapped), path, &mapped);
     VhdlNetlist vhdl;
@@ -165,7 +164,7 @@ QString YosysFlow::addVhdl(const QVector<BlackBox> &blackBoxes, Results *results
                             blackBoxes, &vhdl);
     if (!error.isEmpty())
         return error;
-    results->outputs << Output{outputPath(QStringLiteral(".vho")), vhdl.model}
+    results->outputs << Output{outputPath(m_tool.vhdlModel), vhdl.model}
                      << Output{path, vhdl.netlist};
     return {};
 }

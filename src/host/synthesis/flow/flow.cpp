@@ -1,7 +1,6 @@
 #include "flow.h"
 
-#include "verilogoutputs.h"
-#include "vhdloutputs.h"
+#include "netlist/languages.h"
 
 #include <utils/fileutils.h>
 
@@ -24,8 +23,9 @@ QString tr(const char *text)
 
 } // namespace
 
-Flow::Flow(const Job &job)
-    : m_job(job)
+Flow::Flow(const ToolRow &tool, const Job &job)
+    : m_tool(tool)
+    , m_job(job)
 {
 }
 
@@ -62,14 +62,13 @@ QString Flow::option(const char *key) const
 
 QString Flow::templatePath() const
 {
-    return outputPath(writesVhdl() ? QStringLiteral("_tmp.vhd") : QStringLiteral("_tmp.v"));
+    return outputPath(languageRow(language()).templateSuffix);
 }
 
 QByteArray Flow::instantiationTemplate(const DesignPorts &design) const
 {
     const QByteArray top = topModule().toUtf8();
-    return (writesVhdl() ? vhdlTemplate : verilogTemplate)(top, design.ports(top),
-                                                           design.note(top));
+    return languageRow(language()).instanceTemplate(top, design.ports(top), design.note(top));
 }
 
 QString Flow::outputPath(const QString &suffix) const
@@ -77,13 +76,14 @@ QString Flow::outputPath(const QString &suffix) const
     return m_scratch.outputDir() + u'/' + m_job.targetName + suffix;
 }
 
-QString Flow::addCommand(const QString &name, const QString &program, const QStringList &arguments,
-                         bool usersHome)
+QString Flow::addCommand(const ToolRow &tool, const QStringList &arguments)
 {
+    const QString name = QLatin1String(tool.name);
+    const QString program = QLatin1String(tool.program);
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty())
         return tr("%1 is not installed: no program \"%2\" was found on PATH.").arg(name, program);
-    m_commands << Command{name, QFileInfo(path).absoluteFilePath(), arguments, usersHome};
+    m_commands << Command{name, QFileInfo(path).absoluteFilePath(), arguments, tool.usersHome};
     return {};
 }
 
@@ -98,11 +98,22 @@ QString Flow::readResult(const QString &file, const QString &shown, QByteArray *
 {
     const QString path = m_scratch.absolute(file);
     if (!QFileInfo(path).isFile())
-        return tr("%1 reported success but did not write \"%2\".")
-            .arg(m_commands.last().name, QDir::toNativeSeparators(shown));
+        return notWritten(m_commands.last().name, shown);
     QString error;
     Utils::FileUtils::readFile(path, bytes, &error);
     return error;
+}
+
+QString Flow::notWritten(const QString &tool, const QString &path)
+{
+    return tr("%1 reported success but did not write \"%2\".")
+        .arg(tool, QDir::toNativeSeparators(path));
+}
+
+QString Flow::notComplete(const QString &tool, const QString &path)
+{
+    return tr("%1 reported success but what it wrote for \"%2\" is not complete.")
+        .arg(tool, QDir::toNativeSeparators(path));
 }
 
 QString Flow::unusable(const QString &path, const QString &reason) const

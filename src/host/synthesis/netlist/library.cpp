@@ -1,5 +1,6 @@
 #include "library.h"
 
+#include "languages.h"
 #include "verilogscan.h"
 
 #include <QFile>
@@ -31,7 +32,8 @@ QByteArrayList blocksOf(const QByteArray &text, const QByteArray &comment)
 QVector<Model> readModels()
 {
     QVector<Model> models;
-    const QByteArrayList blocks = blocksOf(Library::file(QStringLiteral("primitives.v")), "//");
+    const QByteArrayList blocks =
+        blocksOf(Library::file(QLatin1String(languageRow(Language::Verilog).primitives)), "//");
     for (const QByteArray &block : blocks) {
         const VerilogOutline outline = scanVerilog(block);
         Q_ASSERT(outline.complete && outline.modules.size() == 1);
@@ -44,7 +46,8 @@ QVector<Model> readModels()
 QVector<Model> readVhdlModels()
 {
     QVector<Model> models;
-    const QByteArrayList blocks = blocksOf(Library::file(QStringLiteral("primitives.vhd")), "--");
+    const QByteArrayList blocks =
+        blocksOf(Library::file(QLatin1String(languageRow(Language::Vhdl).primitives)), "--");
     for (const QByteArray &block : blocks) {
         const int at = block.indexOf("\nentity ");
         const int name = at + int(qstrlen("\nentity "));

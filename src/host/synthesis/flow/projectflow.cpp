@@ -1,7 +1,7 @@
 #include "projectflow.h"
 
-#include "verilogoutputs.h"
-#include "verilogscan.h"
+#include "netlist/verilogoutputs.h"
+#include "netlist/verilogscan.h"
 #include "yosysscript.h"
 
 #include <reading/limits.h>
@@ -9,7 +9,6 @@
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 
 #include <algorithm>
@@ -23,12 +22,6 @@ namespace
 QString tr(const char *text)
 {
     return QCoreApplication::translate("Synthesis", text);
-}
-
-QString notWritten(const QString &path)
-{
-    return tr("Synplify Pro reported success but did not write \"%1\".")
-        .arg(QDir::toNativeSeparators(path));
 }
 
 } // namespace
@@ -55,9 +48,9 @@ QString ProjectFlow::implementation() const
     return option("impl_name");
 }
 
-QString ProjectFlow::resultFile(const QString &suffix) const
+QString ProjectFlow::resultFile(const char *suffix) const
 {
-    return implementation() + u'/' + m_job.targetName + suffix;
+    return implementation() + u'/' + m_job.targetName + QLatin1String(suffix);
 }
 
 QByteArray ProjectFlow::projectFile() const
@@ -84,11 +77,16 @@ QByteArray ProjectFlow::projectFile() const
     set("disable_io_insertion", disableIo ? QStringLiteral("1") : QStringLiteral("0"));
     set("include_path", m_sources.originalDirs().join(u';'));
     set("write_verilog", QStringLiteral("1"));
-    if (writesVhdl())
+    switch (language()) {
+    case Language::Verilog:
+        break;
+    case Language::Vhdl:
         set("write_vhdl", QStringLiteral("1"));
+        break;
+    }
     text += "project -result_format verilog\nproject -result_file " +
-            tclWord(ScratchFolder::relative(resultFile(QStringLiteral(".vm")))) +
-            "\nimpl -active " + folder + '\n';
+            tclWord(ScratchFolder::relative(resultFile(m_tool.netlist))) + "\nimpl -active " +
+            folder + '\n';
     return text;
 }
 
@@ -100,21 +98,19 @@ QString ProjectFlow::prepareTool()
         return tr("\"%1\" cannot be the name of the result folder.").arg(folder);
 
     const QString project = m_job.targetName + QLatin1String(".prj");
-    // It has settings and licences in the user's home.
     QString error =
-        addCommand(QStringLiteral("Synplify Pro"), QStringLiteral("synplify_pro"),
-                   {QStringLiteral("-batch"), QString(QLatin1String("./") + project)}, true);
+        addCommand(m_tool, {QStringLiteral("-batch"), QString(QLatin1String("./") + project)});
     // The template comes from the elaborated sources.
     if (error.isEmpty())
-        error = addCommand(QStringLiteral("Yosys"), QStringLiteral("yosys"),
-                           YosysScript::arguments(YosysScript::script));
+        error =
+            addCommand(toolRow(Tool::TarvoSynthesis), YosysScript::arguments(YosysScript::script));
     if (error.isEmpty())
         error = writeScratch(QLatin1String(YosysScript::script),
                              YosysScript::elaboration(m_sources, topModule()));
     if (error.isEmpty())
         Utils::FileUtils::makePath(m_scratch.absolute(folder), &error);
     if (error.isEmpty())
-        Utils::FileUtils::writeFile(outputPath(QStringLiteral(".prj")), projectFile(), &error);
+        Utils::FileUtils::writeFile(outputPath(".prj"), projectFile(), &error);
     return error;
 }
 
@@ -136,59 +132,60 @@ QString ProjectFlow::stageOf(const QString &line)
 QStringList ProjectFlow::furtherLog() const
 {
     QByteArray text;
-    if (!Utils::readBoundedFile(m_scratch.absolute(resultFile(QStringLiteral(".srr"))),
-                                Reading::Limits::toolLog, &text, nullptr))
+    if (!Utils::readBoundedFile(m_scratch.absolute(resultFile(".srr")), Reading::Limits::toolLog,
+                                &text, nullptr))
         return {};
     return QString::fromUtf8(text).split(u'\n');
 }
 
+QString ProjectFlow::addOutput(const char *suffix, Results *results) const
+{
+    const QString file = resultFile(suffix);
+    const QString path = m_scratch.outputDir() + u'/' + file;
+    if (!QFile::exists(m_scratch.absolute(file)))
+        return notWritten(QLatin1String(m_tool.name), path);
+    Output output{path, {}};
+    QString error = readResult(file, path, &output.bytes);
+    if (error.isEmpty())
+        results->outputs << output;
+    return error;
+}
+
 QString ProjectFlow::collect(Results *results)
 {
-    const QString netlistPath = m_scratch.outputDir() + u'/' + resultFile(QStringLiteral(".vm"));
     const QByteArray top = topModule().toUtf8();
-    const QString shown = QDir::toNativeSeparators(netlistPath);
-
-    QByteArray netlist;
     QByteArray outline;
-    if (!QFile::exists(m_scratch.absolute(resultFile(QStringLiteral(".vm")))))
-        return notWritten(netlistPath);
-    QString error = readResult(resultFile(QStringLiteral(".vm")), netlistPath, &netlist);
+    QString error = addOutput(m_tool.netlist, results);
     if (error.isEmpty())
         error = readResult(QLatin1String(YosysScript::outline), templatePath(), &outline);
     if (!error.isEmpty())
         return error;
 
-    const VerilogOutline scanned = scanVerilog(netlist);
+    const Output &netlist = results->outputs.last();
+    const VerilogOutline scanned = scanVerilog(netlist.bytes);
     if (!scanned.complete || !scanned.defines(top))
-        return tr("Synplify Pro reported success but what it wrote for \"%1\" is not complete.")
-            .arg(shown);
+        return notComplete(QLatin1String(m_tool.name), netlist.path);
     results->instances = scanned.leavesOf(top, &error);
     if (!error.isEmpty())
-        return unusable(netlistPath, error);
+        return unusable(netlist.path, error);
     DesignPorts design;
     error = design.read(outline, {});
     if (!error.isEmpty())
         return unusable(templatePath(), error);
     if (!design.contains(top))
-        return tr("Yosys reported success but what it wrote for \"%1\" is not complete.")
-            .arg(QDir::toNativeSeparators(templatePath()));
+        return notComplete(commands().last().name, templatePath());
 
     if (!Utils::FileUtils::makePath(m_scratch.outputDir() + u'/' + implementation(), &error))
         return error;
     results->ports = design.ports(top);
-    results->outputs = {Output{templatePath(), instantiationTemplate(design)},
-                        Output{netlistPath, netlist}};
-    if (writesVhdl()) {
-        const QString file = resultFile(QStringLiteral(".vhm"));
-        const QString path = m_scratch.outputDir() + u'/' + file;
-        if (!QFile::exists(m_scratch.absolute(file)))
-            return notWritten(path);
-        QByteArray vhdl;
-        if (!(error = readResult(file, path, &vhdl)).isEmpty())
-            return error;
-        results->outputs << Output{path, vhdl};
+    results->outputs.prepend(Output{templatePath(), instantiationTemplate(design)});
+    switch (language()) {
+    case Language::Verilog:
+        return {};
+    case Language::Vhdl:
+        return addOutput(m_tool.vhdlNetlist, results);
     }
-    return {};
+    Q_UNREACHABLE();
 }
 
 } // namespace Synthesis

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runreport.h"
+#include <synthesis/runreport.h>
 
 #include <QByteArray>
 #include <QHash>

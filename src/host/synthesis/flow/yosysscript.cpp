@@ -1,8 +1,8 @@
 #include "yosysscript.h"
 
-#include "library.h"
-#include "scratchfolder.h"
-#include "sourcestage.h"
+#include "netlist/library.h"
+#include "run/scratchfolder.h"
+#include "run/sourcestage.h"
 
 #include <QStringList>
 
@@ -41,6 +41,18 @@ QByteArray readSources(const SourceStage &sources, const QString &top)
                 file.toLatin1() + '\n';
     }
     return text + "hierarchy -check -top " + top.toLatin1() + '\n';
+}
+
+// What the outputs in a language are made from, beside the Verilog netlist.
+QByteArray furtherNetlist(Language language)
+{
+    switch (language) {
+    case Language::Verilog:
+        return {};
+    case Language::Vhdl:
+        return "write_json " + scratch(YosysScript::mapped) + '\n';
+    }
+    Q_UNREACHABLE();
 }
 
 // "  connect <net> <width>'<bits>" of a module, where all bits are x or z. The connections of cells
@@ -98,7 +110,7 @@ QByteArray YosysScript::reading(const SourceStage &sources, const QString &top)
            endMark + "\nwrite_rtlil " + scratch(design) + '\n';
 }
 
-QByteArray YosysScript::mapping(const QString &top, bool whole)
+QByteArray YosysScript::mapping(const QString &top, Language language)
 {
     QByteArray primitives;
     const QByteArrayList names = Library::primitives();
@@ -155,8 +167,7 @@ QByteArray YosysScript::mapping(const QString &top, bool whole)
            topName +
            " -purge_lib\n"
            "write_verilog -noattr " +
-           scratch(netlist) + "\n" +
-           (whole ? "write_json " + scratch(mapped) + '\n' : QByteArray()) + "delete" + primitives +
+           scratch(netlist) + "\n" + furtherNetlist(language) + "delete" + primitives +
            "\n"
            "write_json " +
            scratch(cells) +

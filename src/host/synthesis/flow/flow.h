@@ -1,10 +1,12 @@
 #pragma once
 
-#include "designports.h"
-#include "job.h"
-#include "scratchfolder.h"
-#include "sourcestage.h"
-#include "toolprocess.h"
+#include "netlist/designports.h"
+#include "run/outputset.h"
+#include "run/scratchfolder.h"
+#include "run/sourcestage.h"
+#include "run/toolprocess.h"
+#include "tools.h"
+#include <synthesis/job.h>
 
 #include <QMap>
 #include <QStringList>
@@ -12,12 +14,6 @@
 
 namespace Synthesis
 {
-
-// A finished file of a run: where it is to be (full path), and its contents.
-struct Output {
-    QString path;
-    QByteArray bytes;
-};
 
 // What a run has made.
 struct Results {
@@ -33,7 +29,8 @@ struct Results {
 class Flow
 {
 public:
-    explicit Flow(const Job &job);
+    // `tool` is the row of the flow, which lives on.
+    Flow(const ToolRow &tool, const Job &job);
     virtual ~Flow() = default;
     Q_DISABLE_COPY(Flow)
 
@@ -63,23 +60,28 @@ protected:
 
     QString option(const char *key) const;
     QString topModule() const { return option("top_module"); }
-    bool writesVhdl() const { return m_job.writesVhdl(); }
+    Language language() const { return m_job.language(); }
     QString templatePath() const;
     // Of the top module, in the language of the job.
     QByteArray instantiationTemplate(const DesignPorts &design) const;
     // "<output folder>/<target><suffix>"
     QString outputPath(const QString &suffix) const;
-    // Adds a command for a program that PATH has; `usersHome`: see Command.
-    QString addCommand(const QString &name, const QString &program, const QStringList &arguments,
-                       bool usersHome = false);
+    QString outputPath(const char *suffix) const { return outputPath(QLatin1String(suffix)); }
+    // Adds a command of a tool, which must be on PATH.
+    QString addCommand(const ToolRow &tool, const QStringList &arguments);
     QString writeScratch(const QString &file, const QByteArray &bytes) const;
     // Reads a file that a command should have left; `shown` is the name that the result would get.
     QString readResult(const QString &file, const QString &shown, QByteArray *bytes) const;
     // What a command wrote for the result `path` makes no sense: a sentence of the clause `reason`.
     QString unusable(const QString &path, const QString &reason) const;
+    // Sentences on a command that exited with 0, `tool`: the result `path` is missing, or a part of
+    // it is.
+    static QString notWritten(const QString &tool, const QString &path);
+    static QString notComplete(const QString &tool, const QString &path);
     // The comment on top of an output.
     QByteArray title(const char *what) const;
 
+    const ToolRow &m_tool;
     Job m_job;
     ScratchFolder m_scratch;
     SourceStage m_sources;
