@@ -4,13 +4,6 @@
 #include "ipcdocument.h"
 #include "output.h"
 
-#include <config/choices.h>
-#include <config/optionkeys.h>
-#include <generate/defines.h>
-#include <generate/outputs.h>
-#include <generate/sourcefiles.h>
-#include <generate/synthesisrequest.h>
-#include <rules/generationfolder.h>
 #include <rules/itcmcontents.h>
 #include <synthesis/resources.h>
 #include <synthesis/runner.h>
@@ -20,7 +13,6 @@
 #include <utils/interrupt.h>
 
 #include <QEventLoop>
-#include <QFileInfo>
 
 namespace Cli
 {
@@ -132,15 +124,32 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
     return status;
 }
 
-Synthesis::Job jobFrom(const SynthesisRequest &request, const DEV::DeviceArg &device)
+Synthesis::Job jobFrom(const SynthesisRequest &request)
 {
-    Synthesis::Job job;
-    job.outputDir = request.outputDir;
-    job.ipName = request.ipName;
-    job.targetName = request.targetName;
-    job.device = device;
-    job.options = request.options;
-    return job;
+    return {request.outputDir, request.ipName, request.targetName, request.device, request.options};
+}
+
+Synthesis::Tool toolOfRunner(Tool tool)
+{
+    switch (tool) {
+    case Tool::TarvoSynthesis:
+        return Synthesis::Tool::TarvoSynthesis;
+    case Tool::SynplifyPro:
+        break;
+    }
+    return Synthesis::Tool::SynplifyPro;
+}
+
+// Without which no other tool reads the netlist; empty if it needs none.
+QString libraryFor(Tool tool, Synthesis::Language language)
+{
+    switch (tool) {
+    case Tool::TarvoSynthesis:
+        return Synthesis::primitiveLibrary(language);
+    case Tool::SynplifyPro:
+        break;
+    }
+    return {};
 }
 
 // Runs the tool to its end and returns its exit code.
@@ -179,42 +188,36 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
         return BadInput;
     }
 
-    const QString outDir = outputFolder(document, arguments.outDir);
-    const QString tempDir = generationFolder(outDir);
+    const GenerationInput input = generationInput(document, ipInfo, arguments.outDir);
+    const GenerationPlan plan = generationPlan(input);
     Report report;
     const auto fail = [&](const QString &reason) {
         report.errors.append(reason);
         return finish(report, arguments, Failed);
     };
     QString error;
-    if (!Utils::FileUtils::makePath(tempDir, &error))
+    if (!Utils::FileUtils::makePath(plan.folder, &error))
         return fail(error);
     // From the first file to the last.
-    const std::shared_ptr<Utils::FolderLock> lock = Utils::FolderLock::take(tempDir, &error);
+    const std::shared_ptr<Utils::FolderLock> lock = Utils::FolderLock::take(plan.folder, &error);
     if (!lock)
         return fail(error);
-    const QVector<IncludeFile> files = buildIncludeFiles(document.options, document.device);
-    for (const IncludeFile &file : files) {
-        const QString path = tempDir + u'/' + file.name;
+    for (const IncludeFile &file : plan.includeFiles) {
+        const QString path = plan.pathOf(file);
         if (!Utils::FileUtils::writeLines(path, file.lines, &error))
             return fail(error);
         report.files.append(path);
     }
-    report.sources = buildSourceFiles(document.options, ipInfo, document.device.device(), tempDir);
+    report.sources = plan.sources;
     if (!arguments.synthesise)
         return finish(report, arguments, Done);
 
-    const QString tool = effectiveSynthesisTool(document.options.value(Key::synthesisTool));
-    const int language = effectiveLanguageIndex(document.options.value(Key::lang));
-    const SynthesisRequest request =
-        buildSynthesisRequest(ipInfo, tempDir, language, report.sources);
     Synthesis::Runner runner;
-    runner.setTool(tool == Value::synplifyPro ? Synthesis::Tool::SynplifyPro
-                                              : Synthesis::Tool::TarvoSynthesis);
-    runner.setJob(jobFrom(request, document.device));
+    runner.setTool(toolOfRunner(*input.tool));
+    runner.setJob(jobFrom(plan.request));
     QStringList inputMistakes;
     const QVector<ItcmMistake> mistakes =
-        itcmMistakes(document.options, document.device.device(), tempDir);
+        itcmMistakes(document.options, document.device.device(), plan.folder);
     for (const ItcmMistake &mistake : mistakes)
         inputMistakes.append(mistake.text());
     runner.setInputMistakes(inputMistakes);
@@ -222,9 +225,8 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     const int exitCode = synthesise(runner, arguments.verbose);
     report.run = runner.report();
 
-    const OutputPaths paths = outputPaths(tool, language, tempDir, outDir, request.targetName);
     const Collection result = collectOutputs(
-        exitCode, runner.detailErrorMsgs(), paths, outDir,
+        exitCode, runner.detailErrorMsgs(), plan.outputs, input.createInPath,
         [](const QString &, const QString &netlist, const QString &destination, QString &message) {
             return Synthesis::writeSimulationModel(netlist, destination, &message);
         });
@@ -235,12 +237,8 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
             report.errors.prepend(runner.errorMsg());
         return finish(report, arguments, runner.wasCancelled() ? Cancelled : Failed);
     }
-    report.outputs = QStringList{paths.netlist, paths.instantiationTemplate};
-    if (!paths.model.isEmpty() && QFileInfo::exists(paths.model))
-        report.outputs.append(paths.model);
-    report.outputs.append(paths.decoded);
-    if (tool == Value::tarvoSynthesis)
-        report.library = Synthesis::primitiveLibrary(runner.report().job.language());
+    report.outputs = result.files;
+    report.library = libraryFor(*input.tool, runner.report().job.language());
     return finish(report, arguments, Done);
 }
 

@@ -4,6 +4,7 @@
 #include "output.h"
 
 #include <config/ipcfile.h>
+#include <config/optionkeys.h>
 #include <utils/boundedfile.h>
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
@@ -109,6 +110,17 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
     for (const QString &group : nested)
         document->unknownEntries.append(group + u'/');
     return true;
+}
+
+GenerationInput generationInput(const IpcDocument &document, const QVariantMap &ipInfo,
+                                const QString &outDir)
+{
+    return {document.options,
+            ipInfo,
+            document.device,
+            effectiveTool(document.options.value(Key::synthesisTool)),
+            effectiveLanguage(document.options.value(Key::lang)),
+            outputFolder(document, outDir)};
 }
 
 bool openDocument(Environment &environment, const QString &path, IpcDocument *document)

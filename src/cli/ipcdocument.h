@@ -2,6 +2,7 @@
 
 #include <config/optionmap.h>
 #include <dev/devicearg.h>
+#include <generate/plan.h>
 #include <reading/inientries.h>
 
 #include <QString>
@@ -42,6 +43,10 @@ struct IpcDocument {
 
 // Where a run puts its results: the folder that the user names, or that of the file.
 QString outputFolder(const IpcDocument &document, const QString &outDir);
+
+// What a generation of the file is made from; `outDir` as above.
+TARVOORIXM1::GenerationInput generationInput(const IpcDocument &document, const QVariantMap &ipInfo,
+                                             const QString &outDir);
 
 // Reads the file of a command with the environment's devices. False: a message has been printed.
 bool openDocument(Environment &environment, const QString &path, IpcDocument *document);

@@ -5,9 +5,7 @@
 #include "output.h"
 
 #include <config/optiontable.h>
-#include <generate/sourcefiles.h>
 #include <rules/dialogdefaults.h>
-#include <rules/generationfolder.h>
 
 namespace Cli
 {
@@ -137,8 +135,7 @@ int runSources(Environment &environment, const QString &file, const QString &out
     IpcDocument document;
     if (!openDocument(environment, file, &document))
         return BadInput;
-    const QStringList sources = buildSourceFiles(document.options, ipInfo, document.device.device(),
-                                                 generationFolder(outputFolder(document, outDir)));
+    const QStringList sources = generationPlan(generationInput(document, ipInfo, outDir)).sources;
     if (json) {
         printJson({{QStringLiteral("sources"), QJsonArray::fromStringList(sources)}});
         return Done;

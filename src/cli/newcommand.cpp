@@ -68,14 +68,11 @@ int runNew(Environment &environment, const NewArguments &arguments)
     }
     OptionMap options;
     if (!arguments.language.isEmpty()) {
-        int index = -1;
-        for (int i = 0; i < languages().size(); ++i) {
-            if (languages().at(i).compare(arguments.language, Qt::CaseInsensitive) == 0)
-                index = i;
-        }
+        const QStringList names = languageNames().join(u' ').toLower().split(u' ');
+        const int index = names.indexOf(arguments.language.toLower());
         if (index < 0) {
             printError(QLatin1String("Unknown language \"") + arguments.language +
-                       QLatin1String("\"; there are verilog and vhdl."));
+                       QLatin1String("\"; there are ") + names.join(QLatin1String(" and ")) + u'.');
             return WrongUsage;
         }
         options.insert(Key::lang, index);

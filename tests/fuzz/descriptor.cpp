@@ -1,7 +1,7 @@
 #include "fuzz.h"
 
+#include <reading/jsontext.h>
 #include <utils/descriptor.h>
-#include <utils/jsonmistake.h>
 
 #include <QJsonDocument>
 
@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QString error;
     const QVariantMap map = Utils::readDescriptor(path, &error);
     REQUIRE(map.isEmpty() || error.isEmpty());
-    const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+    const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
     REQUIRE(mistake.offset >= -1 && mistake.offset <= bytes.size());
     REQUIRE((mistake.offset >= 0) == !mistake.reason.isEmpty());
     if (!error.isEmpty()) {

@@ -1,8 +1,8 @@
 #include "devicedb.h"
 
+#include <reading/jsontext.h>
 #include <reading/limits.h>
 #include <utils/boundedfile.h>
-#include <utils/jsonmistake.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -44,7 +44,7 @@ bool readObject(const QString &path, QJsonObject *object, QString *error)
     QByteArray bytes;
     if (!Utils::readBoundedFile(path, Reading::Limits::deviceFile, &bytes, error))
         return false;
-    const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+    const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
     if (mistake.offset >= 0)
         return malformed(
             path,

@@ -37,6 +37,17 @@ QStringList mistakesTold(QObject *configurator)
     return mistakes;
 }
 
+Synthesis::Tool toolOfRunner(SynthesisHelper::SynthesizeTool tool)
+{
+    switch (tool) {
+    case SynthesisHelper::SynplifyPro:
+        return Synthesis::Tool::SynplifyPro;
+    case SynthesisHelper::TarvoSynthesis:
+        break;
+    }
+    return Synthesis::Tool::TarvoSynthesis;
+}
+
 } // namespace
 
 SynthesisHelper::SynthesisHelper(QObject *parent)
@@ -78,19 +89,24 @@ SynthesisHelper::~SynthesisHelper()
 
 void SynthesisHelper::setSynthesizeTool(SynthesizeTool tool)
 {
-    d->runner.setTool(tool == SynplifyPro ? Synthesis::Tool::SynplifyPro
-                                          : Synthesis::Tool::TarvoSynthesis);
+    d->runner.setTool(toolOfRunner(tool));
 }
 
 SynthesisHelper::SynthesizeTool SynthesisHelper::synthesizeTool() const
 {
-    return d->runner.tool() == Synthesis::Tool::SynplifyPro ? SynplifyPro : TarvoSynthesis;
+    switch (d->runner.tool()) {
+    case Synthesis::Tool::SynplifyPro:
+        return SynplifyPro;
+    case Synthesis::Tool::TarvoSynthesis:
+        break;
+    }
+    return TarvoSynthesis;
 }
 
 void SynthesisHelper::setArgs(const SynthesizeArgs &args)
 {
     d->outputDir = args.outputDir;
-    d->runner.setJob(args);
+    d->runner.setJob({args.outputDir, args.ipName, args.targetName, args.device, args.options});
 }
 
 void SynthesisHelper::setProgressDlgWindowTitle(const QString &title)

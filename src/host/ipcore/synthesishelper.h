@@ -2,19 +2,30 @@
 
 #include "ipcore_global.h"
 
-#include <synthesis/job.h>
-#include <synthesis/runreport.h>
+#include <dev/devicearg.h>
 
 #include <QObject>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <memory>
+
+namespace Synthesis
+{
+struct RunReport;
+}
 
 namespace IPCore
 {
 
-// outputDir, ipName, targetName, device, options: see Synthesis::Job for the option keys.
-using SynthesizeArgs = Synthesis::Job;
+// What a run works on. A plain value; the keys of `options` are those of a Synthesis::Job.
+struct SynthesizeArgs {
+    QString outputDir; // must exist
+    QString ipName;
+    QString targetName; // base name of the outputs
+    DEV::DeviceArg device;
+    QVariantMap options;
+};
 
 // Runs a synthesis tool with a progress window: stage, elapsed time, the tool's log as it comes,
 // and Cancel. Every run is reported to the SynthesisMonitor too.
@@ -51,8 +62,8 @@ public:
     // Of the last run: the summary error, empty after a success, and the detailed messages.
     QString errorMsg() const;
     QStringList detailErrorMsgs() const;
-    // All of the last run; while one is active, what is known of it so far. Messages about the
-    // user's files come first.
+    // For an application, not for plug-ins. All of the last run; while one is active, what is known
+    // of it so far. Messages about the user's files come first.
     Synthesis::RunReport report() const;
 
 Q_SIGNALS:

@@ -1,8 +1,8 @@
 #include "descriptor.h"
 
 #include "boundedfile.h"
-#include "jsonmistake.h"
 
+#include <reading/jsontext.h>
 #include <reading/limits.h>
 
 #include <QCoreApplication>
@@ -96,7 +96,7 @@ QVariantMap readDescriptor(const QString &path, QString *error)
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
-        const JsonMistake mistake = findJsonMistake(bytes);
+        const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
         if (mistake.offset >= 0)
             return fail(path, bytes, mistake.offset, mistake.reason, error);
         if (parseError.error == QJsonParseError::IllegalUTF8String)

@@ -1,5 +1,6 @@
 #include "optiontable.h"
 
+#include "choices.h"
 #include "latin1literal.h"
 
 #include <algorithm>
@@ -173,9 +174,8 @@ QVector<Option> buildTable()
     append(table, apbSwitches);
     appendPorts(table, Key::enableApbMaster, Key::apbMasterCount, "APB"_l1);
 
-    table.append(
-        bookKeeping(choiceOption(Key::synthesisTool, OptionType::String, QVariant(),
-                                 {Value::tarvoSynthesis, Value::synplifyPro}, "Synthesis tool")));
+    table.append(bookKeeping(choiceOption(Key::synthesisTool, OptionType::String, QVariant(),
+                                          toolNames(), "Synthesis tool")));
     table.append(
         bookKeeping(choiceOption(Key::lang, OptionType::Int, QVariant(), {text("0"), text("1")},
                                  "Language of the outputs: 0 Verilog, 1 VHDL")));

@@ -1,9 +1,5 @@
 #include "outputs.h"
 
-#include "config/latin1literal.h"
-#include "config/optionkeys.h"
-#include "synthesisrequest.h"
-
 #include <utils/fileutils.h>
 
 #include <QFileInfo>
@@ -11,38 +7,35 @@
 namespace TARVOORIXM1
 {
 
-using Utils::FileUtils;
-
-OutputPaths outputPaths(const QString &tool, int languageIndex, const QString &tempDir,
-                        const QString &outDir, const QString &target)
+Outputs buildOutputs(std::optional<Tool> tool, std::optional<Language> language,
+                     const QString &tempDir, const QString &outDir, const QString &target)
 {
-    const bool vhdl = languageIndex != 0;
-    const QLatin1String suffix = vhdl ? ".vhd"_l1 : ".v"_l1;
-    const QString inTemp = tempDir + u'/' + target;
-    const QString inOut = outDir + u'/' + target;
-
-    OutputPaths paths;
-    if (tool == Value::tarvoSynthesis) {
-        paths.netlistSource = inTemp + (vhdl ? ".vhg"_l1 : ".vg"_l1);
-        paths.netlist = inOut + suffix;
-        paths.verilogNetlist = inTemp + ".vg"_l1;
-        if (languageIndex == 1) {
-            paths.modelSource = inTemp + ".vho"_l1;
-            paths.model = inOut + ".vho"_l1;
-        }
-    } else if (tool == Value::synplifyPro) {
-        const QString inImplementation = tempDir + u'/' + implementationName + u'/' + target;
-        paths.netlistSource = inImplementation + (vhdl ? ".vhm"_l1 : ".vm"_l1);
-        paths.netlist = inOut + suffix;
-        paths.verilogNetlist = inImplementation + ".vm"_l1;
+    const Language naming = namingLanguage(language);
+    const QLatin1String suffix = rowOf(naming).suffix;
+    const QString templateName = target + "_tmp"_l1 + suffix;
+    Output netlist;
+    Output model;
+    Outputs outputs;
+    if (tool) {
+        const ToolRow &row = rowOf(*tool);
+        const QString results =
+            row.resultFolder.isEmpty() ? tempDir : QString(tempDir + u'/' + row.resultFolder);
+        const QString made = results + u'/' + target;
+        netlist = {made + netlistSuffix(*tool, naming), outDir + u'/' + target + suffix};
+        outputs.verilogNetlist = made + netlistSuffix(*tool, Language::Verilog);
+        if (language == Language::Vhdl && !row.vhdlModel.isEmpty())
+            model = {made + row.vhdlModel, outDir + u'/' + target + row.vhdlModel, true};
     }
-    paths.templateSource = inTemp + "_tmp"_l1 + suffix;
-    paths.instantiationTemplate = inOut + "_tmp"_l1 + suffix;
-    paths.decoded = inOut + ".vo"_l1;
-    return paths;
+    outputs.copied = {netlist, {tempDir + u'/' + templateName, outDir + u'/' + templateName}};
+    if (!model.source.isEmpty())
+        outputs.copied.append(model);
+    outputs.netlist = netlist.file;
+    outputs.instantiationTemplate = outputs.copied.at(1).file;
+    outputs.decoded = outDir + u'/' + target + ".vo"_l1;
+    return outputs;
 }
 
-Collection collectOutputs(int exitCode, const QStringList &details, const OutputPaths &paths,
+Collection collectOutputs(int exitCode, const QStringList &details, const Outputs &outputs,
                           const QString &outDir, const Decoder &decode)
 {
     Collection result;
@@ -51,23 +44,26 @@ Collection collectOutputs(int exitCode, const QStringList &details, const Output
         result.errors = details;
         return result;
     }
-    const auto failed = [&result](const QString &reason) {
+    bool isWhole = true; // what every run makes
+    for (const Output &output : outputs.copied) {
+        if (output.isOptional ? !QFileInfo::exists(output.source) : !isWhole)
+            continue;
+        QString reason;
+        if (Utils::FileUtils::copyFile(output.source, output.file, &reason)) {
+            result.files.append(output.file);
+            continue;
+        }
+        isWhole = false;
         result.errors.append(reason);
         result.status = -1;
-    };
-    QString reason;
-    if (!FileUtils::copyFile(paths.netlistSource, paths.netlist, &reason) ||
-        !FileUtils::copyFile(paths.templateSource, paths.instantiationTemplate, &reason))
-        failed(reason);
-    reason.clear();
-    if (!paths.modelSource.isEmpty() && QFileInfo::exists(paths.modelSource) &&
-        !FileUtils::copyFile(paths.modelSource, paths.model, &reason))
-        failed(reason);
-    if (result.status == 0) {
-        QString message;
-        result.status = decode(outDir, paths.verilogNetlist, paths.decoded, message);
-        result.errors.append(message);
     }
+    if (result.status != 0)
+        return result;
+    QString message;
+    result.status = decode(outDir, outputs.verilogNetlist, outputs.decoded, message);
+    result.errors.append(message);
+    if (result.status == 0)
+        result.files.append(outputs.decoded);
     return result;
 }
 

@@ -5,16 +5,18 @@
 namespace TARVOORIXM1
 {
 
-SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const QString &tempDir,
-                                       int languageIndex, const QStringList &sourceFiles)
+SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const DEV::DeviceArg &device,
+                                       const QString &tempDir, std::optional<Language> language,
+                                       const QStringList &sourceFiles)
 {
     SynthesisRequest request;
     request.outputDir = tempDir;
     request.ipName = QStringLiteral("tv_orix_m1");
     request.targetName = ipInfo.value(InfoKey::target).toString();
+    request.device = device;
     request.options = {
         {QStringLiteral("impl_name"), QString(implementationName)},
-        {QStringLiteral("write_vhdl"), languageIndex == 1},
+        {QStringLiteral("write_vhdl"), language == Language::Vhdl},
         {QStringLiteral("top_module"), QStringLiteral("Tarvo_ORIX_M1_Top")},
         {QStringLiteral("disable_io"), true},
         {QStringLiteral("source_files"), sourceFiles},

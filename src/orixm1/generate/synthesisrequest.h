@@ -1,27 +1,27 @@
 #pragma once
 
-#include "config/latin1literal.h"
-#include "config/optionmap.h"
+#include "config/choices.h"
+
+#include <dev/devicearg.h>
 
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace TARVOORIXM1
 {
 
-// What the synthesis runner is asked for, apart from the device.
+// What the synthesis runner is asked for.
 struct SynthesisRequest {
     QString outputDir;
     QString ipName;
     QString targetName;
+    DEV::DeviceArg device;
     QVariantMap options;
 };
 
-// `languageIndex` is that of the language choice: 0 Verilog, 1 VHDL.
-SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const QString &tempDir,
-                                       int languageIndex, const QStringList &sourceFiles);
-
-// The result folder of a project-based tool, below the generation folder.
-inline constexpr QLatin1String implementationName = "rev_1"_l1;
+SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const DEV::DeviceArg &device,
+                                       const QString &tempDir, std::optional<Language> language,
+                                       const QStringList &sourceFiles);
 
 } // namespace TARVOORIXM1

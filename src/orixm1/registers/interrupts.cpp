@@ -4,7 +4,7 @@
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
 
-#include <utils/jsonmistake.h>
+#include <reading/jsontext.h>
 
 #include <QDir>
 #include <QFile>
@@ -83,7 +83,7 @@ bool readOtherInterrupts(const QString &dataPath, QVector<InterruptSource> *sour
         return false;
     }
     const QByteArray bytes = file.readAll();
-    const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+    const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
     if (mistake.offset >= 0) {
         const int line = 1 + bytes.left(mistake.offset).count('\n');
         *error = nameOf(path) + ": line "_l1 + QString::number(line) + ": "_l1 + mistake.reason;

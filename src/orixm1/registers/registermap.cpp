@@ -4,9 +4,9 @@
 #include "config/optiontable.h"
 #include "interrupts.h"
 
+#include <reading/jsontext.h>
 #include <reading/limits.h>
 #include <reading/plainfile.h>
-#include <utils/jsonmistake.h>
 
 #include <QDir>
 #include <QJsonArray>
@@ -49,7 +49,7 @@ public:
         QString reason;
         if (!Reading::readPlainFile(m_path, Reading::Limits::registerFile, &bytes, &reason))
             return fail("cannot be read: "_l1 + reason);
-        const Utils::JsonMistake mistake = Utils::findJsonMistake(bytes);
+        const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
         if (mistake.offset >= 0) {
             const int line = 1 + bytes.left(mistake.offset).count('\n');
             return fail("line "_l1 + QString::number(line) + ": "_l1 + mistake.reason);

@@ -30,11 +30,11 @@ MicroSysIPGenDlg::MicroSysIPGenDlg(QWidget *parent)
 {
     ui->setupUi(this);
 
-    ui->synToolComboBox->addItems(synthesisTools());
+    ui->synToolComboBox->addItems(offeredToolNames());
     ui->synToolComboBox->setCurrentIndex(0);
     ui->language->hide();
     ui->synToolComboBox->hide();
-    ui->comboBoxLanguage->addItems(languages());
+    ui->comboBoxLanguage->addItems(languageNames());
     ui->comboBoxLanguage->setCurrentIndex(0);
     ui->buttonBox->button(QDialogButtonBox::Help)->hide();
 

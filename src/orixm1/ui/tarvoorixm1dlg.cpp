@@ -7,10 +7,7 @@
 #include "config/optionkeys.h"
 #include "diagram/ipview.h"
 #include "dialogs/messagebox.h"
-#include "generate/defines.h"
-#include "generate/outputs.h"
-#include "generate/sourcefiles.h"
-#include "generate/synthesisrequest.h"
+#include "generate/plan.h"
 #include "rules/devicerules.h"
 #include "rules/generationfolder.h"
 #include "rules/itcmcontents.h"
@@ -24,6 +21,24 @@
 
 namespace TARVOORIXM1
 {
+
+namespace
+{
+
+using IPCore::SynthesisHelper;
+
+SynthesisHelper::SynthesizeTool toolOfHost(Tool tool)
+{
+    switch (tool) {
+    case Tool::TarvoSynthesis:
+        return SynthesisHelper::TarvoSynthesis;
+    case Tool::SynplifyPro:
+        break;
+    }
+    return SynthesisHelper::SynplifyPro;
+}
+
+} // namespace
 
 TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
     : MicroSysIPGenDlg(parent)
@@ -146,38 +161,42 @@ QStringList TarvoOrixM1Dlg::inputMistakes() const
     return texts;
 }
 
+GenerationInput TarvoOrixM1Dlg::generationInput() const
+{
+    return {options,
+            ipInfo,
+            currentDevice(),
+            toolNamed(synthesisTool()),
+            languageAt(languageIndex()),
+            createInPath()};
+}
+
 void TarvoOrixM1Dlg::generateCore()
 {
-    const QString folder = tempDir();
-    const DEV::DeviceArg target = currentDevice();
-    const QVector<IncludeFile> files = buildIncludeFiles(options, target);
-    for (const IncludeFile &file : files) {
-        if (!IPCore::generateFile(folder + u'/' + file.name, file.lines, this, QString())) {
+    const GenerationInput input = generationInput();
+    const GenerationPlan plan = generationPlan(input);
+    for (const IncludeFile &file : plan.includeFiles) {
+        if (!IPCore::generateFile(plan.pathOf(file), file.lines, this, QString())) {
             // Saving took the output folder out of the map; the blocks' dialogs need it for as long
             // as this one stays open.
             UpdateCreatinPath();
             return;
         }
     }
-    const QStringList sourceFiles = buildSourceFiles(options, ipInfo, target.device(), folder);
 
     if (!synthesis) {
-        synthesis = new IPCore::SynthesisHelper(this);
+        synthesis = new SynthesisHelper(this);
         connect(synthesis, SIGNAL(finished(int)), this, SLOT(onGenerationFinished(int)));
     }
-    const QString tool = synthesisTool();
-    if (tool == Value::tarvoSynthesis)
-        synthesis->setSynthesizeTool(IPCore::SynthesisHelper::TarvoSynthesis);
-    else if (tool == Value::synplifyPro)
-        synthesis->setSynthesizeTool(IPCore::SynthesisHelper::SynplifyPro);
+    if (input.tool)
+        synthesis->setSynthesizeTool(toolOfHost(*input.tool));
 
-    const SynthesisRequest request =
-        buildSynthesisRequest(ipInfo, folder, languageIndex(), sourceFiles);
+    const SynthesisRequest &request = plan.request;
     IPCore::SynthesizeArgs args;
     args.outputDir = request.outputDir;
     args.ipName = request.ipName;
     args.targetName = request.targetName;
-    args.device = target;
+    args.device = request.device;
     args.options = request.options;
 
     synthesis->setProgressDlgWindowTitle(ipInfo.value(InfoKey::label).toString());
@@ -188,9 +207,8 @@ void TarvoOrixM1Dlg::generateCore()
 
 void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
 {
-    const OutputPaths paths =
-        outputPaths(synthesisTool(), languageIndex(), tempDir(), createInPath(), targetName());
-    const Collection result = collectOutputs(exitCode, synthesis->detailErrorMsgs(), paths,
+    const Outputs outputs = plannedOutputs(generationInput());
+    const Collection result = collectOutputs(exitCode, synthesis->detailErrorMsgs(), outputs,
                                              createInPath(), IPCore::decode);
     synthesis->hideProgressDlg();
     if (result.status != 0) {
@@ -201,9 +219,9 @@ void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
                               result.errors);
         return;
     }
-    Core::EditorManager::openEditor(paths.netlist, false);
-    Core::EditorManager::openEditor(paths.instantiationTemplate, false);
-    IPCore::addFilesToProject({paths.netlist});
+    Core::EditorManager::openEditor(outputs.netlist, false);
+    Core::EditorManager::openEditor(outputs.instantiationTemplate, false);
+    IPCore::addFilesToProject({outputs.netlist});
     QDialog::accept();
 }
 

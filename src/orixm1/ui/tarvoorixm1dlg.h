@@ -12,6 +12,7 @@ namespace TARVOORIXM1
 {
 
 class IPView;
+struct GenerationInput;
 
 // The configuration window of one IP. Owns its option map; everything else of the IP is in its .ipc
 // file.
@@ -50,6 +51,8 @@ private:
     bool loadIPConfig(const QString &ipcFile) override;
 
     void generateCore();
+    // From what the widgets select now.
+    GenerationInput generationInput() const;
     QString tempDir() const;
 
     const OptionMap ipInfo;

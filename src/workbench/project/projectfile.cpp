@@ -1,7 +1,7 @@
 #include "projectfile.h"
 
+#include <reading/jsontext.h>
 #include <utils/fileutils.h>
-#include <utils/jsonmistake.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -33,7 +33,7 @@ bool fail(const QString &path, const QString &reason, QString *error)
 }
 
 // "line 3, column 5: …"
-QString place(const QByteArray &text, const Utils::JsonMistake &mistake)
+QString place(const QByteArray &text, const Reading::JsonMistake &mistake)
 {
     const QByteArray before = text.left(mistake.offset);
     const int lineStart = before.lastIndexOf('\n') + 1;
@@ -58,7 +58,7 @@ QByteArray ProjectFile::toText() const
 bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectFile *file,
                            QString *error)
 {
-    const Utils::JsonMistake mistake = Utils::findJsonMistake(text);
+    const Reading::JsonMistake mistake = Reading::findJsonMistake(text);
     if (mistake.offset >= 0)
         return fail(path, place(text, mistake), error);
     QJsonParseError parseError;

@@ -146,15 +146,16 @@ void tst_IpcFile::headerHoldsTheIdentity()
 
 void tst_IpcFile::choicesOfStoredValues()
 {
-    QCOMPARE(effectiveSynthesisTool(QStringLiteral("TarvoSynthesis")),
-             QStringLiteral("TarvoSynthesis"));
-    QCOMPARE(effectiveSynthesisTool(QStringLiteral("Synplify Pro")),
-             QStringLiteral("TarvoSynthesis"));
-    QCOMPARE(effectiveSynthesisTool({}), QStringLiteral("TarvoSynthesis"));
-    QCOMPARE(effectiveLanguageIndex({}), 0);
-    QCOMPARE(effectiveLanguageIndex(QStringLiteral("1")), 1);
-    QCOMPARE(effectiveLanguageIndex(2), -1);
-    QCOMPARE(effectiveLanguageIndex(-3), -1);
+    const auto toolOf = [](const QVariant &stored) {
+        return QString(rowOf(effectiveTool(stored)).name);
+    };
+    QCOMPARE(toolOf(QStringLiteral("TarvoSynthesis")), QStringLiteral("TarvoSynthesis"));
+    QCOMPARE(toolOf(QStringLiteral("Synplify Pro")), QStringLiteral("TarvoSynthesis"));
+    QCOMPARE(toolOf({}), QStringLiteral("TarvoSynthesis"));
+    QVERIFY(effectiveLanguage({}) == Language::Verilog);
+    QVERIFY(effectiveLanguage(QStringLiteral("1")) == Language::Vhdl);
+    QVERIFY(!effectiveLanguage(2));
+    QVERIFY(!effectiveLanguage(-3));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_IpcFile)

@@ -25,7 +25,7 @@ private Q_SLOTS:
     void anUnknownToolRunsWithEmptyPaths();
 
 private:
-    Collection collect(int exitCode, const OutputPaths &paths, int decodeStatus = 0);
+    Collection collect(int exitCode, const Outputs &outputs, int decodeStatus = 0);
 
     struct Decoded {
         QStringList arguments;
@@ -33,11 +33,11 @@ private:
     } m_decoded;
 };
 
-Collection tst_Outputs::collect(int exitCode, const OutputPaths &paths, int decodeStatus)
+Collection tst_Outputs::collect(int exitCode, const Outputs &outputs, int decodeStatus)
 {
     m_decoded = Decoded();
     return collectOutputs(
-        exitCode, {QStringLiteral("detail")}, paths, QStringLiteral("OUT"),
+        exitCode, {QStringLiteral("detail")}, outputs, QStringLiteral("OUT"),
         [&](const QString &outDir, const QString &netlist, const QString &destination,
             QString &message) {
             m_decoded.arguments = QStringList{outDir, netlist, destination, message};
@@ -79,15 +79,20 @@ void tst_Outputs::paths()
     QFETCH(QString, tool);
     QFETCH(int, language);
     QFETCH(QStringList, expected);
-    const OutputPaths paths = outputPaths(tool, language, QStringLiteral("/t"),
-                                          QStringLiteral("/o"), QStringLiteral("n"));
-    QCOMPARE(
-        (QStringList{paths.netlistSource, paths.netlist, paths.verilogNetlist, paths.modelSource}),
-        expected.mid(0, 4));
-    QCOMPARE(paths.model, expected.at(3).isEmpty() ? QString() : QStringLiteral("/o/n.vho"));
-    QCOMPARE(paths.templateSource, QLatin1String("/t/") + expected.at(4));
-    QCOMPARE(paths.instantiationTemplate, QLatin1String("/o/") + expected.at(4));
-    QCOMPARE(paths.decoded, QStringLiteral("/o/n.vo"));
+    const Outputs outputs =
+        buildOutputs(toolNamed(tool), languageAt(language), QStringLiteral("/t"),
+                     QStringLiteral("/o"), QStringLiteral("n"));
+    const Output model = outputs.copied.value(2);
+    QCOMPARE((QStringList{outputs.copied.at(0).source, outputs.netlist, outputs.verilogNetlist,
+                          model.source}),
+             expected.mid(0, 4));
+    QCOMPARE(outputs.copied.at(0).file, outputs.netlist);
+    QCOMPARE(outputs.copied.size(), expected.at(3).isEmpty() ? 2 : 3);
+    QCOMPARE(model.file, expected.at(3).isEmpty() ? QString() : QStringLiteral("/o/n.vho"));
+    QCOMPARE(outputs.copied.at(1).source, QLatin1String("/t/") + expected.at(4));
+    QCOMPARE(outputs.copied.at(1).file, QLatin1String("/o/") + expected.at(4));
+    QCOMPARE(outputs.instantiationTemplate, outputs.copied.at(1).file);
+    QCOMPARE(outputs.decoded, QStringLiteral("/o/n.vo"));
 }
 
 namespace
@@ -98,22 +103,19 @@ class Workplace
 {
 public:
     explicit Workplace(int language)
-        : paths(outputPaths(QStringLiteral("TarvoSynthesis"), language,
-                            dir.filePath(QStringLiteral("t")), dir.filePath(QStringLiteral("o")),
-                            QStringLiteral("n")))
+        : outputs(buildOutputs(Tool::TarvoSynthesis, languageAt(language),
+                               dir.filePath(QStringLiteral("t")), dir.filePath(QStringLiteral("o")),
+                               QStringLiteral("n")))
     {
         QDir(dir.path()).mkpath(QStringLiteral("o"));
         for (const char *name : {"n.vg", "n.vhg", "n.vho", "n_tmp.v", "n_tmp.vhd"})
             TestSupport::write(dir.filePath(QLatin1String("t/") + QLatin1String(name)), name);
     }
 
-    QStringList outputs() const
-    {
-        return TestSupport::entriesOf(dir.filePath(QStringLiteral("o")));
-    }
+    QStringList files() const { return TestSupport::entriesOf(dir.filePath(QStringLiteral("o"))); }
 
     QTemporaryDir dir;
-    OutputPaths paths;
+    Outputs outputs;
 };
 
 } // namespace
@@ -121,57 +123,58 @@ public:
 void tst_Outputs::copiesAndDecodes()
 {
     Workplace place(0);
-    const Collection result = collect(0, place.paths);
+    const Collection result = collect(0, place.outputs);
     QCOMPARE(result.status, 0);
     QCOMPARE(result.errors, QStringList{QStringLiteral("said")});
-    QCOMPARE(place.outputs(), (QStringList{QStringLiteral("n.v"), QStringLiteral("n_tmp.v")}));
-    QCOMPARE(TestSupport::contentsOf(place.paths.netlist), QByteArray("n.vg"));
-    QCOMPARE(m_decoded.arguments, (QStringList{QStringLiteral("OUT"), place.paths.verilogNetlist,
-                                               place.paths.decoded, QString()}));
+    QCOMPARE(place.files(), (QStringList{QStringLiteral("n.v"), QStringLiteral("n_tmp.v")}));
+    QCOMPARE(TestSupport::contentsOf(place.outputs.netlist), QByteArray("n.vg"));
+    QCOMPARE(result.files, (QStringList{place.outputs.netlist, place.outputs.instantiationTemplate,
+                                        place.outputs.decoded}));
+    QCOMPARE(m_decoded.arguments, (QStringList{QStringLiteral("OUT"), place.outputs.verilogNetlist,
+                                               place.outputs.decoded, QString()}));
 }
 
 void tst_Outputs::vhdlCopiesTheAdditionalModelWhenThereIsOne()
 {
     Workplace place(1);
-    QCOMPARE(collect(0, place.paths).status, 0);
-    QCOMPARE(place.outputs(), (QStringList{QStringLiteral("n.vhd"), QStringLiteral("n.vho"),
-                                           QStringLiteral("n_tmp.vhd")}));
-    QCOMPARE(TestSupport::contentsOf(place.paths.netlist), QByteArray("n.vhg"));
+    QCOMPARE(collect(0, place.outputs).status, 0);
+    QCOMPARE(place.files(), (QStringList{QStringLiteral("n.vhd"), QStringLiteral("n.vho"),
+                                         QStringLiteral("n_tmp.vhd")}));
+    QCOMPARE(TestSupport::contentsOf(place.outputs.netlist), QByteArray("n.vhg"));
     QVERIFY(m_decoded.arguments.at(1).endsWith(QLatin1String("/t/n.vg")));
 
     Workplace without(1);
-    QVERIFY(QFile::remove(without.paths.modelSource));
-    QCOMPARE(collect(0, without.paths).status, 0);
-    QCOMPARE(without.outputs(),
-             (QStringList{QStringLiteral("n.vhd"), QStringLiteral("n_tmp.vhd")}));
+    QVERIFY(QFile::remove(without.outputs.copied.at(2).source));
+    QCOMPARE(collect(0, without.outputs).status, 0);
+    QCOMPARE(without.files(), (QStringList{QStringLiteral("n.vhd"), QStringLiteral("n_tmp.vhd")}));
 }
 
 void tst_Outputs::verilogNeverCopiesAnAdditionalModel()
 {
     Workplace place(0);
     QVERIFY(QFileInfo::exists(place.dir.filePath(QStringLiteral("t/n.vho"))));
-    QCOMPARE(collect(0, place.paths).status, 0);
-    QVERIFY(!place.outputs().contains(QStringLiteral("n.vho")));
+    QCOMPARE(collect(0, place.outputs).status, 0);
+    QVERIFY(!place.files().contains(QStringLiteral("n.vho")));
 }
 
 void tst_Outputs::aFailedRunCopiesNothing()
 {
     Workplace place(0);
-    const Collection result = collect(7, place.paths);
+    const Collection result = collect(7, place.outputs);
     QCOMPARE(result.status, 7);
     QCOMPARE(result.errors, QStringList{QStringLiteral("detail")});
-    QCOMPARE(place.outputs(), QStringList());
+    QCOMPARE(place.files(), QStringList());
     QCOMPARE(m_decoded.count, 0);
 }
 
 void tst_Outputs::aMissingTemplateIsAnError()
 {
     Workplace place(0);
-    QVERIFY(QFile::remove(place.paths.templateSource));
-    const Collection result = collect(0, place.paths);
+    QVERIFY(QFile::remove(place.outputs.copied.at(1).source));
+    const Collection result = collect(0, place.outputs);
     QCOMPARE(result.status, -1);
     QCOMPARE(result.errors.size(), 1);
-    QVERIFY2(result.errors.first().contains(place.paths.templateSource),
+    QVERIFY2(result.errors.first().contains(place.outputs.copied.at(1).source),
              qPrintable(result.errors.first()));
     QCOMPARE(m_decoded.count, 0);
 }
@@ -179,39 +182,40 @@ void tst_Outputs::aMissingTemplateIsAnError()
 void tst_Outputs::aMissingNetlistLeavesTheTemplateAlone()
 {
     Workplace place(0);
-    QVERIFY(QFile::remove(place.paths.netlistSource));
-    const Collection result = collect(0, place.paths);
+    QVERIFY(QFile::remove(place.outputs.copied.at(0).source));
+    const Collection result = collect(0, place.outputs);
     QCOMPARE(result.status, -1);
-    QVERIFY(result.errors.value(0).contains(place.paths.netlistSource));
-    QCOMPARE(place.outputs(), QStringList());
+    QVERIFY(result.errors.value(0).contains(place.outputs.copied.at(0).source));
+    QCOMPARE(place.files(), QStringList());
 }
 
 void tst_Outputs::anUncopyableModelIsAnErrorOfItsOwn()
 {
     Workplace place(1);
-    QVERIFY(QDir().mkpath(place.paths.model));
-    QVERIFY(QFile::remove(place.paths.netlistSource));
-    const Collection result = collect(0, place.paths);
+    QVERIFY(QDir().mkpath(place.outputs.copied.at(2).file));
+    QVERIFY(QFile::remove(place.outputs.copied.at(0).source));
+    const Collection result = collect(0, place.outputs);
     QCOMPARE(result.status, -1);
     QCOMPARE(result.errors.size(), 2);
-    QVERIFY(result.errors.at(0).contains(place.paths.netlistSource));
-    QVERIFY(result.errors.at(1).contains(place.paths.model));
+    QVERIFY(result.errors.at(0).contains(place.outputs.copied.at(0).source));
+    QVERIFY(result.errors.at(1).contains(place.outputs.copied.at(2).file));
 }
 
 void tst_Outputs::aFailedDecodingIsTheStatus()
 {
     Workplace place(0);
-    const Collection result = collect(0, place.paths, 5);
+    const Collection result = collect(0, place.outputs, 5);
     QCOMPARE(result.status, 5);
     QCOMPARE(result.errors, QStringList{QStringLiteral("said")});
-    QCOMPARE(place.outputs().size(), 2);
+    QCOMPARE(place.files().size(), 2);
 }
 
 void tst_Outputs::anUnknownToolRunsWithEmptyPaths()
 {
-    const OutputPaths paths = outputPaths(QStringLiteral("Another"), 0, QStringLiteral("/t"),
-                                          QStringLiteral("/o"), QStringLiteral("n"));
-    const Collection result = collect(0, paths);
+    const Outputs outputs =
+        buildOutputs(toolNamed(QStringLiteral("Another")), Language::Verilog, QStringLiteral("/t"),
+                     QStringLiteral("/o"), QStringLiteral("n"));
+    const Collection result = collect(0, outputs);
     QCOMPARE(result.status, -1);
     QCOMPARE(result.errors.size(), 1);
     QVERIFY(!result.errors.first().isEmpty());

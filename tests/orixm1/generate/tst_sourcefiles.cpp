@@ -1,6 +1,7 @@
 #include "testsupport.h"
 
 #include <config/optionkeys.h>
+#include <dev/devicedb.h>
 #include <generate/sourcefiles.h>
 #include <generate/synthesisrequest.h>
 
@@ -217,12 +218,14 @@ void tst_SourceFiles::fillsTheRequest()
     const QVariantMap ipInfo{{InfoKey::target, QStringLiteral("name")},
                              {InfoKey::version, QStringLiteral("2.1")}};
     const QStringList sources{QStringLiteral("a.v"), QStringLiteral("b.v")};
+    const DEV::DeviceArg device = DEV::DeviceDb::bundled().devices().first();
     for (const int language : {0, 1, 2, -1}) {
-        const SynthesisRequest request =
-            buildSynthesisRequest(ipInfo, QStringLiteral("/t"), language, sources);
+        const SynthesisRequest request = buildSynthesisRequest(ipInfo, device, QStringLiteral("/t"),
+                                                               languageAt(language), sources);
         QCOMPARE(request.outputDir, QStringLiteral("/t"));
         QCOMPARE(request.ipName, QStringLiteral("tv_orix_m1"));
         QCOMPARE(request.targetName, QStringLiteral("name"));
+        QCOMPARE(request.device.id(), device.id());
         QCOMPARE(request.options,
                  (QVariantMap{{QStringLiteral("impl_name"), QStringLiteral("rev_1")},
                               {QStringLiteral("write_vhdl"), language == 1},

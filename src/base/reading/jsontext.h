@@ -1,11 +1,9 @@
 #pragma once
 
-#include "utils_global.h"
-
 #include <QByteArray>
 #include <QString>
 
-namespace Utils
+namespace Reading
 {
 
 // A place where a text is not JSON.
@@ -16,6 +14,6 @@ struct JsonMistake {
 
 // Finds the first mistake of a JSON text (RFC 8259, with or without a byte order mark). Qt's parser
 // tells no more than that there is one: its offset is often a token or a line further on.
-TARVO_UTILS_EXPORT JsonMistake findJsonMistake(const QByteArray &text);
+JsonMistake findJsonMistake(const QByteArray &text);
 
-} // namespace Utils
+} // namespace Reading

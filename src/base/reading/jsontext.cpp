@@ -1,10 +1,10 @@
-#include "jsonmistake.h"
+#include "jsontext.h"
 
 #include <QCoreApplication>
 
 #include <cstring>
 
-namespace Utils
+namespace Reading
 {
 
 namespace
@@ -12,7 +12,7 @@ namespace
 
 QString tr(const char *text)
 {
-    return QCoreApplication::translate("Utils::Descriptor", text);
+    return QCoreApplication::translate("Reading", text);
 }
 
 // The depth that QJsonDocument reads.
@@ -209,4 +209,4 @@ JsonMistake findJsonMistake(const QByteArray &text)
     return Scanner(text).scan();
 }
 
-} // namespace Utils
+} // namespace Reading
