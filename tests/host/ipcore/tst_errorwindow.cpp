@@ -5,6 +5,7 @@
 #include <core/viewmanager.h>
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
+#include <synthesis/runreport.h>
 
 #include <QLabel>
 #include <QMessageBox>
