@@ -1,42 +1,17 @@
 #pragma once
 
-#include <QByteArray>
-#include <QHash>
-#include <QJsonObject>
-#include <QVector>
+#include "design.h"
+
+#include <QByteArrayList>
 
 namespace Synthesis
 {
-
-// A port of an elaborated module.
-struct Port {
-    QByteArray name;
-    QByteArray direction; // "input", "output" or "inout"
-    int width = 1;
-    int lowest = 0;        // index of the range's lowest bit
-    bool isVector = false; // declared with a range, which may have one bit
-    bool isRising = false; // [0:7] rather than [7:0]
-    QByteArray note;       // what the design says about it, by an attribute "note"; may be empty
-
-    // "[15:0]", empty for a single bit.
-    QByteArray range() const;
-};
-
-// The value of a parameter in the synthesis tool's JSON form.
-struct ParameterValue {
-    QByteArray bits; // from the highest one down; empty for a text
-    QByteArray text;
-
-    static ParameterValue read(const QJsonValue &json);
-};
 
 // A module without contents that the design instantiates.
 struct BlackBox {
     struct Parameter {
         QByteArray name;
-        QByteArray value; // Verilog text of the default
-        QByteArray bits;  // the default from the highest bit down; empty for a text
-        QByteArray text;
+        ParameterValue value;   // the default
         bool isDeclared = true; // false: only instances tell of it, and the default stands for none
     };
 
@@ -55,7 +30,8 @@ public:
     // what is wrong with the texts.
     QString read(const QByteArray &outline, const QByteArray &cells);
 
-    bool contains(const QByteArray &module) const;
+    bool contains(const QByteArray &module) const { return m_outline.find(module); }
+    // In the order of declaration.
     QVector<Port> ports(const QByteArray &module) const;
     // What the design says about the module, as Port::note.
     QByteArray note(const QByteArray &module) const;
@@ -68,7 +44,7 @@ private:
         QByteArrayList parameters;
     };
 
-    QJsonObject m_modules;
+    Design m_outline;
     QHash<QByteArray, Usage> m_usage; // by module
 };
 

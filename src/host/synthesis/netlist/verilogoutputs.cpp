@@ -25,11 +25,21 @@ QByteArray macroOf(const QByteArray &module)
     return macro;
 }
 
+QByteArray verilogValue(const ParameterValue &value)
+{
+    if (!value.bits.isEmpty())
+        return QByteArray::number(value.bits.size()) + "'b" + value.bits;
+    QByteArray text = value.text;
+    text.replace('\\', "\\\\").replace('"', "\\\"").replace('\n', "\\n").replace('\t', "\\t");
+    return '"' + text + '"';
+}
+
 QByteArray declaration(const BlackBox &box)
 {
     QByteArrayList parameters;
     for (const BlackBox::Parameter &parameter : box.parameters)
-        parameters << "    parameter " + verilogName(parameter.name) + " = " + parameter.value;
+        parameters << "    parameter " + verilogName(parameter.name) + " = " +
+                          (parameter.isDeclared ? verilogValue(parameter.value) : "0");
     QByteArrayList ports;
     for (const Port &port : box.ports) {
         const QByteArray range = port.range();

@@ -1,5 +1,7 @@
 #include "vhdlnames.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -202,6 +204,30 @@ QByteArray VhdlNames::addNumbered(const QByteArray &stem)
         if (take(name))
             return name;
     }
+}
+
+const QByteArrayList &vhdlPredefined()
+{
+    static const QByteArrayList names{
+        "ieee",    "std",    "work",      "std_logic_1164", "std_logic", "std_logic_vector",
+        "integer", "string", "character", "netlist"};
+    return names;
+}
+
+QByteArrayList vhdlPortNames(const QVector<Port> &ports)
+{
+    QHash<QByteArray, int> alike;
+    for (const Port &port : ports)
+        ++alike[port.name.toLower()];
+    QByteArrayList names;
+    VhdlNames region;
+    region.reserve(vhdlPredefined());
+    for (const Port &port : ports) {
+        if (alike.value(port.name.toLower()) > 1)
+            region.reserve({port.name});
+        names << region.add(port.name);
+    }
+    return names;
 }
 
 } // namespace Synthesis

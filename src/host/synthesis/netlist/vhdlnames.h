@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QByteArray>
+#include "design.h"
+
+#include <QByteArrayList>
 #include <QSet>
 
 namespace Synthesis
@@ -29,5 +31,12 @@ private:
     QSet<QByteArray> m_taken; // basic identifiers in lower case
     int m_number = 0;
 };
+
+// What our texts refer to without declaring it.
+const QByteArrayList &vhdlPredefined();
+
+// The names of a module's ports: each in its own form, two that only letter case tells apart as
+// extended ones.
+QByteArrayList vhdlPortNames(const QVector<Port> &ports);
 
 } // namespace Synthesis

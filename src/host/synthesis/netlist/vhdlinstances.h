@@ -1,0 +1,17 @@
+#pragma once
+
+#include "vhdlgenerics.h"
+#include "vhdlsignals.h"
+
+namespace Synthesis
+{
+
+// The ports of everything that the cells are instances of: those of the black boxes, and of
+// primitives with the widths of their connections.
+CellPorts cellPorts(const QVector<Design::Cell> &cells, const QVector<BlackBox> &blackBoxes);
+
+// The instances of an architecture. Adds signals for what is connected to a constant.
+QByteArray vhdlInstances(const QVector<Design::Cell> &cells, const CellPorts &ports,
+                         const VhdlGenerics &generics, VhdlSignals *nets);
+
+} // namespace Synthesis
