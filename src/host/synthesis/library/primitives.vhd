@@ -5,6 +5,8 @@
 --
 -- Clocked primitives: NEG = '1' turns the clock's active edge into the falling one; INIT is the value at
 -- power-up, 'X' where the design gives none. The tables give 'X' only where the 'X' of an input matters.
+--
+-- Made from primitives.vhd.in by makeprimitives.awk; a change belongs there.
 
 -- What the models have in common.
 library ieee;
