@@ -32,6 +32,9 @@ private Q_SLOTS:
     void openConnectionsOfPrimitives();
 
     void messagesAreToldOnce();
+    void repeatedMessagesAreCounted_data();
+    void repeatedMessagesAreCounted();
+    void messagesBeyondTheLimitAreCounted();
     void aMessageInSeveralLinesIsToldOnce();
     void manyMessagesStayBounded();
     void anErrorOfNoToolHasItsPlace_data();
@@ -215,6 +218,73 @@ void tst_ToolFiles::messagesAreToldOnce()
         QCOMPARE(message.count, 3);
     QCOMPARE(log.errors(), QStringList{QStringLiteral("a.v:4: odd")});
     QCOMPARE(log.text().count('\n'), 12);
+}
+
+void tst_ToolFiles::repeatedMessagesAreCounted_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<QStringList>("counted"); // "3 text"
+    const auto row = [](const char *name, const char *lines, const char *counted) {
+        QTest::newRow(name) << QString::fromUtf8(lines).split(u'\n')
+                            << QString::fromUtf8(counted).split(u'\n');
+    };
+    row("once", "Warning: odd", "1 odd");
+    row("a warning", "Warning: odd\nWarning: odd", "2 odd");
+    row("an error with its place", "a.v:3: ERROR: odd\na.v:3: ERROR: odd\na.v:3: ERROR: odd",
+        "3 a.v:3: odd");
+    row("with others between",
+        "Warning: odd\nWarning: even\nplain\nWarning: odd\nERROR: odd\nWarning: odd",
+        "3 odd\n1 even\n1 odd");
+    row("at other places", "a.v:3: Warning: odd\na.v:4: Warning: odd\nb.v:3: Warning: odd",
+        "1 a.v:3: odd\n1 a.v:4: odd\n1 b.v:3: odd");
+    row("a place behind the text",
+        "Warning: odd (a.v:3.1-3.4)\nWarning: odd (a.v:3.7-3.9)\na.v:3: Warning: odd",
+        "3 a.v:3: odd");
+    row("names that read alike", "Warning: wire `\\a' odd\nWarning: wire `a' odd",
+        "2 wire \"a\" odd");
+    row("of the project tool",
+        "@E: CS101 :\"a.v\":3:1:3:4|odd\n@E: CS101 :\"a.v\":3:7|odd\n@W: CL1 :odd\n@W: "
+        "CL2 :odd",
+        "2 a.v:3: odd\n2 odd");
+    row("of both tools", "@W: CL1 :\"a.v\":3:1|odd\na.v:3: Warning: odd", "2 a.v:3: odd");
+    row("in several lines", "Warning: these:\n    one\nWarning: these:\n    one\nend",
+        "2 these: one");
+    row("in several lines that differ",
+        "Warning: these:\n    one\nWarning: these:\n    two\nWarning: these:\n    one\nend",
+        "2 these: one\n1 these: two");
+    row("in one line and in several", "Warning: these: one\nWarning: these:\n    one\nend",
+        "2 these: one");
+}
+
+void tst_ToolFiles::repeatedMessagesAreCounted()
+{
+    QFETCH(QStringList, lines);
+    ToolLog log;
+    for (const QString &line : qAsConst(lines))
+        log.add(line, m_sources);
+    QStringList counted;
+    for (const Message &message : log.messages())
+        counted << QString::number(message.count) + u' ' + message.toString();
+    QTEST(counted, "counted");
+}
+
+void tst_ToolFiles::messagesBeyondTheLimitAreCounted()
+{
+    ToolLog log;
+    for (int i = 0; i < 10003; ++i)
+        log.add(QStringLiteral("a.v:%1: ERROR: odd").arg(i + 1), m_sources);
+    // One that is told, and one that is not.
+    log.add(QStringLiteral("a.v:1: ERROR: odd"), m_sources);
+    log.add(QStringLiteral("a.v:10002: ERROR: odd"), m_sources);
+    log.addError(QStringLiteral("a.v:10000: odd"));
+    log.addError(QStringLiteral("gone"));
+    QCOMPARE(log.messages().size(), 10001);
+    QCOMPARE(log.messages().at(0).count, 2);
+    QCOMPARE(log.messages().at(1).count, 1);
+    QCOMPARE(log.messages().at(9999).count, 2);
+    QCOMPARE(log.messages().at(10000).text,
+             QStringLiteral("There are more errors; the log has them."));
+    QCOMPARE(log.messages().at(10000).count, 5);
 }
 
 void tst_ToolFiles::aMessageInSeveralLinesIsToldOnce()
