@@ -44,12 +44,12 @@ run(${CMAKE_COMMAND} --build ${build})
 run(${CMAKE_COMMAND} --install ${build} --prefix ${prefix})
 
 set(share ${prefix}/share/tarvo)
-expect(${share}/lamp lamp.ipspec help/lamp.html registers/lamp.json data/bare/lamp.v data/bright/lamp.v
+expect(${share}/lamp lamp.ipspec help/lamp.html registers/lamp.json data/folder/lamp.v data/bright/lamp.v
     data/bright/bulb_bright.v data/bright/fan.v data/dim/lamp.v data/dim/bulb_dim.v data/dim/switches.v)
 foreach(name lamp.ipspec help/lamp.html registers/lamp.json)
     expect_same(${share}/lamp/${name} ${HERE}/lamp/${name})
 endforeach()
-foreach(name bright/lamp.v dim/lamp.v bare/lamp.v bright/bulb_bright.v bright/fan.v dim/bulb_dim.v)
+foreach(name bright/lamp.v dim/lamp.v folder/lamp.v bright/bulb_bright.v bright/fan.v dim/bulb_dim.v)
     cmake_path(GET name FILENAME module)
     expect_same(${share}/lamp/data/${name} ${HERE}/lamp/rtl/${module})
 endforeach()
