@@ -117,67 +117,6 @@ constexpr MacInterface macInterfaces[] = {
 };
 constexpr QLatin1String macModuleName = "module_name mac"_l1;
 
-struct FamilyRow {
-    QLatin1String prefix;
-    QLatin1String family;
-};
-
-// The first matching row wins; the last matches every device.
-constexpr FamilyRow families[] = {
-    {"TV5K"_l1, "\"5K_Series\""_l1},
-    {"TV3K"_l1, "\"3K_Series\""_l1},
-    {QLatin1String(), "\"1L/2K_Series\""_l1},
-};
-
-struct Ddr3Row {
-    DeviceTest devices;
-    QLatin1String variant; // may be empty
-};
-
-// The first matching row wins; a device that no row names gets an empty file.
-constexpr Ddr3Row ddr3Rows[] = {
-    {{QLatin1String(),
-      "TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
-      "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"_l1},
-     "VIRLA_138K"_l1},
-    {{QLatin1String(), "TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A/TV5KT-60ES/"
-                       "TV5KT-60B/TV5K-60B"_l1},
-     "VIRLA_25K"_l1},
-    {{"TV2K"_l1, QLatin1String()}, "VIRLA_TV2K"_l1},
-    {{"TV3K"_l1, "TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV5KRT-15A/TV5KRT-15B/"
-                 "TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"_l1},
-     QLatin1String()},
-};
-
-struct PsramRow {
-    QLatin1String device;
-    QLatin1String packages;
-    bool ebrBased;
-    bool clockReverse;
-    bool singleEndedClocks;
-};
-
-// The first matching row wins. That single-ended clocks come without clock_reverse, and the
-// catch-all row without EBR_BASED, is intended.
-constexpr PsramRow psramRows[] = {
-    {"TV2KR-18C"_l1, "QFN88P/eLQFP144P"_l1, true, true, false},
-    {"TV2KR-18C"_l1, "QFN88PF/eLQFP144PF"_l1, true, false, true},
-    {"TV2KLR-18C"_l1, "QFN88"_l1, true, false, false},
-};
-constexpr PsramRow psramDisabled = {QLatin1String(), QLatin1String(), true, true, false};
-constexpr PsramRow psramOtherwise = {QLatin1String(), QLatin1String(), false, true, false};
-
-const PsramRow &psramRow(const OptionMap &options, const DEV::DeviceArg &device)
-{
-    if (!isOn(options, Key::enablePsram))
-        return psramDisabled;
-    for (const PsramRow &row : psramRows) {
-        if (device.device() == row.device && isInDeviceList(device.package(), row.packages))
-            return row;
-    }
-    return psramOtherwise;
-}
-
 void appendDebugPort(const OptionMap &options, QStringList &coreLines, QStringList &busLines)
 {
     // Compared as variants, so that the conversion rules of QVariant hold for a value of another
@@ -267,26 +206,29 @@ void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
 
 void appendDdr3Variant(const QString &device, QStringList &lines)
 {
-    for (const Ddr3Row &row : ddr3Rows) {
-        if (!row.devices.matches(device))
-            continue;
-        lines.append(define("DDR3_PHY_MC"_l1));
-        lines.append(define("EBR_BASED"_l1));
-        if (row.variant.size() > 0)
-            lines.append(define(row.variant));
+    const std::optional<QLatin1String> variant = ddr3Variant(device);
+    if (!variant)
         return;
-    }
+    lines.append(define("DDR3_PHY_MC"_l1));
+    lines.append(define("EBR_BASED"_l1));
+    if (variant->size() > 0)
+        lines.append(define(*variant));
 }
 
-void appendPsramVariant(const PsramRow &row, QStringList &lines)
+void appendPsramVariant(const OptionMap &options, const DEV::DeviceArg &device, QStringList &lines)
 {
-    if (row.ebrBased)
+    constexpr PsramVariant usual = {QLatin1String(), true, false};
+    const bool on = isOn(options, Key::enablePsram);
+    const PsramVariant *own = on ? psramVariant(device) : nullptr;
+    const PsramVariant &variant = own ? *own : usual;
+    // That a device without a variant has none is intended.
+    if (own || !on)
         lines.append(define("EBR_BASED"_l1));
     lines.append(define("module_name_psram PSRAM_Memory_Interface_Top"_l1));
-    if (row.clockReverse)
+    if (variant.clockReverse)
         lines.append(define("clock_reverse"_l1));
-    lines.append(define(row.singleEndedClocks ? "CK0_SINGLE"_l1 : "CK0_DIFF"_l1));
-    lines.append(define(row.singleEndedClocks ? "CK1_SINGLE"_l1 : "CK1_DIFF"_l1));
+    lines.append(define(variant.singleEndedClocks ? "CK0_SINGLE"_l1 : "CK0_DIFF"_l1));
+    lines.append(define(variant.singleEndedClocks ? "CK1_SINGLE"_l1 : "CK1_DIFF"_l1));
 }
 
 } // namespace
@@ -327,18 +269,14 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
         defines.paramLines.append(parameter(canDepth, QStringLiteral("256")));
     }
     appendEthernet(options, defines);
-    for (const FamilyRow &row : families) {
-        if (row.prefix.size() == 0 || name.startsWith(row.prefix)) {
-            defines.macParamLines.append(parameter("DEVICE"_l1, row.family));
-            break;
-        }
-    }
+    const DeviceFamily &family = deviceFamily(name);
+    defines.macParamLines.append(parameter("DEVICE"_l1, family.macDevice));
     appendSwitch(options, spiFlashSwitch, defines.busLines);
     appendSwitch(options, psramSwitch, defines.busLines);
     if (isOn(options, Key::enableDdr3)) {
         defines.busLines.append(define("TARVO_DDR3_SUPPORT"_l1));
-        if (isTv2k(name))
-            defines.busLines.append(define("VIRLA_TV2K"_l1));
+        if (family.ddr3BusMacro.size() > 0)
+            defines.busLines.append(define(family.ddr3BusMacro));
     }
     appendExtensionPorts(options, Key::enableAhbMaster, Key::ahbMasterCount, "AHB"_l1,
                          defines.busLines);
@@ -352,7 +290,7 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
     if (anyInternal)
         defines.busLines.append(define("TARVO_APBINT_SUPPORT"_l1));
     appendDdr3Variant(name, defines.ddr3Lines);
-    appendPsramVariant(psramRow(options, device), defines.psramLines);
+    appendPsramVariant(options, device, defines.psramLines);
 }
 
 QVector<IncludeFile> buildIncludeFiles(const OptionMap &options, const DEV::DeviceArg &device)

@@ -16,24 +16,6 @@ namespace TARVOORIXM1
 namespace
 {
 
-// Which data files a device leaves out.
-struct ExclusionRow {
-    DeviceTest devices;
-    QLatin1String excluded; // "/"-separated file names
-};
-
-// The first matching row wins; the catch-all stands behind each table.
-constexpr ExclusionRow withoutDebugRows[] = {
-    {{"TV5K"_l1, QLatin1String()}, "itcm.v/dtcm.v/itcm_3k.v/dtcm_3k.v"_l1},
-    {{"TV3K"_l1, QLatin1String()}, "itcm.v/dtcm.v/itcm_5k.v/dtcm_5k.v"_l1},
-};
-constexpr QLatin1String withoutDebugOtherwise = "itcm_3k.v/dtcm_3k.v/itcm_5k.v/dtcm_5k.v"_l1;
-
-constexpr ExclusionRow withDebugRows[] = {
-    {{QLatin1String(), "TV2K-55C/TV2K-18C/TV2KL-55C/TV2KR-18C/TV2KLR-18C"_l1}, "itcmdbg.v"_l1},
-};
-constexpr QLatin1String withDebugOtherwise = "itcmdbg_2kc.v"_l1;
-
 // Included by other sources and never compiled by themselves.
 constexpr QLatin1String supportNames[] = {
     "tvmc_local_param.v"_l1,   "tvmc_param.v"_l1,           "ddr3_name.v"_l1,
@@ -46,17 +28,6 @@ constexpr QLatin1String compiledIncludeFiles[] = {
     IncludeFileName::core,     IncludeFileName::bus,       IncludeFileName::param,
     IncludeFileName::macParam, IncludeFileName::macDefine, IncludeFileName::ddr3,
 };
-
-template <size_t N>
-QLatin1String excludedFor(const QString &device, const ExclusionRow (&rows)[N],
-                          QLatin1String otherwise)
-{
-    for (const ExclusionRow &row : rows) {
-        if (row.devices.matches(device))
-            return row.excluded;
-    }
-    return otherwise;
-}
 
 bool isSupportFile(const QString &name)
 {
@@ -71,9 +42,7 @@ QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo
 {
     const bool debug = options.value(Key::enableDebug, true).toBool();
     const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
-    const QLatin1String excluded =
-        debug ? excludedFor(device, withDebugRows, withDebugOtherwise)
-              : excludedFor(device, withoutDebugRows, withoutDebugOtherwise);
+    const QLatin1String excluded = excludedSources(device, debug);
     QStringList sourceFiles;
     // An empty name would list the current folder.
     const QStringList names =
