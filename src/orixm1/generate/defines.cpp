@@ -2,7 +2,9 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "rules/devicerules.h"
+#include "rules/dialogdefaults.h"
 
 #include <QDir>
 
@@ -13,11 +15,6 @@ namespace TARVOORIXM1
 
 namespace
 {
-
-bool isOn(const OptionMap &options, QLatin1String key, bool byDefault = false)
-{
-    return options.value(key, byDefault).toBool();
-}
 
 QString define(QLatin1String name)
 {
@@ -36,7 +33,7 @@ QString defineTcmSize(QLatin1String name, QLatin1String code)
 
 QLatin1String tcmSizeCodeOf(const OptionMap &options, QLatin1String key, const QString &device)
 {
-    return tcmSizeCode(options.value(key, defaultTcmSizeIndex(device)).toInt());
+    return tcmSizeCode(generatedValue(options, key, device).toInt());
 }
 
 QString parameter(QLatin1String name, const QString &value)
@@ -96,7 +93,7 @@ bool appendExtensionPorts(const OptionMap &options, QLatin1String keyPrefix, int
 {
     bool any = false;
     for (int port = 1; port <= count; ++port) {
-        if (!options.value(Key::extensionPortKey(keyPrefix, port), false).toBool())
+        if (!isOn(options, Key::extensionPortKey(keyPrefix, port)))
             continue;
         any = true;
         lines.append("`define TARVO_"_l1 + bus + QString::number(port) + "_SUPPORT"_l1);
@@ -121,7 +118,7 @@ void appendDebugPort(const OptionMap &options, QStringList &coreLines, QStringLi
 {
     // Compared as variants, so that the conversion rules of QVariant hold for a value of another
     // type.
-    const QVariant port = options.value(Key::debugPortSelect, QString(Value::jtagAndSerialWire));
+    const QVariant port = valueOf(options, Key::debugPortSelect);
     const bool both = port == QVariant(QString(Value::jtagAndSerialWire));
     const bool jtag = both || port == QVariant(QString(Value::jtag));
     const bool serialWire = both || port == QVariant(QString(Value::serialWire));
@@ -138,13 +135,12 @@ void appendInstructionMemory(const OptionMap &options, const QString &device,
     constexpr QLatin1String lowerAlias = "CM1_ITCM_LA_EN"_l1;
     constexpr QLatin1String upperAlias = "CM1_ITCM_UA_EN"_l1;
     constexpr QLatin1String size = "CM1_ITCMSIZE"_l1;
-    if (isOn(options, Key::internalInstructionMemory, true)) {
+    if (isOn(options, Key::internalInstructionMemory)) {
         coreLines.append(defineFlag(lowerAlias, true));
         coreLines.append(defineFlag(upperAlias, false));
         coreLines.append(defineTcmSize(size, tcmSizeCodeOf(options, Key::itcmSize, device)));
         if (isOn(options, Key::initializeItcm)) {
-            const QString path =
-                options.value(Key::itcmInitializationAbsolutePath, QString()).toString();
+            const QString path = textOf(options, Key::itcmInitializationAbsolutePath);
             coreLines.append(define("CM1_ITCM_INIT_EN"_l1));
             coreLines.append("`define CM1_ITCM_INIT_PATH \""_l1 + QDir::cleanPath(path) + u'"');
         }
@@ -160,7 +156,7 @@ void appendDataMemory(const OptionMap &options, const QString &device, QStringLi
                       QStringList &busLines)
 {
     constexpr QLatin1String size = "CM1_DTCMSIZE"_l1;
-    if (isOn(options, Key::internalDataMemory, true)) {
+    if (isOn(options, Key::internalDataMemory)) {
         coreLines.append(defineTcmSize(size, tcmSizeCodeOf(options, Key::dtcmSize, device)));
     } else if (isOn(options, Key::externalDataMemory)) {
         busLines.append(define("CM1_EXTERNAL_SRAM_EN"_l1));
@@ -181,8 +177,7 @@ void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
         defines.macParamLines.append(parameter(divider, QStringLiteral("20")));
     } else {
         defines.busLines.append(define("TARVO_INTERNET_SUPPORT"_l1));
-        const QString interface =
-            options.value(Key::ethernetInterface, QString(Value::rgmii)).toString();
+        const QString interface = textOf(options, Key::ethernetInterface);
         for (const MacInterface &row : macInterfaces) {
             if (interface != row.name)
                 continue;
@@ -195,10 +190,10 @@ void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
             defines.macDefineLines.append(define(macModuleName));
         }
         if (interface == Value::rgmii) {
-            const int value = options.value(Key::ethernetInputDelay, 0).toInt();
+            const int value = numberOf(options, Key::ethernetInputDelay);
             defines.macParamLines.append(parameter(delay, QString::number(value)));
         }
-        const int value = options.value(Key::ethernetClockDivider, 0).toInt();
+        const int value = numberOf(options, Key::ethernetClockDivider);
         defines.macParamLines.append(parameter(divider, QString::number(value)));
     }
     defines.macDefineLines.append(QStringLiteral("`endif"));
@@ -241,14 +236,14 @@ QLatin1String tcmSizeCode(int index)
 void buildCoreDefines(const OptionMap &options, const QString &device, QStringList &coreLines,
                       QStringList &busLines)
 {
-    const int interrupts = options.value(Key::numberOfInterrupts, 32).toInt();
+    const int interrupts = numberOf(options, Key::numberOfInterrupts);
     coreLines.append("`define CM1_NUM_IRQ "_l1 + QString::number(interrupts));
-    coreLines.append(defineFlag("CM1_OS"_l1, isOn(options, Key::osExtension, true)));
+    coreLines.append(defineFlag("CM1_OS"_l1, isOn(options, Key::osExtension)));
     coreLines.append(defineFlag("CM1_SMALL_MUL"_l1, isOn(options, Key::smallMultiplier)));
     coreLines.append(defineFlag("CM1_BE8"_l1, isOn(options, Key::bigEndian)));
     if (isOn(options, Key::externalInterrupts))
         busLines.append(define("TARVO_EXTINT_SUPPORT"_l1));
-    if (isOn(options, Key::enableDebug, true))
+    if (isOn(options, Key::enableDebug))
         appendDebugPort(options, coreLines, busLines);
     appendInstructionMemory(options, device, coreLines, busLines);
     appendDataMemory(options, device, coreLines, busLines);
@@ -263,7 +258,7 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
     appendSwitch(options, gpioSwitch, defines.busLines);
     if (isOn(options, Key::enableCan)) {
         defines.busLines.append(define("TARVO_CAN_SUPPORT"_l1));
-        const QString depth = options.value(Key::canBufferDepth, QString()).toString();
+        const QString depth = textOf(options, Key::canBufferDepth);
         defines.paramLines.append(parameter(canDepth, depth));
     } else {
         defines.paramLines.append(parameter(canDepth, QStringLiteral("256")));

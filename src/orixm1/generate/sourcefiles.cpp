@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "defines.h"
 #include "rules/devicerules.h"
 
@@ -40,7 +41,7 @@ bool isSupportFile(const QString &name)
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir)
 {
-    const bool debug = options.value(Key::enableDebug, true).toBool();
+    const bool debug = isOn(options, Key::enableDebug);
     const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
     const QLatin1String excluded = excludedSources(device, debug);
     QStringList sourceFiles;
