@@ -33,9 +33,8 @@ enum class BlockId {
 
 // A bool option that a block's dialog shows as a check box.
 struct SwitchRow {
-    QLatin1String name;     // the option key, or what stands before the port's number in it
-    bool byDefault = false; // what the dialog takes for an absent key; generation may take another
-    int port = 0;           // of an extension bus; 0: none
+    QLatin1String name; // the option key, or what stands before the port's number in it
+    int port = 0;       // of an extension bus; 0: none
 
     QString key() const;
 };
