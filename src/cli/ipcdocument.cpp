@@ -5,6 +5,7 @@
 
 #include <config/ipcfile.h>
 #include <config/optionkeys.h>
+#include <config/optionvalue.h>
 #include <utils/boundedfile.h>
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
@@ -118,8 +119,8 @@ GenerationInput generationInput(const IpcDocument &document, const QVariantMap &
     return {document.options,
             ipInfo,
             document.device,
-            effectiveTool(document.options.value(Key::synthesisTool)),
-            effectiveLanguage(document.options.value(Key::lang)),
+            effectiveTool(valueOf(document.options, Key::synthesisTool)),
+            effectiveLanguage(valueOf(document.options, Key::lang)),
             outputFolder(document, outDir)};
 }
 

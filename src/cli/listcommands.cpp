@@ -5,7 +5,6 @@
 #include "output.h"
 
 #include <config/optiontable.h>
-#include <rules/dialogdefaults.h>
 
 namespace Cli
 {
@@ -28,13 +27,6 @@ QString defaultText(const Option &option)
     return text.isEmpty() ? QStringLiteral("\"\"") : text;
 }
 
-// Whether the option's dialog takes something else for an absent key than generation does.
-bool differsInDialog(const Option &option)
-{
-    return option.defaultValue.isValid() &&
-           dialogDefault(option.key, QString()) != option.defaultValue;
-}
-
 } // namespace
 
 int runOptions(bool json)
@@ -48,9 +40,9 @@ int runOptions(bool json)
                 {QStringLiteral("default"), QJsonValue::fromVariant(option.defaultValue)},
                 {QStringLiteral("option"), option.isOption},
                 {QStringLiteral("description"), option.description}};
-            if (differsInDialog(option))
+            if (option.dialogDefault.isValid())
                 object.insert(QStringLiteral("dialogDefault"),
-                              QJsonValue::fromVariant(dialogDefault(option.key, QString())));
+                              QJsonValue::fromVariant(option.dialogDefault));
             if (!option.choices.isEmpty())
                 object.insert(QStringLiteral("choices"),
                               QJsonArray::fromStringList(option.choices));
@@ -78,9 +70,9 @@ int runOptions(bool json)
             QLatin1String("  ") + padded(defaultText(option), defaultWidth) + QLatin1String("  ") +
             option.description +
             (domain.isEmpty() ? QString() : QString(QLatin1String(" (") + domain + u')')) +
-            (differsInDialog(option) ? QString(QLatin1String("; its dialog starts with ") +
-                                               dialogDefault(option.key, QString()).toString())
-                                     : QString()));
+            (option.dialogDefault.isValid() ? QString(QLatin1String("; its dialog starts with ") +
+                                                      option.dialogDefault.toString())
+                                            : QString()));
     }
     return Done;
 }

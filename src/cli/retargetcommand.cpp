@@ -6,6 +6,7 @@
 
 #include <config/ipcfile.h>
 #include <config/optionkeys.h>
+#include <config/optionvalue.h>
 #include <rules/itcmpath.h>
 #include <rules/retarget.h>
 #include <utils/fileutils.h>
@@ -36,7 +37,7 @@ QJsonArray jsonOf(const Retargeted &moved, const DEV::DeviceArg &device)
 // A folder that is named relative to the file stays the same one when the file goes elsewhere.
 void keepInitialisationFolder(OptionMap &options, const QString &from, const QString &to)
 {
-    const QString path = options.value(Key::itcmInitializationPath).toString();
+    const QString path = textOf(options, Key::itcmInitializationPath);
     if (!path.isEmpty() && from != to)
         options.insert(Key::itcmInitializationPath, QDir::cleanPath(absoluteItcmPath(path, from)));
 }

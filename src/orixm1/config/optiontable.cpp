@@ -17,6 +17,21 @@ struct BoolRow {
     const char *description;
 };
 
+// Where a dialog takes something else for an absent key than generation.
+struct DialogRow {
+    QLatin1String key;
+    QLatin1String value;
+    QLatin1String neededSwitch;
+};
+
+constexpr DialogRow dialogRows[] = {
+    {Key::enableGpioIo, "true"_l1, Key::enableGpio},
+    {Key::canBufferDepth, "256"_l1, Key::enableCan},
+    {Key::ethernetInputDelay, "100"_l1, Key::enableEthernet},
+    {Key::ethernetClockDivider, "20"_l1, Key::enableEthernet},
+    {Key::enableI2cIo, "true"_l1, Key::enableI2c},
+};
+
 // Rows of the table up to the memories, and from them on; other types are added between.
 constexpr BoolRow coreSwitches[] = {
     {Key::osExtension, true, "Operating system extension: SysTick and PendSV"},
@@ -181,6 +196,15 @@ QVector<Option> buildTable()
                                  "Language of the outputs: 0 Verilog, 1 VHDL")));
     table.append(bookKeeping(openOption(Key::ipDeviceId, QVariant(), "Id of the target device")));
     table.append(bookKeeping(openOption(Key::ipDevice, QVariant(), "Name of the target device")));
+
+    for (const DialogRow &row : dialogRows) {
+        for (Option &option : table) {
+            if (option.key != row.key)
+                continue;
+            option.dialogDefault = optionValueFromText(option, row.value);
+            option.neededSwitch = row.neededSwitch;
+        }
+    }
     return table;
 }
 

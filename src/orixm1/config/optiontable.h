@@ -19,6 +19,10 @@ struct Option {
     // What generation takes when the key is absent; invalid for the TCM sizes (the device decides)
     // and for keys that generation does not read.
     QVariant defaultValue;
+    // What the option's dialog takes instead, where it differs; both are fixed. Counts only while
+    // the switch `neededSwitch` is on. Not set elsewhere.
+    QVariant dialogDefault;
+    QString neededSwitch;
     QStringList choices; // texts of a closed domain; empty where the domain is a range or open
     int minimum = 0;     // of an Int without choices; no range if minimum > maximum
     int maximum = -1;

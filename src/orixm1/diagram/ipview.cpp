@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "diagrampicture.h"
 #include "diagramtable.h"
 #include "dialogs/candlg.h"
@@ -350,11 +351,11 @@ void IPView::onAPB2Extension()
 void IPView::updateView()
 {
     for (auto it = m_blocks.cbegin(); it != m_blocks.cend(); ++it)
-        it.value()->onConfigured(m_options->value(it.key()).toBool());
+        it.value()->onConfigured(isOn(*m_options, it.key()));
     for (const PortBlock &entry : qAsConst(m_portBlocks)) {
         bool any = false;
         for (int port = 1; port <= entry.ports && !any; ++port)
-            any = m_options->value(Key::extensionPortKey(entry.keyPrefix, port)).toBool();
+            any = isOn(*m_options, Key::extensionPortKey(entry.keyPrefix, port));
         entry.block->onConfigured(any);
     }
     announceFocus();

@@ -6,6 +6,7 @@
 #include "ui_memory.h"
 
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "messagebox.h"
 #include "rules/devicerules.h"
 #include "rules/dialogdefaults.h"
@@ -111,13 +112,13 @@ CortexM1::~CortexM1() = default;
 
 QString CortexM1::targetDevice() const
 {
-    const QString id = m_options->value(Key::ipDeviceId).toString();
+    const QString id = textOf(*m_options, Key::ipDeviceId);
     return Core::IdeCore::deviceDataBase()->findDevice(id).device();
 }
 
 QString CortexM1::createInFolder() const
 {
-    return m_options->value(Key::createInPath).toString();
+    return textOf(*m_options, Key::createInPath);
 }
 
 void CortexM1::connectWidgets()
@@ -181,7 +182,7 @@ void CortexM1::loadOptions()
     const QString device = targetDevice();
     const bool small = isSmallDevice(device);
     const auto stored = [this, &device](QLatin1String key) {
-        return m_options->value(key, dialogDefault(key, device));
+        return dialogValue(*m_options, key, device);
     };
     const auto isOn = [&stored](QLatin1String key) { return stored(key).toBool(); };
 
@@ -223,7 +224,7 @@ void CortexM1::loadOptions()
     memory->internalDataBtn->setChecked(isOn(Key::internalDataMemory));
     memory->externalDataBtn->setChecked(isOn(Key::externalDataMemory));
 
-    const QString path = m_options->value(Key::itcmInitializationPath).toString();
+    const QString path = textOf(*m_options, Key::itcmInitializationPath);
     if (!path.isEmpty())
         memory->lineEditItcmInitPath->setText(
             QDir::toNativeSeparators(absoluteItcmPath(path, createInFolder())));

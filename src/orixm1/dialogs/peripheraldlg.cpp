@@ -1,6 +1,7 @@
 #include "peripheraldlg.h"
 
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "rules/dialogdefaults.h"
 #include "rules/pins.h"
 #include "rules/pintables.h"
@@ -31,10 +32,8 @@ void PeripheralDlg::start(const QVector<QCheckBox *> &switches, const char *refr
         for (const QCheckBox *box : switches)
             connect(box, refreshSignal, this, SLOT(refreshFigure()));
     }
-    for (int i = 0; i < switches.size(); ++i) {
-        const SwitchRow &row = m_block.switches[i];
-        switches.at(i)->setChecked(m_options->value(row.key(), row.byDefault).toBool());
-    }
+    for (int i = 0; i < switches.size(); ++i)
+        switches.at(i)->setChecked(stored(m_block.switches[i].key()).toBool());
     loadOptions();
     refreshFigure();
 }
@@ -59,14 +58,14 @@ void PeripheralDlg::refreshFigure()
     uiSetFigurePins(blockPins(m_block, state));
 }
 
-QVariant PeripheralDlg::stored(QLatin1String key) const
+QVariant PeripheralDlg::stored(const QString &key) const
 {
-    return m_options->value(key, dialogDefault(key, targetDevice()));
+    return dialogValue(*m_options, key, targetDevice());
 }
 
 QString PeripheralDlg::targetDevice() const
 {
-    return m_options->value(Key::ipDevice).toString();
+    return textOf(*m_options, Key::ipDevice);
 }
 
 QSize PeripheralDlg::sizeHint() const

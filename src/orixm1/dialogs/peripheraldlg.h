@@ -67,7 +67,7 @@ protected:
     QCheckBox *switchBox(int index) const { return m_switches.at(index); }
     OptionMap &options() const { return *m_options; }
     // The option's value, or what the dialogs take for an absent one.
-    QVariant stored(QLatin1String key) const;
+    QVariant stored(const QString &key) const;
     QString targetDevice() const;
 
 private:

@@ -2,7 +2,9 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "rules/devicerules.h"
+#include "rules/dialogdefaults.h"
 
 #include <QDir>
 
@@ -13,11 +15,6 @@ namespace TARVOORIXM1
 
 namespace
 {
-
-bool isOn(const OptionMap &options, QLatin1String key, bool byDefault = false)
-{
-    return options.value(key, byDefault).toBool();
-}
 
 QString define(QLatin1String name)
 {
@@ -36,7 +33,7 @@ QString defineTcmSize(QLatin1String name, QLatin1String code)
 
 QLatin1String tcmSizeCodeOf(const OptionMap &options, QLatin1String key, const QString &device)
 {
-    return tcmSizeCode(options.value(key, defaultTcmSizeIndex(device)).toInt());
+    return tcmSizeCode(generatedValue(options, key, device).toInt());
 }
 
 QString parameter(QLatin1String name, const QString &value)
@@ -96,7 +93,7 @@ bool appendExtensionPorts(const OptionMap &options, QLatin1String keyPrefix, int
 {
     bool any = false;
     for (int port = 1; port <= count; ++port) {
-        if (!options.value(Key::extensionPortKey(keyPrefix, port), false).toBool())
+        if (!isOn(options, Key::extensionPortKey(keyPrefix, port)))
             continue;
         any = true;
         lines.append("`define TARVO_"_l1 + bus + QString::number(port) + "_SUPPORT"_l1);
@@ -117,72 +114,11 @@ constexpr MacInterface macInterfaces[] = {
 };
 constexpr QLatin1String macModuleName = "module_name mac"_l1;
 
-struct FamilyRow {
-    QLatin1String prefix;
-    QLatin1String family;
-};
-
-// The first matching row wins; the last matches every device.
-constexpr FamilyRow families[] = {
-    {"TV5K"_l1, "\"5K_Series\""_l1},
-    {"TV3K"_l1, "\"3K_Series\""_l1},
-    {QLatin1String(), "\"1L/2K_Series\""_l1},
-};
-
-struct Ddr3Row {
-    DeviceTest devices;
-    QLatin1String variant; // may be empty
-};
-
-// The first matching row wins; a device that no row names gets an empty file.
-constexpr Ddr3Row ddr3Rows[] = {
-    {{QLatin1String(),
-      "TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
-      "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"_l1},
-     "VIRLA_138K"_l1},
-    {{QLatin1String(), "TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A/TV5KT-60ES/"
-                       "TV5KT-60B/TV5K-60B"_l1},
-     "VIRLA_25K"_l1},
-    {{"TV2K"_l1, QLatin1String()}, "VIRLA_TV2K"_l1},
-    {{"TV3K"_l1, "TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV5KRT-15A/TV5KRT-15B/"
-                 "TV5KT-15B/TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"_l1},
-     QLatin1String()},
-};
-
-struct PsramRow {
-    QLatin1String device;
-    QLatin1String packages;
-    bool ebrBased;
-    bool clockReverse;
-    bool singleEndedClocks;
-};
-
-// The first matching row wins. That single-ended clocks come without clock_reverse, and the
-// catch-all row without EBR_BASED, is intended.
-constexpr PsramRow psramRows[] = {
-    {"TV2KR-18C"_l1, "QFN88P/eLQFP144P"_l1, true, true, false},
-    {"TV2KR-18C"_l1, "QFN88PF/eLQFP144PF"_l1, true, false, true},
-    {"TV2KLR-18C"_l1, "QFN88"_l1, true, false, false},
-};
-constexpr PsramRow psramDisabled = {QLatin1String(), QLatin1String(), true, true, false};
-constexpr PsramRow psramOtherwise = {QLatin1String(), QLatin1String(), false, true, false};
-
-const PsramRow &psramRow(const OptionMap &options, const DEV::DeviceArg &device)
-{
-    if (!isOn(options, Key::enablePsram))
-        return psramDisabled;
-    for (const PsramRow &row : psramRows) {
-        if (device.device() == row.device && isInDeviceList(device.package(), row.packages))
-            return row;
-    }
-    return psramOtherwise;
-}
-
 void appendDebugPort(const OptionMap &options, QStringList &coreLines, QStringList &busLines)
 {
     // Compared as variants, so that the conversion rules of QVariant hold for a value of another
     // type.
-    const QVariant port = options.value(Key::debugPortSelect, QString(Value::jtagAndSerialWire));
+    const QVariant port = valueOf(options, Key::debugPortSelect);
     const bool both = port == QVariant(QString(Value::jtagAndSerialWire));
     const bool jtag = both || port == QVariant(QString(Value::jtag));
     const bool serialWire = both || port == QVariant(QString(Value::serialWire));
@@ -199,13 +135,12 @@ void appendInstructionMemory(const OptionMap &options, const QString &device,
     constexpr QLatin1String lowerAlias = "CM1_ITCM_LA_EN"_l1;
     constexpr QLatin1String upperAlias = "CM1_ITCM_UA_EN"_l1;
     constexpr QLatin1String size = "CM1_ITCMSIZE"_l1;
-    if (isOn(options, Key::internalInstructionMemory, true)) {
+    if (isOn(options, Key::internalInstructionMemory)) {
         coreLines.append(defineFlag(lowerAlias, true));
         coreLines.append(defineFlag(upperAlias, false));
         coreLines.append(defineTcmSize(size, tcmSizeCodeOf(options, Key::itcmSize, device)));
         if (isOn(options, Key::initializeItcm)) {
-            const QString path =
-                options.value(Key::itcmInitializationAbsolutePath, QString()).toString();
+            const QString path = textOf(options, Key::itcmInitializationAbsolutePath);
             coreLines.append(define("CM1_ITCM_INIT_EN"_l1));
             coreLines.append("`define CM1_ITCM_INIT_PATH \""_l1 + QDir::cleanPath(path) + u'"');
         }
@@ -221,7 +156,7 @@ void appendDataMemory(const OptionMap &options, const QString &device, QStringLi
                       QStringList &busLines)
 {
     constexpr QLatin1String size = "CM1_DTCMSIZE"_l1;
-    if (isOn(options, Key::internalDataMemory, true)) {
+    if (isOn(options, Key::internalDataMemory)) {
         coreLines.append(defineTcmSize(size, tcmSizeCodeOf(options, Key::dtcmSize, device)));
     } else if (isOn(options, Key::externalDataMemory)) {
         busLines.append(define("CM1_EXTERNAL_SRAM_EN"_l1));
@@ -242,8 +177,7 @@ void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
         defines.macParamLines.append(parameter(divider, QStringLiteral("20")));
     } else {
         defines.busLines.append(define("TARVO_INTERNET_SUPPORT"_l1));
-        const QString interface =
-            options.value(Key::ethernetInterface, QString(Value::rgmii)).toString();
+        const QString interface = textOf(options, Key::ethernetInterface);
         for (const MacInterface &row : macInterfaces) {
             if (interface != row.name)
                 continue;
@@ -256,10 +190,10 @@ void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
             defines.macDefineLines.append(define(macModuleName));
         }
         if (interface == Value::rgmii) {
-            const int value = options.value(Key::ethernetInputDelay, 0).toInt();
+            const int value = numberOf(options, Key::ethernetInputDelay);
             defines.macParamLines.append(parameter(delay, QString::number(value)));
         }
-        const int value = options.value(Key::ethernetClockDivider, 0).toInt();
+        const int value = numberOf(options, Key::ethernetClockDivider);
         defines.macParamLines.append(parameter(divider, QString::number(value)));
     }
     defines.macDefineLines.append(QStringLiteral("`endif"));
@@ -267,26 +201,29 @@ void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
 
 void appendDdr3Variant(const QString &device, QStringList &lines)
 {
-    for (const Ddr3Row &row : ddr3Rows) {
-        if (!row.devices.matches(device))
-            continue;
-        lines.append(define("DDR3_PHY_MC"_l1));
-        lines.append(define("EBR_BASED"_l1));
-        if (row.variant.size() > 0)
-            lines.append(define(row.variant));
+    const std::optional<QLatin1String> variant = ddr3Variant(device);
+    if (!variant)
         return;
-    }
+    lines.append(define("DDR3_PHY_MC"_l1));
+    lines.append(define("EBR_BASED"_l1));
+    if (variant->size() > 0)
+        lines.append(define(*variant));
 }
 
-void appendPsramVariant(const PsramRow &row, QStringList &lines)
+void appendPsramVariant(const OptionMap &options, const DEV::DeviceArg &device, QStringList &lines)
 {
-    if (row.ebrBased)
+    constexpr PsramVariant usual = {QLatin1String(), true, false};
+    const bool on = isOn(options, Key::enablePsram);
+    const PsramVariant *own = on ? psramVariant(device) : nullptr;
+    const PsramVariant &variant = own ? *own : usual;
+    // That a device without a variant has none is intended.
+    if (own || !on)
         lines.append(define("EBR_BASED"_l1));
     lines.append(define("module_name_psram PSRAM_Memory_Interface_Top"_l1));
-    if (row.clockReverse)
+    if (variant.clockReverse)
         lines.append(define("clock_reverse"_l1));
-    lines.append(define(row.singleEndedClocks ? "CK0_SINGLE"_l1 : "CK0_DIFF"_l1));
-    lines.append(define(row.singleEndedClocks ? "CK1_SINGLE"_l1 : "CK1_DIFF"_l1));
+    lines.append(define(variant.singleEndedClocks ? "CK0_SINGLE"_l1 : "CK0_DIFF"_l1));
+    lines.append(define(variant.singleEndedClocks ? "CK1_SINGLE"_l1 : "CK1_DIFF"_l1));
 }
 
 } // namespace
@@ -299,14 +236,14 @@ QLatin1String tcmSizeCode(int index)
 void buildCoreDefines(const OptionMap &options, const QString &device, QStringList &coreLines,
                       QStringList &busLines)
 {
-    const int interrupts = options.value(Key::numberOfInterrupts, 32).toInt();
+    const int interrupts = numberOf(options, Key::numberOfInterrupts);
     coreLines.append("`define CM1_NUM_IRQ "_l1 + QString::number(interrupts));
-    coreLines.append(defineFlag("CM1_OS"_l1, isOn(options, Key::osExtension, true)));
+    coreLines.append(defineFlag("CM1_OS"_l1, isOn(options, Key::osExtension)));
     coreLines.append(defineFlag("CM1_SMALL_MUL"_l1, isOn(options, Key::smallMultiplier)));
     coreLines.append(defineFlag("CM1_BE8"_l1, isOn(options, Key::bigEndian)));
     if (isOn(options, Key::externalInterrupts))
         busLines.append(define("TARVO_EXTINT_SUPPORT"_l1));
-    if (isOn(options, Key::enableDebug, true))
+    if (isOn(options, Key::enableDebug))
         appendDebugPort(options, coreLines, busLines);
     appendInstructionMemory(options, device, coreLines, busLines);
     appendDataMemory(options, device, coreLines, busLines);
@@ -321,24 +258,20 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
     appendSwitch(options, gpioSwitch, defines.busLines);
     if (isOn(options, Key::enableCan)) {
         defines.busLines.append(define("TARVO_CAN_SUPPORT"_l1));
-        const QString depth = options.value(Key::canBufferDepth, QString()).toString();
+        const QString depth = textOf(options, Key::canBufferDepth);
         defines.paramLines.append(parameter(canDepth, depth));
     } else {
         defines.paramLines.append(parameter(canDepth, QStringLiteral("256")));
     }
     appendEthernet(options, defines);
-    for (const FamilyRow &row : families) {
-        if (row.prefix.size() == 0 || name.startsWith(row.prefix)) {
-            defines.macParamLines.append(parameter("DEVICE"_l1, row.family));
-            break;
-        }
-    }
+    const DeviceFamily &family = deviceFamily(name);
+    defines.macParamLines.append(parameter("DEVICE"_l1, family.macDevice));
     appendSwitch(options, spiFlashSwitch, defines.busLines);
     appendSwitch(options, psramSwitch, defines.busLines);
     if (isOn(options, Key::enableDdr3)) {
         defines.busLines.append(define("TARVO_DDR3_SUPPORT"_l1));
-        if (isTv2k(name))
-            defines.busLines.append(define("VIRLA_TV2K"_l1));
+        if (family.ddr3BusMacro.size() > 0)
+            defines.busLines.append(define(family.ddr3BusMacro));
     }
     appendExtensionPorts(options, Key::enableAhbMaster, Key::ahbMasterCount, "AHB"_l1,
                          defines.busLines);
@@ -352,7 +285,7 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
     if (anyInternal)
         defines.busLines.append(define("TARVO_APBINT_SUPPORT"_l1));
     appendDdr3Variant(name, defines.ddr3Lines);
-    appendPsramVariant(psramRow(options, device), defines.psramLines);
+    appendPsramVariant(options, device, defines.psramLines);
 }
 
 QVector<IncludeFile> buildIncludeFiles(const OptionMap &options, const DEV::DeviceArg &device)

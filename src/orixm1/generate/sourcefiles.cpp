@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "defines.h"
 #include "rules/devicerules.h"
 
@@ -16,24 +17,6 @@ namespace TARVOORIXM1
 namespace
 {
 
-// Which data files a device leaves out.
-struct ExclusionRow {
-    DeviceTest devices;
-    QLatin1String excluded; // "/"-separated file names
-};
-
-// The first matching row wins; the catch-all stands behind each table.
-constexpr ExclusionRow withoutDebugRows[] = {
-    {{"TV5K"_l1, QLatin1String()}, "itcm.v/dtcm.v/itcm_3k.v/dtcm_3k.v"_l1},
-    {{"TV3K"_l1, QLatin1String()}, "itcm.v/dtcm.v/itcm_5k.v/dtcm_5k.v"_l1},
-};
-constexpr QLatin1String withoutDebugOtherwise = "itcm_3k.v/dtcm_3k.v/itcm_5k.v/dtcm_5k.v"_l1;
-
-constexpr ExclusionRow withDebugRows[] = {
-    {{QLatin1String(), "TV2K-55C/TV2K-18C/TV2KL-55C/TV2KR-18C/TV2KLR-18C"_l1}, "itcmdbg.v"_l1},
-};
-constexpr QLatin1String withDebugOtherwise = "itcmdbg_2kc.v"_l1;
-
 // Included by other sources and never compiled by themselves.
 constexpr QLatin1String supportNames[] = {
     "tvmc_local_param.v"_l1,   "tvmc_param.v"_l1,           "ddr3_name.v"_l1,
@@ -47,17 +30,6 @@ constexpr QLatin1String compiledIncludeFiles[] = {
     IncludeFileName::macParam, IncludeFileName::macDefine, IncludeFileName::ddr3,
 };
 
-template <size_t N>
-QLatin1String excludedFor(const QString &device, const ExclusionRow (&rows)[N],
-                          QLatin1String otherwise)
-{
-    for (const ExclusionRow &row : rows) {
-        if (row.devices.matches(device))
-            return row.excluded;
-    }
-    return otherwise;
-}
-
 bool isSupportFile(const QString &name)
 {
     return std::any_of(std::begin(supportNames), std::end(supportNames),
@@ -69,11 +41,9 @@ bool isSupportFile(const QString &name)
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir)
 {
-    const bool debug = options.value(Key::enableDebug, true).toBool();
+    const bool debug = isOn(options, Key::enableDebug);
     const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
-    const QLatin1String excluded =
-        debug ? excludedFor(device, withDebugRows, withDebugOtherwise)
-              : excludedFor(device, withoutDebugRows, withoutDebugOtherwise);
+    const QLatin1String excluded = excludedSources(device, debug);
     QStringList sourceFiles;
     // An empty name would list the current folder.
     const QStringList names =

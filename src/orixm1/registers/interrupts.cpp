@@ -3,6 +3,7 @@
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
+#include "config/optionvalue.h"
 
 #include <reading/jsontext.h>
 
@@ -47,16 +48,9 @@ QString mistakeIn(const QJsonObject &entry, const InterruptSource &source)
     return {};
 }
 
-bool isOn(const InterruptSource &source, const OptionMap &options)
-{
-    const Option *option = findOption(source.option);
-    return option && options.value(source.option, option->defaultValue).toBool();
-}
-
 int numberOfInputs(const OptionMap &options)
 {
-    return options.value(Key::numberOfInterrupts, findOption(Key::numberOfInterrupts)->defaultValue)
-        .toInt();
+    return numberOf(options, Key::numberOfInterrupts);
 }
 
 // The smallest number of inputs that can be chosen and includes input `last`.
@@ -130,7 +124,7 @@ QVector<InterruptSource> enabledInterrupts(const QVector<InterruptSource> &sourc
 {
     QVector<InterruptSource> enabled;
     for (const InterruptSource &source : sources) {
-        if (isOn(source, options))
+        if (findOption(source.option) && isOn(options, source.option))
             enabled.append(source);
     }
     return enabled;

@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optiontable.h"
+#include "config/optionvalue.h"
 #include "interrupts.h"
 
 #include <reading/jsontext.h>
@@ -278,14 +279,14 @@ bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, 
 QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
                                        const OptionMap &options)
 {
-    const auto isOn = [&options](const PeripheralInstance &instance) {
-        return options.value(instance.option, findOption(instance.option)->defaultValue).toBool();
+    const auto isEnabled = [&options](const PeripheralInstance &instance) {
+        return isOn(options, instance.option);
     };
     QVector<Peripheral> enabled;
     for (const Peripheral &peripheral : peripherals) {
         QVector<PeripheralInstance> instances;
         std::copy_if(peripheral.instances.begin(), peripheral.instances.end(),
-                     std::back_inserter(instances), isOn);
+                     std::back_inserter(instances), isEnabled);
         if (instances.isEmpty())
             continue;
         for (PeripheralInstance &instance : instances) {

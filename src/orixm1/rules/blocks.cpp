@@ -21,11 +21,11 @@ constexpr std::array<SwitchRow, count> ports(QLatin1String prefix)
 {
     std::array<SwitchRow, count> rows = {};
     for (int i = 0; i < count; ++i)
-        rows[i] = {prefix, false, i + 1};
+        rows[i] = {prefix, i + 1};
     return rows;
 }
 
-constexpr SwitchRow gpioSwitches[] = {{Key::enableGpio}, {Key::enableGpioIo, true}};
+constexpr SwitchRow gpioSwitches[] = {{Key::enableGpio}, {Key::enableGpioIo}};
 constexpr SwitchRow canSwitches[] = {{Key::enableCan}};
 constexpr SwitchRow ethernetSwitches[] = {{Key::enableEthernet}};
 constexpr SwitchRow ddr3Switches[] = {{Key::enableDdr3}};
@@ -38,7 +38,7 @@ constexpr SwitchRow watchDogSwitches[] = {{Key::enableWatchDog}};
 constexpr SwitchRow rtcSwitches[] = {{Key::enableRtc}};
 constexpr SwitchRow trngSwitches[] = {{Key::enableTrng}};
 constexpr SwitchRow dualTimerSwitches[] = {{Key::enableDualTimer}};
-constexpr SwitchRow i2cSwitches[] = {{Key::enableI2c}, {Key::enableI2cIo, true}};
+constexpr SwitchRow i2cSwitches[] = {{Key::enableI2c}, {Key::enableI2cIo}};
 constexpr SwitchRow spiSwitches[] = {{Key::enableSpi}};
 constexpr SwitchRow sdCardSwitches[] = {{Key::enableSdCard}};
 constexpr auto apbMasterSwitches = ports<Key::apbMasterCount>(Key::enableApbMaster);

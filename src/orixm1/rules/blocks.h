@@ -1,43 +1,14 @@
 #pragma once
 
+#include "config/rows.h"
+
 #include <QLatin1String>
 #include <QString>
-
-#include <array>
 
 namespace TARVOORIXM1
 {
 
 struct PinGroup;
-
-// A range over the rows of a constant table.
-template <class Row>
-class Rows
-{
-public:
-    constexpr Rows() = default;
-    template <std::size_t count>
-    constexpr Rows(const Row (&rows)[count])
-        : m_first(rows)
-        , m_count(int(count))
-    {
-    }
-    template <std::size_t count>
-    constexpr Rows(const std::array<Row, count> &rows)
-        : m_first(rows.data())
-        , m_count(int(count))
-    {
-    }
-
-    constexpr const Row *begin() const { return m_first; }
-    constexpr const Row *end() const { return m_first + m_count; }
-    constexpr int size() const { return m_count; }
-    constexpr const Row &operator[](int index) const { return m_first[index]; }
-
-private:
-    const Row *m_first = nullptr;
-    int m_count = 0;
-};
 
 // The optional blocks that have a dialog, in the order in which the diagram shows them.
 enum class BlockId {
@@ -62,9 +33,8 @@ enum class BlockId {
 
 // A bool option that a block's dialog shows as a check box.
 struct SwitchRow {
-    QLatin1String name;     // the option key, or what stands before the port's number in it
-    bool byDefault = false; // what the dialog takes for an absent key; generation may take another
-    int port = 0;           // of an extension bus; 0: none
+    QLatin1String name; // the option key, or what stands before the port's number in it
+    int port = 0;       // of an extension bus; 0: none
 
     QString key() const;
 };

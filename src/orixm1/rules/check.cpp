@@ -3,6 +3,7 @@
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
+#include "config/optionvalue.h"
 #include "config/plaintext.h"
 #include "devicerules.h"
 #include "dialogdefaults.h"
@@ -59,10 +60,8 @@ private:
         m_findings.append({severity, key, message});
     }
 
-    bool isOn(QLatin1String key, bool byDefault = false) const
-    {
-        return m_options.value(key, byDefault).toBool();
-    }
+    bool isOn(QLatin1String key) const { return TARVOORIXM1::isOn(m_options, key); }
+    QString textOf(QLatin1String key) const { return TARVOORIXM1::textOf(m_options, key); }
 
     void checkEntry(const QString &key, const QVariant &value)
     {
@@ -104,7 +103,7 @@ private:
     void checkMemoryChoice(QLatin1String internalKey, QLatin1String externalKey,
                            const QString &memory)
     {
-        const bool internal = isOn(internalKey, true);
+        const bool internal = isOn(internalKey);
         const bool external = isOn(externalKey);
         if (internal && external)
             add(Finding::Warning, externalKey,
@@ -118,12 +117,12 @@ private:
     {
         if (!isOn(Key::initializeItcm))
             return;
-        if (!isOn(Key::internalInstructionMemory, true)) {
+        if (!isOn(Key::internalInstructionMemory)) {
             add(Finding::Warning, Key::initializeItcm,
                 QStringLiteral("is ignored: the instruction memory is not internal"));
             return;
         }
-        const QString path = m_options.value(Key::itcmInitializationPath).toString();
+        const QString path = textOf(Key::itcmInitializationPath);
         if (path.isEmpty()) {
             add(Finding::Error, Key::itcmInitializationPath,
                 QStringLiteral("is empty although the ITCM is to be initialised"));
@@ -131,7 +130,7 @@ private:
             add(Finding::Error, Key::itcmInitializationPath,
                 "the folder \""_l1 + path + "\" does not exist"_l1);
         }
-        const QString absolute = m_options.value(Key::itcmInitializationAbsolutePath).toString();
+        const QString absolute = textOf(Key::itcmInitializationAbsolutePath);
         if (absolute.isEmpty()) {
             add(Finding::Error, Key::itcmInitializationAbsolutePath,
                 QStringLiteral("is empty, so that generation has no folder to name"));
@@ -159,7 +158,7 @@ private:
 
     void checkInterrupts()
     {
-        const int interrupts = m_options.value(Key::numberOfInterrupts, 32).toInt();
+        const int interrupts = numberOf(m_options, Key::numberOfInterrupts);
         if (isOn(Key::externalInterrupts) && !allowsExternalInterrupts(interrupts))
             add(Finding::Warning, Key::externalInterrupts,
                 QStringLiteral("needs 16 or 32 interrupts"));
@@ -167,7 +166,7 @@ private:
 
     void checkCan()
     {
-        if (isOn(Key::enableCan) && m_options.value(Key::canBufferDepth).toString().isEmpty())
+        if (isOn(Key::enableCan) && textOf(Key::canBufferDepth).isEmpty())
             add(Finding::Error, Key::canBufferDepth,
                 QStringLiteral(
                     "is not set although CAN is on: the generated parameter has no value"));
@@ -177,16 +176,14 @@ private:
     void checkGeneratedTexts()
     {
         if (isOn(Key::enableCan))
-            checkGeneratedText(Key::canBufferDepth,
-                               m_options.value(Key::canBufferDepth).toString());
-        if (!isOn(Key::initializeItcm) || !isOn(Key::internalInstructionMemory, true))
+            checkGeneratedText(Key::canBufferDepth, textOf(Key::canBufferDepth));
+        if (!isOn(Key::initializeItcm) || !isOn(Key::internalInstructionMemory))
             return;
         checkGeneratedText(Key::itcmInitializationAbsolutePath,
-                           m_options.value(Key::itcmInitializationAbsolutePath).toString());
+                           textOf(Key::itcmInitializationAbsolutePath));
         // The dialogs make the absolute path of this one.
         checkGeneratedText(Key::itcmInitializationPath,
-                           absoluteItcmPath(m_options.value(Key::itcmInitializationPath).toString(),
-                                            m_createInPath));
+                           absoluteItcmPath(textOf(Key::itcmInitializationPath), m_createInPath));
     }
 
     void checkGeneratedText(QLatin1String key, const QString &text)
@@ -232,11 +229,7 @@ private:
         return {};
     }
 
-    bool isRgmii() const
-    {
-        return m_options.value(Key::ethernetInterface, QString(Value::rgmii)).toString() ==
-               Value::rgmii;
-    }
+    bool isRgmii() const { return textOf(Key::ethernetInterface) == Value::rgmii; }
 
     void checkEthernet()
     {
@@ -244,7 +237,7 @@ private:
             return;
         const QString name = m_device.device();
         const int largest = largestRgmiiInputDelay(name);
-        const QVariant delay = m_options.value(Key::ethernetInputDelay);
+        const QVariant delay = valueOf(m_options, Key::ethernetInputDelay);
         // What no device has is reported already.
         if (!m_device.isNull() && delay.toInt() > largest &&
             isInDomain(*findOption(Key::ethernetInputDelay), delay))
@@ -264,16 +257,16 @@ private:
                 what += " in package "_l1 + m_device.package();
             add(Finding::Error, block.key, QStringLiteral("%1 cannot have %2").arg(name, what));
         }
-        if (isInstructionMemoryExternalOnly(name) && isOn(Key::internalInstructionMemory, true))
+        if (isInstructionMemoryExternalOnly(name) && isOn(Key::internalInstructionMemory))
             add(Finding::Error, Key::internalInstructionMemory,
                 QStringLiteral("the instruction memory of %1 is always external").arg(name));
 
-        const QString storedId = m_options.value(Key::ipDeviceId).toString();
+        const QString storedId = textOf(Key::ipDeviceId);
         if (!storedId.isEmpty() && storedId != m_device.id())
             add(Finding::Warning, Key::ipDeviceId,
                 "is \""_l1 + storedId + "\", but the target device is \""_l1 + m_device.id() +
                     u'"');
-        const QString storedName = m_options.value(Key::ipDevice).toString();
+        const QString storedName = textOf(Key::ipDevice);
         if (!storedName.isEmpty() && storedName != name)
             add(Finding::Warning, Key::ipDevice,
                 "is \""_l1 + storedName + "\", but the target device is \""_l1 + name + u'"');
@@ -282,10 +275,10 @@ private:
     // -1: the memory is not internal, or its index is reported already.
     int internalSize(QLatin1String sizeKey, QLatin1String internalKey, const TcmSizes &sizes)
     {
-        if (!isOn(internalKey, true) || sizes.full.isEmpty())
+        if (!isOn(internalKey) || sizes.full.isEmpty())
             return -1;
         const QString name = m_device.device();
-        const int index = m_options.value(sizeKey, defaultTcmSizeIndex(name)).toInt();
+        const int index = generatedValue(m_options, sizeKey, name).toInt();
         if (index < 0 || index > 9)
             return -1;
         if (index >= sizes.full.size()) {

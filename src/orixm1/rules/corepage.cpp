@@ -69,9 +69,7 @@ private:
 
 OptionMap acceptedCoreOptions(const OptionMap &options, const QString &device)
 {
-    const auto stored = [&](QLatin1String key) {
-        return options.value(key, dialogDefault(key, device));
-    };
+    const auto stored = [&](QLatin1String key) { return dialogValue(options, key, device); };
     OptionMap result;
     const auto copyBool = [&](QLatin1String key) { result.insert(key, stored(key).toBool()); };
 

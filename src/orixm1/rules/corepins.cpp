@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 
 namespace TARVOORIXM1
 {
@@ -94,19 +95,15 @@ QList<Utils::PinFigure> corePins(const CoreSwitches &switches)
 
 CoreSwitches coreSwitches(const OptionMap &options)
 {
-    const auto isOn = [&options](QLatin1String key, bool byDefault) {
-        return options.value(key, byDefault).toBool();
-    };
-    const QString port =
-        options.value(Key::debugPortSelect, QString(Value::jtagAndSerialWire)).toString();
+    const QString port = textOf(options, Key::debugPortSelect);
     CoreSwitches switches;
-    switches.debug = isOn(Key::enableDebug, true);
+    switches.debug = isOn(options, Key::enableDebug);
     switches.jtag = port == Value::jtag || port == Value::jtagAndSerialWire;
-    switches.externalInterrupts = isOn(Key::externalInterrupts, false);
-    switches.externalInstructionMemory =
-        !isOn(Key::internalInstructionMemory, true) && isOn(Key::externalInstructionMemory, false);
+    switches.externalInterrupts = isOn(options, Key::externalInterrupts);
+    switches.externalInstructionMemory = !isOn(options, Key::internalInstructionMemory) &&
+                                         isOn(options, Key::externalInstructionMemory);
     switches.externalDataMemory =
-        !isOn(Key::internalDataMemory, true) && isOn(Key::externalDataMemory, false);
+        !isOn(options, Key::internalDataMemory) && isOn(options, Key::externalDataMemory);
     return switches;
 }
 

@@ -1,22 +1,13 @@
 #pragma once
 
+#include "devicetable.h"
+
 #include <dev/devicearg.h>
 
 #include <QString>
 
 namespace TARVOORIXM1
 {
-
-// Which devices a rule is about. Every comparison is exact and case-sensitive.
-struct DeviceTest {
-    QLatin1String prefix; // names that start with this, if not empty
-    QLatin1String list;   // or members of this "/"-separated list
-
-    bool matches(const QString &device) const;
-};
-
-// Whether `device` is an element of the "/"-separated literal `list`.
-bool isInDeviceList(const QString &device, QLatin1String list);
 
 // The index of the device's default TCM size; index i means 2^i KB. 4 (16 KB) for a device that no
 // rule names.
@@ -38,8 +29,15 @@ bool isInstructionMemoryExternalOnly(const QString &device);
 bool isDdr3Locked(const QString &device);
 // Devices whose DDR3 controller has a stop output.
 bool hasDdr3StopSignal(const QString &device);
+// The macro of the variant of the DDR3 controller, empty for the plain one; none for a device about
+// whose controller nothing is known.
+std::optional<QLatin1String> ddr3Variant(const QString &device);
+// The variant of the PSRAM interface; null for a device that cannot have PSRAM in its package.
+const PsramVariant *psramVariant(const DEV::DeviceArg &device);
 // In delay steps.
 int largestRgmiiInputDelay(const QString &device);
+// The RTL files that are not compiled for the device, "/"-separated.
+QLatin1String excludedSources(const QString &device, bool debug);
 
 // What a device may be without, and the switch that asks for it.
 struct RestrictedBlock {
@@ -49,21 +47,9 @@ struct RestrictedBlock {
     bool dependsOnPackage = false;
 };
 
-struct RestrictedBlocks {
-    const RestrictedBlock *begin() const;
-    const RestrictedBlock *end() const;
-};
-inline RestrictedBlocks restrictedBlocks()
-{
-    return {};
-}
+Rows<RestrictedBlock> restrictedBlocks();
 
 // With fewer inputs the core has none for external interrupts.
 bool allowsExternalInterrupts(int numberOfInterrupts);
-
-// Families by name prefix.
-bool isTv5k(const QString &device);
-bool isTv3k(const QString &device);
-bool isTv2k(const QString &device);
 
 } // namespace TARVOORIXM1

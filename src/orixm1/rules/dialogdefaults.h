@@ -20,6 +20,9 @@ QVariant dialogDefault(const QString &key, const QString &device);
 // What generation reads: the stored value, or its default.
 QVariant generatedValue(const OptionMap &options, const QString &key, const QString &device);
 
+// What a dialog reads: the stored value, or its default.
+QVariant dialogValue(const OptionMap &options, const QString &key, const QString &device);
+
 // A key that a configuration lacks and that means one thing to generation and another to a dialog.
 struct UnsetKey {
     QString key;

@@ -3,7 +3,8 @@
 #include "config/latin1literal.h"
 #include "config/memoryfile.h"
 #include "config/optionkeys.h"
-#include "devicerules.h"
+#include "config/optionvalue.h"
+#include "dialogdefaults.h"
 
 #include <reading/limits.h>
 #include <reading/plainfile.h>
@@ -65,17 +66,14 @@ int itcmLaneSize(int sizeIndex)
 QVector<ItcmMistake> itcmMistakes(const OptionMap &options, const QString &device,
                                   const QString &generationFolder)
 {
-    if (!options.value(Key::internalInstructionMemory, true).toBool() ||
-        !options.value(Key::initializeItcm).toBool())
+    if (!isOn(options, Key::internalInstructionMemory) || !isOn(options, Key::initializeItcm))
         return {};
-    const QString named =
-        QDir::cleanPath(options.value(Key::itcmInitializationAbsolutePath).toString());
+    const QString named = QDir::cleanPath(textOf(options, Key::itcmInitializationAbsolutePath));
     const QString folder =
         QDir::isRelativePath(named) ? QDir(generationFolder).absoluteFilePath(named) : named;
     if (named.isEmpty() || (QDir::isRelativePath(named) && !QFileInfo(folder).isDir()))
         return {};
-    const int size =
-        itcmLaneSize(options.value(Key::itcmSize, defaultTcmSizeIndex(device)).toInt());
+    const int size = itcmLaneSize(generatedValue(options, Key::itcmSize, device).toInt());
     QVector<ItcmMistake> mistakes;
     for (int lane = 0; lane < lanes; ++lane)
         mistakes += mistakesOf(folder + "/itcm"_l1 + QString::number(lane), size);

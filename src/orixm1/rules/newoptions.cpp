@@ -1,6 +1,7 @@
 #include "newoptions.h"
 
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "dialogdefaults.h"
 #include "itcmpath.h"
 
@@ -26,7 +27,7 @@ void chooseOther(OptionMap &options, QLatin1String chosen, QLatin1String other,
 {
     if (!options.contains(chosen) || options.contains(other))
         return;
-    const bool value = !options.value(chosen).toBool();
+    const bool value = !isOn(options, chosen);
     if (generationDefault(other, device) != value || dialogDefault(other, device) != value)
         options.insert(other, value);
 }
@@ -45,7 +46,7 @@ OptionMap optionsForChoices(const OptionMap &choices, const QString &device,
     for (const UnsetKey &entry : unset)
         options.insert(entry.key, entry.dialog);
 
-    const QString path = options.value(Key::itcmInitializationPath).toString();
+    const QString path = textOf(options, Key::itcmInitializationPath);
     if (!path.isEmpty() && !options.contains(Key::itcmInitializationAbsolutePath))
         options.insert(Key::itcmInitializationAbsolutePath, absoluteItcmPath(path, createIn));
     return options;

@@ -1,6 +1,7 @@
 #include "pins.h"
 
 #include "config/optiontable.h"
+#include "config/optionvalue.h"
 #include "pintables.h"
 
 namespace TARVOORIXM1
@@ -17,12 +18,6 @@ bool applies(const PinGroup &group, const BlockState &state)
         (state.choice < 0 || (group.choices & switchBit(state.choice)) == 0))
         return false;
     return !group.devices || group.devices(state.device);
-}
-
-QVariant valueOf(const OptionMap &options, const QString &key)
-{
-    const Option *option = findOption(key);
-    return options.value(key, option ? option->defaultValue : QVariant());
 }
 
 } // namespace
@@ -48,11 +43,11 @@ BlockState blockState(const Block &block, const OptionMap &options, const QStrin
 {
     BlockState state;
     for (int i = 0; i < block.switches.size(); ++i) {
-        if (valueOf(options, block.switches[i].key()).toBool())
+        if (isOn(options, block.switches[i].key()))
             state.switches |= switchBit(i);
     }
     if (const Option *choice = findOption(block.choiceKey))
-        state.choice = choice->choices.indexOf(valueOf(options, block.choiceKey).toString());
+        state.choice = choice->choices.indexOf(textOf(options, block.choiceKey));
     state.device = device;
     return state;
 }

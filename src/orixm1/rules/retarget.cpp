@@ -3,6 +3,7 @@
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
+#include "config/optionvalue.h"
 #include "corepage.h"
 #include "devicerules.h"
 #include "dialogdefaults.h"
@@ -237,7 +238,7 @@ QString lossSentence(const Loss &loss, const Retargeted &result, const DEV::Devi
         if (sizeText(loss.after) != largest)
             sentence += " beside another memory of "_l1 + largest;
         sentence += u'.';
-        if (loss.key == Key::itcmSize && result.options.value(Key::initializeItcm).toBool())
+        if (loss.key == Key::itcmSize && isOn(result.options, Key::initializeItcm))
             sentence += QStringLiteral(" Its initialisation files have to be made for that size.");
         return sentence;
     }
@@ -247,7 +248,7 @@ QString lossSentence(const Loss &loss, const Retargeted &result, const DEV::Devi
     if (loss.key == Key::internalInstructionMemory) {
         QString sentence = "The instruction memory moves outside: "_l1 + name +
                            " cannot have it inside. The ITCM"_l1;
-        if (result.options.value(Key::initializeItcm).toBool())
+        if (isOn(result.options, Key::initializeItcm))
             sentence += " and its initialisation are"_l1;
         else
             sentence += " is"_l1;

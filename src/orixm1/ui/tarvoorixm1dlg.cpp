@@ -5,6 +5,7 @@
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "diagram/ipview.h"
 #include "dialogs/messagebox.h"
 #include "generate/plan.h"
@@ -88,13 +89,10 @@ void TarvoOrixM1Dlg::accept()
 
 bool TarvoOrixM1Dlg::checkItcmInitPath()
 {
-    if (!options.value(Key::initializeItcm).toBool())
-        return true;
-    // An absent entry means internal, as it does for generation.
-    if (!options.value(Key::internalInstructionMemory, true).toBool())
+    if (!isOn(options, Key::initializeItcm) || !isOn(options, Key::internalInstructionMemory))
         return true;
     const QString error =
-        itcmPathError(options.value(Key::itcmInitializationPath).toString(), createInPath());
+        itcmPathError(textOf(options, Key::itcmInitializationPath), createInPath());
     if (error.isEmpty())
         return true;
     showErrorBox(this, error);
@@ -146,8 +144,8 @@ bool TarvoOrixM1Dlg::loadIPConfig(const QString &ipcFile)
         return false;
     }
     IpcFile::readOptions(settings, options);
-    selectSynthesisTool(options.value(Key::synthesisTool).toString());
-    setLanguageIndex(options.value(Key::lang).toInt());
+    selectSynthesisTool(textOf(options, Key::synthesisTool));
+    setLanguageIndex(numberOf(options, Key::lang));
     return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include <config/optionkeys.h>
 #include <config/optiontable.h>
+#include <rules/dialogdefaults.h>
 #include <rules/pins.h>
 
 #include <QFormLayout>
@@ -96,7 +97,8 @@ void tst_Blocks::theTableHasThemAll()
         QCOMPARE(row.switches.size(), int(expected.switches.size()));
         for (int j = 0; j < row.switches.size(); ++j) {
             QCOMPARE(row.switches[j].key(), text(expected.switches.at(size_t(j)).key));
-            QCOMPARE(row.switches[j].byDefault, expected.switches.at(size_t(j)).byDefault);
+            QCOMPARE(dialogDefault(row.switches[j].key(), QString()),
+                     QVariant(expected.switches.at(size_t(j)).byDefault));
         }
     }
 }

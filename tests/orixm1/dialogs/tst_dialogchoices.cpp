@@ -4,6 +4,7 @@
 #include "testsupport.h"
 
 #include <config/optionkeys.h>
+#include <config/optiontable.h>
 #include <dev/devicedb.h>
 #include <dialogs/cortexm1.h>
 #include <generate/defines.h>
@@ -264,6 +265,8 @@ private Q_SLOTS:
     void giveWhatTheDialogsGive();
     void theCorePageStoresWhatIsForeseen_data() { giveWhatTheDialogsGive_data(); }
     void theCorePageStoresWhatIsForeseen();
+    void anAbsentKeyIsItsDialogsDefault_data();
+    void anAbsentKeyIsItsDialogsDefault();
     void movedOnesStayUnderTheDialogs_data() { giveWhatTheDialogsGive_data(); }
     void movedOnesStayUnderTheDialogs();
 
@@ -356,6 +359,59 @@ void tst_DialogChoices::theCorePageStoresWhatIsForeseen()
                      qPrintable(it.key() + text(" is ") + stored.value(it.key()).toString() +
                                 text(", not ") + it.value().toString() + text(" after ") +
                                 described(options)));
+    }
+}
+
+void tst_DialogChoices::anAbsentKeyIsItsDialogsDefault_data()
+{
+    QTest::addColumn<DEV::DeviceArg>("device");
+    const QStringList differing = {text("TV1KL-5A"), text("TV1L-9"), text("TV2KR-18C"),
+                                   text("TV5KT-15A"), text("TV5KT-138B")};
+    for (const QString &name : differing) {
+        DEV::ChipFilter filter;
+        filter.id = name;
+        QTest::newRow(qPrintable(name)) << DEV::DeviceDb::bundled().filterDevice(filter).value(0);
+    }
+}
+
+// On an empty map and on one where all is on: a dialog stores the same without a key and with what
+// it takes for it.
+void tst_DialogChoices::anAbsentKeyIsItsDialogsDefault()
+{
+    QFETCH(DEV::DeviceArg, device);
+    QVERIFY(!device.isNull());
+    for (const bool on : {false, true}) {
+        const auto afterOk = [&](const auto &make, const OptionMap &options) {
+            OptionMap map = options;
+            map[Key::ipDeviceId] = device.id();
+            map[Key::ipDevice] = device.device();
+            make(map)->accept();
+            return map;
+        };
+        const auto compare = [&](const auto &make, const std::vector<Control> &controls) {
+            OptionMap base;
+            for (const Control &control : controls) {
+                if (on && findOption(control.key)->type == OptionType::Bool &&
+                    control.key != Key::initializeItcm)
+                    base.insert(control.key, true);
+            }
+            for (const Control &control : controls) {
+                OptionMap without = base;
+                without.remove(control.key);
+                OptionMap with = without;
+                with.insert(control.key, dialogDefault(control.key, device.device()));
+                const OptionMap stored = afterOk(make, without);
+                QVERIFY2(stored.contains(control.key), qPrintable(control.key));
+                QVERIFY2(stored == afterOk(make, with), qPrintable(control.key));
+            }
+        };
+        compare([](OptionMap &map) { return std::make_unique<CortexM1>(&map); }, coreControls());
+        for (const Expected::Block &block : Expected::blocks())
+            compare(
+                [&](OptionMap &map) {
+                    return std::unique_ptr<Expected::Dialog>(block.make(&map, nullptr));
+                },
+                controlsOf(block));
     }
 }
 

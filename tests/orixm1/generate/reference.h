@@ -3,6 +3,7 @@
 #include <config/optionmap.h>
 #include <dev/devicearg.h>
 
+#include <QDir>
 #include <QMap>
 #include <QStringList>
 
@@ -46,6 +47,24 @@ inline int defaultSize(const QString &d)
     if (in(d, "TV3K-20A/TV3KR-20A/TV3K-10A"))
         return 5;
     return 4;
+}
+
+// "nothing", "plain" or the macro of the variant.
+inline QString ddr3Variant(const QString &d)
+{
+    if (in(d, "TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
+              "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B"))
+        return key("VIRLA_138K");
+    if (in(d, "TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A/TV5KT-60ES/TV5KT-60B/"
+              "TV5K-60B"))
+        return key("VIRLA_25K");
+    if (d.startsWith(key("TV2K")))
+        return key("VIRLA_TV2K");
+    if (d.startsWith(key("TV3K")) ||
+        in(d, "TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C/TV5KRT-15A/TV5KRT-15B/TV5KT-15B/"
+              "TV5KLT-15A/TV5KLRT-15A/TV5KT-15A"))
+        return key("plain");
+    return key("nothing");
 }
 
 inline QString sizeBits(int index)
@@ -212,24 +231,11 @@ inline QMap<QString, QStringList> includeFiles(const OptionMap &o, const DEV::De
     if (internal)
         bus << def("TARVO_APBINT_SUPPORT");
 
-    const bool small15 = d.startsWith(key("TV5K")) && d.contains(key("-15"));
-    const bool has138 =
-        in(d, "TV5KT-138/TV5KT-138B/TV5KT-75B/TV5KST-138B/TV5K-138C/TV5KS-138C/TV5KST-138C/"
-              "TV5KT-138C/TV5KT-75C/TV5K-138B/TV5KS-138B");
-    const bool has25 =
-        in(d, "TV5K-25A/TV5K-25B/TV5KS-25B/TV5KR-25B/TV5KS-25A/TV5KR-25A/TV5KT-60ES/TV5KT-60B/"
-              "TV5K-60B");
-    const bool bare = d.startsWith(key("TV3K")) || small15 ||
-                      in(d, "TV1KL-5A/TV1KL-5B/TV1L-9/TV1L-9C/TV1LR-9/TV1LR-9C");
-    if (has138 || has25 || d.startsWith(key("TV2K")) || bare) {
+    const QString variant = ddr3Variant(d);
+    if (variant != key("nothing"))
         ddr3 << def("DDR3_PHY_MC") << def("EBR_BASED");
-        if (has138)
-            ddr3 << def("VIRLA_138K");
-        else if (has25)
-            ddr3 << def("VIRLA_25K");
-        else if (d.startsWith(key("TV2K")))
-            ddr3 << def("VIRLA_TV2K");
-    }
+    if (variant.startsWith(key("VIRLA")))
+        ddr3 << key("`define ") + variant;
 
     const QString name = def("module_name_psram PSRAM_Memory_Interface_Top");
     if (!on(o, "Enable PSRAM", false) || (d == key("TV2KR-18C") && in(p, "QFN88P/eLQFP144P")))

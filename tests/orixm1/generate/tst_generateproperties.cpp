@@ -4,9 +4,13 @@
 #include "reference.h"
 
 #include <config/ipcfile.h>
+#include <config/optionvalue.h>
 #include <generate/defines.h>
 #include <generate/sourcefiles.h>
+#include <rules/corepins.h>
 #include <rules/devicerules.h>
+#include <rules/dialogdefaults.h>
+#include <rules/pins.h>
 #include <utils/inifile.h>
 
 #include <QSettings>
@@ -24,6 +28,7 @@ class tst_GenerateProperties : public QObject
 private Q_SLOTS:
     void agreesWithThePlainStatement();
     void defaultSizesAgreeForEveryDevice();
+    void anAbsentKeyIsItsDefault();
     void onlyTheMapAndTheDeviceCount();
     void storingAndReadingChangesNothing();
     void sourcesNeverHoldTwoVariants();
@@ -53,6 +58,68 @@ void tst_GenerateProperties::defaultSizesAgreeForEveryDevice()
     for (const DEV::DeviceArg &device : devices)
         QVERIFY2(defaultTcmSizeIndex(device.device()) == Reference::defaultSize(device.device()),
                  qPrintable(device.device()));
+}
+
+// For each key, generation and pins are the same without it and with its default; another value
+// makes them others, so that every key is looked at somewhere.
+void tst_GenerateProperties::anAbsentKeyIsItsDefault()
+{
+    OptionMap on;
+    for (const Option &option : optionTable()) {
+        if (option.type == OptionType::Bool)
+            on.insert(option.key, true);
+    }
+    OptionMap external = on;
+    external[Key::internalInstructionMemory] = false;
+    external[Key::internalDataMemory] = false;
+    const OptionMap bases[] = {{}, on, external};
+    const auto other = [](const Option &option, const QVariant &byDefault) -> QVariant {
+        if (option.type == OptionType::Bool)
+            return !byDefault.toBool();
+        if (option.choices.isEmpty())
+            return option.type == OptionType::Int ? QVariant(byDefault.toInt() + 1)
+                                                  : QVariant(QStringLiteral("/other"));
+        return option.choices.first() == byDefault.toString() ? option.choices.last()
+                                                              : option.choices.first();
+    };
+    for (const char *name : {"TV1KL-5A", "TV2KR-18C", "TV5KT-138B", "unknown"}) {
+        const QString device = QString::fromLatin1(name);
+        const DEV::DeviceArg target(device, device, QString(), QStringLiteral("QFN88P"),
+                                    QStringLiteral("C8/I7"), QString());
+        const auto generated = [&](const OptionMap &options) {
+            QStringList lines;
+            for (const IncludeFile &file : buildIncludeFiles(options, target))
+                lines += file.name + u':' + file.lines.join(u'\n');
+            lines += buildSourceFiles(options,
+                                      {{InfoKey::debug, QStringLiteral(":/a")},
+                                       {InfoKey::noDebug, QStringLiteral(":/b")}},
+                                      device, QStringLiteral("/t"));
+            for (const Utils::PinFigure &pin : corePins(coreSwitches(options)))
+                lines += pin.name();
+            for (const BlockPins &block : peripheralPins(options, device)) {
+                for (const Utils::PinFigure &pin : block.pins)
+                    lines += pin.name();
+            }
+            return lines;
+        };
+        for (const Option &option : optionTable()) {
+            const QVariant byDefault = generationDefault(option.key, device);
+            if (!byDefault.isValid())
+                continue;
+            bool isLookedAt = false;
+            for (const OptionMap &base : bases) {
+                OptionMap options = base;
+                options.remove(option.key);
+                const QStringList absent = generated(options);
+                options.insert(option.key, byDefault);
+                QVERIFY2(generated(options) == absent, qPrintable(device + u' ' + option.key));
+                QCOMPARE(valueOf(options, option.key), byDefault);
+                options.insert(option.key, other(option, byDefault));
+                isLookedAt |= generated(options) != absent;
+            }
+            QVERIFY2(isLookedAt, qPrintable(device + u' ' + option.key));
+        }
+    }
 }
 
 void tst_GenerateProperties::onlyTheMapAndTheDeviceCount()
