@@ -1,9 +1,9 @@
 #include "peripheraldlg.h"
 
 #include "config/optionkeys.h"
+#include "config/pintables.h"
 #include "rules/dialogdefaults.h"
 #include "rules/pins.h"
-#include "rules/pintables.h"
 
 #include <QCheckBox>
 #include <QScrollArea>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "config/blocks.h"
 #include "config/optionmap.h"
-#include "rules/blocks.h"
 
 #include <ipcore/microsyschildipgendlg.h>
 

@@ -1,6 +1,6 @@
 #include "dialogdefaults.h"
 
-#include "blocks.h"
+#include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"

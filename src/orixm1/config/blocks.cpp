@@ -1,7 +1,7 @@
 #include "blocks.h"
 
-#include "config/latin1literal.h"
-#include "config/optionkeys.h"
+#include "latin1literal.h"
+#include "optionkeys.h"
 #include "pintables.h"
 
 #include <QtGlobal>
