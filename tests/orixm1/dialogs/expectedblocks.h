@@ -1,12 +1,6 @@
 #pragma once
 
-#include <dialogs/candlg.h>
-#include <dialogs/ddr3dlg.h>
-#include <dialogs/ethernetdlg.h>
-#include <dialogs/extensiondialogs.h>
-#include <dialogs/interfacetypedialogs.h>
-#include <dialogs/singleswitchdialogs.h>
-#include <dialogs/twoinstancedialogs.h>
+#include <dialogs/blockdialogs.h>
 
 #include <vector>
 

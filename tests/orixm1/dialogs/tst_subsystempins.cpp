@@ -113,16 +113,17 @@ void tst_SubsystemPins::takesTheDefaultsOfGeneration()
 {
     const OptionMap map = {
         {Key::enableGpio, true}, {Key::enableI2c, true}, {Key::enableEthernet, true}};
-    const auto pinsOf = [](BlockId id, const OptionMap &options) {
-        return Expected::words(blockPins(block(id), blockState(block(id), options, QString())));
+    const auto pinsOf = [](const char *dialog, const OptionMap &options) {
+        const Block &row = block(QLatin1String(dialog));
+        return Expected::words(blockPins(row, blockState(row, options, QString())));
     };
-    QCOMPARE(pinsOf(BlockId::Gpio, map), Expected::pins(Pins::gpioSplit));
-    QCOMPARE(pinsOf(BlockId::I2c, map), Expected::pins(Pins::i2cSplit));
-    QCOMPARE(pinsOf(BlockId::Ethernet, map),
+    QCOMPARE(pinsOf("GPIODlg", map), Expected::pins(Pins::gpioSplit));
+    QCOMPARE(pinsOf("I2CDlg", map), Expected::pins(Pins::i2cSplit));
+    QCOMPARE(pinsOf("EthernetDlg", map),
              Expected::pins(Pins::ethernet) + Expected::pins(Pins::rgmii));
     OptionMap unknown = map;
     unknown.insert(Key::ethernetInterface, text("SGMII"));
-    QCOMPARE(pinsOf(BlockId::Ethernet, unknown), Expected::pins(Pins::ethernet));
+    QCOMPARE(pinsOf("EthernetDlg", unknown), Expected::pins(Pins::ethernet));
 }
 
 void tst_SubsystemPins::textsCountAsInAFile()
