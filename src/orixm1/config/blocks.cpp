@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <vector>
 
 namespace TARVOORIXM1
 {
@@ -290,14 +289,15 @@ QLatin1String Block::module() const
 
 Rows<Block> blocks()
 {
-    static const std::vector<Block> shown = [] {
-        std::vector<Block> sorted(std::begin(rows), std::end(rows));
+    static const auto shown = [] {
+        std::array<Block, std::size(rows)> sorted = {};
+        std::copy(std::begin(rows), std::end(rows), sorted.begin());
         std::sort(sorted.begin(), sorted.end(), [](const Block &a, const Block &b) {
             return a.bus != b.bus ? a.bus < b.bus : a.boxes[0].x < b.boxes[0].x;
         });
         return sorted;
     }();
-    return {shown.data(), int(shown.size())};
+    return shown;
 }
 
 Rows<Block> generatedBlocks()

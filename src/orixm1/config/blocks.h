@@ -1,49 +1,14 @@
 #pragma once
 
+#include "rows.h"
+
 #include <QLatin1String>
 #include <QString>
-
-#include <array>
 
 namespace TARVOORIXM1
 {
 
 struct PinGroup;
-
-// A range over the rows of a constant table.
-template <class Row>
-class Rows
-{
-public:
-    constexpr Rows() = default;
-    template <std::size_t count>
-    constexpr Rows(const Row (&rows)[count])
-        : m_first(rows)
-        , m_count(int(count))
-    {
-    }
-    template <std::size_t count>
-    constexpr Rows(const std::array<Row, count> &rows)
-        : m_first(rows.data())
-        , m_count(int(count))
-    {
-    }
-
-    constexpr Rows(const Row *first, int count)
-        : m_first(first)
-        , m_count(count)
-    {
-    }
-
-    constexpr const Row *begin() const { return m_first; }
-    constexpr const Row *end() const { return m_first + m_count; }
-    constexpr int size() const { return m_count; }
-    constexpr const Row &operator[](int index) const { return m_first[index]; }
-
-private:
-    const Row *m_first = nullptr;
-    int m_count = 0;
-};
 
 // A bool option that a block's dialog shows as a check box. Of a port of an extension bus, the key
 // is followed by the port's number, and %1 stands for it in the other texts.
@@ -80,7 +45,7 @@ enum class Redraw { OnToggle, OnClick, Never };
 struct Block {
     QLatin1String dialog; // name of its class; stands for the block
     QLatin1String title;  // of the dialog's window and label
-    Bus bus;
+    Bus bus = Bus::Ahb;
     Rows<SwitchRow> switches;
     Rows<PinGroup> pins; // in the order in which a figure shows them
     DiagramBox boxes[2]; // a block that exists twice has two
