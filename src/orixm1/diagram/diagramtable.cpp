@@ -47,9 +47,6 @@ constexpr DiagramRow dashed(DiagramRow row, DiagramRow::Color color)
     return row;
 }
 
-constexpr int ahbBranch = 250;
-constexpr int apbBranch = 450;
-
 // The frame and the sub-system are the first two rows: they are the parents that rows name.
 constexpr DiagramRow core[] = {
     block(Scene, 0, 0, 1000, 560, DiagramRow::Nothing, ""_l1),
@@ -72,34 +69,33 @@ constexpr DiagramRow core[] = {
     dashed(arrow(Frame, 0, 220, NoHead, NoHead, {1000, 0}), DiagramRow::Red),
     text(Frame, 10, 225, "AHB Bus"_l1),
     arrow(Scene, 500, 190, HeadUp, HeadDown, {0, 60}),
-    arrow(Scene, 200, ahbBranch, NoHead, NoHead, {540, 0}),
 };
 
+// The bridge and the APB bus
 constexpr DiagramRow bridge[] = {
-    // The bridge and the APB bus
     dashed(arrow(Scene, 0, 350, NoHead, NoHead, {1000, 0}), DiagramRow::Red),
     text(Scene, 10, 355, "APB Bus"_l1),
     arrow(Scene, 500, 250, HeadUp, HeadDown, {0, 130}),
     block(Scene, 460, 380, 80, 40, DiagramRow::White, "AHB2APB"_l1),
     arrow(Scene, 500, 420, HeadUp, HeadDown, {0, 30}),
-    arrow(Scene, 60, apbBranch, NoHead, NoHead, {880, 0}),
 };
 
-// The lines of the boxes on a bus, from its branch down to the middle of the box's top edge, and
-// then the boxes.
+// What hangs from a bus: its branch, a drop from there down to the middle of each box's top edge,
+// and then the boxes.
 void appendBoxes(std::vector<DiagramRow> &rows, Bus bus, int branch)
 {
     constexpr int length = 30;
     constexpr int height = 40;
+    std::vector<DiagramRow> drops;
     std::vector<DiagramRow> boxes;
     for (const Block &block : blocks()) {
         for (int i = 0; block.bus == bus && i < int(std::size(block.boxes)); ++i) {
             const DiagramBox &box = block.boxes[i];
             if (box.label.size() == 0)
                 continue;
-            rows.push_back(
+            drops.push_back(
                 arrow(Scene, box.x + box.width / 2, branch, HeadUp, HeadDown, {0, length}));
-            rows.back().dropOf = box.label;
+            drops.back().dropOf = box.label;
             DiagramRow row = {DiagramRow::Block, Scene,     box.x,  branch + length,
                               box.label,         box.width, height, DiagramRow::White};
             row.slot = block.slot ? block.slot : "onBlock()";
@@ -111,15 +107,18 @@ void appendBoxes(std::vector<DiagramRow> &rows, Bus bus, int branch)
             boxes.push_back(row);
         }
     }
+    rows.push_back(arrow(Scene, drops.front().x, branch, NoHead, NoHead,
+                         {drops.back().x - drops.front().x, 0}));
+    rows.insert(rows.end(), drops.begin(), drops.end());
     rows.insert(rows.end(), boxes.begin(), boxes.end());
 }
 
 std::vector<DiagramRow> allRows()
 {
     std::vector<DiagramRow> rows(std::begin(core), std::end(core));
-    appendBoxes(rows, Bus::Ahb, ahbBranch);
+    appendBoxes(rows, Bus::Ahb, 250);
     rows.insert(rows.end(), std::begin(bridge), std::end(bridge));
-    appendBoxes(rows, Bus::Apb, apbBranch);
+    appendBoxes(rows, Bus::Apb, 450);
     return rows;
 }
 
