@@ -2,13 +2,7 @@
 // to a block dialog without options and pins. Both are timed in turn; printed are the medians and
 // their ratio. bench_blockdialogs [RUNS]
 
-#include <dialogs/candlg.h>
-#include <dialogs/ddr3dlg.h>
-#include <dialogs/ethernetdlg.h>
-#include <dialogs/extensiondialogs.h>
-#include <dialogs/interfacetypedialogs.h>
-#include <dialogs/singleswitchdialogs.h>
-#include <dialogs/twoinstancedialogs.h>
+#include <dialogs/blockdialogs.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -26,12 +20,6 @@ namespace
 {
 
 using Make = std::function<std::unique_ptr<Dialog>(OptionMap *)>;
-
-template <class T>
-Make maker()
-{
-    return [](OptionMap *options) { return std::make_unique<T>(options); };
-}
 
 double microseconds(const Make &make, OptionMap *options)
 {
@@ -64,17 +52,10 @@ int main(int argc, char *argv[])
             options.insert(row.key(), true);
     }
     const Make empty = [](OptionMap * /*options*/) { return std::make_unique<Dialog>(); };
-    const Make makers[] = {
-        maker<GPIODlg>(),          maker<CANDlg>(),           maker<EthernetDlg>(),
-        maker<DDR3Dlg>(),          maker<PSRAMDlg>(),         maker<SPIFlashDlg>(),
-        maker<AHB2ExtensionDlg>(), maker<UartDlg>(),          maker<TimerDlg>(),
-        maker<WatchDogDlg>(),      maker<RTCDlg>(),           maker<TrngDlg>(),
-        maker<DualTimerDlg>(),     maker<I2CDlg>(),           maker<SPIDlg>(),
-        maker<SDCardDlg>(),        maker<APB2ExtensionDlg>(),
-    };
     microseconds(empty, &options); // loads fonts and styles
     std::printf("%-18s %5s %12s %12s %7s\n", "dialog", "pins", "ms", "empty ms", "ratio");
-    for (const Make &make : makers) {
+    for (const Block &block : blocks()) {
+        const Make make = [&block](OptionMap *map) { return makeBlockDialog(block.dialog, map); };
         QVector<double> own;
         QVector<double> others;
         microseconds(make, &options);

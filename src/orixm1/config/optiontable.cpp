@@ -1,5 +1,6 @@
 #include "optiontable.h"
 
+#include "blocks.h"
 #include "choices.h"
 #include "latin1literal.h"
 
@@ -17,7 +18,8 @@ struct BoolRow {
     const char *description;
 };
 
-// Where a dialog takes something else for an absent key than generation.
+// Where a dialog takes something else for an absent key than generation; those of its check boxes
+// stand with the block.
 struct DialogRow {
     QLatin1String key;
     QLatin1String value;
@@ -25,14 +27,11 @@ struct DialogRow {
 };
 
 constexpr DialogRow dialogRows[] = {
-    {Key::enableGpioIo, "true"_l1, Key::enableGpio},
     {Key::canBufferDepth, "256"_l1, Key::enableCan},
     {Key::ethernetInputDelay, "100"_l1, Key::enableEthernet},
     {Key::ethernetClockDivider, "20"_l1, Key::enableEthernet},
-    {Key::enableI2cIo, "true"_l1, Key::enableI2c},
 };
 
-// Rows of the table up to the memories, and from them on; other types are added between.
 constexpr BoolRow coreSwitches[] = {
     {Key::osExtension, true, "Operating system extension: SysTick and PendSV"},
     {Key::smallMultiplier, false, "Small multiplier instead of the fast one"},
@@ -40,28 +39,6 @@ constexpr BoolRow coreSwitches[] = {
     {Key::externalInterrupts, false,
      "External interrupt inputs EXTINT[3:0]; needs 16 or 32 interrupts"},
     {Key::enableDebug, true, "Debug unit"},
-};
-
-constexpr BoolRow ahbSwitches[] = {
-    {Key::enableSpiFlash, false, "SPI-Flash block on the AHB bus"},
-    {Key::enablePsram, false, "PSRAM block on the AHB bus"},
-    {Key::enableDdr3, false, "DDR3 block on the AHB bus"},
-};
-
-constexpr BoolRow apbSwitches[] = {
-    {Key::enableUart0, false, "UART 0"},
-    {Key::enableUart1, false, "UART 1"},
-    {Key::enableTimer0, false, "Timer 0"},
-    {Key::enableTimer1, false, "Timer 1"},
-    {Key::enableWatchDog, false, "Watchdog"},
-    {Key::enableRtc, false, "Real-time clock"},
-    {Key::enableI2c, false, "I2C master"},
-    {Key::enableI2cIo, false,
-     "I2C with bidirectional SCL and SDA instead of in/out/enable signals"},
-    {Key::enableSpi, false, "SPI master"},
-    {Key::enableSdCard, false, "SD-Card block"},
-    {Key::enableTrng, false, "True random number generator"},
-    {Key::enableDualTimer, false, "Dual timer"},
 };
 
 QString text(const char *latin1)
@@ -127,21 +104,31 @@ void append(QVector<Option> &table, const BoolRow (&rows)[N])
         table.append(boolOption(row.key, row.byDefault, text(row.description)));
 }
 
-void appendPorts(QVector<Option> &table, QLatin1String prefix, int count, QLatin1String bus)
+// What a block offers besides switches, by the switch that it follows.
+QVector<Option> furtherOptions(QLatin1String key)
 {
-    for (int port = 1; port <= count; ++port) {
-        const QString name = bus + " extension port "_l1 + QString::number(port);
-        table.append(boolOption(Key::extensionPortKey(prefix, port), false, name));
+    if (key == Key::enableCan) {
+        QStringList depths;
+        for (int depth = 16; depth <= 65536; depth *= 2)
+            depths.append(QString::number(depth));
+        return {choiceOption(Key::canBufferDepth, OptionType::String, QString(), depths,
+                             "CAN message buffer depth; must be set when CAN is on")};
     }
+    if (key == Key::enableEthernet) {
+        return {choiceOption(Key::ethernetInterface, OptionType::String, QString(Value::rgmii),
+                             {Value::rgmii, Value::gmii, Value::mii, Value::gmiiMii},
+                             "Interface to the Ethernet PHY"),
+                rangeOption(
+                    Key::ethernetInputDelay, 0, 0, 255,
+                    "RGMII input delay in delay steps; up to 127 except on TV5K and TV3K devices"),
+                rangeOption(Key::ethernetClockDivider, 0, 0, 255, "Divider of the MIIM clock")};
+    }
+    return {};
 }
 
 QVector<Option> buildTable()
 {
     const auto string = [](QLatin1String value) { return QString(value); };
-    QStringList canDepths;
-    for (int depth = 16; depth <= 65536; depth *= 2)
-        canDepths.append(QString::number(depth));
-
     QVector<Option> table;
     table.append(choiceOption(Key::numberOfInterrupts, OptionType::Int, 32,
                               {text("1"), text("8"), text("16"), text("32")},
@@ -170,24 +157,16 @@ QVector<Option> buildTable()
     table.append(rangeOption(Key::dtcmSize, QVariant(), 0, 9,
                              "DTCM size index: 2^index KB; the device's list may end earlier"));
 
-    table.append(boolOption(Key::enableGpio, false, text("GPIO block on the AHB bus")));
-    table.append(boolOption(Key::enableGpioIo, false,
-                            text("GPIO with bidirectional pins instead of in/out/enable signals")));
-    table.append(boolOption(Key::enableCan, false, text("CAN block on the AHB bus")));
-    table.append(choiceOption(Key::canBufferDepth, OptionType::String, QString(), canDepths,
-                              "CAN message buffer depth; must be set when CAN is on"));
-    table.append(boolOption(Key::enableEthernet, false, text("Ethernet MAC on the AHB bus")));
-    table.append(choiceOption(Key::ethernetInterface, OptionType::String, string(Value::rgmii),
-                              {Value::rgmii, Value::gmii, Value::mii, Value::gmiiMii},
-                              "Interface to the Ethernet PHY"));
-    table.append(
-        rangeOption(Key::ethernetInputDelay, 0, 0, 255,
-                    "RGMII input delay in delay steps; up to 127 except on TV5K and TV3K devices"));
-    table.append(rangeOption(Key::ethernetClockDivider, 0, 0, 255, "Divider of the MIIM clock"));
-    append(table, ahbSwitches);
-    appendPorts(table, Key::enableAhbMaster, Key::ahbMasterCount, "AHB"_l1);
-    append(table, apbSwitches);
-    appendPorts(table, Key::enableApbMaster, Key::apbMasterCount, "APB"_l1);
+    for (const Block &block : generatedBlocks()) {
+        for (const SwitchRow &row : block.switches) {
+            table.append(boolOption(row.key(), false, row.description()));
+            if (row.byDefault) {
+                table.last().dialogDefault = row.byDefault;
+                table.last().neededSwitch = block.switches[0].key();
+            }
+            table += furtherOptions(row.name);
+        }
+    }
 
     table.append(bookKeeping(choiceOption(Key::synthesisTool, OptionType::String, QVariant(),
                                           toolNames(), "Synthesis tool")));

@@ -5,15 +5,9 @@
 #include "config/optionvalue.h"
 #include "diagrampicture.h"
 #include "diagramtable.h"
-#include "dialogs/candlg.h"
+#include "dialogs/blockdialogs.h"
 #include "dialogs/cortexm1.h"
-#include "dialogs/ddr3dlg.h"
-#include "dialogs/ethernetdlg.h"
-#include "dialogs/extensiondialogs.h"
-#include "dialogs/interfacetypedialogs.h"
 #include "dialogs/messagebox.h"
-#include "dialogs/singleswitchdialogs.h"
-#include "dialogs/twoinstancedialogs.h"
 #include "ipitem.h"
 #include "lineitem.h"
 #include "textitem.h"
@@ -346,6 +340,15 @@ void IPView::onDualTimer()
 void IPView::onAPB2Extension()
 {
     openDialog<APB2ExtensionDlg>();
+}
+
+void IPView::onBlock()
+{
+    const auto *item = qobject_cast<const IPItem *>(sender());
+    const Block *block = item ? blockOfBox(item->text()) : nullptr;
+    const auto dialog = block ? makeBlockDialog(block->dialog, m_options, this) : nullptr;
+    if (dialog && dialog->exec() == QDialog::Accepted)
+        updateView();
 }
 
 void IPView::updateView()

@@ -76,6 +76,9 @@ public Q_SLOTS:
     void onAPB2Extension();
 
 private Q_SLOTS:
+    // Opens the dialog of the block that was double-clicked: for blocks without a slot of their
+    // own.
+    void onBlock();
     void onSavePicture();
 
 protected:

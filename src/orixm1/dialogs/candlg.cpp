@@ -2,16 +2,17 @@
 
 #include "ui_canconfig.h"
 
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 
 namespace TARVOORIXM1
 {
 
 CANDlg::CANDlg(OptionMap *options, QWidget *parent)
-    : PeripheralDlg(BlockId::Can, options, parent)
+    : PeripheralDlg("CANDlg"_l1, options, parent)
     , ui(makeForm<Ui::CANConfig>())
 {
-    start({ui->enableCanCheckBox}, SIGNAL(clicked()));
+    start();
 }
 
 CANDlg::~CANDlg() = default;

@@ -2,16 +2,17 @@
 
 #include "ui_ddr3config.h"
 
+#include "config/latin1literal.h"
 #include "rules/devicerules.h"
 
 namespace TARVOORIXM1
 {
 
 DDR3Dlg::DDR3Dlg(OptionMap *options, QWidget *parent)
-    : PeripheralDlg(BlockId::Ddr3, options, parent)
+    : PeripheralDlg("DDR3Dlg"_l1, options, parent)
     , ui(makeForm<Ui::DDR3Config>())
 {
-    start({ui->enableDDR3CheckBox}, SIGNAL(clicked()));
+    start();
     // Refreshes nothing: the pins of a stored configuration stay in sight although the device
     // cannot have them.
     if (isDdr3Locked(targetDevice())) {

@@ -2,6 +2,7 @@
 
 #include "ui_ethernetconfig.h"
 
+#include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "rules/devicerules.h"
 
@@ -9,10 +10,10 @@ namespace TARVOORIXM1
 {
 
 EthernetDlg::EthernetDlg(OptionMap *options, QWidget *parent)
-    : PeripheralDlg(BlockId::Ethernet, options, parent)
+    : PeripheralDlg("EthernetDlg"_l1, options, parent)
     , ui(makeForm<Ui::EthernetConfig>())
 {
-    start({ui->enableEthernetCheckBox}, SIGNAL(toggled(bool)));
+    start();
 }
 
 EthernetDlg::~EthernetDlg() = default;

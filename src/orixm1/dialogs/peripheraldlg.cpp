@@ -2,9 +2,9 @@
 
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
+#include "config/pintables.h"
 #include "rules/dialogdefaults.h"
 #include "rules/pins.h"
-#include "rules/pintables.h"
 
 #include <QCheckBox>
 #include <QScrollArea>
@@ -12,30 +12,51 @@
 namespace TARVOORIXM1
 {
 
-PeripheralDlg::PeripheralDlg(BlockId id, OptionMap *options, QWidget *parent)
+PeripheralDlg::PeripheralDlg(QLatin1String name, OptionMap *options, QWidget *parent)
     : MicroSysChildIPGenDlg(parent)
-    , m_block(block(id))
+    , m_block(block(name))
     , m_options(options)
 {
     setWindowTitle(m_block.title);
-    uiSetModuleName(m_block.module);
+    uiSetModuleName(m_block.module());
     uiSetLabelText(m_block.title);
     uiSetSummaryText(m_block.summary);
 }
 
-void PeripheralDlg::start(const QVector<QCheckBox *> &switches, const char *refreshSignal)
+void PeripheralDlg::start()
 {
-    Q_ASSERT(switches.size() == m_block.switches.size());
-    m_switches = switches;
+    m_switches = m_area->findChildren<QCheckBox *>();
+    Q_ASSERT(m_switches.size() == m_block.switches.size());
     connectOptions();
-    if (refreshSignal) {
-        for (const QCheckBox *box : switches)
-            connect(box, refreshSignal, this, SLOT(refreshFigure()));
+    connectSwitches();
+    for (int i = 0; i < m_switches.size(); ++i) {
+        const SwitchRow &row = m_block.switches[i];
+        m_switches.at(i)->setChecked(stored(row.key()).toBool());
+        // Loading is no click.
+        if (row.isInterface)
+            m_switches.at(i)->setEnabled(m_switches.first()->isChecked());
     }
-    for (int i = 0; i < switches.size(); ++i)
-        switches.at(i)->setChecked(stored(m_block.switches[i].key()).toBool());
     loadOptions();
     refreshFigure();
+}
+
+void PeripheralDlg::connectSwitches()
+{
+    for (int i = 0; i < m_switches.size(); ++i) {
+        const QCheckBox *box = m_switches.at(i);
+        if (m_block.switches[i].isInterface)
+            connect(m_switches.first(), SIGNAL(clicked(bool)), box, SLOT(setEnabled(bool)));
+        switch (m_block.redraw) {
+        case Redraw::OnToggle:
+            connect(box, SIGNAL(toggled(bool)), this, SLOT(refreshFigure()));
+            break;
+        case Redraw::OnClick:
+            connect(box, SIGNAL(clicked()), this, SLOT(refreshFigure()));
+            break;
+        case Redraw::Never:
+            break;
+        }
+    }
 }
 
 void PeripheralDlg::accept()

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "config/blocks.h"
 #include "config/optionmap.h"
-#include "rules/blocks.h"
 
 #include <ipcore/microsyschildipgendlg.h>
 
-#include <QVector>
+#include <QList>
 
 #include <memory>
 
@@ -17,7 +17,8 @@ namespace TARVOORIXM1
 
 // What the dialogs of all optional blocks have in common: the header, a page "Options" with the
 // block's form, loading from the option map, the pin figure, and writing the map on OK. The map is
-// the caller's and must outlive the dialog.
+// the caller's and must outlive the dialog. Dialogs that have only switches are made by the build
+// from their forms (blockdialogs.cmake).
 //
 // A subclass makes its form with makeForm() and calls start() as the last thing that the frame
 // does for it; start() runs connectOptions(), connects the switches, loads them, runs loadOptions()
@@ -38,7 +39,8 @@ protected Q_SLOTS:
     void refreshFigure();
 
 protected:
-    PeripheralDlg(BlockId id, OptionMap *options, QWidget *parent);
+    // `name` is that of the class itself, by which it finds its block.
+    PeripheralDlg(QLatin1String name, OptionMap *options, QWidget *parent);
 
     // The form, set up on the page "Options".
     template <class Form>
@@ -52,9 +54,8 @@ protected:
         return form;
     }
 
-    // The check boxes, in the order of the block's switches, and the signal of theirs that
-    // refreshes the figure; none if null.
-    void start(const QVector<QCheckBox *> &switches, const char *refreshSignal);
+    // Takes the form's check boxes for the block's switches, in their order.
+    void start();
 
     // Options other than the switches. Connections made here exist while everything is loaded;
     // switches are loaded and stored first.
@@ -64,17 +65,18 @@ protected:
     // The chosen item of the choice that the pins follow.
     virtual int choice() const { return -1; }
 
-    QCheckBox *switchBox(int index) const { return m_switches.at(index); }
     OptionMap &options() const { return *m_options; }
     // The option's value, or what the dialogs take for an absent one.
     QVariant stored(const QString &key) const;
     QString targetDevice() const;
 
 private:
+    void connectSwitches();
+
     const Block &m_block;
     OptionMap *m_options;
     QScrollArea *m_area = nullptr; // around the whole form
-    QVector<QCheckBox *> m_switches;
+    QList<QCheckBox *> m_switches;
 };
 
 } // namespace TARVOORIXM1

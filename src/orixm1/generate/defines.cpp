@@ -1,5 +1,6 @@
 #include "defines.h"
 
+#include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
@@ -48,57 +49,16 @@ constexpr QLatin1String sizeCodes[] = {
 constexpr QLatin1String catchAllSizeCode = "0110"_l1;
 constexpr QLatin1String externalSizeCode = "0000"_l1;
 
-// One line of the bus file per switched-on block.
-struct BusSwitch {
-    QLatin1String key;
-    QLatin1String macro;
-    QLatin1String subKey = QLatin1String(); // looked at only when `key` is on
-    QLatin1String subMacro = QLatin1String();
-};
-
-constexpr BusSwitch gpioSwitch = {Key::enableGpio, "TARVO_GPIO_SUPPORT"_l1, Key::enableGpioIo,
-                                  "GPIO_IOBUF_EN"_l1};
-constexpr BusSwitch spiFlashSwitch = {Key::enableSpiFlash, "TARVO_SPI_FLASH_SUPPORT"_l1};
-constexpr BusSwitch psramSwitch = {Key::enablePsram, "TARVO_PSRAM_SUPPORT"_l1};
-
-// In the order of their lines; any of them makes the internal APB bus exist.
-constexpr BusSwitch apbSwitches[] = {
-    {Key::enableUart0, "TARVO_UART0_SUPPORT"_l1},
-    {Key::enableUart1, "TARVO_UART1_SUPPORT"_l1},
-    {Key::enableTimer0, "TARVO_TIMER0_SUPPORT"_l1},
-    {Key::enableTimer1, "TARVO_TIMER1_SUPPORT"_l1},
-    {Key::enableWatchDog, "TARVO_WDOG_SUPPORT"_l1},
-    {Key::enableRtc, "TARVO_RTC_SUPPORT"_l1},
-    {Key::enableI2c, "TARVO_I2C_SUPPORT"_l1, Key::enableI2cIo, "I2C_IOBUF_EN"_l1},
-    {Key::enableSpi, "TARVO_SPI_SUPPORT"_l1},
-    {Key::enableSdCard, "TARVO_SD_SUPPORT"_l1},
-    {Key::enableTrng, "TARVO_TRNG_SUPPORT"_l1},
-    {Key::enableDualTimer, "TARVO_DTIMER_SUPPORT"_l1},
-};
-
-// Returns whether the block is on.
-bool appendSwitch(const OptionMap &options, const BusSwitch &row, QStringList &lines)
+// The lines of the block's switches that are on; returns whether there are any.
+bool appendSwitches(const OptionMap &options, const Block &block, QStringList &lines)
 {
-    if (!isOn(options, row.key))
-        return false;
-    lines.append(define(row.macro));
-    if (row.subKey.size() > 0 && isOn(options, row.subKey))
-        lines.append(define(row.subMacro));
-    return true;
-}
-
-// "`define TARVO_AHB3_SUPPORT" for each enabled port; returns whether any is enabled.
-bool appendExtensionPorts(const OptionMap &options, QLatin1String keyPrefix, int count,
-                          QLatin1String bus, QStringList &lines)
-{
-    bool any = false;
-    for (int port = 1; port <= count; ++port) {
-        if (!isOn(options, Key::extensionPortKey(keyPrefix, port)))
-            continue;
-        any = true;
-        lines.append("`define TARVO_"_l1 + bus + QString::number(port) + "_SUPPORT"_l1);
+    const int before = lines.size();
+    const bool isFirstOn = isOn(options, block.switches[0].key());
+    for (const SwitchRow &row : block.switches) {
+        if (isOn(options, row.key()) && (isFirstOn || !row.isInterface))
+            lines.append("`define "_l1 + row.macro());
     }
-    return any;
+    return lines.size() > before;
 }
 
 struct MacInterface {
@@ -164,39 +124,61 @@ void appendDataMemory(const OptionMap &options, const QString &device, QStringLi
     }
 }
 
-void appendEthernet(const OptionMap &options, PeripheralDefines &defines)
+// The macros of the interface to the PHY, if it is a known one.
+QStringList macMacros(const OptionMap &options)
+{
+    const QString interface = textOf(options, Key::ethernetInterface);
+    QStringList macros;
+    for (const MacInterface &row : macInterfaces) {
+        for (const QLatin1String macro : row.macros) {
+            if (interface == row.name && macro.size() > 0)
+                macros.append(macro);
+        }
+    }
+    return macros;
+}
+
+void appendMac(const OptionMap &options, QStringList &defineLines, QStringList &paramLines)
 {
     constexpr QLatin1String delay = "RGMII_INPUT_DELAY_VALUE"_l1;
     constexpr QLatin1String divider = "MIIM_CLK_DIVIDER"_l1;
-    defines.macDefineLines.append(QStringLiteral("`ifndef MAC_DEFINE"));
-    defines.macDefineLines.append(define("MAC_DEFINE"_l1));
-    if (!isOn(options, Key::enableEthernet)) {
-        defines.macDefineLines.append(define("RGMII_IF"_l1));
-        defines.macDefineLines.append(define(macModuleName));
-        defines.macParamLines.append(parameter(delay, QStringLiteral("100")));
-        defines.macParamLines.append(parameter(divider, QStringLiteral("20")));
-    } else {
-        defines.busLines.append(define("TARVO_INTERNET_SUPPORT"_l1));
-        const QString interface = textOf(options, Key::ethernetInterface);
-        for (const MacInterface &row : macInterfaces) {
-            if (interface != row.name)
-                continue;
-            for (const QLatin1String macro : row.macros) {
-                if (macro.size() == 0)
-                    continue;
-                defines.busLines.append(define(macro));
-                defines.macDefineLines.append(define(macro));
-            }
-            defines.macDefineLines.append(define(macModuleName));
-        }
-        if (interface == Value::rgmii) {
-            const int value = numberOf(options, Key::ethernetInputDelay);
-            defines.macParamLines.append(parameter(delay, QString::number(value)));
-        }
-        const int value = numberOf(options, Key::ethernetClockDivider);
-        defines.macParamLines.append(parameter(divider, QString::number(value)));
+    const bool on = isOn(options, Key::enableEthernet);
+    const QStringList macros = on ? macMacros(options) : QStringList("RGMII_IF"_l1);
+    defineLines.append(QStringLiteral("`ifndef MAC_DEFINE"));
+    defineLines.append(define("MAC_DEFINE"_l1));
+    for (const QString &macro : macros)
+        defineLines.append("`define "_l1 + macro);
+    if (!macros.isEmpty())
+        defineLines.append(define(macModuleName));
+    defineLines.append(QStringLiteral("`endif"));
+
+    if (!on) {
+        paramLines.append(parameter(delay, QStringLiteral("100")));
+        paramLines.append(parameter(divider, QStringLiteral("20")));
+        return;
     }
-    defines.macDefineLines.append(QStringLiteral("`endif"));
+    if (textOf(options, Key::ethernetInterface) == Value::rgmii) {
+        const int value = numberOf(options, Key::ethernetInputDelay);
+        paramLines.append(parameter(delay, QString::number(value)));
+    }
+    const int value = numberOf(options, Key::ethernetClockDivider);
+    paramLines.append(parameter(divider, QString::number(value)));
+}
+
+// What stands in the bus file behind a block's own lines.
+void appendFurther(const OptionMap &options, const Block &block, const QString &device,
+                   QStringList &lines)
+{
+    const QLatin1String key = block.switches[0].name;
+    if (key == Key::enableEthernet) {
+        const QStringList macros = macMacros(options);
+        for (const QString &macro : macros)
+            lines.append("`define "_l1 + macro);
+    } else if (key == Key::enableDdr3) {
+        const QLatin1String macro = deviceFamily(device).ddr3BusMacro;
+        if (macro.size() > 0)
+            lines.append(define(macro));
+    }
 }
 
 void appendDdr3Variant(const QString &device, QStringList &lines)
@@ -253,37 +235,25 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
                             PeripheralDefines &defines)
 {
     const QString name = device.device();
-    constexpr QLatin1String canDepth = "CFIFO_DEPTH"_l1;
-
-    appendSwitch(options, gpioSwitch, defines.busLines);
-    if (isOn(options, Key::enableCan)) {
-        defines.busLines.append(define("TARVO_CAN_SUPPORT"_l1));
-        const QString depth = textOf(options, Key::canBufferDepth);
-        defines.paramLines.append(parameter(canDepth, depth));
-    } else {
-        defines.paramLines.append(parameter(canDepth, QStringLiteral("256")));
-    }
-    appendEthernet(options, defines);
-    const DeviceFamily &family = deviceFamily(name);
-    defines.macParamLines.append(parameter("DEVICE"_l1, family.macDevice));
-    appendSwitch(options, spiFlashSwitch, defines.busLines);
-    appendSwitch(options, psramSwitch, defines.busLines);
-    if (isOn(options, Key::enableDdr3)) {
-        defines.busLines.append(define("TARVO_DDR3_SUPPORT"_l1));
-        if (family.ddr3BusMacro.size() > 0)
-            defines.busLines.append(define(family.ddr3BusMacro));
-    }
-    appendExtensionPorts(options, Key::enableAhbMaster, Key::ahbMasterCount, "AHB"_l1,
-                         defines.busLines);
     bool anyInternal = false;
-    for (const BusSwitch &row : apbSwitches)
-        anyInternal |= appendSwitch(options, row, defines.busLines);
-    const bool anyExternal = appendExtensionPorts(options, Key::enableApbMaster,
-                                                  Key::apbMasterCount, "APB"_l1, defines.busLines);
+    bool anyExternal = false;
+    for (const Block &block : generatedBlocks()) {
+        if (!appendSwitches(options, block, defines.busLines))
+            continue;
+        appendFurther(options, block, name, defines.busLines);
+        if (block.bus == Bus::Apb)
+            (block.hasPorts() ? anyExternal : anyInternal) = true;
+    }
     if (anyExternal)
         defines.busLines.append(define("TARVO_APBEXT_SUPPORT"_l1));
     if (anyInternal)
         defines.busLines.append(define("TARVO_APBINT_SUPPORT"_l1));
+
+    const QString canDepth = isOn(options, Key::enableCan) ? textOf(options, Key::canBufferDepth)
+                                                           : QStringLiteral("256");
+    defines.paramLines.append(parameter("CFIFO_DEPTH"_l1, canDepth));
+    appendMac(options, defines.macDefineLines, defines.macParamLines);
+    defines.macParamLines.append(parameter("DEVICE"_l1, deviceFamily(name).macDevice));
     appendDdr3Variant(name, defines.ddr3Lines);
     appendPsramVariant(options, device, defines.psramLines);
 }

@@ -2,13 +2,25 @@
 
 #include "config/optiontable.h"
 #include "config/optionvalue.h"
-#include "pintables.h"
+#include "config/pintables.h"
+#include "devicerules.h"
 
 namespace TARVOORIXM1
 {
 
 namespace
 {
+
+bool isAmong(const QString &device, PinDevices devices)
+{
+    switch (devices) {
+    case PinDevices::All:
+        return true;
+    case PinDevices::WithDdr3Stop:
+        return hasDdr3StopSignal(device);
+    }
+    Q_UNREACHABLE();
+}
 
 bool applies(const PinGroup &group, const BlockState &state)
 {
@@ -17,7 +29,7 @@ bool applies(const PinGroup &group, const BlockState &state)
     if (group.choices != anyChoice &&
         (state.choice < 0 || (group.choices & switchBit(state.choice)) == 0))
         return false;
-    return !group.devices || group.devices(state.device);
+    return isAmong(state.device, group.devices);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "blocks.h"
+#include "config/blocks.h"
 #include "config/optionmap.h"
 
 #include <utils/pinfigure.h>

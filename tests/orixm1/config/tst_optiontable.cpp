@@ -1,5 +1,6 @@
 #include "testsupport.h"
 
+#include <config/blocks.h>
 #include <config/optiontable.h>
 
 #include <QSet>
@@ -32,8 +33,46 @@ void tst_OptionTable::holdsEveryKeyOnce()
         QVERIFY(findOption(option.key) == &option);
         keys.insert(option.key);
     }
-    // 40 single options, 22 extension ports, 4 entries that are no options.
-    QCOMPARE(keys.size(), 40 + 6 + 16 + 4);
+    // Beside the switches of the blocks:
+    QSet<QString> expected;
+    for (const char *key : {"Number of Interrupts",
+                            "OS Extension",
+                            "Small Multiplier",
+                            "Big Endian",
+                            "External Interrupts",
+                            "Enable Debug",
+                            "Debug Port Select",
+                            "Small Debug",
+                            "Internal_Instruction_Memory",
+                            "External_Instruction_Memory",
+                            "Initialize ITCM",
+                            "ITCM_Initialization_Path",
+                            "ITCM_Initialization_AbsolutePath",
+                            "ITCM_Size",
+                            "Internal_Data_Memory",
+                            "External_Data_Memory",
+                            "DTCM_Size",
+                            "CAN_BUFFER_DEPTH",
+                            "ETHERNET_INTERFACE",
+                            "ETHERNET_INPUT_DELAY",
+                            "ETHERNET_CLOCK_DIVIDER"}) {
+        const Option *option = findOption(QString::fromLatin1(key));
+        QVERIFY2(option && option->isOption, key);
+        expected.insert(option->key);
+    }
+    for (const char *key : {"Synthesis_tool", "LANG", "ip_device_id", "ip_device"}) {
+        const Option *option = findOption(QString::fromLatin1(key));
+        QVERIFY2(option && !option->isOption, key);
+        expected.insert(option->key);
+    }
+    for (const Block &block : blocks()) {
+        for (const SwitchRow &row : block.switches) {
+            const Option *option = findOption(row.key());
+            QVERIFY2(option && option->isOption, qPrintable(row.key()));
+            expected.insert(option->key);
+        }
+    }
+    QCOMPARE(keys, expected);
     QVERIFY(keys.contains(QStringLiteral("Enable_AHB_Master6")));
     QVERIFY(keys.contains(QStringLiteral("Enable_APB_Master16")));
     QVERIFY(keys.contains(QStringLiteral("Enabel GPIO IO")));

@@ -141,18 +141,8 @@ private:
             p = pins(on[1] ? Pins::gpioInout : Pins::gpioSplit);
         else if (is("I2CDlg"))
             p = pins(on[1] ? Pins::i2cInout : Pins::i2cSplit);
-        else if (is("CANDlg"))
-            p = pins(Pins::can);
-        else if (is("SPIFlashDlg"))
-            p = pins(Pins::spiFlash);
-        else if (is("SDCardDlg"))
-            p = pins(Pins::sdCard);
-        else if (is("RTCDlg"))
-            p = pins(Pins::rtc);
-        else if (is("SPIDlg"))
-            p = pins(Pins::spi);
-        else if (is("PSRAMDlg"))
-            p = pins(Pins::psram);
+        else if (*m_expected.pins)
+            p = pins(m_expected.pins);
         else if (is("DDR3Dlg"))
             p = (wide ? pins(Pins::ddr3Stop) : QStringList()) + pins(Pins::ddr3);
         else if (is("EthernetDlg")) {

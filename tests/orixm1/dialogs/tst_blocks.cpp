@@ -56,6 +56,7 @@ class tst_Blocks : public QObject
 private Q_SLOTS:
     void theTableHasThemAll();
     void everySwitchIsAnOption();
+    void dialogsAreMadeByTheirNames();
     void everyDialogShowsItsTexts_data();
     void everyDialogShowsItsTexts();
     void everyFormIsNamed_data();
@@ -85,14 +86,15 @@ private:
 
 void tst_Blocks::theTableHasThemAll()
 {
-    QCOMPARE(blocks().size(), 17);
-    QCOMPARE(int(Expected::blocks().size()), 17);
+    QCOMPARE(blocks().size(), int(Expected::blocks().size()));
+    QCOMPARE(generatedBlocks().size(), blocks().size());
     for (int i = 0; i < blocks().size(); ++i) {
         const Block &row = blocks()[i];
         const Expected::Block &expected = Expected::blocks().at(size_t(i));
-        QCOMPARE(&block(row.id), &row);
+        QCOMPARE(QString(row.dialog), text(expected.dialog));
+        QCOMPARE(&block(row.dialog), &row);
         QCOMPARE(QString(row.title), text(expected.title));
-        QCOMPARE(QString(row.module), text(expected.module));
+        QCOMPARE(QString(row.module()), text(expected.module));
         QCOMPARE(QString(row.summary), text(expected.summary));
         QCOMPARE(row.switches.size(), int(expected.switches.size()));
         for (int j = 0; j < row.switches.size(); ++j) {
@@ -112,10 +114,26 @@ void tst_Blocks::everySwitchIsAnOption()
             QCOMPARE(option->type, OptionType::Bool);
             QCOMPARE(option->defaultValue, QVariant(false));
         }
-        QCOMPARE(row.choiceKey.size() > 0, row.id == BlockId::Ethernet);
+        QCOMPARE(row.choiceKey.size() > 0, row.dialog == QLatin1String("EthernetDlg"));
     }
-    QCOMPARE(findOption(block(BlockId::Ethernet).choiceKey)->choices,
+    QCOMPARE(findOption(block(QLatin1String("EthernetDlg")).choiceKey)->choices,
              QStringList({text("RGMII"), text("GMII"), text("MII"), text("GMII/MII")}));
+}
+
+void tst_Blocks::dialogsAreMadeByTheirNames()
+{
+    OptionMap map;
+    QWidget parent;
+    for (const Block &row : blocks()) {
+        const std::unique_ptr<PeripheralDlg> dialog = makeBlockDialog(row.dialog, &map, &parent);
+        QVERIFY2(dialog, row.dialog.data());
+        QCOMPARE(text(dialog->metaObject()->className()),
+                 QString(text("TARVOORIXM1::") + row.dialog));
+        QCOMPARE(dialog->parentWidget(), &parent);
+        QCOMPARE(dialog->labelText(), QString(row.title));
+    }
+    QVERIFY(!makeBlockDialog(QLatin1String("CortexM1"), &map));
+    QVERIFY(!makeBlockDialog(QLatin1String(), &map));
 }
 
 void tst_Blocks::everyDialogShowsItsTexts_data()
@@ -334,64 +352,64 @@ void tst_Blocks::figuresFitWithoutScrollBars()
 
 void tst_Blocks::pinsFollowTheSwitches_data()
 {
-    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("dialog");
     QTest::addColumn<int>("switches");
     QTest::addColumn<int>("choice");
     QTest::addColumn<QString>("device");
     QTest::addColumn<QStringList>("pins");
-    const auto row = [](const char *phrase, BlockId id, int switches,
+    const auto row = [](const char *phrase, const char *dialog, int switches,
                         const std::vector<const char *> &lists, int choice = -1,
                         const char *device = "TV2K-18") {
         QStringList pins;
         for (const char *list : lists)
             pins += Expected::pins(list);
-        QTest::newRow(phrase) << int(id) << switches << choice << text(device) << pins;
+        QTest::newRow(phrase) << text(dialog) << switches << choice << text(device) << pins;
     };
     namespace Pins = Expected::Pins;
     for (const Block &each : blocks())
-        row(qPrintable(QString(each.title) + u" off"), each.id, 0, {}, 0, "TV5KT-138B");
-    row("GPIO, bidirectional", BlockId::Gpio, 3, {Pins::gpioInout});
-    row("GPIO, split", BlockId::Gpio, 1, {Pins::gpioSplit});
-    row("GPIO off, bidirectional", BlockId::Gpio, 2, {});
-    row("CAN", BlockId::Can, 1, {Pins::can});
-    row("Ethernet, no interface", BlockId::Ethernet, 1, {Pins::ethernet}, -1);
-    row("Ethernet, RGMII", BlockId::Ethernet, 1, {Pins::ethernet, Pins::rgmii}, 0);
-    row("Ethernet, GMII", BlockId::Ethernet, 1, {Pins::ethernet, Pins::gmii}, 1);
-    row("Ethernet, MII", BlockId::Ethernet, 1, {Pins::ethernet, Pins::mii}, 2);
-    row("Ethernet, both", BlockId::Ethernet, 1, {Pins::ethernet, Pins::gmii, Pins::mii}, 3);
-    row("DDR3", BlockId::Ddr3, 1, {Pins::ddr3});
-    row("DDR3 on TV5K", BlockId::Ddr3, 1, {Pins::ddr3Stop, Pins::ddr3}, -1, "TV5K-25A");
-    row("DDR3 on TV3K", BlockId::Ddr3, 1, {Pins::ddr3Stop, Pins::ddr3}, -1, "TV3KR-20A");
-    row("DDR3 on tv3k", BlockId::Ddr3, 1, {Pins::ddr3}, -1, "tv3kr-20a");
-    row("DDR3 on no device", BlockId::Ddr3, 1, {Pins::ddr3}, -1, "");
-    row("DDR3 on TV1L-9C", BlockId::Ddr3, 1, {Pins::ddr3}, -1, "TV1L-9C");
-    row("PSRAM", BlockId::Psram, 1, {Pins::psram});
-    row("SPI-Flash", BlockId::SpiFlash, 1, {Pins::spiFlash});
-    row("UART0", BlockId::Uart, 1, {Pins::uart0});
-    row("UART1", BlockId::Uart, 2, {Pins::uart1});
-    row("both UARTs", BlockId::Uart, 3, {Pins::uart0, Pins::uart1});
-    row("Timer0", BlockId::Timer, 1, {Pins::timer0});
-    row("Timer1", BlockId::Timer, 2, {Pins::timer1});
-    row("both timers", BlockId::Timer, 3, {Pins::timer0, Pins::timer1});
-    row("WatchDog", BlockId::WatchDog, 1, {});
-    row("RTC", BlockId::Rtc, 1, {Pins::rtc});
-    row("TRNG", BlockId::Trng, 1, {});
-    row("DualTimer", BlockId::DualTimer, 1, {});
-    row("I2C, bidirectional", BlockId::I2c, 3, {Pins::i2cInout});
-    row("I2C, split", BlockId::I2c, 1, {Pins::i2cSplit});
-    row("I2C off, bidirectional", BlockId::I2c, 2, {});
-    row("SPI", BlockId::Spi, 1, {Pins::spi});
-    row("SD-Card", BlockId::SdCard, 1, {Pins::sdCard});
+        row(qPrintable(QString(each.title) + u" off"), each.dialog.data(), 0, {}, 0, "TV5KT-138B");
+    row("GPIO, bidirectional", "GPIODlg", 3, {Pins::gpioInout});
+    row("GPIO, split", "GPIODlg", 1, {Pins::gpioSplit});
+    row("GPIO off, bidirectional", "GPIODlg", 2, {});
+    row("CAN", "CANDlg", 1, {Pins::can});
+    row("Ethernet, no interface", "EthernetDlg", 1, {Pins::ethernet}, -1);
+    row("Ethernet, RGMII", "EthernetDlg", 1, {Pins::ethernet, Pins::rgmii}, 0);
+    row("Ethernet, GMII", "EthernetDlg", 1, {Pins::ethernet, Pins::gmii}, 1);
+    row("Ethernet, MII", "EthernetDlg", 1, {Pins::ethernet, Pins::mii}, 2);
+    row("Ethernet, both", "EthernetDlg", 1, {Pins::ethernet, Pins::gmii, Pins::mii}, 3);
+    row("DDR3", "DDR3Dlg", 1, {Pins::ddr3});
+    row("DDR3 on TV5K", "DDR3Dlg", 1, {Pins::ddr3Stop, Pins::ddr3}, -1, "TV5K-25A");
+    row("DDR3 on TV3K", "DDR3Dlg", 1, {Pins::ddr3Stop, Pins::ddr3}, -1, "TV3KR-20A");
+    row("DDR3 on tv3k", "DDR3Dlg", 1, {Pins::ddr3}, -1, "tv3kr-20a");
+    row("DDR3 on no device", "DDR3Dlg", 1, {Pins::ddr3}, -1, "");
+    row("DDR3 on TV1L-9C", "DDR3Dlg", 1, {Pins::ddr3}, -1, "TV1L-9C");
+    row("PSRAM", "PSRAMDlg", 1, {Pins::psram});
+    row("SPI-Flash", "SPIFlashDlg", 1, {Pins::spiFlash});
+    row("UART0", "UartDlg", 1, {Pins::uart0});
+    row("UART1", "UartDlg", 2, {Pins::uart1});
+    row("both UARTs", "UartDlg", 3, {Pins::uart0, Pins::uart1});
+    row("Timer0", "TimerDlg", 1, {Pins::timer0});
+    row("Timer1", "TimerDlg", 2, {Pins::timer1});
+    row("both timers", "TimerDlg", 3, {Pins::timer0, Pins::timer1});
+    row("WatchDog", "WatchDogDlg", 1, {});
+    row("RTC", "RTCDlg", 1, {Pins::rtc});
+    row("TRNG", "TrngDlg", 1, {});
+    row("DualTimer", "DualTimerDlg", 1, {});
+    row("I2C, bidirectional", "I2CDlg", 3, {Pins::i2cInout});
+    row("I2C, split", "I2CDlg", 1, {Pins::i2cSplit});
+    row("I2C off, bidirectional", "I2CDlg", 2, {});
+    row("SPI", "SPIDlg", 1, {Pins::spi});
+    row("SD-Card", "SDCardDlg", 1, {Pins::sdCard});
 }
 
 void tst_Blocks::pinsFollowTheSwitches()
 {
-    QFETCH(int, id);
+    QFETCH(QString, dialog);
     QFETCH(int, switches);
     QFETCH(int, choice);
     QFETCH(QString, device);
     const QList<Utils::PinFigure> pins =
-        blockPins(block(BlockId(id)), {unsigned(switches), choice, device});
+        blockPins(block(QLatin1String(dialog.toLatin1())), {unsigned(switches), choice, device});
     QTEST(Expected::words(pins), "pins");
 }
 
@@ -403,7 +421,8 @@ void tst_Blocks::portPinsFollowTheirSwitch()
             if (switches >> (port - 1) & 1)
                 expected += Expected::pins(Expected::Pins::ahbPort, port);
         }
-        QCOMPARE(Expected::words(blockPins(block(BlockId::AhbMasters), {switches, -1, {}})),
+        QCOMPARE(Expected::words(
+                     blockPins(block(QLatin1String("AHB2ExtensionDlg")), {switches, -1, {}})),
                  expected);
     }
     for (unsigned switches = 0; switches < 65536; switches += 97) {
@@ -412,15 +431,18 @@ void tst_Blocks::portPinsFollowTheirSwitch()
             if (switches >> (port - 1) & 1)
                 expected += Expected::pins(Expected::Pins::apbPort, port);
         }
-        QCOMPARE(Expected::words(blockPins(block(BlockId::ApbMasters), {switches, -1, {}})),
+        QCOMPARE(Expected::words(
+                     blockPins(block(QLatin1String("APB2ExtensionDlg")), {switches, -1, {}})),
                  expected);
     }
     // One port of each bus as it stands in a figure, blanks included.
-    const QList<Utils::PinFigure> ahb = blockPins(block(BlockId::AhbMasters), {4, -1, {}});
+    const QList<Utils::PinFigure> ahb =
+        blockPins(block(QLatin1String("AHB2ExtensionDlg")), {4, -1, {}});
     QCOMPARE(ahb.size(), 16);
     QCOMPARE(ahb.at(6), Utils::PinFigure(text("AHB3HSIZE[2:0] "), 1, true, Qt::AlignRight));
     QCOMPARE(ahb.at(0), Utils::PinFigure(text("AHB3HRDATA[31:0]"), 0, true, Qt::AlignLeft));
-    const QList<Utils::PinFigure> apb = blockPins(block(BlockId::ApbMasters), {1u << 15, -1, {}});
+    const QList<Utils::PinFigure> apb =
+        blockPins(block(QLatin1String("APB2ExtensionDlg")), {1u << 15, -1, {}});
     QCOMPARE(apb.size(), 12);
     QCOMPARE(apb.at(6), Utils::PinFigure(text("APB16PSEL"), 1, false, Qt::AlignRight));
     QCOMPARE(apb.at(8), Utils::PinFigure(text("APB16PREDADY"), 0, false, Qt::AlignLeft));

@@ -17,37 +17,25 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
-// The block of the diagram, the dialog that it opens, and the check box that switches it on;
-// PSRAM never looks switched on.
+// A block of the diagram, and one of the check boxes that its look follows.
 struct Opening {
-    const char *label;
-    const char *dialog;
-    const char *box;
-    const char *key;
-    bool recolours = true;
+    const Expected::Block *block;
+    const Expected::Box *box;
+    const Expected::Switch *shownBy;
 };
 
-const Opening openings[] = {
-    {"GPIO", "GPIODlg", "enableGpioCheckBox", "Enable GPIO"},
-    {"CAN", "CANDlg", "enableCanCheckBox", "Enable CAN"},
-    {"Ethernet", "EthernetDlg", "enableEthernetCheckBox", "Enable Ethernet"},
-    {"DDR3", "DDR3Dlg", "enableDDR3CheckBox", "Enable DDR3"},
-    {"PSRAM", "PSRAMDlg", "enablePsramCheckBox", "Enable PSRAM", false},
-    {"SPI-Flash", "SPIFlashDlg", "enableSpiFlashCheckBox", "Enable SPI-Flash"},
-    {"AHB Master [1-6]", "AHB2ExtensionDlg", "enableAhbMaster6CheckBox", "Enable_AHB_Master6"},
-    {"UART0", "UartDlg", "enableUart0CheckBox", "Enable UART0"},
-    {"UART1", "UartDlg", "enableUart1CheckBox", "Enable UART1"},
-    {"Timer0", "TimerDlg", "enableTimer0CheckBox", "Enable Timer0"},
-    {"Timer1", "TimerDlg", "enableTimer1CheckBox", "Enable Timer1"},
-    {"Watch Dog", "WatchDogDlg", "enableWatchDogCheckBox", "Enable WatchDog"},
-    {"RTC", "RTCDlg", "enableRtcCheckBox", "Enable RTC"},
-    {"TRNG", "TrngDlg", "enableTrngCheckBox", "Enable TRNG"},
-    {"Dual Timer", "DualTimerDlg", "enableDualTimerCheckBox", "Enable DUALTIMER"},
-    {"I2C", "I2CDlg", "enableI2CCheckBox", "Enable I2C"},
-    {"SPI", "SPIDlg", "enableSPICheckBox", "Enable SPI"},
-    {"SD-Card", "SDCardDlg", "enableSDCardCheckBox", "Enable SDCARD"},
-    {"APB Master [1-16]", "APB2ExtensionDlg", "enableAPBMaster7CheckBox", "Enable_APB_Master7"},
-};
+const std::vector<Opening> &openings()
+{
+    static const std::vector<Opening> list = [] {
+        std::vector<Opening> all;
+        for (const Expected::Block &block : Expected::blocks()) {
+            for (size_t i = 0; i < block.boxes.size(); ++i)
+                all.push_back({&block, &block.boxes.at(i), &block.shownBy(i)});
+        }
+        return all;
+    }();
+    return list;
+}
 
 class View : public IPView
 {
@@ -119,26 +107,28 @@ private Q_SLOTS:
     void aDoubleClickOpensTheDialog_data();
     void aDoubleClickOpensTheDialog();
     void enterOpensTheDialogToo();
+    void aBlockNeedsNoSlotOfItsOwn();
     void everyBlockIsCovered();
 };
 
 void tst_OpeningBlocks::aDoubleClickOpensTheDialog_data()
 {
     QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(openings)); ++i)
-        QTest::newRow(openings[i].label) << i;
+    for (size_t i = 0; i < openings().size(); ++i)
+        QTest::newRow(openings().at(i).box->label) << int(i);
 }
 
 // Cancelled, accepted with the block on, and accepted with it off again.
 void tst_OpeningBlocks::aDoubleClickOpensTheDialog()
 {
     QFETCH(int, index);
-    const Opening &row = openings[index];
+    const Opening &row = openings().at(size_t(index));
     OptionMap map = {{Key::ipDevice, text("TV2KR-18C")}};
     View view(&map);
-    const IPItem *block = view.block(text(row.label));
+    const IPItem *block = view.block(text(row.box->label));
     QVERIFY(block);
-    const QStringList justThis = row.recolours ? QStringList(text(row.label)) : QStringList();
+    const QStringList justThis =
+        row.box->recolours ? QStringList(text(row.box->label)) : QStringList();
 
     const auto open = [&](QDialogButtonBox::StandardButton button) {
         QString opened;
@@ -149,7 +139,7 @@ void tst_OpeningBlocks::aDoubleClickOpensTheDialog()
                 return;
             }
             opened = text(dialog->metaObject()->className());
-            auto *box = dialog->findChild<QCheckBox *>(text(row.box));
+            auto *box = dialog->findChild<QCheckBox *>(text(row.shownBy->objectName));
             if (!box) {
                 modal->close();
                 return;
@@ -160,7 +150,7 @@ void tst_OpeningBlocks::aDoubleClickOpensTheDialog()
         view.doubleClick(block);
         return watcher.count() == 1 ? opened : QStringLiteral("%1 windows").arg(watcher.count());
     };
-    const QString name = u"TARVOORIXM1::" + text(row.dialog);
+    const QString name = u"TARVOORIXM1::" + text(row.block->dialog);
 
     QCOMPARE(open(QDialogButtonBox::Cancel), name);
     QCOMPARE(map.size(), 1);
@@ -172,13 +162,13 @@ void tst_OpeningBlocks::aDoubleClickOpensTheDialog()
     map.remove(Key::enableRtc);
 
     QCOMPARE(open(QDialogButtonBox::Ok), name);
-    QCOMPARE(map.value(text(row.key)), QVariant(true));
+    QCOMPARE(map.value(text(row.shownBy->key)), QVariant(true));
     QCOMPARE(view.active(), justThis);
     view.leaveBlocks();
-    QCOMPARE(view.colorOf(block), QColor(row.recolours ? Qt::darkGreen : Qt::white));
+    QCOMPARE(view.colorOf(block), QColor(row.box->recolours ? Qt::darkGreen : Qt::white));
 
     QCOMPARE(open(QDialogButtonBox::Ok), name);
-    QCOMPARE(map.value(text(row.key)), QVariant(false));
+    QCOMPARE(map.value(text(row.shownBy->key)), QVariant(false));
     QCOMPARE(view.active(), QStringList());
 }
 
@@ -188,7 +178,7 @@ void tst_OpeningBlocks::enterOpensTheDialogToo()
     View view(&map);
     view.setFocus(Qt::TabFocusReason);
     QStringList opened;
-    for (int i = 0; i <= int(std::size(openings)); ++i) {
+    for (int i = 0; i <= int(openings().size()); ++i) {
         const ModalWatcher watcher([&opened](QWidget *modal) {
             opened.append(text(modal->metaObject()->className()).section(u':', -1));
             modal->close();
@@ -197,25 +187,45 @@ void tst_OpeningBlocks::enterOpensTheDialogToo()
         QTest::keyClick(&view, Qt::Key_Tab);
     }
     QStringList expected = {text("CortexM1")};
-    for (const Opening &row : openings)
-        expected.append(text(row.dialog));
+    for (const Opening &row : openings())
+        expected.append(text(row.block->dialog));
     std::sort(opened.begin(), opened.end());
     std::sort(expected.begin(), expected.end());
     QCOMPARE(opened, expected);
+}
+
+void tst_OpeningBlocks::aBlockNeedsNoSlotOfItsOwn()
+{
+    for (const Opening &row : openings()) {
+        OptionMap map;
+        View view(&map);
+        const IPItem *block = view.block(text(row.box->label));
+        QVERIFY(disconnect(block, SIGNAL(doubleClicked()), &view, row.block->slot));
+        QVERIFY(connect(block, SIGNAL(doubleClicked()), &view, SLOT(onBlock())));
+        QString opened;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            opened = text(modal->metaObject()->className());
+            QCOMPARE(modal->parentWidget(), &view);
+            auto *box = modal->findChild<QCheckBox *>(text(row.shownBy->objectName));
+            QVERIFY(box);
+            Hands::click(box);
+            static_cast<QDialog *>(modal)->accept();
+        });
+        view.doubleClick(block);
+        QCOMPARE(watcher.count(), 1);
+        QCOMPARE(opened, QString(u"TARVOORIXM1::" + text(row.block->dialog)));
+        QCOMPARE(map.value(text(row.shownBy->key)), QVariant(true));
+        QCOMPARE(block->isActive(), row.box->recolours);
+    }
 }
 
 void tst_OpeningBlocks::everyBlockIsCovered()
 {
     OptionMap map;
     const View view(&map);
-    QCOMPARE(view.blocks().size(), int(std::size(openings)) + 1); // and the core
-    for (const Expected::Block &expected : Expected::blocks()) {
-        QVERIFY2(std::any_of(std::begin(openings), std::end(openings),
-                             [&expected](const Opening &row) {
-                                 return qstrcmp(row.dialog, expected.dialog) == 0;
-                             }),
-                 expected.dialog);
-    }
+    QCOMPARE(view.blocks().size(), int(openings().size()) + 1); // and the core
+    for (const Opening &row : openings())
+        QVERIFY2(view.block(text(row.box->label)), row.box->label);
 }
 
 TARVO_TEST_MAIN(QApplication, tst_OpeningBlocks)

@@ -227,11 +227,10 @@ void tst_PeripheralDialogs::singleSwitchesRefreshWithoutAClick_data()
 {
     QTest::addColumn<QString>("dialog");
     QTest::addColumn<QStringList>("pins");
-    QTest::newRow("SPI-Flash") << text("SPIFlashDlg") << Expected::pins(Pins::spiFlash);
-    QTest::newRow("SD-Card") << text("SDCardDlg") << Expected::pins(Pins::sdCard);
-    QTest::newRow("RTC") << text("RTCDlg") << Expected::pins(Pins::rtc);
-    QTest::newRow("SPI") << text("SPIDlg") << Expected::pins(Pins::spi);
-    QTest::newRow("PSRAM") << text("PSRAMDlg") << Expected::pins(Pins::psram);
+    for (const Expected::Block &expected : Expected::blocks()) {
+        if (*expected.pins && qstrcmp(expected.redraws, "toggled(bool)") == 0)
+            QTest::newRow(expected.title) << text(expected.dialog) << Expected::pins(expected.pins);
+    }
 }
 
 void tst_PeripheralDialogs::singleSwitchesRefreshWithoutAClick()
@@ -286,19 +285,10 @@ void tst_PeripheralDialogs::onlySomeBlocksRefreshAtAll()
             return (sender->*&Access::isSignalConnected)(meta->method(index));
         }
     };
-    const QMap<QString, QByteArray> signalOf = {
-        {text("GPIODlg"), "toggled(bool)"},         {text("I2CDlg"), "toggled(bool)"},
-        {text("CANDlg"), "clicked(bool)"},          {text("EthernetDlg"), "toggled(bool)"},
-        {text("DDR3Dlg"), "clicked(bool)"},         {text("PSRAMDlg"), "toggled(bool)"},
-        {text("SPIFlashDlg"), "toggled(bool)"},     {text("AHB2ExtensionDlg"), "clicked(bool)"},
-        {text("UartDlg"), "toggled(bool)"},         {text("TimerDlg"), "toggled(bool)"},
-        {text("WatchDogDlg"), "toggled(bool)"},     {text("RTCDlg"), "toggled(bool)"},
-        {text("SPIDlg"), "toggled(bool)"},          {text("SDCardDlg"), "toggled(bool)"},
-        {text("APB2ExtensionDlg"), "toggled(bool)"}};
     for (const Expected::Block &expected : Expected::blocks()) {
         OptionMap map;
         const Hands hands(expected.dialog, &map);
-        const QByteArray used = signalOf.value(text(expected.dialog));
+        const QByteArray used = expected.redraws;
         for (const QCheckBox *box : hands->findChildren<QCheckBox *>()) {
             QVERIFY2(Access::has(box, "toggled(bool)") == (used == "toggled(bool)"),
                      expected.dialog);

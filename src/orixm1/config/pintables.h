@@ -1,9 +1,8 @@
 #pragma once
 
 #include "blocks.h"
-#include "config/latin1literal.h"
-#include "config/optionkeys.h"
-#include "devicerules.h"
+#include "latin1literal.h"
+#include "optionkeys.h"
 
 #include <utils/pinfigure.h>
 
@@ -23,13 +22,15 @@ constexpr unsigned switchBit(int index)
 
 inline constexpr unsigned anyChoice = ~0u;
 
+enum class PinDevices { All, WithDdr3Stop };
+
 // Pins that come together.
 struct PinGroup {
     Rows<PinRow> rows;
-    unsigned on = 0;                            // bits of the switches that must be on
-    unsigned off = 0;                           // and of those that must be off
-    unsigned choices = anyChoice;               // bits of the choices that they belong to
-    bool (*devices)(const QString &) = nullptr; // which devices have them; null: all
+    unsigned on = 0;                      // bits of the switches that must be on
+    unsigned off = 0;                     // and of those that must be off
+    unsigned choices = anyChoice;         // bits of the choices that they belong to
+    PinDevices devices = PinDevices::All; // those that have them
     // Before each row's name, if number is not negative: prefix and number.
     QLatin1String prefix = QLatin1String();
     int number = -1;
@@ -237,7 +238,7 @@ inline constexpr PinGroup ethernet[] = {
     {miiRows, enabled, 0, switchBit(2) | switchBit(3)},
 };
 inline constexpr PinGroup ddr3[] = {
-    {ddr3StopRows, enabled, 0, anyChoice, hasDdr3StopSignal},
+    {ddr3StopRows, enabled, 0, anyChoice, PinDevices::WithDdr3Stop},
     {ddr3Rows, enabled},
 };
 inline constexpr PinGroup psram[] = {{psramRows, enabled}};
