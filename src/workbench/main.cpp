@@ -1,4 +1,5 @@
 #include "catalogue/ipcatalogue.h"
+#include "catalogue/pluginlist.h"
 #include "project/project.h"
 #include "render/diagramrenderer.h"
 #include "widgets/symbolicon.h"
@@ -61,7 +62,7 @@ void loadPlugins(IpCatalogue &catalogue, const Options &options, const QSettings
     catalogue.setProbeCache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
                             QLatin1String("/plugins.json"));
     catalogue.loadFolder(root + QLatin1String("/" TARVO_PLUGIN_SUBDIR), false);
-    const QStringList chosen = settings.value(QStringLiteral("pluginFolders")).toStringList();
+    const QStringList chosen = PluginList::folders(settings);
     for (const QString &folder : chosen)
         catalogue.loadFolder(folder, true);
     for (const QString &folder : options.pluginDirs)
