@@ -1,13 +1,13 @@
 #pragma once
 
+#include "blockfocus.h"
 #include "config/optionmap.h"
+#include "diagramdialogs.h"
 
 #include <QGraphicsView>
 #include <QHash>
 #include <QList>
 #include <QMap>
-#include <QPen>
-#include <QSet>
 
 QT_FORWARD_DECLARE_CLASS(QToolButton)
 
@@ -42,7 +42,7 @@ public:
     bool isFitted() const { return m_fitted; }
 
     // The block that the keyboard has reached; null if none.
-    IPItem *focusedBlock() const { return m_focused; }
+    IPItem *focusedBlock() const { return m_focus.block(); }
 
     // Draws the whole diagram as it is now, without the focus frame, into `target`, keeping its
     // proportions.
@@ -56,24 +56,25 @@ public Q_SLOTS:
     void zoomIn();
     // Shows the state of the option map.
     void updateView();
-    void onCortexM1();
-    void onGpio();
-    void onCan();
-    void onEhternet();
-    void onDDR3();
-    void onPsram();
-    void onSpiFlash();
-    void onSDCard();
-    void onAHB2Extension();
-    void onUart();
-    void onTimer();
-    void onWatchDog();
-    void onRtc();
-    void onI2C();
-    void onSPI();
-    void onTRNG();
-    void onDualTimer();
-    void onAPB2Extension();
+    // Open the dialog of a block.
+    void onCortexM1() { open(BlockDialog::CortexM1); }
+    void onGpio() { open(BlockDialog::Gpio); }
+    void onCan() { open(BlockDialog::Can); }
+    void onEhternet() { open(BlockDialog::Ethernet); }
+    void onDDR3() { open(BlockDialog::Ddr3); }
+    void onPsram() { open(BlockDialog::Psram); }
+    void onSpiFlash() { open(BlockDialog::SpiFlash); }
+    void onSDCard() { open(BlockDialog::SdCard); }
+    void onAHB2Extension() { open(BlockDialog::Ahb2Extension); }
+    void onUart() { open(BlockDialog::Uart); }
+    void onTimer() { open(BlockDialog::Timer); }
+    void onWatchDog() { open(BlockDialog::WatchDog); }
+    void onRtc() { open(BlockDialog::Rtc); }
+    void onI2C() { open(BlockDialog::I2c); }
+    void onSPI() { open(BlockDialog::Spi); }
+    void onTRNG() { open(BlockDialog::Trng); }
+    void onDualTimer() { open(BlockDialog::DualTimer); }
+    void onAPB2Extension() { open(BlockDialog::Apb2Extension); }
 
 private Q_SLOTS:
     void onSavePicture();
@@ -106,16 +107,9 @@ private:
     // Leaves a strip beside the diagram for the zoom buttons, so that they never cover a block.
     void reserveRoom();
     void setAvailable(QLatin1String key, bool available);
-    // Runs the block's dialog on the option map.
-    template <class Dialog>
-    void openDialog();
+    void open(BlockDialog block);
 
     IPItem *topBlockAt(const QPoint &position) const;
-    QList<IPItem *> clickableBlocks() const;
-    void setFocusedBlock(IPItem *block);
-    void announceFocus();
-    void updateFocusFrame();
-    QRectF focusFrame() const;
     void scaleTo(qreal horizontal, qreal vertical);
     void fit();
     void updateLabelFont();
@@ -133,11 +127,8 @@ private:
     QHash<QString, IPItem *> m_blockByLabel; // the clickable ones
     QHash<QString, LineItem *> m_dropByLabel;
     QHash<QString, const char *> m_slotByLabel;
-    QSet<IPItem *> m_stateless;   // blocks that never show whether they are on
-    QList<IPItem *> m_clickOrder; // as Tab walks
+    BlockFocus m_focus{this};
     QFont m_labelFont;
-    IPItem *m_focused = nullptr;
-    QPen m_focusPen{Qt::black, 2};
     bool m_fitted = false;
 };
 
