@@ -1,8 +1,9 @@
 #include "designcheck.h"
 
+#include "tr.h"
+
 #include <reading/limits.h>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -14,11 +15,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 bool isDirection(const QJsonValue &value)
 {
@@ -58,12 +54,12 @@ bool isOffset(const QJsonValue &value)
 QString portMistake(const QJsonObject &port)
 {
     if (!isDirection(port.value(QLatin1String("direction"))))
-        return tr("has no direction");
+        return Tr::tr("has no direction");
     if (port.value(QLatin1String("bits")).toArray().isEmpty())
-        return tr("has no bits");
+        return Tr::tr("has no bits");
     if (!areBits(port.value(QLatin1String("bits"))) ||
         !isOffset(port.value(QLatin1String("offset"))))
-        return tr("has bits that are none");
+        return Tr::tr("has bits that are none");
     return {};
 }
 
@@ -73,12 +69,12 @@ QString connectionMistake(const QJsonObject &cell)
     const QJsonObject directions = cell.value(QLatin1String("port_directions")).toObject();
     for (auto it = directions.begin(); it != directions.end(); ++it) {
         if (!isDirection(it.value()))
-            return tr("has the port \"%1\" without a direction").arg(it.key());
+            return Tr::tr("has the port \"%1\" without a direction").arg(it.key());
     }
     const QJsonObject connections = cell.value(QLatin1String("connections")).toObject();
     for (auto it = connections.begin(); it != connections.end(); ++it) {
         if (!areBits(it.value()))
-            return tr("has something at \"%1\" that are no bits").arg(it.key());
+            return Tr::tr("has something at \"%1\" that are no bits").arg(it.key());
     }
     return {};
 }
@@ -87,7 +83,7 @@ QString netMistake(const QJsonObject &net)
 {
     const bool good =
         areBits(net.value(QLatin1String("bits"))) && isOffset(net.value(QLatin1String("offset")));
-    return good ? QString() : tr("has bits that are none");
+    return good ? QString() : Tr::tr("has bits that are none");
 }
 
 struct Row {
@@ -113,7 +109,7 @@ QString designMistake(const QJsonObject &modules)
             for (auto it = things.begin(); it != things.end(); ++it) {
                 const QString mistake = row.mistakeOf(it.value().toObject());
                 if (!mistake.isEmpty())
-                    return tr(row.text).arg(it.key(), module.key()) + mistake;
+                    return Tr::tr(row.text).arg(it.key(), module.key()) + mistake;
             }
         }
     }

@@ -1,8 +1,8 @@
 #include "designports.h"
 
 #include "designcheck.h"
+#include "tr.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -13,11 +13,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 bool isBits(const QString &text)
 {
@@ -124,7 +119,7 @@ QString DesignPorts::read(const QByteArray &outline, const QByteArray &cells)
             }
         }
     }
-    return m_modules.isEmpty() ? tr("it holds no modules") : QString();
+    return m_modules.isEmpty() ? Tr::tr("it holds no modules") : QString();
 }
 
 bool DesignPorts::contains(const QByteArray &module) const

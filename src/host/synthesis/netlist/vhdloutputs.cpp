@@ -3,10 +3,10 @@
 #include "designcheck.h"
 #include "library.h"
 #include "standins.h"
+#include "tr.h"
 #include "verilogoutputs.h"
 #include "vhdlnames.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -21,11 +21,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 // What the text refers to without declaring it.
 const QByteArrayList &predefined()
@@ -781,7 +776,7 @@ QString Writer::write()
             if (bit.net < 0)
                 continue;
             if (pins.contains(bit.net) && pins.value(bit.net) != m_ports.at(i).name)
-                return tr("The ports \"%1\" and \"%2\" are one net, which VHDL cannot express.")
+                return Tr::tr("The ports \"%1\" and \"%2\" are one net, which VHDL cannot express.")
                     .arg(QString::fromUtf8(pins.value(bit.net)),
                          QString::fromUtf8(m_ports.at(i).name));
             pins.insert(bit.net, m_ports.at(i).name);
@@ -836,11 +831,11 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
         QJsonDocument::fromJson(design).object().value(QLatin1String("modules")).toObject();
     const QJsonObject module = modules.value(QString::fromUtf8(top)).toObject();
     if (module.isEmpty())
-        return tr("The netlist that the tool wrote has no module \"%1\".")
+        return Tr::tr("The netlist that the tool wrote has no module \"%1\".")
             .arg(QString::fromUtf8(top));
     if (const QString mistake = designMistake({{QString::fromUtf8(top), module}});
         !mistake.isEmpty())
-        return tr("The netlist that the tool wrote cannot be used: %1.").arg(mistake);
+        return Tr::tr("The netlist that the tool wrote cannot be used: %1.").arg(mistake);
     Writer writer(module, top, ports, blackBoxes);
     if (QString error = writer.write(); !error.isEmpty())
         return error;
