@@ -1,6 +1,8 @@
 #include "catalogue/ipcatalogue.h"
+#include "catalogue/pluginlist.h"
 #include "project/project.h"
 #include "render/diagramrenderer.h"
+#include "tr.h"
 #include "widgets/symbolicon.h"
 #include "window/exitguard.h"
 #include "window/mainwindow.h"
@@ -61,7 +63,7 @@ void loadPlugins(IpCatalogue &catalogue, const Options &options, const QSettings
     catalogue.setProbeCache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
                             QLatin1String("/plugins.json"));
     catalogue.loadFolder(root + QLatin1String("/" TARVO_PLUGIN_SUBDIR), false);
-    const QStringList chosen = settings.value(QStringLiteral("pluginFolders")).toStringList();
+    const QStringList chosen = PluginList::folders(settings);
     for (const QString &folder : chosen)
         catalogue.loadFolder(folder, true);
     for (const QString &folder : options.pluginDirs)
@@ -106,24 +108,24 @@ bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &w
             QStringList names;
             for (const IpEntry &entry : catalogue.entries())
                 names.append(entry.name);
-            fail(MainWindow::tr("No plug-in offers the IP \"%1\"; there are: %2")
+            fail(Tr::tr("No plug-in offers the IP \"%1\"; there are: %2")
                      .arg(options.newIp, names.join(QLatin1String(", "))));
             return false;
         }
         device = findDevice(options.device);
         if (!options.device.isEmpty() && device.isNull()) {
-            fail(MainWindow::tr("Unknown device \"%1\".").arg(options.device));
+            fail(Tr::tr("Unknown device \"%1\".").arg(options.device));
             return false;
         }
         if (options.device.isEmpty() && projectFile.isEmpty()) {
-            fail(MainWindow::tr("--new-ip needs --device, because \"%1\" is in no project.")
+            fail(Tr::tr("--new-ip needs --device, because \"%1\" is in no project.")
                      .arg(QDir::toNativeSeparators(dir)));
             return false;
         }
     }
     for (const QString &file : options.files) {
         if (!QFileInfo::exists(file)) {
-            fail(MainWindow::tr("\"%1\" does not exist.").arg(file));
+            fail(Tr::tr("\"%1\" does not exist.").arg(file));
             return false;
         }
         if (file.endsWith(QLatin1String(".ipc")) && projectFile.isEmpty())
@@ -165,7 +167,7 @@ int main(int argc, char *argv[])
     if (!hasDisplay() && !given(argc, argv, "-platform")) {
         if (options.parse(argc, argv, &status) == Options::Leave)
             return status;
-        return fail(MainWindow::tr(
+        return fail(Tr::tr(
             "There is no display to open the window on; only --render-diagram works without one."));
     }
 
@@ -181,7 +183,7 @@ int main(int argc, char *argv[])
 
     // QSettings would wait for ever for what a pipe has to say.
     if (const QFileInfo file(options.settings); file.exists() && !file.isFile())
-        return fail(MainWindow::tr("\"%1\" cannot hold the settings: it is not a plain file.")
+        return fail(Tr::tr("\"%1\" cannot hold the settings: it is not a plain file.")
                         .arg(QDir::toNativeSeparators(options.settings)));
     QSettings settings(options.settings.isEmpty()
                            ? QSettings(QSettings::IniFormat, QSettings::UserScope,
@@ -215,5 +217,5 @@ int main(int argc, char *argv[])
         return status;
     // Somebody else has ended the event loop.
     window.keepUnsaved();
-    return fail(MainWindow::tr("A plug-in has ended the program."));
+    return fail(Tr::tr("A plug-in has ended the program."));
 }

@@ -333,6 +333,27 @@ private Q_SLOTS:
         QTRY_COMPARE(closed.size(), 1);
     }
 
+    void shutsDownThroughWhatADialogAsks()
+    {
+        class AskingDialog : public QDialog
+        {
+        public:
+            using QDialog::QDialog;
+            void reject() override
+            {
+                QMessageBox(QMessageBox::Question, QString(), QStringLiteral("Really?"),
+                            QMessageBox::Cancel, this)
+                    .exec();
+                QDialog::reject();
+            }
+        };
+        AskingDialog dialog(window());
+        QSignalSpy closed(window(), &MainWindow::closed);
+        QTimer::singleShot(0, window(), &MainWindow::shutDown);
+        dialog.exec(); // returns, though nobody answers
+        QTRY_COMPARE(closed.size(), 1);
+    }
+
     void shutsDownAndKeepsUnsavedChanges()
     {
         const QString file = m_bench->folder() + QStringLiteral("/a.v");

@@ -1,6 +1,6 @@
 #include "inientries.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 #include <algorithm>
 
@@ -9,11 +9,6 @@ namespace Reading
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Reading", text);
-}
 
 bool isNewline(char c)
 {
@@ -320,7 +315,7 @@ QString foreignIniValue(const QByteArray &text)
         for (const QString &value : entry.values) {
             const QString kind = foreignKind(value);
             if (!kind.isEmpty())
-                return tr("line %1: \"%2\" is no text but an object (\"%3\")")
+                return Tr::tr("line %1: \"%2\" is no text but an object (\"%3\")")
                     .arg(QString::number(entry.line), entry.name(), kind);
         }
     }

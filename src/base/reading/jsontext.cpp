@@ -1,6 +1,6 @@
 #include "jsontext.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 #include <cstring>
 
@@ -9,11 +9,6 @@ namespace Reading
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Reading", text);
-}
 
 // The depth that QJsonDocument reads.
 constexpr int deepest = 1024;
@@ -43,7 +38,7 @@ public:
         if (m_text.startsWith("\xef\xbb\xbf"))
             m_at = 3;
         if (value() && !atEnd())
-            fail(tr("text after the end of the value"));
+            fail(Tr::tr("text after the end of the value"));
         return m_mistake;
     }
 
@@ -84,7 +79,7 @@ private:
             good = number();
         else
             good = word("true") || word("false") || word("null") ||
-                   fail(tr("a value is missing here"));
+                   fail(Tr::tr("a value is missing here"));
         if (good)
             space();
         return good;
@@ -102,7 +97,7 @@ private:
     bool container()
     {
         if (m_depth == deepest)
-            return fail(tr("the text is nested too deeply"));
+            return fail(Tr::tr("the text is nested too deeply"));
         ++m_depth;
         const bool isObject = accept('{');
         if (!isObject)
@@ -118,7 +113,7 @@ private:
                     return false;
             } while (accept(','));
             if (!accept(end))
-                return fail(tr("a comma or \"%1\" is missing here").arg(QLatin1Char(end)));
+                return fail(Tr::tr("a comma or \"%1\" is missing here").arg(QLatin1Char(end)));
         }
         --m_depth;
         return true;
@@ -128,11 +123,11 @@ private:
     bool member()
     {
         if (next() != '"')
-            return fail(tr("a name in double quotes is missing here"));
+            return fail(Tr::tr("a name in double quotes is missing here"));
         if (!string())
             return false;
         space();
-        return accept(':') || fail(tr("a colon is missing here"));
+        return accept(':') || fail(Tr::tr("a colon is missing here"));
     }
 
     bool string()
@@ -142,7 +137,7 @@ private:
             if (accept('"'))
                 return true;
             if (static_cast<unsigned char>(next()) < 0x20)
-                return fail(tr("a control character in a string"));
+                return fail(Tr::tr("a control character in a string"));
             if (accept('\\')) {
                 if (!escape())
                     return false;
@@ -150,7 +145,7 @@ private:
                 ++m_at;
             }
         }
-        return fail(tr("a string has no end"));
+        return fail(Tr::tr("a string has no end"));
     }
 
     bool escape()
@@ -158,12 +153,12 @@ private:
         if (accept('u')) {
             for (int digit = 0; digit < 4; ++digit, ++m_at) {
                 if (!isHexDigit(next()))
-                    return fail(tr("a hexadecimal digit is missing here"));
+                    return fail(Tr::tr("a hexadecimal digit is missing here"));
             }
             return true;
         }
         if (atEnd() || !strchr("\"\\/bfnrt", next()))
-            return fail(tr("an unknown character after a backslash"));
+            return fail(Tr::tr("an unknown character after a backslash"));
         ++m_at;
         return true;
     }
@@ -171,7 +166,7 @@ private:
     bool digits()
     {
         if (!isDigit(next()))
-            return fail(tr("a digit is missing here"));
+            return fail(Tr::tr("a digit is missing here"));
         while (isDigit(next()))
             ++m_at;
         return true;
@@ -182,7 +177,7 @@ private:
         accept('-');
         if (accept('0')) {
             if (isDigit(next()))
-                return fail(tr("a number starts with a zero"));
+                return fail(Tr::tr("a number starts with a zero"));
         } else if (!digits()) {
             return false;
         }

@@ -1,8 +1,8 @@
 #include "plainfile.h"
 
 #include "limits.h"
+#include "tr.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -17,14 +17,9 @@ namespace Reading
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Reading", text);
-}
-
 QString tooLarge(qint64 limit)
 {
-    return tr("it is larger than %1, the most that is read").arg(sizeText(limit));
+    return Tr::tr("it is larger than %1, the most that is read").arg(sizeText(limit));
 }
 
 // A file descriptor that is closed at the end.
@@ -69,10 +64,10 @@ QString sizeText(qint64 bytes)
 {
     using namespace Limits;
     if (bytes >= mebibyte && bytes % mebibyte == 0)
-        return tr("%1 MiB").arg(bytes / mebibyte);
+        return Tr::tr("%1 MiB").arg(bytes / mebibyte);
     if (bytes >= kibibyte && bytes % kibibyte == 0)
-        return tr("%1 KiB").arg(bytes / kibibyte);
-    return tr("%1 bytes").arg(bytes);
+        return Tr::tr("%1 KiB").arg(bytes / kibibyte);
+    return Tr::tr("%1 bytes").arg(bytes);
 }
 
 bool readPlainFile(const QString &path, qint64 limit, QByteArray *bytes, QString *reason)
@@ -94,13 +89,13 @@ bool readPlainFile(const QString &path, qint64 limit, QByteArray *bytes, QString
     struct stat status = {};
     // A socket cannot even be opened.
     if (file.number() < 0 && errno == ENXIO)
-        return fail(tr("it is not a plain file"));
+        return fail(Tr::tr("it is not a plain file"));
     if (file.number() < 0 || ::fstat(file.number(), &status) != 0)
         return systemError();
     if (S_ISDIR(status.st_mode))
-        return fail(tr("it is a folder"));
+        return fail(Tr::tr("it is a folder"));
     if (!S_ISREG(status.st_mode))
-        return fail(tr("it is not a plain file"));
+        return fail(Tr::tr("it is not a plain file"));
     if (status.st_size > limit)
         return fail(tooLarge(limit));
 

@@ -1,10 +1,11 @@
 #include "devicedb.h"
 
+#include "tr.h"
+
 #include <reading/jsontext.h>
 #include <reading/limits.h>
 #include <utils/boundedfile.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,17 +26,12 @@ namespace DEV
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DEV::DeviceDb", text);
-}
-
 const QString packagesFile = QStringLiteral("packages.json");
 
 bool malformed(const QString &path, const QString &reason, QString *error)
 {
     if (error)
-        *error = tr("Device file \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
+        *error = Tr::tr("Device file \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
     return false;
 }
 
@@ -48,7 +44,7 @@ bool readObject(const QString &path, QJsonObject *object, QString *error)
     if (mistake.offset >= 0)
         return malformed(
             path,
-            tr("line %1: %2")
+            Tr::tr("line %1: %2")
                 .arg(QString::number(1 + bytes.left(mistake.offset).count('\n')), mistake.reason),
             error);
     QJsonParseError parseError;
@@ -64,11 +60,11 @@ bool readPackageCodes(const QString &path, QHash<QString, QString> *codes, QStri
         return false;
     const QJsonObject entries = root.value(QLatin1String("packageCodes")).toObject();
     if (entries.isEmpty())
-        return malformed(path, tr("it lists no package codes"), error);
+        return malformed(path, Tr::tr("it lists no package codes"), error);
     for (auto it = entries.begin(); it != entries.end(); ++it) {
         const QString code = it.value().toString();
         if (code.isEmpty())
-            return malformed(path, tr("the package \"%1\" has no code").arg(it.key()), error);
+            return malformed(path, Tr::tr("the package \"%1\" has no code").arg(it.key()), error);
         codes->insert(it.key(), code);
     }
     return true;
@@ -85,16 +81,16 @@ QString readResources(const QJsonValue &value, DeviceResources *resources)
                                                    {"blockRam", &resources->blockRam}};
     const QJsonObject entry = value.toObject();
     if (entry.isEmpty())
-        return tr("the resources are no object with counts");
+        return Tr::tr("the resources are no object with counts");
     for (auto it = entry.begin(); it != entry.end(); ++it) {
         const auto row = std::find_if(std::begin(rows), std::end(rows), [&](const auto &candidate) {
             return it.key() == QLatin1String(candidate.first);
         });
         if (row == std::end(rows))
-            return tr("there is no resource \"%1\"").arg(it.key());
+            return Tr::tr("there is no resource \"%1\"").arg(it.key());
         const double count = it.value().toDouble(-1);
         if (count < 0 || count > 1e9 || count != std::floor(count))
-            return tr("the number of \"%1\" is no count").arg(it.key());
+            return Tr::tr("the number of \"%1\" is no count").arg(it.key());
         *row->second = int(count);
     }
     return {};
@@ -112,7 +108,7 @@ DeviceDb DeviceDb::fromFolder(const QString &folder, QString *error)
     const QDir dir(folder);
     if (folder.isEmpty() || !dir.exists()) {
         if (error)
-            *error = tr("The device folder \"%1\" does not exist.")
+            *error = Tr::tr("The device folder \"%1\" does not exist.")
                          .arg(QDir::toNativeSeparators(folder));
         return {};
     }
@@ -121,7 +117,7 @@ DeviceDb DeviceDb::fromFolder(const QString &folder, QString *error)
         dir.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::System, QDir::Name);
     if (names.isEmpty() || names == QStringList(packagesFile)) {
         if (error)
-            *error = tr("The device folder \"%1\" holds no device file.")
+            *error = Tr::tr("The device folder \"%1\" holds no device file.")
                          .arg(QDir::toNativeSeparators(folder));
         return {};
     }
@@ -161,7 +157,7 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
         return false;
     const QJsonArray devices = root.value(QLatin1String("devices")).toArray();
     if (devices.isEmpty())
-        return fail(tr("it lists no devices"));
+        return fail(Tr::tr("it lists no devices"));
     for (const QJsonValue &value : devices) {
         const QJsonObject entry = value.toObject();
         const QString device = entry.value(QLatin1String("device")).toString();
@@ -169,38 +165,38 @@ bool DeviceDb::readSeries(const QString &path, const QHash<QString, QString> &pa
         const QJsonArray packages = entry.value(QLatin1String("packages")).toArray();
         const QJsonArray speeds = entry.value(QLatin1String("speeds")).toArray();
         if (device.isEmpty() || packages.isEmpty() || speeds.isEmpty())
-            return fail(tr("an entry lacks its device name, packages or speeds"));
+            return fail(Tr::tr("an entry lacks its device name, packages or speeds"));
         if (!device.endsWith(version))
-            return fail(tr("the device name \"%1\" does not fit its version").arg(device));
+            return fail(Tr::tr("the device name \"%1\" does not fit its version").arg(device));
         DeviceResources resources;
         if (const QString mistake =
                 readResources(entry.value(QLatin1String("resources")), &resources);
             !mistake.isEmpty())
-            return fail(tr("\"%1\": %2").arg(device, mistake));
+            return fail(Tr::tr("\"%1\": %2").arg(device, mistake));
         const QString deviceN = device.chopped(version.size());
         const QString series = deviceN.section(u'-', 0, 0);
         const QString size = deviceN.section(u'-', 1);
         if (series.isEmpty() || size.isEmpty())
             return fail(
-                tr("the device name \"%1\" is not a series, a hyphen and a size").arg(device));
+                Tr::tr("the device name \"%1\" is not a series, a hyphen and a size").arg(device));
         const qint64 records = qint64(packages.size()) * speeds.size();
         if (m_devices.size() + records > Reading::Limits::devices)
-            return fail(tr("with \"%1\" there are more than %2 devices")
+            return fail(Tr::tr("with \"%1\" there are more than %2 devices")
                             .arg(device, QString::number(Reading::Limits::devices)));
         const QString base = series + QLatin1String("-LV") + size;
         for (const QJsonValue &packageValue : packages) {
             const QString package = packageValue.toString();
             const QString code = packageCodes.value(package);
             if (code.isEmpty())
-                return fail(tr("the package \"%1\" has no code").arg(package));
+                return fail(Tr::tr("the package \"%1\" has no code").arg(package));
             for (const QJsonValue &speedValue : speeds) {
                 const QString speed = speedValue.toString();
                 if (speed.isEmpty())
-                    return fail(tr("a speed grade of \"%1\" is no text").arg(device));
+                    return fail(Tr::tr("a speed grade of \"%1\" is no text").arg(device));
                 DeviceArg record(device, deviceN, version, package, speed, base + code + speed);
                 record.setResources(resources);
                 if (m_indexById.contains(record.id()))
-                    return fail(tr("the id \"%1\" occurs twice").arg(record.id()));
+                    return fail(Tr::tr("the id \"%1\" occurs twice").arg(record.id()));
                 m_indexById.insert(record.id(), m_devices.size());
                 m_devices.append(record);
             }

@@ -2,6 +2,7 @@
 
 #include "errordialog.h"
 #include "synthesismonitor.h"
+#include "tr.h"
 #include "usermessages.h"
 #include "writinglocks.h"
 
@@ -13,7 +14,6 @@
 #include <utils/fileutils.h>
 #include <utils/inifile.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -24,14 +24,9 @@ namespace IPCore
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("IPCore", text);
-}
-
 void report(QWidget *parent, const QString &message)
 {
-    QMessageBox box(QMessageBox::Critical, tr("Error"), message, QMessageBox::Ok,
+    QMessageBox box(QMessageBox::Critical, Tr::tr("Error"), message, QMessageBox::Ok,
                     parent ? parent : Core::ViewManager::dialogParent());
     // Messages hold paths of the user, which must never be taken for mark-up.
     box.setTextFormat(Qt::PlainText);
@@ -123,7 +118,7 @@ bool makeDirs(const QString &path, const QString &ipName)
     QString error;
     if (Utils::FileUtils::makePath(path, &error) && WritingLocks::take(path, &error))
         return true;
-    report(nullptr, tr("%1 cannot be generated. %2").arg(ipName, error));
+    report(nullptr, Tr::tr("%1 cannot be generated. %2").arg(ipName, error));
     return false;
 }
 
@@ -145,8 +140,8 @@ int decode(const QString &outDir, const QString &netlist, const QString &destina
            QString &message)
 {
     if (!QFileInfo(outDir).isDir()) {
-        message =
-            tr("The output folder \"%1\" does not exist.").arg(QDir::toNativeSeparators(outDir));
+        message = Tr::tr("The output folder \"%1\" does not exist.")
+                      .arg(QDir::toNativeSeparators(outDir));
         return -1;
     }
     return Synthesis::writeSimulationModel(netlist, destination, &message);

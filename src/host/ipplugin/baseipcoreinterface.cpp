@@ -1,6 +1,6 @@
 #include "baseipcoreinterface.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 namespace TE
 {
@@ -12,8 +12,7 @@ namespace
 
 QString notScriptable(const QString &name)
 {
-    return QCoreApplication::translate("BaseIPCoreInterface", "The IP \"%1\" cannot be scripted.")
-        .arg(name);
+    return Tr::tr("The IP \"%1\" cannot be scripted.").arg(name);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "resources.h"
 
-#include <QCoreApplication>
+#include "tr.h"
+
 #include <QStringList>
 
 #include <array>
@@ -10,11 +11,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 enum Resource { Lut, FlipFlop, Carry, TriState, BlockRam, ResourceCount };
 
@@ -83,8 +79,8 @@ QString usedSentence(const QList<ResourceUse> &resources)
         parts << part;
     }
     if (parts.isEmpty())
-        return tr("Used no primitives.");
-    return tr("Used %1.").arg(parts.join(QLatin1String(", ")));
+        return Tr::tr("Used no primitives.");
+    return Tr::tr("Used %1.").arg(parts.join(QLatin1String(", ")));
 }
 
 QString notCountedSentence(const QList<CellCount> &cells)
@@ -96,7 +92,7 @@ QString notCountedSentence(const QList<CellCount> &cells)
     }
     if (parts.isEmpty())
         return {};
-    return tr("Not counted are the contents of black boxes: %1.")
+    return Tr::tr("Not counted are the contents of black boxes: %1.")
         .arg(parts.join(QLatin1String(", ")));
 }
 

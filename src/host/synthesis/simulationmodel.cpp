@@ -4,6 +4,7 @@
 #include "netlist/library.h"
 #include "netlist/verilogoutputs.h"
 #include "netlist/verilogscan.h"
+#include "tr.h"
 
 #include <utils/fileutils.h>
 
@@ -16,11 +17,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 int fail(QString *message, const QString &text)
 {
@@ -52,7 +48,7 @@ int writeSimulationModel(const QString &netlist, const QString &destination, QSt
     const QString shown = QDir::toNativeSeparators(netlist);
     const VerilogOutline outline = scanVerilog(text);
     if (outline.modules.isEmpty() || !outline.complete)
-        return fail(message, tr("\"%1\" is not a complete Verilog netlist.").arg(shown));
+        return fail(message, Tr::tr("\"%1\" is not a complete Verilog netlist.").arg(shown));
 
     QStringList unknown;
     const QMap<QByteArray, int> instances = outline.instances();
@@ -63,7 +59,7 @@ int writeSimulationModel(const QString &netlist, const QString &destination, QSt
     if (!unknown.isEmpty())
         return fail(
             message,
-            tr("The netlist \"%1\" instantiates %2, for which there is no simulation model.")
+            Tr::tr("The netlist \"%1\" instantiates %2, for which there is no simulation model.")
                 .arg(shown, unknown.join(QLatin1String(", "))));
 
     if (!text.endsWith('\n'))

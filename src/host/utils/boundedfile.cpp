@@ -1,9 +1,10 @@
 #include "boundedfile.h"
 
+#include "tr.h"
+
 #include <reading/limits.h>
 #include <reading/plainfile.h>
 
-#include <QCoreApplication>
 #include <QDir>
 
 namespace Utils
@@ -11,16 +12,14 @@ namespace Utils
 
 bool readBoundedFile(const QString &path, qint64 limit, QByteArray *bytes, QString *error)
 {
-    const auto tr = [](const char *text) {
-        return QCoreApplication::translate("Utils::FileUtils", text);
-    };
     QString reason;
     if (!path.isEmpty() && Reading::readPlainFile(path, limit, bytes, &reason))
         return true;
     if (error)
-        *error = path.isEmpty()
-                     ? tr("Cannot read a file without a name.")
-                     : tr("Cannot read \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
+        *error =
+            path.isEmpty()
+                ? Tr::tr("Cannot read a file without a name.")
+                : Tr::tr("Cannot read \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
     return false;
 }
 

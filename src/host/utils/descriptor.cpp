@@ -1,11 +1,11 @@
 #include "descriptor.h"
 
 #include "boundedfile.h"
+#include "tr.h"
 
 #include <reading/jsontext.h>
 #include <reading/limits.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,11 +20,6 @@ namespace Utils
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utils::Descriptor", text);
-}
-
 // A clause on what cannot be taken; empty otherwise. `room`: how many characters the keys may still
 // have altogether, since each holds those of all objects around it.
 QString flatten(const QString &prefix, const QJsonObject &object, qint64 *room, QVariantMap *map)
@@ -34,8 +29,8 @@ QString flatten(const QString &prefix, const QJsonObject &object, qint64 *room, 
         const QJsonValue value = it.value();
         *room -= key.size();
         if (*room < 0)
-            return tr("the keys, each with those of the objects around it, have more than %1 "
-                      "characters altogether")
+            return Tr::tr("the keys, each with those of the objects around it, have more than %1 "
+                          "characters altogether")
                 .arg(Reading::Limits::descriptorKeys);
         if (value.isObject()) {
             const QString mistake = flatten(key, value.toObject(), room, map);
@@ -63,9 +58,9 @@ QString targetMistake(const QVariantMap &map)
         return c == u'/' || c == u'\\' || c.category() == QChar::Other_Control;
     });
     if (!isName || target == QLatin1String(".") || target == QLatin1String(".."))
-        return tr("\"%1\" is \"%2\", which is no name of a file").arg(key, target);
+        return Tr::tr("\"%1\" is \"%2\", which is no name of a file").arg(key, target);
     if (target.toUtf8().size() > Reading::Limits::targetNameLength)
-        return tr("\"%1\" is longer than %2 bytes")
+        return Tr::tr("\"%1\" is longer than %2 bytes")
             .arg(key, QString::number(Reading::Limits::targetNameLength));
     return {};
 }
@@ -79,7 +74,7 @@ QVariantMap fail(const QString &path, const QByteArray &bytes, int offset, const
     const int column =
         QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
     if (error)
-        *error = tr("%1:%2:%3: %4.")
+        *error = Tr::tr("%1:%2:%3: %4.")
                      .arg(QDir::toNativeSeparators(path), QString::number(line),
                           QString::number(column), reason);
     return {};
@@ -100,10 +95,10 @@ QVariantMap readDescriptor(const QString &path, QString *error)
         if (mistake.offset >= 0)
             return fail(path, bytes, mistake.offset, mistake.reason, error);
         if (parseError.error == QJsonParseError::IllegalUTF8String)
-            return fail(path, bytes, parseError.offset, tr("the text is not UTF-8"), error);
+            return fail(path, bytes, parseError.offset, Tr::tr("the text is not UTF-8"), error);
     }
     if (!document.isObject())
-        return fail(path, bytes, 0, tr("the file holds no JSON object"), error);
+        return fail(path, bytes, 0, Tr::tr("the file holds no JSON object"), error);
     QVariantMap map;
     qint64 room = Reading::Limits::descriptorKeys;
     QString mistake = flatten(QString(), document.object(), &room, &map);
@@ -112,7 +107,7 @@ QVariantMap readDescriptor(const QString &path, QString *error)
     if (mistake.isEmpty())
         return map;
     if (error)
-        *error = tr("%1: %2.").arg(QDir::toNativeSeparators(path), mistake);
+        *error = Tr::tr("%1: %2.").arg(QDir::toNativeSeparators(path), mistake);
     return {};
 }
 

@@ -1,9 +1,9 @@
 #include "filereplacement.h"
 
 #include "systemerror.h"
+#include "tr.h"
 #include "utf8names.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -23,11 +23,6 @@ namespace
 
 constexpr int mostLinks = 40;
 constexpr int mostTries = 100;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utils::FileUtils", text);
-}
 
 // Closing tells nothing new of a file that is on the disk already, or was only read.
 void close(int *fd)
@@ -110,7 +105,7 @@ FileReplacement::~FileReplacement()
 bool FileReplacement::fail(QString *error, const QString &reason) const
 {
     if (error)
-        *error = tr("Cannot write \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), reason);
+        *error = Tr::tr("Cannot write \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), reason);
     return false;
 }
 
@@ -156,10 +151,10 @@ bool FileReplacement::resolve(QString *error)
         m_target = target.startsWith('/') ? target : QByteArray(folder() + '/' + target);
     }
     if (S_ISDIR(status.st_mode))
-        return fail(error, tr("it is a folder"));
+        return fail(error, Tr::tr("it is a folder"));
     // A device or a pipe would be replaced by a plain file, and reading one may never end.
     if (!S_ISREG(status.st_mode))
-        return fail(error, tr("it is not a plain file"));
+        return fail(error, Tr::tr("it is not a plain file"));
     m_exists = true;
     m_mode = status.st_mode & 0777;
     // For a comparison and for revert(). Where it cannot be read there is neither.
@@ -240,11 +235,11 @@ bool FileReplacement::prepare(const QByteArray &bytes, QString *error)
 {
     if (m_path.isEmpty()) {
         if (error)
-            *error = tr("Cannot write a file without a name.");
+            *error = Tr::tr("Cannot write a file without a name.");
         return false;
     }
     if (isDamagedName(m_path) && !QFileInfo::exists(m_path))
-        return fail(error, tr("its name is not UTF-8"));
+        return fail(error, Tr::tr("its name is not UTF-8"));
     if (!resolve(error))
         return false;
     struct stat status = {};
@@ -255,7 +250,7 @@ bool FileReplacement::prepare(const QByteArray &bytes, QString *error)
         return true;
     }
     if (m_exists && ::access(m_target.constData(), W_OK) != 0)
-        return fail(error, errno == EACCES ? tr("it is not writable") : systemError());
+        return fail(error, errno == EACCES ? Tr::tr("it is not writable") : systemError());
     m_bytes = bytes;
     m_fd = openNameless();
     // Old kernels see a folder that is opened for writing.

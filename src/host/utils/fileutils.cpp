@@ -3,11 +3,11 @@
 #include "boundedfile.h"
 #include "filereplacement.h"
 #include "systemerror.h"
+#include "tr.h"
 #include "utf8names.h"
 
 #include <reading/limits.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,15 +22,10 @@ namespace Utils
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utils::FileUtils", text);
-}
-
 bool fail(QString *error, const char *text, const QString &path, const QString &reason)
 {
     if (error)
-        *error = tr(text).arg(QDir::toNativeSeparators(path), reason);
+        *error = Tr::tr(text).arg(QDir::toNativeSeparators(path), reason);
     return false;
 }
 
@@ -81,12 +76,13 @@ bool FileUtils::makePath(const QString &path, QString *error)
 {
     if (path.isEmpty()) {
         if (error)
-            *error = tr("Cannot make a folder without a name.");
+            *error = Tr::tr("Cannot make a folder without a name.");
         return false;
     }
     // What is meant has another name.
     if (isDamagedName(path) && !QFileInfo::exists(path))
-        return fail(error, "Cannot make the folder \"%1\": %2.", path, tr("its name is not UTF-8"));
+        return fail(error, "Cannot make the folder \"%1\": %2.", path,
+                    Tr::tr("its name is not UTF-8"));
     QStringList missing;
     QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
     for (;;) {
@@ -99,8 +95,8 @@ bool FileUtils::makePath(const QString &path, QString *error)
             break;
         if (found)
             return fail(error, "Cannot make the folder \"%1\": %2.", path,
-                        (S_ISLNK(status.st_mode) ? tr("\"%1\" is a link that leads nowhere")
-                                                 : tr("\"%1\" is a file"))
+                        (S_ISLNK(status.st_mode) ? Tr::tr("\"%1\" is a link that leads nowhere")
+                                                 : Tr::tr("\"%1\" is a file"))
                             .arg(shown));
         missing.prepend(info.absoluteFilePath());
         if (info.absolutePath() == info.absoluteFilePath())
@@ -116,7 +112,7 @@ bool FileUtils::makePath(const QString &path, QString *error)
         if (made)
             ::rmdir(name.constData());
         const QString parent = QDir::toNativeSeparators(QFileInfo(folder).absolutePath());
-        QString reason = tr("\"%1\" is not writable").arg(parent);
+        QString reason = Tr::tr("\"%1\" is not writable").arg(parent);
         if (number != EACCES || ::access(QFile::encodeName(parent).constData(), W_OK) == 0)
             reason = folder == missing.last()
                          ? systemError(number)

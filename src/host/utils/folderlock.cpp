@@ -1,8 +1,8 @@
 #include "folderlock.h"
 
 #include "systemerror.h"
+#include "tr.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -18,11 +18,6 @@ namespace
 {
 
 constexpr int mostTries = 1000;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utils::FolderLock", text);
-}
 
 // Never waits, whatever stands there. A file of another user may be locked all the same.
 int openLock(const QByteArray &path)
@@ -46,12 +41,13 @@ std::shared_ptr<FolderLock> FolderLock::take(const QString &folder, QString *err
     const QString shown = QDir::toNativeSeparators(QFile::decodeName(path));
     const auto fail = [&](const QString &reason) {
         if (error)
-            *error = tr("Cannot write into the output folder \"%1\": %2.")
+            *error = Tr::tr("Cannot write into the output folder \"%1\": %2.")
                          .arg(QDir::toNativeSeparators(folder), reason);
         return std::shared_ptr<FolderLock>();
     };
     const auto notMade = [&](int number) {
-        return fail(tr("its lock file \"%1\" cannot be made: %2").arg(shown, systemError(number)));
+        return fail(
+            Tr::tr("its lock file \"%1\" cannot be made: %2").arg(shown, systemError(number)));
     };
 
     const std::shared_ptr<FolderLock> lock(new FolderLock);
@@ -63,20 +59,22 @@ std::shared_ptr<FolderLock> FolderLock::take(const QString &folder, QString *err
     for (int i = 0; i < mostTries; ++i) {
         const int fd = openLock(path);
         if (fd < 0 && (errno == ELOOP || errno == EISDIR || errno == ENXIO))
-            return fail(tr("its lock file \"%1\" is not a plain file; delete it").arg(shown));
+            return fail(Tr::tr("its lock file \"%1\" is not a plain file; delete it").arg(shown));
         if (fd < 0)
             return notMade(errno);
         lock->m_fd = fd;
         if (::fstat(fd, &status) != 0)
             return notMade(errno);
         if (!S_ISREG(status.st_mode))
-            return fail(tr("its lock file \"%1\" is not a plain file; delete it").arg(shown));
+            return fail(Tr::tr("its lock file \"%1\" is not a plain file; delete it").arg(shown));
         if (uninterrupted([fd] { return ::flock(fd, LOCK_EX | LOCK_NB); }) != 0) {
             if (errno == EWOULDBLOCK)
-                return fail(tr("its lock file \"%1\" is held until that run ends: another run is "
-                               "working there")
-                                .arg(shown));
-            return fail(tr("its lock file \"%1\" cannot be locked: %2").arg(shown, systemError()));
+                return fail(
+                    Tr::tr("its lock file \"%1\" is held until that run ends: another run is "
+                           "working there")
+                        .arg(shown));
+            return fail(
+                Tr::tr("its lock file \"%1\" cannot be locked: %2").arg(shown, systemError()));
         }
         // Whoever had it before may have removed the file since it was opened here.
         struct stat named = {};
@@ -88,7 +86,7 @@ std::shared_ptr<FolderLock> FolderLock::take(const QString &folder, QString *err
         ::close(fd);
         lock->m_fd = -1;
     }
-    return fail(tr("its lock file \"%1\" does not stay").arg(shown));
+    return fail(Tr::tr("its lock file \"%1\" does not stay").arg(shown));
 }
 
 FolderLock::~FolderLock()

@@ -1,10 +1,10 @@
 #include "inifile.h"
 
 #include "fileutils.h"
+#include "tr.h"
 
 #include <reading/inientries.h>
 
-#include <QCoreApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -15,11 +15,6 @@ namespace Utils
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utils::IniFile", text);
-}
 
 // How a line of an INI file ends.
 struct LineEnd {
@@ -150,7 +145,7 @@ bool draftText(const QVariantMap &header, const QString &group, const QVariantMa
 {
     const QTemporaryDir scratch;
     if (!scratch.isValid()) {
-        *error = tr("no temporary folder: %1").arg(scratch.errorString());
+        *error = Tr::tr("no temporary folder: %1").arg(scratch.errorString());
         return false;
     }
     const QString draft = scratch.filePath(QStringLiteral("draft.ini"));
@@ -173,7 +168,7 @@ bool draftText(const QVariantMap &header, const QString &group, const QVariantMa
         // It does not tell why it could not.
         QString reason;
         *error = FileUtils::writeFile(draft, QByteArray(1 << 16, 'x'), &reason)
-                     ? tr("the temporary file \"%1\" could not be written").arg(draft)
+                     ? Tr::tr("the temporary file \"%1\" could not be written").arg(draft)
                      : reason.chopped(1);
         return false;
     }
@@ -209,7 +204,7 @@ bool writeIniFile(const QString &path, const QVariantMap &header, const QString 
     if (iniText(header, group, values, &text, &reason))
         return FileUtils::writeFile(path, text, error);
     if (error)
-        *error = tr("Cannot write \"%1\": %2.").arg(path, reason);
+        *error = Tr::tr("Cannot write \"%1\": %2.").arg(path, reason);
     return false;
 }
 
@@ -217,7 +212,7 @@ bool checkIniText(const QByteArray &bytes, QString *error)
 {
     const auto fail = [error](int line, const QString &reason) {
         if (error)
-            *error = tr("line %1: %2").arg(QString::number(line), reason);
+            *error = Tr::tr("line %1: %2").arg(QString::number(line), reason);
         return false;
     };
     int number = 0;
@@ -227,7 +222,7 @@ bool checkIniText(const QByteArray &bytes, QString *error)
         ++number;
         for (const char c : line) {
             if (static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\r')
-                return fail(number, tr("not a text file"));
+                return fail(number, Tr::tr("not a text file"));
         }
         const bool marked = number == 1 && line.startsWith("\xef\xbb\xbf");
         const QByteArray text = (marked ? line.mid(3) : line).trimmed();
@@ -236,14 +231,14 @@ bool checkIniText(const QByteArray &bytes, QString *error)
                 continue;
             if (text.startsWith('[')) {
                 if (!text.contains(']'))
-                    return fail(number, tr("the section name has no closing bracket"));
+                    return fail(number, Tr::tr("the section name has no closing bracket"));
             } else if (text.indexOf('=') < 1) {
-                return fail(number, tr("neither a section nor a key with a value"));
+                return fail(number, Tr::tr("neither a section nor a key with a value"));
             }
         }
         end = endOf(text, end.quoted);
         if (end.quoted && (!end.continued || number == lines.size()))
-            return fail(number, tr("a quoted value has no end"));
+            return fail(number, Tr::tr("a quoted value has no end"));
     }
     return true;
 }

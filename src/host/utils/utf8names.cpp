@@ -1,6 +1,6 @@
 #include "utf8names.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 #include <cstdlib>
 #include <unistd.h>
@@ -10,11 +10,6 @@ namespace Utils
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Utils::FileUtils", text);
-}
 
 bool isUtf8(const QByteArray &bytes)
 {
@@ -27,9 +22,9 @@ QString nonUtf8Argument(int argc, const char *const *argv)
 {
     for (int i = 1; i < argc; ++i) {
         if (!isUtf8(argv[i]))
-            return tr("The argument \"%1\" is not UTF-8; such names cannot be used. Rename the "
-                      "file "
-                      "or folder.")
+            return Tr::tr("The argument \"%1\" is not UTF-8; such names cannot be used. Rename the "
+                          "file "
+                          "or folder.")
                 .arg(QString::fromUtf8(argv[i]));
     }
     return {};
@@ -42,8 +37,9 @@ QString nonUtf8CurrentFolder()
     std::free(folder);
     if (isUtf8(name))
         return {};
-    return tr("The name of the current folder, \"%1\", is not UTF-8; files in it cannot be used. "
-              "Rename it.")
+    return Tr::tr(
+               "The name of the current folder, \"%1\", is not UTF-8; files in it cannot be used. "
+               "Rename it.")
         .arg(QString::fromUtf8(name));
 }
 

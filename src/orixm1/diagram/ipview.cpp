@@ -1,26 +1,23 @@
 #include "ipview.h"
 
+#include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
+#include "diagramdialogs.h"
 #include "diagrampicture.h"
 #include "diagramtable.h"
-#include "dialogs/blockdialogs.h"
-#include "dialogs/cortexm1.h"
-#include "dialogs/messagebox.h"
 #include "ipitem.h"
+#include "labelfont.h"
 #include "lineitem.h"
 #include "textitem.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
-
-#include <algorithm>
 
 namespace TARVOORIXM1
 {
@@ -71,63 +68,6 @@ QList<QPoint> linePoints(const DiagramRow &row)
     return points;
 }
 
-// A block's label in the size that the font was measured in.
-struct MeasuredLabel {
-    QVector<qreal> words; // their widths
-    QSizeF room;
-};
-
-// Whether the label fits its block, broken between words, when it is written `scale` times as
-// large.
-bool doesFit(const MeasuredLabel &label, qreal blank, qreal lineHeight, qreal scale)
-{
-    const qreal room = label.room.width() / scale;
-    int lines = 1;
-    qreal used = 0;
-    for (qreal word : label.words) {
-        if (word > room)
-            return false;
-        const qreal together = used + (used > 0 ? blank : 0) + word;
-        lines += together > room;
-        used = together > room ? word : together;
-    }
-    return lines * lineHeight * scale <= label.room.height();
-}
-
-// The user's font in the largest size, up to the user's own, in which all labels fit their blocks.
-// In scene units, as blocks are, so that they fit at every scale and resolution.
-QFont fittingFont(const QFont &font)
-{
-    // Without hinting, text is alike at every scale and its measures grow with the size: one
-    // size tells of all, which saves loading the others. It is the one that often results.
-    constexpr int measured = 11;
-    constexpr int smallest = 4;
-    QFont result = font;
-    result.setHintingPreference(QFont::PreferNoHinting);
-    result.setPixelSize(measured);
-    const QFontMetricsF metrics(result);
-    const qreal blank = metrics.horizontalAdvance(u' ');
-
-    QVector<MeasuredLabel> labels;
-    for (const DiagramRow &row : diagramRows()) {
-        if (row.kind != DiagramRow::Block || row.text.size() == 0)
-            continue;
-        MeasuredLabel label = {{}, QSizeF(row.width - 2, row.height - 2)};
-        const QStringList words = QString(row.text).split(u' ');
-        for (const QString &word : words)
-            label.words.append(metrics.horizontalAdvance(word));
-        labels.append(label);
-    }
-    int size = qMax(smallest, QFontInfo(font).pixelSize());
-    const auto isTooLarge = [&](const MeasuredLabel &label) {
-        return !doesFit(label, blank, metrics.lineSpacing(), qreal(size) / measured);
-    };
-    while (size > smallest && std::any_of(labels.cbegin(), labels.cend(), isTooLarge))
-        --size;
-    result.setPixelSize(size);
-    return result;
-}
-
 // How a slot is named where a connection is made.
 QByteArray slotSignature(const char *slot)
 {
@@ -148,7 +88,7 @@ IPView::IPView(OptionMap *options, QWidget *parent)
     buildScene();
     buildButtons();
     updateLabelFont();
-    announceFocus();
+    m_focus.announce();
 
     auto *savePicture = new QAction(tr("Save Picture As..."), this);
     connect(savePicture, SIGNAL(triggered()), this, SLOT(onSavePicture()));
@@ -182,15 +122,13 @@ void IPView::buildScene()
             if (row.slot) {
                 m_blockByLabel.insert(row.text, block);
                 m_slotByLabel.insert(row.text, row.slot);
-                m_clickOrder.append(block);
+                m_focus.append(block, row.key.size() > 0);
                 connect(block, SIGNAL(doubleClicked()), this, slotSignature(row.slot).constData());
             }
             if (row.ports > 0)
                 m_portBlocks.append({block, row.key, row.ports});
             else if (row.key.size() > 0)
                 m_blocks.insert(row.key, block);
-            else
-                m_stateless.insert(block);
             item = block;
         }
         item->setPos(row.x, row.y);
@@ -244,111 +182,17 @@ bool IPView::event(QEvent *event)
 
 // Opening and updating
 
-template <class Dialog>
-void IPView::openDialog()
+void IPView::open(QLatin1String dialog)
 {
-    Dialog dialog(m_options, this);
-    if (dialog.exec() == QDialog::Accepted)
+    if (runBlockDialog(dialog, m_options, this))
         updateView();
-}
-
-void IPView::onCortexM1()
-{
-    openDialog<CortexM1>();
-}
-
-void IPView::onGpio()
-{
-    openDialog<GPIODlg>();
-}
-
-void IPView::onCan()
-{
-    openDialog<CANDlg>();
-}
-
-void IPView::onEhternet()
-{
-    openDialog<EthernetDlg>();
-}
-
-void IPView::onDDR3()
-{
-    openDialog<DDR3Dlg>();
-}
-
-void IPView::onPsram()
-{
-    openDialog<PSRAMDlg>();
-}
-
-void IPView::onSpiFlash()
-{
-    openDialog<SPIFlashDlg>();
-}
-
-void IPView::onSDCard()
-{
-    openDialog<SDCardDlg>();
-}
-
-void IPView::onAHB2Extension()
-{
-    openDialog<AHB2ExtensionDlg>();
-}
-
-void IPView::onUart()
-{
-    openDialog<UartDlg>();
-}
-
-void IPView::onTimer()
-{
-    openDialog<TimerDlg>();
-}
-
-void IPView::onWatchDog()
-{
-    openDialog<WatchDogDlg>();
-}
-
-void IPView::onRtc()
-{
-    openDialog<RTCDlg>();
-}
-
-void IPView::onI2C()
-{
-    openDialog<I2CDlg>();
-}
-
-void IPView::onSPI()
-{
-    openDialog<SPIDlg>();
-}
-
-void IPView::onTRNG()
-{
-    openDialog<TrngDlg>();
-}
-
-void IPView::onDualTimer()
-{
-    openDialog<DualTimerDlg>();
-}
-
-void IPView::onAPB2Extension()
-{
-    openDialog<APB2ExtensionDlg>();
 }
 
 void IPView::onBlock()
 {
     const auto *item = qobject_cast<const IPItem *>(sender());
-    const Block *block = item ? blockOfBox(item->text()) : nullptr;
-    const auto dialog = block ? makeBlockDialog(block->dialog, m_options, this) : nullptr;
-    if (dialog && dialog->exec() == QDialog::Accepted)
-        updateView();
+    if (const Block *block = item ? blockOfBox(item->text()) : nullptr)
+        open(block->dialog);
 }
 
 void IPView::updateView()
@@ -361,7 +205,7 @@ void IPView::updateView()
             any = isOn(*m_options, Key::extensionPortKey(entry.keyPrefix, port));
         entry.block->onConfigured(any);
     }
-    announceFocus();
+    m_focus.announce();
 }
 
 void IPView::setCanAvailable(bool available)
@@ -404,8 +248,8 @@ void IPView::setAvailable(QLatin1String key, bool available)
     } else {
         m_availableBlocks.remove(key);
         disconnect(block, SIGNAL(doubleClicked()), this, slot.constData());
-        if (block == m_focused)
-            setFocusedBlock(nullptr);
+        if (block == m_focus.block())
+            m_focus.set(nullptr);
     }
     block->setClickable(available);
     block->setVisible(available);
@@ -497,7 +341,7 @@ IPItem *IPView::topBlockAt(const QPoint &position) const
 
 void IPView::mousePressEvent(QMouseEvent *event)
 {
-    setFocusedBlock(nullptr);
+    m_focus.set(nullptr);
     if (event->button() == Qt::LeftButton && !m_panning) {
         m_pressedBlock = topBlockAt(event->pos());
         if (!m_pressedBlock || !m_pressedBlock->isClickable()) {
@@ -556,50 +400,33 @@ void IPView::mouseDoubleClickEvent(QMouseEvent *event)
 
 // Keyboard
 
-QList<IPItem *> IPView::clickableBlocks() const
-{
-    QList<IPItem *> blocks;
-    for (IPItem *block : m_clickOrder) {
-        if (block->isClickable() && block->isVisible())
-            blocks.append(block);
-    }
-    return blocks;
-}
-
 bool IPView::focusNextPrevChild(bool next)
 {
-    const QList<IPItem *> blocks = clickableBlocks();
-    const int current = m_focused ? blocks.indexOf(m_focused) : next ? -1 : blocks.size();
-    IPItem *following = blocks.value(current + (next ? 1 : -1));
-    setFocusedBlock(following);
-    return following || QGraphicsView::focusNextPrevChild(next);
+    return m_focus.step(next) || QGraphicsView::focusNextPrevChild(next);
 }
 
 void IPView::focusInEvent(QFocusEvent *event)
 {
     QGraphicsView::focusInEvent(event);
     update(); // the ring around the view
-    const QList<IPItem *> blocks = clickableBlocks();
-    if (event->reason() == Qt::TabFocusReason)
-        setFocusedBlock(blocks.value(0));
-    else if (event->reason() == Qt::BacktabFocusReason)
-        setFocusedBlock(blocks.value(blocks.size() - 1));
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        m_focus.enter(event->reason() == Qt::TabFocusReason);
     else
-        updateFocusFrame();
+        m_focus.updateFrame();
 }
 
 void IPView::focusOutEvent(QFocusEvent *event)
 {
     QGraphicsView::focusOutEvent(event);
     update();
-    updateFocusFrame();
+    m_focus.updateFrame();
 }
 
 void IPView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (m_focused)
-            Q_EMIT m_focused->doubleClicked();
+        if (m_focus.block())
+            Q_EMIT m_focus.block()->doubleClicked();
         else
             event->ignore();
         return;
@@ -617,55 +444,9 @@ void IPView::keyPressEvent(QKeyEvent *event)
         QGraphicsView::keyPressEvent(event);
 }
 
-void IPView::setFocusedBlock(IPItem *block)
-{
-    if (block != m_focused) {
-        updateFocusFrame();
-        m_focused = block;
-        updateFocusFrame();
-        if (block)
-            ensureVisible(block);
-    }
-    announceFocus();
-}
-
-void IPView::announceFocus()
-{
-    QString name = tr("Block diagram");
-    if (m_focused) {
-        name = m_focused->text();
-        if (!m_stateless.contains(m_focused))
-            name += ", "_l1 + (m_focused->isActive() ? tr("switched on") : tr("switched off"));
-    }
-    if (name != accessibleName())
-        setAccessibleName(name); // tells assistive tools
-}
-
-QRectF IPView::focusFrame() const
-{
-    constexpr qreal distance = 4;
-    return m_focused
-               ? m_focused->sceneBoundingRect().adjusted(-distance, -distance, distance, distance)
-               : QRectF();
-}
-
-void IPView::updateFocusFrame()
-{
-    if (m_focused)
-        m_scene->invalidate(focusFrame().adjusted(-2, -2, 2, 2), QGraphicsScene::ForegroundLayer);
-}
-
 void IPView::drawForeground(QPainter *painter, const QRectF & /*rect*/)
 {
-    if (!m_focused || !hasFocus())
-        return;
-    painter->setBrush(Qt::NoBrush);
-    // Made anew with another palette only: frames come fast while panning.
-    const QColor &highlight = palette().color(QPalette::Highlight);
-    if (m_focusPen.color() != highlight)
-        m_focusPen = QPen(highlight, 2);
-    painter->setPen(m_focusPen);
-    painter->drawRoundedRect(focusFrame(), 3, 3);
+    m_focus.drawFrame(painter);
 }
 
 // Font and pictures
@@ -681,7 +462,7 @@ void IPView::changeEvent(QEvent *event)
 
 void IPView::updateLabelFont()
 {
-    m_labelFont = fittingFont(font());
+    m_labelFont = fittingFont(font(), diagramLabels());
     viewport()->setFont(m_labelFont); // what items are painted with
     const QList<QGraphicsItem *> all = m_scene->items();
     for (QGraphicsItem *item : all) {
@@ -708,12 +489,8 @@ bool IPView::saveDiagram(const QString &path, QString *error) const
 
 void IPView::onSavePicture()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save Picture"), QString(),
-                                     tr("Drawing (*.svg);;Picture (*.png);;Document (*.pdf)"));
-    QString error;
-    if (!path.isEmpty() && !saveDiagram(path, &error))
-        showErrorBox(this, error);
+    runSavePictureDialog(
+        this, [this](const QString &path, QString *error) { return saveDiagram(path, error); });
 }
 
 } // namespace TARVOORIXM1

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "blockfocus.h"
+#include "config/latin1literal.h"
 #include "config/optionmap.h"
 
 #include <QGraphicsView>
 #include <QHash>
 #include <QList>
 #include <QMap>
-#include <QPen>
-#include <QSet>
 
 QT_FORWARD_DECLARE_CLASS(QToolButton)
 
@@ -42,7 +42,7 @@ public:
     bool isFitted() const { return m_fitted; }
 
     // The block that the keyboard has reached; null if none.
-    IPItem *focusedBlock() const { return m_focused; }
+    IPItem *focusedBlock() const { return m_focus.block(); }
 
     // Draws the whole diagram as it is now, without the focus frame, into `target`, keeping its
     // proportions.
@@ -56,24 +56,25 @@ public Q_SLOTS:
     void zoomIn();
     // Shows the state of the option map.
     void updateView();
-    void onCortexM1();
-    void onGpio();
-    void onCan();
-    void onEhternet();
-    void onDDR3();
-    void onPsram();
-    void onSpiFlash();
-    void onSDCard();
-    void onAHB2Extension();
-    void onUart();
-    void onTimer();
-    void onWatchDog();
-    void onRtc();
-    void onI2C();
-    void onSPI();
-    void onTRNG();
-    void onDualTimer();
-    void onAPB2Extension();
+    // Open the dialog of a block.
+    void onCortexM1() { open("CortexM1"_l1); }
+    void onGpio() { open("GPIODlg"_l1); }
+    void onCan() { open("CANDlg"_l1); }
+    void onEhternet() { open("EthernetDlg"_l1); }
+    void onDDR3() { open("DDR3Dlg"_l1); }
+    void onPsram() { open("PSRAMDlg"_l1); }
+    void onSpiFlash() { open("SPIFlashDlg"_l1); }
+    void onSDCard() { open("SDCardDlg"_l1); }
+    void onAHB2Extension() { open("AHB2ExtensionDlg"_l1); }
+    void onUart() { open("UartDlg"_l1); }
+    void onTimer() { open("TimerDlg"_l1); }
+    void onWatchDog() { open("WatchDogDlg"_l1); }
+    void onRtc() { open("RTCDlg"_l1); }
+    void onI2C() { open("I2CDlg"_l1); }
+    void onSPI() { open("SPIDlg"_l1); }
+    void onTRNG() { open("TrngDlg"_l1); }
+    void onDualTimer() { open("DualTimerDlg"_l1); }
+    void onAPB2Extension() { open("APB2ExtensionDlg"_l1); }
 
 private Q_SLOTS:
     // Opens the dialog of the block that was double-clicked: for blocks without a slot of their
@@ -109,16 +110,10 @@ private:
     // Leaves a strip beside the diagram for the zoom buttons, so that they never cover a block.
     void reserveRoom();
     void setAvailable(QLatin1String key, bool available);
-    // Runs the block's dialog on the option map.
-    template <class Dialog>
-    void openDialog();
+    // Of the class `dialog`.
+    void open(QLatin1String dialog);
 
     IPItem *topBlockAt(const QPoint &position) const;
-    QList<IPItem *> clickableBlocks() const;
-    void setFocusedBlock(IPItem *block);
-    void announceFocus();
-    void updateFocusFrame();
-    QRectF focusFrame() const;
     void scaleTo(qreal horizontal, qreal vertical);
     void fit();
     void updateLabelFont();
@@ -136,11 +131,8 @@ private:
     QHash<QString, IPItem *> m_blockByLabel; // the clickable ones
     QHash<QString, LineItem *> m_dropByLabel;
     QHash<QString, const char *> m_slotByLabel;
-    QSet<IPItem *> m_stateless;   // blocks that never show whether they are on
-    QList<IPItem *> m_clickOrder; // as Tab walks
+    BlockFocus m_focus{this};
     QFont m_labelFont;
-    IPItem *m_focused = nullptr;
-    QPen m_focusPen{Qt::black, 2};
     bool m_fitted = false;
 };
 

@@ -1,6 +1,7 @@
 #include "ipcatalogue.h"
 
 #include "pluginprobe.h"
+#include "tr.h"
 
 #include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
@@ -28,11 +29,6 @@ namespace
 
 constexpr const char *moveMethod = "moveToDevice(QString,QString,bool)";
 constexpr int probesAtOnce = 4;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::IpCatalogue", text);
-}
 
 // By library; {"stamp", "reason"}.
 QJsonObject readCache(const QString &file)
@@ -89,7 +85,7 @@ void IpCatalogue::loadFolder(const QString &folder, bool required)
     const QDir dir(folder);
     if (folder.isEmpty() || !dir.exists()) {
         if (required)
-            fail(folder, tr("The plug-in folder does not exist."));
+            fail(folder, Tr::tr("The plug-in folder does not exist."));
         return;
     }
     const QStringList names = dir.entryList(QDir::Files, QDir::Name);
@@ -230,7 +226,7 @@ bool IpCatalogue::take(LoadedPlugin plugin, const QString &path, const QString &
             std::find_if(m_entries.begin(), m_entries.end(),
                          [&ip](const IpEntry &entry) { return entry.id == ip.entry.id; });
         if (twin != m_entries.end()) {
-            fail(path, tr("Its IP \"%1\" is offered by \"%2\" already.")
+            fail(path, Tr::tr("Its IP \"%1\" is offered by \"%2\" already.")
                            .arg(ip.entry.id, QDir::toNativeSeparators(twin->library)));
             all = false;
             continue;
@@ -261,15 +257,15 @@ bool IpCatalogue::isSupported(int index, const DEV::DeviceArg &device, QString *
     bool supported = false;
     QString why;
     if (device.isNull()) {
-        why = tr("There is no device yet: it comes with a project.");
+        why = Tr::tr("There is no device yet: it comes with a project.");
     } else {
         const QString thrown =
             thrownBy([&] { supported = m_cores.at(size_t(index)).object->isSupported(device); });
         if (!thrown.isEmpty()) {
             supported = false;
-            why = tr("The plug-in failed when it was asked about the device: %1.").arg(thrown);
+            why = Tr::tr("The plug-in failed when it was asked about the device: %1.").arg(thrown);
         } else if (!supported) {
-            why = tr("%1 does not support the device %2.")
+            why = Tr::tr("%1 does not support the device %2.")
                       .arg(m_entries.at(index).name, device.device());
         }
     }
@@ -282,7 +278,7 @@ bool IpCatalogue::run(const Core &core, const std::function<void()> &call, QStri
 {
     const QString thrown = thrownBy(call);
     if (!thrown.isEmpty() && error)
-        *error = tr("The plug-in of %1 failed: %2.").arg(core.name, thrown);
+        *error = Tr::tr("The plug-in of %1 failed: %2.").arg(core.name, thrown);
     return thrown.isEmpty();
 }
 
@@ -336,8 +332,9 @@ bool IpCatalogue::moveToDevice(int index, const QString &ipcFile, const QString 
             },
             error))
         return false;
-    *error = called ? result.value(QStringLiteral("error")).toString()
-                    : tr("The plug-in of %1 cannot move its IPs to other devices.").arg(core.name);
+    *error = called
+                 ? result.value(QStringLiteral("error")).toString()
+                 : Tr::tr("The plug-in of %1 cannot move its IPs to other devices.").arg(core.name);
     move->losses = result.value(QStringLiteral("losses")).toStringList();
     move->changed = result.value(QStringLiteral("changed")).toBool();
     return error->isEmpty();

@@ -1,10 +1,11 @@
 #include "pluginloader.h"
 
+#include "tr.h"
+
 #include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
@@ -21,11 +22,6 @@ using TE::TE_IPCore_Def::IPPlugin;
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::IpCatalogue", text);
-}
 
 // The help document of an IP: as its plug-in says, or else as the descriptor with its id does.
 QString helpOf(BaseIPCoreInterface &core, const QString &dataFolder)
@@ -56,9 +52,9 @@ QString PluginLoader::thrownBy(const std::function<void()> &call)
         call();
     } catch (const std::exception &exception) {
         const QString what = QString::fromUtf8(exception.what());
-        return what.isEmpty() ? tr("an exception without a text") : what;
+        return what.isEmpty() ? Tr::tr("an exception without a text") : what;
     } catch (...) {
-        return tr("an exception of an unknown type");
+        return Tr::tr("an exception of an unknown type");
     }
     return {};
 }
@@ -88,14 +84,14 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
         cores = plugin->ipCoreInterfaces();
     });
     if (!thrown.isEmpty()) {
-        result.mistakes.append(tr("It failed while it was started: %1.").arg(thrown));
+        result.mistakes.append(Tr::tr("It failed while it was started: %1.").arg(thrown));
         return result;
     }
     if (!plugin) {
         if (loader.isLoaded())
-            result.mistakes.append(tr("It is a Qt plug-in, but not one for IPs."));
+            result.mistakes.append(Tr::tr("It is a Qt plug-in, but not one for IPs."));
         else if (loader.metaData().isEmpty())
-            result.mistakes.append(tr("It is no plug-in: %1").arg(loader.errorString()));
+            result.mistakes.append(Tr::tr("It is no plug-in: %1").arg(loader.errorString()));
         else
             result.mistakes.append(loader.errorString());
         return result;
@@ -103,7 +99,7 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
     result.root = plugin;
     if (cores.isEmpty()) {
         result.mistakes.append(
-            tr("It offers no IP: it finds no usable descriptor in its data folder \"%1\".")
+            Tr::tr("It offers no IP: it finds no usable descriptor in its data folder \"%1\".")
                 .arg(QDir::toNativeSeparators(plugin->dataPath())));
         return result;
     }
@@ -111,11 +107,11 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
     QSet<BaseIPCoreInterface *> seen;
     for (BaseIPCoreInterface *object : qAsConst(cores)) {
         if (!object) {
-            result.mistakes.append(tr("One of its IPs is no object."));
+            result.mistakes.append(Tr::tr("One of its IPs is no object."));
             continue;
         }
         if (seen.contains(object)) {
-            result.mistakes.append(tr("It offers one object twice."));
+            result.mistakes.append(Tr::tr("It offers one object twice."));
             continue;
         }
         seen.insert(object);
@@ -131,9 +127,10 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
             ip.entry.help = helpOf(*object, dataFolder);
         });
         if (!reason.isEmpty())
-            result.mistakes.append(tr("It failed when it was asked for an IP: %1.").arg(reason));
+            result.mistakes.append(
+                Tr::tr("It failed when it was asked for an IP: %1.").arg(reason));
         else if (ip.entry.id.isEmpty() || ip.entry.name.isEmpty())
-            result.mistakes.append(tr("One of its IPs has no id or no name."));
+            result.mistakes.append(Tr::tr("One of its IPs has no id or no name."));
         else
             result.ips.push_back(std::move(ip));
     }

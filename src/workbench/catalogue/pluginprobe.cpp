@@ -1,8 +1,9 @@
 #include "pluginprobe.h"
 
+#include "tr.h"
+
 #include <core/editormanager.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -27,11 +28,6 @@ namespace
 
 // What a plug-in may print meanwhile, in bytes.
 constexpr int outputLimit = 1 << 20;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::PluginProbe", text);
-}
 
 QString programPath()
 {
@@ -112,17 +108,17 @@ QString PluginProbe::stepWords(int step)
 {
     switch (step) {
     case PluginLoader::Loading:
-        return tr("while it was loaded");
+        return Tr::tr("while it was loaded");
     case PluginLoader::Starting:
-        return tr("while it was started");
+        return Tr::tr("while it was started");
     case PluginLoader::Listing:
-        return tr("when it was asked for its IPs");
+        return Tr::tr("when it was asked for its IPs");
     case PluginLoader::Describing:
-        return tr("when it was asked what its IPs are");
+        return Tr::tr("when it was asked what its IPs are");
     case PluginLoader::Supporting:
-        return tr("when it was asked about devices");
+        return Tr::tr("when it was asked about devices");
     case PluginLoader::Releasing:
-        return tr("when its IPs were released");
+        return Tr::tr("when its IPs were released");
     default:
         return {};
     }
@@ -161,16 +157,17 @@ PluginProbe::Result PluginProbe::wait()
     }
     const QString when = stepWords(step);
     if (tooMuch && step >= 0)
-        return {tr("It did not stop printing %1.").arg(when), true};
+        return {Tr::tr("It did not stop printing %1.").arg(when), true};
     if (blocked && step >= 0)
-        return {tr("It did not answer within %1 s %2.").arg(m_timeLimit / 1000).arg(when), true};
+        return {Tr::tr("It did not answer within %1 s %2.").arg(m_timeLimit / 1000).arg(when),
+                true};
     // Nothing of the plug-in has run: that is not its fault.
     if (step < 0)
         return {};
     if (m_process->exitStatus() == QProcess::CrashExit)
-        return {tr("It crashed %1 (signal %2).").arg(when).arg(m_process->exitCode()), false};
+        return {Tr::tr("It crashed %1 (signal %2).").arg(when).arg(m_process->exitCode()), false};
     if (told.isEmpty())
-        return {tr("It ended the program %1 (status %2).").arg(when).arg(m_process->exitCode()),
+        return {Tr::tr("It ended the program %1 (status %2).").arg(when).arg(m_process->exitCode()),
                 false};
     if (!told.value(QLatin1String("ips")).toArray().isEmpty())
         return {};

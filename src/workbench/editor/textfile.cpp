@@ -1,6 +1,6 @@
 #include "textfile.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 #include <algorithm>
 
@@ -59,11 +59,6 @@ bool endsLine(QChar c)
     return c == u'\n' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
 }
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::TextFormat", text);
-}
-
 } // namespace
 
 bool TextFormat::isOrdinary(uint code)
@@ -102,7 +97,7 @@ TextFormat TextFormat::of(const QByteArray &bytes)
 QString TextFormat::mistakeOf(const QByteArray &bytes)
 {
     if (bytes.contains('\0'))
-        return tr("it is not a text file");
+        return Tr::tr("it is not a text file");
     return {};
 }
 
@@ -192,10 +187,10 @@ int TextFormat::firstMissing(const QString &shown) const
 
 QString TextFormat::name() const
 {
-    const QString characters = encoding == Latin1 ? tr("Latin-1")
-                               : byteOrderMark    ? tr("UTF-8 with mark")
-                                                  : tr("UTF-8");
-    return tr("%1, %2").arg(characters, QLatin1String(lineEndNames[lineEnd]));
+    const QString characters = encoding == Latin1 ? Tr::tr("Latin-1")
+                               : byteOrderMark    ? Tr::tr("UTF-8 with mark")
+                                                  : Tr::tr("UTF-8");
+    return Tr::tr("%1, %2").arg(characters, QLatin1String(lineEndNames[lineEnd]));
 }
 
 QString TextFormat::toShown(const QString &text)
@@ -237,7 +232,7 @@ QString TextFormat::explanation(const QString &line, int position)
 {
     const QChar c = position >= 0 && position < line.size() ? line.at(position) : QChar();
     if (isMark(c))
-        return tr("This line ends with %1, which is not how most lines of the file end.")
+        return Tr::tr("This line ends with %1, which is not how most lines of the file end.")
             .arg(label(c));
     if (!isStandIn(c))
         return {};
@@ -251,11 +246,11 @@ QString TextFormat::explanation(const QString &line, int position)
         const auto *at = reinterpret_cast<const uchar *>(bytes.constData());
         const Character found = utf8At(at, at + bytes.size());
         if (found.length > 0 && start + found.length > position)
-            return tr("Byte %1 of the character U+%2, which would not be seen.")
+            return Tr::tr("Byte %1 of the character U+%2, which would not be seen.")
                 .arg(label(c),
                      QStringLiteral("%1").arg(found.code, 4, 16, QLatin1Char('0')).toUpper());
     }
-    return tr("Byte %1, which is no UTF-8 here.").arg(label(c));
+    return Tr::tr("Byte %1, which is no UTF-8 here.").arg(label(c));
 }
 
 } // namespace Workbench

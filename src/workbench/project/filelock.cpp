@@ -1,6 +1,7 @@
 #include "filelock.h"
 
-#include <QCoreApplication>
+#include "tr.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -18,11 +19,6 @@ namespace Workbench
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::FileLock", text);
-}
 
 // Network file systems lock only what is open for writing.
 int openForLock(const QByteArray &path)
@@ -62,7 +58,7 @@ FileLock::FileLock(const QString &path, int patience)
             if (reason == ENOSYS || reason == EOPNOTSUPP || reason == EINVAL || reason == ENOLCK)
                 break;
             ::close(descriptor);
-            fail(path, reason == EWOULDBLOCK ? tr("another program is changing it")
+            fail(path, reason == EWOULDBLOCK ? Tr::tr("another program is changing it")
                                              : qt_error_string(reason));
             return;
         }
@@ -80,7 +76,7 @@ FileLock::FileLock(const QString &path, int patience)
         }
         ::close(descriptor);
         if (waited.elapsed() >= patience) {
-            fail(path, tr("another program is changing it"));
+            fail(path, Tr::tr("another program is changing it"));
             return;
         }
     }
@@ -94,7 +90,7 @@ FileLock::~FileLock()
 
 void FileLock::fail(const QString &path, const QString &reason)
 {
-    m_error = tr("Cannot change \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
+    m_error = Tr::tr("Cannot change \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
 }
 
 } // namespace Workbench

@@ -1,9 +1,10 @@
 #include "ipchead.h"
 
+#include "tr.h"
+
 #include <core/idecore.h>
 #include <dev/devicedb.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -15,11 +16,6 @@ namespace
 {
 
 constexpr qint64 sizeLimit = 4 << 20;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::IpcHead", text);
-}
 
 // A value without its quotation marks and escapes.
 QString plain(QByteArray value)
@@ -113,23 +109,24 @@ QString IpcHead::deviceWords() const
 QString IpcHead::difference(const DEV::DeviceArg &project) const
 {
     if (hasUnknownDevice())
-        return tr("for the unknown device %1").arg(deviceName);
+        return Tr::tr("for the unknown device %1").arg(deviceName);
     if (device.isNull() || project.isNull() || device.id() == project.id())
         return {};
     // The whole names only where the first parts are the same.
     return device.device() == project.device()
-               ? tr("for %1; project: %2").arg(words(device), words(project))
-               : tr("for %1; project: %2").arg(device.device(), project.device());
+               ? Tr::tr("for %1; project: %2").arg(words(device), words(project))
+               : Tr::tr("for %1; project: %2").arg(device.device(), project.device());
 }
 
 QString IpcHead::differenceSentence(const DEV::DeviceArg &project) const
 {
     if (hasUnknownDevice())
-        return tr("This IP is made for the device \"%1\", which the device database does not know.")
-            .arg(deviceName);
+        return Tr::
+            tr("This IP is made for the device \"%1\", which the device database does not know.")
+                .arg(deviceName);
     if (device.isNull() || project.isNull() || device.id() == project.id())
         return {};
-    return tr("This IP is made for the device %1, and the project is for %2.")
+    return Tr::tr("This IP is made for the device %1, and the project is for %2.")
         .arg(words(device), words(project));
 }
 

@@ -1,9 +1,10 @@
 #include "projectfile.h"
 
+#include "tr.h"
+
 #include <reading/jsontext.h>
 #include <utils/fileutils.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,15 +21,10 @@ const QString deviceKey = QStringLiteral("device");
 const QString filesKey = QStringLiteral("files");
 const QString topKey = QStringLiteral("top");
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::ProjectFile", text);
-}
-
 bool fail(const QString &path, const QString &reason, QString *error)
 {
     if (error)
-        *error = tr("Project \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
+        *error = Tr::tr("Project \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
     return false;
 }
 
@@ -37,7 +33,7 @@ QString place(const QByteArray &text, const Reading::JsonMistake &mistake)
 {
     const QByteArray before = text.left(mistake.offset);
     const int lineStart = before.lastIndexOf('\n') + 1;
-    return tr("line %1, column %2: %3")
+    return Tr::tr("line %1, column %2: %3")
         .arg(before.count('\n') + 1)
         .arg(QString::fromUtf8(before.mid(lineStart)).size() + 1)
         .arg(mistake.reason);
@@ -66,37 +62,39 @@ bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectF
     if (parseError.error != QJsonParseError::NoError)
         return fail(path, parseError.errorString(), error);
     if (!document.isObject())
-        return fail(path, tr("it holds no JSON object"), error);
+        return fail(path, Tr::tr("it holds no JSON object"), error);
 
     QJsonObject root = document.object();
     const QJsonValue format = root.take(formatKey);
     if (!format.isDouble() || format.toInt() < 1)
-        return fail(path, tr("it has no format number (\"format\"), so it is no project"), error);
-    if (format.toDouble() > currentFormat)
-        return fail(path,
-                    tr("it was written by a newer version of this program (format %1; this program "
-                       "reads format %2)")
-                        .arg(format.toInt())
-                        .arg(currentFormat),
+        return fail(path, Tr::tr("it has no format number (\"format\"), so it is no project"),
                     error);
+    if (format.toDouble() > currentFormat)
+        return fail(
+            path,
+            Tr::tr("it was written by a newer version of this program (format %1; this program "
+                   "reads format %2)")
+                .arg(format.toInt())
+                .arg(currentFormat),
+            error);
 
     ProjectFile result;
     const QJsonValue device = root.take(deviceKey);
     if (!device.isString() && !device.isUndefined())
-        return fail(path, tr("\"device\" is no text"), error);
+        return fail(path, Tr::tr("\"device\" is no text"), error);
     result.deviceId = device.toString();
     const QJsonValue top = root.take(topKey);
     if (!top.isString() && !top.isUndefined())
-        return fail(path, tr("\"top\" is no text"), error);
+        return fail(path, Tr::tr("\"top\" is no text"), error);
     result.topModule = top.toString();
     const QJsonValue files = root.take(filesKey);
     if (!files.isArray() && !files.isUndefined())
-        return fail(path, tr("\"files\" is no list"), error);
+        return fail(path, Tr::tr("\"files\" is no list"), error);
     const QJsonArray entries = files.toArray();
     QSet<QString> listed;
     for (const QJsonValue &value : entries) {
         if (!value.isString() || value.toString().isEmpty())
-            return fail(path, tr("\"files\" holds an entry that is no file name"), error);
+            return fail(path, Tr::tr("\"files\" holds an entry that is no file name"), error);
         // "./a.v" and "a.v" are one file.
         const QString entry = QDir::cleanPath(value.toString());
         if (!listed.contains(entry)) {

@@ -1,9 +1,10 @@
 #include "runstore.h"
 
+#include "tr.h"
+
 #include <synthesis/reportjson.h>
 #include <utils/fileutils.h>
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -21,11 +22,6 @@ namespace
 
 constexpr int formatNumber = 1;
 constexpr qint64 sizeLimit = 16 << 20; // bytes; a report has some hundred thousand at most
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Workbench::RunStore", text);
-}
 
 // Empty for what cannot be read.
 QByteArray digestOf(const QString &path)
@@ -111,12 +107,12 @@ bool RunStore::load(const QString &project, KeptRun *run, QString *error) const
     const QString path = pathOf(project);
     const auto refuse = [&path, error](const QString &reason) {
         if (error)
-            *error = tr("The last results cannot be shown: \"%1\" %2.")
+            *error = Tr::tr("The last results cannot be shown: \"%1\" %2.")
                          .arg(QDir::toNativeSeparators(path), reason);
         return false;
     };
     if (QFileInfo(path).size() > sizeLimit)
-        return refuse(tr("is too large"));
+        return refuse(Tr::tr("is too large"));
     QByteArray bytes;
     if (!Utils::FileUtils::readFile(path, &bytes, error))
         return false;
@@ -124,7 +120,7 @@ bool RunStore::load(const QString &project, KeptRun *run, QString *error) const
     KeptRun result;
     if (object.value(QStringLiteral("format")).toInt() != formatNumber ||
         !Synthesis::fromJson(object.value(QStringLiteral("report")).toObject(), &result.report))
-        return refuse(tr("is no report of a run"));
+        return refuse(Tr::tr("is no report of a run"));
     result.when =
         QDateTime::fromString(object.value(QStringLiteral("when")).toString(), Qt::ISODate)
             .toLocalTime();

@@ -1,13 +1,21 @@
 #include "actions.h"
 
 #include "catalogue/catalogueview.h"
+#include "catalogue/ipcatalogue.h"
+#include "catalogue/pluginlist.h"
 #include "editactions.h"
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
 #include "editor/editortabs.h"
 #include "editor/findbar.h"
+#include "ipactions.h"
+#include "messages/messagemodel.h"
 #include "messages/messagesview.h"
 #include "messages/outputpane.h"
+#include "project/projectmodel.h"
+#include "project/projectpane.h"
+#include "projectactions.h"
+#include "results/lastrun.h"
 #include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
 
@@ -16,14 +24,13 @@
 #include <QMenuBar>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace Workbench
 {
 
-namespace
-{
-
 // Of an action: one of its own, or those of a standard action.
-struct Keys {
+struct MainWindow::Actions::Keys {
     Keys() = default;
     Keys(const QKeySequence &key) // NOLINT(google-explicit-constructor)
         : sequences{key}
@@ -37,24 +44,46 @@ struct Keys {
     QList<QKeySequence> sequences;
 };
 
-} // namespace
-
 MainWindow::Actions::Actions(MainWindow *window)
+    : m_window(window)
 {
-    const auto add = [window](QMenu *menu, const QString &text, const QString &icon,
-                              const Keys &keys, auto slot) {
-        auto *action = new QAction(text, window);
-        if (!icon.isEmpty())
-            action->setIcon(symbolIcon(icon));
-        action->setShortcuts(keys.sequences);
-        QObject::connect(action, &QAction::triggered, window, slot);
-        menu->addAction(action);
-        return action;
-    };
-    const Keys nothing;
-    QMenuBar *bar = window->menuBar();
+    addFileMenu();
+    addEditMenu();
+    addViewMenu();
+    addProjectMenu();
+    QMenu *tools = window->menuBar()->addMenu(tr("&Tools"));
+    add(tools, tr("&Plug-ins…"), {}, {}, [window] { window->m_plugins->show(); });
+    addHelpMenu();
+}
 
-    QMenu *file = bar->addMenu(tr("&File"));
+template <typename Slot>
+QAction *MainWindow::Actions::add(QMenu *menu, const QString &text, const QString &icon,
+                                  const Keys &keys, Slot slot)
+{
+    auto *action = new QAction(text, m_window);
+    if (!icon.isEmpty())
+        action->setIcon(symbolIcon(icon));
+    action->setShortcuts(keys.sequences);
+    QObject::connect(action, &QAction::triggered, m_window, slot);
+    menu->addAction(action);
+    return action;
+}
+
+// A slot that does something with the page in front, if there is one.
+template <typename Call>
+auto MainWindow::Actions::withPage(Call call)
+{
+    return [window = m_window, call] {
+        if (EditorPage *page = window->m_tabs->currentPage())
+            call(page);
+    };
+}
+
+void MainWindow::Actions::addFileMenu()
+{
+    MainWindow *window = m_window;
+    const Keys nothing;
+    QMenu *file = m_window->menuBar()->addMenu(tr("&File"));
     add(file, tr("&New Project…"), QStringLiteral("new-project"), QKeySequence::New,
         [window] { window->newProject(); });
     add(file, tr("&Open…"), QStringLiteral("open"), QKeySequence::Open,
@@ -74,8 +103,12 @@ MainWindow::Actions::Actions(MainWindow *window)
                    [window] { window->m_tabs->closeTab(window->m_tabs->currentIndex()); });
     file->addSeparator();
     add(file, tr("&Quit"), {}, QKeySequence::Quit, [window] { window->close(); });
+}
 
-    QMenu *edit = bar->addMenu(tr("&Edit"));
+void MainWindow::Actions::addEditMenu()
+{
+    MainWindow *window = m_window;
+    QMenu *edit = m_window->menuBar()->addMenu(tr("&Edit"));
     startEditing = add(edit, tr("&Edit File"), QStringLiteral("edit"),
                        QKeySequence(int(Qt::CTRL) + Qt::Key_E), [window] {
                            if (EditorPage *page = window->m_tabs->currentPage())
@@ -85,12 +118,6 @@ MainWindow::Actions::Actions(MainWindow *window)
     edit->addSeparator();
     editActions = new EditActions(window, edit);
     edit->addSeparator();
-    const auto withPage = [window](void (*call)(EditorPage *)) {
-        return [window, call] {
-            if (EditorPage *page = window->m_tabs->currentPage())
-                call(page);
-        };
-    };
     find = add(edit, tr("&Find…"), QStringLiteral("find"), QKeySequence::Find,
                withPage([](EditorPage *page) { page->findBar()->start(); }));
     findNext = add(edit, tr("Find &Next"), {}, QKeySequence(Qt::Key_F3),
@@ -99,8 +126,12 @@ MainWindow::Actions::Actions(MainWindow *window)
                        withPage([](EditorPage *page) { page->findBar()->findPrevious(); }));
     goToLine = add(edit, tr("&Go to Line…"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_G),
                    [window] { window->goToLine(); });
+}
 
-    QMenu *view = bar->addMenu(tr("&View"));
+void MainWindow::Actions::addViewMenu()
+{
+    MainWindow *window = m_window;
+    QMenu *view = m_window->menuBar()->addMenu(tr("&View"));
     viewMenu = view;
     view->addAction(window->m_projectDock->toggleViewAction());
     view->addAction(window->m_catalogueDock->toggleViewAction());
@@ -126,12 +157,23 @@ MainWindow::Actions::Actions(MainWindow *window)
                 window->m_tabs->setCurrentIndex((window->m_tabs->currentIndex() + count - 1) %
                                                 count);
         });
+    addPlaces();
+    view->addSeparator();
+    larger = add(view, tr("&Larger Text"), {}, QKeySequence::ZoomIn,
+                 withPage([](EditorPage *page) { page->editor()->zoomBy(1); }));
+    smaller = add(view, tr("&Smaller Text"), {}, QKeySequence::ZoomOut,
+                  withPage([](EditorPage *page) { page->editor()->zoomBy(-1); }));
+}
+
+void MainWindow::Actions::addPlaces()
+{
+    MainWindow *window = m_window;
     const auto addPlace = [&](const QString &text, Qt::Key key, auto place) {
-        return add(view, text, {}, QKeySequence(int(Qt::CTRL) + key), place);
+        return add(viewMenu, text, {}, QKeySequence(int(Qt::CTRL) + key), place);
     };
     addPlace(tr("Go to Pro&ject"), Qt::Key_1, [window] {
         window->m_projectDock->show();
-        window->m_projectTree->setFocus();
+        window->m_projectPane->tree()->setFocus();
     });
     addPlace(tr("Go to Catalo&gue"), Qt::Key_2, [window] {
         window->m_catalogueDock->show();
@@ -146,13 +188,13 @@ MainWindow::Actions::Actions(MainWindow *window)
         window->output()->showMessages();
         window->output()->messages()->setFocus();
     });
-    view->addSeparator();
-    larger = add(view, tr("&Larger Text"), {}, QKeySequence::ZoomIn,
-                 withPage([](EditorPage *page) { page->editor()->zoomBy(1); }));
-    smaller = add(view, tr("&Smaller Text"), {}, QKeySequence::ZoomOut,
-                  withPage([](EditorPage *page) { page->editor()->zoomBy(-1); }));
+}
 
-    QMenu *project = bar->addMenu(tr("&Project"));
+void MainWindow::Actions::addProjectMenu()
+{
+    MainWindow *window = m_window;
+    const Keys nothing;
+    QMenu *project = m_window->menuBar()->addMenu(tr("&Project"));
     createIp = add(project, tr("Create &IP…"), QStringLiteral("ip"),
                    QKeySequence(int(Qt::CTRL) + Qt::Key_I), [window] {
                        window->m_catalogueDock->show();
@@ -160,52 +202,61 @@ MainWindow::Actions::Actions(MainWindow *window)
                        window->m_catalogueView->setFocus();
                    });
     createIp->setStatusTip(tr("Goes to the catalogue; Enter there creates the selected IP"));
-    openSelected = add(project, tr("&Open Selected"), {}, nothing, [window] {
-        window->activateProjectItem(window->m_projectTree->currentIndex());
-    });
+    openSelected = add(project, tr("&Open Selected"), {}, nothing,
+                       [window] { window->m_projectPane->activateSelected(); });
     openAsText = add(project, tr("Open as Te&xt"), {}, nothing, [window] {
-        if (!window->selectedFile().isEmpty())
-            window->openPath(window->selectedFile(), 1);
+        if (!window->m_projectPane->selectedFile().isEmpty())
+            window->openPath(window->m_projectPane->selectedFile(), 1);
     });
     openAsText->setStatusTip(tr("Shows an IP's configuration in the editor, not in its dialog"));
     moveToDevice = add(project, tr("&Move to Device…"), {}, nothing, [window] {
-        if (!window->selectedFile().isEmpty())
-            window->chooseDeviceOf(window->selectedFile());
+        if (!window->m_projectPane->selectedFile().isEmpty())
+            window->m_ips->chooseDeviceOf(window->m_projectPane->selectedFile());
     });
-    add(project, tr("&Bring Back a Configuration…"), {}, nothing, [window] { window->showKept(); });
+    add(project, tr("&Bring Back a Configuration…"), {}, nothing,
+        [window] { window->m_ips->showKept(); });
     project->setToolTipsVisible(true); // why an IP cannot be moved
     project->addSeparator();
+    addSourceActions(project);
+    project->addSeparator();
+    topModule = add(project, tr("&Top Module…"), {}, nothing,
+                    [window] { window->m_projectActions->chooseTopModule(); });
+    device = add(project, tr("De&vice…"), QStringLiteral("device"), nothing,
+                 [window] { window->chooseDevice(); });
+}
+
+void MainWindow::Actions::addSourceActions(QMenu *project)
+{
+    MainWindow *window = m_window;
+    const Keys nothing;
     addSources = add(project, tr("&Add Source Files…"), QStringLiteral("add"),
                      QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_A),
-                     [window] { window->addSources(); });
+                     [window] { window->m_projectActions->addSources(); });
     newSource = add(project, tr("&New Source File…"), {},
                     QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_N),
-                    [window] { window->newSource(); });
+                    [window] { window->m_projectActions->newSource(); });
     removeSource = add(project, tr("&Remove from Project"), {}, nothing, [window] {
         if (window->m_project)
-            window->m_project->removeFile(window->selectedFile());
+            window->m_project->removeFile(window->m_projectPane->selectedFile());
     });
     removeSource->setStatusTip(tr("The file itself stays"));
     moveUp = add(project, tr("Move &Up"), QStringLiteral("up"),
                  QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Up), [window] {
                      if (window->m_project)
-                         window->m_project->moveFile(window->selectedFile(), -1);
+                         window->m_project->moveFile(window->m_projectPane->selectedFile(), -1);
                  });
     moveDown = add(project, tr("Move &Down"), QStringLiteral("down"),
                    QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_Down), [window] {
                        if (window->m_project)
-                           window->m_project->moveFile(window->selectedFile(), 1);
+                           window->m_project->moveFile(window->m_projectPane->selectedFile(), 1);
                    });
-    project->addSeparator();
-    topModule =
-        add(project, tr("&Top Module…"), {}, nothing, [window] { window->chooseTopModule(); });
-    device = add(project, tr("De&vice…"), QStringLiteral("device"), nothing,
-                 [window] { window->chooseDevice(); });
+}
 
-    QMenu *tools = bar->addMenu(tr("&Tools"));
-    add(tools, tr("&Plug-ins…"), {}, nothing, [window] { window->showPlugins(); });
-
-    QMenu *help = bar->addMenu(tr("&Help"));
+void MainWindow::Actions::addHelpMenu()
+{
+    MainWindow *window = m_window;
+    const Keys nothing;
+    QMenu *help = m_window->menuBar()->addMenu(tr("&Help"));
     add(help, tr("&User Guide"), {}, QKeySequence::HelpContents, [window] { window->showGuide(); });
     ipHelp = add(help, tr("Help on the Selected &IP"), {}, nothing,
                  [window] { window->showIpHelp(window->m_catalogueView->currentIp()); });
@@ -213,6 +264,63 @@ MainWindow::Actions::Actions(MainWindow *window)
     help->addSeparator();
     add(help, tr("&About Tarvo Workbench"), {}, nothing, [window] { window->about(); });
     add(help, tr("About &Qt"), {}, nothing, [] { QApplication::aboutQt(); });
+}
+
+void MainWindow::Actions::refresh()
+{
+    editActions->refresh();
+    refreshEditor();
+    refreshProject();
+    const bool hasPlaces = m_window->m_messages->hasPlaces();
+    nextMessage->setEnabled(hasPlaces);
+    previousMessage->setEnabled(hasPlaces);
+    showResults->setEnabled(m_window->m_lastRun->isThere());
+    const int ip = m_window->m_catalogueView->currentIp();
+    ipHelp->setEnabled(ip >= 0 && !m_window->m_catalogue.entries().at(ip).help.isEmpty());
+}
+
+void MainWindow::Actions::refreshEditor()
+{
+    const EditorTabs *tabs = m_window->m_tabs;
+    const EditorPage *page = tabs->currentPage();
+    save->setEnabled(page && page->isModified());
+    const QList<EditorPage *> pages = tabs->pages();
+    saveAll->setEnabled(
+        std::any_of(pages.begin(), pages.end(), [](EditorPage *any) { return any->isModified(); }));
+    closeTab->setEnabled(tabs->count() > 0);
+    startEditing->setEnabled(page && !page->isEditable() && !page->isLoading());
+    for (QAction *action : {find, findNext, findPrevious, goToLine, larger, smaller})
+        action->setEnabled(page != nullptr);
+    for (QAction *action : {nextTab, previousTab})
+        action->setEnabled(tabs->count() > 1);
+    goToEditor->setEnabled(tabs->count() > 0);
+}
+
+void MainWindow::Actions::refreshProject()
+{
+    for (QAction *action : {closeProject, createIp, addSources, newSource, topModule, device})
+        action->setEnabled(m_window->m_project != nullptr);
+    const ProjectModel *model = m_window->m_projectPane->model();
+    const QModelIndex selected = m_window->m_projectPane->selected();
+    openSelected->setEnabled(!m_window->m_projectPane->selectedFile().isEmpty());
+    openAsText->setEnabled(model->isIp(selected));
+    const IpCatalogue &catalogue = m_window->m_catalogue;
+    const int ip = model->isIp(selected)
+                       ? catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
+                       : -1;
+    const bool canMove = ip >= 0 && catalogue.canMove(ip);
+    moveToDevice->setEnabled(canMove);
+    const QString moveTip =
+        canMove   ? tr("Changes the device of the selected IP, and shows what it loses")
+        : ip >= 0 ? tr("The plug-in of %1 cannot move its IPs to other devices")
+                        .arg(catalogue.entries().at(ip).name)
+                  : tr("Select an IP in the project to change its device");
+    moveToDevice->setToolTip(moveTip);
+    moveToDevice->setStatusTip(moveTip);
+    const bool isSource = model->isSource(selected);
+    removeSource->setEnabled(isSource);
+    moveUp->setEnabled(isSource && selected.row() > 0);
+    moveDown->setEnabled(isSource && selected.row() + 1 < model->rowCount(selected.parent()));
 }
 
 } // namespace Workbench

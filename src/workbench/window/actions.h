@@ -16,6 +16,9 @@ class MainWindow::Actions
 public:
     explicit Actions(MainWindow *window);
 
+    // Enables what can be done now.
+    void refresh();
+
     QMenu *recentMenu;
     QMenu *viewMenu;
     QAction *closeProject;
@@ -48,6 +51,26 @@ public:
     QAction *topModule;
     QAction *device;
     QAction *ipHelp;
+
+private:
+    struct Keys;
+    template <typename Slot>
+    QAction *add(QMenu *menu, const QString &text, const QString &icon, const Keys &keys,
+                 Slot slot);
+    template <typename Call>
+    auto withPage(Call call);
+
+    void addFileMenu();
+    void addEditMenu();
+    void addViewMenu();
+    void addPlaces();
+    void addProjectMenu();
+    void addSourceActions(QMenu *menu);
+    void addHelpMenu();
+    void refreshEditor();
+    void refreshProject();
+
+    MainWindow *m_window;
 };
 
 } // namespace Workbench

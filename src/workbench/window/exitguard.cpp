@@ -1,6 +1,6 @@
 #include "exitguard.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 #include <algorithm>
 #include <csignal>
@@ -70,9 +70,8 @@ void ExitGuard::setDeadline(unsigned seconds, const QString &file)
     if (seconds == 0)
         return;
     const QByteArray message =
-        QCoreApplication::translate("Workbench::ExitGuard",
-                                    "tarvo-workbench: the plug-in of \"%1\" did not answer within "
-                                    "%2 s.\n")
+        Tr::tr("tarvo-workbench: the plug-in of \"%1\" did not answer within "
+               "%2 s.\n")
             .arg(file, QString::number(seconds))
             .toUtf8()
             .right(int(sizeof deadlineMessage));

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "project/project.h"
+#include "recentprojects.h"
 #include "results/runstore.h"
 
 #include <QMainWindow>
-#include <QPointer>
 
 #include <memory>
 
@@ -13,7 +13,6 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QSettings)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
-QT_FORWARD_DECLARE_CLASS(QTreeView)
 
 namespace IPCore
 {
@@ -29,16 +28,22 @@ namespace Workbench
 {
 
 class CatalogueView;
+class ClosingSequence;
 class EditorTabs;
+class HelpDesk;
 class HelpWindow;
 class InfoBar;
+class IpActions;
 class IpCatalogue;
 class IpSession;
 class KeptConfigurations;
+class LastRun;
 class LogView;
 class MessageModel;
 class OutputPane;
-class ProjectModel;
+class PluginList;
+class ProjectActions;
+class ProjectPane;
 class ResultPage;
 class StartPage;
 
@@ -96,7 +101,6 @@ Q_SIGNALS:
     void closed();
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -106,77 +110,53 @@ private:
 
     void buildDocks();
     void buildStatusBar();
+    void connectParts();
+    void connectStartPage();
     void connectHost();
-    void report(const QString &message);
     bool setProject(std::unique_ptr<Project> project);
     void showPlace();
     void showEditorState();
     void showStart();
     void showResults();
-    void keepRun(const QStringList &delivered);
-    void showDocument(const QString &path, const QString &title);
     OutputPane *output();
-    void rememberRecent(const QString &file);
-    QStringList recent() const;
-    void fillRecent();
     void saveState();
     void restoreState();
-
-    void activateProjectItem(const QModelIndex &index);
-    QString selectedFile() const;
-    void addSources();
-    void newSource();
-    void chooseTopModule();
     void chooseDevice();
-    void showDrift();
-    void chooseDeviceOf(const QString &ipcFile);
-    // What to do with a configuration of an unknown device; true: open it.
-    bool settleUnknownDevice(const QString &ipcFile);
-    void showKept();
-    void showPlugins();
-    void tryPluginsAgain();
-    // Runs what calls into a plug-in while unsaved changes stand in copies, which go afterwards.
-    bool withCopies(const std::function<bool()> &call);
     void about();
     void goToLine();
+    bool mayEndRuns();
 
     void onRunStarted(IPCore::SynthesisHelper *helper);
     void onRunFinished(const Synthesis::RunReport &report);
     void onIpClosed(const QStringList &files);
-    void continueClosing();
 
     IpCatalogue &m_catalogue;
     QSettings &m_settings;
+    RecentProjects m_recent;
     std::unique_ptr<Project> m_project;
+    std::unique_ptr<IpActions> m_ips;
     std::unique_ptr<Actions> m_actions;
     IpSession *m_session;
+    ClosingSequence *m_closing;
     KeptConfigurations *m_kept;
     QStackedWidget *m_stack;
     StartPage *m_start;
     EditorTabs *m_tabs;
     InfoBar *m_infoBar;
-    ResultPage *m_results = nullptr;
     MessageModel *m_messages;
+    LastRun *m_lastRun;
     OutputPane *m_output = nullptr;
-    ProjectModel *m_projectModel;
-    QStackedWidget *m_projectStack;
-    QLabel *m_noProject;
-    QTreeView *m_projectTree;
+    ProjectPane *m_projectPane;
+    ProjectActions *m_projectActions;
     CatalogueView *m_catalogueView;
+    PluginList *m_plugins;
+    HelpDesk *m_help;
     QDockWidget *m_projectDock;
     QDockWidget *m_catalogueDock;
     QDockWidget *m_outputDock;
     QPushButton *m_deviceButton;
     QLabel *m_runLabel;
     QLabel *m_cursorLabel;
-    RunStore m_runs;
-    std::unique_ptr<Synthesis::RunReport> m_report; // of the last success since the start
-    bool m_hasKeptRun = false;                      // of the open project, from before the start
-    QPointer<HelpWindow> m_help;
-    int m_openedIp = -1;         // whose dialog is open
-    bool m_hasNewReport = false; // since the dialog of an IP was opened
-    bool m_closing = false;
-    QStringList m_copiesTold; // of unsaved changes, while a plug-in runs
 };
 
 } // namespace Workbench

@@ -1,10 +1,10 @@
 #include "flow.h"
 
 #include "netlist/languages.h"
+#include "tr.h"
 
 #include <utils/fileutils.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -12,16 +12,6 @@
 
 namespace Synthesis
 {
-
-namespace
-{
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
-
-} // namespace
 
 Flow::Flow(const ToolRow &tool, const Job &job)
     : m_tool(tool)
@@ -34,9 +24,9 @@ QString Flow::prepare(const std::shared_ptr<Utils::FolderLock> &lock)
     static const QRegularExpression identifier(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_$]*\\z"));
 
     if (m_job.targetName.isEmpty() || m_job.targetName.contains(u'/'))
-        return tr("\"%1\" cannot be the name of the output files.").arg(m_job.targetName);
+        return Tr::tr("\"%1\" cannot be the name of the output files.").arg(m_job.targetName);
     if (!identifier.match(topModule()).hasMatch())
-        return tr("\"%1\" cannot be the name of the top module.").arg(topModule());
+        return Tr::tr("\"%1\" cannot be the name of the top module.").arg(topModule());
     if (QString error = m_scratch.create(m_job.outputDir, lock); !error.isEmpty())
         return error;
     const QStringList files = m_job.options.value(QStringLiteral("source_files")).toStringList();
@@ -82,7 +72,8 @@ QString Flow::addCommand(const ToolRow &tool, const QStringList &arguments)
     const QString program = QLatin1String(tool.program);
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty())
-        return tr("%1 is not installed: no program \"%2\" was found on PATH.").arg(name, program);
+        return Tr::tr("%1 is not installed: no program \"%2\" was found on PATH.")
+            .arg(name, program);
     m_commands << Command{name, QFileInfo(path).absoluteFilePath(), arguments, tool.usersHome};
     return {};
 }
@@ -106,19 +97,19 @@ QString Flow::readResult(const QString &file, const QString &shown, QByteArray *
 
 QString Flow::notWritten(const QString &tool, const QString &path)
 {
-    return tr("%1 reported success but did not write \"%2\".")
+    return Tr::tr("%1 reported success but did not write \"%2\".")
         .arg(tool, QDir::toNativeSeparators(path));
 }
 
 QString Flow::notComplete(const QString &tool, const QString &path)
 {
-    return tr("%1 reported success but what it wrote for \"%2\" is not complete.")
+    return Tr::tr("%1 reported success but what it wrote for \"%2\" is not complete.")
         .arg(tool, QDir::toNativeSeparators(path));
 }
 
 QString Flow::unusable(const QString &path, const QString &reason) const
 {
-    return tr("What %1 wrote for \"%2\" cannot be used: %3.")
+    return Tr::tr("What %1 wrote for \"%2\" cannot be used: %3.")
         .arg(m_commands.last().name, QDir::toNativeSeparators(path), reason);
 }
 

@@ -2,29 +2,19 @@
 
 #include "netlist/verilogoutputs.h"
 #include "netlist/verilogscan.h"
+#include "tr.h"
 #include "yosysscript.h"
 
 #include <reading/limits.h>
 #include <utils/boundedfile.h>
 #include <utils/fileutils.h>
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
 
 namespace Synthesis
 {
-
-namespace
-{
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
-
-} // namespace
 
 QByteArray tclWord(const QString &text)
 {
@@ -95,7 +85,7 @@ QString ProjectFlow::prepareTool()
     const QString folder = implementation();
     if (folder.isEmpty() || folder.contains(u'/') || folder == QLatin1String(".") ||
         folder == QLatin1String(".."))
-        return tr("\"%1\" cannot be the name of the result folder.").arg(folder);
+        return Tr::tr("\"%1\" cannot be the name of the result folder.").arg(folder);
 
     const QString project = m_job.targetName + QLatin1String(".prj");
     QString error =
@@ -121,11 +111,11 @@ QString ProjectFlow::stageOf(const QString &line)
         return phrase;
     };
     if (line.contains(QLatin1String("Compiler")) && line.contains(QLatin1String("started")))
-        return reached(0, tr("Reading sources"));
+        return reached(0, Tr::tr("Reading sources"));
     if (line.contains(QLatin1String("Mapper")) && line.contains(QLatin1String("started")))
-        return reached(1, tr("Mapping logic"));
+        return reached(1, Tr::tr("Mapping logic"));
     if (line.startsWith(QLatin1String("1. Executing Verilog")))
-        return reached(2, tr("Writing template"));
+        return reached(2, Tr::tr("Writing template"));
     return {};
 }
 

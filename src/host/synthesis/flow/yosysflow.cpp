@@ -4,9 +4,9 @@
 #include "netlist/verilogoutputs.h"
 #include "netlist/verilogscan.h"
 #include "netlist/vhdloutputs.h"
+#include "tr.h"
 #include "yosysscript.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -16,11 +16,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 struct Stage {
     const char *title;  // how the tool's title of a step begins
@@ -84,7 +79,7 @@ QString YosysFlow::stageOf(const QString &line)
         if (m_stage >= stages[i].after &&
             match.captured(1).startsWith(QLatin1String(stages[i].title))) {
             m_stage = i;
-            return tr(stages[i].phrase);
+            return Tr::tr(stages[i].phrase);
         }
     }
     return {};
@@ -93,11 +88,11 @@ QString YosysFlow::stageOf(const QString &line)
 QString YosysFlow::explained(const QString &error) const
 {
     if (error.contains(QLatin1String("t:$mem_v2")))
-        return tr("A large memory fits no memory primitive: it needs one clocked read and one "
-                  "clocked write port, or two "
-                  "ports that read or write.");
+        return Tr::tr("A large memory fits no memory primitive: it needs one clocked read and one "
+                      "clocked write port, or two "
+                      "ports that read or write.");
     if (error.contains(QLatin1String("Assertion failed")))
-        return tr("The design holds something that no primitive can do.");
+        return Tr::tr("The design holds something that no primitive can do.");
     return {};
 }
 

@@ -1,8 +1,9 @@
 #include "design.h"
 
+#include "tr.h"
+
 #include <reading/limits.h>
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -16,11 +17,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 QJsonValue entry(const QJsonObject &object, const char *key)
 {
@@ -117,10 +113,10 @@ QString readThing(const QByteArray &name, const QJsonObject &json, Design::Modul
 {
     port->port.name = name;
     if (!readDirection(entry(json, "direction"), &port->port.direction))
-        return tr("has no direction");
+        return Tr::tr("has no direction");
     if (entry(json, "bits").toArray().isEmpty())
-        return tr("has no bits");
-    return readRange(json, &port->port, &port->bits) ? QString() : tr("has bits that are none");
+        return Tr::tr("has no bits");
+    return readRange(json, &port->port, &port->bits) ? QString() : Tr::tr("has bits that are none");
 }
 
 QString readThing(const QByteArray &name, const QJsonObject &json, Design::Cell *cell)
@@ -133,13 +129,13 @@ QString readThing(const QByteArray &name, const QJsonObject &json, Design::Cell 
     for (auto it = directions.begin(); it != directions.end(); ++it) {
         Design::CellPort port{it.key().toUtf8(), {}};
         if (!readDirection(it.value(), &port.direction))
-            return tr("has the port \"%1\" without a direction").arg(it.key());
+            return Tr::tr("has the port \"%1\" without a direction").arg(it.key());
         cell->ports << port;
     }
     const QJsonObject connections = entry(json, "connections").toObject();
     for (auto it = connections.begin(); it != connections.end(); ++it) {
         if (!readBits(it.value(), &cell->connections[it.key().toUtf8()]))
-            return tr("has something at \"%1\" that are no bits").arg(it.key());
+            return Tr::tr("has something at \"%1\" that are no bits").arg(it.key());
     }
     return {};
 }
@@ -149,7 +145,7 @@ QString readThing(const QByteArray &name, const QJsonObject &json, Design::Net *
     net->shape.name = name;
     net->shape.note = readNote(json);
     net->isHidden = entry(json, "hide_name").toInt() != 0;
-    return readRange(json, &net->shape, &net->bits) ? QString() : tr("has bits that are none");
+    return readRange(json, &net->shape, &net->bits) ? QString() : Tr::tr("has bits that are none");
 }
 
 // `text` is of a thing with its name and its module's.
@@ -164,7 +160,7 @@ QString readThings(const QJsonObject &module, const char *key, const QString &mo
         const QString mistake =
             readThing(it.key().toUtf8(), it.value().toObject(), &things->last());
         if (!mistake.isEmpty())
-            return tr(text).arg(it.key(), moduleName) + mistake;
+            return Tr::tr(text).arg(it.key(), moduleName) + mistake;
     }
     return {};
 }

@@ -1,6 +1,6 @@
 #include "designports.h"
 
-#include <QCoreApplication>
+#include "tr.h"
 
 #include <algorithm>
 
@@ -9,11 +9,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 QVector<Port> portsOf(const Design::Module &module)
 {
@@ -54,7 +49,7 @@ QString DesignPorts::read(const QByteArray &outline, const QByteArray &cells)
             }
         }
     }
-    return m_outline.modules.isEmpty() ? tr("it holds no modules") : QString();
+    return m_outline.modules.isEmpty() ? Tr::tr("it holds no modules") : QString();
 }
 
 QByteArray DesignPorts::note(const QByteArray &module) const

@@ -1,8 +1,9 @@
 #include "verilogscan.h"
 
+#include "tr.h"
+
 #include <reading/limits.h>
 
-#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -14,11 +15,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 using namespace std::string_view_literals;
 
@@ -472,7 +468,7 @@ QMap<QByteArray, int> VerilogOutline::leavesOf(const QByteArray &top, QString *m
         ++visit.next;
         const State state = states.value(name, Unseen);
         if (state == Open) {
-            *mistake = tr("the module \"%1\" contains itself").arg(QString::fromUtf8(name));
+            *mistake = Tr::tr("the module \"%1\" contains itself").arg(QString::fromUtf8(name));
             return {};
         }
         if (state == Unseen)
@@ -497,7 +493,7 @@ QMap<QByteArray, int> VerilogOutline::leavesOf(const QByteArray &top, QString *m
             }
         }
         if (count > netlistInstances || all > netlistInstances) {
-            *mistake = tr("the module \"%1\" holds more than %2 instances")
+            *mistake = Tr::tr("the module \"%1\" holds more than %2 instances")
                            .arg(QString::fromUtf8(top), QString::number(netlistInstances));
             return {};
         }

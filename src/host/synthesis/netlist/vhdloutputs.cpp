@@ -2,11 +2,11 @@
 
 #include "library.h"
 #include "standins.h"
+#include "tr.h"
 #include "verilogoutputs.h"
 #include "vhdlinstances.h"
 #include "vhdltext.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -16,11 +16,6 @@ namespace Synthesis
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
 
 // Two pins that are one net would need a wire between them, which the language has not.
 QString pinMistake(const Design::Module &module, const QVector<Port> &ports)
@@ -36,7 +31,7 @@ QString pinMistake(const Design::Module &module, const QVector<Port> &ports)
             if (bit.net < 0)
                 continue;
             if (pins.contains(bit.net) && pins.value(bit.net) != port.name)
-                return tr("The ports \"%1\" and \"%2\" are one net, which VHDL cannot express.")
+                return Tr::tr("The ports \"%1\" and \"%2\" are one net, which VHDL cannot express.")
                     .arg(QString::fromUtf8(pins.value(bit.net)), QString::fromUtf8(port.name));
             pins.insert(bit.net, port.name);
         }
@@ -106,10 +101,10 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
 {
     Design read;
     if (const QString mistake = readDesign(design, &read, top); !mistake.isEmpty())
-        return tr("The netlist that the tool wrote cannot be used: %1.").arg(mistake);
+        return Tr::tr("The netlist that the tool wrote cannot be used: %1.").arg(mistake);
     const Design::Module *const module = read.find(top);
     if (!module)
-        return tr("The netlist that the tool wrote has no module \"%1\".")
+        return Tr::tr("The netlist that the tool wrote has no module \"%1\".")
             .arg(QString::fromUtf8(top));
     if (QString mistake = pinMistake(*module, ports); !mistake.isEmpty())
         return mistake;

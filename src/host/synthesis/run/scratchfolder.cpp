@@ -1,9 +1,10 @@
 #include "scratchfolder.h"
 
+#include "tr.h"
+
 #include <utils/folderlock.h>
 #include <utils/systemerror.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -24,14 +25,9 @@ namespace
 
 constexpr int longestWait = 10000; // ms
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
-
 QString cannotUse(const QString &dir, const QString &reason)
 {
-    return tr("Cannot write into the output folder \"%1\": %2.")
+    return Tr::tr("Cannot write into the output folder \"%1\": %2.")
         .arg(QDir::toNativeSeparators(dir), reason);
 }
 
@@ -81,12 +77,12 @@ QString ScratchFolder::create(const QString &outputDir, std::shared_ptr<Utils::F
 {
     const QFileInfo info(outputDir);
     if (outputDir.isEmpty())
-        return tr("No output folder is given.");
+        return Tr::tr("No output folder is given.");
     if (!info.exists())
-        return tr("The output folder \"%1\" does not exist.")
+        return Tr::tr("The output folder \"%1\" does not exist.")
             .arg(QDir::toNativeSeparators(outputDir));
     if (!info.isDir())
-        return tr("The output folder \"%1\" is not a folder.")
+        return Tr::tr("The output folder \"%1\" is not a folder.")
             .arg(QDir::toNativeSeparators(outputDir));
     if (::access(QFile::encodeName(outputDir).constData(), W_OK | X_OK) != 0)
         return cannotUse(outputDir, Utils::systemError());
@@ -100,7 +96,7 @@ QString ScratchFolder::create(const QString &outputDir, std::shared_ptr<Utils::F
             return error;
     }
     if (!isQuiet(path))
-        return cannotUse(outputDir, tr("the tool of a run that was killed still works there"));
+        return cannotUse(outputDir, Tr::tr("the tool of a run that was killed still works there"));
 
     removeTree(path);
     for (const QString &folder : {path, QString(path + QLatin1String("/tmp"))}) {

@@ -1,8 +1,8 @@
 #include "sourcestage.h"
 
 #include "scratchfolder.h"
+#include "tr.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -19,31 +19,26 @@ namespace Synthesis
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
-}
-
 QString check(const QString &path)
 {
     const QString shown = QDir::toNativeSeparators(path);
     const QFileInfo info(path);
     const QString suffix = info.suffix().toLower();
     if (path.isEmpty())
-        return tr("The list of source files holds an empty name.");
+        return Tr::tr("The list of source files holds an empty name.");
     if (!info.exists())
-        return tr("The source file \"%1\" does not exist.").arg(shown);
+        return Tr::tr("The source file \"%1\" does not exist.").arg(shown);
     if (info.isDir())
-        return tr("The source file \"%1\" is a folder.").arg(shown);
+        return Tr::tr("The source file \"%1\" is a folder.").arg(shown);
     // A tool would wait for ever for what a pipe has to say.
     if (!info.isFile())
-        return tr("The source file \"%1\" is not a plain file.").arg(shown);
+        return Tr::tr("The source file \"%1\" is not a plain file.").arg(shown);
     if (suffix == QLatin1String("vhd") || suffix == QLatin1String("vhdl"))
-        return tr("The source file \"%1\" is VHDL, which cannot be read; only Verilog can.")
+        return Tr::tr("The source file \"%1\" is VHDL, which cannot be read; only Verilog can.")
             .arg(shown);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("The source file \"%1\" cannot be read: %2.").arg(shown, file.errorString());
+        return Tr::tr("The source file \"%1\" cannot be read: %2.").arg(shown, file.errorString());
     return {};
 }
 
@@ -57,7 +52,7 @@ QString link(const QString &target, const QString &name)
 {
     if (::symlink(QFile::encodeName(target).constData(), QFile::encodeName(name).constData()) == 0)
         return {};
-    return tr("Cannot make the link \"%1\": %2.")
+    return Tr::tr("Cannot make the link \"%1\": %2.")
         .arg(QDir::toNativeSeparators(name), QString::fromLocal8Bit(std::strerror(errno)));
 }
 
@@ -66,7 +61,7 @@ QString link(const QString &target, const QString &name)
 QString SourceStage::prepare(const QStringList &files, const ScratchFolder &scratch)
 {
     if (files.isEmpty())
-        return tr("There are no source files.");
+        return Tr::tr("There are no source files.");
     m_originalDirs = QStringList{scratch.outputDir()};
     m_includeDirs = QStringList{QStringLiteral(".")};
     QStringList folders;

@@ -1,11 +1,11 @@
 #include "toollog.h"
 
 #include "sourcestage.h"
+#include "tr.h"
 
 #include <reading/limits.h>
 #include <reading/plainfile.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -46,11 +46,6 @@ QString absolutePath(const QString &path, const SourceStage &sources)
 {
     const QString inOutput = sources.originalDirs().value(0) + u'/' + path;
     return QDir::isRelativePath(path) && QFileInfo::exists(inOutput) ? inOutput : path;
-}
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Synthesis", text);
 }
 
 // Equal for equal messages, whatever their count.
@@ -151,7 +146,7 @@ void ToolLog::keep(const QString &line)
         return;
     m_text += line.toUtf8() + '\n';
     if (m_text.size() >= toolLog)
-        m_text += tr("The log ends here: it is larger than %1.")
+        m_text += Tr::tr("The log ends here: it is larger than %1.")
                       .arg(Reading::sizeText(toolLog))
                       .toUtf8() +
                   '\n';
@@ -175,8 +170,8 @@ void ToolLog::take(const Message &message, bool whole)
         m_messages << message;
     } else {
         // Counted in one message of its own.
-        const QString text = isError ? tr("There are more errors; the log has them.")
-                                     : tr("There are more warnings; the log has them.");
+        const QString text = isError ? Tr::tr("There are more errors; the log has them.")
+                                     : Tr::tr("There are more warnings; the log has them.");
         const Message rest{message.severity, {}, 0, text, 1};
         const auto place = m_known.constFind(keyOf(rest));
         if (place != m_known.constEnd()) {

@@ -1,0 +1,102 @@
+#include "blockfocus.h"
+
+#include "config/latin1literal.h"
+#include "config/tr.h"
+#include "ipitem.h"
+
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QPainter>
+
+namespace TARVOORIXM1
+{
+
+BlockFocus::BlockFocus(QGraphicsView *view)
+    : m_view(view)
+{
+}
+
+void BlockFocus::append(IPItem *block, bool hasState)
+{
+    m_order.append(block);
+    if (!hasState)
+        m_stateless.insert(block);
+}
+
+QList<IPItem *> BlockFocus::reachable() const
+{
+    QList<IPItem *> blocks;
+    for (IPItem *block : m_order) {
+        if (block->isClickable() && block->isVisible())
+            blocks.append(block);
+    }
+    return blocks;
+}
+
+void BlockFocus::set(IPItem *block)
+{
+    if (block != m_block) {
+        updateFrame();
+        m_block = block;
+        updateFrame();
+        if (block)
+            m_view->ensureVisible(block);
+    }
+    announce();
+}
+
+bool BlockFocus::step(bool next)
+{
+    const QList<IPItem *> blocks = reachable();
+    const int current = m_block ? blocks.indexOf(m_block) : next ? -1 : blocks.size();
+    set(blocks.value(current + (next ? 1 : -1)));
+    return m_block;
+}
+
+void BlockFocus::enter(bool atStart)
+{
+    const QList<IPItem *> blocks = reachable();
+    set(blocks.value(atStart ? 0 : blocks.size() - 1));
+}
+
+void BlockFocus::announce()
+{
+    QString name = Tr::tr("Block diagram");
+    if (m_block) {
+        name = m_block->text();
+        if (!m_stateless.contains(m_block))
+            name +=
+                ", "_l1 + (m_block->isActive() ? Tr::tr("switched on") : Tr::tr("switched off"));
+    }
+    if (name != m_view->accessibleName())
+        m_view->setAccessibleName(name); // tells assistive tools
+}
+
+QRectF BlockFocus::frame() const
+{
+    constexpr qreal distance = 4;
+    return m_block ? m_block->sceneBoundingRect().adjusted(-distance, -distance, distance, distance)
+                   : QRectF();
+}
+
+void BlockFocus::updateFrame()
+{
+    if (m_block)
+        m_view->scene()->invalidate(frame().adjusted(-2, -2, 2, 2),
+                                    QGraphicsScene::ForegroundLayer);
+}
+
+void BlockFocus::drawFrame(QPainter *painter)
+{
+    if (!m_block || !m_view->hasFocus())
+        return;
+    painter->setBrush(Qt::NoBrush);
+    // Made anew with another palette only: frames come fast while panning.
+    const QColor &highlight = m_view->palette().color(QPalette::Highlight);
+    if (m_pen.color() != highlight)
+        m_pen = QPen(highlight, 2);
+    painter->setPen(m_pen);
+    painter->drawRoundedRect(frame(), 3, 3);
+}
+
+} // namespace TARVOORIXM1

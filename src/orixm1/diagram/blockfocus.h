@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QList>
+#include <QPen>
+#include <QRectF>
+#include <QSet>
+
+QT_FORWARD_DECLARE_CLASS(QGraphicsView)
+QT_FORWARD_DECLARE_CLASS(QPainter)
+
+namespace TARVOORIXM1
+{
+
+class IPItem;
+
+// The block that the keyboard has reached in a view: walks from block to block, has a frame, and
+// is told to assistive tools in the view's accessible name.
+class BlockFocus
+{
+public:
+    // The view must outlive this, and its blocks are those of its scene.
+    explicit BlockFocus(QGraphicsView *view);
+
+    // The next block on the way. `hasState`: whether it shows that it is on.
+    void append(IPItem *block, bool hasState);
+
+    // Null if none.
+    IPItem *block() const { return m_block; }
+    void set(IPItem *block);
+    // From block to block among those that can be clicked; false, and none, at the end.
+    bool step(bool next);
+    // To the first of them, or the last.
+    void enter(bool atStart);
+
+    // The block may be switched on or off now.
+    void announce();
+    // The frame has to be drawn anew.
+    void updateFrame();
+    void drawFrame(QPainter *painter);
+
+private:
+    QList<IPItem *> reachable() const;
+    QRectF frame() const;
+
+    QGraphicsView *m_view;
+    QList<IPItem *> m_order;
+    QSet<IPItem *> m_stateless;
+    IPItem *m_block = nullptr;
+    QPen m_pen{Qt::black, 2};
+};
+
+} // namespace TARVOORIXM1

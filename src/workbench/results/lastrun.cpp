@@ -1,0 +1,96 @@
+#include "lastrun.h"
+
+#include "messages/messagemodel.h"
+#include "project/project.h"
+#include "resultpage.h"
+
+namespace Workbench
+{
+
+LastRun::LastRun(MessageModel &messages, QWidget *window)
+    : QObject(window)
+    , m_messages(messages)
+    , m_window(window)
+    , m_store(RunStore::defaultFolder())
+{
+}
+
+void LastRun::setStore(const RunStore &store)
+{
+    m_store = store;
+    m_isKept = m_project && m_store.has(m_project->file());
+    Q_EMIT changed();
+}
+
+void LastRun::setProject(Project *project)
+{
+    if (m_page)
+        m_page->deleteLater(); // its button may be what closes the project
+    m_page = nullptr;
+    m_report.reset();
+    m_project = project;
+    m_isKept = project && m_store.has(project->file());
+}
+
+QStringList LastRun::sources() const
+{
+    return m_project ? m_project->files() : QStringList();
+}
+
+ResultPage *LastRun::page()
+{
+    if (!m_page) {
+        m_page = new ResultPage(m_window);
+        m_page->hide();
+        connect(m_page, &ResultPage::openRequested, this, &LastRun::openRequested);
+        connect(m_page, &ResultPage::removalRequested, this, [this](const QStringList &files) {
+            if (m_project)
+                m_project->removeFiles(files);
+        });
+    }
+    return m_page;
+}
+
+bool LastRun::prepare(QString *error)
+{
+    if (m_report)
+        return true;
+    KeptRun run;
+    if (!m_store.load(m_project ? m_project->file() : QString(), &run, error))
+        return false;
+    m_messages.setReport(run.report);
+    page()->setReport(run.report);
+    page()->setDelivered(run.delivered, sources());
+    page()->showAge(run.when, run.changedFiles());
+    return true;
+}
+
+void LastRun::setReport(const Synthesis::RunReport &report)
+{
+    page()->setReport(report);
+    m_report = std::make_unique<Synthesis::RunReport>(report);
+    m_isNew = true;
+    Q_EMIT changed();
+}
+
+bool LastRun::setDelivered(const QStringList &files)
+{
+    if (!m_isNew)
+        return false;
+    m_isNew = false;
+    page()->setDelivered(files, sources());
+    keep(files);
+    return true;
+}
+
+void LastRun::keep(const QStringList &delivered)
+{
+    if (!m_report || !m_project)
+        return;
+    QString error;
+    if (!m_store.keep(m_project->file(), KeptRun::of(*m_report, delivered), &error))
+        m_messages.append(MessageModel::Warning,
+                          tr("The results cannot be shown after a restart. %1").arg(error));
+}
+
+} // namespace Workbench

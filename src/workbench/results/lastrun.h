@@ -1,0 +1,61 @@
+#pragma once
+
+#include "runstore.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+namespace Workbench
+{
+
+class MessageModel;
+class Project;
+class ResultPage;
+
+// The last successful run of the open project, since the start or from before it.
+class LastRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Both must outlive this. The messages are those of a run from before that is shown.
+    LastRun(MessageModel &messages, QWidget *window);
+
+    // Where runs are kept; the user's cache at first.
+    void setStore(const RunStore &store);
+    // Forgets what is of another project; null: none is open.
+    void setProject(Project *project);
+    bool isThere() const { return m_report || m_isKept; }
+    // Made when it is first asked for.
+    ResultPage *page();
+    // Fills the page; false and a sentence in `*error` if there is nothing that can be shown.
+    bool prepare(QString *error);
+
+    // What is delivered from now on is of a run that is still to come.
+    void expect() { m_isNew = false; }
+    void setReport(const Synthesis::RunReport &report);
+    // What the IP of the expected run delivered; false if there was no such run.
+    bool setDelivered(const QStringList &files);
+    void keep(const QStringList &delivered);
+
+Q_SIGNALS:
+    void openRequested(const QString &path);
+    // Whether it is there has changed.
+    void changed();
+
+private:
+    QStringList sources() const;
+
+    MessageModel &m_messages;
+    QWidget *m_window;
+    QPointer<Project> m_project;
+    RunStore m_store;
+    ResultPage *m_page = nullptr;
+    std::unique_ptr<Synthesis::RunReport> m_report; // since the start
+    bool m_isKept = false;                          // from before the start
+    bool m_isNew = false;
+};
+
+} // namespace Workbench

@@ -1,0 +1,80 @@
+#include "helpdesk.h"
+
+#include "catalogue/ipcatalogue.h"
+#include "helpwindow.h"
+#include "widgets/errorbox.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+
+namespace Workbench
+{
+
+HelpDesk::HelpDesk(const IpCatalogue &catalogue, QWidget *window)
+    : QObject(window)
+    , m_catalogue(catalogue)
+    , m_window(window)
+{
+    qApp->installEventFilter(this);
+}
+
+HelpWindow *HelpDesk::helpWindow() const
+{
+    return m_help;
+}
+
+void HelpDesk::showDocument(const QString &path, const QString &title)
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    QWidget *parent = modal ? modal : m_window;
+    if (m_help && m_help->parentWidget() != parent)
+        delete m_help;
+    if (!m_help)
+        m_help = new HelpWindow(parent);
+    if (!m_help->showDocument(path, title))
+        showError(m_window, tr("\"%1\" cannot be read.").arg(QDir::toNativeSeparators(path)));
+}
+
+void HelpDesk::showGuide()
+{
+    for (const QString &folder : m_catalogue.dataFolders()) {
+        const QString path = folder + QLatin1String("/guide/user-guide.md");
+        if (QFileInfo(path).isFile()) {
+            showDocument(path, tr("User Guide"));
+            return;
+        }
+    }
+    showError(m_window,
+              tr("The user guide is not installed. It belongs into the folder \"guide\" of %1.")
+                  .arg(QDir::toNativeSeparators(m_catalogue.dataFolders().value(0))));
+}
+
+void HelpDesk::showIp(int ip)
+{
+    if (ip < 0 || m_catalogue.entries().at(ip).help.isEmpty())
+        return;
+    const IpEntry &entry = m_catalogue.entries().at(ip);
+    showDocument(entry.help, tr("%1 %2").arg(entry.name, entry.version));
+}
+
+// The window's own F1 does not reach the dialogs in front of it.
+bool HelpDesk::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType() ||
+        !QApplication::activeModalWidget())
+        return QObject::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
+        return QObject::eventFilter(watched, event);
+    const bool hasDocument =
+        m_dialogIp >= 0 && !m_catalogue.entries().at(m_dialogIp).help.isEmpty();
+    if (hasDocument)
+        showIp(m_dialogIp);
+    else
+        showGuide();
+    return true;
+}
+
+} // namespace Workbench

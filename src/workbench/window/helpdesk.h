@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+namespace Workbench
+{
+
+class HelpWindow;
+class IpCatalogue;
+
+// Shows the guide and the documents of IPs, in a window of their own that can be used while a
+// dialog waits.
+class HelpDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The catalogue must outlive this. `window`: the parent of what it shows.
+    HelpDesk(const IpCatalogue &catalogue, QWidget *window);
+
+    // Null while there is none.
+    HelpWindow *helpWindow() const;
+    void showGuide();
+    // The document of an IP of the catalogue.
+    void showIp(int ip);
+    // Whose dialog is open, for F1; -1: nobody's.
+    void setDialogIp(int ip) { m_dialogIp = ip; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void showDocument(const QString &path, const QString &title);
+
+    const IpCatalogue &m_catalogue;
+    QWidget *m_window;
+    QPointer<HelpWindow> m_help;
+    int m_dialogIp = -1;
+};
+
+} // namespace Workbench
