@@ -300,7 +300,7 @@ run_tests() {
 stages() {
     local stage
     for stage in $(tests_of "$1"); do
-        [[ ! -f $root/tests/orixm1/$stage/CMakeLists.txt ]] || echo "$stage"
+        [[ ! -f $tree/tests/orixm1/$stage/CMakeLists.txt ]] || echo "$stage"
     done
 }
 
@@ -344,12 +344,13 @@ verdict() {
     echo unnoticed
 }
 
-# The changes of file $2 in copy $1.
+# The changes of file $2 in copy $1. What the checkout becomes meanwhile does not matter.
 work() {
-    local record path first last kind new shown result start
+    local path first last kind new shown result start original=$folder/$1/original
     in_copy "$1"
     while IFS="$rs" read -r path first last kind new shown; do
         start=$SECONDS
+        cp "$tree/$path" "$original"
         NEW=$new awk -v first="$first" -v last="$last" '
             NR == first {
                 new = ENVIRON["NEW"]
@@ -357,9 +358,9 @@ work() {
                 if (new != "")
                     print new
             }
-            NR < first || NR > last' "$root/$path" >"$tree/$path"
+            NR < first || NR > last' "$original" >"$tree/$path"
         result=$(verdict "$(folder_of "$path")")
-        cp "$root/$path" "$tree/$path"
+        cp "$original" "$tree/$path"
         printf '%s\n' "$result$rs$(folder_of "$path")$rs$path:$first: $shown" >>"$folder/results"
         printf '%-9s %3d s  %s:%s: %s\n' "$result" $((SECONDS - start)) "$path" "$first" "$shown"
     done <"$2"
