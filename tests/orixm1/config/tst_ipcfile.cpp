@@ -24,6 +24,11 @@ private Q_SLOTS:
     void keepsWhatTheFileLacks();
     void namesTheFileAfterTheDescriptor();
     void headerHoldsTheIdentity();
+    void refusesWhatMustNotBeOpened();
+    void tellsWhatElseTheFileHolds();
+    void namesTheDeviceAsTheFileDoes_data();
+    void namesTheDeviceAsTheFileDoes();
+    void aMovedFileKeepsWhatIsNotItsIdentity();
     void choicesOfStoredValues();
 };
 
@@ -141,6 +146,69 @@ void tst_IpcFile::headerHoldsTheIdentity()
     QCOMPARE(IpcFile::header(QStringLiteral("dev"), {{InfoKey::id, QStringLiteral("an.ip")}}),
              (QVariantMap{{QStringLiteral("target_device"), QStringLiteral("dev")},
                           {QStringLiteral("type"), QStringLiteral("an.ip")},
+                          {QStringLiteral("version"), QStringLiteral("1.0")}}));
+}
+
+void tst_IpcFile::refusesWhatMustNotBeOpened()
+{
+    QTemporaryDir dir;
+    QCOMPARE(IpcFile::danger(dir.filePath(QStringLiteral("gone.ipc"))), QString());
+    QCOMPARE(IpcFile::danger(dir.path()), QString());
+    QCOMPARE(IpcFile::danger(fileWith(dir, "[General]\nversion=1.0\n")), QString());
+    const QString large = fileWith(dir, QByteArray(1024 * 1024, '\n'));
+    QCOMPARE(IpcFile::danger(large), QString());
+    const QString larger = fileWith(dir, QByteArray(1024 * 1024 + 1, '\n'));
+    QCOMPARE(IpcFile::danger(larger),
+             u'"' + larger +
+                 QLatin1String("\" cannot be used: it is larger than 1 MiB, the most "
+                               "that is read."));
+    const QString foreign = fileWith(dir, "[Config]\nEnable%20RTC=@Rect(1 2 3 4)\n");
+    const QString reason = IpcFile::danger(foreign);
+    QVERIFY2(reason.startsWith(u'"' + foreign + QLatin1String("\" cannot be used: ")) &&
+                 reason.contains(QLatin1String("line 2")) && reason.endsWith(u'.'),
+             qPrintable(reason));
+}
+
+void tst_IpcFile::tellsWhatElseTheFileHolds()
+{
+    QTemporaryDir dir;
+    QSettings settings(fileWith(dir, "[General]\nversion=1.0\ntarget_device=x\ntype=a.b\n"
+                                     "mine=1\n[Config]\nEnable%20RTC=false\nsub\\inner=2\n"
+                                     "[device]\nid=x\n[Tool]\nversion=3\n"),
+                       QSettings::IniFormat);
+    QCOMPARE(IpcFile::otherEntries(settings),
+             (QVariantMap{{QStringLiteral("mine"), QStringLiteral("1")},
+                          {QStringLiteral("Config/sub/inner"), QStringLiteral("2")},
+                          {QStringLiteral("Tool/version"), QStringLiteral("3")}}));
+    QCOMPARE(IpcFile::type(settings), QStringLiteral("a.b"));
+}
+
+void tst_IpcFile::namesTheDeviceAsTheFileDoes_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("device");
+    QTest::newRow("an id") << QByteArray("[General]\ntarget_device=one\n[device]\nid=two\n")
+                           << QStringLiteral("one");
+    QTest::newRow("a group") << QByteArray("[device]\nid=two\n") << QStringLiteral("two");
+    QTest::newRow("nothing") << QByteArray("[General]\nversion=1.0\n") << QString();
+}
+
+void tst_IpcFile::namesTheDeviceAsTheFileDoes()
+{
+    QFETCH(QByteArray, text);
+    QTemporaryDir dir;
+    const QSettings settings(fileWith(dir, text), QSettings::IniFormat);
+    QTEST(IpcFile::deviceText(settings), "device");
+}
+
+void tst_IpcFile::aMovedFileKeepsWhatIsNotItsIdentity()
+{
+    QCOMPARE(IpcFile::movedHeader(
+                 {{QStringLiteral("mine"), 1}, {QStringLiteral("version"), QStringLiteral("0.9")}},
+                 QStringLiteral("a.b"), QStringLiteral("new")),
+             (QVariantMap{{QStringLiteral("mine"), 1},
+                          {QStringLiteral("target_device"), QStringLiteral("new")},
+                          {QStringLiteral("type"), QStringLiteral("a.b")},
                           {QStringLiteral("version"), QStringLiteral("1.0")}}));
 }
 

@@ -1,5 +1,7 @@
 #include "testsupport.h"
 
+#include "../rules/checkreference.h"
+
 #include <config/blocks.h>
 #include <config/optiontable.h>
 
@@ -14,6 +16,8 @@ class tst_OptionTable : public QObject
 
 private Q_SLOTS:
     void holdsEveryKeyOnce();
+    void agreesWithThePlainStatement();
+    void theKeysOfADescriptorAreFixed();
     void defaultsAreThoseOfGeneration_data();
     void defaultsAreThoseOfGeneration();
     void findsTheNearestKey_data();
@@ -79,6 +83,37 @@ void tst_OptionTable::holdsEveryKeyOnce()
     QVERIFY(!findOption(QStringLiteral("Enable GPIO IO")));
 }
 
+void tst_OptionTable::agreesWithThePlainStatement()
+{
+    const QVector<CheckReference::Kind> kinds = CheckReference::kinds();
+    const QVector<Option> &table = optionTable();
+    QCOMPARE(table.size(), kinds.size());
+    for (int i = 0; i < kinds.size(); ++i) {
+        const CheckReference::Kind &kind = kinds.at(i);
+        const Option &option = table.at(i);
+        QCOMPARE(option.key, kind.key);
+        QVERIFY2(typeName(option.type).startsWith(QLatin1Char(kind.type)), qPrintable(kind.key));
+        QCOMPARE(option.choices, kind.choices);
+        QCOMPARE(option.maximum, kind.maximum);
+        QCOMPARE(option.minimum, 0);
+        QCOMPARE(option.isOption, i < kinds.size() - 4);
+    }
+}
+
+void tst_OptionTable::theKeysOfADescriptorAreFixed()
+{
+    using namespace InfoKey;
+    const QLatin1String keys[] = {id,    name, version, category,  summary,
+                                  label, help, target,  supported, unsupported};
+    QStringList texts;
+    for (const QLatin1String key : keys)
+        texts.append(key);
+    QCOMPARE(texts.join(u' '),
+             QStringLiteral("ipcore.id ipcore.name ipcore.version ipcore.category "
+                            "ipcore.doc.summary ipcore.label ipcore.doc.help ipcore.target "
+                            "ipcore.device.supported ipcore.device.unsupported"));
+}
+
 void tst_OptionTable::defaultsAreThoseOfGeneration_data()
 {
     QTest::addColumn<QVariant>("expected");
@@ -112,6 +147,9 @@ void tst_OptionTable::findsTheNearestKey_data()
     QTest::newRow("enable uart1") << QStringLiteral("Enable UART1");
     QTest::newRow("Enable_AHB_Master7") << QStringLiteral("Enable_AHB_Master1");
     QTest::newRow("DTCM Size") << QStringLiteral("DTCM_Size");
+    QTest::newRow("DTCM_SXYZ") << QStringLiteral("DTCM_Size"); // a third of it
+    QTest::newRow("DTCM_WXYZ") << QString();
+    QTest::newRow("TCM_Size") << QStringLiteral("ITCM_Size"); // the first of two
     QTest::newRow("something else entirely") << QString();
     QTest::newRow("") << QString();
 }

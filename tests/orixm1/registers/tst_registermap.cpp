@@ -44,6 +44,10 @@ private Q_SLOTS:
     void leavesOutMaskedInterrupts();
     void namesMistakesInTheOtherInterrupts_data();
     void namesMistakesInTheOtherInterrupts();
+    void takesEveryInputOfTheProcessor_data();
+    void takesEveryInputOfTheProcessor();
+    void saysHowManyInputsAreEnough_data();
+    void saysHowManyInputsAreEnough();
     void theDocumentIsTheOneInDocs();
     void theHeaderCompiles();
 
@@ -269,6 +273,17 @@ void tst_RegisterMap::namesMistakesInTheOtherInterrupts_data()
         << QByteArray(
                R"({"interrupts": [{"name": "A", "number": 30, "count": 3, "option": "Enable CAN"}]})")
         << QStringLiteral("A: the number");
+    QTest::newRow("one beyond the last input")
+        << QByteArray(
+               R"({"interrupts": [{"name": "A", "number": 29, "count": 4, "option": "Enable CAN"}]})")
+        << QStringLiteral("A: the number");
+    QTest::newRow("one before the first input")
+        << QByteArray(R"({"interrupts": [{"name": "A", "number": -1, "option": "Enable CAN"}]})")
+        << QStringLiteral("A: the number");
+    QTest::newRow("no input at all")
+        << QByteArray(
+               R"({"interrupts": [{"name": "A", "number": 3, "count": 0, "option": "Enable CAN"}]})")
+        << QStringLiteral("A: the number is none from 0 to 31");
     QTest::newRow("no switch")
         << QByteArray(R"({"interrupts": [{"name": "A", "number": 3, "option": "ITCM_Size"}]})")
         << QStringLiteral("\"ITCM_Size\" is no switch");
@@ -288,6 +303,64 @@ void tst_RegisterMap::namesMistakesInTheOtherInterrupts()
     QVERIFY(!readOtherInterrupts(m_dir->path(), &sources, &error));
     QVERIFY2(error.contains(message) && error.contains(QStringLiteral("interrupts.json")),
              qPrintable(error));
+}
+
+void tst_RegisterMap::takesEveryInputOfTheProcessor_data()
+{
+    QTest::addColumn<QByteArray>("place");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("count");
+    QTest::newRow("the first") << QByteArray(R"("number": 0)") << 0 << 1;
+    QTest::newRow("the last") << QByteArray(R"("number": 31)") << 31 << 1;
+    QTest::newRow("the last four") << QByteArray(R"("number": 28, "count": 4)") << 28 << 4;
+    QTest::newRow("all") << QByteArray(R"("number": 0, "count": 32)") << 0 << 32;
+}
+
+void tst_RegisterMap::takesEveryInputOfTheProcessor()
+{
+    QFETCH(QByteArray, place);
+    QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("interrupts.json")),
+                               R"({"interrupts": [{"name": "A", "option": "Enable CAN", )" + place +
+                                   "}]}"));
+    QVector<InterruptSource> sources;
+    QString error;
+    QVERIFY2(readOtherInterrupts(m_dir->path(), &sources, &error), qPrintable(error));
+    QCOMPARE(sources.size(), 1);
+    QTEST(sources.first().number, "number");
+    QTEST(sources.first().count, "count");
+}
+
+void tst_RegisterMap::saysHowManyInputsAreEnough_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("inputs");
+    QTest::addColumn<QString>("message"); // empty: none is masked
+    QTest::newRow("the last input") << 7 << 1 << 8 << QString();
+    QTest::newRow("one after it")
+        << 8 << 1 << 8
+        << QStringLiteral("its interrupt 8 is masked: \"Number of Interrupts\" is 8, and 16 would "
+                          "be enough");
+    QTest::newRow("up to the last input") << 12 << 4 << 16 << QString();
+    QTest::newRow("one of several after it")
+        << 13 << 4 << 16
+        << QStringLiteral("its interrupts 13 to 16 are masked: \"Number of Interrupts\" is 16, and "
+                          "32 would be enough");
+    QTest::newRow("two of which the first comes")
+        << 0 << 2 << 1
+        << QStringLiteral("its interrupts 0 to 1 are masked: \"Number of Interrupts\" is 1, and 8 "
+                          "would be enough");
+    QTest::newRow("the last input of all") << 31 << 1 << 32 << QString();
+}
+
+void tst_RegisterMap::saysHowManyInputsAreEnough()
+{
+    QFETCH(int, number);
+    QFETCH(int, count);
+    QFETCH(int, inputs);
+    const InterruptSource source = {QStringLiteral("A"), number, count,
+                                    QStringLiteral("Enable CAN")};
+    QTEST(maskedInterrupt(source, {{QStringLiteral("Number of Interrupts"), inputs}}), "message");
 }
 
 // "orixm1 registers --markdown > docs/registers.md" makes it anew.

@@ -1,4 +1,7 @@
+#include "arbitrary.h"
 #include "testsupport.h"
+
+#include "checkreference.h"
 
 #include <config/optionkeys.h>
 #include <dev/devicedb.h>
@@ -19,6 +22,13 @@ private Q_SLOTS:
     void aSoundConfigurationHasNoFindings();
     void finds_data();
     void finds();
+    void judgesEachBoundary_data();
+    void judgesEachBoundary();
+    void saysWhatIsWrong_data();
+    void saysWhatIsWrong();
+    void looksForTheNearestOfAHundredKeysOnly();
+    void agreesWithThePlainStatement();
+    void agreesAboutEveryPairOfSizes();
     void initialisationFolders();
     void findsWhatNoGeneratedLineCanHold_data();
     void findsWhatNoGeneratedLineCanHold();
@@ -61,6 +71,64 @@ bool writeSmallestContents(const QString &folder)
             return false;
     }
     return true;
+}
+
+// Values on both sides of every boundary, as values or texts, beside what Arbitrary makes of them.
+OptionMap doubtfulOptions(const QStringList &folders)
+{
+    namespace gen = rc::gen;
+    OptionMap options = Arbitrary::options();
+    const auto sometimes = [](int odds) { return *gen::inRange(0, odds) == 0; };
+    const auto oneOf = [](const QVariantList &values) {
+        return values.at(*gen::inRange(0, values.size()));
+    };
+    const auto put = [&](const QString &key, const QVariantList &values) {
+        if (!sometimes(2))
+            return;
+        const QVariant value = oneOf(values);
+        options.insert(key, sometimes(2) ? QVariant(value.toString()) : value);
+    };
+    put(Key::numberOfInterrupts, {0, 1, 8, 15, 16, 17, 31, 32, 33});
+    put(Key::itcmSize, {-1, 0, 1, 3, 4, 5, 6, 7, 8, 9, 10});
+    put(Key::dtcmSize, {-1, 0, 1, 3, 4, 5, 6, 7, 8, 9, 10});
+    put(Key::ethernetInputDelay, {-1, 0, 127, 128, 255, 256});
+    put(Key::ethernetClockDivider, {-1, 0, 255, 256});
+    put(Key::lang, {-1, 0, 1, 2});
+    const QVariantList mixed = {
+        QStringLiteral("TRUE"), QStringLiteral("False"),
+        QStringLiteral("no"),   QString(),
+        QStringLiteral("2"),    QStringList{QStringLiteral("a"), QStringLiteral("b")}};
+    const QVector<Option> &table = optionTable();
+    for (int odd = *gen::inRange(0, 4); odd > 0; --odd)
+        options.insert(table.at(*gen::inRange(0, table.size())).key, oneOf(mixed));
+    // Nine letters, of which three or four differ from a key's.
+    const QVariantList strange = {QStringLiteral("DTCM_SXYZ"),
+                                  QStringLiteral("DTCM_WXYZ"),
+                                  QStringLiteral("enable uart1"),
+                                  QStringLiteral("Enabel RTC"),
+                                  QString(101, u'x'),
+                                  Arbitrary::text(),
+                                  Key::createInPath};
+    if (sometimes(2))
+        options.insert(oneOf(strange).toString(), Arbitrary::text());
+    if (sometimes(2)) {
+        options.insert(Key::initializeItcm, true);
+        const auto folder = [&] { return folders.at(*gen::inRange(0, folders.size())); };
+        options.insert(Key::itcmInitializationPath, folder());
+        options.insert(Key::itcmInitializationAbsolutePath, folder());
+    }
+    return options;
+}
+
+// "error KEY: MESSAGE" for each finding.
+QStringList inFull(const QVector<Finding> &findings)
+{
+    QStringList result;
+    for (const Finding &finding : findings)
+        result.append((finding.severity == Finding::Error ? QLatin1String("error ")
+                                                          : QLatin1String("warning ")) +
+                      finding.key + QLatin1String(": ") + finding.message);
+    return result;
 }
 
 // "error KEY" for each finding.
@@ -213,6 +281,182 @@ void tst_Check::finds()
     QCOMPARE(inShort(findings), QStringList{finding});
     QVERIFY2(findings.first().message.contains(message), qPrintable(findings.first().message));
     QVERIFY(findings.first().message.size() < 300);
+}
+
+void tst_Check::judgesEachBoundary_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<OptionMap>("options");
+    QTest::addColumn<QStringList>("findings");
+    const auto row = [](const char *name, const char *device, const OptionMap &options,
+                        const QStringList &findings) {
+        QTest::newRow(name) << QString::fromLatin1(device) << options << findings;
+    };
+    const auto interrupts = [](int count) {
+        return OptionMap{{Key::externalInterrupts, true}, {Key::numberOfInterrupts, count}};
+    };
+    row("15 interrupts are too few", "TV2K-18", interrupts(15),
+        {QStringLiteral("error Number of Interrupts"),
+         QStringLiteral("warning External Interrupts")});
+    row("16 interrupts are enough", "TV2K-18", interrupts(16), {});
+    row("32 interrupts, if nobody says how many", "TV2K-18", {{Key::externalInterrupts, true}}, {});
+    const auto delay = [](int steps, bool enabled = true) {
+        return OptionMap{{Key::enableEthernet, enabled},
+                         {Key::ethernetInputDelay, steps},
+                         {Key::ethernetClockDivider, 20}};
+    };
+    const QStringList tooLong = {QStringLiteral("error ETHERNET_INPUT_DELAY")};
+    row("the longest delay", "TV2K-18", delay(127), {});
+    row("a delay too long", "TV2K-18", delay(128), tooLong);
+    row("a delay too long for nobody", "TV2K-18", delay(128, false), {});
+    row("the longest delay of all but the wide devices", "TV2K-18", delay(255), tooLong);
+    row("the longest delay of a wide device", "TV5K-138C", delay(255), {});
+    row("and of the other family", "TV3K-20A", delay(255), {});
+    row("a delay too long for every device", "TV5K-138C", delay(256), tooLong);
+    row("the same, told once", "TV2K-18", delay(256), tooLong);
+    row("a delay before its time", "TV2K-18", delay(-1), tooLong);
+    const auto sizes = [](int itcm, int dtcm) {
+        return OptionMap{{Key::itcmSize, itcm}, {Key::dtcmSize, dtcm}};
+    };
+    const QStringList itcm = {QStringLiteral("error ITCM_Size")};
+    const QStringList dtcm = {QStringLiteral("error DTCM_Size")};
+    row("the largest index", "TV5K-138C", sizes(9, 7), {});
+    row("an index that is none", "TV5K-138C", sizes(10, 7), itcm);
+    row("the smallest index", "TV5K-138C", sizes(0, 0), {});
+    row("an index below", "TV5K-138C", sizes(0, -1), dtcm);
+    row("the largest size of the device", "TV2K-18", sizes(6, 0), {});
+    row("one size more", "TV2K-18", sizes(7, 0), itcm);
+    row("the last size beside the largest", "TV2K-18", sizes(4, 6), {});
+    row("one more beside the largest", "TV2K-18", sizes(5, 6), itcm);
+    row("one more in the other memory", "TV2K-18", sizes(6, 5), dtcm);
+    row("both one below the largest", "TV2K-18", sizes(5, 5), {});
+}
+
+void tst_Check::judgesEachBoundary()
+{
+    QFETCH(QString, device);
+    QFETCH(OptionMap, options);
+    QTEST(inShort(checkOptions(options, deviceNamed(device), QString())), "findings");
+}
+
+void tst_Check::saysWhatIsWrong_data()
+{
+    QTest::addColumn<OptionMap>("options");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const OptionMap &options, const QString &message) {
+        QTest::newRow(name) << options << message;
+    };
+    const auto port = [](int length) {
+        return OptionMap{{Key::debugPortSelect, QString(length, u'x')}};
+    };
+    const QString domain =
+        QStringLiteral("\" is out of its domain: one of JTAG, Serial Wire, JTAG and Serial Wire");
+    row("a value of sixty characters", port(60), u'"' + QString(60, u'x') + domain);
+    row("a longer one", port(61), u'"' + QString(60, u'x') + QChar(0x2026) + domain);
+    const auto other = [](const char *key) { return OptionMap{{QString::fromLatin1(key), true}}; };
+    row("a third of the letters are wrong", other("DTCM_SXYZ"),
+        QStringLiteral("unknown key; the nearest known one is \"DTCM_Size\""));
+    row("more than a third is wrong", other("DTCM_WXYZ"), QStringLiteral("unknown key"));
+    row("no instruction memory", {{Key::internalInstructionMemory, false}},
+        QStringLiteral("neither internal nor external instruction memory is chosen"));
+    row("no data memory", {{Key::internalDataMemory, false}},
+        QStringLiteral("neither internal nor external data memory is chosen"));
+    row("a device without PSRAM", {{Key::enablePsram, true}},
+        QStringLiteral("TV2K-18 cannot have PSRAM in package ") +
+            deviceNamed(QStringLiteral("TV2K-18")).package());
+}
+
+void tst_Check::saysWhatIsWrong()
+{
+    QFETCH(OptionMap, options);
+    QFETCH(QString, message);
+    const QVector<Finding> findings =
+        checkOptions(options, deviceNamed(QStringLiteral("TV2K-18")), QString());
+    QCOMPARE(findings.size(), 1);
+    QCOMPARE(findings.first().message, message);
+}
+
+void tst_Check::looksForTheNearestOfAHundredKeysOnly()
+{
+    OptionMap options;
+    for (int i = 0; i <= 100; ++i)
+        options.insert(QStringLiteral("Enable UART0 %1").arg(i, 3, 10, QChar(u'0')), true);
+    const QVector<Finding> findings =
+        checkOptions(options, deviceNamed(QStringLiteral("TV2K-18")), QString());
+    QCOMPARE(findings.size(), 101);
+    for (int i = 0; i <= 100; ++i)
+        QCOMPARE(findings.at(i).message,
+                 i < 100 ? QStringLiteral("unknown key; the nearest known one is \"Enable UART0\"")
+                         : QStringLiteral("unknown key"));
+}
+
+void tst_Check::agreesWithThePlainStatement()
+{
+    QTemporaryDir dir;
+    const auto write = [&dir](const QString &name, int bytes) {
+        for (int lane = 0; lane < 4; ++lane) {
+            if (!TestSupport::write(dir.filePath(QStringLiteral("%1/itcm%2").arg(name).arg(lane)),
+                                    QByteArray("5a\n").repeated(bytes)))
+                return false;
+        }
+        return true;
+    };
+    const QString odd = QStringLiteral("o`d");
+    QVERIFY(write(QStringLiteral("one"), 256) && write(QStringLiteral("two"), 512) &&
+            write(odd, 256));
+    QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("file")), "00\n"));
+    const CheckReference::Contents contents = {{dir.filePath(QStringLiteral("one")), 256},
+                                               {dir.filePath(QStringLiteral("two")), 512},
+                                               {dir.filePath(odd), 256}};
+    const QStringList folders = contents.keys() + QStringList{QString(),
+                                                              QStringLiteral("one"),
+                                                              odd,
+                                                              QStringLiteral("gone"),
+                                                              QStringLiteral("."),
+                                                              dir.filePath(QStringLiteral("gone")),
+                                                              dir.filePath(QStringLiteral("file"))};
+    QVERIFY(rc::check([&] {
+        DEV::DeviceArg device;
+        if (*rc::gen::inRange(0, 10) > 0)
+            device = *Arbitrary::device();
+        OptionMap options = doubtfulOptions(folders);
+        const auto name = [](const QString &key, const QString &own, OptionMap &map) {
+            const int which = *rc::gen::inRange(0, 4);
+            if (which < 3)
+                map.insert(key, which == 0 ? own : which == 1 ? QString() : own + u'x');
+        };
+        name(Key::ipDevice, device.device(), options);
+        name(Key::ipDeviceId, device.id(), options);
+        const QStringList found = inFull(checkOptions(options, device, dir.path()));
+        const QStringList expected =
+            CheckReference::findings(options, device, dir.path(), contents);
+        if (found != expected)
+            RC_FAIL(QString(device.id() + u'\n' + found.join(u'\n') + QStringLiteral("\n---\n") +
+                            expected.join(u'\n'))
+                        .toStdString());
+    }));
+}
+
+void tst_Check::agreesAboutEveryPairOfSizes()
+{
+    QStringList seen;
+    for (const DEV::DeviceArg &device : DEV::DeviceDb::bundled().devices()) {
+        if (seen.contains(device.device()))
+            continue;
+        seen.append(device.device());
+        for (int itcm = -1; itcm <= 10; ++itcm) {
+            for (int dtcm = -1; dtcm <= 10; ++dtcm) {
+                // -1: left open.
+                OptionMap options;
+                if (itcm >= 0)
+                    options.insert(Key::itcmSize, itcm);
+                if (dtcm >= 0)
+                    options.insert(Key::dtcmSize, dtcm);
+                QCOMPARE(inFull(checkOptions(options, device, QString())),
+                         CheckReference::findings(options, device, QString(), {}));
+            }
+        }
+    }
 }
 
 void tst_Check::initialisationFolders()

@@ -20,6 +20,9 @@ private Q_SLOTS:
     void takesWhatGivesEveryByte();
     void findsWhatAToolWouldSwallow_data();
     void findsWhatAToolWouldSwallow();
+    void shortensLongWords();
+    void countsInWords();
+    void addressesAreHexadecimal();
     void laneSizesFollowTheIndex();
     void namesFileLineAndReason_data();
     void namesFileLineAndReason();
@@ -27,6 +30,8 @@ private Q_SLOTS:
     void tellsAFewMistakesOfAFileOnly();
     void looksOnlyWhereTheMemoryIsInitialised();
     void aRelativeFolderStartsFromTheGeneration();
+    void anEmptyNameIsNoFolder();
+    void aFolderThatIsGoneIsTold();
 };
 
 namespace
@@ -85,6 +90,7 @@ void tst_ItcmContents::takesWhatGivesEveryByte_data()
     QTest::newRow("every kind of white space") << QByteArray("\t0\r\n\f1\v2  \n\n 3 \r\n");
     QTest::newRow("comments") << QByteArray("// a zz\n0/* x\n@9 */1//b\n2\n/**/3/*");
     QTest::newRow("underscores") << QByteArray("0_0 f_f 1__2 0_");
+    QTest::newRow("the first and last digit of each kind") << QByteArray("09 af AF 90");
     QTest::newRow("zeros in front") << QByteArray("0000 00ff 001 000_0");
     QTest::newRow("addresses") << QByteArray("@2 2 3 @0000\n0\n1");
     QTest::newRow("an address in capitals") << QByteArray("0 1 2 @3 FF");
@@ -123,16 +129,22 @@ void tst_ItcmContents::findsWhatAToolWouldSwallow_data()
         {QStringLiteral("1: \"x\" has digits that are unknown"),
          QStringLiteral("1: \"0Z\" has digits that are unknown"),
          QStringLiteral("1: \"?\" has digits that are unknown")});
+    row("the same in the other letter case", "X 0z 2 3",
+        {QStringLiteral("1: \"X\" has digits that are unknown"),
+         QStringLiteral("1: \"0z\" has digits that are unknown")});
     row("an underscore first", "_0 1 2 3", one("1: \"_0\" is no hexadecimal byte"));
     row("an address outside", "0 1 2 3\n@4",
         one("2: the address \"@4\" is outside of the memory, which has 4 bytes"));
     row("an address beyond all bounds", "0 1 2 3\n@fffffffffffffffffffffffff",
         one("2: the address \"@fffffffffffffffffff\u2026\" is outside of the memory, which has 4 "
             "bytes"));
+    row("an address at the end of the memory, with digits in front", "0 1 2 3\n@000000000000000004",
+        one("2: the address \"@000000000000000004\" is outside of the memory, which has 4 bytes"));
     row("an address without digits", "@ 0 1 2 3", one("1: \"@\" is no address"));
     row("an address that is none", "@0x0 0 1 2 3", one("1: \"@0x0\" is no address"));
     row("an open comment", "0 1 2 3\n/* 4\n5\n", one("2: a comment has no end"));
     row("half an open comment", "0 1 2 3 /*/", one("1: a comment has no end"));
+    row("a slash at the end", "0 1 2 /", {QStringLiteral("1: \"/\" is no hexadecimal byte")});
     row("a slash", "0 1 2 / 3",
         {QStringLiteral("1: \"/\" is no hexadecimal byte"),
          QStringLiteral("1: the memory has 4 bytes; this is one too many")});
@@ -153,6 +165,37 @@ void tst_ItcmContents::findsWhatAToolWouldSwallow()
 {
     QFETCH(QByteArray, text);
     QTEST(mistakesOf(text), "mistakes");
+}
+
+void tst_ItcmContents::shortensLongWords()
+{
+    const QByteArray word(20, 'g');
+    QCOMPARE(
+        mistakesOf("0 1 2 " + word),
+        QStringList{
+            QStringLiteral("1: \"%1\" is no hexadecimal byte").arg(QString::fromLatin1(word))});
+    QCOMPARE(mistakesOf("0 1 2 g" + word),
+             QStringList{QStringLiteral("1: \"%1\u2026\" is no hexadecimal byte")
+                             .arg(QString::fromLatin1(word))});
+}
+
+void tst_ItcmContents::countsInWords()
+{
+    QCOMPARE(readMemoryText("0 1", 1).mistakes.value(0).reason,
+             QStringLiteral("the memory has 1 byte; this is one too many"));
+    QCOMPARE(readMemoryText("0 1", 1).mistakes.size(), 1);
+    QCOMPARE(readMemoryText("0\n1", 2).lines, 2);
+    QCOMPARE(readMemoryText("0\n1\n", 2).lines, 2);
+    QCOMPARE(readMemoryText("", 2).lines, 1);
+    QCOMPARE(readMemoryText("0 1", 2).firstMissing(), -1);
+}
+
+void tst_ItcmContents::addressesAreHexadecimal()
+{
+    const MemoryText text = readMemoryText("@10 5a @1F 5a @12b 5a", 300);
+    QCOMPARE(text.mistakes.size(), 0);
+    for (int i = 0; i < 300; ++i)
+        QCOMPARE(text.given.testBit(i), i == 0x10 || i == 0x1f || i == 0x12b);
 }
 
 void tst_ItcmContents::laneSizesFollowTheIndex()
@@ -177,6 +220,11 @@ void tst_ItcmContents::namesFileLineAndReason_data()
                              << QStringLiteral(":255: 255 of the 256 bytes of this lane are given; "
                                                "the others, the first at address @ff, would be "
                                                "unknown: fill up with 00");
+    QTest::newRow("too few, without an end of the last line")
+        << bytes(254) + "5a"
+        << QStringLiteral(
+               ":255: 255 of the 256 bytes of this lane are given; the others, the first "
+               "at address @ff, would be unknown: fill up with 00");
     QTest::newRow("empty") << QByteArray("")
                            << QStringLiteral(":1: 0 of the 256 bytes of this lane are given; the "
                                              "others, the first at address @0, would be unknown: "
@@ -250,6 +298,22 @@ void tst_ItcmContents::aRelativeFolderStartsFromTheGeneration()
     QCOMPARE(itcmMistakes(map, QString(), dir.path()).size(), 4);
     // Elsewhere the tool looks by itself.
     QVERIFY(itcmMistakes(map, QString(), dir.filePath(QStringLiteral("other"))).isEmpty());
+}
+
+void tst_ItcmContents::anEmptyNameIsNoFolder()
+{
+    QTemporaryDir dir; // there, and without any file
+    QVERIFY(itcmMistakes(options(QString()), QString(), dir.path()).isEmpty());
+}
+
+void tst_ItcmContents::aFolderThatIsGoneIsTold()
+{
+    const QString gone = QStringLiteral("/nonexistent/./contents/");
+    const QVector<ItcmMistake> mistakes = itcmMistakes(options(gone), QString(), QString());
+    QCOMPARE(mistakes.size(), 4);
+    QCOMPARE(mistakes.at(3).text(),
+             QStringLiteral("/nonexistent/contents/itcm3: cannot be read: No such file or "
+                            "directory"));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_ItcmContents)
