@@ -820,16 +820,16 @@ void tst_IPView::tabWalksOverTheBlocks()
     view.setEthernetAvailable(false);
     view.setFocus(Qt::TabFocusReason);
     QVERIFY(view.hasFocus());
-    QStringList walked;
-    for (int i = 0; i < 19; ++i) {
-        QVERIFY(view.focusedBlock());
-        walked.append(view.focusedBlock()->text());
-        QTest::keyClick(&view, Qt::Key_Tab);
-    }
     QStringList expected;
     for (const SlotRow &row : slotRows()) {
         if (qstrcmp(row.label, "Ethernet") != 0)
             expected.append(QString::fromLatin1(row.label));
+    }
+    QStringList walked;
+    for (int i = 0; i < expected.size(); ++i) {
+        QVERIFY(view.focusedBlock());
+        walked.append(view.focusedBlock()->text());
+        QTest::keyClick(&view, Qt::Key_Tab);
     }
     QCOMPARE(walked, expected);
 }
@@ -850,7 +850,7 @@ void tst_IPView::tabLeavesAtTheEnd()
     QCOMPARE(QApplication::focusWidget(), before);
     QVERIFY(!view->focusedBlock());
     QTest::keyClick(before, Qt::Key_Tab);
-    for (int i = 0; i < 20; ++i) {
+    for (size_t i = 0; i < slotRows().size(); ++i) {
         QCOMPARE(QApplication::focusWidget(), view);
         QTest::keyClick(view, Qt::Key_Tab);
     }
