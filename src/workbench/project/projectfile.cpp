@@ -25,24 +25,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("Workbench::ProjectFile", text);
 }
 
-bool fail(const QString &path, const QString &reason, QString *error)
-{
-    if (error)
-        *error = tr("Project \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
-    return false;
-}
-
-// "line 3, column 5: …"
-QString place(const QByteArray &text, const Reading::JsonMistake &mistake)
-{
-    const QByteArray before = text.left(mistake.offset);
-    const int lineStart = before.lastIndexOf('\n') + 1;
-    return tr("line %1, column %2: %3")
-        .arg(before.count('\n') + 1)
-        .arg(QString::fromUtf8(before.mid(lineStart)).size() + 1)
-        .arg(mistake.reason);
-}
-
 } // namespace
 
 QByteArray ProjectFile::toText() const
@@ -55,48 +37,49 @@ QByteArray ProjectFile::toText() const
     return QJsonDocument(root).toJson();
 }
 
-bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectFile *file,
-                           QString *error)
+Utils::Result<ProjectFile> ProjectFile::fromText(const QByteArray &text, const QString &path)
 {
-    const Reading::JsonMistake mistake = Reading::findJsonMistake(text);
-    if (mistake.offset >= 0)
-        return fail(path, place(text, mistake), error);
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
-    if (parseError.error != QJsonParseError::NoError)
-        return fail(path, parseError.errorString(), error);
-    if (!document.isObject())
-        return fail(path, tr("it holds no JSON object"), error);
+    const auto fail = [&path](const QString &reason) {
+        return Utils::Failure{
+            tr("Project \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason)};
+    };
+    const Reading::JsonText json = Reading::readJson(text);
+    if (json.mistake.offset >= 0) {
+        const Reading::TextPlace place = Reading::placeIn(text, json.mistake.offset);
+        return fail(tr("line %1, column %2: %3")
+                        .arg(QString::number(place.line), QString::number(place.column),
+                             json.mistake.reason));
+    }
+    if (!json.document.isObject())
+        return fail(tr("it holds no JSON object"));
 
-    QJsonObject root = document.object();
+    QJsonObject root = json.document.object();
     const QJsonValue format = root.take(formatKey);
     if (!format.isDouble() || format.toInt() < 1)
-        return fail(path, tr("it has no format number (\"format\"), so it is no project"), error);
+        return fail(tr("it has no format number (\"format\"), so it is no project"));
     if (format.toDouble() > currentFormat)
-        return fail(path,
-                    tr("it was written by a newer version of this program (format %1; this program "
+        return fail(tr("it was written by a newer version of this program (format %1; this program "
                        "reads format %2)")
                         .arg(format.toInt())
-                        .arg(currentFormat),
-                    error);
+                        .arg(currentFormat));
 
     ProjectFile result;
     const QJsonValue device = root.take(deviceKey);
     if (!device.isString() && !device.isUndefined())
-        return fail(path, tr("\"device\" is no text"), error);
+        return fail(tr("\"device\" is no text"));
     result.deviceId = device.toString();
     const QJsonValue top = root.take(topKey);
     if (!top.isString() && !top.isUndefined())
-        return fail(path, tr("\"top\" is no text"), error);
+        return fail(tr("\"top\" is no text"));
     result.topModule = top.toString();
     const QJsonValue files = root.take(filesKey);
     if (!files.isArray() && !files.isUndefined())
-        return fail(path, tr("\"files\" is no list"), error);
+        return fail(tr("\"files\" is no list"));
     const QJsonArray entries = files.toArray();
     QSet<QString> listed;
     for (const QJsonValue &value : entries) {
         if (!value.isString() || value.toString().isEmpty())
-            return fail(path, tr("\"files\" holds an entry that is no file name"), error);
+            return fail(tr("\"files\" holds an entry that is no file name"));
         // "./a.v" and "a.v" are one file.
         const QString entry = QDir::cleanPath(value.toString());
         if (!listed.contains(entry)) {
@@ -105,19 +88,24 @@ bool ProjectFile::fromText(const QByteArray &text, const QString &path, ProjectF
         }
     }
     result.others = root;
-    *file = result;
-    return true;
+    return result;
 }
 
-bool ProjectFile::read(const QString &path, ProjectFile *file, QString *error)
+Utils::Result<ProjectFile> ProjectFile::read(const QString &path)
 {
     QByteArray text;
-    return Utils::FileUtils::readFile(path, &text, error) && fromText(text, path, file, error);
+    QString error;
+    if (!Utils::FileUtils::readFile(path, &text, &error))
+        return Utils::Failure{error};
+    return fromText(text, path);
 }
 
-bool ProjectFile::write(const QString &path, QString *error) const
+Utils::Result<void> ProjectFile::write(const QString &path) const
 {
-    return Utils::FileUtils::writeFile(path, toText(), error);
+    QString error;
+    if (!Utils::FileUtils::writeFile(path, toText(), &error))
+        return Utils::Failure{error};
+    return {};
 }
 
 } // namespace Workbench
