@@ -43,21 +43,18 @@ QVector<Finding> checkFrame(const IpcDocument &document, const QVariantMap &ipIn
     return findings;
 }
 
-// False: a message has been printed. Data without register descriptions has no interrupts to tell
-// of.
-bool readInterrupts(const QString &dataFolder, QVector<InterruptSource> *interrupts)
+// Data without register descriptions has no interrupts to tell of.
+Utils::Result<QVector<InterruptSource>> readInterrupts(const QString &dataFolder)
 {
-    QString error;
-    QVector<Peripheral> peripherals;
-    QVector<InterruptSource> others;
     const bool described = !QDir(dataFolder + QLatin1String("/registers")).isEmpty(QDir::Files);
-    if ((described && !readRegisterMap(dataFolder, &peripherals, &error)) ||
-        !readOtherInterrupts(dataFolder, &others, &error)) {
-        printError(error);
-        return false;
-    }
-    *interrupts = interruptSources(peripherals, others);
-    return true;
+    const auto peripherals =
+        described ? readRegisterMap(dataFolder) : Utils::Result(QVector<Peripheral>());
+    if (!peripherals)
+        return Utils::Failure{peripherals.reason()};
+    const auto others = readOtherInterrupts(dataFolder);
+    if (!others)
+        return others;
+    return interruptSources(*peripherals, *others);
 }
 
 // Where a key is in doubt already, its interrupt adds nothing.
@@ -84,13 +81,15 @@ int runCheck(Environment &environment, const QString &file, bool json)
     IpcDocument document;
     if (!openDocument(environment, file, &document))
         return BadInput;
-    QVector<InterruptSource> interrupts;
-    if (!readInterrupts(environment.dataFolder(), &interrupts))
+    const auto interrupts = readInterrupts(environment.dataFolder());
+    if (!interrupts) {
+        printError(interrupts.reason());
         return BadInput;
+    }
     const QVector<Finding> findings =
         checkFrame(document, ipInfo) +
         withInterrupts(checkOptions(document.options, document.device, document.folder()),
-                       interruptFindings(interrupts, document.options));
+                       interruptFindings(*interrupts, document.options));
 
     bool anyError = false;
     QJsonArray list;

@@ -32,8 +32,9 @@ QVariantMap Environment::ipInfo()
         return m_ipInfo;
     const QString folder = dataFolder();
     const QString path = descriptorPath(folder);
-    QString error;
-    QVariantMap info = Utils::readDescriptor(path, &error);
+    const Utils::Result<QVariantMap> read = Utils::readDescriptor(path);
+    QVariantMap info = read ? *read : QVariantMap();
+    QString error = read.reason();
     if (info.isEmpty() && error.isEmpty())
         error = QLatin1String("The descriptor \"") + path + QLatin1String("\" holds nothing.");
     if (!info.isEmpty() && info.value(InfoKey::target).toString().isEmpty())
@@ -56,12 +57,12 @@ const DEV::DeviceDb *Environment::devices()
         m_devices = &DEV::DeviceDb::bundled();
         return m_devices;
     }
-    QString error;
-    m_ownDevices = DEV::DeviceDb::fromFolder(m_deviceFolder, &error);
-    if (m_ownDevices.isEmpty()) {
-        printError(error);
+    const Utils::Result<DEV::DeviceDb> read = DEV::DeviceDb::fromFolder(m_deviceFolder);
+    if (!read) {
+        printError(read.reason());
         return nullptr;
     }
+    m_ownDevices = *read;
     m_devices = &m_ownDevices;
     return m_devices;
 }
@@ -127,44 +128,43 @@ QString listed(const Devices &devices)
 
 } // namespace
 
-DEV::DeviceArg Environment::findDevice(const QString &device, const QString &package,
-                                       const QString &speed, QString *error) const
+Utils::Result<DEV::DeviceArg> Environment::findDevice(const QString &device, const QString &package,
+                                                      const QString &speed) const
 {
     using DEV::DeviceArg;
     const Devices all = m_devices->devices();
     if (device.isEmpty()) {
-        *error = QLatin1String("The device is empty; it is one of ") +
-                 distinct(all, &DeviceArg::device).join(QLatin1String(", ")) +
-                 QLatin1String(", or an id or a part number, as \"orixm1 devices\" lists them.");
-        return {};
+        return Utils::Failure{
+            QLatin1String("The device is empty; it is one of ") +
+            distinct(all, &DeviceArg::device).join(QLatin1String(", ")) +
+            QLatin1String(", or an id or a part number, as \"orixm1 devices\" lists them.")};
     }
     const Devices named =
         matching(all, device, {&DeviceArg::id, &DeviceArg::device, &DeviceArg::partNumber});
     if (named.isEmpty()) {
-        *error = QLatin1String("Unknown device \"") + device +
-                 QLatin1String("\"; \"orixm1 devices\" lists the known ones.");
-        return {};
+        return Utils::Failure{QLatin1String("Unknown device \"") + device +
+                              QLatin1String("\"; \"orixm1 devices\" lists the known ones.")};
     }
     const Devices found =
         matching(matching(named, package, {&DeviceArg::package}), speed, {&DeviceArg::speed});
     if (found.isEmpty()) {
-        *error = QLatin1String("\"") + device + QLatin1String("\" does not exist with package \"") +
-                 package + QLatin1String("\" and speed grade \"") + speed +
-                 QLatin1String("\"; there are:") + listed(named);
-        return {};
+        return Utils::Failure{QLatin1String("\"") + device +
+                              QLatin1String("\" does not exist with package \"") + package +
+                              QLatin1String("\" and speed grade \"") + speed +
+                              QLatin1String("\"; there are:") + listed(named)};
     }
     if (distinct(found, &DeviceArg::device).size() > 1) {
-        *error = QLatin1String("\"") + device +
-                 QLatin1String("\" is a part number of several devices; name one by its id:") +
-                 listed(found);
-        return {};
+        return Utils::Failure{
+            QLatin1String("\"") + device +
+            QLatin1String("\" is a part number of several devices; name one by its id:") +
+            listed(found)};
     }
     if (distinct(found, &DeviceArg::package).size() > 1) {
-        *error = QLatin1String("\"") + device +
-                 QLatin1String("\" comes in several packages; choose one with --package, or name "
-                               "an id or a part number:") +
-                 listed(found);
-        return {};
+        return Utils::Failure{
+            QLatin1String("\"") + device +
+            QLatin1String("\" comes in several packages; choose one with --package, or name "
+                          "an id or a part number:") +
+            listed(found)};
     }
     return found.first();
 }

@@ -25,10 +25,10 @@ public:
 
     // Finds the one device that a user means: by id, name or part number, narrowed by package and
     // speed grade (both may be empty); letter case counts only where it decides. Without a speed
-    // grade it is the first of a package's. Null if there is none or a choice is left, and `*error`
-    // then says why, with the choices. Needs devices().
-    DEV::DeviceArg findDevice(const QString &device, const QString &package, const QString &speed,
-                              QString *error) const;
+    // grade it is the first of a package's. A failure if there is none or a choice is left, with
+    // the choices. Needs devices().
+    Utils::Result<DEV::DeviceArg> findDevice(const QString &device, const QString &package,
+                                             const QString &speed) const;
     // What findDevice() has chosen for the user, in a sentence; empty if the text and the speed
     // grade left no choice.
     QString chosenSpeed(const DEV::DeviceArg &found, const QString &device,

@@ -140,12 +140,23 @@ Synthesis::Tool toolOfRunner(Tool tool)
     return Synthesis::Tool::SynplifyPro;
 }
 
+Synthesis::Language languageOfRunner(Language language)
+{
+    switch (language) {
+    case Language::Verilog:
+        return Synthesis::Language::Verilog;
+    case Language::Vhdl:
+        break;
+    }
+    return Synthesis::Language::Vhdl;
+}
+
 // Without which no other tool reads the netlist; empty if it needs none.
-QString libraryFor(Tool tool, Synthesis::Language language)
+QString libraryFor(Tool tool, Language language)
 {
     switch (tool) {
     case Tool::TarvoSynthesis:
-        return Synthesis::primitiveLibrary(language);
+        return Synthesis::primitiveLibrary(languageOfRunner(language));
     case Tool::SynplifyPro:
         break;
     }
@@ -238,7 +249,7 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
         return finish(report, arguments, runner.wasCancelled() ? Cancelled : Failed);
     }
     report.outputs = result.files;
-    report.library = libraryFor(*input.tool, runner.report().job.language());
+    report.library = libraryFor(*input.tool, namingLanguage(input.language));
     return finish(report, arguments, Done);
 }
 

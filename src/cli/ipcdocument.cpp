@@ -47,18 +47,16 @@ QString outputFolder(const IpcDocument &document, const QString &outDir)
     return outDir.isEmpty() ? document.folder() : QDir(QFileInfo(outDir).absoluteFilePath()).path();
 }
 
-bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
-                       QString *error)
+Utils::Result<IpcDocument> IpcDocument::read(const QString &path, const DEV::DeviceDb &devices)
 {
-    QByteArray bytes;
-    if (!Utils::readConfigurationFile(path, &bytes, error))
-        return false;
-    QString reason;
-    if (!Utils::checkConfigurationText(bytes, &reason)) {
-        *error = QLatin1String("\"") + path + QLatin1String("\" is no IP configuration file: ") +
-                 reason + u'.';
-        return false;
-    }
+    const auto fail = [&path](const QString &reason) {
+        return Utils::Failure{QLatin1String("\"") + path + QLatin1String("\" ") + reason};
+    };
+    const Utils::Result<QByteArray> bytes = Utils::readConfigurationFile(path);
+    if (!bytes)
+        return Utils::Failure{bytes.reason()};
+    if (const Utils::Result<void> checked = Utils::checkConfigurationText(*bytes); !checked)
+        return fail(QLatin1String("is no IP configuration file: ") + checked.reason() + u'.');
     // It opens the file once more, and does not tell why it could not. What fails once may succeed
     // the next time; if it does not, reading has a reason.
     auto reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
@@ -68,29 +66,29 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
     }
     QSettings &settings = *reader;
     if (settings.status() != QSettings::NoError) {
-        if (!Utils::FileUtils::readFile(path, &bytes, error))
-            return false;
-        *error = QLatin1String("\"") + path + QLatin1String("\" is no IP configuration file.");
-        return false;
+        QByteArray again;
+        QString error;
+        if (!Utils::FileUtils::readFile(path, &again, &error))
+            return Utils::Failure{error};
+        return fail(QStringLiteral("is no IP configuration file."));
     }
     if (!IpcFile::isVersionAccepted(settings)) {
         const QString version = settings.value(QStringLiteral("version")).toString();
-        *error = QLatin1String("\"") + path +
-                 QLatin1String("\" cannot be used: its version is \"") + version +
-                 QLatin1String("\", not \"") + IpcFile::acceptedVersion + QLatin1String("\".");
-        return false;
+        return fail(QLatin1String("cannot be used: its version is \"") + version +
+                    QLatin1String("\", not \"") + IpcFile::acceptedVersion + QLatin1String("\"."));
     }
-    document->path = QFileInfo(path).absoluteFilePath();
-    document->type = IpcFile::type(settings);
-    document->device = IpcFile::readDevice(settings, devices);
-    document->deviceText = IpcFile::deviceText(settings);
-    document->others = IpcFile::otherEntries(settings);
-    IpcFile::readOptions(settings, document->options);
+    IpcDocument document;
+    document.path = QFileInfo(path).absoluteFilePath();
+    document.type = IpcFile::type(settings);
+    document.device = IpcFile::readDevice(settings, devices);
+    document.deviceText = IpcFile::deviceText(settings);
+    document.others = IpcFile::otherEntries(settings);
+    IpcFile::readOptions(settings, document.options);
 
-    const QVector<Reading::IniEntry> entries = Reading::iniEntries(bytes);
+    const QVector<Reading::IniEntry> entries = Reading::iniEntries(*bytes);
     for (const Reading::IniEntry &entry : entries) {
         if (entry.bytes != Reading::IniEntry::Ascii)
-            document->oddEntries.append(entry);
+            document.oddEntries.append(entry);
     }
 
     const QStringList known = {QStringLiteral("target_device"), QStringLiteral("type"),
@@ -98,19 +96,28 @@ bool IpcDocument::read(const QString &path, const DEV::DeviceDb &devices, IpcDoc
     const QStringList keys = settings.childKeys();
     for (const QString &key : keys) {
         if (!known.contains(key))
-            document->unknownEntries.append(key);
+            document.unknownEntries.append(key);
     }
     const QStringList groups = {IpcFile::configGroup, QStringLiteral("device")};
     const QStringList present = settings.childGroups();
     for (const QString &group : present) {
         if (!groups.contains(group))
-            document->unknownEntries.append(u'[' + group + u']');
+            document.unknownEntries.append(u'[' + group + u']');
     }
     settings.beginGroup(IpcFile::configGroup);
     const QStringList nested = settings.childGroups();
     for (const QString &group : nested)
-        document->unknownEntries.append(group + u'/');
-    return true;
+        document.unknownEntries.append(group + u'/');
+    return document;
+}
+
+Utils::Result<void> writeConfiguration(const QString &path, const QVariantMap &header,
+                                       const OptionMap &options)
+{
+    QString error;
+    if (!Utils::FileUtils::makePath(QFileInfo(path).absolutePath(), &error))
+        return Utils::Failure{error};
+    return Utils::writeIniFile(path, header, IpcFile::configGroup, options);
 }
 
 GenerationInput generationInput(const IpcDocument &document, const QVariantMap &ipInfo,
@@ -129,11 +136,13 @@ bool openDocument(Environment &environment, const QString &path, IpcDocument *do
     const DEV::DeviceDb *devices = environment.devices();
     if (!devices)
         return false;
-    QString error;
-    if (IpcDocument::read(path, *devices, document, &error))
-        return true;
-    printError(error);
-    return false;
+    const Utils::Result<IpcDocument> read = IpcDocument::read(path, *devices);
+    if (!read) {
+        printError(read.reason());
+        return false;
+    }
+    *document = *read;
+    return true;
 }
 
 } // namespace Cli

@@ -4,6 +4,7 @@
 #include <dev/devicearg.h>
 #include <generate/plan.h>
 #include <reading/inientries.h>
+#include <utils/result.h>
 
 #include <QString>
 
@@ -35,14 +36,18 @@ struct IpcDocument {
     // nothing is.
     QString deviceProblem() const;
 
-    // False, and a sentence with path and reason in `*error`, if the file cannot be read, is no INI
-    // file or has a version that is not accepted.
-    static bool read(const QString &path, const DEV::DeviceDb &devices, IpcDocument *document,
-                     QString *error);
+    // A failure is a sentence with path and reason: the file cannot be read, is no INI file or has
+    // a version that is not accepted.
+    static Utils::Result<IpcDocument> read(const QString &path, const DEV::DeviceDb &devices);
 };
 
 // Where a run puts its results: the folder that the user names, or that of the file.
 QString outputFolder(const IpcDocument &document, const QString &outDir);
+
+// Writes a configuration file and the folder that it is in. A failure is a sentence with path and
+// reason.
+Utils::Result<void> writeConfiguration(const QString &path, const QVariantMap &header,
+                                       const TARVOORIXM1::OptionMap &options);
 
 // What a generation of the file is made from; `outDir` as above.
 TARVOORIXM1::GenerationInput generationInput(const IpcDocument &document, const QVariantMap &ipInfo,

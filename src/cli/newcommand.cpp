@@ -2,14 +2,13 @@
 
 #include "environment.h"
 #include "findings.h"
+#include "ipcdocument.h"
 #include "output.h"
 
 #include <config/choices.h>
 #include <config/ipcfile.h>
 #include <config/optiontable.h>
 #include <rules/newoptions.h>
-#include <utils/fileutils.h>
-#include <utils/inifile.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,33 +22,32 @@ namespace
 {
 
 // Puts "KEY=VALUE" into the map as the key's type.
-bool applySetting(const QString &setting, OptionMap *options, QString *error)
+Utils::Result<void> applySetting(const QString &setting, OptionMap *options)
 {
     const int equals = setting.indexOf(u'=');
     if (equals < 1) {
-        *error = QLatin1String("\"") + setting + QLatin1String("\" is not of the form KEY=VALUE.");
-        return false;
+        return Utils::Failure{QLatin1String("\"") + setting +
+                              QLatin1String("\" is not of the form KEY=VALUE.")};
     }
     const QString key = setting.left(equals);
     const QString text = setting.mid(equals + 1);
     const Option *option = findOption(key);
     if (!option) {
         const QString nearest = nearestOptionKey(key);
-        *error = QLatin1String("Unknown key \"") + key + u'"' +
-                 (nearest.isEmpty()
-                      ? QString()
-                      : QString(QLatin1String("; the nearest known one is \"") + nearest + u'"')) +
-                 u'.';
-        return false;
+        return Utils::Failure{
+            QLatin1String("Unknown key \"") + key + u'"' +
+            (nearest.isEmpty()
+                 ? QString()
+                 : QString(QLatin1String("; the nearest known one is \"") + nearest + u'"')) +
+            u'.'};
     }
     const QVariant value = optionValueFromText(*option, text);
     if (!value.isValid() || !isInDomain(*option, value)) {
-        *error = QLatin1String("\"") + text + QLatin1String("\" is no value of \"") + key +
-                 QLatin1String("\": ") + domainText(*option) + u'.';
-        return false;
+        return Utils::Failure{QLatin1String("\"") + text + QLatin1String("\" is no value of \"") +
+                              key + QLatin1String("\": ") + domainText(*option) + u'.'};
     }
     options->insert(key, value);
-    return true;
+    return {};
 }
 
 } // namespace
@@ -59,13 +57,13 @@ int runNew(Environment &environment, const NewArguments &arguments)
     const QVariantMap ipInfo = environment.ipInfo();
     if (ipInfo.isEmpty() || !environment.devices())
         return BadInput;
-    QString error;
-    const DEV::DeviceArg device =
-        environment.findDevice(arguments.device, arguments.package, arguments.speed, &error);
-    if (device.isNull()) {
-        printError(error);
+    const Utils::Result<DEV::DeviceArg> found =
+        environment.findDevice(arguments.device, arguments.package, arguments.speed);
+    if (!found) {
+        printError(found.reason());
         return WrongUsage;
     }
+    const DEV::DeviceArg device = *found;
     OptionMap options;
     if (!arguments.language.isEmpty()) {
         const QStringList names = languageNames().join(u' ').toLower().split(u' ');
@@ -78,8 +76,8 @@ int runNew(Environment &environment, const NewArguments &arguments)
         options.insert(Key::lang, index);
     }
     for (const QString &setting : arguments.settings) {
-        if (!applySetting(setting, &options, &error)) {
-            printError(error);
+        if (const Utils::Result<void> applied = applySetting(setting, &options); !applied) {
+            printError(applied.reason());
             return WrongUsage;
         }
     }
@@ -92,10 +90,10 @@ int runNew(Environment &environment, const NewArguments &arguments)
                    QLatin1String("\" exists already; --force replaces it."));
         return Failed;
     }
-    if (!Utils::FileUtils::makePath(folder, &error) ||
-        !Utils::writeIniFile(path, IpcFile::header(device.id(), ipInfo), IpcFile::configGroup,
-                             whole, &error)) {
-        printError(error);
+    const Utils::Result<void> written =
+        writeConfiguration(path, IpcFile::header(device.id(), ipInfo), whole);
+    if (!written) {
+        printError(written.reason());
         return Failed;
     }
     if (const QString note = environment.chosenSpeed(device, arguments.device, arguments.speed);

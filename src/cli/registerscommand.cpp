@@ -117,26 +117,26 @@ void printTable(const QVector<Peripheral> &peripherals)
 
 int runRegisters(Environment &environment, const QString &file, RegistersForm form)
 {
-    QString error;
-    QVector<Peripheral> peripherals;
     if (environment.ipInfo().isEmpty())
         return BadInput;
-    if (!readRegisterMap(environment.dataFolder(), &peripherals, &error)) {
-        printError(error);
+    const auto read = readRegisterMap(environment.dataFolder());
+    if (!read) {
+        printError(read.reason());
         return BadInput;
     }
-    QVector<InterruptSource> sources;
-    if (!readOtherInterrupts(environment.dataFolder(), &sources, &error)) {
-        printError(error);
+    const auto sources = readOtherInterrupts(environment.dataFolder());
+    if (!sources) {
+        printError(sources.reason());
         return BadInput;
     }
-    QVector<OtherInterrupt> others = otherInterrupts(sources, nullptr);
+    QVector<Peripheral> peripherals = *read;
+    QVector<OtherInterrupt> others = otherInterrupts(*sources, nullptr);
     if (!file.isEmpty()) {
         IpcDocument document;
         if (!openDocument(environment, file, &document))
             return BadInput;
         peripherals = enabledPeripherals(peripherals, document.options);
-        others = otherInterrupts(sources, &document.options);
+        others = otherInterrupts(*sources, &document.options);
     }
     switch (form) {
     case RegistersForm::Json: {

@@ -4,13 +4,10 @@
 #include "ipcdocument.h"
 #include "output.h"
 
-#include <config/ipcfile.h>
 #include <config/optionkeys.h>
 #include <config/optionvalue.h>
 #include <rules/itcmpath.h>
 #include <rules/retarget.h>
-#include <utils/fileutils.h>
-#include <utils/inifile.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -59,13 +56,13 @@ int runRetarget(Environment &environment, const RetargetArguments &arguments)
                    QLatin1String("\", not of \"") + id + QLatin1String("\"."));
         return BadInput;
     }
-    QString error;
-    const DEV::DeviceArg device =
-        environment.findDevice(arguments.device, arguments.package, arguments.speed, &error);
-    if (device.isNull()) {
-        printError(error);
+    const Utils::Result<DEV::DeviceArg> found =
+        environment.findDevice(arguments.device, arguments.package, arguments.speed);
+    if (!found) {
+        printError(found.reason());
         return WrongUsage;
     }
+    const DEV::DeviceArg device = *found;
     const QString target =
         arguments.out.isEmpty() ? document.path : QFileInfo(arguments.out).absoluteFilePath();
     const bool inPlace = target == document.path;
@@ -82,10 +79,11 @@ int runRetarget(Environment &environment, const RetargetArguments &arguments)
         !note.isEmpty())
         printError(note);
     const bool writes = !arguments.dryRun && (changed || !inPlace);
-    if (writes && (!Utils::FileUtils::makePath(QFileInfo(target).absolutePath(), &error) ||
-                   !Utils::writeIniFile(target, document.movedHeader(device.id()),
-                                        IpcFile::configGroup, moved.options, &error))) {
-        printError(error);
+    const Utils::Result<void> written =
+        writes ? writeConfiguration(target, document.movedHeader(device.id()), moved.options)
+               : Utils::Result<void>();
+    if (!written) {
+        printError(written.reason());
         return Failed;
     }
     if (arguments.json) {

@@ -75,8 +75,9 @@ void compareReaders(const QByteArray &bytes, const QString &path)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes = Fuzz::bytesOf(data, size);
-    QString error;
-    const bool isConfiguration = Utils::checkConfigurationText(bytes, &error);
+    const Utils::Result<void> checked = Utils::checkConfigurationText(bytes);
+    const bool isConfiguration = bool(checked);
+    const QString error = checked.reason();
     REQUIRE(isConfiguration == error.isEmpty());
     REQUIRE(isConfiguration ||
             (Fuzz::lineIn(error) >= 1 && Fuzz::lineIn(error) <= Fuzz::lineCount(bytes)));
@@ -92,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         OptionMap options = optionsOf(path);
         const QString copy =
             Fuzz::folder() + QLatin1String("/copy of ") + QFileInfo(path).fileName();
-        REQUIRE(Utils::writeIniFile(copy, {}, IpcFile::configGroup, options, &error));
+        REQUIRE(Utils::writeIniFile(copy, {}, IpcFile::configGroup, options));
         // The writer's settings would remember; a copy is parsed.
         QFile written(copy);
         REQUIRE(written.open(QIODevice::ReadOnly));

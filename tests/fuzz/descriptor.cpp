@@ -9,9 +9,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes = Fuzz::bytesOf(data, size);
     const QString path = Fuzz::file(QStringLiteral("ip.ipspec"), bytes);
-    QString error;
-    const QVariantMap map = Utils::readDescriptor(path, &error);
-    REQUIRE(map.isEmpty() || error.isEmpty());
+    const Utils::Result<QVariantMap> read = Utils::readDescriptor(path);
+    const QVariantMap map = read ? *read : QVariantMap();
+    const QString error = read.reason();
+    REQUIRE(bool(read) == error.isEmpty());
     const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
     REQUIRE(mistake.offset >= -1 && mistake.offset <= bytes.size());
     REQUIRE((mistake.offset >= 0) == !mistake.reason.isEmpty());

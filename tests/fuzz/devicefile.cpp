@@ -11,14 +11,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                    R"({"packageCodes": {"QFN88": "QN88", "QFN88P": "QN88P"}})");
     const QByteArray bytes = Fuzz::bytesOf(data, size);
     Fuzz::file(QStringLiteral("series.json"), bytes);
-    QString error;
-    const DEV::DeviceDb db = DEV::DeviceDb::fromFolder(Fuzz::folder(), &error);
-    REQUIRE(db.isEmpty() != error.isEmpty());
-    if (db.isEmpty()) {
-        REQUIRE(error.contains(QLatin1String("series.json")));
-        REQUIRE(Fuzz::lineIn(error) <= Fuzz::lineCount(bytes));
+    const Utils::Result<DEV::DeviceDb> read = DEV::DeviceDb::fromFolder(Fuzz::folder());
+    if (!read) {
+        REQUIRE(read.reason().contains(QLatin1String("series.json")));
+        REQUIRE(Fuzz::lineIn(read.reason()) >= 1);
+        REQUIRE(Fuzz::lineIn(read.reason()) <= Fuzz::lineCount(bytes));
+        REQUIRE(read.reason().contains(QLatin1String(", column ")));
         return 0;
     }
+    const DEV::DeviceDb &db = *read;
+    REQUIRE(!db.isEmpty() && read.reason().isEmpty());
     QSet<QString> ids;
     const QList<DEV::DeviceArg> devices = db.devices();
     for (const DEV::DeviceArg &device : devices) {

@@ -11,13 +11,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     REQUIRE(made);
     const QByteArray bytes = Fuzz::bytesOf(data, size);
     Fuzz::file(QStringLiteral("registers/a.json"), bytes);
-    QVector<Peripheral> peripherals;
-    QString error;
-    if (!readRegisterMap(Fuzz::folder(), &peripherals, &error)) {
+    const Utils::Result<QVector<Peripheral>> read = readRegisterMap(Fuzz::folder());
+    const QString error = read.reason();
+    if (!read) {
         REQUIRE(error.contains(QLatin1String("a.json")));
         REQUIRE(Fuzz::lineIn(error) <= Fuzz::lineCount(bytes));
         return 0;
     }
+    const QVector<Peripheral> peripherals = *read;
     REQUIRE(error.isEmpty() && peripherals.size() == 1);
     int rows = 0;
     const Peripheral &peripheral = peripherals.first();

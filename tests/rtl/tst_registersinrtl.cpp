@@ -499,9 +499,9 @@ private:
 
 void tst_RegistersInRtl::initTestCase()
 {
-    QString error;
-    QVERIFY2(readRegisterMap(QStringLiteral(TARVO_IP_DATA_DIR), &m_peripherals, &error),
-             qPrintable(error));
+    const auto read = readRegisterMap(QStringLiteral(TARVO_IP_DATA_DIR));
+    QVERIFY2(read, qPrintable(read.reason()));
+    m_peripherals = *read;
 }
 
 void tst_RegistersInRtl::modulesAreAsDescribed_data()

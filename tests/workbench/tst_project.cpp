@@ -155,11 +155,10 @@ private Q_SLOTS:
     {
         const auto project = make();
         QSignalSpy changed(project.get(), &Project::changed);
-        ProjectFile content;
-        QString error;
-        QVERIFY(ProjectFile::read(project->file(), &content, &error));
-        content.files.append(QStringLiteral("new.v"));
-        QVERIFY(content.write(project->file(), &error));
+        auto content = ProjectFile::read(project->file());
+        QVERIFY(content);
+        content->files.append(QStringLiteral("new.v"));
+        QVERIFY(content->write(project->file()));
         QTRY_COMPARE(project->files(), QStringList(m_folder + QStringLiteral("/new.v")));
         QVERIFY(!changed.isEmpty());
     }

@@ -2,6 +2,8 @@
 
 #include "tr.h"
 
+#include <QJsonArray>
+
 #include <cstring>
 
 namespace Reading
@@ -23,21 +25,24 @@ bool isHexDigit(char c)
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-// Reads a text once, from its start to the first mistake. Each function steps over what it is named
-// after and returns false when that is not there.
+// Reads a text once, from its start to the first mistake, and looks for a value on the way. Each
+// function steps over what it is named after and returns false when that is not there.
 class Scanner
 {
 public:
-    explicit Scanner(const QByteArray &text)
+    explicit Scanner(const QByteArray &text, const JsonPath &path = {})
         : m_text(text)
+        , m_path(path)
     {
     }
+
+    int found() const { return m_found; }
 
     JsonMistake scan()
     {
         if (m_text.startsWith("\xef\xbb\xbf"))
             m_at = 3;
-        if (value() && !atEnd())
+        if (value(true) && !atEnd())
             fail(Tr::tr("text after the end of the value"));
         return m_mistake;
     }
@@ -66,13 +71,15 @@ private:
             ++m_at;
     }
 
-    // A value with the space around it.
-    bool value()
+    // A value with the space around it. `isOnPath`: the path leads to it or through it.
+    bool value(bool isOnPath)
     {
         space();
+        if (isOnPath)
+            m_found = m_at;
         bool good = false;
         if (next() == '{' || next() == '[')
-            good = container();
+            good = container(isOnPath && m_depth < m_path.size());
         else if (next() == '"')
             good = string();
         else if (next() == '-' || isDigit(next()))
@@ -94,23 +101,29 @@ private:
         return true;
     }
 
-    bool container()
+    // `isOnPath`: the path goes on in it.
+    bool container(bool isOnPath)
     {
         if (m_depth == deepest)
             return fail(Tr::tr("the text is nested too deeply"));
-        ++m_depth;
         const bool isObject = accept('{');
         if (!isObject)
             ++m_at;
+        const JsonStep step = isOnPath ? m_path.at(m_depth) : JsonStep(-1);
+        ++m_depth;
         const char end = isObject ? '}' : ']';
         space();
         if (!accept(end)) {
+            int number = 0;
             do {
                 space();
+                const int name = m_at;
                 if (isObject && !member())
                     return false;
-                if (!value())
+                if (!value(isOnPath && (isObject ? step.number < 0 && textAt(name) == step.name
+                                                 : number == step.number)))
                     return false;
+                ++number;
             } while (accept(','));
             if (!accept(end))
                 return fail(Tr::tr("a comma or \"%1\" is missing here").arg(QLatin1Char(end)));
@@ -128,6 +141,16 @@ private:
             return false;
         space();
         return accept(':') || fail(Tr::tr("a colon is missing here"));
+    }
+
+    // The text of a string that was stepped over.
+    QString textAt(int offset) const
+    {
+        Scanner name(m_text);
+        name.m_at = offset;
+        name.string();
+        const QByteArray literal = m_text.mid(offset, name.m_at - offset);
+        return QJsonDocument::fromJson('[' + literal + ']').array().at(0).toString();
     }
 
     bool string()
@@ -192,16 +215,45 @@ private:
     }
 
     const QByteArray &m_text;
+    const JsonPath m_path;
     int m_at = 0;
     int m_depth = 0;
+    int m_found = 0;
     JsonMistake m_mistake;
 };
 
 } // namespace
 
+TextPlace placeIn(const QByteArray &text, int offset)
+{
+    const QByteArray before = text.left(offset);
+    const QByteArray line = before.mid(before.lastIndexOf('\n') + 1);
+    return {before.count('\n') + 1, QString::fromUtf8(line).toUcs4().size() + 1};
+}
+
 JsonMistake findJsonMistake(const QByteArray &text)
 {
     return Scanner(text).scan();
+}
+
+JsonText readJson(const QByteArray &text)
+{
+    JsonText json;
+    json.mistake = findJsonMistake(text);
+    if (json.mistake.offset >= 0)
+        return json;
+    QJsonParseError error;
+    json.document = QJsonDocument::fromJson(text, &error);
+    if (error.error != QJsonParseError::NoError)
+        json.mistake = {qBound(0, error.offset, text.size()), error.errorString()};
+    return json;
+}
+
+int findJsonValue(const QByteArray &text, const JsonPath &path)
+{
+    Scanner scanner(text, path);
+    scanner.scan();
+    return scanner.found();
 }
 
 } // namespace Reading

@@ -3,6 +3,8 @@
 #include "chipfilter.h"
 #include "devicearg.h"
 
+#include <utils/result.h>
+
 #include <QHash>
 #include <QList>
 
@@ -20,10 +22,10 @@ class TARVO_DEV_EXPORT DeviceDb
 public:
     DeviceDb() = default;
 
-    // Reads every *.json of a folder (a resource folder too) into a new database. A file that
-    // cannot be read or is malformed gives an empty database and a sentence in `*error` (may be
-    // null) that names the file.
-    static DeviceDb fromFolder(const QString &folder, QString *error = nullptr);
+    // Reads every *.json of a folder (a resource folder too) into a new database, which is not
+    // empty. A file that cannot be read or is malformed gives a sentence that names the file and,
+    // for a mistake in it, line and column.
+    static Utils::Result<DeviceDb> fromFolder(const QString &folder);
 
     // The database that is built into this library; read on first use, lives as long as the
     // process.
@@ -39,8 +41,8 @@ public:
     bool isEmpty() const { return m_devices.isEmpty(); }
 
 private:
-    bool readSeries(const QString &path, const QHash<QString, QString> &packageCodes,
-                    QString *error);
+    Utils::Result<void> readSeries(const QString &path,
+                                   const QHash<QString, QString> &packageCodes);
 
     QList<DeviceArg> m_devices;
     QHash<QString, int> m_indexById;

@@ -69,7 +69,13 @@ QString absolutePath(const QString &path)
 
 QVariantMap processIPInfoSpec(const QString &path, QString *error)
 {
-    QVariantMap ipInfo = Utils::readDescriptor(path, error);
+    const Utils::Result<QVariantMap> read = Utils::readDescriptor(path);
+    if (!read) {
+        if (error)
+            *error = read.reason();
+        return {};
+    }
+    QVariantMap ipInfo = *read;
     const auto help = ipInfo.find(QStringLiteral("ipcore.doc.help"));
     if (help != ipInfo.end() && !help->toString().isEmpty())
         *help = QFileInfo(path).absoluteDir().absoluteFilePath(help->toString());
@@ -99,13 +105,14 @@ bool isSupported(const DEV::DeviceArg &device, const QStringList &unsupported,
 
 void writeIPConfig(const QString &path, const QVariantMap &header, const QVariantMap &options)
 {
-    QString error;
     // A copy, because the keeper may take its own registration back.
     const ConfigKeeper keep = configKeeper();
     if (keep && QFileInfo::exists(path))
         keep(path);
-    if (!Utils::writeIniFile(path, header, QStringLiteral("Config"), options, &error))
-        report(nullptr, error);
+    const Utils::Result<void> written =
+        Utils::writeIniFile(path, header, QStringLiteral("Config"), options);
+    if (!written)
+        report(nullptr, written.reason());
 }
 
 void setConfigKeeper(const ConfigKeeper &keeper)

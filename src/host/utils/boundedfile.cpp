@@ -10,22 +10,20 @@
 namespace Utils
 {
 
-bool readBoundedFile(const QString &path, qint64 limit, QByteArray *bytes, QString *error)
+Result<QByteArray> readBoundedFile(const QString &path, qint64 limit)
 {
+    if (path.isEmpty())
+        return Failure{Tr::tr("Cannot read a file without a name.")};
+    QByteArray bytes;
     QString reason;
-    if (!path.isEmpty() && Reading::readPlainFile(path, limit, bytes, &reason))
-        return true;
-    if (error)
-        *error =
-            path.isEmpty()
-                ? Tr::tr("Cannot read a file without a name.")
-                : Tr::tr("Cannot read \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason);
-    return false;
+    if (Reading::readPlainFile(path, limit, &bytes, &reason))
+        return bytes;
+    return Failure{Tr::tr("Cannot read \"%1\": %2.").arg(QDir::toNativeSeparators(path), reason)};
 }
 
-bool readConfigurationFile(const QString &path, QByteArray *bytes, QString *error)
+Result<QByteArray> readConfigurationFile(const QString &path)
 {
-    return readBoundedFile(path, Reading::Limits::configuration, bytes, error);
+    return readBoundedFile(path, Reading::Limits::configuration);
 }
 
 } // namespace Utils

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "result.h"
 #include "utils_global.h"
 
 #include <QByteArray>
@@ -9,13 +10,10 @@ namespace Utils
 {
 
 // Reads a plain file of at most `limit` bytes; pipes, devices and folders are refused, and no call
-// waits for anything but the disk. On failure returns false, leaves `*bytes` alone and stores one
-// sentence with path and reason in `*error` (may be null).
-TARVO_UTILS_EXPORT bool readBoundedFile(const QString &path, qint64 limit, QByteArray *bytes,
-                                        QString *error);
+// waits for anything but the disk. A failure is one sentence with path and reason.
+TARVO_UTILS_EXPORT Result<QByteArray> readBoundedFile(const QString &path, qint64 limit);
 
 // The same with the limit for an IP configuration (.ipc).
-TARVO_UTILS_EXPORT bool readConfigurationFile(const QString &path, QByteArray *bytes,
-                                              QString *error);
+TARVO_UTILS_EXPORT Result<QByteArray> readConfigurationFile(const QString &path);
 
 } // namespace Utils

@@ -20,22 +20,24 @@ namespace Utils
 namespace
 {
 
-// A clause on what cannot be taken; empty otherwise. `room`: how many characters the keys may still
-// have altogether, since each holds those of all objects around it.
-QString flatten(const QString &prefix, const QJsonObject &object, qint64 *room, QVariantMap *map)
+// A failure is a clause. `room`: how many characters the keys may still have altogether, since each
+// holds those of all objects around it.
+Result<void> flatten(const QString &prefix, const QJsonObject &object, qint64 *room,
+                     QVariantMap *map)
 {
     for (auto it = object.begin(); it != object.end(); ++it) {
         const QString key = prefix.isEmpty() ? it.key() : QString(prefix + u'.' + it.key());
         const QJsonValue value = it.value();
         *room -= key.size();
         if (*room < 0)
-            return Tr::tr("the keys, each with those of the objects around it, have more than %1 "
-                          "characters altogether")
-                .arg(Reading::Limits::descriptorKeys);
+            return Failure{
+                Tr::tr("the keys, each with those of the objects around it, have more than %1 "
+                       "characters altogether")
+                    .arg(Reading::Limits::descriptorKeys)};
         if (value.isObject()) {
-            const QString mistake = flatten(key, value.toObject(), room, map);
-            if (!mistake.isEmpty())
-                return mistake;
+            const Result<void> flat = flatten(key, value.toObject(), room, map);
+            if (!flat)
+                return flat;
         } else if (value.isArray()) {
             QStringList list;
             const QJsonArray array = value.toArray();
@@ -49,8 +51,9 @@ QString flatten(const QString &prefix, const QJsonObject &object, qint64 *room, 
     return {};
 }
 
-// The target names the files of an IP: "<folder>/<target>.ipc". A clause if it could name others.
-QString targetMistake(const QVariantMap &map)
+// The target names the files of an IP: "<folder>/<target>.ipc". It is a failure, a clause, if it
+// could name others.
+Result<void> checkTarget(const QVariantMap &map)
 {
     const QString key = QStringLiteral("ipcore.target");
     const QString target = map.value(key).toString();
@@ -58,57 +61,48 @@ QString targetMistake(const QVariantMap &map)
         return c == u'/' || c == u'\\' || c.category() == QChar::Other_Control;
     });
     if (!isName || target == QLatin1String(".") || target == QLatin1String(".."))
-        return Tr::tr("\"%1\" is \"%2\", which is no name of a file").arg(key, target);
+        return Failure{Tr::tr("\"%1\" is \"%2\", which is no name of a file").arg(key, target)};
     if (target.toUtf8().size() > Reading::Limits::targetNameLength)
-        return Tr::tr("\"%1\" is longer than %2 bytes")
-            .arg(key, QString::number(Reading::Limits::targetNameLength));
-    return {};
-}
-
-// The place is a line and a column in characters, both from 1.
-QVariantMap fail(const QString &path, const QByteArray &bytes, int offset, const QString &reason,
-                 QString *error)
-{
-    const QByteArray before = bytes.left(offset);
-    const int line = before.count('\n') + 1;
-    const int column =
-        QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
-    if (error)
-        *error = Tr::tr("%1:%2:%3: %4.")
-                     .arg(QDir::toNativeSeparators(path), QString::number(line),
-                          QString::number(column), reason);
+        return Failure{Tr::tr("\"%1\" is longer than %2 bytes")
+                           .arg(key, QString::number(Reading::Limits::targetNameLength))};
     return {};
 }
 
 } // namespace
 
-QVariantMap readDescriptor(const QString &path, QString *error)
+Result<QVariantMap> readDescriptor(const QString &path)
 {
-    QByteArray bytes;
-    if (!readBoundedFile(path, Reading::Limits::descriptor, &bytes, error))
-        return {};
+    const Result<QByteArray> read = readBoundedFile(path, Reading::Limits::descriptor);
+    if (!read)
+        return Failure{read.reason()};
+    const QByteArray bytes = *read;
+    const QString shown = QDir::toNativeSeparators(path);
+    const auto failAt = [&bytes, &shown](int offset, const QString &reason) {
+        const Reading::TextPlace place = Reading::placeIn(bytes, offset);
+        return Failure{
+            Tr::tr("%1:%2:%3: %4.")
+                .arg(shown, QString::number(place.line), QString::number(place.column), reason)};
+    };
 
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
         const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
         if (mistake.offset >= 0)
-            return fail(path, bytes, mistake.offset, mistake.reason, error);
+            return failAt(mistake.offset, mistake.reason);
         if (parseError.error == QJsonParseError::IllegalUTF8String)
-            return fail(path, bytes, parseError.offset, Tr::tr("the text is not UTF-8"), error);
+            return failAt(parseError.offset, Tr::tr("the text is not UTF-8"));
     }
     if (!document.isObject())
-        return fail(path, bytes, 0, Tr::tr("the file holds no JSON object"), error);
+        return failAt(0, Tr::tr("the file holds no JSON object"));
     QVariantMap map;
     qint64 room = Reading::Limits::descriptorKeys;
-    QString mistake = flatten(QString(), document.object(), &room, &map);
-    if (mistake.isEmpty())
-        mistake = targetMistake(map);
-    if (mistake.isEmpty())
-        return map;
-    if (error)
-        *error = Tr::tr("%1: %2.").arg(QDir::toNativeSeparators(path), mistake);
-    return {};
+    Result<void> checked = flatten(QString(), document.object(), &room, &map);
+    if (checked)
+        checked = checkTarget(map);
+    if (!checked)
+        return Failure{Tr::tr("%1: %2.").arg(shown, checked.reason())};
+    return map;
 }
 
 } // namespace Utils

@@ -69,7 +69,12 @@ bool FileUtils::writeLines(const QString &path, const QStringList &lines, QStrin
 
 bool FileUtils::readFile(const QString &path, QByteArray *bytes, QString *error)
 {
-    return readBoundedFile(path, Reading::Limits::anyFile, bytes, error);
+    const Result<QByteArray> read = readBoundedFile(path, Reading::Limits::anyFile);
+    if (read)
+        *bytes = *read;
+    else if (error)
+        *error = read.reason();
+    return bool(read);
 }
 
 bool FileUtils::makePath(const QString &path, QString *error)

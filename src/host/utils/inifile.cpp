@@ -140,14 +140,12 @@ bool appendSection(const QString &name, const QVariantMap &values, QByteArray *t
 
 // The text of a file with values of all kinds. QSettings merges with what is on disk and caches per
 // path, so it writes to a fresh file of its own.
-bool draftText(const QVariantMap &header, const QString &group, const QVariantMap &values,
-               QByteArray *bytes, QString *error)
+Result<QByteArray> draftText(const QVariantMap &header, const QString &group,
+                             const QVariantMap &values)
 {
     const QTemporaryDir scratch;
-    if (!scratch.isValid()) {
-        *error = Tr::tr("no temporary folder: %1").arg(scratch.errorString());
-        return false;
-    }
+    if (!scratch.isValid())
+        return Failure{Tr::tr("no temporary folder: %1").arg(scratch.errorString())};
     const QString draft = scratch.filePath(QStringLiteral("draft.ini"));
     bool written = false;
     {
@@ -164,56 +162,46 @@ bool draftText(const QVariantMap &header, const QString &group, const QVariantMa
     }
     // QSettings takes a full disk for a success: only a draft with its end is whole.
     const QByteArray mark = "[EndOfDraft]\nwhole=true\n";
-    if (!written || !FileUtils::readFile(draft, bytes, nullptr) || !bytes->endsWith(mark)) {
+    QByteArray bytes;
+    if (!written || !FileUtils::readFile(draft, &bytes, nullptr) || !bytes.endsWith(mark)) {
         // It does not tell why it could not.
         QString reason;
-        *error = FileUtils::writeFile(draft, QByteArray(1 << 16, 'x'), &reason)
-                     ? Tr::tr("the temporary file \"%1\" could not be written").arg(draft)
-                     : reason.chopped(1);
-        return false;
+        return Failure{FileUtils::writeFile(draft, QByteArray(1 << 16, 'x'), &reason)
+                           ? Tr::tr("the temporary file \"%1\" could not be written").arg(draft)
+                           : reason.chopped(1)};
     }
-    bytes->chop(mark.size());
-    if (bytes->endsWith("\n\n"))
-        bytes->chop(1); // the blank line between sections
-    return true;
+    bytes.chop(mark.size());
+    if (bytes.endsWith("\n\n"))
+        bytes.chop(1); // the blank line between sections
+    return bytes;
 }
 
 } // namespace
 
-bool iniText(const QVariantMap &header, const QString &group, const QVariantMap &values,
-             QByteArray *text, QString *error)
-{
-    text->clear();
-    if (appendSection(QStringLiteral("General"), header, text) &&
-        appendSection(group, values, text))
-        return true;
-    text->clear();
-    QString reason;
-    if (draftText(header, group, values, text, &reason))
-        return true;
-    if (error)
-        *error = reason;
-    return false;
-}
-
-bool writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
-                  const QVariantMap &values, QString *error)
+Result<QByteArray> iniText(const QVariantMap &header, const QString &group,
+                           const QVariantMap &values)
 {
     QByteArray text;
-    QString reason;
-    if (iniText(header, group, values, &text, &reason))
-        return FileUtils::writeFile(path, text, error);
-    if (error)
-        *error = Tr::tr("Cannot write \"%1\": %2.").arg(path, reason);
-    return false;
+    if (appendSection(QStringLiteral("General"), header, &text) &&
+        appendSection(group, values, &text))
+        return text;
+    return draftText(header, group, values);
 }
 
-bool checkIniText(const QByteArray &bytes, QString *error)
+Result<void> writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
+                          const QVariantMap &values)
 {
-    const auto fail = [error](int line, const QString &reason) {
-        if (error)
-            *error = Tr::tr("line %1: %2").arg(QString::number(line), reason);
-        return false;
+    const Result<QByteArray> text = iniText(header, group, values);
+    if (!text)
+        return Failure{Tr::tr("Cannot write \"%1\": %2.").arg(path, text.reason())};
+    QString error;
+    return FileUtils::writeFile(path, *text, &error) ? Result<void>() : Failure{error};
+}
+
+Result<void> checkIniText(const QByteArray &bytes)
+{
+    const auto fail = [](int line, const QString &reason) {
+        return Failure{Tr::tr("line %1: %2").arg(QString::number(line), reason)};
     };
     int number = 0;
     LineEnd end;
@@ -240,17 +228,15 @@ bool checkIniText(const QByteArray &bytes, QString *error)
         if (end.quoted && (!end.continued || number == lines.size()))
             return fail(number, Tr::tr("a quoted value has no end"));
     }
-    return true;
+    return {};
 }
 
-bool checkConfigurationText(const QByteArray &bytes, QString *error)
+Result<void> checkConfigurationText(const QByteArray &bytes)
 {
-    if (!checkIniText(bytes, error))
-        return false;
+    if (const Result<void> checked = checkIniText(bytes); !checked)
+        return checked;
     const QString foreign = Reading::foreignIniValue(bytes);
-    if (!foreign.isEmpty() && error)
-        *error = foreign;
-    return foreign.isEmpty();
+    return foreign.isEmpty() ? Result<void>() : Failure{foreign};
 }
 
 } // namespace Utils

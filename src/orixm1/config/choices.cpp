@@ -46,8 +46,8 @@ const ToolRow &rowOf(Tool tool)
 
 const LanguageRow &rowOf(Language language)
 {
-    static constexpr LanguageRow verilog = {"Verilog"_l1, ".v"_l1};
-    static constexpr LanguageRow vhdl = {"VHDL"_l1, ".vhd"_l1};
+    static constexpr LanguageRow verilog = {"Verilog"_l1, ".v"_l1, false};
+    static constexpr LanguageRow vhdl = {"VHDL"_l1, ".vhd"_l1, true};
     static constexpr LanguageRow none = {};
     switch (language) {
     case Language::Verilog:
@@ -107,6 +107,17 @@ QLatin1String netlistSuffix(Tool tool, Language language)
         return rowOf(tool).verilogNetlist;
     case Language::Vhdl:
         return rowOf(tool).vhdlNetlist;
+    }
+    return {};
+}
+
+QLatin1String modelSuffix(Tool tool, Language language)
+{
+    switch (language) {
+    case Language::Verilog:
+        break;
+    case Language::Vhdl:
+        return rowOf(tool).vhdlModel;
     }
     return {};
 }

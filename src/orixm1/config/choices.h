@@ -33,6 +33,7 @@ enum class Language { Verilog, Vhdl };
 struct LanguageRow {
     QLatin1String name;   // as shown
     QLatin1String suffix; // of outputs
+    bool isVhdl;          // what a run is told
 };
 const LanguageRow &rowOf(Language language);
 
@@ -54,7 +55,8 @@ std::optional<Language> effectiveLanguage(const QVariant &stored);
 // Whose names the outputs have: where nothing is selected, those of VHDL.
 Language namingLanguage(std::optional<Language> selected);
 
-// Ending of the netlist that a run leaves.
+// Endings of the netlist that a run leaves, and of its additional simulation model; empty: none.
 QLatin1String netlistSuffix(Tool tool, Language language);
+QLatin1String modelSuffix(Tool tool, Language language);
 
 } // namespace TARVOORIXM1

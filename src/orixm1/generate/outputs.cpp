@@ -23,8 +23,9 @@ Outputs buildOutputs(std::optional<Tool> tool, std::optional<Language> language,
         const QString made = results + u'/' + target;
         netlist = {made + netlistSuffix(*tool, naming), outDir + u'/' + target + suffix};
         outputs.verilogNetlist = made + netlistSuffix(*tool, Language::Verilog);
-        if (language == Language::Vhdl && !row.vhdlModel.isEmpty())
-            model = {made + row.vhdlModel, outDir + u'/' + target + row.vhdlModel, true};
+        const QLatin1String modelEnd = language ? modelSuffix(*tool, *language) : QLatin1String();
+        if (!modelEnd.isEmpty())
+            model = {made + modelEnd, outDir + u'/' + target + modelEnd, true};
     }
     outputs.copied = {netlist, {tempDir + u'/' + templateName, outDir + u'/' + templateName}};
     if (!model.source.isEmpty())

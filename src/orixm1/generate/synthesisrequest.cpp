@@ -16,7 +16,7 @@ SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const DEV::Dev
     request.device = device;
     request.options = {
         {QStringLiteral("impl_name"), QString(implementationName)},
-        {QStringLiteral("write_vhdl"), language == Language::Vhdl},
+        {QStringLiteral("write_vhdl"), language && rowOf(*language).isVhdl},
         {QStringLiteral("top_module"), QStringLiteral("Tarvo_ORIX_M1_Top")},
         {QStringLiteral("disable_io"), true},
         {QStringLiteral("source_files"), sourceFiles},

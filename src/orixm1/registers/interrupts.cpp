@@ -28,22 +28,25 @@ QString nameOf(const QString &path)
     return u'"' + QDir::toNativeSeparators(path) + u'"';
 }
 
-// What is wrong with an entry; empty if nothing is.
-QString mistakeIn(const QJsonObject &entry, const InterruptSource &source)
+// A failure is a clause.
+Utils::Result<void> checkEntry(const QJsonObject &entry, const InterruptSource &source)
 {
     const Option *option = findOption(source.option);
     if (source.name.isEmpty())
-        return QStringLiteral("an entry has no name");
+        return Utils::Failure{QStringLiteral("an entry has no name")};
+    const auto fail = [&source](const QString &reason) {
+        return Utils::Failure{source.name + ": "_l1 + reason};
+    };
     if (!entry.value("number"_l1).isDouble() || source.number < 0 || source.count < 1 ||
         source.number > inputCount - source.count)
-        return source.name + ": the number is none from 0 to "_l1 + QString::number(inputCount - 1);
+        return fail("the number is none from 0 to "_l1 + QString::number(inputCount - 1));
     if (!option || option->type != OptionType::Bool)
-        return source.name + ": \""_l1 + source.option + "\" is no switch of the configuration"_l1;
+        return fail(u'"' + source.option + "\" is no switch of the configuration"_l1);
     for (auto it = entry.begin(); it != entry.end(); ++it) {
         const QStringList known = {QStringLiteral("name"), QStringLiteral("number"),
                                    QStringLiteral("count"), QStringLiteral("option")};
         if (!known.contains(it.key()))
-            return source.name + ": unknown key \""_l1 + it.key() + u'"';
+            return fail("unknown key \""_l1 + it.key() + u'"');
     }
     return {};
 }
@@ -65,24 +68,23 @@ QString enoughFor(int last)
 
 } // namespace
 
-bool readOtherInterrupts(const QString &dataPath, QVector<InterruptSource> *sources, QString *error)
+Utils::Result<QVector<InterruptSource>> readOtherInterrupts(const QString &dataPath)
 {
-    sources->clear();
+    QVector<InterruptSource> sources;
     const QString path = dataPath + "/interrupts.json"_l1;
+    const auto fail = [&path](const QString &reason) {
+        return Utils::Failure{nameOf(path) + ": "_l1 + reason};
+    };
     QFile file(path);
     if (!file.exists())
-        return true;
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = nameOf(path) + ": cannot be read: "_l1 + file.errorString();
-        return false;
-    }
+        return sources;
+    if (!file.open(QIODevice::ReadOnly))
+        return fail("cannot be read: "_l1 + file.errorString());
     const QByteArray bytes = file.readAll();
     const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
-    if (mistake.offset >= 0) {
-        const int line = 1 + bytes.left(mistake.offset).count('\n');
-        *error = nameOf(path) + ": line "_l1 + QString::number(line) + ": "_l1 + mistake.reason;
-        return false;
-    }
+    if (mistake.offset >= 0)
+        return fail("line "_l1 + QString::number(Reading::placeIn(bytes, mistake.offset).line) +
+                    ": "_l1 + mistake.reason);
     const QJsonArray list =
         QJsonDocument::fromJson(bytes).object().value("interrupts"_l1).toArray();
     for (const QJsonValue &value : list) {
@@ -92,13 +94,11 @@ bool readOtherInterrupts(const QString &dataPath, QVector<InterruptSource> *sour
         source.number = entry.value("number"_l1).toInt(-1);
         source.count = entry.value("count"_l1).toInt(1);
         source.option = entry.value("option"_l1).toString();
-        if (const QString wrong = mistakeIn(entry, source); !wrong.isEmpty()) {
-            *error = nameOf(path) + ": "_l1 + wrong;
-            return false;
-        }
-        sources->append(source);
+        if (const Utils::Result<void> checked = checkEntry(entry, source); !checked)
+            return fail(checked.reason());
+        sources.append(source);
     }
-    return true;
+    return sources;
 }
 
 QVector<InterruptSource> interruptSources(const QVector<Peripheral> &peripherals,

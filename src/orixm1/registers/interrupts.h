@@ -15,10 +15,9 @@ struct InterruptSource {
 };
 
 // Reads "interrupts.json" of a data folder: the sources without register descriptions. A folder
-// without that file has none. False, and a sentence in `*error` that names file and place, if it
-// cannot be read or contradicts itself.
-bool readOtherInterrupts(const QString &dataPath, QVector<InterruptSource> *sources,
-                         QString *error);
+// without that file has none. One that cannot be read or contradicts itself is a failure, a
+// sentence that names file and place.
+Utils::Result<QVector<InterruptSource>> readOtherInterrupts(const QString &dataPath);
 
 // All sources by number: those of the peripherals and the others. The non-maskable interrupt is
 // none of them.

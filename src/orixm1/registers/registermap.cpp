@@ -44,30 +44,28 @@ public:
     {
     }
 
-    bool read(Peripheral *peripheral)
+    Utils::Result<Peripheral> read()
     {
+        Peripheral peripheral;
         QByteArray bytes;
         QString reason;
         if (!Reading::readPlainFile(m_path, Reading::Limits::registerFile, &bytes, &reason))
-            return fail("cannot be read: "_l1 + reason);
-        const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
-        if (mistake.offset >= 0) {
-            const int line = 1 + bytes.left(mistake.offset).count('\n');
-            return fail("line "_l1 + QString::number(line) + ": "_l1 + mistake.reason);
-        }
-        const QJsonObject object = QJsonDocument::fromJson(bytes).object();
-        readPeripheral(object, peripheral);
-        return m_error.isEmpty();
+            fail("cannot be read: "_l1 + reason);
+        else if (const auto mistake = Reading::findJsonMistake(bytes); mistake.offset >= 0)
+            fail("line "_l1 + QString::number(Reading::placeIn(bytes, mistake.offset).line) +
+                 ": "_l1 + mistake.reason);
+        else
+            readPeripheral(QJsonDocument::fromJson(bytes).object(), &peripheral);
+        if (m_error.isEmpty())
+            return peripheral;
+        return Utils::Failure{m_error};
     }
 
-    QString error() const { return m_error; }
-
 private:
-    bool fail(const QString &reason)
+    void fail(const QString &reason)
     {
         if (m_error.isEmpty())
             m_error = u'"' + QDir::toNativeSeparators(m_path) + "\": "_l1 + m_place + reason;
-        return false;
     }
 
     QString text(const QJsonObject &object, QLatin1String key, bool required = true)
@@ -248,32 +246,26 @@ quint32 RegisterField::mask() const
     return quint32(((quint64(1) << width()) - 1) << low);
 }
 
-bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, QString *error)
+Utils::Result<QVector<Peripheral>> readRegisterMap(const QString &dataPath)
 {
     const QDir folder(dataPath + "/registers"_l1);
     // With System what cannot be read is found too, so that it is named and not left out.
     const QStringList files =
         folder.entryList({QStringLiteral("*.json")}, QDir::Files | QDir::System, QDir::Name);
-    if (files.isEmpty()) {
-        *error = "\""_l1 + QDir::toNativeSeparators(folder.path()) +
-                 "\" holds no register descriptions"_l1;
-        return false;
-    }
-    peripherals->clear();
+    if (files.isEmpty())
+        return Utils::Failure{"\""_l1 + QDir::toNativeSeparators(folder.path()) +
+                              "\" holds no register descriptions"_l1};
+    QVector<Peripheral> peripherals;
     for (const QString &file : files) {
-        Reader reader(folder.filePath(file));
-        Peripheral peripheral;
-        if (!reader.read(&peripheral)) {
-            *error = reader.error();
-            return false;
-        }
-        peripherals->append(peripheral);
+        const Utils::Result<Peripheral> peripheral = Reader(folder.filePath(file)).read();
+        if (!peripheral)
+            return Utils::Failure{peripheral.reason()};
+        peripherals.append(*peripheral);
     }
-    std::sort(peripherals->begin(), peripherals->end(),
-              [](const Peripheral &a, const Peripheral &b) {
-                  return a.instances.first().base < b.instances.first().base;
-              });
-    return true;
+    std::sort(peripherals.begin(), peripherals.end(), [](const Peripheral &a, const Peripheral &b) {
+        return a.instances.first().base < b.instances.first().base;
+    });
+    return peripherals;
 }
 
 QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,

@@ -2,6 +2,8 @@
 
 #include "config/optionmap.h"
 
+#include <utils/result.h>
+
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -66,9 +68,9 @@ struct Peripheral {
 
 // Reads the peripherals of a data folder, one file "registers/*.json" each;
 // docs/add-a-peripheral.md describes it. They come by the address of their first instance.
-// Registers are 32 bits wide. False, and a sentence in `*error` that names file and place, if a
-// file cannot be read or contradicts itself.
-bool readRegisterMap(const QString &dataPath, QVector<Peripheral> *peripherals, QString *error);
+// Registers are 32 bits wide. A file that cannot be read or contradicts itself is a failure, a
+// sentence that names file and place.
+Utils::Result<QVector<Peripheral>> readRegisterMap(const QString &dataPath);
 
 // Those that a configuration has, with the instances and the interrupts that it has.
 QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,

@@ -61,10 +61,13 @@ QByteArray textOf(const QVariantMap &configuration, QString *error)
     const QTemporaryDir scratch;
     const QString path = scratch.filePath(QStringLiteral("configuration.ipc"));
     QByteArray text;
-    if (Utils::writeIniFile(path, configuration.value(QStringLiteral("header")).toMap(),
-                            QStringLiteral("Config"),
-                            configuration.value(QStringLiteral("options")).toMap(), error))
+    const Utils::Result<void> written = Utils::writeIniFile(
+        path, configuration.value(QStringLiteral("header")).toMap(), QStringLiteral("Config"),
+        configuration.value(QStringLiteral("options")).toMap());
+    if (written)
         Utils::FileUtils::readFile(path, &text, error);
+    else if (error)
+        *error = written.reason();
     return text;
 }
 
@@ -159,10 +162,10 @@ IpSession::Contents IpSession::contentsIn(const QString &folder) const
     if (m_knownFiles)
         paths += m_knownFiles();
     for (const QString &path : qAsConst(paths)) {
-        QByteArray bytes;
-        if (!contents.contains(path) && QFileInfo(path).isFile() &&
-            Utils::readConfigurationFile(path, &bytes, nullptr))
-            contents.insert(path, bytes);
+        if (contents.contains(path) || !QFileInfo(path).isFile())
+            continue;
+        if (const Utils::Result<QByteArray> bytes = Utils::readConfigurationFile(path))
+            contents.insert(path, *bytes);
     }
     return contents;
 }
@@ -233,13 +236,14 @@ bool IpSession::openAs(const QString &ipcFile, const QString &folder, QString *e
 
 QString IpSession::typeOf(const QString &ipcFile, QString *error)
 {
-    QByteArray bytes;
-    if (!Utils::readConfigurationFile(ipcFile, &bytes, error))
+    const Utils::Result<QByteArray> bytes = Utils::readConfigurationFile(ipcFile);
+    if (!bytes) {
+        *error = bytes.reason();
         return {};
-    QString reason;
-    if (!Utils::checkConfigurationText(bytes, &reason)) {
-        *error =
-            tr("\"%1\" is no IP configuration: %2.").arg(QDir::toNativeSeparators(ipcFile), reason);
+    }
+    if (const Utils::Result<void> checked = Utils::checkConfigurationText(*bytes); !checked) {
+        *error = tr("\"%1\" is no IP configuration: %2.")
+                     .arg(QDir::toNativeSeparators(ipcFile), checked.reason());
         return {};
     }
     const QSettings settings(ipcFile, QSettings::IniFormat);

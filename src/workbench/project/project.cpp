@@ -110,18 +110,24 @@ std::unique_ptr<Project> Project::create(const QString &folder, const QString &n
     }
     ProjectFile content;
     content.deviceId = device.id();
-    if (!Utils::FileUtils::makePath(absolute, error) || !content.write(path, error))
+    if (!Utils::FileUtils::makePath(absolute, error))
         return nullptr;
+    if (const Utils::Result<void> written = content.write(path); !written) {
+        *error = written.reason();
+        return nullptr;
+    }
     return std::unique_ptr<Project>(new Project(path, content));
 }
 
 std::unique_ptr<Project> Project::open(const QString &file, QString *error)
 {
     const QString path = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
-    ProjectFile content;
-    if (!ProjectFile::read(path, &content, error))
+    const Utils::Result<ProjectFile> content = ProjectFile::read(path);
+    if (!content) {
+        *error = content.reason();
         return nullptr;
-    return std::unique_ptr<Project>(new Project(path, content));
+    }
+    return std::unique_ptr<Project>(new Project(path, *content));
 }
 
 QString Project::name() const
@@ -233,32 +239,33 @@ QString Project::freeIpFolder(const QString &target) const
 void Project::change(const Operation &operation)
 {
     m_pending.append(operation);
-    QString error;
-    const bool written = writePending(&error);
+    const Utils::Result<void> written = writePending();
     watch();
     if (!written)
-        Q_EMIT failed(error);
+        Q_EMIT failed(written.reason());
 }
 
-bool Project::writePending(QString *error)
+Utils::Result<void> Project::writePending()
 {
-    ProjectFile present = m_stored;
     ProjectFile content;
-    bool written = false;
+    Utils::Result<void> written;
     {
         const FileLock lock(m_path, lockPatience);
-        if (!lock.isHeld())
-            *error = lock.error();
-        const bool known = lock.isHeld() && (!QFileInfo::exists(m_path) ||
-                                             ProjectFile::read(m_path, &present, error));
-        if (known)
-            m_stored = present;
+        if (!lock.isHeld()) {
+            written = Utils::Failure{lock.error()};
+        } else if (QFileInfo::exists(m_path)) {
+            const Utils::Result<ProjectFile> present = ProjectFile::read(m_path);
+            if (present)
+                m_stored = *present;
+            else
+                written = Utils::Failure{present.reason()};
+        }
         content = m_stored;
         for (const Operation &operation : qAsConst(m_pending))
             operation(&content);
         // A file that is missing is written even if nothing has changed.
-        written = known && ((content == m_stored && QFileInfo::exists(m_path)) ||
-                            content.write(m_path, error));
+        if (written && (!(content == m_stored) || !QFileInfo::exists(m_path)))
+            written = content.write(m_path);
     }
     if (written) {
         m_stored = content;
@@ -313,17 +320,16 @@ void Project::onFileChanged()
                           .arg(QDir::toNativeSeparators(m_path)));
         return;
     }
-    ProjectFile content;
-    QString error;
-    if (!ProjectFile::read(m_path, &content, &error)) {
-        Q_EMIT failed(error);
+    const Utils::Result<ProjectFile> content = ProjectFile::read(m_path);
+    if (!content) {
+        Q_EMIT failed(content.reason());
         return;
     }
-    m_stored = content;
+    m_stored = *content;
     if (m_pending.isEmpty())
-        show(content);
-    else if (!writePending(&error))
-        Q_EMIT failed(error);
+        show(*content);
+    else if (const Utils::Result<void> written = writePending(); !written)
+        Q_EMIT failed(written.reason());
 }
 
 QString Project::relative(const QString &path) const

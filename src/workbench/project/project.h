@@ -74,7 +74,7 @@ private:
 
     Project(const QString &path, const ProjectFile &content);
     void change(const Operation &operation);
-    bool writePending(QString *error);
+    Utils::Result<void> writePending();
     void show(const ProjectFile &content);
     void watch();
     void onFileChanged();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utils/result.h>
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
@@ -24,12 +26,11 @@ struct ProjectFile {
     // The same content gives the same bytes.
     QByteArray toText() const;
 
-    // On failure the result is false and `*error` a sentence with the path and the reason; a text
-    // that is no JSON is reported with its line and column.
-    static bool fromText(const QByteArray &text, const QString &path, ProjectFile *file,
-                         QString *error);
-    static bool read(const QString &path, ProjectFile *file, QString *error);
-    bool write(const QString &path, QString *error) const;
+    // A failure is a sentence with the path and the reason; a text that is no JSON is reported with
+    // its line and column.
+    static Utils::Result<ProjectFile> fromText(const QByteArray &text, const QString &path);
+    static Utils::Result<ProjectFile> read(const QString &path);
+    Utils::Result<void> write(const QString &path) const;
 
     bool operator==(const ProjectFile &other) const
     {

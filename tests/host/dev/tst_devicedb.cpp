@@ -44,6 +44,15 @@ QByteArray entry(const QByteArray &device, const QByteArray &version)
            "\", \"packages\": [\"QFN88P\", \"PBGA256\"], \"speeds\": [\"C8/I7\"]}";
 }
 
+// Empty if it cannot be read; the reason is in `*error` then.
+DeviceDb databaseIn(const QString &folder, QString *error = nullptr)
+{
+    const Utils::Result<DeviceDb> read = DeviceDb::fromFolder(folder);
+    if (!read && error)
+        *error = read.reason();
+    return read ? *read : DeviceDb();
+}
+
 QSet<QString> packagesOf(const QString &device)
 {
     ChipFilter filter;
@@ -274,10 +283,10 @@ private Q_SLOTS:
         QFETCH(int, count);
         const QTemporaryDir dir;
         QString error;
-        const DeviceDb db = DeviceDb::fromFolder(
-            folderWith(dir, series(entry("TV9K-1A", "A") + ',' + entry("TV9K-1B", "B") + ',' +
-                                   entry("TV9KR-2", ""))),
-            &error);
+        const DeviceDb db =
+            databaseIn(folderWith(dir, series(entry("TV9K-1A", "A") + ',' + entry("TV9K-1B", "B") +
+                                              ',' + entry("TV9KR-2", ""))),
+                       &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QCOMPARE(db.filterDevice(filter).size(), count);
         QVERIFY(DeviceDb().filterDevice(filter).isEmpty());
@@ -306,7 +315,7 @@ private Q_SLOTS:
                                    series(entry("TV9KR-2", ""))));
         QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("notes.txt")), "no JSON"));
         QString error = QStringLiteral("untouched");
-        const DeviceDb db = DeviceDb::fromFolder(folder, &error);
+        const DeviceDb db = databaseIn(folder, &error);
         QCOMPARE(error, QStringLiteral("untouched"));
         QStringList ids;
         const QList<DeviceArg> devices = db.devices();
@@ -330,7 +339,7 @@ private Q_SLOTS:
                    "\"resources\": {\"lut4\": 7, \"blockRam\": 0}},"
                    "{\"device\": \"TV9-2\", \"packages\": [\"QFN88P\"], \"speeds\": [\"C8\"]}"));
         QString error;
-        const DeviceDb db = DeviceDb::fromFolder(folder.path(), &error);
+        const DeviceDb db = databaseIn(folder.path(), &error);
         QCOMPARE(error, QString());
         const DEV::DeviceResources some = db.devices().at(0).resources();
         QCOMPARE(some.lut4, 7);
@@ -350,8 +359,10 @@ private Q_SLOTS:
         row("empty", "", "");
         row("cut", series(entry("TV9K-1A", "A")).chopped(3), "");
         row("no JSON", "devices: none", "");
-        row("a mistake further down", "{\n\"devices\":\n[}", "line 3: a value is missing here");
-        row("nested without end", QByteArray(100000, '['), "line 1: the text is nested too deeply");
+        row("a mistake further down", "{\n\"devices\":\n[}",
+            "line 3, column 2: a value is missing here");
+        row("nested without end", QByteArray(100000, '['),
+            "line 1, column 1025: the text is nested too deeply");
         // 317 packages in 317 speed grades.
         QByteArray many = "\"QFN88P\"";
         for (int i = 1; i < 317; ++i)
@@ -406,10 +417,98 @@ private Q_SLOTS:
         QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("a good one.json")),
                                    series(entry("TV9KR-2", ""))));
         QString error;
-        QVERIFY(DeviceDb::fromFolder(folder, &error).isEmpty());
+        QVERIFY(databaseIn(folder, &error).isEmpty());
         QVERIFY2(error.contains(dir.filePath(QStringLiteral("tv9.json"))), qPrintable(error));
         QVERIFY2(error.contains(reason), qPrintable(error));
-        QVERIFY(DeviceDb::fromFolder(folder).isEmpty());
+        QVERIFY(databaseIn(folder).isEmpty());
+    }
+
+    void tellsWhereAMistakeIs_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("message"); // behind the path
+        const auto row = [](const char *name, const QByteArray &text, const char *message) {
+            QTest::newRow(name) << text << QString::fromLatin1(message);
+        };
+        // A file with one entry, whose members begin in line 4.
+        const auto device = [](const QByteArray &lines) -> QByteArray {
+            return "{\n  \"devices\": [\n    {\n" + lines + "\n    }\n  ]\n}\n";
+        };
+        const QByteArray good = "      \"device\": \"TV9-1\",\n"
+                                "      \"packages\": [\"QFN88P\"],\n"
+                                "      \"speeds\": [\"C8\"]";
+        row("a comma is missing", device("      \"device\" \"TV9-1\""),
+            "line 4, column 16: a colon is missing here");
+        row("no UTF-8", device("      \"device\": \"\xff\""), "line 4, column 18: ");
+        row("no list", "{\n  \"devices\": \"all\"\n}", "line 2, column 14: it lists no devices");
+        row("nothing", " {}", "line 1, column 2: it lists no devices");
+        row("an entry that is no object", "{\"devices\": [\n 7]}",
+            "line 2, column 2: an entry lacks its device name, packages or speeds");
+        row("no name", device("      \"packages\": [\"QFN88P\"]"),
+            "line 3, column 5: an entry lacks its device name, packages or speeds");
+        row("a name that is a number", device("      \"device\": 9"),
+            "line 4, column 17: an entry lacks its device name, packages or speeds");
+        row("speeds that are a text",
+            device("      \"device\": \"TV9-1\",\n      \"packages\": [\"QFN88P\"],\n"
+                   "      \"speeds\": \"C8\""),
+            "line 6, column 17: an entry lacks its device name, packages or speeds");
+        row("the second entry",
+            "{\"devices\": [\n" + entry("TV9K-1A", "A") + ",\n" + entry("TV9K-1A", "B") + "]}",
+            "line 3, column 12: the device name \"TV9K-1A\" does not fit its version");
+        row("a member whose name is written with escapes",
+            device("      \"\\u0064evice\": \"TV9\",\n      \"packages\": [\"QFN88P\"],\n"
+                   "      \"speeds\": [\"C8\"]"),
+            "line 4, column 22: the device name \"TV9\" is not a series, a hyphen and a size");
+        row("the later of two members of a name",
+            device("      \"device\": \"TV9-1\", \"packages\": [\"QFN88P\"],\n"
+                   "      \"speeds\": [\"C8\"],\n      \"packages\": [\"QFN88P\", \"X9\"]"),
+            "line 6, column 30: the package \"X9\" has no code");
+        row("a speed that is no text",
+            device("      \"device\": \"TV9-1\", \"packages\": [\"QFN88P\"],\n"
+                   "      \"speeds\": [\"C8\", 7]"),
+            "line 5, column 24: a speed grade of \"TV9-1\" is no text");
+        row("resources that are a list", device(good + ",\n      \"resources\": [1]"),
+            "line 7, column 20: \"TV9-1\": the resources are no object with counts");
+        row("a negative resource",
+            device(good + ",\n      \"resources\": {\"lut4\": 5,\n        \"carry\": -1}"),
+            "line 8, column 18: \"TV9-1\": the number of \"carry\" is no count");
+        row("an unknown resource behind characters of two bytes",
+            device(good + ",\n      \"resources\": {\"\xc3\xbc\": 5}"),
+            "line 7, column 26: \"TV9-1\": there is no resource \"\xfc\"");
+        row("the same device twice",
+            "{\"devices\": [\n" + entry("TV9-1", "") + ",\n" + entry("TV9-1", "") + "]}",
+            "line 3, column 12: the id \"TV9-1-QFN88P-C8/I7\" occurs twice");
+    }
+
+    void tellsWhereAMistakeIs()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, message);
+        const QTemporaryDir dir;
+        QString error;
+        QVERIFY(databaseIn(folderWith(dir, text), &error).isEmpty());
+        const QString start = QLatin1String("Device file \"") +
+                              dir.filePath(QStringLiteral("tv9.json")) + QLatin1String("\": ");
+        QVERIFY2(error.startsWith(start + message), qPrintable(error));
+        QVERIFY2(message.endsWith(u' ') || error == QString(start + message + u'.'),
+                 qPrintable(error));
+    }
+
+    void tellsWhereAMistakeInThePackagesFileIs()
+    {
+        const QTemporaryDir dir;
+        const QString folder = folderWith(dir, series(entry("TV9-1", "")));
+        QString error;
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("packages.json")),
+                                   "{\n\"packageCodes\": {\n\"QFN88P\": \"QN88P\",\n\"X9\": 9}}"));
+        QVERIFY(databaseIn(folder, &error).isEmpty());
+        QVERIFY2(error.contains(QLatin1String("line 4, column 7: the package \"X9\" has no code.")),
+                 qPrintable(error));
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("packages.json")),
+                                   "{\n\"packageCodes\": []}"));
+        QVERIFY(databaseIn(folder, &error).isEmpty());
+        QVERIFY2(error.contains(QLatin1String("line 2, column 17: it lists no package codes.")),
+                 qPrintable(error));
     }
 
     void namesABrokenPackagesFile_data()
@@ -432,7 +531,7 @@ private Q_SLOTS:
         const QString file = dir.filePath(QStringLiteral("packages.json"));
         QVERIFY(TestSupport::write(file, text));
         QString error;
-        QVERIFY(DeviceDb::fromFolder(folder, &error).isEmpty());
+        QVERIFY(databaseIn(folder, &error).isEmpty());
         QVERIFY2(error.contains(file), qPrintable(error));
     }
 
@@ -443,7 +542,7 @@ private Q_SLOTS:
         const QString file = dir.filePath(QStringLiteral("packages.json"));
         QVERIFY(QFile::remove(file));
         QString error;
-        QVERIFY(DeviceDb::fromFolder(folder, &error).isEmpty());
+        QVERIFY(databaseIn(folder, &error).isEmpty());
         QVERIFY2(error.contains(file), qPrintable(error));
     }
 
@@ -452,22 +551,21 @@ private Q_SLOTS:
         const QTemporaryDir dir;
         const QString missing = dir.filePath(QStringLiteral("missing \"%1\""));
         QString error;
-        QVERIFY(DeviceDb::fromFolder(missing, &error).isEmpty());
+        QVERIFY(databaseIn(missing, &error).isEmpty());
         QVERIFY2(error.contains(missing), qPrintable(error));
-        QVERIFY(DeviceDb::fromFolder(dir.path(), &error).isEmpty());
+        QVERIFY(databaseIn(dir.path(), &error).isEmpty());
         QVERIFY2(error.contains(dir.path()) && error.contains(QStringLiteral("no device file")),
                  qPrintable(error));
         QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("packages.json")), packages));
         error.clear();
-        QVERIFY(DeviceDb::fromFolder(dir.path(), &error).isEmpty());
+        QVERIFY(databaseIn(dir.path(), &error).isEmpty());
         QVERIFY2(error.contains(dir.path()) && error.contains(QStringLiteral("no device file")),
                  qPrintable(error));
         error.clear();
-        QVERIFY(
-            DeviceDb::fromFolder(dir.filePath(QStringLiteral("packages.json")), &error).isEmpty());
+        QVERIFY(databaseIn(dir.filePath(QStringLiteral("packages.json")), &error).isEmpty());
         QVERIFY(error.contains(QStringLiteral("packages.json")));
         error.clear();
-        QVERIFY(DeviceDb::fromFolder(QString(), &error).isEmpty());
+        QVERIFY(databaseIn(QString(), &error).isEmpty());
         QVERIFY(!error.isEmpty());
     }
 
@@ -497,7 +595,7 @@ private Q_SLOTS:
             const TestSupport::Unprivileged user;
             if (!dangling && !user.holds())
                 QSKIP("root cannot give up its rights here, and permissions do not bind it");
-            empty = DeviceDb::fromFolder(folder, &error).isEmpty();
+            empty = databaseIn(folder, &error).isEmpty();
         }
         QVERIFY(empty);
         QVERIFY2(error.contains(other), qPrintable(error));

@@ -5,7 +5,19 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using Utils::readDescriptor;
+namespace
+{
+
+// Empty if it cannot be read; the reason is in `*error` then.
+QVariantMap readDescriptor(const QString &path, QString *error = nullptr)
+{
+    const Utils::Result<QVariantMap> read = Utils::readDescriptor(path);
+    if (!read && error)
+        *error = read.reason();
+    return read ? *read : QVariantMap();
+}
+
+} // namespace
 
 class TestDescriptor : public QObject
 {

@@ -16,11 +16,26 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using Utils::checkIniText;
-using Utils::writeIniFile;
-
 namespace
 {
+
+bool told(const Utils::Result<void> &result, QString *error)
+{
+    if (!result && error)
+        *error = result.reason();
+    return bool(result);
+}
+
+bool checkIniText(const QByteArray &bytes, QString *error)
+{
+    return told(Utils::checkIniText(bytes), error);
+}
+
+bool writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
+                  const QVariantMap &values, QString *error)
+{
+    return told(Utils::writeIniFile(path, header, group, values), error);
+}
 
 int hexDigits(const QByteArray &text, int from, int most)
 {
@@ -316,12 +331,10 @@ private Q_SLOTS:
             else
                 qputenv("TMPDIR", before);
         });
-        QByteArray text;
-        QString error;
-        QVERIFY(Utils::iniText({}, QStringLiteral("Config"),
-                               {{QStringLiteral("a"), true}, {QStringLiteral("b"), 1}}, &text,
-                               &error));
-        QCOMPARE(text, QByteArray("[Config]\na=true\nb=1\n"));
+        const auto text = Utils::iniText({}, QStringLiteral("Config"),
+                                         {{QStringLiteral("a"), true}, {QStringLiteral("b"), 1}});
+        QVERIFY(text);
+        QCOMPARE(*text, QByteArray("[Config]\na=true\nb=1\n"));
     }
 
     // The seed is printed when the test fails; TARVO_TEST_SEED repeats it.
@@ -384,8 +397,9 @@ private Q_SLOTS:
                 for (auto it = values.begin(); it != values.end(); ++it)
                     settings.setValue(QLatin1String("Config/") + it.key(), it.value());
             }
-            QByteArray bytes;
-            QVERIFY(Utils::iniText(header, QStringLiteral("Config"), values, &bytes, nullptr));
+            const auto made = Utils::iniText(header, QStringLiteral("Config"), values);
+            QVERIFY(made);
+            const QByteArray bytes = *made;
             QVERIFY2(bytes == TestSupport::contentsOf(file),
                      QByteArray("TARVO_TEST_SEED=" + QByteArray::number(seed) + '\n' + bytes +
                                 "\n instead of \n" + TestSupport::contentsOf(file))

@@ -149,9 +149,8 @@ void tst_GenerateProperties::storingAndReadingChangesNothing()
         const OptionMap options = Arbitrary::options();
         const DEV::DeviceArg device = *Arbitrary::device();
         const QVariantMap ipInfo{{InfoKey::id, QStringLiteral("an.id")}};
-        QString error;
-        RC_ASSERT(Utils::writeIniFile(path, IpcFile::header(device.id(), ipInfo),
-                                      IpcFile::configGroup, options, &error));
+        RC_ASSERT(bool(Utils::writeIniFile(path, IpcFile::header(device.id(), ipInfo),
+                                           IpcFile::configGroup, options)));
         // One process gives back cached values, so read the bytes through a path that was never
         // seen before.
         static int serial = 0;

@@ -67,18 +67,21 @@ private:
 void tst_RegisterMap::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
-    QString error;
     const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
-    QVERIFY2(readRegisterMap(data, &m_all, &error), qPrintable(error));
-    QVERIFY2(readOtherInterrupts(data, &m_others, &error), qPrintable(error));
+    const auto all = readRegisterMap(data);
+    QVERIFY2(all, qPrintable(all.reason()));
+    m_all = *all;
+    const auto others = readOtherInterrupts(data);
+    QVERIFY2(others, qPrintable(others.reason()));
+    m_others = *others;
 }
 
 void tst_RegisterMap::readsWhatTheFileSays()
 {
     write(sound);
-    QVector<Peripheral> peripherals;
-    QString error;
-    QVERIFY2(readRegisterMap(m_dir->path(), &peripherals, &error), qPrintable(error));
+    const auto read = readRegisterMap(m_dir->path());
+    QVERIFY2(read, qPrintable(read.reason()));
+    const QVector<Peripheral> peripherals = *read;
     QCOMPARE(peripherals.size(), 1);
     const Peripheral &lamp = peripherals.first();
     QCOMPARE(lamp.name, QStringLiteral("LAMP"));
@@ -144,18 +147,18 @@ void tst_RegisterMap::namesFileAndPlaceOfAMistake()
     QByteArray json(sound);
     QVERIFY(json.contains(from));
     write(json.replace(from, to));
-    QVector<Peripheral> peripherals;
-    QString error;
-    QVERIFY(!readRegisterMap(m_dir->path(), &peripherals, &error));
+    const auto read = readRegisterMap(m_dir->path());
+    QVERIFY(!read);
+    const QString error = read.reason();
     QVERIFY2(error.contains(message), qPrintable(error));
     QVERIFY2(error.contains(QLatin1String("lamp.json")), qPrintable(error));
 }
 
 void tst_RegisterMap::aFolderWithoutDescriptionsIsAnError()
 {
-    QVector<Peripheral> peripherals;
-    QString error;
-    QVERIFY(!readRegisterMap(m_dir->path(), &peripherals, &error));
+    const auto read = readRegisterMap(m_dir->path());
+    QVERIFY(!read);
+    const QString error = read.reason();
     QVERIFY2(error.contains(m_dir->path()), qPrintable(error));
 }
 
@@ -298,9 +301,9 @@ void tst_RegisterMap::namesMistakesInTheOtherInterrupts()
     QFETCH(QByteArray, json);
     QFETCH(QString, message);
     QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("interrupts.json")), json));
-    QVector<InterruptSource> sources;
-    QString error;
-    QVERIFY(!readOtherInterrupts(m_dir->path(), &sources, &error));
+    const auto read = readOtherInterrupts(m_dir->path());
+    QVERIFY(!read);
+    const QString error = read.reason();
     QVERIFY2(error.contains(message) && error.contains(QStringLiteral("interrupts.json")),
              qPrintable(error));
 }

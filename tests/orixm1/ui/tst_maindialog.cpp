@@ -239,7 +239,7 @@ void tst_MainDialog::tellsAHostWhatOkWouldStore()
     QVERIFY(!stored.isEmpty());
     QVERIFY(Utils::writeIniFile(
         file + QStringLiteral(".told"), told.value(QStringLiteral("header")).toMap(),
-        QStringLiteral("Config"), told.value(QStringLiteral("options")).toMap(), nullptr));
+        QStringLiteral("Config"), told.value(QStringLiteral("options")).toMap()));
     QCOMPARE(TestSupport::contentsOf(file + QStringLiteral(".told")), stored);
 }
 

@@ -121,11 +121,9 @@ QString ProjectFlow::stageOf(const QString &line)
 
 QStringList ProjectFlow::furtherLog() const
 {
-    QByteArray text;
-    if (!Utils::readBoundedFile(m_scratch.absolute(resultFile(".srr")), Reading::Limits::toolLog,
-                                &text, nullptr))
-        return {};
-    return QString::fromUtf8(text).split(u'\n');
+    const Utils::Result<QByteArray> text =
+        Utils::readBoundedFile(m_scratch.absolute(resultFile(".srr")), Reading::Limits::toolLog);
+    return text ? QString::fromUtf8(*text).split(u'\n') : QStringList();
 }
 
 QString ProjectFlow::addOutput(const char *suffix, Results *results) const
