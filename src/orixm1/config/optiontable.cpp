@@ -159,11 +159,12 @@ QVector<Option> buildTable()
 
     for (const Block &block : generatedBlocks()) {
         for (const SwitchRow &row : block.switches) {
-            table.append(boolOption(row.key(), false, row.description()));
+            Option option = boolOption(row.key(), false, row.description());
             if (row.byDefault) {
-                table.last().dialogDefault = row.byDefault;
-                table.last().neededSwitch = block.switches[0].key();
+                option.dialogDefault = row.byDefault;
+                option.neededSwitch = block.switches[0].key();
             }
+            table.append(option);
             table += furtherOptions(row.name);
         }
     }
