@@ -325,12 +325,11 @@ void tst_RegisterMap::takesEveryInputOfTheProcessor()
     QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("interrupts.json")),
                                R"({"interrupts": [{"name": "A", "option": "Enable CAN", )" + place +
                                    "}]}"));
-    QVector<InterruptSource> sources;
-    QString error;
-    QVERIFY2(readOtherInterrupts(m_dir->path(), &sources, &error), qPrintable(error));
-    QCOMPARE(sources.size(), 1);
-    QTEST(sources.first().number, "number");
-    QTEST(sources.first().count, "count");
+    const auto sources = readOtherInterrupts(m_dir->path());
+    QVERIFY2(sources, qPrintable(sources.reason()));
+    QCOMPARE(sources->size(), 1);
+    QTEST(sources->first().number, "number");
+    QTEST(sources->first().count, "count");
 }
 
 void tst_RegisterMap::saysHowManyInputsAreEnough_data()
