@@ -1,0 +1,111 @@
+#include "systemmap.h"
+
+#include "config/latin1literal.h"
+#include "config/optionkeys.h"
+#include "config/optionvalue.h"
+
+#include <algorithm>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+Processor processorOf(const OptionMap &options)
+{
+    const auto on = [&options](QLatin1String key) { return isOn(options, key); };
+    Processor processor;
+    processor.interruptInputs = numberOf(options, Key::numberOfInterrupts);
+    processor.hasOsExtension = on(Key::osExtension);
+    processor.hasSmallMultiplier = on(Key::smallMultiplier);
+    processor.isBigEndian = on(Key::bigEndian);
+    processor.hasDebug = on(Key::enableDebug);
+    const QString port = textOf(options, Key::debugPortSelect);
+    const bool both = port == Value::jtagAndSerialWire;
+    processor.hasJtag = processor.hasDebug && (both || port == Value::jtag);
+    processor.hasSerialWire = processor.hasDebug && (both || port == Value::serialWire);
+    processor.hasSmallDebug = processor.hasDebug && on(Key::smallDebug);
+    return processor;
+}
+
+QVector<Region> registerRegions(const QVector<Peripheral> &peripherals)
+{
+    QVector<Region> regions;
+    for (const Peripheral &peripheral : peripherals) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            Region region;
+            region.name = instance.name;
+            region.base = instance.base;
+            region.last = instance.base + (peripheral.span - 1);
+            region.kind = RegionKind::Registers;
+            region.bus = peripheral.bus;
+            region.option = instance.option;
+            region.text = peripheral.text;
+            regions.append(region);
+        }
+    }
+    return regions;
+}
+
+// `enabled` are those of `peripherals` that the configuration has.
+QVector<InterruptLine> interruptLines(const QVector<Peripheral> &peripherals,
+                                      const QVector<Peripheral> &enabled,
+                                      const QVector<InterruptSource> &others,
+                                      const OptionMap &options)
+{
+    QVector<InterruptLine> lines;
+    for (const Peripheral &peripheral : enabled) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            if (instance.interrupt == "NMI"_l1)
+                lines.append({instance.name, InterruptLine::nonMaskable, instance.name, QString()});
+        }
+    }
+    const QVector<InterruptSource> sources =
+        enabledInterrupts(interruptSources(peripherals, others), options);
+    for (const InterruptSource &source : sources) {
+        for (int i = 0; i < source.count; ++i) {
+            InterruptLine line;
+            line.name = source.count > 1 ? source.name + QString::number(i) : source.name;
+            line.number = source.number + i;
+            line.source = source.name;
+            line.lost = maskedInterrupt({line.name, line.number, 1, source.option}, options);
+            lines.append(line);
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,
+                    const QVector<Peripheral> &peripherals,
+                    const QVector<InterruptSource> &otherInterrupts)
+{
+    SystemMap map;
+    map.device = device;
+    map.processor = processorOf(options);
+    map.peripherals = enabledPeripherals(peripherals, options);
+    map.regions = fixedRegions(options, device.device()) + registerRegions(map.peripherals);
+    std::sort(map.regions.begin(), map.regions.end(),
+              [](const Region &a, const Region &b) { return a.base < b.base; });
+    map.interrupts = interruptLines(peripherals, map.peripherals, otherInterrupts, options);
+    return map;
+}
+
+const Region *findRegion(const SystemMap &map, const QString &name)
+{
+    const auto found = std::find_if(map.regions.begin(), map.regions.end(),
+                                    [&name](const Region &region) { return region.name == name; });
+    return found == map.regions.end() ? nullptr : &*found;
+}
+
+const Region *regionAt(const SystemMap &map, quint32 address)
+{
+    const auto found =
+        std::find_if(map.regions.begin(), map.regions.end(),
+                     [address](const Region &region) { return region.contains(address); });
+    return found == map.regions.end() ? nullptr : &*found;
+}
+
+} // namespace TARVOORIXM1

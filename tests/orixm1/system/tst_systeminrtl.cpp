@@ -1,0 +1,483 @@
+// Holds the system map and the RTL against each other: for random configurations, scripts made from
+// the map try the first and the last word of each region and the words beside it, each register
+// after reset, and each interrupt.
+//
+// Whatever is no part of the RTL answers with a word of its own: black boxes are given a body,
+// extension ports are connected to constants. So a word tells who answered.
+
+#include "testsupport.h"
+
+#include <config/descriptor.h>
+#include <config/optionkeys.h>
+#include <config/optiontable.h>
+#include <config/optionvalue.h>
+#include <dev/devicedb.h>
+#include <generate/defines.h>
+#include <generate/sourcefiles.h>
+#include <registers/registerdocs.h>
+#include <rules/check.h>
+#include <rules/corepins.h>
+#include <rules/devicerules.h>
+#include <rules/pins.h>
+#include <system/systemmap.h>
+#include <utils/descriptor.h>
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstdio>
+#include <random>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+using Random = std::mt19937;
+
+int below(int limit, Random &random)
+{
+    return int(random() % unsigned(limit));
+}
+
+// What the device can have; memories of at most 32 KB, since a simulated one is cleared word by
+// word.
+OptionMap anyOptions(const DEV::DeviceArg &device, Random &random)
+{
+    OptionMap map;
+    const int density = 1 + below(4, random);
+    for (const Option &option : optionTable()) {
+        if (!option.isOption || below(5, random) > density)
+            continue;
+        if (option.type == OptionType::Bool)
+            map.insert(option.key, below(4, random) < density);
+        else if (!option.choices.isEmpty())
+            map.insert(option.key, option.choices.at(below(option.choices.size(), random)));
+    }
+    for (const RestrictedBlock &block : restrictedBlocks()) {
+        if (!block.isAvailable(device))
+            map.insert(block.key, false);
+    }
+    if (!map.contains(Key::canBufferDepth))
+        map.insert(Key::canBufferDepth, findOption(Key::canBufferDepth)->choices.first());
+    map.insert(Key::itcmSize, below(6, random));
+    map.insert(Key::dtcmSize, below(6, random));
+    map.remove(Key::initializeItcm);
+    return map;
+}
+
+QString hex(quint32 value)
+{
+    return QStringLiteral("0x%1").arg(value, 8, 16, QLatin1Char('0'));
+}
+
+QString verilogWord(quint32 value)
+{
+    return QStringLiteral("32'h%1").arg(value, 8, 16, QLatin1Char('0'));
+}
+
+// The word by which a region that is not in the RTL is known.
+quint32 wordOf(const Region &region)
+{
+    return 0xC0DE0000u | (qHash(region.name, 0) & 0xFFFFu);
+}
+
+// By the name that the source file of a black box begins with; the value is the region that it
+// serves.
+const QMap<QString, QString> &blackBoxFiles()
+{
+    static const QMap<QString, QString> files = {
+        {QStringLiteral("can_core.v"), QStringLiteral("CAN")},
+        {QStringLiteral("triple_speed_mac.v"), QStringLiteral("ETH")},
+        {QStringLiteral("trng_core.v"), QStringLiteral("TRNG")},
+        {QStringLiteral("psram_interface.v"), QStringLiteral("PSRAM")},
+        {QStringLiteral("ddr3_controller.v"), QStringLiteral("DDR3")}};
+    return files;
+}
+
+struct Pin {
+    QString name;
+    QString range; // "[31:0]", or empty
+    Utils::PinFigure::Direction direction = Utils::PinFigure::Input;
+};
+
+QVector<Pin> pinsOf(const OptionMap &options, const QString &device)
+{
+    QList<Utils::PinFigure> figures = corePins(coreSwitches(options));
+    const QList<BlockPins> blocks = peripheralPins(options, device);
+    for (const BlockPins &block : blocks)
+        figures += block.pins;
+    QVector<Pin> pins;
+    for (const Utils::PinFigure &figure : qAsConst(figures)) {
+        const QString label = figure.name().trimmed();
+        const int bracket = label.indexOf(u'[');
+        Pin pin;
+        pin.name = bracket < 0 ? label : label.left(bracket);
+        pin.range = bracket < 0 ? QString() : label.mid(bracket);
+        pin.direction = Utils::PinFigure::Direction(figure.direction());
+        pins.append(pin);
+    }
+    return pins;
+}
+
+// The signal of the RTL that carries an interrupt, as its block drives it.
+QString requestOf(const InterruptLine &line)
+{
+    if (line.number == InterruptLine::nonMaskable)
+        return QStringLiteral("dut.u_wdog.nmi");
+    if (line.source == QLatin1String("EXTINT"))
+        return QStringLiteral("p_EXTINT[%1]").arg(line.name.rightRef(1));
+    const QString block =
+        line.source == QLatin1String("ETH") ? QStringLiteral("ethernet") : line.source.toLower();
+    return QStringLiteral("dut.u_%1.irq").arg(block);
+}
+
+class Bench
+{
+public:
+    Bench(const SystemMap &map, const QVector<Pin> &pins)
+        : m_map(map)
+        , m_pins(pins)
+    {
+    }
+
+    QString verilog() const
+    {
+        QString text = QStringLiteral("module tb;\n    reg clk = 1'b0;\n    always #5 clk = ~clk;\n"
+                                      "    reg rstn = 1'b0;\n    initial #42 rstn = 1'b1;\n"
+                                      "    integer failures = 0;\n");
+        QStringList connections;
+        for (const Pin &pin : m_pins) {
+            if (pin.name == QLatin1String("HCLK") || pin.name == QLatin1String("hwRstn"))
+                continue;
+            if (pin.direction == Utils::PinFigure::Output)
+                continue;
+            text += QStringLiteral("    %1 %2 p_%3%4;\n")
+                        .arg(netType(pin), pin.range, pin.name, constantOf(pin));
+            connections.append(QStringLiteral(".%1(p_%1)").arg(pin.name));
+        }
+        text += QStringLiteral("    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(rstn)");
+        for (const QString &connection : qAsConst(connections))
+            text += QStringLiteral(",\n        ") + connection;
+        text += QStringLiteral(");\n    initial begin\n        wait (dut.u_core.done);\n");
+        for (const InterruptLine &line : m_map.interrupts)
+            text += interruptCheck(line);
+        text += QStringLiteral("        if (failures == 0) $display(\"INTERRUPTS OK\");\n"
+                               "        $finish;\n    end\nendmodule\n");
+        return text;
+    }
+
+    // For the model of the processor.
+    QString script() const
+    {
+        QString text;
+        for (const Region &region : m_map.regions)
+            text += accesses(region);
+        for (const Region &region : m_map.regions) {
+            if (region.base != 0 && !regionAt(m_map, region.base - 4))
+                text += QStringLiteral("error %1\n").arg(hex(region.base - 4));
+            if (region.last != 0xFFFFFFFF && !regionAt(m_map, region.last + 1))
+                text += QStringLiteral("error %1\n").arg(hex(region.last + 1));
+        }
+        // Nothing is there in any configuration.
+        for (const quint32 address : {0x4F000000u, 0x90000000u, 0xC0000000u, 0xDFFFFFFCu})
+            text += QStringLiteral("error %1\n").arg(hex(address));
+        // The places that other configurations have.
+        for (const Region &region : everyRegion()) {
+            if (!regionAt(m_map, region.base))
+                text += QStringLiteral("error %1\n").arg(hex(region.base));
+        }
+        return text;
+    }
+
+    void setEveryRegion(const QVector<Region> &regions) { m_everyRegion = regions; }
+
+private:
+    const QVector<Region> &everyRegion() const { return m_everyRegion; }
+
+    static QString netType(const Pin &pin)
+    {
+        static const QRegularExpression high(
+            QStringLiteral("RXD$|^SCL$|^SDA$|^JTAG_15$|^JTAG_3$|^SD_CHECKIN$|^MDIO$"));
+        if (pin.name == QLatin1String("EXTINT"))
+            return QStringLiteral("reg");
+        return high.match(pin.name).hasMatch() ? QStringLiteral("tri1") : QStringLiteral("tri0");
+    }
+
+    QString constantOf(const Pin &pin) const
+    {
+        if (pin.name == QLatin1String("EXTINT"))
+            return QStringLiteral(" = 4'd0");
+        for (const Region &region : m_map.regions) {
+            if (region.kind != RegionKind::ExtensionPort &&
+                region.kind != RegionKind::ExternalMemory)
+                continue;
+            if (pin.name == region.ports + QLatin1String("RDATA"))
+                return QStringLiteral(" = ") + verilogWord(wordOf(region));
+            if (pin.name == region.ports + QLatin1String("READYOUT") ||
+                pin.name == region.ports + QLatin1String("REDADY"))
+                return QStringLiteral(" = 1'b1");
+        }
+        return {};
+    }
+
+    QString interruptCheck(const InterruptLine &line) const
+    {
+        const QString request = requestOf(line);
+        const bool isPort = line.source == QLatin1String("EXTINT");
+        const bool isNmi = line.number == InterruptLine::nonMaskable;
+        const QString set =
+            isPort ? QStringLiteral("%1 = 1'b%2;") : QStringLiteral("force %1 = 1'b%2;");
+        const QString seen = isNmi ? QStringLiteral("dut.u_core.NMI")
+                                   : QStringLiteral("dut.u_core.IRQ[%1]").arg(line.number);
+        const QString others =
+            isNmi ? QStringLiteral("dut.u_core.IRQ !== 32'd0")
+                  : QStringLiteral("(dut.u_core.IRQ & ~(32'd1 << %1)) !== 32'd0").arg(line.number);
+        return QStringLiteral(
+                   "        %1\n        repeat (5) @(negedge clk);\n"
+                   "        if (%2 !== 1'b%3 || %4) begin failures = failures + 1; "
+                   "$display(\"interrupt %5: %b %b\", dut.u_core.NMI, dut.u_core.IRQ); end\n"
+                   "        %6\n        repeat (5) @(negedge clk);\n")
+            .arg(set.arg(request, QStringLiteral("1")), seen, line.lost.isEmpty() ? u"1" : u"0",
+                 others, line.name, set.arg(request, QStringLiteral("0")));
+    }
+
+    const Peripheral *peripheralAt(const Region &region) const
+    {
+        for (const Peripheral &peripheral : m_map.peripherals) {
+            for (const PeripheralInstance &instance : peripheral.instances) {
+                if (instance.name == region.name)
+                    return &peripheral;
+            }
+        }
+        return nullptr;
+    }
+
+    QString registersAfterReset(const Region &region) const
+    {
+        QString text;
+        const Peripheral *peripheral = peripheralAt(region);
+        if (!peripheral)
+            return QStringLiteral("no registers are described for %1\n").arg(region.name);
+        bool lastIsRegister = false;
+        for (const Register &entry : peripheral->registers) {
+            quint32 mask = ~0u;
+            for (const RegisterField &field : entry.fields) {
+                if (!field.hasReset)
+                    mask &= ~field.mask();
+            }
+            text +=
+                QStringLiteral("read %1 %2 %3\n")
+                    .arg(hex(region.base + entry.offset), hex(resetValue(entry) & mask), hex(mask));
+            lastIsRegister = lastIsRegister || region.base + entry.offset == region.last - 3;
+        }
+        if (!lastIsRegister)
+            text += QStringLiteral("read %1 0\n").arg(hex(region.last - 3));
+        return text;
+    }
+
+    QString accesses(const Region &region) const
+    {
+        const quint32 first = region.base;
+        const quint32 last = region.last - 3;
+        switch (region.kind) {
+        case RegionKind::TightlyCoupledMemory:
+            return QStringLiteral("write %1 0x%3\nwrite %2 0x%4\nread %1 0x%3\nread %2 0x%4\n")
+                .arg(hex(first), hex(last))
+                .arg(wordOf(region), 8, 16, QLatin1Char('0'))
+                .arg(~wordOf(region), 8, 16, QLatin1Char('0'));
+        case RegionKind::ExternalMemory:
+        case RegionKind::ExtensionPort:
+        case RegionKind::MemoryDevice:
+        case RegionKind::BlackBox:
+            return QStringLiteral("read %1 %3\nread %2 %3\n")
+                .arg(hex(first), hex(last), hex(wordOf(region)));
+        case RegionKind::ReadWindow:
+            return QStringLiteral("read %1 0\nread %2 0\n").arg(hex(first), hex(last));
+        case RegionKind::Registers:
+            return registersAfterReset(region);
+        }
+        return {};
+    }
+
+    const SystemMap &m_map;
+    const QVector<Pin> &m_pins;
+    QVector<Region> m_everyRegion;
+};
+
+// The declaration of a black box with a body that answers each access with `word`.
+QString withBody(QString text, quint32 word)
+{
+    QString body = QStringLiteral("\n    assign irq = 1'b0;\n");
+    if (!text.contains(QRegularExpression(QStringLiteral("output +wire +irq\\b"))))
+        body.clear();
+    if (text.contains(QLatin1String("HRDATA")))
+        body += QStringLiteral("    assign HRDATA = %1;\n    assign HREADYOUT = 1'b1;\n"
+                               "    assign HRESP = 1'b0;\n")
+                    .arg(verilogWord(word));
+    else
+        body += QStringLiteral("    assign PRDATA = %1;\n    assign PREADY = 1'b1;\n"
+                               "    assign PSLVERR = 1'b0;\n")
+                    .arg(verilogWord(word));
+    text.remove(QLatin1String("(* blackbox *)"));
+    return text.replace(QLatin1String("endmodule"), body + QLatin1String("endmodule"));
+}
+
+QString run(const QString &program, const QStringList &arguments, const QString &folder)
+{
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    if (!process.waitForFinished(120000))
+        return process.errorString();
+    return QString::fromUtf8(process.readAll());
+}
+
+} // namespace
+
+class tst_SystemInRtl : public QObject
+{
+    Q_OBJECT
+
+public:
+    tst_SystemInRtl(unsigned seed, int draws)
+        : m_seed(seed)
+        , m_draws(draws)
+    {
+    }
+
+private Q_SLOTS:
+    void initTestCase();
+    void mapIsWhatTheRtlDoes_data();
+    void mapIsWhatTheRtlDoes();
+
+private:
+    QStringList sources(const OptionMap &options, const SystemMap &map,
+                        const QString &folder) const;
+
+    const unsigned m_seed;
+    const int m_draws;
+    QString m_data = QStringLiteral(TARVO_IP_DATA_DIR);
+    QVariantMap m_ipInfo;
+    QVector<Peripheral> m_peripherals;
+    QVector<InterruptSource> m_others;
+    QList<DEV::DeviceArg> m_devices;
+    QVector<Region> m_everyRegion;
+};
+
+void tst_SystemInRtl::initTestCase()
+{
+    const auto ipInfo = Utils::readDescriptor(descriptorPath(m_data));
+    QVERIFY2(ipInfo, qPrintable(ipInfo.reason()));
+    m_ipInfo = *ipInfo;
+    addDataFolders(m_ipInfo, m_data);
+    auto peripherals = readRegisterMap(m_data);
+    QVERIFY2(peripherals, qPrintable(peripherals.reason()));
+    m_peripherals = *peripherals;
+    auto others = readOtherInterrupts(m_data);
+    QVERIFY2(others, qPrintable(others.reason()));
+    m_others = *others;
+    m_devices = DEV::DeviceDb::bundled().devices();
+    OptionMap everything;
+    for (const Option &option : optionTable()) {
+        if (option.isOption && option.type == OptionType::Bool)
+            everything.insert(option.key, true);
+    }
+    m_everyRegion = systemMap(everything, m_devices.first(), m_peripherals, m_others).regions;
+}
+
+void tst_SystemInRtl::mapIsWhatTheRtlDoes_data()
+{
+    QTest::addColumn<int>("draw");
+    for (int draw = 0; draw < m_draws; ++draw)
+        QTest::addRow("seed %u, configuration %d", m_seed, draw) << draw;
+}
+
+QStringList tst_SystemInRtl::sources(const OptionMap &options, const SystemMap &map,
+                                     const QString &folder) const
+{
+    QStringList list;
+    const QStringList all = buildSourceFiles(options, m_ipInfo, map.device.device(), folder);
+    for (const QString &source : all) {
+        const QString name = QFileInfo(source).fileName();
+        if (name == QLatin1String("cortex_m1_core.v"))
+            continue;
+        const Region *region = findRegion(map, blackBoxFiles().value(name));
+        if (!blackBoxFiles().contains(name)) {
+            list.append(source);
+            continue;
+        }
+        if (!region)
+            continue;
+        const QString made = folder + u'/' + name;
+        TestSupport::write(
+            made,
+            withBody(QString::fromUtf8(TestSupport::contentsOf(source)), wordOf(*region)).toUtf8());
+        list.append(made);
+    }
+    return list;
+}
+
+void tst_SystemInRtl::mapIsWhatTheRtlDoes()
+{
+    QFETCH(int, draw);
+    Random random(m_seed * 100003u + unsigned(draw));
+    const DEV::DeviceArg device = m_devices.at(below(m_devices.size(), random));
+    const OptionMap options = anyOptions(device, random);
+    const SystemMap map = systemMap(options, device, m_peripherals, m_others);
+    const QVector<Pin> pins = pinsOf(options, device.device());
+
+    const QTemporaryDir dir;
+    const QVector<IncludeFile> files = buildIncludeFiles(options, device);
+    for (const IncludeFile &file : files)
+        TestSupport::write(dir.filePath(file.name), file.lines.join(u'\n').toUtf8() + '\n');
+    Bench bench(map, pins);
+    bench.setEveryRegion(m_everyRegion);
+    TestSupport::write(dir.filePath(QStringLiteral("tb.v")), bench.verilog().toUtf8());
+    TestSupport::write(dir.filePath(QStringLiteral("play.txt")), bench.script().toUtf8());
+
+    const QString rtl =
+        m_ipInfo.value(isOn(options, Key::enableDebug) ? InfoKey::debug : InfoKey::noDebug)
+            .toString();
+    const QString compiled =
+        run(QStringLiteral("iverilog"),
+            QStringList{QStringLiteral("-g2012"), QStringLiteral("-s"), QStringLiteral("tb"),
+                        QStringLiteral("-I."), QStringLiteral("-I") + rtl, QStringLiteral("-o"),
+                        QStringLiteral("bench")} +
+                sources(options, map, dir.path()) +
+                QStringList{m_data + QLatin1String("/simulation/cortex_m1_core_bfm.v"),
+                            dir.filePath(QStringLiteral("tb.v"))},
+            dir.path());
+    const QString told =
+        run(QStringLiteral("vvp"), {QStringLiteral("-n"), QStringLiteral("bench")}, dir.path());
+    const bool passed = told.contains(QRegularExpression(QStringLiteral("^PASS"),
+                                                         QRegularExpression::MultilineOption)) &&
+                        told.contains(QLatin1String("INTERRUPTS OK"));
+    if (!passed) {
+        QString text = device.id();
+        for (auto it = options.begin(); it != options.end(); ++it)
+            text += QStringLiteral("\n    %1=%2").arg(it.key(), it.value().toString());
+        QFAIL(qPrintable(compiled + told + text + u'\n' + bench.script()));
+    }
+}
+
+int main(int argc, char *argv[])
+{
+    TestSupport::useUtf8();
+    const QCoreApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments();
+    const unsigned seed = arguments.value(1).toUInt();
+    const int draws = arguments.value(2).toInt();
+    if (seed == 0 || draws <= 0) {
+        std::fprintf(stderr, "usage: tst_systeminrtl SEED DRAWS\n");
+        return 2;
+    }
+    arguments.erase(arguments.begin() + 1, arguments.begin() + 3);
+    tst_SystemInRtl test(seed, draws);
+    return QTest::qExec(&test, arguments);
+}
+
+#include "tst_systeminrtl.moc"
