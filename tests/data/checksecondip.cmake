@@ -44,9 +44,9 @@ run(${CMAKE_COMMAND} --build ${build})
 run(${CMAKE_COMMAND} --install ${build} --prefix ${prefix})
 
 set(share ${prefix}/share/tarvo)
-expect(${share}/lamp lamp.ipspec help/lamp.html registers/lamp.json data/folder/lamp.v data/bright/lamp.v
+expect(${share}/lamp lamp.ipspec help/lamp.html help/lamp.html.in registers/lamp.json data/folder/lamp.v data/bright/lamp.v
     data/bright/bulb_bright.v data/bright/fan.v data/dim/lamp.v data/dim/bulb_dim.v data/dim/switches.v)
-foreach(name lamp.ipspec help/lamp.html registers/lamp.json)
+foreach(name lamp.ipspec help/lamp.html help/lamp.html.in registers/lamp.json)
     expect_same(${share}/lamp/${name} ${HERE}/lamp/${name})
 endforeach()
 foreach(name bright/lamp.v dim/lamp.v folder/lamp.v bright/bulb_bright.v bright/fan.v dim/bulb_dim.v)
@@ -57,6 +57,10 @@ file(READ ${share}/lamp/data/dim/switches.v switches)
 if(NOT switches STREQUAL "module switches (\n    input wire on, // from 0x10\n    input wire off // from 0x20, as well\n);\nendmodule\n")
     message(FATAL_ERROR "not as its rows say:\n${switches}")
 endif()
+
+foreach(name primitives.v primitives.vhd)
+    expect_same(${share}/primitives/${name} ${SOURCE}/src/host/synthesis/library/${name})
+endforeach()
 
 # Everything else is as without it.
 file(REMOVE_RECURSE ${share}/lamp)
@@ -70,7 +74,7 @@ endforeach()
 file(WRITE ${source}/data/lamp/rtl/sources.json "{ \"common\": [\"lamp.v\"], \"dim\": [\"bulb_dim.v\"] }\n")
 file(REMOVE ${source}/data/lamp/registers/lamp.json)
 run(${CMAKE_COMMAND} --build ${build})
-expect(${build}/share/tarvo/lamp lamp.ipspec help/lamp.html data/dim/lamp.v data/dim/bulb_dim.v)
+expect(${build}/share/tarvo/lamp lamp.ipspec help/lamp.html help/lamp.html.in data/dim/lamp.v data/dim/bulb_dim.v)
 file(REMOVE_RECURSE ${source}/data/lamp)
 run(${CMAKE_COMMAND} --build ${build})
 expect(${build}/share/tarvo/lamp)
