@@ -39,7 +39,7 @@ folders="config rules generate dialogs"
 # The folders of tests/orixm1 that state the rules of such a folder, the ones that tell soonest first.
 tests_of() {
     case $1 in
-    config) echo config rules generate dialogs ui ;;
+    config) echo config rules generate dialogs ui diagram ;;
     rules) echo rules generate dialogs ;;
     generate) echo generate rules ;;
     dialogs) echo dialogs ui ;;
