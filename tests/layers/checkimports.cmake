@@ -8,8 +8,8 @@ execute_process(COMMAND ${NM} --dynamic --undefined-only --demangle ${PLUGIN} OU
     RESULT_VARIABLE status)
 string(REPLACE ";" "," symbols "${symbols}")
 string(REGEX MATCHALL "[^\n]+" lines "${symbols}")
-# Qt and the system's libraries have versions.
-list(FILTER lines EXCLUDE REGEX "@")
+# Qt and the system's libraries have versions; what the sanitizers put in the place of theirs has none.
+list(FILTER lines EXCLUDE REGEX "@|operator (new|delete)")
 list(FILTER lines INCLUDE REGEX "::|\\(")
 list(LENGTH lines count)
 if(NOT status EQUAL 0 OR count LESS 40)
