@@ -68,6 +68,12 @@ inline QVector<Kind> kinds()
     return all;
 }
 
+// A path with a colon in front is absolute as well: Qt's name for what is built into a program.
+inline bool isAbsolutePath(const QString &path)
+{
+    return path.startsWith(u'/') || path.startsWith(u':');
+}
+
 inline bool isSmall(const QString &d)
 {
     return in(d, "TV1KL-5A/TV1KL-5B");
@@ -335,7 +341,7 @@ inline QStringList findings(const OptionMap &o, const DEV::DeviceArg &device,
             error(name, key("is empty, so that generation has no folder to name"));
         } else if (!QDir(absolute).exists()) {
             error(name, key("the folder \"") + absolute + key("\" does not exist"));
-        } else if (!absolute.startsWith(u'/')) {
+        } else if (!isAbsolutePath(absolute)) {
             warning(name, key("is not absolute"));
         } else if (known || has("ITCM_Size")) {
             int index =
@@ -434,7 +440,7 @@ inline QStringList findings(const OptionMap &o, const DEV::DeviceArg &device,
     if (initialises && instructionsInside) {
         safe("ITCM_Initialization_AbsolutePath", absolute);
         safe("ITCM_Initialization_Path",
-             path.startsWith(u'/') ? path : QFileInfo(createIn + u'/' + path).absoluteFilePath());
+             isAbsolutePath(path) ? path : QFileInfo(createIn + u'/' + path).absoluteFilePath());
     }
 
     // Absent keys that a dialog would fill in otherwise than generation reads them. Where a key or
