@@ -22,6 +22,29 @@ enum class RegisterAccess {
 // The name of an access in the files and in documents.
 QString accessName(RegisterAccess access);
 
+// What reading changes, beside what `Register::changes` says of writing.
+enum class ReadEffect {
+    None,
+    Clear,    // the field becomes 0
+    Set,      // the field becomes all ones
+    Modify,   // the field changes otherwise
+    External, // something outside of the field changes
+};
+
+// What writing does to a field that can be written.
+enum class WriteEffect {
+    Store,
+    OneToClear, // ones clear bits, here or in another register; zeros do nothing
+    OneToSet,   // ones set bits, here or in another register, or start something; zeros do nothing
+};
+
+// A value of a field that has a name of its own.
+struct FieldValue {
+    QString name; // an identifier, unique in the field
+    quint32 value = 0;
+    QString text;
+};
+
 struct RegisterField {
     QString name;
     int high = 0;
@@ -30,6 +53,9 @@ struct RegisterField {
     bool hasReset = true; // false: the value after reset depends on pins
     quint32 reset = 0;    // of the field alone, not shifted
     quint32 minimum = 0;  // smaller values are stored as this one
+    ReadEffect readEffect = ReadEffect::None;
+    WriteEffect writeEffect = WriteEffect::Store;
+    QVector<FieldValue> values; // by value; empty: every value is a number
     QString text;
 
     int width() const { return high - low + 1; }
@@ -47,6 +73,7 @@ struct Register {
 // A place where a peripheral stands in the subsystem.
 struct PeripheralInstance {
     QString name;
+    QString text;            // what it is for, a phrase
     quint32 base = 0;        // address
     QString interrupt;       // number of the processor's interrupt, "NMI", or empty
     QString maskedInterrupt; // why a configuration has no such interrupt although the block drives

@@ -76,20 +76,37 @@ QVector<InterruptLine> interruptLines(const QVector<Peripheral> &peripherals,
     return lines;
 }
 
+QVector<FirmwareFile> firmwareFor(const QVector<Peripheral> &enabled,
+                                  const QVector<FirmwareFile> &files)
+{
+    QVector<FirmwareFile> wanted;
+    for (const FirmwareFile &file : files) {
+        const bool serves =
+            std::any_of(enabled.begin(), enabled.end(), [&](const Peripheral &entry) {
+                return file.peripheral.isEmpty() || entry.name == file.peripheral;
+            });
+        if (serves)
+            wanted.append(file);
+    }
+    return wanted;
+}
+
 } // namespace
 
 SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,
-                    const QVector<Peripheral> &peripherals,
-                    const QVector<InterruptSource> &otherInterrupts)
+                    const SystemDescription &description)
 {
     SystemMap map;
     map.device = device;
     map.processor = processorOf(options);
-    map.peripherals = enabledPeripherals(peripherals, options);
+    map.options = options;
+    map.peripherals = enabledPeripherals(description.peripherals, options);
     map.regions = fixedRegions(options, device.device()) + registerRegions(map.peripherals);
     std::sort(map.regions.begin(), map.regions.end(),
               [](const Region &a, const Region &b) { return a.base < b.base; });
-    map.interrupts = interruptLines(peripherals, map.peripherals, otherInterrupts, options);
+    map.interrupts = interruptLines(description.peripherals, map.peripherals,
+                                    description.otherInterrupts, options);
+    map.firmware = firmwareFor(map.peripherals, description.firmware);
     return map;
 }
 

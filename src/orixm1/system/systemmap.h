@@ -1,8 +1,8 @@
 #pragma once
 
+#include "description.h"
+#include "ports.h"
 #include "regions.h"
-#include "registers/interrupts.h"
-#include "registers/registermap.h"
 
 #include <dev/devicearg.h>
 
@@ -38,17 +38,20 @@ struct InterruptLine {
 struct SystemMap {
     DEV::DeviceArg device;
     Processor processor;
+    OptionMap options;
     QVector<Region> regions;           // by address, not overlapping
     QVector<Peripheral> peripherals;   // with the instances that are on, by first instance
     QVector<InterruptLine> interrupts; // by number; the non-maskable one first, if it is there
+    QVector<Port> ports;               // of the top module, in its order
+    QVector<ExternalSource> clocks;
+    QVector<ExternalSource> resets;
+    QVector<BlackBox> blackBoxes;
+    QVector<FirmwareFile> firmware; // for the peripherals that are on, by name
 };
 
-// What `peripherals` and `otherInterrupts` say is that of the IP's data folder: see
-// readRegisterMap() and readOtherInterrupts(). Reads nothing and never fails: values that no option
-// may have are taken as generation takes them.
+// Reads nothing and never fails: values that no option may have are taken as generation takes them.
 SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,
-                    const QVector<Peripheral> &peripherals,
-                    const QVector<InterruptSource> &otherInterrupts);
+                    const SystemDescription &description);
 
 // The region with this name; null if the map has none.
 const Region *findRegion(const SystemMap &map, const QString &name);

@@ -362,8 +362,7 @@ private:
     const int m_draws;
     QString m_data = QStringLiteral(TARVO_IP_DATA_DIR);
     QVariantMap m_ipInfo;
-    QVector<Peripheral> m_peripherals;
-    QVector<InterruptSource> m_others;
+    SystemDescription m_description;
     QList<DEV::DeviceArg> m_devices;
     QVector<Region> m_everyRegion;
 };
@@ -374,19 +373,16 @@ void tst_SystemInRtl::initTestCase()
     QVERIFY2(ipInfo, qPrintable(ipInfo.reason()));
     m_ipInfo = *ipInfo;
     addDataFolders(m_ipInfo, m_data);
-    auto peripherals = readRegisterMap(m_data);
-    QVERIFY2(peripherals, qPrintable(peripherals.reason()));
-    m_peripherals = *peripherals;
-    auto others = readOtherInterrupts(m_data);
-    QVERIFY2(others, qPrintable(others.reason()));
-    m_others = *others;
+    auto description = readSystemDescription(m_data);
+    QVERIFY2(description, qPrintable(description.reason()));
+    m_description = *description;
     m_devices = DEV::DeviceDb::bundled().devices();
     OptionMap everything;
     for (const Option &option : optionTable()) {
         if (option.isOption && option.type == OptionType::Bool)
             everything.insert(option.key, true);
     }
-    m_everyRegion = systemMap(everything, m_devices.first(), m_peripherals, m_others).regions;
+    m_everyRegion = systemMap(everything, m_devices.first(), m_description).regions;
 }
 
 void tst_SystemInRtl::mapIsWhatTheRtlDoes_data()
@@ -427,7 +423,7 @@ void tst_SystemInRtl::mapIsWhatTheRtlDoes()
     Random random(m_seed * 100003u + unsigned(draw));
     const DEV::DeviceArg device = m_devices.at(below(m_devices.size(), random));
     const OptionMap options = anyOptions(device, random);
-    const SystemMap map = systemMap(options, device, m_peripherals, m_others);
+    const SystemMap map = systemMap(options, device, m_description);
     const QVector<Pin> pins = pinsOf(options, device.device());
 
     const QTemporaryDir dir;

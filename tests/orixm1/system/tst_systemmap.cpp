@@ -47,7 +47,7 @@ private:
         DEV::ChipFilter filter;
         filter.device = device;
         const QList<DEV::DeviceArg> devices = DEV::DeviceDb::bundled().filterDevice(filter);
-        return systemMap(options, devices.value(0), m_peripherals, m_others);
+        return systemMap(options, devices.value(0), m_description);
     }
     OptionMap everything() const
     {
@@ -59,20 +59,16 @@ private:
         return options;
     }
 
-    QVector<Peripheral> m_peripherals;
-    QVector<InterruptSource> m_others;
+    SystemDescription m_description;
 };
 
 void tst_SystemMap::initTestCase()
 {
     const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
-    auto peripherals = readRegisterMap(data);
-    QVERIFY2(peripherals, qPrintable(peripherals.reason()));
-    m_peripherals = *peripherals;
-    auto others = readOtherInterrupts(data);
-    QVERIFY2(others, qPrintable(others.reason()));
-    m_others = *others;
-    QVERIFY(!m_peripherals.isEmpty());
+    auto description = readSystemDescription(data);
+    QVERIFY2(description, qPrintable(description.reason()));
+    m_description = *description;
+    QVERIFY(!m_description.peripherals.isEmpty());
 }
 
 void tst_SystemMap::regionsOfConfigurations_data()

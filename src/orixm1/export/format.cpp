@@ -1,0 +1,35 @@
+#include "format.h"
+
+#include "config/latin1literal.h"
+#include "header.h"
+
+#include <algorithm>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+constexpr Format rows[] = {
+    {"header"_l1, "tarvo_orix_m1.h"_l1, "Device header"_l1,
+     "Addresses, registers and interrupt numbers for programs in C and C++."_l1, "C99, C++11"_l1,
+     "gcc, g++, clang, arm-none-eabi-gcc"_l1, headerFiles},
+};
+
+} // namespace
+
+Rows<Format> formats()
+{
+    return rows;
+}
+
+const Format *findFormat(const QString &name)
+{
+    const Rows<Format> all = formats();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [&name](const Format &format) { return format.name == name; });
+    return found == all.end() ? nullptr : found;
+}
+
+} // namespace TARVOORIXM1

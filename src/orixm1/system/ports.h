@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+
+namespace TARVOORIXM1
+{
+
+enum class PortDirection { Input, Output, Inout };
+
+enum class PortRole {
+    Clock,     // drives logic, or is driven for the logic at a bus port
+    Reset,     // likewise
+    BusSignal, // of an AHB-Lite or APB port that is led out
+    Interrupt,
+    Debug,
+    Status,     // tells something of the processor or of a block
+    Peripheral, // goes to or comes from what a block serves
+    Unused,     // there for its place in a connector; connected to nothing or driven constantly
+};
+
+// A port of the subsystem's top module.
+struct Port {
+    QString name;  // "UART0TXD", without the range
+    int left = -1; // bounds of a vector; -1: a single line
+    int right = -1;
+    PortDirection direction = PortDirection::Input;
+    PortRole role = PortRole::Peripheral;
+    QString block;  // title of what it belongs to: "UART", "Cortex-M1"
+    QString bus;    // name of the region whose bus it leads out: "AHB1", "EXTFLASH"
+    QString signal; // the bus's own name of the signal: "HADDR"; empty: none
+    bool isActiveLow = false;
+    bool needsPullUp = false; // outside of the device, or of the user's logic
+    QString clock;            // name of the clock's port that it belongs to; empty: asynchronous
+    QString text;             // a phrase; may be empty
+
+    bool isVector() const { return left >= 0; }
+    int width() const { return isVector() ? left - right + 1 : 1; } // lines
+};
+
+// A clock or a reset that comes from outside.
+struct ExternalSource {
+    QString port;
+    bool isActiveLow = false;
+    QString text; // what it serves and what holds for it, a phrase
+};
+
+// A licensed module that the netlist holds as a name with pins: its contents are added later, and
+// no figure of resources counts them.
+struct BlackBox {
+    QString module; // "CortexM1Core"
+    QString region; // name of the region that it answers; empty: none
+    QString text;   // a phrase
+};
+
+} // namespace TARVOORIXM1
