@@ -38,6 +38,16 @@ struct GenerateArguments {
     bool verbose = false;
 };
 
+struct FirmwareArguments {
+    QString image;
+    QString file;
+    QString outDir;   // empty: see the command's help
+    QString form;     // "elf", "hex", "bin"; empty: found from the image
+    quint32 base = 0; // address of the first byte of a binary image
+    bool initialise = false;
+    bool json = false;
+};
+
 // Each runs one command and returns the exit status; messages have been printed then.
 int runNew(Environment &environment, const NewArguments &arguments);
 int runRetarget(Environment &environment, const RetargetArguments &arguments);
@@ -46,6 +56,7 @@ int runCheck(Environment &environment, const QString &file, bool json);
 // An empty `outDir` means the file's folder.
 int runSources(Environment &environment, const QString &file, const QString &outDir, bool json);
 int runPins(Environment &environment, const QString &file, bool json);
+int runFirmware(Environment &environment, const FirmwareArguments &arguments);
 enum class RegistersForm { Table, Json, Markdown, CHeader };
 // An empty `file` means all peripherals.
 int runRegisters(Environment &environment, const QString &file, RegistersForm form);

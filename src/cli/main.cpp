@@ -188,6 +188,37 @@ int run(int argc, char *argv[])
         };
     });
 
+    CLI::App *firmwareCommand = app.add_subcommand(
+        "firmware", "Turn a program into the files that initialise the instruction memory");
+    std::string image;
+    std::string imageForm;
+    quint32 imageBase = 0;
+    bool initialise = false;
+    firmwareCommand->add_option("IMAGE", image, "Program: ELF, Intel HEX or binary")
+        ->required()
+        ->type_name("");
+    addFile(firmwareCommand);
+    firmwareCommand
+        ->add_option("--out", outDir,
+                     "Folder of itcm0 to itcm3 (default: the one that FILE initialises the memory "
+                     "from, else \"itcm\" beside FILE)")
+        ->type_name("DIR");
+    firmwareCommand->add_option("--format", imageForm, "elf, hex or bin (default: found out)")
+        ->type_name("FORMAT");
+    firmwareCommand
+        ->add_option("--base", imageBase,
+                     "Address of the first byte of a binary image (default: 0)")
+        ->type_name("ADDRESS");
+    firmwareCommand->add_flag("--initialize", initialise,
+                              "Set the \"Initialize ITCM\" options of FILE to these files");
+    addJson(firmwareCommand);
+    firmwareCommand->callback([&] {
+        command = [&] {
+            return Cli::runFirmware(environment, {text(image), text(file), text(outDir),
+                                                  text(imageForm), imageBase, initialise, json});
+        };
+    });
+
     CLI::App *optionsCommand =
         app.add_subcommand("options", "List all option keys with type, default and domain");
     addJson(optionsCommand);
@@ -216,7 +247,7 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    for (const std::string *path : {&file, &outDir, &dataFolder, &deviceFolder}) {
+    for (const std::string *path : {&file, &image, &outDir, &dataFolder, &deviceFolder}) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();
     }

@@ -1,0 +1,186 @@
+#include "commands.h"
+
+#include "environment.h"
+#include "ipcdocument.h"
+#include "output.h"
+
+#include <config/optionkeys.h>
+#include <config/optionvalue.h>
+#include <firmware/itcmfiles.h>
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+#include <rules/itcmpath.h>
+#include <utils/filereplacement.h>
+#include <utils/fileutils.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <memory>
+#include <vector>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+QString quoted(const QString &path)
+{
+    return u'"' + path + u'"';
+}
+
+// Where the files go: where the user says, else where the configuration looks for them already,
+// else beside it.
+QString folderFor(const IpcDocument &document, const QString &outDir)
+{
+    if (!outDir.isEmpty())
+        return QDir::cleanPath(QFileInfo(outDir).absoluteFilePath());
+    const QString path = textOf(document.options, Key::itcmInitializationPath);
+    if (isOn(document.options, Key::initializeItcm) && !path.isEmpty())
+        return QDir::cleanPath(absoluteItcmPath(path, document.folder()));
+    return document.folder() + QLatin1String("/itcm");
+}
+
+// The four files, all or none.
+class Placement
+{
+public:
+    Utils::Result<void> place(const ItcmFiles &files, const QString &folder)
+    {
+        QString error;
+        if (!Utils::FileUtils::makePath(folder, &error))
+            return Utils::Failure{error};
+        for (int lane = 0; lane < ItcmFiles::count; ++lane) {
+            m_paths.append(folder + u'/' + ItcmFiles::fileName(lane));
+            m_files.push_back(std::make_unique<Utils::FileReplacement>(m_paths.last()));
+            if (!m_files.back()->prepare(files.texts[size_t(lane)], &error))
+                return Utils::Failure{error};
+        }
+        for (; m_placed < m_files.size(); ++m_placed) {
+            if (!m_files[m_placed]->place(&error)) {
+                revert();
+                return Utils::Failure{error};
+            }
+        }
+        return {};
+    }
+    void revert()
+    {
+        while (m_placed > 0)
+            m_files[--m_placed]->revert();
+    }
+    const QStringList &paths() const { return m_paths; }
+
+private:
+    std::vector<std::unique_ptr<Utils::FileReplacement>> m_files;
+    QStringList m_paths;
+    size_t m_placed = 0;
+};
+
+Utils::Result<FirmwareImage> imageFrom(const FirmwareArguments &arguments)
+{
+    const QString path = QFileInfo(arguments.image).absoluteFilePath();
+    QByteArray bytes;
+    QString reason;
+    if (!Reading::readPlainFile(path, Reading::Limits::firmwareImage, &bytes, &reason))
+        return Utils::Failure{quoted(path) + QLatin1String(" cannot be read: ") + reason + u'.'};
+    std::optional<ImageForm> form;
+    if (!arguments.form.isEmpty())
+        form = imageFormNamed(arguments.form);
+    Utils::Result<FirmwareImage> image = readImage(bytes, form, arguments.base);
+    if (!image)
+        return Utils::Failure{quoted(path) + QLatin1String(" cannot be used: ") + image.reason() +
+                              u'.'};
+    return image;
+}
+
+Utils::Result<bool> initialise(const IpcDocument &document, const QString &folder)
+{
+    const OptionMap options = withItcmFiles(document.options, folder, document.folder());
+    if (options == document.options)
+        return false;
+    const Utils::Result<void> written =
+        writeConfiguration(document.path, document.movedHeader(document.deviceText), options);
+    if (!written)
+        return Utils::Failure{written.reason()};
+    return true;
+}
+
+} // namespace
+
+int runFirmware(Environment &environment, const FirmwareArguments &arguments)
+{
+    const auto refuse = [](const QString &reason, int status) {
+        printError(reason);
+        return status;
+    };
+    if (!arguments.form.isEmpty() && !imageFormNamed(arguments.form))
+        return refuse(quoted(arguments.form) +
+                          QLatin1String(" is no form of an image; there are ") +
+                          imageFormNames().join(QLatin1String(", ")) + u'.',
+                      WrongUsage);
+    if (environment.ipInfo().isEmpty())
+        return BadInput;
+    IpcDocument document;
+    if (!openDocument(environment, arguments.file, &document))
+        return BadInput;
+    if (const QString problem = document.deviceProblem(); !problem.isEmpty())
+        return refuse(quoted(document.path) + u' ' + problem + u'.', BadInput);
+    const auto description = readSystemDescription(environment.dataFolder());
+    if (!description)
+        return refuse(description.reason(), BadInput);
+    const Utils::Result<FirmwareImage> image = imageFrom(arguments);
+    if (!image)
+        return refuse(image.reason(), BadInput);
+    const Utils::Result<ItcmFiles> files =
+        itcmFiles(*image, systemMap(document.options, document.device, *description));
+    if (!files)
+        return refuse(quoted(QFileInfo(arguments.image).absoluteFilePath()) +
+                          QLatin1String(" does not fit: ") + files.reason() + u'.',
+                      BadInput);
+
+    const QString folder = folderFor(document, arguments.outDir);
+    Placement placement;
+    if (const Utils::Result<void> placed = placement.place(*files, folder); !placed)
+        return refuse(placed.reason(), Failed);
+    bool changed = false;
+    if (arguments.initialise) {
+        const Utils::Result<bool> written = initialise(document, folder);
+        if (!written) {
+            placement.revert();
+            return refuse(written.reason(), Failed);
+        }
+        changed = *written;
+    }
+
+    for (const QString &warning : files->warnings)
+        printError(QLatin1String("warning: ") + warning);
+    if (arguments.json) {
+        printJson({{QStringLiteral("image"), QFileInfo(arguments.image).absoluteFilePath()},
+                   {QStringLiteral("form"), imageFormName(image->form)},
+                   {QStringLiteral("files"), QJsonArray::fromStringList(placement.paths())},
+                   {QStringLiteral("size"), files->size},
+                   {QStringLiteral("used"), files->used},
+                   {QStringLiteral("free"), files->free()},
+                   {QStringLiteral("warnings"), QJsonArray::fromStringList(files->warnings)},
+                   {QStringLiteral("configurationChanged"), changed}});
+        return Done;
+    }
+    for (const QString &path : placement.paths())
+        printLine(path);
+    printError(QStringLiteral("Instruction memory: %1 of %2 bytes used, %3 free.")
+                   .arg(files->used)
+                   .arg(files->size)
+                   .arg(files->free()));
+    if (changed)
+        printLine(document.path);
+    else if (!arguments.initialise && !isOn(document.options, Key::initializeItcm))
+        printError(QStringLiteral("The configuration does not start the memory from them yet; "
+                                  "--initialize sets the options for it."));
+    return Done;
+}
+
+} // namespace Cli
