@@ -13,14 +13,14 @@ enum class RegionKind {
     TightlyCoupledMemory, // read and written by the processor without waiting
     ExternalMemory,       // whatever memory the user connects to the port
     MemoryDevice,         // memory behind a licensed controller
-    ReadWindow,           // contents of a memory device; writing gives an error or is lost
+    ReadWindow,           // contents of a memory device; writing gives an error response
     Registers,            // described registers of a peripheral
     BlackBox,             // a licensed block, whose registers its supplier describes
     ExtensionPort,        // whatever the user connects to the port
 };
 
 // A range of addresses that one block answers. What lies in no region of a configuration gives an
-// error response.
+// error response (isRefused()).
 struct Region {
     QString name; // unique in a map and an identifier of C: "ITCM", "UART0", "AHB3"
     quint32 base = 0;
