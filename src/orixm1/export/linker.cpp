@@ -29,6 +29,127 @@ QString sizeText(quint64 bytes)
     return "0x"_l1 + QString::number(bytes, 16).toUpper();
 }
 
+// The script's fixed text. Each @name@ is filled in.
+const char scriptText[] = R"(
+/* Bytes that are kept free for the stack and, at least, for the heap; the heap takes what is left.
+ * Change them with -Wl,--defsym=__stack_size=0x800 and -Wl,--defsym=__heap_size=0x100 */
+__stack_size = DEFINED(__stack_size) ? __stack_size : @stack size@;
+__heap_size = DEFINED(__heap_size) ? __heap_size : 0;
+
+/* What is executed stands apart from what is written. */
+PHDRS
+{
+    text PT_LOAD FLAGS(5);
+    data PT_LOAD FLAGS(6);
+    thread PT_TLS FLAGS(4);
+@segments@}
+
+SECTIONS
+{
+    .vectors ORIGIN(REGION_TEXT) :
+    {
+        KEEP(*(.vectors))
+    } > REGION_TEXT :text
+
+    .text : ALIGN(4)
+    {
+        *(.text .text.*)
+        KEEP(*(.init))
+        KEEP(*(.fini))
+        . = ALIGN(4);
+    } > REGION_TEXT
+
+    .rodata : ALIGN(4)
+    {
+        *(.rodata .rodata.*)
+        *(.gcc_except_table .gcc_except_table.*)
+        *(.note.gnu.build-id)
+@tables@        . = ALIGN(4);
+    } > REGION_TEXT
+
+    .ARM.extab : { *(.ARM.extab .ARM.extab.*) } > REGION_TEXT
+    .ARM.exidx :
+    {
+        PROVIDE(__exidx_start = .);
+        *(.ARM.exidx .ARM.exidx.*)
+        PROVIDE(__exidx_end = .);
+    } > REGION_TEXT
+    .eh_frame : { KEEP(*(.eh_frame)) } > REGION_TEXT
+
+    .preinit_array : ALIGN(4)
+    {
+        __preinit_array_start = .;
+        KEEP(*(.preinit_array))
+        __preinit_array_end = .;
+    } > REGION_TEXT
+    .init_array : ALIGN(4)
+    {
+        __init_array_start = .;
+        KEEP(*(SORT_BY_INIT_PRIORITY(.init_array.*)))
+        KEEP(*(.init_array))
+        __init_array_end = .;
+    } > REGION_TEXT
+    .fini_array : ALIGN(4)
+    {
+        __fini_array_start = .;
+        KEEP(*(SORT_BY_INIT_PRIORITY(.fini_array.*)))
+        KEEP(*(.fini_array))
+        __fini_array_end = .;
+    } > REGION_TEXT
+
+    /* Variables of a thread, of which there is one, lie among data and zeros. Their zeros take no addresses, so .bss
+     * leaves room. */
+    .data : ALIGN(8)
+    {
+        __data_start = .;
+        *(.data .data.*)
+        *(.got .got.*)
+        @own@
+        . = ALIGN(8);
+    } > REGION_DATA@values@ :data
+    .tdata : ALIGN(8)
+    {
+        *(.tdata .tdata.*)
+    } > REGION_DATA@values@ :data :thread
+    .tbss (NOLOAD) : ALIGN(8) { *(.tbss .tbss.*) } > REGION_DATA :data :thread
+    __data_load = LOADADDR(.data);
+
+    .bss (NOLOAD) : ALIGN(8)
+    {
+        __bss_start = .;
+        . += SIZEOF(.tbss);
+        *(.bss .bss.* COMMON)
+        @own_bss@
+        . = ALIGN(4);
+        __bss_end = .;
+    } > REGION_DATA :data
+    .noinit (NOLOAD) : ALIGN(8)
+    {
+        *(.noinit .noinit.*)
+        @own_noinit@
+        . = ALIGN(8);
+        __heap_start = .;
+    } > REGION_DATA
+@further@}
+
+/* The heap ends where the room for the stack begins, and the stack grows down from the end of the memory. What is
+ * provided goes by names that C libraries ask for. */
+__data_end = __data_start + ((SIZEOF(.data) + SIZEOF(.tdata) + 3) & ~3);
+__stack_top = (ORIGIN(REGION_DATA) + LENGTH(REGION_DATA)) & ~7;
+__heap_end = __stack_top - ((__stack_size + 7) & ~7);
+PROVIDE(end = __heap_start);
+PROVIDE(_end = __heap_start);
+PROVIDE(__end__ = __heap_start);
+PROVIDE(__dso_handle = 0);
+PROVIDE(__tls_base = __data_start + SIZEOF(.data));
+PROVIDE(__arm32_tls_tcb_offset = 8);
+
+ASSERT(ADDR(.vectors) == 0, "The vector table does not lie at address 0, where the processor reads it.")
+ASSERT(SIZEOF(.vectors) == @vector bytes@, "The vector table does not have @vectors@ entries: link the startup_tarvo_orix_m1.c that was exported with this script.")
+ASSERT(__data_end == __data_start || __data_load + (__data_end - __data_start) <= ORIGIN(REGION_TEXT) + LENGTH(REGION_TEXT), "Program and initial values of its data do not fit into @text memory@.")
+ASSERT(__heap_start + __heap_size + ((__stack_size + 7) & ~7) <= __stack_top, "Data, heap (__heap_size) and stack (__stack_size) do not fit into @data memory@.")
+)";
+
 // A sentence as lines of a comment.
 QString wrapped(const QString &text)
 {
@@ -149,32 +270,68 @@ QString ownSections(const QString &section)
     return "*("_l1 + section + u' ' + section + ".*)"_l1;
 }
 
+QString segmentOf(const LinkedMemory &memory)
+{
+    return memory.name.toLower();
+}
+
 QString sectionOf(const LinkedMemory &memory)
 {
-    return u'.' + memory.name.toLower();
+    return u'.' + segmentOf(memory);
 }
 
 // The sections of memories beside those for text and data.
+const char furtherText[] = R"(
+    @section@ : ALIGN(8)
+    {
+        @own@
+        . = ALIGN(4);
+    } > @memory@ AT> REGION_TEXT :@segment@
+    @section@_bss (NOLOAD) : ALIGN(8)
+    {
+        @own_bss@
+        . = ALIGN(4);
+    } > @memory@ AT> @memory@ :@segment@_zeros
+    @section@_noinit (NOLOAD) : ALIGN(8)
+    {
+        @own_noinit@
+    } > @memory@ AT> @memory@ :@segment@_zeros
+)";
+
+const char windowText[] = R"(
+    @section@ :
+    {
+        KEEP(@own@)
+    } > @memory@ :@segment@
+)";
+
+using Filled = QVector<QPair<QLatin1String, QString>>;
+
+QString filled(const char *text, const Filled &values)
+{
+    QString result = QString::fromLatin1(text);
+    for (const auto &[name, value] : values)
+        result.replace(name, value);
+    return result;
+}
+
 QString furtherSections(const ProgramMemory &memory)
 {
     QString text;
-    for (const int index : memory.further) {
+    const auto add = [&](const char *form, int index) {
         const LinkedMemory &entry = memory.all.at(index);
         const QString section = sectionOf(entry);
-        text += "\n    "_l1 + section + " : ALIGN(8)\n    {\n        "_l1 + ownSections(section) +
-                "\n        . = ALIGN(4);\n    } > "_l1 + entry.name + " AT> REGION_TEXT\n    "_l1 +
-                section + "_bss (NOLOAD) : ALIGN(8)\n    {\n        "_l1 +
-                ownSections(section + "_bss"_l1) + "\n        . = ALIGN(4);\n    } > "_l1 +
-                entry.name + "\n    "_l1 + section + "_noinit (NOLOAD) : ALIGN(8)\n    {\n"_l1 +
-                "        "_l1 + ownSections(section + "_noinit"_l1) + "\n    } > "_l1 + entry.name +
-                u'\n';
-    }
-    for (const int index : memory.windows) {
-        const LinkedMemory &entry = memory.all.at(index);
-        const QString section = sectionOf(entry);
-        text += "\n    "_l1 + section + " :\n    {\n        KEEP("_l1 + ownSections(section) +
-                ")\n    } > "_l1 + entry.name + u'\n';
-    }
+        text += filled(form, {{"@section@"_l1, section},
+                              {"@own@"_l1, ownSections(section)},
+                              {"@own_bss@"_l1, ownSections(section + "_bss"_l1)},
+                              {"@own_noinit@"_l1, ownSections(section + "_noinit"_l1)},
+                              {"@memory@"_l1, entry.name},
+                              {"@segment@"_l1, segmentOf(entry)}});
+    };
+    for (const int index : memory.further)
+        add(furtherText, index);
+    for (const int index : memory.windows)
+        add(windowText, index);
     return text;
 }
 
@@ -238,6 +395,19 @@ QString head(const SystemMap &map, const ProgramMemory &memory)
            "\")\nOUTPUT_ARCH(arm)\nENTRY(Reset_Handler)\n\nINCLUDE tarvo_orix_m1_memory.ld\n"_l1;
 }
 
+QString furtherSegments(const ProgramMemory &memory)
+{
+    QString text;
+    for (const int index : memory.further) {
+        const QString segment = segmentOf(memory.all.at(index));
+        text += "    "_l1 + segment + " PT_LOAD FLAGS(6);\n    "_l1 + segment +
+                "_zeros PT_LOAD FLAGS(6);\n"_l1;
+    }
+    for (const int index : memory.windows)
+        text += "    "_l1 + segmentOf(memory.all.at(index)) + " PT_LOAD FLAGS(4);\n"_l1;
+    return text;
+}
+
 QString script(const SystemMap &map, const ProgramMemory &memory)
 {
     QString text = head(map, memory);
@@ -245,72 +415,25 @@ QString script(const SystemMap &map, const ProgramMemory &memory)
         return text + "\nSECTIONS\n{\n    /DISCARD/ : { *(*) }\n}\n"_l1 + obstacleLines(memory);
     const LinkedMemory &data = memory.all.at(memory.data);
     const bool shared = memory.text == memory.data;
-    // What a program puts into this memory by name lies among the data.
+    // What a program puts into the memory for data by its name lies among the data.
     const QString own = sectionOf(data);
     const int vectors = systemVectors + map.processor.interruptInputs;
-    text +=
-        "\n/* Bytes that are kept free for the stack and, at least, for the heap; the heap takes "
-        "what is left.\n * Change them with -Wl,--defsym=__stack_size=0x800 and "
-        "-Wl,--defsym=__heap_size=0x100 */\n"
-        "__stack_size = DEFINED(__stack_size) ? __stack_size : "_l1 +
-        QString::number(std::min(data.size / 4, largestStack)) +
-        ";\n__heap_size = DEFINED(__heap_size) ? __heap_size : 0;\n"
-        "\nSECTIONS\n{\n"
-        "    .vectors ORIGIN(REGION_TEXT) :\n    {\n        KEEP(*(.vectors))\n"
-        "    } > REGION_TEXT\n"
-        "\n    .text : ALIGN(4)\n    {\n        *(.text .text.*)\n        KEEP(*(.init))\n"
-        "        KEEP(*(.fini))\n        . = ALIGN(4);\n    } > REGION_TEXT\n"
-        "\n    .rodata : ALIGN(4)\n    {\n        *(.rodata .rodata.*)\n"
-        "        *(.gcc_except_table .gcc_except_table.*)\n        *(.note.gnu.build-id)\n"_l1 +
-        furtherTables(memory) +
-        "        . = ALIGN(4);\n    } > REGION_TEXT\n"
-        "\n    .ARM.extab : { *(.ARM.extab .ARM.extab.*) } > REGION_TEXT\n"
-        "    .ARM.exidx :\n    {\n        PROVIDE(__exidx_start = .);\n"
-        "        *(.ARM.exidx .ARM.exidx.*)\n        PROVIDE(__exidx_end = .);\n"
-        "    } > REGION_TEXT\n    .eh_frame : { KEEP(*(.eh_frame)) } > REGION_TEXT\n\n"_l1;
-    for (const QLatin1String name : {"preinit_array"_l1, "init_array"_l1, "fini_array"_l1}) {
-        text += "    ."_l1 + name + " : ALIGN(4)\n    {\n        __"_l1 + name + "_start = .;\n"_l1;
-        if (name != "preinit_array"_l1)
-            text += "        KEEP(*(SORT_BY_INIT_PRIORITY(."_l1 + name + ".*)))\n"_l1;
-        text += "        KEEP(*(."_l1 + name + "))\n        __"_l1 + name +
-                "_end = .;\n    } > REGION_TEXT\n"_l1;
-    }
-    text += "\n    .data : ALIGN(8)\n    {\n        __data_start = .;\n"
-            "        *(.data .data.*)\n        *(.got .got.*)\n        "_l1 +
-            ownSections(own) +
-            "\n        . = ALIGN(4);\n        __data_end = .;\n"
-            "    } > REGION_DATA"_l1 +
-            (shared ? QLatin1String() : " AT> REGION_TEXT"_l1) +
-            "\n    __data_load = LOADADDR(.data);\n"
-            "\n    .bss (NOLOAD) : ALIGN(8)\n    {\n        __bss_start = .;\n"
-            "        *(.bss .bss.* COMMON)\n        "_l1 +
-            ownSections(own + "_bss"_l1) +
-            "\n        . = ALIGN(4);\n        __bss_end = .;\n    } > REGION_DATA\n"
-            "\n    .noinit (NOLOAD) : ALIGN(8)\n    {\n        *(.noinit .noinit.*)\n        "_l1 +
-            ownSections(own + "_noinit"_l1) +
-            "\n        . = ALIGN(8);\n        __heap_start = .;\n    } > REGION_DATA\n"_l1 +
-            furtherSections(memory) + "}\n"_l1;
-    text += "\n/* The heap ends where the room for the stack begins, and the stack grows down from "
-            "the end of the memory.\n * The other names of the heap's start are those that C "
-            "libraries ask for. */\n"
-            "__stack_top = (ORIGIN(REGION_DATA) + LENGTH(REGION_DATA)) & ~7;\n"
-            "__heap_end = __stack_top - ((__stack_size + 7) & ~7);\n"
-            "PROVIDE(end = __heap_start);\nPROVIDE(_end = __heap_start);\n"
-            "PROVIDE(__end__ = __heap_start);\nPROVIDE(__dso_handle = 0);\n"
-            "\nASSERT(ADDR(.vectors) == 0, \"The vector table does not lie at address 0, where the "
-            "processor reads it.\")\nASSERT(SIZEOF(.vectors) == "_l1 +
-            QString::number(vectors * vectorSize) + ", \"The vector table does not have "_l1 +
-            QString::number(vectors) +
-            " entries: link the startup_tarvo_orix_m1.c that was exported with this script.\")\n"
-            "ASSERT(SIZEOF(.data) == 0 || LOADADDR(.data) + SIZEOF(.data) <= ORIGIN(REGION_TEXT) "
-            "+ LENGTH(REGION_TEXT), \"Program and initial values of its data do not fit into "_l1 +
-            memory.all.at(memory.text).name +
-            ".\")\n"
-            "ASSERT(__heap_start + __heap_size + ((__stack_size + 7) & ~7) <= __stack_top, \"Data, "
-            "heap (__heap_size) and stack "
-            "(__stack_size) do not fit into "_l1 +
-            data.name + ".\")\n"_l1;
-    return text;
+    return text +
+           filled(scriptText,
+                  {
+                      {"@stack size@"_l1, QString::number(std::min(data.size / 4, largestStack))},
+                      {"@segments@"_l1, furtherSegments(memory)},
+                      {"@tables@"_l1, furtherTables(memory)},
+                      {"@own@"_l1, ownSections(own)},
+                      {"@own_bss@"_l1, ownSections(own + "_bss"_l1)},
+                      {"@own_noinit@"_l1, ownSections(own + "_noinit"_l1)},
+                      {"@values@"_l1, shared ? QString() : QStringLiteral(" AT> REGION_TEXT")},
+                      {"@further@"_l1, furtherSections(memory)},
+                      {"@vector bytes@"_l1, QString::number(vectors * vectorSize)},
+                      {"@vectors@"_l1, QString::number(vectors)},
+                      {"@text memory@"_l1, memory.all.at(memory.text).name},
+                      {"@data memory@"_l1, data.name},
+                  });
 }
 
 } // namespace

@@ -140,10 +140,15 @@ QString startup(const SystemMap &map)
            "extern const Function __preinit_array_end[];\n"
            "extern const Function __init_array_start[];\n"
            "extern const Function __init_array_end[];\n\n"
+           "/* A library whose variables of a thread are set up by this function needs it; others "
+           "have none. */\n"
+           "extern void _set_tls(void *start) __attribute__((weak));\n"
+           "extern uint32_t __tls_base[] __attribute__((weak));\n\n"
            "int main(void);\n\n"
            "void Reset_Handler(void);\n"
            "void Default_Handler(void);\n"
-           "void start_program(void);\n\n"
+           "void start_program(void);\n"
+           "void _init(void);\nvoid _fini(void);\n\n"
            "#define WEAK_HANDLER(name) void name(void) __attribute__((weak, "
            "alias(\"Default_Handler\")))\n\n"_l1 +
            declarations(handlers) +
@@ -165,12 +170,16 @@ QString startup(const SystemMap &map)
            "__attribute__((used)) void start_program(void)\n{\n"
            "    copy_words(__data_start, __data_end, __data_load);\n"
            "    zero_words(__bss_start, __bss_end);\n"
+           "    if (_set_tls)\n        _set_tls(__tls_base);\n"
            "    SystemInit();\n"_l1 +
            furtherCall +
            "    call_all(__preinit_array_start, __preinit_array_end);\n"
            "    call_all(__init_array_start, __init_array_end);\n"
            "    (void)main();\n"
            "    for (;;) {\n    }\n}\n\n"
+           "/* C libraries call these beside constructors and destructors. */\n"
+           "__attribute__((weak)) void _init(void)\n{\n}\n\n"
+           "__attribute__((weak)) void _fini(void)\n{\n}\n\n"
            "/* The stack pointer is set once more for a debugger that jumps here. */\n"
            "__attribute__((naked, noreturn)) void Reset_Handler(void)\n{\n"
            "    __asm__ volatile(\"ldr r0, 1f\\n\"\n"
