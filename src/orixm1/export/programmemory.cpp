@@ -2,6 +2,8 @@
 
 #include "config/latin1literal.h"
 
+#include <algorithm>
+
 namespace TARVOORIXM1
 {
 
@@ -10,6 +12,7 @@ namespace
 
 constexpr quint32 vectorAddress = 0; // fixed: the processor has no vector table offset register
 constexpr quint32 firstDataAddress = 0x20000000;
+constexpr quint32 upperAlias = 0x10000000; // of the instruction memory
 
 // Of the eight parts of the address space, the architecture executes from code, SRAM and the two of
 // external RAM.
@@ -37,6 +40,35 @@ bool isWritable(const Region &region)
 bool isDataOnly(const Region &region)
 {
     return region.kind == RegionKind::TightlyCoupledMemory && region.base >= firstDataAddress;
+}
+
+bool isInstructionMemory(const Region &region)
+{
+    return region.kind == RegionKind::TightlyCoupledMemory && region.base < firstDataAddress;
+}
+
+// The regions that a linker may use, each where it stands after reset.
+QVector<Region> linkedRegions(const SystemMap &map)
+{
+    QVector<Region> regions;
+    for (Region region : map.regions) {
+        if (!isMemory(region.kind) && region.kind != RegionKind::ReadWindow)
+            continue;
+        if (isInstructionMemory(region)) {
+            const quint32 length = region.last - region.base;
+            if (map.processor.itcmAtLowerAlias) {
+                if (map.processor.itcmAtUpperAlias)
+                    region.text += ", also at 0x10000000"_l1;
+            } else if (map.processor.itcmAtUpperAlias) {
+                region.base = upperAlias;
+                region.last = upperAlias + length;
+            } else {
+                continue;
+            }
+        }
+        regions.append(region);
+    }
+    return regions;
 }
 
 LinkedMemory linkedMemory(const Region &region)
@@ -73,9 +105,8 @@ ProgramMemory programMemory(const SystemMap &map)
 {
     ProgramMemory memory;
     QVector<int> writable;
-    for (const Region &region : map.regions) {
-        if (!isMemory(region.kind) && region.kind != RegionKind::ReadWindow)
-            continue;
+    const QVector<Region> regions = linkedRegions(map);
+    for (const Region &region : regions) {
         const int index = memory.all.size();
         memory.all.append(linkedMemory(region));
         if (isMemory(region.kind) && region.contains(vectorAddress))
@@ -85,12 +116,16 @@ ProgramMemory programMemory(const SystemMap &map)
         else if (index != memory.text)
             memory.windows.append(index);
     }
-    for (const int index : qAsConst(writable)) {
-        if (memory.data < 0 && memory.all.at(index).base >= firstDataAddress)
-            memory.data = index;
-    }
-    if (memory.data < 0 && writable.contains(memory.text))
-        memory.data = memory.text;
+    // The first from the data's addresses upwards, then another than the text's, then any.
+    const auto isBetter = [&memory](int a, int b) {
+        const auto rank = [&memory](int index) {
+            return memory.all.at(index).base >= firstDataAddress ? 0 : index != memory.text ? 1 : 2;
+        };
+        return rank(a) < rank(b);
+    };
+    const auto best = std::min_element(writable.cbegin(), writable.cend(), isBetter);
+    if (best != writable.cend())
+        memory.data = *best;
     for (const int index : qAsConst(writable)) {
         if (index != memory.text && index != memory.data)
             memory.further.append(index);

@@ -34,7 +34,8 @@ struct ProgramMemory {
 };
 
 // Text lies where the processor begins to read, at address 0. Data lie in the first memory from
-// 0x20000000 upwards, else in what the text leaves free.
+// 0x20000000 upwards, else in another that can be written, else in what the text leaves free. The
+// instruction memory counts where its aliases stand after reset.
 ProgramMemory programMemory(const SystemMap &map);
 
 } // namespace TARVOORIXM1

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void sizeOfAConnectedMemoryIsTheUsers_data();
     void sizeOfAConnectedMemoryIsTheUsers();
     void sectionsNamedAfterMemoriesLieInThem();
+    void instructionMemoryStandsWhereItsAliasesAre_data();
+    void instructionMemoryStandsWhereItsAliasesAre();
     void codeStaysLittleEndianAmongBigEndianData();
     void refusesWhatCannotRun_data();
     void refusesWhatCannotRun();
@@ -326,6 +328,62 @@ IN(".spiflash_window") const uint32_t font[4] = {1, 2, 3, 4};
     const auto last = sections.value(".ddr3"_s);
     QCOMPARE(quint32(project.contents("image.bin"_s).size()), last.load + last.size);
     QVERIFY(last.load + last.size < text->size());
+}
+
+void tst_Linker::instructionMemoryStandsWhereItsAliasesAre_data()
+{
+    QTest::addColumn<bool>("lower");
+    QTest::addColumn<bool>("upper");
+    QTest::addColumn<bool>("external"); // memory at address 0 beside it
+    QTest::addColumn<QString>("line");  // of the memories; empty: none of its own
+    QTest::addColumn<bool>("links");
+    const QString atZero = "ITCM (rwx) : ORIGIN = 0x00000000, LENGTH = 32K /* instruction memory"_s;
+    const QString above = "ITCM (rwx) : ORIGIN = 0x10000000, LENGTH = 32K /* instruction memory"_s;
+    QTest::newRow("lower") << true << false << false << atZero + " */"_s << true;
+    QTest::newRow("both") << true << true << false << atZero + ", also at 0x10000000 */"_s << true;
+    QTest::newRow("upper") << false << true << false << above + " */"_s << false;
+    QTest::newRow("upper, external memory below")
+        << false << true << true << above + " */"_s << true;
+    QTest::newRow("none") << false << false << false << QString() << false;
+}
+
+// No option switches an upper alias on, so that the maps are made by hand.
+void tst_Linker::instructionMemoryStandsWhereItsAliasesAre()
+{
+    QFETCH(bool, lower);
+    QFETCH(bool, upper);
+    QFETCH(bool, external);
+    QFETCH(QString, line);
+    QFETCH(bool, links);
+    SystemMap map = m_maps.map({});
+    map.processor.itcmAtLowerAlias = lower;
+    map.processor.itcmAtUpperAlias = upper;
+    if (external) {
+        Region region;
+        region.name = "EXTFLASH"_s;
+        region.last = 0x0FFFFFFF;
+        region.kind = RegionKind::ExternalMemory;
+        map.regions.prepend(region);
+    }
+    const Project project(map);
+    const QString memories = QString::fromUtf8(project.contents("tarvo_orix_m1_memory.ld"_s));
+    if (line.isEmpty())
+        QVERIFY2(!memories.contains("ITCM"_s), qPrintable(memories));
+    else
+        QVERIFY2(memories.contains(line), qPrintable(memories));
+    QVERIFY(project.write("main.c"_s, QByteArray(program) + (external ? R"(
+__attribute__((used, section(".itcm"))) uint32_t fast = 1;
+)"
+                                                                      : "")));
+    const Run linked = project.link({"-Wl,--no-gc-sections"_s});
+    QCOMPARE(linked.ok(), links);
+    if (!links)
+        QVERIFY2(linked.output.contains("nothing answers at address 0"_s),
+                 qPrintable(linked.output));
+    else
+        QCOMPARE(project.sections().value(".vectors"_s).address, 0u);
+    if (external)
+        QCOMPARE(project.symbols().value("fast"_s).value, 0x10000000u);
 }
 
 void tst_Linker::codeStaysLittleEndianAmongBigEndianData()
