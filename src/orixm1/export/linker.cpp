@@ -12,8 +12,7 @@ namespace TARVOORIXM1
 namespace
 {
 
-constexpr int systemVectors = 16; // the stack's top and the processor's own exceptions
-constexpr int vectorSize = 4;     // bytes
+constexpr int vectorSize = 4; // bytes
 
 constexpr quint64 largestStack = 4096; // bytes, of those that are kept free unasked
 
@@ -140,6 +139,8 @@ __heap_end = __stack_top - ((__stack_size + 7) & ~7);
 PROVIDE(end = __heap_start);
 PROVIDE(_end = __heap_start);
 PROVIDE(__end__ = __heap_start);
+PROVIDE(__bss_start__ = __bss_start);
+PROVIDE(__bss_end__ = __bss_end);
 PROVIDE(__dso_handle = 0);
 PROVIDE(__tls_base = __data_start + SIZEOF(.data));
 PROVIDE(__arm32_tls_tcb_offset = 8);
@@ -375,6 +376,7 @@ QString sectionNotes(const ProgramMemory &memory)
                          "\"))) for constants. They are no part of what is loaded at address 0: "
                          "write them to the device."_l1);
     }
+    notes += wrapped(QStringLiteral("Start-up leaves variables in the section \".noinit\" alone."));
     if (memory.text == memory.data)
         notes += wrapped("Data, heap and stack lie behind the program in "_l1 +
                          memory.all.at(memory.data).name +
@@ -417,7 +419,7 @@ QString script(const SystemMap &map, const ProgramMemory &memory)
     const bool shared = memory.text == memory.data;
     // What a program puts into the memory for data by its name lies among the data.
     const QString own = sectionOf(data);
-    const int vectors = systemVectors + map.processor.interruptInputs;
+    const int vectors = systemVectors + vectoredInterrupts(map.processor);
     return text +
            filled(scriptText,
                   {

@@ -133,4 +133,10 @@ ProgramMemory programMemory(const SystemMap &map)
     return memory;
 }
 
+int vectoredInterrupts(const Processor &processor)
+{
+    constexpr int most = 32; // of the architecture
+    return qBound(0, processor.interruptInputs, most);
+}
+
 } // namespace TARVOORIXM1

@@ -38,4 +38,12 @@ struct ProgramMemory {
 // instruction memory counts where its aliases stand after reset.
 ProgramMemory programMemory(const SystemMap &map);
 
+// Entries of the vector table in front of the interrupts: the stack's top and the processor's own
+// exceptions.
+constexpr int systemVectors = 16;
+
+// Interrupts that the vector table has entries for, 0 to 32: those that the processor has inputs
+// for.
+int vectoredInterrupts(const Processor &processor);
+
 } // namespace TARVOORIXM1

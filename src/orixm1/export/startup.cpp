@@ -17,8 +17,6 @@ struct SystemException {
     QLatin1String text;
 };
 
-constexpr int firstInterrupt = 16; // entry of the vector table
-
 constexpr SystemException exceptions[] = {
     {2, "NMI_Handler"_l1, false, "non-maskable interrupt"_l1},
     {3, "HardFault_Handler"_l1, false, "every fault"_l1},
@@ -56,10 +54,10 @@ QVector<Handler> handlersOf(const SystemMap &map)
         handlers.append({exception.entry, exception.handler, text});
     }
     for (const InterruptLine &line : map.interrupts) {
-        const bool arrives =
-            line.lost.isEmpty() && line.number >= 0 && line.number < map.processor.interruptInputs;
+        const bool arrives = line.lost.isEmpty() && line.number >= 0 &&
+                             line.number < vectoredInterrupts(map.processor);
         if (arrives)
-            handlers.append({firstInterrupt + line.number, line.name + "_IRQHandler"_l1,
+            handlers.append({systemVectors + line.number, line.name + "_IRQHandler"_l1,
                              "interrupt "_l1 + QString::number(line.number)});
     }
     return handlers;
@@ -75,18 +73,18 @@ QString declarations(const QVector<Handler> &handlers)
 
 QString vectorTable(const SystemMap &map, const QVector<Handler> &handlers)
 {
-    QVector<QString> entries(firstInterrupt + map.processor.interruptInputs);
+    QVector<QString> entries(systemVectors + vectoredInterrupts(map.processor));
     entries[1] = QStringLiteral("Reset_Handler");
-    for (int i = firstInterrupt; i < entries.size(); ++i)
+    for (int i = systemVectors; i < entries.size(); ++i)
         entries[i] = QStringLiteral("Default_Handler");
     for (const Handler &handler : handlers)
         entries[handler.entry] = handler.name;
     QString text = "const struct VectorTable vector_table "
                    "__attribute__((used, section(\".vectors\"))) = {\n    __stack_top,\n    {\n"_l1;
     for (int i = 1; i < entries.size(); ++i) {
-        const QString number = i < firstInterrupt
+        const QString number = i < systemVectors
                                    ? "exception "_l1 + QString::number(i)
-                                   : "interrupt "_l1 + QString::number(i - firstInterrupt);
+                                   : "interrupt "_l1 + QString::number(i - systemVectors);
         text += "        "_l1 + (entries.at(i).isEmpty() ? QStringLiteral("0") : entries.at(i)) +
                 ", /* "_l1 + number + (entries.at(i).isEmpty() ? ": none"_l1 : QLatin1String()) +
                 " */\n"_l1;
@@ -122,7 +120,7 @@ QString startup(const SystemMap &map)
     const QVector<Handler> handlers = handlersOf(map);
     QString furtherCall;
     const QString further = furtherMemories(programMemory(map), &furtherCall);
-    const QString entries = QString::number(firstInterrupt + map.processor.interruptInputs - 1);
+    const QString entries = QString::number(systemVectors + vectoredInterrupts(map.processor) - 1);
     return "/* Start-up of the Tarvo Orix-M1 subsystem: vector table, and what runs before main(). "
            "C99, without a C library.\n"
            " * Each handler can be replaced by a function of the same name. Interrupts that "

@@ -79,7 +79,8 @@ private:
     void addCases() const
     {
         QTest::addColumn<OptionMap>("options");
-        for (const Case &entry : cases())
+        const QVector<Case> all = cases();
+        for (const Case &entry : all)
             QTest::newRow(entry.name) << entry.options;
     }
 
@@ -533,6 +534,8 @@ void tst_Linker::cLibrariesWorkWithTheirStartUpOff_data()
     QTest::newRow("newlib") << "--specs=rdimon.specs"_s.split(u' ');
     QTest::newRow("newlib, the small one")
         << "--specs=nano.specs --specs=rdimon.specs"_s.split(u' ');
+    QTest::newRow("newlib, its start-up linked as well, in vain")
+        << "--specs=nano.specs --specs=rdimon.specs --start-up"_s.split(u' ');
     QTest::newRow("newlib, optimized while linking")
         << "--specs=nano.specs --specs=rdimon.specs -flto"_s.split(u' ');
     QTest::newRow("picolibc") << "--specs=picolibc.specs --oslib=semihost"_s.split(u' ');
@@ -572,11 +575,13 @@ int main(void)
     exit(0);
 }
 )"));
-    const Run linked =
-        project.gcc("-std=c99 -Wall -Wextra -Os -nostartfiles -L . "
-                    "-T tarvo_orix_m1.ld -Wl,--fatal-warnings -o program.elf "
-                    "startup_tarvo_orix_m1.c system_tarvo_orix_m1.c main.c"_s.split(u' ') +
-                    library);
+    QStringList flags = library;
+    if (flags.removeAll("--start-up"_s) == 0)
+        flags.append("-nostartfiles"_s);
+    const Run linked = project.gcc(
+        "-std=c99 -Wall -Wextra -Os -L . -T tarvo_orix_m1.ld -Wl,--fatal-warnings "
+        "-o program.elf startup_tarvo_orix_m1.c system_tarvo_orix_m1.c main.c"_s.split(u' ') +
+        flags);
     QVERIFY2(linked.ok(), qPrintable(linked.output));
     QCOMPARE(project.emulate().output, "seven is 7, errno, heap, vectors\n"_s);
 }

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void callsNothingOfACLibrary();
     void tableHoldsTheInterruptsThatArrive_data();
     void tableHoldsTheInterruptsThatArrive();
+    void tableIsNeverLongerThanTheProcessorReads_data();
+    void tableIsNeverLongerThanTheProcessorReads();
     void handlersAreReplacedByFunctionsOfTheirName();
     void clockIsWhatTheUserTells_data();
     void clockIsWhatTheUserTells();
@@ -46,7 +48,8 @@ private:
     void addCases() const
     {
         QTest::addColumn<OptionMap>("options");
-        for (const Case &entry : cases())
+        const QVector<Case> all = cases();
+        for (const Case &entry : all)
             QTest::newRow(entry.name) << entry.options;
     }
 
@@ -182,6 +185,30 @@ void tst_Startup::tableHoldsTheInterruptsThatArrive()
     told.sort();
     handlers.sort();
     QCOMPARE(told, handlers);
+}
+
+void tst_Startup::tableIsNeverLongerThanTheProcessorReads_data()
+{
+    QTest::addColumn<int>("inputs");
+    QTest::addColumn<int>("entries");
+    QTest::newRow("fewer than none") << -2000000000 << 16;
+    QTest::newRow("none") << 0 << 16;
+    QTest::newRow("a number that none can choose") << 5 << 21;
+    QTest::newRow("all") << 32 << 48;
+    QTest::newRow("more than all") << 2000000000 << 48;
+}
+
+void tst_Startup::tableIsNeverLongerThanTheProcessorReads()
+{
+    QFETCH(int, inputs);
+    QFETCH(int, entries);
+    SystemMap map = m_maps.map(everything());
+    map.processor.interruptInputs = inputs;
+    const Project project(map);
+    QVERIFY(project.write(QStringLiteral("main.c"), emptyMain));
+    const Run linked = project.link();
+    QVERIFY2(linked.ok(), qPrintable(linked.output));
+    QCOMPARE(project.vectors().size(), entries);
 }
 
 void tst_Startup::handlersAreReplacedByFunctionsOfTheirName()
