@@ -3,6 +3,8 @@
 #include "config/latin1literal.h"
 #include "header.h"
 #include "svd.h"
+#include "linker.h"
+#include "startup.h"
 
 #include <algorithm>
 
@@ -19,6 +21,14 @@ constexpr Format rows[] = {
     {"header"_l1, "tarvo_orix_m1.h"_l1, "Device header"_l1,
      "Addresses, registers and interrupt numbers for programs in C and C++."_l1, "C99, C++11"_l1,
      "gcc, g++, clang, arm-none-eabi-gcc"_l1, headerFiles},
+    {"linker"_l1, "tarvo_orix_m1.ld, memory.x"_l1, "Linker script"_l1,
+     "Places a program in the memories of the subsystem, which a script of your own can "
+     "include, and memory.x for Rust."_l1,
+     "GNU ld"_l1, "arm-none-eabi-gcc, qemu-system-arm"_l1, linkerFiles},
+    {"startup"_l1, "startup_tarvo_orix_m1.c"_l1, "Start-up code"_l1,
+     "Vector table and weak handlers of the interrupts that arrive, and what runs before "
+     "main()."_l1,
+     "C99"_l1, "arm-none-eabi-gcc, clang, qemu-system-arm"_l1, startupFiles},
 };
 
 } // namespace
