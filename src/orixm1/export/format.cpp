@@ -1,6 +1,7 @@
 #include "format.h"
 
 #include "config/latin1literal.h"
+#include "devicetree.h"
 #include "header.h"
 
 #include <algorithm>
@@ -15,6 +16,10 @@ constexpr Format rows[] = {
     {"header"_l1, "tarvo_orix_m1.h"_l1, "Device header"_l1,
      "Addresses, registers and interrupt numbers for programs in C and C++."_l1, "C99, C++11"_l1,
      "gcc, g++, clang, arm-none-eabi-gcc"_l1, headerFiles},
+    {"devicetree"_l1, "tarvo_orix_m1.dtsi, tarvo_orix_m1-overlay.dts"_l1, "Device tree"_l1,
+     "Processor, memories, blocks and interrupts for operating systems that read a tree, and the "
+     "skeleton of a board's overlay."_l1,
+     "Devicetree 0.4"_l1, "dtc, fdtoverlay"_l1, devicetreeFiles},
 };
 
 } // namespace
