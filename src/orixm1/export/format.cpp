@@ -1,6 +1,7 @@
 #include "format.h"
 
 #include "config/latin1literal.h"
+#include "datasheet.h"
 #include "devicetree.h"
 #include "header.h"
 
@@ -20,6 +21,9 @@ constexpr Format rows[] = {
      "Processor, memories, blocks and interrupts for operating systems that read a tree, and the "
      "skeleton of a board's overlay."_l1,
      "Devicetree 0.4"_l1, "dtc, fdtoverlay"_l1, devicetreeFiles},
+    {"datasheet"_l1, "datasheet/tarvo_orix_m1.md, datasheet/tarvo_orix_m1.html"_l1, "Datasheet"_l1,
+     "Diagram, memory and interrupt maps, ports, clocks and registers for people."_l1,
+     "CommonMark with GFM tables, HTML, SVG"_l1, "cmark-gfm, xmllint"_l1, datasheetFiles},
 };
 
 } // namespace
