@@ -217,10 +217,15 @@ private:
                          {QStringLiteral("in this configuration")}};
         for (const Block &block : blocks()) {
             QStringList on;
+            QVector<int> ports;
             for (const SwitchRow &entry : block.switches) {
-                if (isOn(m_map.options, entry.key()) && !entry.isInterface)
-                    on.append(entry.description());
+                if (!isOn(m_map.options, entry.key()) || entry.isInterface)
+                    continue;
+                on.append(entry.description());
+                ports.append(entry.port);
             }
+            if (block.hasPorts() && !on.isEmpty())
+                on = QStringList{(ports.size() > 1 ? "ports "_l1 : "port "_l1) + rangesText(ports)};
             table.rows.append(
                 {Text(block.title),
                  Text(block.bus == Bus::Ahb ? QStringLiteral("AHB") : QStringLiteral("APB")),

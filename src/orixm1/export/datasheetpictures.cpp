@@ -267,7 +267,7 @@ private:
         if (!box.isOn)
             box.details = QStringList{QStringLiteral("off")};
         else if (block.hasPorts())
-            box.details = wrapped("on: "_l1 + ranges(ports), detail, boxWidth - 8);
+            box.details = wrapped("on: "_l1 + rangesText(ports), detail, boxWidth - 8);
         else if (region)
             box.details = QStringList{hexAddress(region->base)};
         if (region && isBlackBox(*region))
@@ -292,23 +292,6 @@ private:
                 found = &region;
         }
         return found;
-    }
-
-    // "1-3, 7"
-    static QString ranges(const QVector<int> &numbers)
-    {
-        QStringList texts;
-        for (int i = 0; i < numbers.size();) {
-            int last = i;
-            while (last + 1 < numbers.size() && numbers.at(last + 1) == numbers.at(last) + 1)
-                ++last;
-            QString text = QString::number(numbers.at(i));
-            if (last > i)
-                text += u'-' + QString::number(numbers.at(last));
-            texts.append(text);
-            i = last + 1;
-        }
-        return texts.join(", "_l1);
     }
 
     void drawLegend(int y)
@@ -370,6 +353,22 @@ QString sizeText(quint64 bytes)
             return QString::number(bytes >> unit.bits) + unit.name;
     }
     return QString::number(bytes) + " bytes"_l1;
+}
+
+QString rangesText(const QVector<int> &numbers)
+{
+    QStringList texts;
+    for (int i = 0; i < numbers.size();) {
+        int last = i;
+        while (last + 1 < numbers.size() && numbers.at(last + 1) == numbers.at(last) + 1)
+            ++last;
+        QString text = QString::number(numbers.at(i));
+        if (last > i)
+            text += u'-' + QString::number(numbers.at(last));
+        texts.append(text);
+        i = last + 1;
+    }
+    return texts.join(", "_l1);
 }
 
 Picture blockPicture(const SystemMap &map)

@@ -21,4 +21,7 @@ QString shortKindName(RegionKind kind);
 // "32 KB", "1000 bytes"; 1 KB is 1024 bytes.
 QString sizeText(quint64 bytes);
 
+// "1-3, 7" of ascending numbers.
+QString rangesText(const QVector<int> &numbers);
+
 } // namespace TARVOORIXM1
