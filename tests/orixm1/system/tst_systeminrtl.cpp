@@ -1,6 +1,7 @@
 // Holds the system map and the RTL against each other: for random configurations, scripts made from
 // the map try the first and the last word of each region and the words beside it, each register
-// after reset, and each interrupt.
+// after reset, and each interrupt. Its ports are those of the elaborated top and of the figures,
+// its black boxes the modules that the elaboration leaves empty.
 //
 // Whatever is no part of the RTL answers with a word of its own: black boxes are given a body,
 // extension ports are connected to constants. So a word tells who answered.
@@ -22,12 +23,16 @@
 #include <system/systemmap.h>
 #include <utils/descriptor.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <cstdio>
+#include <functional>
 #include <random>
 
 using namespace TARVOORIXM1;
@@ -122,6 +127,41 @@ QVector<Pin> pinsOf(const OptionMap &options, const QString &device)
     return pins;
 }
 
+// "input UART0RXD", "output [31:0] AHB1HADDR", a port each.
+QStringList portTexts(const QVector<Port> &ports)
+{
+    QStringList list;
+    for (const Port &port : ports) {
+        const QString direction = port.direction == PortDirection::Input ? QStringLiteral("input")
+                                  : port.direction == PortDirection::Output
+                                      ? QStringLiteral("output")
+                                      : QStringLiteral("inout");
+        const QString range =
+            port.isVector() ? QStringLiteral(" [%1:%2]").arg(port.left).arg(port.right) : QString();
+        list.append(direction + range + u' ' + port.name);
+    }
+    return list;
+}
+
+QStringList pinTexts(const QVector<Pin> &pins)
+{
+    static const QString directions[] = {QStringLiteral("input"), QStringLiteral("output"),
+                                         QStringLiteral("inout")};
+    QStringList list;
+    for (const Pin &pin : pins)
+        list.append(directions[pin.direction] +
+                    (pin.range.isEmpty() ? QString() : QString(u' ' + pin.range)) + u' ' +
+                    pin.name);
+    return list;
+}
+
+// What the tool says of the elaborated top.
+struct Elaborated {
+    QStringList ports; // sorted
+    QStringList boxes; // likewise
+    QString message;   // why there is none
+};
+
 // The signal of the RTL that carries an interrupt, as its block drives it.
 QString requestOf(const InterruptLine &line)
 {
@@ -145,9 +185,28 @@ public:
 
     QString verilog() const
     {
-        QString text = QStringLiteral("module tb;\n    reg clk = 1'b0;\n    always #5 clk = ~clk;\n"
-                                      "    reg rstn = 1'b0;\n    initial #42 rstn = 1'b1;\n"
-                                      "    integer failures = 0;\n");
+        QString text = QStringLiteral(
+            "module tb;\n    reg clk = 1'b0;\n    always #5 clk = ~clk;\n"
+            "    reg rstn = 1'b0;\n    initial #42 rstn = 1'b1;\n"
+            "    integer failures = 0;\n"
+            "    task same(input integer is, input integer expected);\n"
+            "        if (is !== expected) begin failures = failures + 1;"
+            " $display(\"processor: %0d, not %0d\", is, expected); end\n"
+            "    endtask\n"
+            // The last two cycles of a transfer in place of the core's: those of an error.
+            "    reg errs;\n    integer waits;\n"
+            "    task refused(input [31:0] address);\n        begin\n"
+            "            @(negedge clk); force dut.haddr = address;"
+            " force dut.htrans = 2'b10; force dut.hwrite = 1'b1;\n"
+            "            @(negedge clk); force dut.htrans = 2'b00;\n"
+            "            errs = 1'b0;\n"
+            "            for (waits = 0; dut.hready !== 1'b1 && waits < 16; waits = waits + 1) "
+            "begin\n"
+            "                errs = dut.hresp;\n                @(negedge clk);\n            "
+            "end\n"
+            "            if (dut.hresp !== 1'b1 || dut.hready !== 1'b1 || errs !== 1'b1) begin\n"
+            "                failures = failures + 1; $display(\"write to %h\", address);\n"
+            "            end\n            @(negedge clk);\n        end\n    endtask\n");
         QStringList connections;
         for (const Pin &pin : m_pins) {
             if (pin.name == QLatin1String("HCLK") || pin.name == QLatin1String("hwRstn"))
@@ -162,8 +221,10 @@ public:
         for (const QString &connection : qAsConst(connections))
             text += QStringLiteral(",\n        ") + connection;
         text += QStringLiteral(");\n    initial begin\n        wait (dut.u_core.done);\n");
+        text += processorCheck();
         for (const InterruptLine &line : m_map.interrupts)
             text += interruptCheck(line);
+        text += refusedWrites();
         text += QStringLiteral("        if (failures == 0) $display(\"INTERRUPTS OK\");\n"
                                "        $finish;\n    end\nendmodule\n");
         return text;
@@ -176,18 +237,21 @@ public:
         for (const Region &region : m_map.regions)
             text += accesses(region);
         for (const Region &region : m_map.regions) {
-            if (region.base != 0 && !regionAt(m_map, region.base - 4))
-                text += QStringLiteral("error %1\n").arg(hex(region.base - 4));
-            if (region.last != 0xFFFFFFFF && !regionAt(m_map, region.last + 1))
-                text += QStringLiteral("error %1\n").arg(hex(region.last + 1));
+            if (region.base != 0)
+                text += refused(region.base - 4);
+            if (region.last != 0xFFFFFFFF)
+                text += refused(region.last + 1);
         }
+        // The place of the other alias.
+        if (!m_map.processor.itcmAtUpperAlias)
+            text += refused(0x10000000);
         // Nothing is there in any configuration.
         for (const quint32 address : {0x4F000000u, 0x90000000u, 0xC0000000u, 0xDFFFFFFCu})
             text += QStringLiteral("error %1\n").arg(hex(address));
         // The places that other configurations have.
         for (const Region &region : everyRegion()) {
-            if (!regionAt(m_map, region.base))
-                text += QStringLiteral("error %1\n").arg(hex(region.base));
+            text += refused(region.base);
+            text += refused(region.last - 3);
         }
         return text;
     }
@@ -195,6 +259,13 @@ public:
     void setEveryRegion(const QVector<Region> &regions) { m_everyRegion = regions; }
 
 private:
+    QString refused(quint32 address) const
+    {
+        return isRefused(m_map, address, BusAccess::Read)
+                   ? QStringLiteral("error %1\n").arg(hex(address))
+                   : QString();
+    }
+
     const QVector<Region> &everyRegion() const { return m_everyRegion; }
 
     static QString netType(const Pin &pin)
@@ -221,6 +292,56 @@ private:
                 return QStringLiteral(" = 1'b1");
         }
         return {};
+    }
+
+    // What the top makes of the processor.
+    QString processorCheck() const
+    {
+        const Processor &processor = m_map.processor;
+        const auto sizeCode = [this](QLatin1String name) {
+            const Region *region = findRegion(m_map, name);
+            int code = 0;
+            while (region && quint64(512) << code < region->size())
+                ++code;
+            return code;
+        };
+        QString text;
+        const auto same = [&text](const char *parameter, int value) {
+            text += QStringLiteral("        same(dut.u_core.%1, %2);\n")
+                        .arg(QLatin1String(parameter))
+                        .arg(value);
+        };
+        same("NUM_IRQ", processor.interruptInputs);
+        same("OS", processor.hasOsExtension);
+        same("SMALL_MUL", processor.hasSmallMultiplier);
+        same("BE8", processor.isBigEndian);
+        same("DEBUG", processor.hasDebug);
+        same("JTAG", processor.hasJtag);
+        same("SW", processor.hasSerialWire);
+        same("SMALL_DEBUG", processor.hasSmallDebug);
+        same("ITCM_LA_EN", processor.itcmAtLowerAlias);
+        same("ITCM_UA_EN", processor.itcmAtUpperAlias);
+        same("ITCMSIZE", sizeCode(QLatin1String("ITCM")));
+        same("DTCMSIZE", sizeCode(QLatin1String("DTCM")));
+        return text;
+    }
+
+    QString refusedWrites() const
+    {
+        QString text;
+        const auto tryOut = [&](quint32 address) {
+            if (isRefused(m_map, address, BusAccess::Write))
+                text += QStringLiteral("        refused(%1);\n").arg(verilogWord(address));
+        };
+        for (const Region &region : everyRegion()) {
+            for (const quint32 address : {region.base, region.last - 3, region.last + 1})
+                tryOut(address);
+        }
+        for (const Region &region : m_map.regions) {
+            for (const quint32 address : {region.base, region.last - 3, region.last + 1})
+                tryOut(address);
+        }
+        return text;
     }
 
     QString interruptCheck(const InterruptLine &line) const
@@ -353,8 +474,23 @@ private Q_SLOTS:
     void initTestCase();
     void mapIsWhatTheRtlDoes_data();
     void mapIsWhatTheRtlDoes();
+    void mistakesAreFound_data();
+    void mistakesAreFound();
+    void cleanupTestCase();
 
 private:
+    struct Tried {
+        int regions = 0;
+        int interrupts = 0;
+        int lost = 0;
+        int nonMaskable = 0;
+        int ports = 0;
+        int boxes = 0;
+    };
+    void count(const SystemMap &map);
+    QString wrongAbout(const SystemMap &map) const;
+    Elaborated elaborate(const OptionMap &options, const DEV::DeviceArg &device,
+                         const QString &folder) const;
     QStringList sources(const OptionMap &options, const SystemMap &map,
                         const QString &folder) const;
 
@@ -365,7 +501,27 @@ private:
     SystemDescription m_description;
     QList<DEV::DeviceArg> m_devices;
     QVector<Region> m_everyRegion;
+    Tried m_tried;
 };
+
+void tst_SystemInRtl::count(const SystemMap &map)
+{
+    m_tried.regions += map.regions.size();
+    m_tried.ports += map.ports.size();
+    m_tried.boxes += map.blackBoxes.size();
+    for (const InterruptLine &line : map.interrupts) {
+        m_tried.interrupts += 1;
+        m_tried.lost += !line.lost.isEmpty();
+        m_tried.nonMaskable += line.number == InterruptLine::nonMaskable;
+    }
+}
+
+void tst_SystemInRtl::cleanupTestCase()
+{
+    qInfo("tried: %d regions, %d interrupts (%d lost, %d non-maskable), %d ports, %d black boxes",
+          m_tried.regions, m_tried.interrupts, m_tried.lost, m_tried.nonMaskable, m_tried.ports,
+          m_tried.boxes);
+}
 
 void tst_SystemInRtl::initTestCase()
 {
@@ -417,24 +573,102 @@ QStringList tst_SystemInRtl::sources(const OptionMap &options, const SystemMap &
     return list;
 }
 
-void tst_SystemInRtl::mapIsWhatTheRtlDoes()
+// `folder` has the include files.
+Elaborated tst_SystemInRtl::elaborate(const OptionMap &options, const DEV::DeviceArg &device,
+                                      const QString &folder) const
 {
-    QFETCH(int, draw);
-    Random random(m_seed * 100003u + unsigned(draw));
-    const DEV::DeviceArg device = m_devices.at(below(m_devices.size(), random));
-    const OptionMap options = anyOptions(device, random);
-    const SystemMap map = systemMap(options, device, m_description);
-    const QVector<Pin> pins = pinsOf(options, device.device());
+    QByteArray script;
+    const QStringList sources = buildSourceFiles(options, m_ipInfo, device.device(), folder);
+    for (const QString &source : sources)
+        script += "read_verilog -I. -I" + QFileInfo(source).path().toUtf8() + ' ' +
+                  source.toUtf8() + '\n';
+    script += "hierarchy -check -top Tarvo_ORIX_M1_Top\n"
+              "hierarchy -top Tarvo_ORIX_M1_Top -purge_lib\n"
+              "tee -q -o boxes.txt select -list =A:blackbox\n"
+              "blackbox *\nwrite_json ports.json\n";
+    const QDir dir(folder);
+    TestSupport::write(dir.filePath(QStringLiteral("elaborate.ys")), script);
+    Elaborated result;
+    const QString told =
+        run(QStringLiteral("yosys"),
+            {QStringLiteral("-q"), QStringLiteral("-s"), QStringLiteral("elaborate.ys")}, folder);
+    const QJsonObject top =
+        QJsonDocument::fromJson(TestSupport::contentsOf(dir.filePath(QStringLiteral("ports.json"))))
+            .object()
+            .value(QLatin1String("modules"))
+            .toObject()
+            .value(QLatin1String("Tarvo_ORIX_M1_Top"))
+            .toObject();
+    const QJsonObject ports = top.value(QLatin1String("ports")).toObject();
+    if (ports.isEmpty())
+        result.message = told;
+    for (auto it = ports.begin(); it != ports.end(); ++it) {
+        const QJsonObject port = it->toObject();
+        const int width = port.value(QLatin1String("bits")).toArray().size();
+        const int lowest = port.value(QLatin1String("offset")).toInt();
+        QString text = port.value(QLatin1String("direction")).toString();
+        if (width > 1 || lowest != 0 || port.contains(QLatin1String("upto")))
+            text += QStringLiteral(" [%1:%2]").arg(lowest + width - 1).arg(lowest);
+        result.ports.append(text + u' ' + it.key());
+    }
+    // "can_core", among lines such as "can_core/HCLK".
+    static const QRegularExpression name(QStringLiteral("^([^/\\n]+)$"),
+                                         QRegularExpression::MultilineOption);
+    const QString boxes =
+        QString::fromUtf8(TestSupport::contentsOf(dir.filePath(QStringLiteral("boxes.txt"))));
+    for (auto it = name.globalMatch(boxes); it.hasNext();)
+        result.boxes.append(it.next().captured(1));
+    result.ports.sort();
+    result.boxes.sort();
+    return result;
+}
 
+// What `map` says that the RTL of its configuration does not do; empty: nothing.
+QString tst_SystemInRtl::wrongAbout(const SystemMap &map) const
+{
+    const OptionMap &options = map.options;
+    const QString device = map.device.device();
+    const QVector<Pin> pins = pinsOf(options, device);
     const QTemporaryDir dir;
-    const QVector<IncludeFile> files = buildIncludeFiles(options, device);
+    const QVector<IncludeFile> files = buildIncludeFiles(options, map.device);
     for (const IncludeFile &file : files)
         TestSupport::write(dir.filePath(file.name), file.lines.join(u'\n').toUtf8() + '\n');
+    QStringList ports = portTexts(map.ports);
+    QStringList figures = pinTexts(pins);
+    QStringList boxes;
+    for (const BlackBox &box : map.blackBoxes) {
+        boxes.append(box.module);
+        if (!box.region.isEmpty() && !findRegion(map, box.region))
+            return QStringLiteral("no region of a black box: ") + box.region;
+    }
+    for (QStringList *list : {&ports, &figures, &boxes})
+        list->sort();
+    const Elaborated elaborated = elaborate(options, map.device, dir.path());
+    if (!elaborated.message.isEmpty())
+        return elaborated.message;
+    const auto unequal = [](const char *what, const QStringList &told, const QStringList &is) {
+        QStringList more = told;
+        QStringList less = is;
+        for (const QString &entry : is)
+            more.removeOne(entry);
+        for (const QString &entry : told)
+            less.removeOne(entry);
+        return more.isEmpty() && less.isEmpty()
+                   ? QString()
+                   : QStringLiteral("%1: not there: %2; not told: %3\n")
+                         .arg(QLatin1String(what), more.join(QLatin1String(", ")),
+                              less.join(QLatin1String(", ")));
+    };
+    const QString lists = unequal("figures", ports, figures) +
+                          unequal("ports", ports, elaborated.ports) +
+                          unequal("black boxes", boxes, elaborated.boxes);
+    if (!lists.isEmpty())
+        return lists;
+
     Bench bench(map, pins);
     bench.setEveryRegion(m_everyRegion);
     TestSupport::write(dir.filePath(QStringLiteral("tb.v")), bench.verilog().toUtf8());
     TestSupport::write(dir.filePath(QStringLiteral("play.txt")), bench.script().toUtf8());
-
     const QString rtl =
         m_ipInfo.value(isOn(options, Key::enableDebug) ? InfoKey::debug : InfoKey::noDebug)
             .toString();
@@ -452,12 +686,115 @@ void tst_SystemInRtl::mapIsWhatTheRtlDoes()
     const bool passed = told.contains(QRegularExpression(QStringLiteral("^PASS"),
                                                          QRegularExpression::MultilineOption)) &&
                         told.contains(QLatin1String("INTERRUPTS OK"));
-    if (!passed) {
-        QString text = device.id();
-        for (auto it = options.begin(); it != options.end(); ++it)
-            text += QStringLiteral("\n    %1=%2").arg(it.key(), it.value().toString());
-        QFAIL(qPrintable(compiled + told + text + u'\n' + bench.script()));
-    }
+    if (passed)
+        return {};
+    // The model of the processor tells the line of the script.
+    QString text = compiled + told;
+    const QStringList script = bench.script().split(u'\n');
+    static const QRegularExpression line(QStringLiteral("line (\\d+): "));
+    for (auto it = line.globalMatch(told); it.hasNext();)
+        text +=
+            QStringLiteral("failed: ") + script.value(it.next().captured(1).toInt() - 1) + u'\n';
+    return text;
+}
+
+void tst_SystemInRtl::mapIsWhatTheRtlDoes()
+{
+    QFETCH(int, draw);
+    Random random(m_seed * 100003u + unsigned(draw));
+    const DEV::DeviceArg device = m_devices.at(below(m_devices.size(), random));
+    const OptionMap options = anyOptions(device, random);
+    const SystemMap map = systemMap(options, device, m_description);
+    count(map);
+    const QString wrong = wrongAbout(map);
+    QString text = device.id();
+    for (auto it = options.begin(); it != options.end(); ++it)
+        text += QStringLiteral("\n    %1=%2").arg(it.key(), it.value().toString());
+    QVERIFY2(wrong.isEmpty(), qPrintable(text + u'\n' + wrong));
+}
+
+void tst_SystemInRtl::mistakesAreFound_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("wrong");
+    const auto row = [](const char *what, const char *wrong) {
+        QTest::newRow(what) << QString::fromLatin1(what) << QString::fromLatin1(wrong);
+    };
+    row("nothing", "");
+    row("a region too long", "failed: read 0x60300ffc");
+    row("a region too short", "failed: error 0x602ff000");
+    row("a region left out", "failed: error 0x50004000");
+    row("a register elsewhere", "failed: read 0x50004010");
+    row("another interrupt", "interrupt UART0: 0 0000");
+    row("an interrupt that is not lost", "interrupt TRNG: 0 0000");
+    row("another direction", "ports: not there: output UART0RXD; not told: input UART0RXD");
+    row("a port left out", "not told: output UART0TXD");
+    row("a black box left out", "black boxes: not there: ; not told: trng_core");
+    row("another black box", "black boxes: not there: trng; not told: trng_core");
+    row("another alias", "processor: 0, not 1");
+    row("another byte order", "processor: 0, not 1");
+    row("a memory of twice the size", "processor: 3, not 4");
+}
+
+// Maps that are wrong in one point do not pass.
+void tst_SystemInRtl::mistakesAreFound()
+{
+    QFETCH(QString, what);
+    QFETCH(QString, wrong);
+    const OptionMap options = {
+        {Key::enableUart0, true},
+        {Key::enableTrng, true},
+        {Key::itcmSize, 2},
+        {Key::dtcmSize, 2},
+        {Key::numberOfInterrupts, QStringLiteral("16")},
+        {Key::extensionPortKey(Key::enableApbMaster, 3), true},
+    };
+    SystemMap map = systemMap(options, m_devices.first(), m_description);
+    const auto region = [&map](const char *name) {
+        const auto found =
+            std::find_if(map.regions.begin(), map.regions.end(),
+                         [name](const Region &r) { return r.name == QLatin1String(name); });
+        Q_ASSERT(found != map.regions.end());
+        return found;
+    };
+    const auto interrupt = [&map](const char *name) {
+        const auto found =
+            std::find_if(map.interrupts.begin(), map.interrupts.end(),
+                         [name](const InterruptLine &l) { return l.name == QLatin1String(name); });
+        Q_ASSERT(found != map.interrupts.end());
+        return found;
+    };
+    const auto port = [&map](const char *name) {
+        const auto found = std::find_if(map.ports.begin(), map.ports.end(), [name](const Port &p) {
+            return p.name == QLatin1String(name);
+        });
+        Q_ASSERT(found != map.ports.end());
+        return found;
+    };
+    const QMap<QString, std::function<void()>> mistakes = {
+        {QStringLiteral("nothing"), [] {}},
+        {QStringLiteral("a region too long"), [&] { region("APB3")->last += 0x1000; }},
+        {QStringLiteral("a region too short"), [&] { region("APB3")->last -= 0x1000; }},
+        {QStringLiteral("a region left out"), [&] { map.regions.erase(region("UART0")); }},
+        {QStringLiteral("a register elsewhere"),
+         [&] { map.peripherals[0].registers.last().offset += 4; }},
+        {QStringLiteral("another interrupt"), [&] { interrupt("UART0")->number = 1; }},
+        {QStringLiteral("an interrupt that is not lost"), [&] { interrupt("TRNG")->lost.clear(); }},
+        {QStringLiteral("another direction"),
+         [&] { port("UART0RXD")->direction = PortDirection::Output; }},
+        {QStringLiteral("a port left out"), [&] { map.ports.erase(port("UART0TXD")); }},
+        {QStringLiteral("a black box left out"), [&] { map.blackBoxes.removeLast(); }},
+        {QStringLiteral("another black box"),
+         [&] { map.blackBoxes.last().module = QStringLiteral("trng"); }},
+        {QStringLiteral("another alias"), [&] { map.processor.itcmAtUpperAlias = true; }},
+        {QStringLiteral("another byte order"), [&] { map.processor.isBigEndian = true; }},
+        {QStringLiteral("a memory of twice the size"), [&] { region("DTCM")->last += 0x1000; }},
+    };
+    QVERIFY(mistakes.contains(what));
+    mistakes.value(what)();
+    const QString told = wrongAbout(map);
+    QCOMPARE(told.isEmpty(), wrong.isEmpty());
+    QVERIFY2(told.contains(wrong), qPrintable(told));
 }
 
 int main(int argc, char *argv[])
