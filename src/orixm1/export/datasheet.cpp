@@ -238,10 +238,11 @@ private:
     {
         heading(2, QStringLiteral("Memory map"));
         m_parts.append(m_memory);
-        paragraph(QStringLiteral(
-            "What lies in no region gives an error response. A region of registers is as large as "
-            "the block decodes; a memory behind a port or a controller may be smaller than its "
-            "region."));
+        paragraph("What lies in no region gives an error response, except for the processor's own "
+                  "registers from "_l1 +
+                  hexAddress(ownRegistersBase) + " to "_l1 + hexAddress(ownRegistersLast) +
+                  ". A region of registers is as large as the block decodes; a memory behind a "
+                  "port or a controller may be smaller than its region."_l1);
         Table table;
         table.columns = {{QStringLiteral("first")},      {QStringLiteral("last")},
                          {QStringLiteral("size"), true}, {QStringLiteral("name")},
@@ -288,52 +289,56 @@ private:
         paragraph(QStringLiteral(
             "Of the top module, by the block that they belong to. A pull-up is needed outside of "
             "the device or in the surrounding logic. A port without a clock is asynchronous."));
-        QStringList names;
+        // A bus that is led out stands by itself.
+        struct Group {
+            QString block;
+            QString bus;
+            QVector<const Port *> ports;
+        };
+        QVector<Group> groups;
         for (const Port &port : m_map.ports) {
-            if (!names.contains(port.block))
-                names.append(port.block);
+            auto group = std::find_if(groups.begin(), groups.end(), [&port](const Group &entry) {
+                return entry.block == port.block && entry.bus == port.bus;
+            });
+            if (group == groups.end())
+                group = groups.insert(groups.end(), {port.block, port.bus, {}});
+            group->ports.append(&port);
         }
-        for (const QString &block : qAsConst(names)) {
-            heading(3, block.isEmpty() ? QStringLiteral("Others") : block);
-            addPortsOf(block);
+        for (const Group &group : qAsConst(groups)) {
+            const QString block = group.block.isEmpty() ? QStringLiteral("Others") : group.block;
+            heading(3, group.bus.isEmpty() ? block : block + ", bus "_l1 + group.bus);
+            m_parts.append(portTable(group.ports, !group.bus.isEmpty()));
         }
     }
 
-    void addPortsOf(const QString &block)
+    static Table portTable(const QVector<const Port *> &ports, bool isBus)
     {
-        QVector<Port> ports;
-        for (const Port &port : m_map.ports) {
-            if (port.block == block)
-                ports.append(port);
-        }
-        const bool leadsBus = std::any_of(ports.begin(), ports.end(),
-                                          [](const Port &port) { return !port.bus.isEmpty(); });
         Table table;
         table.columns = {{QStringLiteral("port")},        {QStringLiteral("direction")},
                          {QStringLiteral("width"), true}, {QStringLiteral("polarity")},
                          {QStringLiteral("pull-up")},     {QStringLiteral("clock")},
                          {QStringLiteral("role")}};
-        if (leadsBus)
-            table.columns += {{QStringLiteral("bus")}, {QStringLiteral("signal")}};
+        if (isBus)
+            table.columns.append({QStringLiteral("signal of the bus")});
         table.columns.append({QStringLiteral("meaning")});
-        for (const Port &port : qAsConst(ports)) {
-            QString name = port.name;
-            if (port.isVector())
+        for (const Port *port : ports) {
+            QString name = port->name;
+            if (port->isVector())
                 name +=
-                    u'[' + QString::number(port.left) + u':' + QString::number(port.right) + u']';
+                    u'[' + QString::number(port->left) + u':' + QString::number(port->right) + u']';
             QVector<Text> row = {code(name),
-                                 Text(directionName(port.direction)),
-                                 Text(QString::number(port.width())),
-                                 Text(port.isActiveLow ? QStringLiteral("active low") : QString()),
-                                 Text(port.needsPullUp ? QStringLiteral("needed") : QString()),
-                                 code(port.clock),
-                                 Text(roleName(port.role))};
-            if (leadsBus)
-                row += {code(port.bus), code(port.signal)};
-            row.append(Text(port.text));
+                                 Text(directionName(port->direction)),
+                                 Text(QString::number(port->width())),
+                                 Text(port->isActiveLow ? QStringLiteral("active low") : QString()),
+                                 Text(port->needsPullUp ? QStringLiteral("needed") : QString()),
+                                 code(port->clock),
+                                 Text(roleName(port->role))};
+            if (isBus)
+                row.append(code(port->signal));
+            row.append(Text(port->text));
             table.rows.append(row);
         }
-        m_parts.append(table);
+        return table;
     }
 
     void addClocksAndResets()

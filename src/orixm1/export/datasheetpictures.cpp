@@ -381,29 +381,38 @@ Picture memoryPicture(const SystemMap &map)
     struct Line {
         quint32 base;
         quint64 size;
-        const Region *region; // null: nothing answers
+        QString name; // empty: nothing answers
+        QString kind;
+        Ink ink;
     };
     QVector<Line> lines;
+    for (const Region &region : map.regions)
+        lines.append({region.base, region.size(), region.name, shortKindName(region.kind),
+                      inkOf(region.kind)});
+    lines.append({ownRegistersBase, quint64(ownRegistersLast) - ownRegistersBase + 1,
+                  QStringLiteral("Cortex-M1"), QStringLiteral("its own"), Ink::On});
+    std::sort(lines.begin(), lines.end(),
+              [](const Line &one, const Line &other) { return one.base < other.base; });
     quint64 next = 0;
-    for (const Region &region : map.regions) {
-        if (region.base > next)
-            lines.append({quint32(next), region.base - next, nullptr});
-        lines.append({region.base, region.size(), &region});
-        next = quint64(region.last) + 1;
+    const auto addGap = [&](int index, quint64 end) {
+        if (end > next)
+            lines.insert(index, {quint32(next), end - next, {}, {}, Ink::Nothing});
+        return end > next;
+    };
+    for (int i = 0; i < lines.size(); ++i) {
+        if (addGap(i, lines.at(i).base))
+            ++i;
+        next = lines.at(i).base + lines.at(i).size;
     }
-    constexpr quint64 end = quint64(1) << 32;
-    if (next < end)
-        lines.append({quint32(next), end - next, nullptr});
+    addGap(lines.size(), quint64(1) << 32);
 
     int nameWidth = textWidth(QStringLiteral("error response"), detail);
     int kindWidth = 0;
     int sizeWidth = 0;
     for (const Line &line : qAsConst(lines)) {
         sizeWidth = std::max(sizeWidth, textWidth(sizeText(line.size), detail));
-        if (!line.region)
-            continue;
-        nameWidth = std::max(nameWidth, textWidth(line.region->name, fixedName));
-        kindWidth = std::max(kindWidth, textWidth(shortKindName(line.region->kind), detail));
+        nameWidth = std::max(nameWidth, textWidth(line.name, fixedName));
+        kindWidth = std::max(kindWidth, textWidth(line.kind, detail));
     }
     constexpr int lineHeight = 26;
     constexpr int inset = 8;
@@ -419,10 +428,10 @@ Picture memoryPicture(const SystemMap &map)
         const int y = margin + (i % rows) * lineHeight;
         const int boxLeft = x + addressWidth + inset;
         drawing.text(x, y + 17, hexAddress(line.base), fixedDetail);
-        if (line.region) {
-            drawing.box(boxLeft, y + 1, boxWidth, lineHeight - 2, inkOf(line.region->kind));
-            drawing.text(boxLeft + inset, y + 17, line.region->name, fixedName);
-            drawing.text(boxLeft + boxWidth - inset, y + 17, shortKindName(line.region->kind),
+        if (!line.name.isEmpty()) {
+            drawing.box(boxLeft, y + 1, boxWidth, lineHeight - 2, line.ink);
+            drawing.text(boxLeft + inset, y + 17, line.name, fixedName);
+            drawing.text(boxLeft + boxWidth - inset, y + 17, line.kind,
                          {11, false, false, Ink::Text}, Anchor::End);
         } else {
             drawing.box(boxLeft, y + 1, boxWidth, lineHeight - 2, Ink::Nothing, Ink::Line, true);

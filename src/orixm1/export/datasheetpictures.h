@@ -6,6 +6,11 @@
 namespace TARVOORIXM1
 {
 
+// Where the processor's own registers answer, which are of no map: the interrupt controller and the
+// like.
+constexpr quint32 ownRegistersBase = 0xE0000000;
+constexpr quint32 ownRegistersLast = 0xE00FFFFF;
+
 // The blocks of the subsystem on their buses: those that are on and those that are not.
 Document::Picture blockPicture(const SystemMap &map);
 

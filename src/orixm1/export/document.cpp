@@ -14,9 +14,19 @@ namespace
 
 using namespace Document;
 
+bool isControl(ushort code)
+{
+    return code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x2028 || code == 0x2029;
+}
+
 // Without line ends and what else no document can hold.
 QString shown(const QString &text)
 {
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](QChar c) {
+        return !isControl(c.unicode()) && !c.isSurrogate() && c.unicode() < 0xFFFE;
+    });
+    if (isPlain)
+        return text.trimmed();
     QString line;
     line.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
@@ -29,10 +39,7 @@ QString shown(const QString &text)
         } else if (c.isSurrogate() || c.unicode() >= 0xFFFE) {
             line += QChar(QChar::ReplacementCharacter);
         } else {
-            line += c.category() == QChar::Other_Control || c.unicode() == 0x2028 ||
-                            c.unicode() == 0x2029
-                        ? QChar(u' ')
-                        : c;
+            line += isControl(c.unicode()) ? QChar(u' ') : c;
         }
     }
     return line.trimmed();
@@ -41,7 +48,23 @@ QString shown(const QString &text)
 // Characters that mean something anywhere in a line.
 bool isMarkup(QChar c)
 {
-    return QStringLiteral("\\`*_[]<>|&~#").contains(c);
+    switch (c.unicode()) {
+    case u'\\':
+    case u'`':
+    case u'*':
+    case u'_':
+    case u'[':
+    case u']':
+    case u'<':
+    case u'>':
+    case u'|':
+    case u'&':
+    case u'~':
+    case u'#':
+        return true;
+    default:
+        return false;
+    }
 }
 
 QString markdownText(const Text &content)
@@ -61,9 +84,13 @@ QString markdownText(const Text &content)
         escaped += c;
     }
     // An address of the net would become a link.
-    escaped.replace("://"_l1, ":\\//"_l1);
-    escaped.replace("www."_l1, "www\\."_l1);
-    return content.style == Text::Strong ? "**"_l1 + escaped + "**"_l1 : escaped;
+    if (escaped.contains("://"_l1))
+        escaped.replace("://"_l1, ":\\//"_l1);
+    if (escaped.contains("www."_l1))
+        escaped.replace("www."_l1, "www\\."_l1);
+    if (content.style == Text::Strong)
+        return "**"_l1 + escaped + "**"_l1;
+    return escaped;
 }
 
 // What would begin a list or an underline as the first thing in a line.
@@ -206,13 +233,22 @@ public:
                 ? "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">\n"_l1
                 : "<div class=\"table\">\n<table>\n"_l1;
         m_out += "<thead>\n<tr>"_l1;
-        for (const Table::Column &column : table.columns)
-            m_out += cell("th"_l1, column, escapedXml(column.title));
+        for (const Table::Column &column : table.columns) {
+            m_out += "<th"_l1;
+            if (m_isPrinted)
+                m_out += " bgcolor=\"#eef1f5\""_l1;
+            m_out += alignment(column);
+            m_out += u'>' + escapedXml(column.title) + "</th>"_l1;
+        }
         m_out += "</tr>\n</thead>\n<tbody>\n"_l1;
         for (const QVector<Text> &row : table.rows) {
             m_out += "<tr>"_l1;
-            for (int i = 0; i < row.size(); ++i)
-                m_out += cell("td"_l1, table.columns.at(i), html(row.at(i)));
+            for (int i = 0; i < row.size(); ++i) {
+                m_out += "<td"_l1;
+                if (table.columns.at(i).isNumeric)
+                    m_out += alignment(table.columns.at(i));
+                m_out += u'>' + html(row.at(i)) + "</td>"_l1;
+            }
             m_out += "</tr>\n"_l1;
         }
         m_out += m_isPrinted ? "</tbody>\n</table>\n"_l1 : "</tbody>\n</table>\n</div>\n"_l1;
@@ -244,16 +280,11 @@ private:
         return text;
     }
 
-    QString cell(QLatin1String tag, const Table::Column &column, const QString &content) const
+    QLatin1String alignment(const Table::Column &column) const
     {
-        QString look;
-        if (column.isNumeric)
-            look = m_isPrinted ? " align=\"right\""_l1 : " class=\"number\""_l1;
-        else if (m_isPrinted && tag == "th"_l1)
-            look = " align=\"left\""_l1;
-        if (m_isPrinted && tag == "th"_l1)
-            look += " bgcolor=\"#eef1f5\""_l1;
-        return u'<' + tag + look + u'>' + content + "</"_l1 + tag + u'>';
+        if (m_isPrinted)
+            return column.isNumeric ? " align=\"right\""_l1 : " align=\"left\""_l1;
+        return column.isNumeric ? " class=\"number\""_l1 : QLatin1String();
     }
 
     void writeContents()
@@ -277,7 +308,11 @@ private:
 
 QString escapedXml(const QString &text)
 {
-    return shown(text).toHtmlEscaped();
+    const QString line = shown(text);
+    const bool isPlain = std::none_of(line.begin(), line.end(), [](QChar c) {
+        return c == u'<' || c == u'>' || c == u'&' || c == u'"';
+    });
+    return isPlain ? line : line.toHtmlEscaped();
 }
 
 QByteArray markdownOf(const Parts &parts)
