@@ -254,17 +254,17 @@ private:
                                Text(regionKindName(region.kind)), Text(region.bus),
                                region.ports.isEmpty() ? Text() : code(region.ports + u'\u2026'),
                                Text(region.text)});
-        addTable(table, QStringLiteral("This configuration has no region: every access gives an "
-                                       "error response."));
+        addTable(table, QStringLiteral("This configuration has no region."));
     }
 
     void addInterrupts()
     {
         heading(2, QStringLiteral("Interrupts"));
         m_parts.append(m_interrupts);
-        paragraph("The processor has "_l1 + QString::number(m_map.processor.interruptInputs) +
-                  " interrupt inputs and the non-maskable interrupt (NMI), which has no "
-                  "number."_l1);
+        const int inputs = m_map.processor.interruptInputs;
+        paragraph("The processor has "_l1 + QString::number(inputs) +
+                  (inputs == 1 ? " interrupt input"_l1 : " interrupt inputs"_l1) +
+                  " and the non-maskable interrupt (NMI), which has no number."_l1);
         Table table;
         table.columns = {{QStringLiteral("number"), true},
                          {QStringLiteral("name")},

@@ -118,8 +118,8 @@ private:
                        processor.hasOsExtension ? QStringLiteral("with OS extension")
                                                 : QStringLiteral("without OS extension"),
                        detail, Anchor::Middle);
-        const int inputs = processor.interruptInputs;
-        drawInput(coreLeft + 60, "IRQ["_l1 + QString::number(inputs - 1) + ":0]"_l1, true);
+        drawInput(coreLeft + 60, inputText(processor.interruptInputs),
+                  processor.interruptInputs > 0);
         drawInput(coreLeft + coreWidth - 60, debugText(), processor.hasDebug);
         drawMemory(0x00000000, QStringLiteral("instruction memory"), margin);
         drawMemory(0x20000000, QStringLiteral("data memory"), width - margin - memoryWidth);
@@ -127,6 +127,14 @@ private:
         m_drawing.tip(middle, coreBottom + 56, middle, coreBottom);
         m_drawing.tip(middle, coreBottom, middle, coreBottom + 56);
         m_drawing.text(middle + 8, coreBottom + 32, QStringLiteral("AHB-Lite"), detail);
+    }
+
+    static QString inputText(int inputs)
+    {
+        if (inputs < 1)
+            return QStringLiteral("no IRQ");
+        return inputs == 1 ? QStringLiteral("IRQ[0]")
+                           : "IRQ["_l1 + QString::number(inputs - 1) + ":0]"_l1;
     }
 
     QString debugText() const
@@ -311,6 +319,9 @@ private:
 // How many lines a column of a picture has before a second one begins, so that it fits a page.
 constexpr int longestColumn = 30;
 
+// Of an ARMv6-M processor.
+constexpr int mostInputs = 32;
+
 // The height of each of the columns in lines.
 int columnHeight(int lines)
 {
@@ -453,19 +464,25 @@ Picture memoryPicture(const SystemMap &map)
 
 Picture interruptPicture(const SystemMap &map)
 {
-    int last = map.processor.interruptInputs - 1;
+    // A number that no processor has would be a picture that nobody can look at.
+    const int inputs = std::min(map.processor.interruptInputs, mostInputs);
+    QVector<int> numbers{InterruptLine::nonMaskable};
+    for (int i = 0; i < inputs; ++i)
+        numbers.append(i);
     QString longest = QStringLiteral("not connected");
     int nameWidth = textWidth(longest, detail);
     for (const InterruptLine &line : map.interrupts) {
-        last = std::max(last, line.number);
         nameWidth = std::max(nameWidth, textWidth(line.name, fixedName));
+        if (!numbers.contains(line.number))
+            numbers.append(line.number);
     }
+    std::sort(numbers.begin(), numbers.end());
     constexpr int lineHeight = 26;
     constexpr int arrow = 74;
     constexpr int input = 46;
     const int boxWidth = nameWidth + 16;
     const int columnWidth = boxWidth + arrow + input;
-    const int total = last + 2; // the non-maskable one first
+    const int total = numbers.size();
     const int rows = total > 18 ? (total + 1) / 2 : total;
     const int columns = total > rows ? 2 : 1;
     constexpr int top = margin + 22;
@@ -476,7 +493,7 @@ Picture interruptPicture(const SystemMap &map)
         drawing.text(x + columnWidth, margin + 10, QStringLiteral("Cortex-M1"), label, Anchor::End);
     }
     for (int i = 0; i < total; ++i) {
-        const int number = i - 1;
+        const int number = numbers.at(i);
         const int x = margin + (i / rows) * (columnWidth + 36);
         const int y = top + (i % rows) * lineHeight;
         const int middle = y + lineHeight / 2;
@@ -486,7 +503,7 @@ Picture interruptPicture(const SystemMap &map)
                          [number](const InterruptLine &entry) { return entry.number == number; });
         const bool isUsed = line != map.interrupts.end();
         const bool isLost = isUsed && !line->lost.isEmpty();
-        const bool exists = number < map.processor.interruptInputs;
+        const bool exists = number < inputs;
         if (exists)
             drawing.box(inputLeft, y, input, lineHeight, isUsed ? Ink::On : Ink::Nothing);
         else
@@ -496,9 +513,7 @@ Picture interruptPicture(const SystemMap &map)
                                                           : QString::number(number),
                      isUsed && exists ? fixedName : fixedDetail, Anchor::Middle);
         if (!isUsed) {
-            drawing.text(x + 8, y + 17,
-                         exists ? QStringLiteral("not connected") : QStringLiteral("no input"),
-                         detail);
+            drawing.text(x + 8, y + 17, QStringLiteral("not connected"), detail);
             continue;
         }
         drawing.box(x, y + 2, boxWidth, lineHeight - 4, Ink::Registers,

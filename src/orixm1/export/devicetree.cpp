@@ -408,7 +408,8 @@ private:
         m_out.comment(QStringLiteral("number and priority"));
         m_out.setNumber("#interrupt-cells"_l1, 2);
         m_out.setNumber("arm,num-irq-priority-bits"_l1, quint32(m_map.processor.priorityBits));
-        m_out.setNumber("tarvo,interrupt-inputs"_l1, quint32(m_map.processor.interruptInputs));
+        m_out.setNumber("tarvo,interrupt-inputs"_l1,
+                        quint32(std::max(m_map.processor.interruptInputs, 0)));
         m_out.close();
         m_out.close();
     }

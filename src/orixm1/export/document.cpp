@@ -183,6 +183,9 @@ constexpr QLatin1String styleSheet =
     "  h1, h2, h3 { break-after: avoid; }\n"
     "}\n"_l1;
 
+// Pixels of 96 an inch that a page of A4 has between its margins.
+constexpr int printedWidth = 640;
+
 class HtmlWriter
 {
 public:
@@ -204,7 +207,8 @@ public:
         m_out += "<title>"_l1 + title + "</title>\n"_l1;
         if (!m_isPrinted)
             m_out += "<style>\n"_l1 + styleSheet + "</style>\n"_l1;
-        m_out += "</head>\n<body>\n"_l1;
+        m_out +=
+            m_isPrinted ? "</head>\n<body style=\"font-size: 9pt\">\n"_l1 : "</head>\n<body>\n"_l1;
     }
 
     QByteArray page() { return (m_out + "</body>\n</html>\n"_l1).toUtf8(); }
@@ -230,7 +234,7 @@ public:
     {
         m_out +=
             m_isPrinted
-                ? "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">\n"_l1
+                ? "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\" style=\"font-size: 7pt\">\n"_l1
                 : "<div class=\"table\">\n<table>\n"_l1;
         m_out += "<thead>\n<tr>"_l1;
         for (const Table::Column &column : table.columns) {
@@ -255,12 +259,18 @@ public:
     }
     void operator()(const Picture &picture)
     {
-        const QString source = m_isPrinted ? escapedXml(picture.file)
-                                           : "data:image/svg+xml;base64,"_l1 +
-                                                 QString::fromLatin1(picture.svg.toBase64());
-        m_out += "<p class=\"picture\"><img src=\""_l1 + source + "\" alt=\""_l1 +
-                 escapedXml(picture.text) + "\" width=\""_l1 + QString::number(picture.width) +
-                 "\" height=\""_l1 + QString::number(picture.height) + "\"/></p>\n"_l1;
+        // Rich text does not make a picture fit by itself.
+        const bool isTooWide = m_isPrinted && picture.width > printedWidth;
+        const int width = isTooWide ? printedWidth : picture.width;
+        const int height = picture.height * width / std::max(picture.width, 1);
+        m_out += "<p class=\"picture\"><img src=\""_l1;
+        if (m_isPrinted)
+            m_out += escapedXml(picture.file);
+        else
+            m_out += "data:image/svg+xml;base64,"_l1 + QLatin1String(picture.svg.toBase64());
+        m_out += "\" alt=\""_l1 + escapedXml(picture.text) + "\" width=\""_l1 +
+                 QString::number(width) + "\" height=\""_l1 + QString::number(height) +
+                 "\"/></p>\n"_l1;
     }
 
 private:

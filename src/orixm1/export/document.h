@@ -65,7 +65,8 @@ QByteArray markdownOf(const Document::Parts &parts);
 // How the page is going to be read.
 enum class HtmlStyle {
     Screen,  // by a browser: one file with everything in it, follows light and dark, prints well
-    Printed, // by Qt's rich text: HTML 4 without a style sheet, pictures by their file names
+    Printed, // by Qt's rich text, for A4: HTML 4 without a style sheet, pictures by their file
+             // names
 };
 
 // A complete page, well-formed as XML too, whose title is the first heading.

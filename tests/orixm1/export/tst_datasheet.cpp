@@ -113,6 +113,7 @@ private Q_SLOTS:
     void pageNeedsNoOtherFile();
     void printedPageNamesThePictures();
     void breaksLongTextsIntoLines();
+    void takesNumbersThatNoProcessorHas();
 
 private:
     SystemMap map(const OptionMap &options) const
@@ -675,6 +676,22 @@ void tst_Datasheet::breaksLongTextsIntoLines()
     QCOMPARE(lines.join(QString()), QString(40, u'm'));
     for (const QString &line : lines)
         QVERIFY(textWidth(line, letters) <= width);
+}
+
+void tst_Datasheet::takesNumbersThatNoProcessorHas()
+{
+    for (const int inputs : {-2147483647 - 1, -1, 0, 33, 2147483647}) {
+        const SystemMap made =
+            map({{Key::numberOfInterrupts, inputs}, {Key::externalInterrupts, true}});
+        const QByteArray picture =
+            fileOf(datasheetOf(made), "datasheet/tarvo_orix_m1_interrupts.svg");
+        QXmlStreamReader xml(picture);
+        while (!xml.atEnd())
+            xml.readNext();
+        QCOMPARE(mistakeOf(xml), QString());
+        QVERIFY(picture.contains(">EXTINT3</text>"));
+        QVERIFY(picture.size() < 40000);
+    }
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Datasheet)
