@@ -263,7 +263,7 @@ private:
                 std::find_if(m_map.ports.begin(), m_map.ports.end(),
                              [&source](const Port &entry) { return entry.name == source.port; });
             // The debugger's clock serves nothing that software sees.
-            if (port != m_map.ports.end() && port->role != PortRole::Clock)
+            if (port != m_map.ports.end() && port->role == PortRole::Debug)
                 continue;
             m_clocks.append({source.port, m_labels.unique(source.port),
                              port == m_map.ports.end() ? QString() : port->block, source.text});

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void overlayChangesWhatTheBoardDecides();
     void takesAnyNameAndText();
     void interruptsFromOutsideStandTogether();
+    void namesTheClocksOfTheBoard();
 
 private:
     SystemMap map(const OptionMap &options) const
@@ -267,6 +268,31 @@ void tst_DeviceTree::interruptsFromOutsideStandTogether()
         QCOMPARE(read(folder.path(), {node, QStringLiteral("interrupt-names")}).value(0),
                  QLatin1String(names));
     }
+}
+
+// All but the debugger's; a block has those that its ports bring beside the main one.
+void tst_DeviceTree::namesTheClocksOfTheBoard()
+{
+    const SystemMap made = map({{Key::enableRtc, true}, {Key::enableSpi, true}});
+    QVERIFY(made.processor.hasDebug);
+    const QTemporaryDir folder;
+    QCOMPARE(compile(made, folder.path()), QString());
+    QStringList clocks;
+    const QStringList nodes =
+        HandedOn::said(QStringLiteral("fdtget"),
+                       {QStringLiteral("-l"), QStringLiteral("whole.dtb"), QStringLiteral("/")},
+                       folder.path())
+            .split(u'\n');
+    for (const QString &node : nodes) {
+        if (node.startsWith(QLatin1String("clock-")))
+            clocks.append(
+                read(folder.path(), {u'/' + node, QStringLiteral("clock-output-names")}).value(0));
+    }
+    QCOMPARE(clocks, QStringList({QStringLiteral("HCLK"), QStringLiteral("RTCSRCCLK")}));
+    QCOMPARE(
+        read(folder.path(), {QStringLiteral("/soc/rtc@50006000"), QStringLiteral("clock-names"),
+                             QStringLiteral("/soc/spi@5000d000"), QStringLiteral("clock-names")}),
+        QStringList({QStringLiteral("hclk rtcsrcclk"), QStringLiteral("none"), QString()}));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_DeviceTree)
