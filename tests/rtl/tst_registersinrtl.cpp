@@ -170,7 +170,7 @@ private:
         m_text = QStringLiteral("module tb;\n`include \"bench.vh\"\n"
                                 "    reg [15:0] act;\n"
                                 "    always @(posedge clk) act <= rstn ? act + 16'd1 : 16'd0;\n"
-                                "    reg [31:0] seen [0:31], before [0:31];\n"
+                                "    reg [31:0] seen [0:255], before [0:255];\n"
                                 "    reg [31:0] gained, lost;\n"
                                 "    integer k;\n");
         instantiate(pins);
@@ -416,7 +416,7 @@ private:
     void readEffects(const Register &entry)
     {
         const auto read = [this](quint32 offset) {
-            return QStringLiteral("see(31, %1);").arg(word(address(offset)));
+            return QStringLiteral("see(255, %1);").arg(word(address(offset)));
         };
         forget();
         for (const quint32 pattern : livelyPatterns())

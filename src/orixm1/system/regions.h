@@ -20,7 +20,7 @@ enum class RegionKind {
 };
 
 // A range of addresses that one block answers. What lies in no region of a configuration gives an
-// error response.
+// error response (isRefused()).
 struct Region {
     QString name; // unique in a map and an identifier of C: "ITCM", "UART0", "AHB3"
     quint32 base = 0;
