@@ -643,7 +643,9 @@ void tst_Datasheet::pageNeedsNoOtherFile()
 
 void tst_Datasheet::printedPageNamesThePictures()
 {
-    const SystemMap made = map({{Key::enableGpio, true}});
+    SystemMap made = map({{Key::enableGpio, true}});
+    // Wider than a page.
+    made.regions.last().name = QString(90, u'A');
     const QVector<ExportedFile> files = datasheetOf(made);
     QXmlStreamReader xml(datasheetHtml(made, DatasheetStyle::Printed));
     QStringList names;
@@ -651,8 +653,11 @@ void tst_Datasheet::printedPageNamesThePictures()
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         QVERIFY(xml.name() != QLatin1String("style") && xml.name() != QLatin1String("svg"));
-        if (xml.name() == QLatin1String("img"))
-            names.append(xml.attributes().value(QLatin1String("src")).toString());
+        if (xml.name() != QLatin1String("img"))
+            continue;
+        const int width = xml.attributes().value(QLatin1String("width")).toInt();
+        QVERIFY(width > 0 && width <= 640);
+        names.append(xml.attributes().value(QLatin1String("src")).toString());
     }
     QCOMPARE(mistakeOf(xml), QString());
     QCOMPARE(names.size(), 3);
