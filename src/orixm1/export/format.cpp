@@ -1,6 +1,8 @@
 #include "format.h"
 
 #include "config/latin1literal.h"
+#include "datasheet.h"
+#include "devicetree.h"
 #include "header.h"
 #include "svd.h"
 #include "linker.h"
@@ -29,6 +31,13 @@ constexpr Format rows[] = {
      "Vector table and weak handlers of the interrupts that arrive, and what runs before "
      "main()."_l1,
      "C99"_l1, "arm-none-eabi-gcc, clang, qemu-system-arm"_l1, startupFiles},
+    {"devicetree"_l1, "tarvo_orix_m1.dtsi, tarvo_orix_m1-overlay.dts"_l1, "Device tree"_l1,
+     "Processor, memories, blocks and interrupts for operating systems that read a tree, and the "
+     "skeleton of a board's overlay."_l1,
+     "Devicetree 0.4"_l1, "dtc, fdtoverlay"_l1, devicetreeFiles},
+    {"datasheet"_l1, "datasheet/tarvo_orix_m1.md, datasheet/tarvo_orix_m1.html"_l1, "Datasheet"_l1,
+     "Diagram, memory and interrupt maps, ports, clocks and registers for people."_l1,
+     "CommonMark with GFM tables, HTML, SVG"_l1, "cmark-gfm, xmllint"_l1, datasheetFiles},
 };
 
 } // namespace

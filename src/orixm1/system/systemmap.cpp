@@ -43,7 +43,7 @@ QVector<Region> registerRegions(const QVector<Peripheral> &peripherals)
             region.kind = RegionKind::Registers;
             region.bus = peripheral.bus;
             region.option = instance.option;
-            region.text = peripheral.text;
+            region.text = instance.text.isEmpty() ? peripheral.text : instance.text;
             regions.append(region);
         }
     }

@@ -6,6 +6,8 @@
 
 #include <dev/devicearg.h>
 
+#include <optional>
+
 namespace TARVOORIXM1
 {
 
@@ -36,6 +38,19 @@ struct InterruptLine {
     QString lost;   // why it never reaches the processor, as a part of a sentence; empty if it does
 };
 
+// Something that a device has in a limited number, and what a netlist takes of it.
+struct ResourceLine {
+    QString name; // "LUT4"
+    int used = 0;
+    int available = -1; // -1: not known
+};
+
+// What a run of synthesis found.
+struct ResourceFigures {
+    QVector<ResourceLine> lines;
+    QString notCounted; // a sentence of what the lines leave out; empty: nothing
+};
+
 // Everything that software and integration need to know of one configured subsystem. A plain value
 // that is made once; every document and hand-off file is a function of it.
 struct SystemMap {
@@ -50,6 +65,8 @@ struct SystemMap {
     QVector<ExternalSource> resets;
     QVector<BlackBox> blackBoxes;
     QVector<FirmwareFile> firmware; // for the peripherals that are on, by name
+    // Of a netlist of this configuration: whoever has one sets them, systemMap() knows none.
+    std::optional<ResourceFigures> resources;
 };
 
 // Reads nothing and never fails: values that no option may have are taken as generation takes them.
