@@ -74,6 +74,20 @@ static sd_result release(SD_Type *sd, const sd_card *card, sd_result result)
     return result != SD_OK ? result : released;
 }
 
+/* The card's byte other than idle (or, with busy, than 0), within the limit. */
+static sd_result wait_for_card(SD_Type *sd, const sd_card *card, bool busy, uint8_t *byte)
+{
+    uint32_t tries = card->tries;
+    do {
+        const sd_result result = exchange(sd, card, idle, byte);
+        if (result != SD_OK)
+            return result;
+        if (busy ? *byte == idle : *byte != idle)
+            return SD_OK;
+    } while (tries-- > 1u);
+    return SD_ERROR_TIMEOUT;
+}
+
 /* Selects the card and sends a command; *answer is the first byte of the card's answer. The card
  * stays selected. */
 static sd_result command(SD_Type *sd, const sd_card *card, uint8_t number, uint32_t argument,
@@ -88,8 +102,12 @@ static sd_result command(SD_Type *sd, const sd_card *card, uint8_t number, uint3
     frame[3] = (uint8_t)((argument >> 8) & 0xFFu);
     frame[4] = (uint8_t)(argument & 0xFFu);
     frame[5] = (uint8_t)(((uint32_t)sd_crc7(frame, 5u) << 1) | 1u);
+    if (!wait_while_busy(sd, card->polls)) /* within a byte the card would lose its place */
+        return SD_ERROR_TIMEOUT;
     set_ctrl(sd, sd->CTRL | SD_CTRL_SELECT_Msk);
-    result = send(sd, card, idle);
+    result = wait_for_card(sd, card, true, answer);
+    if (result != SD_OK && number == 0u) /* a reset is for a card in any state */
+        result = SD_OK;
     for (i = 0; i < 6 && result == SD_OK; ++i)
         result = send(sd, card, frame[i]);
     if (result != SD_OK)
@@ -143,20 +161,6 @@ static sd_result start(SD_Type *sd, const sd_card *card, uint32_t argument)
             return SD_OK;
         if (answer != answer_idle)
             return SD_ERROR_REFUSED;
-    } while (tries-- > 1u);
-    return SD_ERROR_TIMEOUT;
-}
-
-/* The card's byte other than idle (or, with busy, than 0), within the limit. */
-static sd_result wait_for_card(SD_Type *sd, const sd_card *card, bool busy, uint8_t *byte)
-{
-    uint32_t tries = card->tries;
-    do {
-        const sd_result result = exchange(sd, card, idle, byte);
-        if (result != SD_OK)
-            return result;
-        if (busy ? *byte == idle : *byte != idle)
-            return SD_OK;
     } while (tries-- > 1u);
     return SD_ERROR_TIMEOUT;
 }

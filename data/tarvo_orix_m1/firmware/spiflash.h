@@ -24,9 +24,10 @@ extern "C" {
 #define SPIFLASH_SECTOR_SIZE 4096u    /* bytes that spiflash_erase_sector() erases */
 #define SPIFLASH_PAGE_SIZE 256u       /* bytes of a page */
 
-#define SPIFLASH_FLAG_WORKING 0x01u  /* of spiflash_status(): the flash erases or programs */
-#define SPIFLASH_FLAG_WRITABLE 0x02u /* of spiflash_status(): spiflash_write_enable() had effect   \
-                                      */
+#define SPIFLASH_FLAG_WORKING 0x01u /* of spiflash_status(): the flash erases or programs */
+#define SPIFLASH_FLAG_WRITABLE                                                                     \
+    0x02u /* of spiflash_status(): spiflash_write_enable() had effect                              \
+           */
 
 typedef enum {
     SPIFLASH_OK = 0,
