@@ -3,10 +3,11 @@
 #include "config/latin1literal.h"
 #include "datasheet.h"
 #include "devicetree.h"
+#include "drivers.h"
 #include "header.h"
-#include "svd.h"
 #include "linker.h"
 #include "startup.h"
+#include "svd.h"
 
 #include <algorithm>
 
@@ -31,6 +32,9 @@ constexpr Format rows[] = {
      "Vector table and weak handlers of the interrupts that arrive, and what runs before "
      "main()."_l1,
      "C99"_l1, "arm-none-eabi-gcc, clang, qemu-system-arm"_l1, startupFiles},
+    {"drivers"_l1, "drivers"_l1, "Drivers"_l1,
+     "Functions for each block that is on; they need the device header and no library."_l1,
+     "C99, C++11"_l1, "gcc, g++, clang, arm-none-eabi-gcc"_l1, driverFiles},
     {"devicetree"_l1, "tarvo_orix_m1.dtsi, tarvo_orix_m1-overlay.dts"_l1, "Device tree"_l1,
      "Processor, memories, blocks and interrupts for operating systems that read a tree, and the "
      "skeleton of a board's overlay."_l1,

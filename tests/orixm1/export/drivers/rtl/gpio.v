@@ -1,0 +1,24 @@
+// Sixteen pins: those that are driven read back, the others are given from outside.
+module tb;
+`include "bench.vh"
+`include "ahb_bus.vh"
+    wire [15:0] out, outen;
+    wire        irq;
+    reg  [15:0] outside = 16'd0;
+    ahb_gpio dut (.HCLK(clk), .HRESETn(rstn), .HSEL(haddr[31:24] == 8'h40), .HADDR(haddr[23:0]), .HTRANS(htrans),
+                  .HSIZE(hsize), .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata),
+                  .HREADYOUT(hready), .HRESP(hresp), .gpio_in((out & outen) | (outside & ~outen)), .gpio_out(out),
+                  .gpio_outen(outen), .irq(irq));
+
+    task far_write(input [31:0] index, input [31:0] value);
+        if (index == 0) begin outside = value[15:0]; cycles(4); end
+    endtask
+    task far_read(input [31:0] index);
+        case (index)
+            0: rd = irq;
+            1: rd = out;
+            2: rd = outen;
+        endcase
+    endtask
+`include "serve.vh"
+endmodule

@@ -1,0 +1,28 @@
+// When the interrupt and the reset come after the count was begun.
+module tb;
+`include "bench.vh"
+`include "apb_bus.vh"
+    wire nmi, reset_req;
+    apb_watchdog dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
+                      .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
+                      .nmi(nmi), .reset_req(reset_req));
+    time    begun = 0, after_nmi = 0, after_reset = 0;
+    integer resets = 0;
+    always @(posedge dut.ctrl[0]) begun = $time;
+    always @(posedge clk) if (dut.kick && dut.ctrl[0]) begun = $time;
+    always @(posedge nmi) after_nmi = $time - begun;
+    always @(posedge reset_req) begin after_reset = $time - begun; resets = resets + 1; end
+
+    task far_write(input [31:0] index, input [31:0] value);
+        check(1'b0, "nothing to write");
+    endtask
+    task far_read(input [31:0] index);
+        case (index)
+            0: rd = nmi;
+            1: rd = after_nmi / 10;
+            2: rd = resets;
+            3: rd = after_reset / 10;
+        endcase
+    endtask
+`include "serve.vh"
+endmodule

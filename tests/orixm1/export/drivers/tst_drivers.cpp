@@ -1,0 +1,240 @@
+// The drivers as text: what compilers say of them, which of them a configuration gets, and that the
+// guide to them names what they offer.
+
+#include "driverfiles.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+// The public functions of a driver's header, in its order.
+QStringList functionsOf(const QString &header)
+{
+    static const QRegularExpression declaration(
+        QStringLiteral("^[a-z][A-Za-z0-9_ ]*[ ]([a-z0-9]+_[a-z0-9_]+)\\("),
+        QRegularExpression::MultilineOption);
+    QStringList names;
+    auto found = declaration.globalMatch(header);
+    while (found.hasNext())
+        names << found.next().captured(1);
+    return names;
+}
+
+QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+QStringList pathsOf(const SystemMap &map)
+{
+    QStringList paths;
+    for (const ExportedFile &file : findFormat(QStringLiteral("drivers"))->files(map))
+        paths << file.path;
+    return paths;
+}
+
+} // namespace
+
+class tst_Drivers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyPeripheralHasADriver();
+    void onlyThoseOfTheBlocksThatAreOn();
+    void filesAreThoseOfTheDataFolder();
+    void everyCompilerTakesThemSilently_data();
+    void everyCompilerTakesThemSilently();
+    void needNothingOfALibrary_data();
+    void needNothingOfALibrary();
+    void twoUnitsMayIncludeAllOfThem();
+    void theGuideNamesEveryFunction();
+
+private:
+    QString compiled(const QString &command) const;
+    SystemDescription m_description;
+    SystemMap m_map;
+    QTemporaryDir m_folder;
+    QStringList m_names; // of the drivers: "uart"
+};
+
+void tst_Drivers::initTestCase()
+{
+    const auto description = readSystemDescription(QStringLiteral(TARVO_IP_DATA_DIR));
+    QVERIFY2(description, qPrintable(description.reason()));
+    m_description = *description;
+    m_map = DriverFiles::systemMap(DriverFiles::options(true), m_description);
+    QVERIFY(m_folder.isValid());
+    QVERIFY(DriverFiles::write(m_map, m_folder.path()));
+    for (const QString &path : pathsOf(m_map)) {
+        if (path.endsWith(QStringLiteral(".c")))
+            m_names << QFileInfo(path).completeBaseName();
+    }
+    QVERIFY(!m_names.isEmpty());
+}
+
+// Compiles all drivers to NAME.o; what the compiler says.
+QString tst_Drivers::compiled(const QString &command) const
+{
+    QStringList line = command.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    line << QStringLiteral("-I.") << QStringLiteral("-c");
+    for (const QString &name : m_names)
+        line << QStringLiteral("drivers/") + name + QStringLiteral(".c");
+    return DriverFiles::complaints(m_folder.path(), line);
+}
+
+void tst_Drivers::everyPeripheralHasADriver()
+{
+    QStringList expected;
+    for (const Peripheral &peripheral : qAsConst(m_description.peripherals)) {
+        const QString base = QStringLiteral("drivers/") + peripheral.name.toLower();
+        expected << base + QStringLiteral(".c") << base + QStringLiteral(".h");
+    }
+    expected.sort();
+    QCOMPARE(pathsOf(m_map), expected);
+}
+
+void tst_Drivers::onlyThoseOfTheBlocksThatAreOn()
+{
+    OptionMap options = DriverFiles::options(false);
+    QCOMPARE(pathsOf(DriverFiles::systemMap(options, m_description)), QStringList());
+    for (const Peripheral &peripheral : qAsConst(m_description.peripherals)) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            OptionMap one = options;
+            one.insert(instance.option, true);
+            const QString base = QStringLiteral("drivers/") + peripheral.name.toLower();
+            QCOMPARE(pathsOf(DriverFiles::systemMap(one, m_description)),
+                     QStringList({base + QStringLiteral(".c"), base + QStringLiteral(".h")}));
+        }
+    }
+}
+
+void tst_Drivers::filesAreThoseOfTheDataFolder()
+{
+    int files = 0;
+    for (const ExportedFile &file : findFormat(QStringLiteral("drivers"))->files(m_map)) {
+        const QByteArray source = TestSupport::contentsOf(QStringLiteral(FIRMWARE_DIR "/") +
+                                                          QFileInfo(file.path).fileName());
+        QVERIFY(!source.isEmpty());
+        QVERIFY2(file.bytes == source, qPrintable(file.path));
+        ++files;
+    }
+    QCOMPARE(files, TestSupport::entriesOf(QStringLiteral(FIRMWARE_DIR)).size());
+}
+
+void tst_Drivers::everyCompilerTakesThemSilently_data()
+{
+    QTest::addColumn<QString>("command");
+    const char *const rows[][2] = {
+        {"gcc as C99", "gcc -std=c99 -O2"},
+        {"gcc for the processor", "arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -std=c99 -Os"},
+        {"gcc for the processor, big-endian",
+         "arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -mbig-endian -std=c99 -O2"},
+        {"clang as C99", "clang -std=c99 -O1"},
+        {"clang for the processor", "clang --target=armv6m-none-eabi -ffreestanding -std=c99"},
+        {"gcc as C++11", "g++ -x c++ -std=c++11 -O2"},
+        {"clang as C++11", "clang++ -x c++ -std=c++11"},
+    };
+    for (const auto &row : rows)
+        QTest::newRow(row[0]) << QString::fromLatin1(row[1]);
+}
+
+void tst_Drivers::everyCompilerTakesThemSilently()
+{
+    QFETCH(QString, command);
+    QCOMPARE(compiled(command +
+                      QStringLiteral(" -Wall -Wextra -pedantic -Wconversion -Wshadow -Werror")),
+             QString());
+}
+
+void tst_Drivers::needNothingOfALibrary_data()
+{
+    QTest::addColumn<QString>("optimisation");
+    for (const char *level : {"-O0", "-Os", "-O3"})
+        QTest::newRow(level) << QString::fromLatin1(level);
+}
+
+// Only what a compiler brings along itself, since the processor does not divide; and nothing in
+// memory that can be written.
+void tst_Drivers::needNothingOfALibrary()
+{
+    QFETCH(QString, optimisation);
+    static const QRegularExpression wanted(
+        QStringLiteral("^ +U (?!__aeabi_u?idiv(mod)?$|__gnu_thumb1_case_)"));
+    static const QRegularExpression writable(QStringLiteral("^[0-9a-f]+ [bBdDC] "));
+    QCOMPARE(compiled(QStringLiteral("arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -std=c99 ") +
+                      optimisation),
+             QString());
+    for (const QString &name : qAsConst(m_names)) {
+        const QStringList symbols =
+            DriverFiles::complaints(
+                m_folder.path(), {QStringLiteral("arm-none-eabi-nm"), name + QStringLiteral(".o")})
+                .split(QLatin1Char('\n'));
+        // A function of another driver is no library's, but is not there either.
+        QVERIFY(!symbols.filter(QStringLiteral(" T ") + name + u'_').isEmpty());
+        QCOMPARE(symbols.filter(wanted), QStringList());
+        QCOMPARE(symbols.filter(writable), QStringList());
+    }
+}
+
+// One in C and one in C++, linked with all drivers.
+void tst_Drivers::twoUnitsMayIncludeAllOfThem()
+{
+    QByteArray includes;
+    for (const QString &name : qAsConst(m_names)) {
+        includes += "#include \"drivers/" + name.toLatin1() + ".h\"\n";
+        includes += "#include \"drivers/" + name.toLatin1() + ".h\"\n";
+    }
+    QVERIFY(TestSupport::write(m_folder.filePath(QStringLiteral("first.cpp")),
+                               includes + "void second();\nint main()\n{\n    wdog_kick(WDOG);\n"
+                                          "    gpio_set(GPIO, 1u);\n    return 0;\n}\n"));
+    QVERIFY(TestSupport::write(m_folder.filePath(QStringLiteral("second.c")),
+                               includes + "void second(void);\nvoid second(void)\n{\n"
+                                          "    uart_stop(UART1);\n}\n"));
+    QCOMPARE(compiled(QStringLiteral("gcc -std=c99 -Wall -Werror second.c")), QString());
+    QStringList objects{QStringLiteral("second.o")};
+    for (const QString &name : qAsConst(m_names))
+        objects << name + QStringLiteral(".o");
+    QCOMPARE(DriverFiles::complaints(
+                 m_folder.path(),
+                 words("g++ -std=c++11 -Wall -Werror -I. -o program first.cpp") + objects),
+             QString());
+}
+
+// Each in the table of its driver, and none that is not there.
+void tst_Drivers::theGuideNamesEveryFunction()
+{
+    const QString guide =
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(DOCS_DIR "/drivers.md")));
+    static const QRegularExpression heading(QStringLiteral("^## ([a-z0-9]+)$(.*?)(?=^## |\\z)"),
+                                            QRegularExpression::MultilineOption |
+                                                QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression row(QStringLiteral("^\\| `([a-z0-9_]+)` \\|"),
+                                        QRegularExpression::MultilineOption);
+    QStringList sections;
+    auto section = heading.globalMatch(guide);
+    while (section.hasNext()) {
+        const auto match = section.next();
+        const QString name = match.captured(1);
+        sections << name;
+        QStringList listed;
+        auto rows = row.globalMatch(match.captured(2));
+        while (rows.hasNext())
+            listed << rows.next().captured(1);
+        const QStringList functions = functionsOf(QString::fromUtf8(TestSupport::contentsOf(
+            m_folder.filePath(QStringLiteral("drivers/") + name + QStringLiteral(".h")))));
+        QVERIFY2(functions.size() >= 5, qPrintable(name));
+        QCOMPARE(listed, functions);
+    }
+    sections.sort();
+    QCOMPARE(sections, m_names);
+}
+
+TARVO_TEST_MAIN(QCoreApplication, tst_Drivers)
+#include "tst_drivers.moc"
