@@ -84,14 +84,13 @@ struct KnownManifest {
     QString mistake;                 // a sentence; empty if it is sound or missing
 };
 
-KnownManifest readManifest(const QString &path)
+// A failure, a sentence, if something stands there that cannot be read.
+Result<KnownManifest> readManifest(const QString &path)
 {
     KnownManifest known;
     const Result<std::optional<QByteArray>> bytes = contentsAt(path);
-    if (!bytes) {
-        known.mistake = bytes.reason();
-        return known;
-    }
+    if (!bytes)
+        return Failure{bytes.reason()};
     known.bytes = *bytes;
     if (!known.bytes)
         return known;
@@ -178,7 +177,10 @@ Result<Comparison> compare(const Bundle &bundle)
     const Result<QString> manifestPlace = placeOf(comparison.folder, bundle.manifest);
     if (!manifestPlace)
         return refused(bundle, bundle.manifest, manifestPlace.reason());
-    comparison.known = readManifest(*manifestPlace);
+    const Result<KnownManifest> manifest = readManifest(*manifestPlace);
+    if (!manifest)
+        return Failure{manifest.reason()};
+    comparison.known = *manifest;
     if (!comparison.known.mistake.isEmpty())
         comparison.messages.append(
             Tr::tr("%1 So nothing is known of earlier writes.").arg(comparison.known.mistake));
@@ -224,7 +226,9 @@ Result<Comparison> compare(const Bundle &bundle)
         const Result<std::optional<QByteArray>> bytes = contentsAt(*place);
         if (bytes && !*bytes)
             continue;
-        // What cannot be read is nothing that was written.
+        if (!bytes && QFileInfo(*place).isFile())
+            return Failure{bytes.reason()};
+        // No file any more, so nothing that was written.
         const auto there = bytes ? *bytes : std::optional<QByteArray>();
         comparison.items.push_back(
             {nullptr,
@@ -526,7 +530,9 @@ QStringList bundleGroups(const QString &folder, const QString &manifest)
 {
     const QString real = realFolder(folder);
     const Result<QString> place = placeOf(real, manifest);
-    return place ? readManifest(*place).manifest.groups : QStringList();
+    const Result<KnownManifest> known =
+        place ? readManifest(*place) : Result<KnownManifest>(KnownManifest());
+    return known ? known->manifest.groups : QStringList();
 }
 
 Result<BundleReport> checkBundle(const Bundle &bundle)

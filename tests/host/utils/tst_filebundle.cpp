@@ -379,6 +379,36 @@ private Q_SLOTS:
         QVERIFY(checked(set).isFresh());
     }
 
+    void aFileThatBecameAFolderIsTheUsers()
+    {
+        written(bundle({file("a", "1"), file("b", "1")}));
+        QVERIFY(QFile::remove(path("a")));
+        TestSupport::write(path("a/mine"), "mine");
+        const BundleReport report = written(bundle({file("b", "1")}));
+        QCOMPARE(report.messages.size(), 1);
+        QCOMPARE(TestSupport::contentsOf(path("a/mine")), QByteArray("mine"));
+        QVERIFY(checked(bundle({file("b", "1")})).isFresh());
+    }
+
+    void whatCannotBeReadEndsALook()
+    {
+        for (const char *name : {"a", "over", "set.json"}) {
+            written(bundle({file("a", "1"), file("over", "1")}));
+            QFile::setPermissions(m_dir->path(), QFile::Permissions(0x7755));
+            QVERIFY(QFile::setPermissions(path(name), QFile::Permissions(0x2222)));
+            QString said;
+            {
+                const TestSupport::Unprivileged unprivileged;
+                if (!unprivileged.holds())
+                    QSKIP("permissions do not bind here");
+                said = Utils::checkBundle(bundle({file("a", "2")})).reason();
+            }
+            QVERIFY2(said.contains(path(name)) && said.contains(text("Permission denied")),
+                     qPrintable(said));
+            init();
+        }
+    }
+
     // A link by which it would be a file of the set, or one outside.
     void filesOfTheManifestAreNotSoughtThroughLinks()
     {
