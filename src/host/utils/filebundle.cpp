@@ -399,6 +399,15 @@ private:
     // ends the program, nothing is lost, and the next write sees what has happened.
     bool prepare(QString *error)
     {
+        const QString manifest = *placeOf(m_comparison.folder, m_bundle.manifest);
+        const QByteArray text = m_comparison.next.toText();
+        // One that the next write could not read (too many files, say) is of no use.
+        const Result<BundleManifest> read = BundleManifest::fromText(text, manifest);
+        if (!read) {
+            *error = Tr::tr("Cannot write the manifest of \"%1\": %2")
+                         .arg(native(m_bundle.folder), read.reason());
+            return false;
+        }
         for (Item &item : m_comparison.items) {
             if (item.entry.state == BundleEntry::LeftOverEdited)
                 m_comparison.messages.append(
@@ -408,7 +417,6 @@ private:
             if (item.entry.state == BundleEntry::Edited && !keepEdited(&item, error))
                 return false;
         }
-        const QString manifest = *placeOf(m_comparison.folder, m_bundle.manifest);
         if (!keepBrokenManifest(manifest, error))
             return false;
         for (const Item &item : m_comparison.items) {
@@ -416,13 +424,7 @@ private:
                 !add(item.place, item.file->bytes, &item, error))
                 return false;
         }
-        const QByteArray text = m_comparison.next.toText();
-        // One that the next write could not read (too many files, say) is of no use.
-        const Result<BundleManifest> read = BundleManifest::fromText(text, manifest);
-        if (!read)
-            *error = Tr::tr("Cannot write the manifest of \"%1\": %2")
-                         .arg(native(m_bundle.folder), read.reason());
-        return read && add(manifest, text, nullptr, error);
+        return add(manifest, text, nullptr, error);
     }
 
     // Somebody may have saved a file since it was looked at.
