@@ -26,6 +26,7 @@ private Q_SLOTS:
     void toolsTakeEachFileWithoutAWord_data() { addCases(); }
     void toolsTakeEachFileWithoutAWord();
     void theCasesThatBreakOthersAreThere();
+    void everyFormatIsARowOfItsOwn();
 
 private:
     static QDir folder() { return QDir(QStringLiteral(TARVO_EXPORT_GOLDEN_DIR)); }
@@ -155,6 +156,21 @@ void tst_ExportGolden::theCasesThatBreakOthersAreThere()
         }
     }
     QCOMPARE(missing, QStringList());
+}
+
+void tst_ExportGolden::everyFormatIsARowOfItsOwn()
+{
+    QStringList names;
+    for (const Format &format : formats()) {
+        QVERIFY2(!names.contains(format.name), format.name.data());
+        QCOMPARE(findFormat(format.name), &format);
+        for (const QLatin1String text :
+             {format.name, format.file, format.title, format.purpose, format.checkedBy})
+            QVERIFY2(!text.isEmpty(), format.name.data());
+        QVERIFY2(format.purpose.endsWith(QLatin1Char('.')), format.name.data());
+        names.append(format.name);
+    }
+    QVERIFY(!findFormat(QString()));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_ExportGolden)
