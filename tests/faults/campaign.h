@@ -336,9 +336,11 @@ private:
                                choice == 0 ? QStringLiteral("Enable UART0=true")
                                            : QStringLiteral("Enable GPIO=true")} +
                    out;
+        // Two formats are enough for several files.
         if (command == Export)
             return data +
-                   QStringList{QStringLiteral("export"), path(choice == 0 ? "0.ipc" : "1.ipc")} +
+                   QStringList{QStringLiteral("export"), path(choice == 0 ? "0.ipc" : "1.ipc"),
+                               QStringLiteral("header"), QStringLiteral("startup")} +
                    out;
         QStringList list =
             data + QStringList{QStringLiteral("generate"), path(choice == 0 ? "0.ipc" : "1.ipc")} +
