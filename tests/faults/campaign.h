@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -49,7 +50,8 @@ struct Fault {
     }
 };
 
-enum Command { New, IncludeFiles, Generate };
+enum Command { New, IncludeFiles, Generate, Export };
+inline constexpr int commandCount = 4;
 
 class Campaign
 {
@@ -76,6 +78,10 @@ public:
                            "endmodule\n");
         QFile::copy(QStringLiteral(TARVO_IP_DATA_DIR "/tarvo_orix_m1.ipspec"),
                     path("ip/tarvo_orix_m1.ipspec"));
+        // One peripheral is enough to be exported.
+        QDir().mkpath(path("ip/registers"));
+        QFile::copy(QStringLiteral(TARVO_IP_DATA_DIR "/registers/gpio.json"),
+                    path("ip/registers/gpio.json"));
         const QByteArray config = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
                                   "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\nLANG=1\n";
         TestSupport::write(path("0.ipc"), config);
@@ -97,7 +103,7 @@ public:
     // Makes what later runs are compared with; a complaint, or empty.
     QString prepare()
     {
-        for (const Command command : {New, IncludeFiles, Generate}) {
+        for (const Command command : {New, IncludeFiles, Generate, Export}) {
             for (const int choice : {0, 1}) {
                 QDir(path("out")).removeRecursively();
                 auto process = start(command, choice, {});
@@ -330,6 +336,12 @@ private:
                                choice == 0 ? QStringLiteral("Enable UART0=true")
                                            : QStringLiteral("Enable GPIO=true")} +
                    out;
+        // Two formats are enough for several files.
+        if (command == Export)
+            return data +
+                   QStringList{QStringLiteral("export"), path(choice == 0 ? "0.ipc" : "1.ipc"),
+                               QStringLiteral("header"), QStringLiteral("startup")} +
+                   out;
         QStringList list =
             data + QStringList{QStringLiteral("generate"), path(choice == 0 ? "0.ipc" : "1.ipc")} +
             out;
@@ -398,11 +410,21 @@ private:
                               QDirIterator::Subdirectories);
         while (iterator.hasNext()) {
             const QString name = iterator.next().mid(path("out/").size());
-            if (!m_expected[command][1].contains(name) && name != QLatin1String("temp") &&
-                name != QLatin1String("temp/tv_orix_m1"))
+            const bool isFolder = iterator.fileInfo().isDir();
+            if (!m_expected[command][1].contains(name) &&
+                !(isFolder && holdsExpected(command, name)))
                 return QStringLiteral("Left over: ") + name;
         }
         return {};
+    }
+
+    bool holdsExpected(Command command, const QString &folder) const
+    {
+        const QStringList names = m_expected[command][1].keys();
+        return folder == QLatin1String("temp") || folder == QLatin1String("temp/tv_orix_m1") ||
+               std::any_of(names.begin(), names.end(), [&folder](const QString &name) {
+                   return name.startsWith(folder + u'/');
+               });
     }
 
     // Whether a file is as it was before or as it is to be.
@@ -426,7 +448,8 @@ private:
             if (!isWhole(command, now, name))
                 return QStringLiteral("Neither old nor new: ") + name;
             if (isLog(name) || m_before.value(name) == it.value() ||
-                !name.startsWith(QLatin1String("temp/tv_orix_m1/tarvo_orix_m1")))
+                (command != Export &&
+                 !name.startsWith(QLatin1String("temp/tv_orix_m1/tarvo_orix_m1"))))
                 continue;
             together |= now.value(name) == it.value() ? 2 : 1;
         }
@@ -463,7 +486,7 @@ private:
     const QString m_program;
     TestSupport::Mark m_mark;
     FaultState *m_state = nullptr;
-    Files m_expected[3][2];
+    Files m_expected[commandCount][2];
     Files m_before;
     QMap<QByteArray, int> m_calls;
     bool m_fired = false;

@@ -58,7 +58,7 @@ int main(int argc, char *argv[])
     QVector<Place> places;
     for (const bool lasting : {false, true}) {
         for (const Before before : {Other, Nothing, Same}) {
-            for (const Command command : {New, IncludeFiles, Generate}) {
+            for (const Command command : {New, IncludeFiles, Export, Generate}) {
                 if (command == Generate && parser.isSet(QStringLiteral("fast")))
                     continue;
                 for (const char *kind : kinds) {
@@ -120,7 +120,7 @@ int main(int argc, char *argv[])
 
     int hit = 0;
     for (int i = 0; i < number("kills"); ++i) {
-        const Command command = Command(i % 3);
+        const Command command = Command(i % commandCount);
         take(campaign.killAfter(command, random.bounded(command == Generate ? 600 : 40)));
         hit += campaign.fired() ? 1 : 0;
     }

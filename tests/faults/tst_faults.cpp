@@ -26,6 +26,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("command");
         QTest::newRow("a new configuration") << int(New);
         QTest::newRow("include files only") << int(IncludeFiles);
+        QTest::newRow("an export") << int(Export);
     }
 
     void everyFaultIsToldAndDoesNoHarm()
@@ -85,6 +86,7 @@ private Q_SLOTS:
             QTest::addRow("a new configuration, %s", kind) << int(New) << QByteArray(kind);
             QTest::addRow("include files only, %s", kind) << int(IncludeFiles) << QByteArray(kind);
             QTest::addRow("a whole run, %s", kind) << int(Generate) << QByteArray(kind);
+            QTest::addRow("an export, %s", kind) << int(Export) << QByteArray(kind);
         }
     }
 

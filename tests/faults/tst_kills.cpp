@@ -52,7 +52,7 @@ private Q_SLOTS:
     void nothingIsHalfWhenKilled()
     {
         QRandomGenerator random(11);
-        for (const Command command : {New, IncludeFiles}) {
+        for (const Command command : {New, IncludeFiles, Export}) {
             for (const char *kind : {"write", "rename", "unlink"}) {
                 const int calls = m_campaign->calls(command, kind);
                 for (int at = 1; at <= calls; ++at) {
@@ -77,6 +77,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("command");
         QTest::addColumn<int>("pairs");
         QTest::newRow("include files only") << int(IncludeFiles) << 40;
+        QTest::newRow("exports") << int(Export) << 20;
         QTest::newRow("whole runs") << int(Generate) << 5;
     }
 

@@ -20,6 +20,9 @@ constexpr qint64 registerFile = 4 * mebibyte;
 constexpr qint64 memoryFile = 16 * mebibyte; // contents of one byte lane of the ITCM
 constexpr qint64 firmwareFile = 1 * mebibyte; // a source that is handed on
 constexpr qint64 firmwareImage = 64 * mebibyte;
+constexpr qint64 memoryFile = 16 * mebibyte;    // contents of one byte lane of the ITCM
+constexpr qint64 firmwareFile = 1 * mebibyte;   // a source that is handed on
+constexpr qint64 bundleManifest = 4 * mebibyte; // of an exported set of files
 constexpr qint64 toolLog = 64 * mebibyte;
 constexpr qint64 anyFile = 1024 * mebibyte; // netlists, and whatever has no limit of its own
 
@@ -27,6 +30,7 @@ constexpr qint64 anyFile = 1024 * mebibyte; // netlists, and whatever has no lim
 constexpr int descriptorKeys = 1 << 24; // characters of all dotted keys together
 constexpr int targetNameLength = 200;   // bytes; suffixes follow, and a file name has 255
 constexpr int devices = 100000;         // records of one database
+constexpr int bundleFiles = 10000;      // named by one manifest
 constexpr int toolMessages = 10000;     // different errors and warnings of one run
 constexpr int netlistInstances = 100000000;
 constexpr int portWidth = 1 << 20; // bits

@@ -6,6 +6,7 @@
 // Whatever is no part of the RTL answers with a word of its own: black boxes are given a body,
 // extension ports are connected to constants. So a word tells who answered.
 
+#include "drawnoptions.h"
 #include "testsupport.h"
 
 #include <config/descriptor.h>
@@ -18,7 +19,6 @@
 #include <registers/registerdocs.h>
 #include <rules/check.h>
 #include <rules/corepins.h>
-#include <rules/devicerules.h>
 #include <rules/pins.h>
 #include <system/systemmap.h>
 #include <utils/descriptor.h>
@@ -33,43 +33,22 @@
 
 #include <cstdio>
 #include <functional>
-#include <random>
 
 using namespace TARVOORIXM1;
 
 namespace
 {
 
-using Random = std::mt19937;
-
-int below(int limit, Random &random)
-{
-    return int(random() % unsigned(limit));
-}
+using TestSupport::below;
+using TestSupport::Random;
 
 // What the device can have; memories of at most 32 KB, since a simulated one is cleared word by
 // word.
 OptionMap anyOptions(const DEV::DeviceArg &device, Random &random)
 {
-    OptionMap map;
-    const int density = 1 + below(4, random);
-    for (const Option &option : optionTable()) {
-        if (!option.isOption || below(5, random) > density)
-            continue;
-        if (option.type == OptionType::Bool)
-            map.insert(option.key, below(4, random) < density);
-        else if (!option.choices.isEmpty())
-            map.insert(option.key, option.choices.at(below(option.choices.size(), random)));
-    }
-    for (const RestrictedBlock &block : restrictedBlocks()) {
-        if (!block.isAvailable(device))
-            map.insert(block.key, false);
-    }
-    if (!map.contains(Key::canBufferDepth))
-        map.insert(Key::canBufferDepth, findOption(Key::canBufferDepth)->choices.first());
+    OptionMap map = TestSupport::drawnOptions(device, random);
     map.insert(Key::itcmSize, below(6, random));
     map.insert(Key::dtcmSize, below(6, random));
-    map.remove(Key::initializeItcm);
     return map;
 }
 

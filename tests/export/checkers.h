@@ -1,0 +1,270 @@
+#pragma once
+
+#include "testsupport.h"
+
+#include <QCryptographicHash>
+#include <QMap>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+// The tools that take exported files without a word, and what each is asked.
+namespace Exported
+{
+
+using Files = QMap<QString, QByteArray>; // by the path below the folder
+
+// Runs tools on sets of files. What a tool has taken once, it is not asked again.
+class Checkers
+{
+public:
+    // A complaint for each tool that says something or fails; empty if all is well.
+    QStringList complaints(const Files &files, bool isBigEndian)
+    {
+        m_files = &files;
+        m_tasks.clear();
+        m_complaints.clear();
+        m_isBigEndian = isBigEndian;
+        const QTemporaryDir dir;
+        m_folder = dir.path();
+        for (auto it = files.begin(); it != files.end(); ++it)
+            TestSupport::write(dir.filePath(it.key()), it.value());
+        for (auto it = files.begin(); it != files.end(); ++it)
+            addTasksFor(it.key());
+        runTasks();
+        addLink();
+        runTasks();
+        return m_complaints;
+    }
+
+    // How many times a tool was run, and how many times it need not be.
+    int runs() const { return m_runs; }
+    int repeats() const { return m_repeats; }
+
+private:
+    struct Task {
+        QString file; // what it is about
+        QString program;
+        QStringList arguments;
+        QByteArray input;   // the sum of what it reads; empty: it is run each time
+        QString silence;    // what it may say, as a regular expression
+        QString mayFailFor; // with this text in its output a failure is as it should be
+    };
+
+    static QStringList words(const char *text)
+    {
+        return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
+    }
+
+    QByteArray sumOf(const std::function<bool(const QString &)> &counts) const
+    {
+        QCryptographicHash hash(QCryptographicHash::Sha256);
+        for (auto it = m_files->begin(); it != m_files->end(); ++it) {
+            if (!counts(it.key()))
+                continue;
+            hash.addData(it.key().toUtf8() + '\0' + QByteArray::number(it.value().size()) + '\0');
+            hash.addData(it.value());
+        }
+        return hash.result();
+    }
+
+    void add(const QString &file, const QString &program, const QStringList &arguments,
+             const QByteArray &input, const QString &silence = {})
+    {
+        m_tasks.push_back({file, program, arguments, input, silence, {}});
+    }
+
+    QStringList machine() const
+    {
+        return words("-mcpu=cortex-m1 -mthumb") +
+               (m_isBigEndian ? words("-mbig-endian") : QStringList());
+    }
+
+    static QStringList strict() { return words("-Wall -Wextra -pedantic -Wconversion -Werror"); }
+
+    static QStringList paths() { return words("-I. -Idrivers"); }
+
+    static QString objectOf(const QString &source)
+    {
+        return QString(source).replace(u'/', u'_').chopped(2) + QLatin1String(".o");
+    }
+
+    void addTasksFor(const QString &file)
+    {
+        const QString kind = file.section(u'.', -1);
+        const QByteArray own = sumOf([&file](const QString &path) { return path == file; });
+        if (kind == QLatin1String("svd")) {
+            add(file, QStringLiteral("xmllint"), words("--noout --nonet") + QStringList{file}, own);
+            const QString schema = QStringLiteral(TARVO_SVD_SCHEMA);
+            if (QFileInfo::exists(schema))
+                add(file, QStringLiteral("xmllint"),
+                    words("--noout --nonet --relaxng") + QStringList{schema, file}, own,
+                    QRegularExpression::escape(file) + QLatin1String(" validates\\n"));
+        } else if (kind == QLatin1String("h")) {
+            addHeader(file);
+        } else if (kind == QLatin1String("c")) {
+            addSource(file);
+        } else if (kind == QLatin1String("dts") || kind == QLatin1String("dtsi")) {
+            addDeviceTree(file);
+        } else if (kind == QLatin1String("md")) {
+            add(file, QStringLiteral("cmark-gfm"),
+                words("--validate-utf8 -e table --to xml") + QStringList{file}, own,
+                QStringLiteral("(?s)<\\?xml .*</document>\\n"));
+        } else if (kind == QLatin1String("html")) {
+            add(file, QStringLiteral("xmllint"),
+                words("--html --noout --nonet") + QStringList{file}, own);
+        } else if (kind == QLatin1String("svg") || kind == QLatin1String("xml")) {
+            add(file, QStringLiteral("xmllint"), words("--noout --nonet") + QStringList{file}, own);
+        } else if (kind != QLatin1String("ld") && kind != QLatin1String("x")) {
+            m_complaints.append(file + QLatin1String(": nothing here checks such a file"));
+        }
+    }
+
+    static bool isHeader(const QString &path) { return path.endsWith(QLatin1String(".h")); }
+
+    void addHeader(const QString &file)
+    {
+        const QByteArray input =
+            sumOf([&file](const QString &path) { return isHeader(path); }) + file.toUtf8();
+        const QString user = QString(file).replace(u'/', u'_') + QLatin1String(".user");
+        const QByteArray include = "#include \"" + file.toUtf8() + "\"\n";
+        TestSupport::write(m_folder + u'/' + user, include + include + "extern int user;\n");
+        const QStringList c = words("-std=c99 -fsyntax-only") + strict() + paths() +
+                              QStringList{QStringLiteral("-x"), QStringLiteral("c"), user};
+        const QStringList cpp = words("-std=c++11 -fsyntax-only") + strict() + paths() +
+                                QStringList{QStringLiteral("-x"), QStringLiteral("c++"), user};
+        add(file, QStringLiteral("arm-none-eabi-gcc"), machine() + c, input);
+        add(file, QStringLiteral("arm-none-eabi-g++"), machine() + cpp, input);
+        // Inline functions with instructions of the processor are for that alone.
+        if (file != QLatin1String("tarvo_orix_m1.h"))
+            return;
+        add(file, QStringLiteral("gcc"), c, input);
+        add(file, QStringLiteral("g++"), cpp, input);
+        add(file, QStringLiteral("clang"), c, input);
+        add(file, QStringLiteral("clang"), cpp, input);
+    }
+
+    void addSource(const QString &file)
+    {
+        const QByteArray input =
+            sumOf([&file](const QString &path) { return path == file || isHeader(path); });
+        const QStringList flags = words("-std=c99") + strict() + paths();
+        // Its result is linked.
+        add(file, QStringLiteral("arm-none-eabi-gcc"),
+            machine() + flags + words("-Os -ffreestanding -ffunction-sections -fdata-sections -c") +
+                QStringList{file, QStringLiteral("-o"), objectOf(file)},
+            {});
+        add(file, QStringLiteral("clang"),
+            words("--target=arm-none-eabi -ffreestanding -fsyntax-only") + machine() + flags +
+                QStringList{file},
+            input);
+    }
+
+    void addDeviceTree(const QString &file)
+    {
+        const QByteArray input = sumOf([](const QString &path) {
+            return path.endsWith(QLatin1String(".dts")) || path.endsWith(QLatin1String(".dtsi"));
+        });
+        QString source = file;
+        if (file.endsWith(QLatin1String(".dtsi"))) {
+            source = file + QLatin1String(".user.dts");
+            TestSupport::write(m_folder + u'/' + source,
+                               "/dts-v1/;\n/include/ \"" + file.toUtf8() + "\"\n");
+        }
+        add(file, QStringLiteral("dtc"),
+            words("-@ -I dts -O dtb -o /dev/null") + QStringList{source}, input + file.toUtf8());
+    }
+
+    // Start-up code and drivers with the linker script. A script may say why nothing can start.
+    void addLink()
+    {
+        const QString script = QStringLiteral("tarvo_orix_m1.ld");
+        if (!m_files->contains(script) || !m_complaints.isEmpty())
+            return;
+        TestSupport::write(m_folder + QLatin1String("/main.c"),
+                           "int main(void);\nint main(void)\n{\n    return 0;\n}\n");
+        QStringList arguments = machine() +
+                                words("-std=c99 -Os -ffreestanding -nostdlib -nostartfiles -L . "
+                                      "-Wl,--fatal-warnings -Wl,--gc-sections -T") +
+                                QStringList{script} + words("-o program.elf main.c");
+        if (m_isBigEndian)
+            arguments.append(QStringLiteral("-Wl,--be8"));
+        for (auto it = m_files->begin(); it != m_files->end(); ++it) {
+            if (it.key().endsWith(QLatin1String(".c")))
+                arguments.append(objectOf(it.key()));
+        }
+        add(script, QStringLiteral("arm-none-eabi-gcc"), arguments, {});
+        static const QRegularExpression never(QStringLiteral("^ASSERT\\(0, \"([^\"]+)\"\\)"),
+                                              QRegularExpression::MultilineOption);
+        m_tasks.back().mayFailFor =
+            never.match(QString::fromUtf8(m_files->value(script))).captured(1);
+    }
+
+    void runTasks()
+    {
+        std::vector<std::pair<Task, std::unique_ptr<QProcess>>> running;
+        const size_t most = size_t(qMax(1, QThread::idealThreadCount()));
+        for (const Task &task : std::exchange(m_tasks, {})) {
+            const QByteArray key = task.input.isEmpty() ? QByteArray()
+                                                        : task.program.toUtf8() + '\0' +
+                                                              task.arguments.join(u'\0').toUtf8() +
+                                                              '\0' + task.input;
+            if (m_taken.contains(key)) {
+                ++m_repeats;
+                continue;
+            }
+            if (running.size() == most) {
+                finish(running.front().first, *running.front().second);
+                running.erase(running.begin());
+            }
+            auto process = std::make_unique<QProcess>();
+            process->setWorkingDirectory(m_folder);
+            process->setProcessChannelMode(QProcess::MergedChannels);
+            process->setStandardInputFile(QProcess::nullDevice());
+            process->start(task.program, task.arguments);
+            running.emplace_back(task, std::move(process));
+            if (!key.isEmpty())
+                m_taken.insert(key);
+        }
+        for (auto &entry : running)
+            finish(entry.first, *entry.second);
+    }
+
+    void finish(const Task &task, QProcess &process)
+    {
+        ++m_runs;
+        const bool ended = process.waitForFinished(60000);
+        const QString said = QString::fromUtf8(process.readAll());
+        const bool failed =
+            !ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
+        const bool mayFail = !task.mayFailFor.isEmpty();
+        const bool isSilent =
+            said.isEmpty() || (!task.silence.isEmpty() &&
+                               QRegularExpression(QRegularExpression::anchoredPattern(task.silence))
+                                   .match(said)
+                                   .hasMatch());
+        if (mayFail ? failed && said.contains(task.mayFailFor) : !failed && isSilent)
+            return;
+        m_complaints.append(task.file + QLatin1String(": ") + task.program + u' ' +
+                            task.arguments.join(u' ') +
+                            (ended ? QString() : u'\n' + process.errorString()) + u'\n' + said);
+    }
+
+    const Files *m_files = nullptr;
+    QString m_folder;
+    bool m_isBigEndian = false;
+    std::vector<Task> m_tasks;
+    QStringList m_complaints;
+    QSet<QByteArray> m_taken;
+    int m_runs = 0;
+    int m_repeats = 0;
+};
+
+} // namespace Exported
