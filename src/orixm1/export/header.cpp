@@ -154,49 +154,55 @@ static inline void __DMB(void) {}
 
 static inline void NVIC_EnableIRQ(IRQn_Type irq)
 {
-    if ((uint32_t)irq < TARVO_ORIX_M1_INTERRUPTS)
-        @NVIC_ISER@ = 1u << ((uint32_t)irq & 31u);
+    uint32_t number = (uint32_t)irq;
+    if (number < TARVO_ORIX_M1_INTERRUPTS)
+        @NVIC_ISER@ = 1u << (number & 31u);
 }
 
 /* No such interrupt begins once this has returned. */
 static inline void NVIC_DisableIRQ(IRQn_Type irq)
 {
-    if ((uint32_t)irq < TARVO_ORIX_M1_INTERRUPTS)
-        @NVIC_ICER@ = 1u << ((uint32_t)irq & 31u);
+    uint32_t number = (uint32_t)irq;
+    if (number < TARVO_ORIX_M1_INTERRUPTS)
+        @NVIC_ICER@ = 1u << (number & 31u);
     __DSB();
     __ISB();
 }
 
 static inline uint32_t NVIC_GetEnableIRQ(IRQn_Type irq)
 {
-    if ((uint32_t)irq >= TARVO_ORIX_M1_INTERRUPTS)
+    uint32_t number = (uint32_t)irq;
+    if (number >= TARVO_ORIX_M1_INTERRUPTS)
         return 0u;
-    return (@NVIC_ISER@ >> ((uint32_t)irq & 31u)) & 1u;
+    return (@NVIC_ISER@ >> (number & 31u)) & 1u;
 }
 
 static inline void NVIC_SetPendingIRQ(IRQn_Type irq)
 {
-    if ((uint32_t)irq < TARVO_ORIX_M1_INTERRUPTS)
-        @NVIC_ISPR@ = 1u << ((uint32_t)irq & 31u);
+    uint32_t number = (uint32_t)irq;
+    if (number < TARVO_ORIX_M1_INTERRUPTS)
+        @NVIC_ISPR@ = 1u << (number & 31u);
 }
 
 static inline void NVIC_ClearPendingIRQ(IRQn_Type irq)
 {
-    if ((uint32_t)irq < TARVO_ORIX_M1_INTERRUPTS)
-        @NVIC_ICPR@ = 1u << ((uint32_t)irq & 31u);
+    uint32_t number = (uint32_t)irq;
+    if (number < TARVO_ORIX_M1_INTERRUPTS)
+        @NVIC_ICPR@ = 1u << (number & 31u);
 }
 
 static inline uint32_t NVIC_GetPendingIRQ(IRQn_Type irq)
 {
-    if ((uint32_t)irq >= TARVO_ORIX_M1_INTERRUPTS)
+    uint32_t number = (uint32_t)irq;
+    if (number >= TARVO_ORIX_M1_INTERRUPTS)
         return 0u;
-    return (@NVIC_ISPR@ >> ((uint32_t)irq & 31u)) & 1u;
+    return (@NVIC_ISPR@ >> (number & 31u)) & 1u;
 }
 
 /* The word with an interrupt's priority and the place of its two bits; null if it has none. */
 static inline volatile uint32_t *tarvo_orix_m1_priority(IRQn_Type irq, uint32_t *shift)
 {
-    const uint32_t number = (uint32_t)irq;
+    uint32_t number = (uint32_t)irq;
     *shift = ((number & 3u) * 8u) + (8u - __NVIC_PRIO_BITS);
     if (number < TARVO_ORIX_M1_INTERRUPTS)
         return &@NVIC_IPR0@ + (number >> 2);
@@ -254,6 +260,12 @@ static inline uint32_t SysTick_Config(uint32_t ticks)
 }
 )");
     return text + "\n#endif\n"_l1;
+}
+
+// A macro in lower case would be put in place of whatever other headers call so.
+QString pointerName(const QString &instance)
+{
+    return instance == instance.toLower() ? QString(instance + u'_') : instance;
 }
 
 class DeviceHeader
@@ -332,7 +344,8 @@ private:
     {
         names->type = m_names.give(peripheral.name + "_Type"_l1);
         for (int i = 0; i < peripheral.instances.size(); ++i)
-            names->instances[i].pointer = m_names.give(peripheral.instances.at(i).name);
+            names->instances[i].pointer =
+                m_names.give(pointerName(peripheral.instances.at(i).name));
     }
 
     void giveValues(const Peripheral &peripheral, PeripheralNames *names)
@@ -392,7 +405,7 @@ private:
             text += " on "_l1 + device;
         text += ", for C99 and C++11. Registers are 32 bits wide. A name that C, C++ or their "
                 "libraries know already, or that would come twice, has an underscore behind it, or "
-                "an underscore and a number."_l1;
+                "an underscore and a number; so has an instance without a capital letter."_l1;
         return comment(text) + QStringLiteral("#ifndef TARVO_ORIX_M1_H\n"
                                               "#define TARVO_ORIX_M1_H\n"
                                               "\n"

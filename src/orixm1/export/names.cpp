@@ -51,7 +51,11 @@ constexpr QLatin1String knownWords[] = {
     "LC_ALL LC_COLLATE LC_CTYPE LC_MESSAGES LC_MONETARY LC_NUMERIC LC_TIME SIGABRT SIGALRM SIGBUS "
     "SIGCHLD SIGCONT SIGFPE SIGHUP SIGILL SIGINT SIGKILL SIGPIPE SIGPOLL SIGPROF SIGQUIT SIGSEGV "
     "SIGSTOP SIGSYS SIGTERM SIGTRAP SIGTSTP SIGTTIN SIGTTOU SIGURG SIGUSR1 SIGUSR2 SIGVTALRM "
-    "SIGXCPU SIGXFSZ SIG_DFL SIG_ERR SIG_IGN SIG_HOLD SIG_BLOCK SIG_UNBLOCK SIG_SETMASK"_l1,
+    "SIGXCPU SIGXFSZ SIGCLD SIGIO SIGIOT SIGPWR SIGRTMAX SIGRTMIN SIGSTKFLT SIGWINCH "
+    "NSIG SA_NOCLDSTOP SIGEMT SIGLOST CLOCK_ALLOWED CLOCK_DISABLED CLOCK_DISALLOWED "
+    "CLOCK_ENABLED CLOCK_REALTIME TIMER_ABSTIME HAVE_INITFINI_ARRAY SIG_ATOMIC_MAX SIG_ATOMIC_MIN "
+    "SIG_ATOMIC_WIDTH LC_ADDRESS LC_IDENTIFICATION LC_MEASUREMENT "
+    "LC_NAME LC_PAPER LC_TELEPHONE SIG_DFL SIG_ERR SIG_IGN SIG_HOLD SIG_BLOCK SIG_UNBLOCK SIG_SETMASK"_l1,
     // errors
     "E2BIG EACCES EADDRINUSE EADDRNOTAVAIL EAFNOSUPPORT EAGAIN EALREADY EBADF EBADMSG EBUSY "
     "ECANCELED ECHILD ECONNABORTED ECONNREFUSED ECONNRESET EDEADLK EDESTADDRREQ EDOM EDQUOT EEXIST "
@@ -157,11 +161,17 @@ bool isIntegerMacro(const QString &word)
 // "PRIu32", "SCNxPTR": texts for formatted input and output.
 bool isFormatMacro(const QString &word)
 {
-    return word.size() > 4 && (word.startsWith("PRI"_l1) || word.startsWith("SCN"_l1)) &&
-           QStringLiteral("diouxXbB").contains(word.at(3)) &&
-           (word.at(4).isDigit() || word.midRef(4).startsWith("LEAST"_l1) ||
-            word.midRef(4).startsWith("FAST"_l1) || word.midRef(4) == "MAX"_l1 ||
-            word.midRef(4) == "PTR"_l1);
+    if ((!word.startsWith("PRI"_l1) && !word.startsWith("SCN"_l1)) || word.size() < 5 ||
+        !QStringLiteral("diouxXbB").contains(word.at(3)))
+        return false;
+    QStringRef kind = word.midRef(4);
+    if (kind == "MAX"_l1 || kind == "PTR"_l1)
+        return true;
+    for (const QLatin1String &beginning : {"LEAST"_l1, "FAST"_l1}) {
+        if (kind.startsWith(beginning))
+            kind = kind.mid(beginning.size());
+    }
+    return kind == "8"_l1 || kind == "16"_l1 || kind == "32"_l1 || kind == "64"_l1;
 }
 
 } // namespace
