@@ -7,8 +7,8 @@ namespace TARVOORIXM1
 
 // The device header "tarvo_orix_m1.h" for C99 and C++11. Macros have the names and values that
 // registersHeader() gives them. Names that a program knows already, or that would come twice, are
-// given as UniqueNames does, with regard to case; the macro of an instance whose name has no capital
-// letter has an underscore behind it.
+// given as UniqueNames does, with regard to case; the macro of an instance whose name has no
+// capital letter has an underscore behind it.
 QVector<ExportedFile> headerFiles(const SystemMap &map);
 
 } // namespace TARVOORIXM1

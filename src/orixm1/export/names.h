@@ -7,8 +7,9 @@
 namespace TARVOORIXM1
 {
 
-// Whether programs in C or C++ may know the word already: a keyword, a macro, function or type of
-// the standard library, or a macro that compilers define. Counts upper and lower case.
+// Whether programs in C or C++ may know the word as something else than a function or a variable: a
+// keyword, a macro or a type of the standard library, or a macro that compilers define. Counts
+// upper and lower case.
 bool isKnownWord(const QString &word);
 
 // Hands out names of which no two are equal and none is a known word. A name that cannot be had

@@ -75,9 +75,9 @@ constexpr RegisterRow registerRows[] = {
 };
 
 constexpr FieldRow fieldRows[] = {
-    {0x008, "ACTLR"_l1, "ITCMLAEN"_l1, 3, 3, ReadWrite, Store, None, Reset::Unknown, 0,
+    {0x008, "ACTLR"_l1, "ITCMLAEN"_l1, 3, 3, ReadWrite, Store, None, Reset::Known, 0,
      Needs::Nothing, "the ITCM answers at 0x00000000"_l1},
-    {0x008, "ACTLR"_l1, "ITCMUAEN"_l1, 4, 4, ReadWrite, Store, None, Reset::Unknown, 0,
+    {0x008, "ACTLR"_l1, "ITCMUAEN"_l1, 4, 4, ReadWrite, Store, None, Reset::Known, 0,
      Needs::Nothing, "the ITCM answers at 0x10000000"_l1},
     {0x010, "SYST_CSR"_l1, "ENABLE"_l1, 0, 0, ReadWrite, Store, None, Reset::Known, 0,
      Needs::OsExtension, "counts"_l1},
@@ -192,11 +192,10 @@ void adapt(const SystemMap &map, const QString &entry, RegisterField *field)
         field->high = inputsOf(map) - 1;
     if (field->name == "ENDIANNESS"_l1)
         field->reset = map.processor.isBigEndian ? 1 : 0;
-    const bool internal = findRegion(map, QStringLiteral("ITCM"));
-    if (entry == "ACTLR"_l1 && (internal || findRegion(map, QStringLiteral("EXTFLASH")))) {
-        field->hasReset = true;
-        field->reset = internal && field->name == "ITCMLAEN"_l1 ? 1 : 0;
-    }
+    if (field->name == "ITCMLAEN"_l1)
+        field->reset = map.processor.itcmAtLowerAlias ? 1 : 0;
+    if (field->name == "ITCMUAEN"_l1)
+        field->reset = map.processor.itcmAtUpperAlias ? 1 : 0;
 }
 
 RegisterField fieldOf(const SystemMap &map, const FieldRow &row)

@@ -161,7 +161,7 @@ void tst_Header::compilersAreQuiet()
     const QString header = headerOf(one);
     const QByteArray program = programFor(header);
     for (const Compiler &compiler : compilers) {
-        if (!compiler.isForAll && index > 1 && !one.hasOwnData)
+        if (!compiler.isForAll && index > 1)
             continue;
         const QString said = complaint(commandOf(compiler), header, program);
         QVERIFY2(said.isEmpty(), qPrintable(QLatin1String(compiler.name) + u' ' + said.left(2000)));
@@ -185,9 +185,9 @@ void tst_Header::compilersNoticeAWrongOffset()
     QString header = headerOf(SoftwareView::everything());
     QVERIFY(header.contains(from));
     header.replace(from, to);
-    for (const Compiler &compiler : compilers)
-        QVERIFY(
-            !complaint(commandOf(compiler), header, "#include \"tarvo_orix_m1.h\"\n").isEmpty());
+    for (const int language : {0, 1})
+        QVERIFY(!complaint(commandOf(compilers[language]), header, "#include \"tarvo_orix_m1.h\"\n")
+                     .isEmpty());
 }
 
 void tst_Header::keepsTheNamesOfTheRegisterDescription()
@@ -209,7 +209,9 @@ void tst_Header::keepsTheNamesOfTheRegisterDescription()
 void tst_Header::everyMacroOfTheCompilersIsKnown()
 {
     for (const Compiler &compiler : compilers) {
-        QStringList command = commandOf(compiler);
+        if (!compiler.isForAll)
+            continue;
+        const QStringList command = commandOf(compiler);
         QString error;
         const QStringList macros = SoftwareView::macrosOf(command, &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));

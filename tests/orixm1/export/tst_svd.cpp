@@ -275,6 +275,12 @@ void tst_Svd::followsTheProcessor()
     const QStringList few = registersOf({{Key::numberOfInterrupts, 8}});
     QVERIFY(few.contains(QStringLiteral("NVIC_IPR1")) &&
             !few.contains(QStringLiteral("NVIC_IPR2")));
+    // Where the memory stands decides over a register's value after reset.
+    const auto aliases = [this](const OptionMap &options) {
+        return xmlTree(svdOf(options)).named("register", "ACTLR").textOf("resetValue");
+    };
+    QCOMPARE(aliases({}), QStringLiteral("0x00000008"));
+    QCOMPARE(aliases({{Key::internalInstructionMemory, false}}), QStringLiteral("0x00000000"));
     const auto cpu = [this](const OptionMap &options, const char *name) {
         return xmlTree(svdOf(options)).child("cpu").textOf(name);
     };
