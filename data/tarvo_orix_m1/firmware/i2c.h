@@ -54,8 +54,8 @@ i2c_result i2c_write_read(I2C_Type *i2c, uint8_t address, const void *sent, size
 
 /*
  * Frees a bus on which a device holds SDA since it waits for the rest of a byte: gives it nine
- * clock periods and a stop, up to three times, until SDA stays high. I2C_ERROR_ARBITRATION: it does
- * not.
+ * clock pulses, the last of which is a stop, up to three times, until SDA stays high.
+ * I2C_ERROR_ARBITRATION: it does not.
  */
 i2c_result i2c_recover(I2C_Type *i2c, uint32_t polls);
 

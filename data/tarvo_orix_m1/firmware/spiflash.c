@@ -81,11 +81,10 @@ spiflash_result spiflash_read(const SPIFLASH_Type *flash, uint32_t address, void
     if (!is_within(address, size))
         return SPIFLASH_ERROR_RANGE;
     while (taken < size) {
-        /* Through memory, so that the order of the bytes is the same for both endiannesses. */
-        const uint32_t word = window[address / 4u];
-        const uint8_t *in_word = (const uint8_t *)&word;
+        const uint32_t word =
+            window[address / 4u]; /* the byte at the lowest address in bits 7 to 0 */
         do {
-            bytes[taken++] = in_word[address % 4u];
+            bytes[taken++] = (uint8_t)((word >> (8u * (address % 4u))) & 0xFFu);
             ++address;
         } while (taken < size && address % 4u != 0u);
     }
