@@ -1,0 +1,80 @@
+#include "elfimage.h"
+
+#include "text.h"
+
+#include <gelf.h>
+#include <libelf.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <memory>
+
+namespace CortexM1
+{
+
+namespace
+{
+
+constexpr std::size_t largestFile = 64 << 20; // with debug information
+constexpr std::uint64_t upperAlias = 0x10000000;
+
+} // namespace
+
+std::string loadElf(const std::string &path, bool hasUpperAlias,
+                    std::vector<std::uint8_t> &instructionMemory)
+{
+    const std::string name = "\"" + path + "\" ";
+    std::ifstream file(path, std::ios::binary);
+    std::vector<char> bytes(largestFile + 1);
+    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (!file.eof() && (!file || file.bad() || file.gcount() > std::streamsize(largestFile)))
+        return name + (file.gcount() > 0 ? "is too long" : "cannot be read");
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+
+    elf_version(EV_CURRENT);
+    const std::unique_ptr<Elf, int (*)(Elf *)> elf(elf_memory(bytes.data(), bytes.size()), elf_end);
+    GElf_Ehdr header;
+    if (!elf || elf_kind(elf.get()) != ELF_K_ELF || !gelf_getehdr(elf.get(), &header))
+        return name + "is no ELF file";
+    if (header.e_machine != EM_ARM || header.e_ident[EI_CLASS] != ELFCLASS32)
+        return name + "is no program for ARM";
+    if (header.e_ident[EI_DATA] != ELFDATA2LSB)
+        return name + "is big-endian, which is not modelled";
+    if (header.e_type != ET_EXEC)
+        return name + "is not linked";
+
+    std::size_t count = 0;
+    if (elf_getphdrnum(elf.get(), &count) != 0)
+        return name + "has a broken table of segments";
+    std::vector<std::uint8_t> contents = instructionMemory;
+    bool loaded = false;
+    for (std::size_t i = 0; i < count; ++i) {
+        GElf_Phdr segment;
+        if (!gelf_getphdr(elf.get(), static_cast<int>(i), &segment))
+            return name + "has a broken table of segments";
+        if (segment.p_type != PT_LOAD || segment.p_filesz == 0)
+            continue;
+        if (segment.p_offset > bytes.size() || segment.p_filesz > bytes.size() - segment.p_offset)
+            return name + "ends within a segment";
+        std::uint64_t address = segment.p_paddr;
+        if (hasUpperAlias && address >= upperAlias && address - upperAlias < contents.size())
+            address -= upperAlias;
+        if (address > contents.size() || segment.p_filesz > contents.size() - address)
+            return name + "has " + std::to_string(segment.p_filesz) + " bytes for " +
+                   hexadecimal(static_cast<std::uint32_t>(segment.p_paddr)) +
+                   ", which the instruction memory of " + std::to_string(contents.size()) +
+                   " bytes does not hold";
+        const auto begin = bytes.begin() + static_cast<std::ptrdiff_t>(segment.p_offset);
+        std::transform(begin, begin + static_cast<std::ptrdiff_t>(segment.p_filesz),
+                       contents.begin() + static_cast<std::ptrdiff_t>(address),
+                       [](char byte) { return static_cast<std::uint8_t>(byte); });
+        loaded = true;
+    }
+    if (!loaded)
+        return name + "has nothing to load";
+    instructionMemory = std::move(contents);
+    return {};
+}
+
+} // namespace CortexM1
