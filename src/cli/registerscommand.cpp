@@ -14,15 +14,35 @@ using namespace TARVOORIXM1;
 namespace
 {
 
+QJsonArray valuesArray(const QVector<FieldValue> &values)
+{
+    QJsonArray list;
+    for (const FieldValue &value : values)
+        list.append(QJsonObject{{QStringLiteral("name"), value.name},
+                                {QStringLiteral("value"), double(value.value)},
+                                {QStringLiteral("description"), value.text}});
+    return list;
+}
+
+// What a field has by exception is there by exception.
 QJsonObject fieldObject(const RegisterField &field)
 {
-    return {
+    QJsonObject object{
         {QStringLiteral("name"), field.name},
         {QStringLiteral("high"), field.high},
         {QStringLiteral("low"), field.low},
         {QStringLiteral("access"), accessName(field.access)},
         {QStringLiteral("reset"), field.hasReset ? QJsonValue(double(field.reset)) : QJsonValue()},
         {QStringLiteral("description"), field.text}};
+    if (field.minimum != 0)
+        object.insert(QStringLiteral("minimum"), double(field.minimum));
+    if (field.readEffect != ReadEffect::None)
+        object.insert(QStringLiteral("readEffect"), readEffectName(field.readEffect));
+    if (field.writeEffect != WriteEffect::Store)
+        object.insert(QStringLiteral("writeEffect"), writeEffectName(field.writeEffect));
+    if (!field.values.isEmpty())
+        object.insert(QStringLiteral("values"), valuesArray(field.values));
+    return object;
 }
 
 QJsonObject peripheralObject(const Peripheral &peripheral)
@@ -30,6 +50,7 @@ QJsonObject peripheralObject(const Peripheral &peripheral)
     QJsonArray instances;
     for (const PeripheralInstance &instance : peripheral.instances) {
         QJsonObject object{{QStringLiteral("name"), instance.name},
+                           {QStringLiteral("description"), instance.text},
                            {QStringLiteral("base"), double(instance.base)},
                            {QStringLiteral("interrupt"), instance.interrupt}};
         if (!instance.maskedInterrupt.isEmpty())
@@ -41,13 +62,18 @@ QJsonObject peripheralObject(const Peripheral &peripheral)
         QJsonArray fields;
         for (const RegisterField &field : entry.fields)
             fields.append(fieldObject(field));
-        registers.append(QJsonObject{{QStringLiteral("name"), entry.name},
-                                     {QStringLiteral("offset"), double(entry.offset)},
-                                     {QStringLiteral("description"), entry.text},
-                                     {QStringLiteral("fields"), fields}});
+        QJsonObject object{{QStringLiteral("name"), entry.name},
+                           {QStringLiteral("offset"), double(entry.offset)},
+                           {QStringLiteral("description"), entry.text},
+                           {QStringLiteral("changes"), QJsonArray::fromStringList(entry.changes)},
+                           {QStringLiteral("fields"), fields}};
+        if (!entry.words.isEmpty())
+            object.insert(QStringLiteral("words"), valuesArray(entry.words));
+        registers.append(object);
     }
     return {{QStringLiteral("name"), peripheral.name},
             {QStringLiteral("bus"), peripheral.bus},
+            {QStringLiteral("span"), double(peripheral.span)},
             {QStringLiteral("description"), peripheral.text},
             {QStringLiteral("partialWrites"), peripheral.parts},
             {QStringLiteral("instances"), instances},

@@ -1255,6 +1255,33 @@ void tst_Cli::registersOfAConfiguration()
                  .value(QLatin1String("base"))
                  .toDouble(),
              double(0x50005000));
+    QCOMPARE(uart.value(QLatin1String("span")).toInt(), 0x1000);
+    QCOMPARE(uart.value(QLatin1String("instances"))
+                 .toArray()
+                 .at(0)
+                 .toObject()
+                 .value(QLatin1String("description"))
+                 .toString(),
+             QStringLiteral("second serial line"));
+    const auto fieldOf = [&uart](int entry, int field) {
+        return uart.value(QLatin1String("registers"))
+            .toArray()
+            .at(entry)
+            .toObject()
+            .value(QLatin1String("fields"))
+            .toArray()
+            .at(field)
+            .toObject();
+    };
+    QCOMPARE(fieldOf(0, 0).value(QLatin1String("readEffect")).toString(),
+             QStringLiteral("external"));
+    const QJsonObject over = fieldOf(1, 3);
+    QVERIFY(!over.contains(QLatin1String("readEffect")));
+    QCOMPARE(over.value(QLatin1String("writeEffect")).toString(), QStringLiteral("one-to-clear"));
+    const QJsonObject lost = over.value(QLatin1String("values")).toArray().at(1).toObject();
+    QCOMPARE(lost.value(QLatin1String("name")).toString(), QStringLiteral("YES"));
+    QCOMPARE(lost.value(QLatin1String("value")).toInt(), 1);
+    QCOMPARE(fieldOf(3, 0).value(QLatin1String("minimum")).toInt(), 16);
 
     const Run header = run({QStringLiteral("registers"), file, QStringLiteral("--c-header")});
     QCOMPARE(header.status, 0);

@@ -21,6 +21,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QVector<Peripheral> peripherals = *read;
     REQUIRE(error.isEmpty() && peripherals.size() == 1);
     int rows = 0;
+    const auto checkValues = [&rows](const QVector<FieldValue> &values, quint64 limit,
+                                     quint32 minimum) {
+        qint64 last = -1;
+        for (const FieldValue &value : values) {
+            REQUIRE(value.value > last && value.value < limit && value.value >= minimum);
+            REQUIRE(!value.name.isEmpty());
+            last = value.value;
+        }
+        rows += values.size();
+    };
     const Peripheral &peripheral = peripherals.first();
     for (const Register &entry : peripheral.registers) {
         REQUIRE(entry.offset % 4 == 0 && entry.offset < peripheral.span);
@@ -29,7 +39,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             REQUIRE(field.low >= 0 && field.low <= field.high && field.high < 32);
             REQUIRE((mask & field.mask()) == 0);
             mask |= field.mask();
+            checkValues(field.values, quint64(1) << field.width(), field.minimum);
+            const bool isWritable = field.access != RegisterAccess::Read;
+            REQUIRE(isWritable || field.writeEffect == WriteEffect::Store);
+            // The access says it of the others.
+            rows += field.writeEffect != WriteEffect::Store &&
+                    field.access != RegisterAccess::WriteOneToClear;
+            rows += field.readEffect != ReadEffect::None;
         }
+        checkValues(entry.words, quint64(1) << 32, 0);
         REQUIRE((resetValue(entry) & ~mask) == 0);
         rows += 1 + entry.fields.size();
     }

@@ -16,22 +16,38 @@ using namespace TARVOORIXM1;
 namespace
 {
 
-// How a module's pins outside of the bus rest.
-QString restingPins(const QString &module)
+// How a module's pins outside of the bus rest, and how they move while `act` counts clock cycles.
+struct OuterPins {
+    QString resting;
+    QString moving;
+};
+
+OuterPins outerPins(const QString &module)
 {
-    static const QMap<QString, QString> pins = {
-        {QStringLiteral("ahb_gpio"), QStringLiteral(".gpio_in(16'd0)")},
-        {QStringLiteral("ahb_spi_flash"), QStringLiteral(".flash_miso(1'b0)")},
-        {QStringLiteral("apb_uart"), QStringLiteral(".rxd(1'b1)")},
-        {QStringLiteral("apb_timer"), QStringLiteral(".extin(1'b0)")},
-        {QStringLiteral("apb_rtc"), QStringLiteral(".rtc_clk(1'b0)")},
-        {QStringLiteral("apb_i2c"), QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)")},
-        {QStringLiteral("apb_spi"), QStringLiteral(".miso(1'b0)")},
+    static const QMap<QString, OuterPins> pins = {
+        {QStringLiteral("ahb_gpio"),
+         {QStringLiteral(".gpio_in(16'd0)"), QStringLiteral(".gpio_in(act[15:0])")}},
+        {QStringLiteral("ahb_spi_flash"),
+         {QStringLiteral(".flash_miso(1'b0)"), QStringLiteral(".flash_miso(act[2])")}},
+        {QStringLiteral("apb_uart"),
+         // Bytes of eight bits, 16 clock cycles each.
+         {QStringLiteral(".rxd(1'b1)"), QStringLiteral(".rxd(act[7])")}},
+        {QStringLiteral("apb_timer"),
+         {QStringLiteral(".extin(1'b0)"), QStringLiteral(".extin(act[2])")}},
+        {QStringLiteral("apb_rtc"),
+         {QStringLiteral(".rtc_clk(1'b0)"), QStringLiteral(".rtc_clk(act[2])")}},
+        {QStringLiteral("apb_i2c"),
+         {QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)"),
+          QStringLiteral(".scl_in(1'b1), .sda_in(act[4])")}},
+        {QStringLiteral("apb_spi"),
+         {QStringLiteral(".miso(1'b0)"), QStringLiteral(".miso(act[2])")}},
         {QStringLiteral("apb_sdcard"),
-         QStringLiteral(".sd_spiclk(1'b0), .sd_datain(1'b0), .sd_checkin(1'b1)")},
-        {QStringLiteral("apb_dual_timer"), QString()},
-        {QStringLiteral("apb_watchdog"), QString()}};
-    return pins.value(module, QStringLiteral("unknown module"));
+         {QStringLiteral(".sd_spiclk(1'b0), .sd_datain(1'b0), .sd_checkin(1'b1)"),
+          QStringLiteral(".sd_spiclk(act[2]), .sd_datain(act[4]), .sd_checkin(1'b0)")}},
+        {QStringLiteral("apb_dual_timer"), {}},
+        {QStringLiteral("apb_watchdog"), {}}};
+    const QString unknown = QStringLiteral("unknown module");
+    return pins.value(module, {unknown, unknown});
 }
 
 QString word(quint32 value)
@@ -123,10 +139,41 @@ public:
     {
     }
 
+    // What the module's registers hold at rest.
     QString text()
     {
-        m_text = QStringLiteral("module tb;\n`include \"bench.vh\"\n");
-        instantiate();
+        begin(outerPins(m_peripheral.module).resting);
+        afterReset();
+        unlistedOffsets();
+        for (const Register &entry : m_peripheral.registers) {
+            writes(entry);
+            partialWrites(entry);
+        }
+        return m_text + QLatin1String("        finish;\n    end\nendmodule\n");
+    }
+
+    // What reading changes, and what zeros and ones do, in a module whose pins move and whose
+    // registers all were written: each with what the same clock cycles leave behind without it.
+    QString effects()
+    {
+        begin(outerPins(m_peripheral.module).moving);
+        for (const Register &entry : m_peripheral.registers) {
+            readEffects(entry);
+            writeEffects(entry);
+        }
+        return m_text + QLatin1String("        finish;\n    end\nendmodule\n");
+    }
+
+private:
+    void begin(const QString &pins)
+    {
+        m_text = QStringLiteral("module tb;\n`include \"bench.vh\"\n"
+                                "    reg [15:0] act;\n"
+                                "    always @(posedge clk) act <= rstn ? act + 16'd1 : 16'd0;\n"
+                                "    reg [31:0] seen [0:31], before [0:31];\n"
+                                "    reg [31:0] gained, lost;\n"
+                                "    integer k;\n");
+        instantiate(pins);
         m_text += QLatin1String(
             "    task expect_bits(input [31:0] address, input [31:0] mask, input [31:0] value, "
             "input [8*48-1:0] what);\n        begin\n");
@@ -143,17 +190,21 @@ public:
         m_text += m_isAhb ? QLatin1String("        ahb_transfer(address, 1'b1, size, value);\n")
                           : QLatin1String("        apb_write_lanes(address[11:0], value, size[0] ? "
                                           "4'b0011 << address[1:0] : 4'b0001 << address[1:0]);\n");
-        m_text += QLatin1String("    endtask\n    initial begin\n");
-        afterReset();
-        unlistedOffsets();
-        for (const Register &entry : m_peripheral.registers) {
-            writes(entry);
-            partialWrites(entry);
-        }
-        return m_text + QLatin1String("        finish;\n    end\nendmodule\n");
+        m_text +=
+            QLatin1String("    endtask\n    task see(input integer n, input [31:0] address);\n");
+        m_text += m_isAhb ? QLatin1String("        begin ahb_transfer(address, 1'b0, 3'd2, 32'd0);")
+                          : QLatin1String("        begin apb_read(address[11:0]);");
+        m_text += QLatin1String(
+            " seen[n] = rd; end\n    endtask\n"
+            // What is different now from what was remembered.
+            "    task compare(input integer n);\n        for (k = 0; k < n; k = k + 1) begin\n"
+            "            gained = gained | (seen[k] & ~before[k]);\n"
+            "            lost = lost | (before[k] & ~seen[k]);\n        end\n    endtask\n"
+            "    task remember(input integer n);\n"
+            "        for (k = 0; k < n; k = k + 1) before[k] = seen[k];\n    endtask\n"
+            "    initial begin\n        gained = 0;\n        lost = 0;\n");
     }
 
-private:
     void line(const QString &text) { m_text += QLatin1String("        ") + text + u'\n'; }
 
     int addressBits() const
@@ -173,9 +224,8 @@ private:
                  .arg(word(address(offset)), word(expected.mask), word(expected.value), what));
     }
 
-    void instantiate()
+    void instantiate(const QString &pins)
     {
-        const QString pins = restingPins(m_peripheral.module);
         const QString more = pins.isEmpty() ? QString() : QString(QLatin1String(", ") + pins);
         if (m_isAhb) {
             m_text +=
@@ -300,6 +350,131 @@ private:
                         expectReset(other, other.name + what + QLatin1String(" of ") + entry.name);
                 }
             }
+        }
+    }
+
+    // An offset at which nothing is.
+    quint32 nowhere() const { return m_peripheral.span - 4; }
+
+    static bool hasReadEffect(const Register &entry)
+    {
+        return std::any_of(
+            entry.fields.begin(), entry.fields.end(),
+            [](const RegisterField &field) { return field.readEffect != ReadEffect::None; });
+    }
+
+    static bool isStored(const Register &entry)
+    {
+        return std::any_of(
+            entry.fields.begin(), entry.fields.end(),
+            [](const RegisterField &field) { return field.writeEffect == WriteEffect::Store; });
+    }
+
+    // Everything is written with `pattern`, what is stored last; works for a while, and is read
+    // after `action`, `tried` last, since reading it may undo what `action` did.
+    void live(quint32 pattern, const QString &action, const Register &tried)
+    {
+        line(QStringLiteral("reset;"));
+        for (const bool stored : {false, true}) {
+            for (const Register &entry : m_peripheral.registers) {
+                if (isStored(entry) == stored)
+                    line(QStringLiteral("write_word(%1, %2);")
+                             .arg(word(address(entry.offset)), word(pattern)));
+            }
+        }
+        line(QStringLiteral("cycles(1500);"));
+        line(action);
+        int n = 0;
+        for (const bool isTried : {false, true}) {
+            for (const Register &entry : m_peripheral.registers) {
+                if ((entry.offset == tried.offset) == isTried)
+                    line(QStringLiteral("see(%1, %2);").arg(n++).arg(word(address(entry.offset))));
+            }
+        }
+    }
+
+    // Compares `action` with `other`, which takes as long; what differs is in "gained" and "lost".
+    void compare(quint32 pattern, const QString &other, const QString &action,
+                 const Register &tried)
+    {
+        const int count = m_peripheral.registers.size();
+        live(pattern, other, tried);
+        line(QStringLiteral("remember(%1);").arg(count));
+        live(pattern, action, tried);
+        line(QStringLiteral("compare(%1);").arg(count));
+    }
+
+    void forget() { line(QStringLiteral("gained = 0; lost = 0;")); }
+    void check(const char *condition, const QString &what)
+    {
+        line(QStringLiteral("check(%1, \"%2\");").arg(QLatin1String(condition), what));
+    }
+
+    // Timers that count and wrap, serial lines that are on, and what the others make of it.
+    static QVector<quint32> livelyPatterns() { return {0xFFFFFFFFu, 0x00000101u, 0x00000013u}; }
+
+    void readEffects(const Register &entry)
+    {
+        const auto read = [this](quint32 offset) {
+            return QStringLiteral("see(31, %1);").arg(word(address(offset)));
+        };
+        forget();
+        for (const quint32 pattern : livelyPatterns())
+            compare(pattern, read(nowhere()) + read(nowhere()),
+                    read(entry.offset) + read(entry.offset), entry);
+        if (!hasReadEffect(entry)) {
+            check("gained == 0 && lost == 0",
+                  QLatin1String("reading changes nothing: ") + entry.name);
+            return;
+        }
+        check("gained != 0 || lost != 0",
+              QLatin1String("reading changes something: ") + entry.name);
+        for (const RegisterField &field : entry.fields) {
+            if (field.readEffect != ReadEffect::Clear && field.readEffect != ReadEffect::Set)
+                continue;
+            const quint32 left = field.readEffect == ReadEffect::Set ? field.mask() : 0;
+            for (const quint32 pattern : livelyPatterns()) {
+                live(pattern, read(entry.offset), entry);
+                expect(entry.offset, {left, field.mask()},
+                       QLatin1String("after it was read: ") + field.name);
+            }
+        }
+    }
+
+    void writeEffects(const Register &entry)
+    {
+        quint32 clearing = 0;
+        quint32 setting = 0;
+        bool hasStored = false;
+        for (const RegisterField &field : entry.fields) {
+            if (field.writeEffect == WriteEffect::OneToClear)
+                clearing |= field.mask();
+            else if (field.writeEffect == WriteEffect::OneToSet)
+                setting |= field.mask();
+            else
+                hasStored = hasStored || field.access == RegisterAccess::ReadWrite;
+        }
+        if ((clearing | setting) == 0)
+            return;
+        const auto write = [this](quint32 offset, quint32 value) {
+            return QStringLiteral("write_word(%1, %2);").arg(word(address(offset)), word(value));
+        };
+        const auto tryOut = [&](quint32 value) {
+            forget();
+            for (const quint32 pattern : livelyPatterns())
+                compare(pattern, write(nowhere(), value), write(entry.offset, value), entry);
+        };
+        if (!hasStored) {
+            tryOut(0);
+            check("gained == 0 && lost == 0", QLatin1String("zeros do nothing: ") + entry.name);
+        }
+        if (clearing != 0) {
+            tryOut(clearing);
+            check("gained == 0 && lost != 0", QLatin1String("ones clear: ") + entry.name);
+        }
+        if (setting != 0) {
+            tryOut(setting);
+            check("gained != 0", QLatin1String("ones set: ") + entry.name);
         }
     }
 
@@ -490,6 +665,9 @@ private Q_SLOTS:
     void theGuidesPortsAreTheNotesOfTheTop();
     void theGuidesMapIsTheSubsystems();
     void theGuidesInterruptsAreTheSubsystems();
+    void effectsAreFound_data();
+    void effectsAreFound();
+    void aFlagThatReadingClearsIsAsDescribed();
     void faultsOfModulesAreFound_data();
     void faultsOfModulesAreFound();
 
@@ -515,10 +693,12 @@ void tst_RegistersInRtl::modulesAreAsDescribed()
 {
     QFETCH(int, index);
     const Peripheral &peripheral = m_peripherals.at(index);
-    const QString wrong =
-        simulate(Bench(peripheral).text(),
-                 {QStringLiteral(RTL_DIR "/%1.v").arg(peripheral.module), rtl("spi_engine.v")});
-    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+    const QStringList sources = {QStringLiteral(RTL_DIR "/%1.v").arg(peripheral.module),
+                                 rtl("spi_engine.v")};
+    for (const QString &bench : {Bench(peripheral).text(), Bench(peripheral).effects()}) {
+        const QString wrong = simulate(bench, sources);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+    }
 }
 
 static QStringList linesOf(const QStringList &arguments)
@@ -735,6 +915,88 @@ void tst_RegistersInRtl::mistakesAreFound()
         peripheral.registers[0].changes.clear();
     const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
+}
+
+void tst_RegistersInRtl::effectsAreFound_data()
+{
+    QTest::addColumn<QString>("peripheral");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<int>("read");
+    QTest::addColumn<int>("write");
+    QTest::addColumn<QString>("wrong");
+    const auto row = [](const char *name, const char *peripheral, const char *field,
+                        ReadEffect read, WriteEffect write, const char *wrong) {
+        QTest::newRow(name) << QString::fromLatin1(peripheral) << QString::fromLatin1(field)
+                            << int(read) << int(write) << QString::fromLatin1(wrong);
+    };
+    row("a read effect that is not said", "UART", "DATA.BYTE", ReadEffect::None, WriteEffect::Store,
+        "reading changes nothing: DATA");
+    row("a read effect that is none", "TIMER", "PEND.WRAP", ReadEffect::Modify,
+        WriteEffect::OneToClear, "reading changes something: PEND");
+    row("a field that reading clears", "TIMER", "PEND.WRAP", ReadEffect::Clear,
+        WriteEffect::OneToClear, "after it was read: WRAP");
+    row("a field that reading sets", "I2C", "STATUS.OPEN", ReadEffect::Set, WriteEffect::Store,
+        "after it was read: OPEN");
+    row("a set register that clears", "GPIO", "OUTSET.SET", ReadEffect::None,
+        WriteEffect::OneToClear, "ones clear: OUTSET");
+    row("a clear register that sets", "GPIO", "OUTCLR.CLEAR", ReadEffect::None,
+        WriteEffect::OneToSet, "ones set: OUTCLR");
+    row("a register whose zeros do something", "SPI", "DATA.BYTE", ReadEffect::None,
+        WriteEffect::OneToSet, "zeros do nothing: DATA");
+}
+
+// The benches notice effects that are not those of the module.
+void tst_RegistersInRtl::effectsAreFound()
+{
+    QFETCH(QString, peripheral);
+    QFETCH(QString, field);
+    QFETCH(int, read);
+    QFETCH(int, write);
+    QFETCH(QString, wrong);
+    const auto found = std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                                    [&](const Peripheral &p) { return p.name == peripheral; });
+    QVERIFY(found != m_peripherals.cend());
+    Peripheral changed = *found;
+    int count = 0;
+    for (Register &entry : changed.registers) {
+        for (RegisterField &candidate : entry.fields) {
+            if (entry.name + u'.' + candidate.name != field)
+                continue;
+            candidate.readEffect = ReadEffect(read);
+            candidate.writeEffect = WriteEffect(write);
+            ++count;
+        }
+    }
+    QCOMPARE(count, 1);
+    const QString told =
+        simulate(Bench(changed).effects(),
+                 {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module), rtl("spi_engine.v")});
+    QVERIFY2(told.contains(QLatin1String("failed: ") + wrong), qPrintable(told));
+}
+
+// What no module of the subsystem has: a flag that is cleared when it is read.
+void tst_RegistersInRtl::aFlagThatReadingClearsIsAsDescribed()
+{
+    const auto timer =
+        std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                     [](const Peripheral &p) { return p.name == QLatin1String("TIMER"); });
+    QVERIFY(timer != m_peripherals.cend());
+    QString text = QString::fromUtf8(TestSupport::contentsOf(rtl("apb_timer.v")));
+    const QString before = QStringLiteral("            if (store)\n");
+    QVERIFY(text.contains(before));
+    text.replace(before, QLatin1String("            if (PSEL & PENABLE & ~PWRITE & (offset == "
+                                       "12'h00C)) pend <= 1'b0;\n") +
+                             before);
+    const QTemporaryDir dir;
+    const QString changed = dir.filePath(QStringLiteral("changed.v"));
+    TestSupport::write(changed, text.toUtf8());
+    const QString unsaid = simulate(Bench(*timer).effects(), {changed});
+    QVERIFY2(unsaid.contains(QLatin1String("failed: reading changes nothing: PEND")),
+             qPrintable(unsaid));
+    Peripheral described = *timer;
+    described.registers[3].fields[0].readEffect = ReadEffect::Clear;
+    const QString wrong = simulate(Bench(described).effects(), {changed});
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
 void tst_RegistersInRtl::faultsOfModulesAreFound_data()

@@ -41,6 +41,44 @@ QString fieldText(const RegisterField &field)
     return field.text + " (at least "_l1 + QString::number(field.minimum) + u')';
 }
 
+// What else is to be said of a field, a row each.
+QStringList remarks(const RegisterField &field)
+{
+    QStringList lines;
+    switch (field.readEffect) {
+    case ReadEffect::None:
+        break;
+    case ReadEffect::Clear:
+        lines.append(QStringLiteral("reading clears it"));
+        break;
+    case ReadEffect::Set:
+        lines.append(QStringLiteral("reading sets it"));
+        break;
+    case ReadEffect::Modify:
+        lines.append(QStringLiteral("reading changes it"));
+        break;
+    case ReadEffect::External:
+        lines.append(QStringLiteral("reading changes something else"));
+        break;
+    }
+    // The access says it of the others.
+    if (field.writeEffect != WriteEffect::Store && field.access != RegisterAccess::WriteOneToClear)
+        lines.append(QStringLiteral("writing 0 does nothing"));
+    return lines;
+}
+
+QString valuesText(const QVector<FieldValue> &values)
+{
+    QString text;
+    for (const FieldValue &value : values) {
+        const QString number =
+            value.value < 10 ? QString::number(value.value) : hex(value.value, 0);
+        text +=
+            "| | | | | | | "_l1 + number + " = "_l1 + value.name + ": "_l1 + value.text + " |\n"_l1;
+    }
+    return text;
+}
+
 } // namespace
 
 QString hexAddress(quint32 address)
@@ -79,12 +117,13 @@ QString registersMarkdown(const QVector<Peripheral> &peripherals,
         "written; R ignores writes; W reads as 0; "
         "R/W1C reads, and writing 1 "
         "clears the bit; \"R, W\" means one thing when read and another when written.\n\n"
-        "| instance | address | bus | interrupt | described under |\n|---|---|---|---|---|\n");
+        "| instance | address | bus | interrupt | described under | for |\n"
+        "|---|---|---|---|---|---|\n");
     for (const Peripheral &peripheral : peripherals) {
         for (const PeripheralInstance &instance : peripheral.instances)
             text += "| "_l1 + instance.name + " | "_l1 + hexAddress(instance.base) + " | "_l1 +
                     peripheral.bus + " | "_l1 + interruptText(instance) + " | "_l1 +
-                    peripheral.name + " |\n"_l1;
+                    peripheral.name + " | "_l1 + instance.text + " |\n"_l1;
     }
     if (!others.isEmpty())
         text += "\nInterrupts of blocks that are not described here:\n\n"
@@ -109,10 +148,15 @@ QString registersMarkdown(const QVector<Peripheral> &peripherals,
         for (const Register &entry : peripheral.registers) {
             text += "| "_l1 + hex(entry.offset, 2) + " | **"_l1 + entry.name + "** | | | | "_l1 +
                     hexAddress(resetValue(entry)) + " | "_l1 + entry.text + " |\n"_l1;
-            for (const RegisterField &field : entry.fields)
+            text += valuesText(entry.words);
+            for (const RegisterField &field : entry.fields) {
                 text += "| | | "_l1 + bitsText(field) + " | "_l1 + field.name + " | "_l1 +
                         accessName(field.access) + " | "_l1 + resetText(field) + " | "_l1 +
                         fieldText(field) + " |\n"_l1;
+                for (const QString &remark : remarks(field))
+                    text += "| | | | | | | "_l1 + remark + " |\n"_l1;
+                text += valuesText(field.values);
+            }
         }
     }
     return text;

@@ -35,6 +35,43 @@ constexpr AccessRow accessRows[] = {
     {"R, W"_l1, RegisterAccess::Separate},
 };
 
+struct ReadEffectRow {
+    QLatin1String name;
+    ReadEffect effect;
+};
+
+constexpr ReadEffectRow readEffectRows[] = {
+    {"clear"_l1, ReadEffect::Clear},
+    {"set"_l1, ReadEffect::Set},
+    {"modify"_l1, ReadEffect::Modify},
+    {"external"_l1, ReadEffect::External},
+};
+
+struct WriteEffectRow {
+    QLatin1String name;
+    WriteEffect effect;
+};
+
+constexpr WriteEffectRow writeEffectRows[] = {
+    {"one-to-clear"_l1, WriteEffect::OneToClear},
+    {"one-to-set"_l1, WriteEffect::OneToSet},
+};
+
+template <typename Rows>
+auto rowNamed(const Rows &rows, const QString &name)
+{
+    return std::find_if(std::begin(rows), std::end(rows),
+                        [&name](const auto &row) { return row.name == name; });
+}
+
+template <typename Rows, typename Effect>
+QString nameIn(const Rows &rows, Effect effect)
+{
+    const auto row = std::find_if(std::begin(rows), std::end(rows),
+                                  [effect](const auto &r) { return r.effect == effect; });
+    return row == std::end(rows) ? QString() : QString(row->name);
+}
+
 // Reads one file. The first mistake ends it.
 class Reader
 {
@@ -147,15 +184,20 @@ private:
 
     PeripheralInstance readInstance(const QJsonObject &object)
     {
-        checkKeys(object, {"name"_l1, "base"_l1, "interrupt"_l1, "option"_l1});
+        checkKeys(object, {"name"_l1, "text"_l1, "base"_l1, "interrupt"_l1, "option"_l1});
         PeripheralInstance instance;
         instance.name = identifier(object, "name"_l1);
+        m_place = instance.name + ": "_l1;
+        instance.text = text(object, "text"_l1);
+        if (instance.text.trimmed().isEmpty())
+            fail(QStringLiteral("\"text\" is empty"));
         instance.base = number(object, "base"_l1);
         instance.interrupt = text(object, "interrupt"_l1, false);
         instance.option = text(object, "option"_l1);
         const Option *option = findOption(instance.option);
         if (!option || option->type != OptionType::Bool)
             fail(u'"' + instance.option + "\" is no switch of the configuration"_l1);
+        m_place.clear();
         return instance;
     }
 
@@ -164,7 +206,8 @@ private:
         Register entry;
         entry.name = identifier(object, "name"_l1);
         m_place = entry.name + ": "_l1;
-        checkKeys(object, {"name"_l1, "offset"_l1, "text"_l1, "changes"_l1, "fields"_l1});
+        checkKeys(object,
+                  {"name"_l1, "offset"_l1, "text"_l1, "changes"_l1, "words"_l1, "fields"_l1});
         if (m_registerNames.contains(entry.name))
             fail(QStringLiteral("there are two of this name"));
         m_registerNames.insert(entry.name);
@@ -186,7 +229,81 @@ private:
             names.insert(entry.fields.last().name);
             m_place = entry.name + ": "_l1;
         }
+        entry.words = readValues(object, "words"_l1, quint64(1) << 32, 0);
+        const auto isWritable = [](const RegisterField &field) {
+            return field.access != RegisterAccess::Read;
+        };
+        if (!entry.words.isEmpty() &&
+            std::none_of(entry.fields.begin(), entry.fields.end(), isWritable))
+            fail(QStringLiteral("\"words\" of a register that cannot be written"));
         return entry;
+    }
+
+    // What may be left out; every value is from `minimum` to below `limit`.
+    QVector<FieldValue> readValues(const QJsonObject &object, QLatin1String key, quint64 limit,
+                                   quint32 minimum)
+    {
+        QVector<FieldValue> values;
+        if (!object.contains(key))
+            return values;
+        const QString place = m_place;
+        const QJsonArray entries = list(object, key);
+        QSet<QString> names;
+        for (const QJsonValue &item : entries) {
+            const QJsonObject entry = item.toObject();
+            FieldValue value;
+            value.name = identifier(entry, "name"_l1);
+            m_place = place + value.name + ": "_l1;
+            checkKeys(entry, {"name"_l1, "value"_l1, "text"_l1});
+            value.value = number(entry, "value"_l1);
+            value.text = text(entry, "text"_l1);
+            if (value.value >= limit)
+                fail(QStringLiteral("the value does not fit into the bits"));
+            if (value.value < minimum)
+                fail(QStringLiteral("the value is below the minimum"));
+            if (!values.isEmpty() && value.value <= values.last().value)
+                fail(QStringLiteral("the value is not above the one before"));
+            if (names.contains(value.name))
+                fail(QStringLiteral("there are two values of this name"));
+            names.insert(value.name);
+            values.append(value);
+            m_place = place;
+        }
+        return values;
+    }
+
+    // What cannot be is refused: no field that reads as 0 becomes something else when it is read,
+    // and what is stored as written is not written by ones.
+    void readEffects(const QJsonObject &object, RegisterField *field)
+    {
+        if (object.contains("read"_l1)) {
+            const QString name = text(object, "read"_l1);
+            const auto row = rowNamed(readEffectRows, name);
+            if (row == std::end(readEffectRows))
+                fail("unknown effect of reading \""_l1 + name + u'"');
+            else
+                field->readEffect = row->effect;
+            if (field->access == RegisterAccess::Write && field->readEffect != ReadEffect::External)
+                fail("\"read\" is \""_l1 + name + "\" of a field that reads as 0"_l1);
+        }
+        if (field->access == RegisterAccess::WriteOneToClear)
+            field->writeEffect = WriteEffect::OneToClear;
+        if (!object.contains("write"_l1))
+            return;
+        const QString name = text(object, "write"_l1);
+        const auto row = rowNamed(writeEffectRows, name);
+        if (row == std::end(writeEffectRows)) {
+            fail("unknown effect of writing \""_l1 + name + u'"');
+            return;
+        }
+        field->writeEffect = row->effect;
+        const bool isRight = field->access == RegisterAccess::WriteOneToClear
+                                 ? row->effect == WriteEffect::OneToClear
+                                 : field->access == RegisterAccess::Write ||
+                                       field->access == RegisterAccess::Separate;
+        if (!isRight)
+            fail("\"write\" is \""_l1 + name + "\" of a field with the access \""_l1 +
+                 accessName(field->access) + u'"');
     }
 
     RegisterField readField(const QJsonObject &object, const QVector<RegisterField> &before)
@@ -194,7 +311,8 @@ private:
         RegisterField field;
         field.name = identifier(object, "name"_l1);
         m_place += field.name + ": "_l1;
-        checkKeys(object, {"name"_l1, "bits"_l1, "access"_l1, "reset"_l1, "minimum"_l1, "text"_l1});
+        checkKeys(object, {"name"_l1, "bits"_l1, "access"_l1, "reset"_l1, "minimum"_l1, "read"_l1,
+                           "write"_l1, "values"_l1, "text"_l1});
         static const QRegularExpression bits(QStringLiteral("\\A(\\d{1,2})(:(\\d{1,2}))?\\z"));
         const auto match = bits.match(text(object, "bits"_l1));
         field.high = match.captured(1).toInt();
@@ -206,8 +324,7 @@ private:
         if (!before.isEmpty() && field.low <= before.last().high)
             fail(QStringLiteral("the bits are not above those of the field before"));
         const QString access = text(object, "access"_l1);
-        const auto row = std::find_if(std::begin(accessRows), std::end(accessRows),
-                                      [&access](const AccessRow &r) { return r.name == access; });
+        const auto row = rowNamed(accessRows, access);
         if (row == std::end(accessRows))
             fail("unknown access \""_l1 + access + u'"');
         else
@@ -221,6 +338,8 @@ private:
         if (field.reset >= limit || field.minimum >= limit)
             fail(QStringLiteral("a value does not fit into the bits"));
         field.text = text(object, "text"_l1);
+        readEffects(object, &field);
+        field.values = readValues(object, "values"_l1, limit, field.minimum);
         return field;
     }
 
@@ -239,6 +358,16 @@ QString accessName(RegisterAccess access)
             return row.name;
     }
     return {};
+}
+
+QString readEffectName(ReadEffect effect)
+{
+    return nameIn(readEffectRows, effect);
+}
+
+QString writeEffectName(WriteEffect effect)
+{
+    return nameIn(writeEffectRows, effect);
 }
 
 quint32 RegisterField::mask() const

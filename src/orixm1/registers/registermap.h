@@ -38,9 +38,13 @@ enum class WriteEffect {
     OneToSet,   // ones set bits, here or in another register, or start something; zeros do nothing
 };
 
-// A value of a field that has a name of its own.
+// The names of the effects in the files and in documents; empty for None and for Store.
+QString readEffectName(ReadEffect effect);
+QString writeEffectName(WriteEffect effect);
+
+// A value of a field, or a word for a register, that has a name of its own.
 struct FieldValue {
-    QString name; // an identifier, unique in the field
+    QString name; // an identifier, unique where it stands
     quint32 value = 0;
     QString text;
 };
@@ -55,7 +59,8 @@ struct RegisterField {
     quint32 minimum = 0;  // smaller values are stored as this one
     ReadEffect readEffect = ReadEffect::None;
     WriteEffect writeEffect = WriteEffect::Store;
-    QVector<FieldValue> values; // by value; empty: every value is a number
+    QVector<FieldValue> values; // by value, those that are read if access is Separate; empty:
+                                // every value is a number
     QString text;
 
     int width() const { return high - low + 1; }
@@ -66,7 +71,8 @@ struct Register {
     QString name;
     quint32 offset = 0; // bytes
     QString text;
-    QStringList changes;           // registers that read differently after a write to this one
+    QStringList changes;       // registers that read differently after a write to this one
+    QVector<FieldValue> words; // by value: what means something only when written as a whole word
     QVector<RegisterField> fields; // from bit 0 upwards; bits between them read as 0
 };
 

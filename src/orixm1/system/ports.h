@@ -1,6 +1,10 @@
 #pragma once
 
+#include "config/optionmap.h"
+#include "regions.h"
+
 #include <QString>
+#include <QVector>
 
 namespace TARVOORIXM1
 {
@@ -30,8 +34,8 @@ struct Port {
     QString signal; // the bus's own name of the signal: "HADDR"; empty: none
     bool isActiveLow = false;
     bool needsPullUp = false; // outside of the device, or of the user's logic
-    QString clock;            // name of the clock's port that it belongs to; empty: asynchronous
-    QString text;             // a phrase; may be empty
+    QString clock; // name of the clock's or strobe's port that it belongs to; empty: asynchronous
+    QString text;  // a phrase
 
     bool isVector() const { return left >= 0; }
     int width() const { return isVector() ? left - right + 1 : 1; } // lines
@@ -51,5 +55,17 @@ struct BlackBox {
     QString region; // name of the region that it answers; empty: none
     QString text;   // a phrase
 };
+
+// The ports of a configuration, whose regions are `regions`, in the order of the top module.
+QVector<Port> portsOf(const OptionMap &options, const QString &device,
+                      const QVector<Region> &regions);
+
+// Those of them that bring a clock or a reset. A clock that is sampled counts as well; its text
+// says so.
+QVector<ExternalSource> clocksAmong(const QVector<Port> &ports);
+QVector<ExternalSource> resetsAmong(const QVector<Port> &ports);
+
+// The black boxes of a configuration, the processor first.
+QVector<BlackBox> blackBoxesOf(const OptionMap &options, const QString &device);
 
 } // namespace TARVOORIXM1

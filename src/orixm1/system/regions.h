@@ -13,7 +13,7 @@ enum class RegionKind {
     TightlyCoupledMemory, // read and written by the processor without waiting
     ExternalMemory,       // whatever memory the user connects to the port
     MemoryDevice,         // memory behind a licensed controller
-    ReadWindow,           // contents of a memory device; writing gives an error or is lost
+    ReadWindow,           // contents of a memory device; writing gives an error response
     Registers,            // described registers of a peripheral
     BlackBox,             // a licensed block, whose registers its supplier describes
     ExtensionPort,        // whatever the user connects to the port

@@ -26,6 +26,8 @@ Processor processorOf(const OptionMap &options)
     processor.hasJtag = processor.hasDebug && (both || port == Value::jtag);
     processor.hasSerialWire = processor.hasDebug && (both || port == Value::serialWire);
     processor.hasSmallDebug = processor.hasDebug && on(Key::smallDebug);
+    // As generation writes them: the upper alias is never on.
+    processor.itcmAtLowerAlias = on(Key::internalInstructionMemory);
     return processor;
 }
 
@@ -106,6 +108,10 @@ SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,
               [](const Region &a, const Region &b) { return a.base < b.base; });
     map.interrupts = interruptLines(description.peripherals, map.peripherals,
                                     description.otherInterrupts, options);
+    map.ports = portsOf(options, device.device(), map.regions);
+    map.clocks = clocksAmong(map.ports);
+    map.resets = resetsAmong(map.ports);
+    map.blackBoxes = blackBoxesOf(options, device.device());
     map.firmware = firmwareFor(map.peripherals, description.firmware);
     return map;
 }
@@ -123,6 +129,16 @@ const Region *regionAt(const SystemMap &map, quint32 address)
         std::find_if(map.regions.begin(), map.regions.end(),
                      [address](const Region &region) { return region.contains(address); });
     return found == map.regions.end() ? nullptr : &*found;
+}
+
+bool isRefused(const SystemMap &map, quint32 address, BusAccess access)
+{
+    constexpr quint32 privateFirst = 0xE0000000;
+    constexpr quint32 privateLast = 0xE00FFFFF;
+    if (address >= privateFirst && address <= privateLast)
+        return false;
+    const Region *region = regionAt(map, address);
+    return !region || (region->kind == RegionKind::ReadWindow && access == BusAccess::Write);
 }
 
 } // namespace TARVOORIXM1

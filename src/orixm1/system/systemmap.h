@@ -21,6 +21,9 @@ struct Processor {
     bool hasJtag = true; // counts with hasDebug only
     bool hasSerialWire = true;
     bool hasSmallDebug = false;
+    // Where the internal instruction memory stands after reset; both false without one.
+    bool itcmAtLowerAlias = true;  // 0x00000000
+    bool itcmAtUpperAlias = false; // 0x10000000
 };
 
 // One interrupt of the processor and what requests it.
@@ -58,5 +61,12 @@ const Region *findRegion(const SystemMap &map, const QString &name);
 
 // The region that answers at an address; null if nothing does.
 const Region *regionAt(const SystemMap &map, quint32 address);
+
+enum class BusAccess { Read, Write };
+
+// Whether an access gets an error response whatever software did before: everything that is in no
+// region, and writing to a read window. Not so the processor's own registers, from 0xE0000000 to
+// 0xE00FFFFF, which are part of every processor and of no map.
+bool isRefused(const SystemMap &map, quint32 address, BusAccess access);
 
 } // namespace TARVOORIXM1

@@ -14,7 +14,7 @@ namespace
 
 const char sound[] = R"({
   "peripheral": "LAMP", "module": "apb_lamp", "bus": "APB", "span": "0x1000", "text": "A lamp.",
-  "instances": [ { "name": "LAMP", "base": "0x50003000", "interrupt": "3", "option": "Enable SPI" } ],
+  "instances": [ { "name": "LAMP", "text": "a light", "base": "0x50003000", "interrupt": "3", "option": "Enable SPI" } ],
   "registers": [
     { "name": "LEVEL", "offset": "0x04", "text": "Brightness.", "changes": ["STATE"],
       "fields": [
@@ -22,7 +22,13 @@ const char sound[] = R"({
         { "name": "VALUE", "bits": "11:4", "access": "R/W", "reset": "0x20", "minimum": "2", "text": "brightness" }
       ] },
     { "name": "STATE", "offset": "0x08", "text": "State.",
-      "fields": [ { "name": "HOT", "bits": "31", "access": "R/W1C", "reset": null, "text": "too hot" } ] }
+      "words": [ { "name": "KEY", "value": "0xFFFFFFFF", "text": "opens" } ],
+      "fields": [
+        { "name": "SEEN", "bits": "0", "access": "R", "reset": "0", "read": "clear", "text": "has been lit" },
+        { "name": "COLOUR", "bits": "3:1", "access": "R, W", "reset": "0", "read": "external", "write": "one-to-set", "text": "of the light",
+          "values": [ { "name": "RED", "value": "0", "text": "warm" }, { "name": "BLUE", "value": "7", "text": "cold" } ] },
+        { "name": "START", "bits": "4", "access": "W", "reset": "0", "write": "one-to-clear", "text": "starts" },
+        { "name": "HOT", "bits": "31", "access": "R/W1C", "reset": null, "text": "too hot" } ] }
   ]
 })";
 
@@ -48,6 +54,8 @@ private Q_SLOTS:
     void takesEveryInputOfTheProcessor();
     void saysHowManyInputsAreEnough_data();
     void saysHowManyInputsAreEnough();
+    void everyNarrowFieldNamesItsValues();
+    void theDocumentSaysWhatIsUnusual();
     void theDocumentIsTheOneInDocs();
     void theHeaderCompiles();
 
@@ -99,7 +107,26 @@ void tst_RegisterMap::readsWhatTheFileSays()
     QCOMPARE(level.fields.at(1).mask(), 0xFF0u);
     QCOMPARE(level.fields.at(1).minimum, 2u);
     QCOMPARE(resetValue(level), 0x201u);
-    const RegisterField &hot = lamp.registers.at(1).fields.first();
+    QCOMPARE(lamp.instances.first().text, QStringLiteral("a light"));
+    const Register &state = lamp.registers.at(1);
+    QCOMPARE(state.words.size(), 1);
+    QCOMPARE(state.words.first().name, QStringLiteral("KEY"));
+    QCOMPARE(state.words.first().value, 0xFFFFFFFFu);
+    const RegisterField &seen = state.fields.at(0);
+    QCOMPARE(seen.readEffect, ReadEffect::Clear);
+    QCOMPARE(seen.writeEffect, WriteEffect::Store);
+    QVERIFY(seen.values.isEmpty());
+    const RegisterField &colour = state.fields.at(1);
+    QCOMPARE(colour.readEffect, ReadEffect::External);
+    QCOMPARE(colour.writeEffect, WriteEffect::OneToSet);
+    QCOMPARE(colour.values.size(), 2);
+    QCOMPARE(colour.values.at(1).name, QStringLiteral("BLUE"));
+    QCOMPARE(colour.values.at(1).value, 7u);
+    QCOMPARE(colour.values.at(1).text, QStringLiteral("cold"));
+    QCOMPARE(state.fields.at(2).writeEffect, WriteEffect::OneToClear);
+    const RegisterField &hot = state.fields.at(3);
+    QCOMPARE(hot.readEffect, ReadEffect::None);
+    QCOMPARE(hot.writeEffect, WriteEffect::OneToClear);
     QCOMPARE(hot.mask(), 0x80000000u);
     QVERIFY(!hot.hasReset);
     QCOMPARE(accessName(hot.access), QStringLiteral("R/W1C"));
@@ -136,6 +163,51 @@ void tst_RegisterMap::namesFileAndPlaceOfAMistake_data()
     row("reset too large", "0x20", "0x120", "LEVEL: VALUE: a value does not fit");
     row("minimum too large", "\"minimum\": \"2\"", "\"minimum\": \"256\"", "does not fit");
     row("unknown change", "[\"STATE\"]", "[\"COLOUR\"]", "LEVEL: there is no register \"COLOUR\"");
+    row("an instance without a purpose", "\"text\": \"a light\", ", "",
+        "LAMP: \"text\" is no text");
+    row("an empty purpose", "a light", " ", "LAMP: \"text\" is empty");
+    row("unknown effect of reading", "\"external\"", "\"outside\"",
+        "STATE: COLOUR: unknown effect of reading \"outside\"");
+    row("an effect of reading that is no text", "\"read\": \"clear\"", "\"read\": true",
+        "STATE: SEEN: \"read\" is no text");
+    row("reading changes a field that reads as 0", "\"write\": \"one-to-clear\"",
+        "\"read\": \"set\"", "STATE: START: \"read\" is \"set\" of a field that reads as 0");
+    row("unknown effect of writing", "\"one-to-set\"", "\"zero-to-set\"",
+        "STATE: COLOUR: unknown effect of writing \"zero-to-set\"");
+    row("writing a field that cannot be written", "\"read\": \"clear\"",
+        "\"write\": \"one-to-set\"",
+        "STATE: SEEN: \"write\" is \"one-to-set\" of a field with the access \"R\"");
+    row("ones that are stored as written", "\"reset\": \"1\"",
+        "\"reset\": \"1\", \"write\": \"one-to-set\"",
+        "LEVEL: ON: \"write\" is \"one-to-set\" of a field with the access \"R/W\"");
+    row("ones that clear and set", "\"reset\": null", "\"reset\": null, \"write\": \"one-to-set\"",
+        "STATE: HOT: \"write\" is \"one-to-set\" of a field with the access \"R/W1C\"");
+    row("no values", "\"text\": \"lit\"", "\"text\": \"lit\", \"values\": []",
+        "LEVEL: ON: \"values\" is no list, or empty");
+    row("a value beyond the bits", "\"value\": \"7\"", "\"value\": \"8\"",
+        "STATE: COLOUR: BLUE: the value does not fit");
+    row("a value beyond the word", "0xFFFFFFFF", "0x100000000",
+        "STATE: KEY: \"value\" is no number");
+    row("values that fall", "\"value\": \"7\"", "\"value\": \"0\"",
+        "STATE: COLOUR: BLUE: the value is not above the one before");
+    row("a value below the minimum", "\"text\": \"brightness\"",
+        "\"text\": \"brightness\", \"values\": [{ \"name\": \"A\", \"value\": \"1\", \"text\": "
+        "\"a\" }]",
+        "LEVEL: VALUE: A: the value is below the minimum");
+    row("two values of a name", "BLUE", "RED", "STATE: COLOUR: RED: there are two values");
+    row("a value without a name", "BLUE", "2", "STATE: COLOUR: \"2\" is no name");
+    row("a value without a text", ", \"text\": \"cold\"", "",
+        "STATE: COLOUR: BLUE: \"text\" is no text");
+    row("an unknown word beside a value", "\"value\": \"7\"",
+        "\"value\": \"7\", \"usage\": \"read\"", "STATE: COLOUR: BLUE: unknown key \"usage\"");
+    row("words for a register that is only read",
+        "\"text\": \"Brightness.\", \"changes\": [\"STATE\"],\n      \"fields\": [",
+        "\"text\": \"Brightness.\", \"words\": [{ \"name\": \"A\", \"value\": \"1\", \"text\": "
+        "\"a\" }],\n"
+        "      \"fields\": [ { \"name\": \"B\", \"bits\": \"0\", \"access\": \"R\", \"reset\": "
+        "\"0\", \"text\": \"b\" } ] },\n"
+        "    { \"name\": \"OTHER\", \"offset\": \"0x06\", \"text\": \"c\", \"fields\": [",
+        "LEVEL: \"words\" of a register that cannot be written");
     row("missing text", "\"text\": \"Brightness.\", ", "", "LEVEL: \"text\" is no text");
 }
 
@@ -363,6 +435,42 @@ void tst_RegisterMap::saysHowManyInputsAreEnough()
     const InterruptSource source = {QStringLiteral("A"), number, count,
                                     QStringLiteral("Enable CAN")};
     QTEST(maskedInterrupt(source, {{QStringLiteral("Number of Interrupts"), inputs}}), "message");
+}
+
+// Below six bits nothing that is shipped is a plain number.
+void tst_RegisterMap::everyNarrowFieldNamesItsValues()
+{
+    int fields = 0;
+    for (const Peripheral &peripheral : qAsConst(m_all)) {
+        for (const Register &entry : peripheral.registers) {
+            for (const RegisterField &field : entry.fields) {
+                const QString what = peripheral.name + u'.' + entry.name + u'.' + field.name;
+                if (field.width() >= 6)
+                    continue;
+                QVERIFY2(field.values.size() == 1 << field.width(), qPrintable(what));
+                ++fields;
+            }
+        }
+    }
+    QVERIFY(fields >= 50);
+}
+
+void tst_RegisterMap::theDocumentSaysWhatIsUnusual()
+{
+    write(sound);
+    const auto read = readRegisterMap(m_dir->path());
+    QVERIFY2(read, qPrintable(read.reason()));
+    const QString document = registersMarkdown(*read, {});
+    for (const char *row : {"| LAMP | 0x50003000 | APB | 3 | LAMP | a light |\n",
+                            "| State. |\n| | | | | | | 0xFFFFFFFF = KEY: opens |\n",
+                            "| has been lit |\n| | | | | | | reading clears it |\n",
+                            "| of the light |\n| | | | | | | reading changes something else |\n"
+                            "| | | | | | | writing 0 does nothing |\n"
+                            "| | | | | | | 0 = RED: warm |\n| | | | | | | 7 = BLUE: cold |\n",
+                            "| starts |\n| | | | | | | writing 0 does nothing |\n",
+                            "| brightness (at least 2) |\n| 0x08 ", "| too hot |\n"})
+        QVERIFY2(document.contains(QLatin1String(row)), row);
+    QVERIFY(document.endsWith(QLatin1String("| too hot |\n")));
 }
 
 // "orixm1 registers --markdown > docs/registers.md" makes it anew.

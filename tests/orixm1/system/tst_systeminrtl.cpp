@@ -1,6 +1,7 @@
 // Holds the system map and the RTL against each other: for random configurations, scripts made from
 // the map try the first and the last word of each region and the words beside it, each register
-// after reset, and each interrupt.
+// after reset, and each interrupt. Its ports are those of the elaborated top and of the figures,
+// its black boxes the modules that the elaboration leaves empty.
 //
 // Whatever is no part of the RTL answers with a word of its own: black boxes are given a body,
 // extension ports are connected to constants. So a word tells who answered.
@@ -22,6 +23,9 @@
 #include <system/systemmap.h>
 #include <utils/descriptor.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -122,6 +126,41 @@ QVector<Pin> pinsOf(const OptionMap &options, const QString &device)
     return pins;
 }
 
+// "input UART0RXD", "output [31:0] AHB1HADDR", a port each.
+QStringList portTexts(const QVector<Port> &ports)
+{
+    QStringList list;
+    for (const Port &port : ports) {
+        const QString direction = port.direction == PortDirection::Input ? QStringLiteral("input")
+                                  : port.direction == PortDirection::Output
+                                      ? QStringLiteral("output")
+                                      : QStringLiteral("inout");
+        const QString range =
+            port.isVector() ? QStringLiteral(" [%1:%2]").arg(port.left).arg(port.right) : QString();
+        list.append(direction + range + u' ' + port.name);
+    }
+    return list;
+}
+
+QStringList pinTexts(const QVector<Pin> &pins)
+{
+    static const QString directions[] = {QStringLiteral("input"), QStringLiteral("output"),
+                                         QStringLiteral("inout")};
+    QStringList list;
+    for (const Pin &pin : pins)
+        list.append(directions[pin.direction] +
+                    (pin.range.isEmpty() ? QString() : QString(u' ' + pin.range)) + u' ' +
+                    pin.name);
+    return list;
+}
+
+// What the tool says of the elaborated top.
+struct Elaborated {
+    QStringList ports; // sorted
+    QStringList boxes; // likewise
+    QString message;   // why there is none
+};
+
 // The signal of the RTL that carries an interrupt, as its block drives it.
 QString requestOf(const InterruptLine &line)
 {
@@ -176,18 +215,21 @@ public:
         for (const Region &region : m_map.regions)
             text += accesses(region);
         for (const Region &region : m_map.regions) {
-            if (region.base != 0 && !regionAt(m_map, region.base - 4))
-                text += QStringLiteral("error %1\n").arg(hex(region.base - 4));
-            if (region.last != 0xFFFFFFFF && !regionAt(m_map, region.last + 1))
-                text += QStringLiteral("error %1\n").arg(hex(region.last + 1));
+            if (region.base != 0)
+                text += refused(region.base - 4);
+            if (region.last != 0xFFFFFFFF)
+                text += refused(region.last + 1);
         }
+        // The place of the other alias.
+        if (!m_map.processor.itcmAtUpperAlias)
+            text += refused(0x10000000);
         // Nothing is there in any configuration.
         for (const quint32 address : {0x4F000000u, 0x90000000u, 0xC0000000u, 0xDFFFFFFCu})
             text += QStringLiteral("error %1\n").arg(hex(address));
         // The places that other configurations have.
         for (const Region &region : everyRegion()) {
-            if (!regionAt(m_map, region.base))
-                text += QStringLiteral("error %1\n").arg(hex(region.base));
+            text += refused(region.base);
+            text += refused(region.last - 3);
         }
         return text;
     }
@@ -195,6 +237,13 @@ public:
     void setEveryRegion(const QVector<Region> &regions) { m_everyRegion = regions; }
 
 private:
+    QString refused(quint32 address) const
+    {
+        return isRefused(m_map, address, BusAccess::Read)
+                   ? QStringLiteral("error %1\n").arg(hex(address))
+                   : QString();
+    }
+
     const QVector<Region> &everyRegion() const { return m_everyRegion; }
 
     static QString netType(const Pin &pin)
@@ -353,8 +402,20 @@ private Q_SLOTS:
     void initTestCase();
     void mapIsWhatTheRtlDoes_data();
     void mapIsWhatTheRtlDoes();
+    void cleanupTestCase();
 
 private:
+    struct Tried {
+        int regions = 0;
+        int interrupts = 0;
+        int lost = 0;
+        int nonMaskable = 0;
+        int ports = 0;
+        int boxes = 0;
+    };
+    void count(const SystemMap &map);
+    Elaborated elaborate(const OptionMap &options, const DEV::DeviceArg &device,
+                         const QString &folder) const;
     QStringList sources(const OptionMap &options, const SystemMap &map,
                         const QString &folder) const;
 
@@ -365,7 +426,27 @@ private:
     SystemDescription m_description;
     QList<DEV::DeviceArg> m_devices;
     QVector<Region> m_everyRegion;
+    Tried m_tried;
 };
+
+void tst_SystemInRtl::count(const SystemMap &map)
+{
+    m_tried.regions += map.regions.size();
+    m_tried.ports += map.ports.size();
+    m_tried.boxes += map.blackBoxes.size();
+    for (const InterruptLine &line : map.interrupts) {
+        m_tried.interrupts += 1;
+        m_tried.lost += !line.lost.isEmpty();
+        m_tried.nonMaskable += line.number == InterruptLine::nonMaskable;
+    }
+}
+
+void tst_SystemInRtl::cleanupTestCase()
+{
+    qInfo("tried: %d regions, %d interrupts (%d lost, %d non-maskable), %d ports, %d black boxes",
+          m_tried.regions, m_tried.interrupts, m_tried.lost, m_tried.nonMaskable, m_tried.ports,
+          m_tried.boxes);
+}
 
 void tst_SystemInRtl::initTestCase()
 {
@@ -417,6 +498,56 @@ QStringList tst_SystemInRtl::sources(const OptionMap &options, const SystemMap &
     return list;
 }
 
+// `folder` has the include files.
+Elaborated tst_SystemInRtl::elaborate(const OptionMap &options, const DEV::DeviceArg &device,
+                                      const QString &folder) const
+{
+    QByteArray script;
+    const QStringList sources = buildSourceFiles(options, m_ipInfo, device.device(), folder);
+    for (const QString &source : sources)
+        script += "read_verilog -I. -I" + QFileInfo(source).path().toUtf8() + ' ' +
+                  source.toUtf8() + '\n';
+    script += "hierarchy -check -top Tarvo_ORIX_M1_Top\n"
+              "hierarchy -top Tarvo_ORIX_M1_Top -purge_lib\n"
+              "tee -q -o boxes.txt select -list =A:blackbox\n"
+              "blackbox *\nwrite_json ports.json\n";
+    const QDir dir(folder);
+    TestSupport::write(dir.filePath(QStringLiteral("elaborate.ys")), script);
+    Elaborated result;
+    const QString told =
+        run(QStringLiteral("yosys"),
+            {QStringLiteral("-q"), QStringLiteral("-s"), QStringLiteral("elaborate.ys")}, folder);
+    const QJsonObject top =
+        QJsonDocument::fromJson(TestSupport::contentsOf(dir.filePath(QStringLiteral("ports.json"))))
+            .object()
+            .value(QLatin1String("modules"))
+            .toObject()
+            .value(QLatin1String("Tarvo_ORIX_M1_Top"))
+            .toObject();
+    const QJsonObject ports = top.value(QLatin1String("ports")).toObject();
+    if (ports.isEmpty())
+        result.message = told;
+    for (auto it = ports.begin(); it != ports.end(); ++it) {
+        const QJsonObject port = it->toObject();
+        const int width = port.value(QLatin1String("bits")).toArray().size();
+        const int lowest = port.value(QLatin1String("offset")).toInt();
+        QString text = port.value(QLatin1String("direction")).toString();
+        if (width > 1 || lowest != 0 || port.contains(QLatin1String("upto")))
+            text += QStringLiteral(" [%1:%2]").arg(lowest + width - 1).arg(lowest);
+        result.ports.append(text + u' ' + it.key());
+    }
+    // "can_core", among lines such as "can_core/HCLK".
+    static const QRegularExpression name(QStringLiteral("^([^/\\n]+)$"),
+                                         QRegularExpression::MultilineOption);
+    const QString boxes =
+        QString::fromUtf8(TestSupport::contentsOf(dir.filePath(QStringLiteral("boxes.txt"))));
+    for (auto it = name.globalMatch(boxes); it.hasNext();)
+        result.boxes.append(it.next().captured(1));
+    result.ports.sort();
+    result.boxes.sort();
+    return result;
+}
+
 void tst_SystemInRtl::mapIsWhatTheRtlDoes()
 {
     QFETCH(int, draw);
@@ -425,11 +556,28 @@ void tst_SystemInRtl::mapIsWhatTheRtlDoes()
     const OptionMap options = anyOptions(device, random);
     const SystemMap map = systemMap(options, device, m_description);
     const QVector<Pin> pins = pinsOf(options, device.device());
+    count(map);
 
     const QTemporaryDir dir;
     const QVector<IncludeFile> files = buildIncludeFiles(options, device);
     for (const IncludeFile &file : files)
         TestSupport::write(dir.filePath(file.name), file.lines.join(u'\n').toUtf8() + '\n');
+    QStringList ports = portTexts(map.ports);
+    QStringList figures = pinTexts(pins);
+    ports.sort();
+    figures.sort();
+    QCOMPARE(ports, figures);
+    const Elaborated elaborated = elaborate(options, device, dir.path());
+    QVERIFY2(elaborated.message.isEmpty(), qPrintable(elaborated.message));
+    QCOMPARE(ports, elaborated.ports);
+    QStringList boxes;
+    for (const BlackBox &box : map.blackBoxes) {
+        boxes.append(box.module);
+        QVERIFY2(box.region.isEmpty() || findRegion(map, box.region), qPrintable(box.region));
+    }
+    boxes.sort();
+    QCOMPARE(boxes, elaborated.boxes);
+
     Bench bench(map, pins);
     bench.setEveryRegion(m_everyRegion);
     TestSupport::write(dir.filePath(QStringLiteral("tb.v")), bench.verilog().toUtf8());
