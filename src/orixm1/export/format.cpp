@@ -4,6 +4,8 @@
 #include "drivers.h"
 #include "header.h"
 #include "svd.h"
+#include "linker.h"
+#include "startup.h"
 
 #include <algorithm>
 
@@ -23,6 +25,14 @@ constexpr Format rows[] = {
     {"drivers"_l1, "drivers"_l1, "Drivers"_l1,
      "Functions for each block that is on; they need the device header and no library."_l1,
      "C99, C++11"_l1, "gcc, g++, clang, arm-none-eabi-gcc"_l1, driverFiles},
+    {"linker"_l1, "tarvo_orix_m1.ld"_l1, "Linker script"_l1,
+     "Places a program in the memories of the subsystem, with the memories as a file to include "
+     "and "
+     "as memory.x for Rust."_l1,
+     "GNU ld"_l1, "arm-none-eabi-gcc, ld, ld.lld, qemu-system-arm"_l1, linkerFiles},
+    {"startup"_l1, "startup_tarvo_orix_m1.c"_l1, "Start-up code"_l1,
+     "Vector table of the interrupts that arrive, with weak handlers, and what runs before main()."_l1,
+     "C99"_l1, "arm-none-eabi-gcc, clang, qemu-system-arm"_l1, startupFiles},
 };
 
 } // namespace

@@ -1,0 +1,326 @@
+#include "linker.h"
+
+#include "config/latin1literal.h"
+#include "programmemory.h"
+#include "registers/registerdocs.h"
+
+#include <algorithm>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+constexpr int systemVectors = 16; // the stack's top and the processor's own exceptions
+constexpr int vectorSize = 4;     // bytes
+
+constexpr quint64 largestStack = 4096; // bytes, of those that are kept free unasked
+
+// "32K" or, where that is not whole, "0x00000123".
+QString sizeText(quint64 bytes)
+{
+    constexpr quint64 kilo = 1024;
+    constexpr quint64 mega = kilo * kilo;
+    if (bytes % mega == 0)
+        return QString::number(bytes / mega) + u'M';
+    if (bytes % kilo == 0)
+        return QString::number(bytes / kilo) + u'K';
+    return "0x"_l1 + QString::number(bytes, 16).toUpper();
+}
+
+// A sentence as lines of a comment.
+QString wrapped(const QString &text)
+{
+    QString lines;
+    QString line = QStringLiteral(" *");
+    const QStringList words = text.split(u' ');
+    for (const QString &word : words) {
+        if (line.size() + 1 + word.size() > 98) {
+            lines += line + u'\n';
+            line = QStringLiteral(" *");
+        }
+        line += u' ' + word;
+    }
+    return lines + line + u'\n';
+}
+
+QString obstacleLines(const ProgramMemory &memory)
+{
+    return memory.canStart() ? QString() : "\nASSERT(0, \""_l1 + memory.obstacle() + "\")\n"_l1;
+}
+
+// Sentences of what the user decides, for the head of a file.
+QString sizeNotes(const ProgramMemory &memory)
+{
+    QString notes;
+    for (const LinkedMemory &entry : memory.all) {
+        if (!entry.sizeSymbol.isEmpty())
+            notes += wrapped(entry.name + ": "_l1 + sizeText(entry.size) +
+                             " is the range of addresses. Give the size of the memory that is "
+                             "there, in bytes: -Wl,--defsym="_l1 +
+                             entry.sizeSymbol + "=0x100000"_l1);
+    }
+    return notes.isEmpty() ? QString() : " *\n"_l1 + notes;
+}
+
+QString memoryLine(const QString &name, const LinkedMemory &entry, const QString &length)
+{
+    return "    "_l1 + name + " ("_l1 + entry.attributes + ") : ORIGIN = "_l1 +
+           hexAddress(entry.base) + ", LENGTH = "_l1 + length + " /* "_l1 + entry.text + " */\n"_l1;
+}
+
+QString memoryScript(const ProgramMemory &memory)
+{
+    QString text = "/* Memories of the Tarvo Orix-M1 subsystem for scripts of GNU ld:\n"
+                   " * INCLUDE tarvo_orix_m1_memory.ld\n"
+                   " *\n"
+                   " * REGION_TEXT takes vectors, code, constants and the initial values of data; "
+                   "REGION_DATA takes\n"
+                   " * data, heap and stack.\n"_l1;
+    text += sizeNotes(memory) + " */\n"_l1;
+    if (!memory.all.isEmpty()) {
+        text += "MEMORY\n{\n"_l1;
+        for (const LinkedMemory &entry : memory.all) {
+            const QString size = sizeText(entry.size);
+            text += memoryLine(entry.name, entry,
+                               entry.sizeSymbol.isEmpty()
+                                   ? size
+                                   : "DEFINED("_l1 + entry.sizeSymbol + ") ? "_l1 +
+                                         entry.sizeSymbol + " : "_l1 + size);
+        }
+        text += "}\n"_l1;
+    }
+    const auto alias = [&](QLatin1String name, int index) {
+        if (index >= 0)
+            text += "REGION_ALIAS(\""_l1 + name + "\", "_l1 + memory.all.at(index).name + ")\n"_l1;
+        else
+            text += "/* no "_l1 + name + " */\n"_l1;
+    };
+    alias("REGION_TEXT"_l1, memory.text);
+    alias("REGION_DATA"_l1, memory.data);
+    return text;
+}
+
+// FLASH and RAM do not overlap: a memory that has to be both is divided in halves.
+QString rustMemory(const ProgramMemory &memory)
+{
+    QString text =
+        "/* Memories of the Tarvo Orix-M1 subsystem under the names that start-up code for Rust\n"
+        " * (cortex-m-rt) asks for. It takes numbers only: what the comments leave to you is "
+        "changed here.\n */\n"_l1;
+    const bool shared = memory.text >= 0 && memory.text == memory.data;
+    const auto line = [&](const QString &name, LinkedMemory entry) {
+        if (!entry.sizeSymbol.isEmpty())
+            entry.text += ": the range of addresses; give the size of the memory there"_l1;
+        text += memoryLine(name, entry, sizeText(entry.size));
+    };
+    if (!memory.all.isEmpty())
+        text += "MEMORY\n{\n"_l1;
+    for (int i = 0; i < memory.all.size(); ++i) {
+        LinkedMemory entry = memory.all.at(i);
+        if (i == memory.text) {
+            if (shared) {
+                entry.size /= 2;
+                entry.text += ", its first half; move the border as you need"_l1;
+            }
+            entry.attributes = QStringLiteral("rx");
+            line(QStringLiteral("FLASH"), entry);
+            if (shared) {
+                entry = memory.all.at(i);
+                entry.base += quint32(entry.size / 2);
+                entry.size -= entry.size / 2;
+                entry.text += ", its second half"_l1;
+            }
+        }
+        if (i == memory.data)
+            line(QStringLiteral("RAM"), entry);
+        else if (i != memory.text)
+            line(entry.name, entry);
+    }
+    if (!memory.all.isEmpty())
+        text += "}\n"_l1;
+    return text + obstacleLines(memory);
+}
+
+// Input sections that a program names to put something into a memory.
+QString ownSections(const QString &section)
+{
+    return "*("_l1 + section + u' ' + section + ".*)"_l1;
+}
+
+QString sectionOf(const LinkedMemory &memory)
+{
+    return u'.' + memory.name.toLower();
+}
+
+// The sections of memories beside those for text and data.
+QString furtherSections(const ProgramMemory &memory)
+{
+    QString text;
+    for (const int index : memory.further) {
+        const LinkedMemory &entry = memory.all.at(index);
+        const QString section = sectionOf(entry);
+        text += "\n    "_l1 + section + " : ALIGN(8)\n    {\n        "_l1 + ownSections(section) +
+                "\n        . = ALIGN(4);\n    } > "_l1 + entry.name + " AT> REGION_TEXT\n    "_l1 +
+                section + "_bss (NOLOAD) : ALIGN(8)\n    {\n        "_l1 +
+                ownSections(section + "_bss"_l1) + "\n        . = ALIGN(4);\n    } > "_l1 +
+                entry.name + "\n    "_l1 + section + "_noinit (NOLOAD) : ALIGN(8)\n    {\n"_l1 +
+                "        "_l1 + ownSections(section + "_noinit"_l1) + "\n    } > "_l1 + entry.name +
+                u'\n';
+    }
+    for (const int index : memory.windows) {
+        const LinkedMemory &entry = memory.all.at(index);
+        const QString section = sectionOf(entry);
+        text += "\n    "_l1 + section + " :\n    {\n        KEEP("_l1 + ownSections(section) +
+                ")\n    } > "_l1 + entry.name + u'\n';
+    }
+    return text;
+}
+
+// Tables that the start-up code follows.
+QString furtherTables(const ProgramMemory &memory)
+{
+    if (memory.further.isEmpty())
+        return {};
+    QString copy;
+    QString zero;
+    for (const int index : memory.further) {
+        const QString section = sectionOf(memory.all.at(index));
+        const auto ends = [](const QString &name) -> QString {
+            return " LONG(ADDR("_l1 + name + ")) LONG(ADDR("_l1 + name + ") + SIZEOF("_l1 + name +
+                   "))\n"_l1;
+        };
+        copy += "        LONG(LOADADDR("_l1 + section + "))"_l1 + ends(section);
+        zero += "       "_l1 + ends(section + "_bss"_l1);
+    }
+    return "        . = ALIGN(4);\n        __copy_table_start = .;\n"_l1 + copy +
+           "        __copy_table_end = .;\n        __zero_table_start = .;\n"_l1 + zero +
+           "        __zero_table_end = .;\n"_l1;
+}
+
+QString sectionNotes(const ProgramMemory &memory)
+{
+    QString notes;
+    for (const int index : memory.further) {
+        const LinkedMemory &entry = memory.all.at(index);
+        const QString section = sectionOf(entry);
+        notes += wrapped("In "_l1 + entry.name + ": __attribute__((section(\""_l1 + section +
+                         "\"))) for variables with a value, \""_l1 + section +
+                         "_bss\" for such that begin with 0, \""_l1 + section +
+                         "_noinit\" for such that start-up leaves alone. Start-up writes there "
+                         "after SystemInit() and only if a program uses the first two."_l1);
+    }
+    for (const int index : memory.windows) {
+        const LinkedMemory &entry = memory.all.at(index);
+        notes += wrapped("In "_l1 + entry.name + " (read only): __attribute__((section(\""_l1 +
+                         sectionOf(entry) +
+                         "\"))) for constants. They are no part of what is loaded at address 0: "
+                         "write them to the device."_l1);
+    }
+    if (memory.text == memory.data)
+        notes += wrapped("Data, heap and stack lie behind the program in "_l1 +
+                         memory.all.at(memory.data).name +
+                         ": the configuration has no other memory for them. Initial values are "
+                         "there once, so a restart without loading finds them changed."_l1);
+    return notes.isEmpty() ? QString() : " *\n"_l1 + notes;
+}
+
+QString head(const SystemMap &map, const ProgramMemory &memory)
+{
+    const bool big = map.processor.isBigEndian;
+    return "/* Linker script of the Tarvo Orix-M1 subsystem for GNU ld. DIR is the folder of this "
+           "file:\n * arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb"_l1 +
+           (big ? " -mbig-endian -Wl,--be8"_l1 : QLatin1String()) +
+           " -nostartfiles -L DIR -T tarvo_orix_m1.ld ...\n"_l1 + sizeNotes(memory) +
+           (memory.canStart() ? sectionNotes(memory) : QString()) + " */\n"_l1 +
+           "OUTPUT_FORMAT(\""_l1 + (big ? "elf32-bigarm"_l1 : "elf32-littlearm"_l1) +
+           "\")\nOUTPUT_ARCH(arm)\nENTRY(Reset_Handler)\n\nINCLUDE tarvo_orix_m1_memory.ld\n"_l1;
+}
+
+QString script(const SystemMap &map, const ProgramMemory &memory)
+{
+    QString text = head(map, memory);
+    if (!memory.canStart())
+        return text + "\nSECTIONS\n{\n    /DISCARD/ : { *(*) }\n}\n"_l1 + obstacleLines(memory);
+    const LinkedMemory &data = memory.all.at(memory.data);
+    const bool shared = memory.text == memory.data;
+    // What a program puts into this memory by name lies among the data.
+    const QString own = sectionOf(data);
+    const int vectors = systemVectors + map.processor.interruptInputs;
+    text +=
+        "\n/* Bytes that are kept free for the stack and, at least, for the heap; the heap takes "
+        "what is left.\n * Change them with -Wl,--defsym=__stack_size=0x800 and "
+        "-Wl,--defsym=__heap_size=0x100 */\n"
+        "__stack_size = DEFINED(__stack_size) ? __stack_size : "_l1 +
+        QString::number(std::min(data.size / 4, largestStack)) +
+        ";\n__heap_size = DEFINED(__heap_size) ? __heap_size : 0;\n"
+        "\nSECTIONS\n{\n"
+        "    .vectors ORIGIN(REGION_TEXT) :\n    {\n        KEEP(*(.vectors))\n"
+        "    } > REGION_TEXT\n"
+        "\n    .text : ALIGN(4)\n    {\n        *(.text .text.*)\n        KEEP(*(.init))\n"
+        "        KEEP(*(.fini))\n        . = ALIGN(4);\n    } > REGION_TEXT\n"
+        "\n    .rodata : ALIGN(4)\n    {\n        *(.rodata .rodata.*)\n"
+        "        *(.gcc_except_table .gcc_except_table.*)\n        *(.note.gnu.build-id)\n"_l1 +
+        furtherTables(memory) +
+        "        . = ALIGN(4);\n    } > REGION_TEXT\n"
+        "\n    .ARM.extab : { *(.ARM.extab .ARM.extab.*) } > REGION_TEXT\n"
+        "    .ARM.exidx :\n    {\n        PROVIDE(__exidx_start = .);\n"
+        "        *(.ARM.exidx .ARM.exidx.*)\n        PROVIDE(__exidx_end = .);\n"
+        "    } > REGION_TEXT\n    .eh_frame : { KEEP(*(.eh_frame)) } > REGION_TEXT\n\n"_l1;
+    for (const QLatin1String name : {"preinit_array"_l1, "init_array"_l1, "fini_array"_l1}) {
+        text += "    ."_l1 + name + " : ALIGN(4)\n    {\n        __"_l1 + name + "_start = .;\n"_l1;
+        if (name != "preinit_array"_l1)
+            text += "        KEEP(*(SORT_BY_INIT_PRIORITY(."_l1 + name + ".*)))\n"_l1;
+        text += "        KEEP(*(."_l1 + name + "))\n        __"_l1 + name +
+                "_end = .;\n    } > REGION_TEXT\n"_l1;
+    }
+    text += "\n    .data : ALIGN(8)\n    {\n        __data_start = .;\n"
+            "        *(.data .data.*)\n        *(.got .got.*)\n        "_l1 +
+            ownSections(own) +
+            "\n        . = ALIGN(4);\n        __data_end = .;\n"
+            "    } > REGION_DATA"_l1 +
+            (shared ? QLatin1String() : " AT> REGION_TEXT"_l1) +
+            "\n    __data_load = LOADADDR(.data);\n"
+            "\n    .bss (NOLOAD) : ALIGN(8)\n    {\n        __bss_start = .;\n"
+            "        *(.bss .bss.* COMMON)\n        "_l1 +
+            ownSections(own + "_bss"_l1) +
+            "\n        . = ALIGN(4);\n        __bss_end = .;\n    } > REGION_DATA\n"
+            "\n    .noinit (NOLOAD) : ALIGN(8)\n    {\n        *(.noinit .noinit.*)\n        "_l1 +
+            ownSections(own + "_noinit"_l1) +
+            "\n        . = ALIGN(8);\n        __heap_start = .;\n    } > REGION_DATA\n"_l1 +
+            furtherSections(memory) + "}\n"_l1;
+    text += "\n/* The heap ends where the room for the stack begins, and the stack grows down from "
+            "the end of the memory.\n * The other names of the heap's start are those that C "
+            "libraries ask for. */\n"
+            "__stack_top = (ORIGIN(REGION_DATA) + LENGTH(REGION_DATA)) & ~7;\n"
+            "__heap_end = __stack_top - ((__stack_size + 7) & ~7);\n"
+            "PROVIDE(end = __heap_start);\nPROVIDE(_end = __heap_start);\n"
+            "PROVIDE(__end__ = __heap_start);\nPROVIDE(__dso_handle = 0);\n"
+            "\nASSERT(ADDR(.vectors) == 0, \"The vector table does not lie at address 0, where the "
+            "processor reads it.\")\nASSERT(SIZEOF(.vectors) == "_l1 +
+            QString::number(vectors * vectorSize) + ", \"The vector table does not have "_l1 +
+            QString::number(vectors) +
+            " entries: link the startup_tarvo_orix_m1.c that was exported with this script.\")\n"
+            "ASSERT(SIZEOF(.data) == 0 || LOADADDR(.data) + SIZEOF(.data) <= ORIGIN(REGION_TEXT) "
+            "+ LENGTH(REGION_TEXT), \"Program and initial values of its data do not fit into "_l1 +
+            memory.all.at(memory.text).name +
+            ".\")\n"
+            "ASSERT(__heap_start + __heap_size + ((__stack_size + 7) & ~7) <= __stack_top, \"Data, "
+            "heap (__heap_size) and stack "
+            "(__stack_size) do not fit into "_l1 +
+            data.name + ".\")\n"_l1;
+    return text;
+}
+
+} // namespace
+
+QVector<ExportedFile> linkerFiles(const SystemMap &map)
+{
+    const ProgramMemory memory = programMemory(map);
+    return {{QStringLiteral("tarvo_orix_m1.ld"), script(map, memory).toUtf8()},
+            {QStringLiteral("tarvo_orix_m1_memory.ld"), memoryScript(memory).toUtf8()},
+            {QStringLiteral("memory.x"), rustMemory(memory).toUtf8()}};
+}
+
+} // namespace TARVOORIXM1
