@@ -38,6 +38,15 @@ struct GenerateArguments {
     bool verbose = false;
 };
 
+struct ExportArguments {
+    QString file;        // needed unless `list`
+    QStringList formats; // names; none: all
+    QString outDir;      // likewise
+    bool list = false;
+    bool check = false;
+    bool json = false;
+};
+
 // Each runs one command and returns the exit status; messages have been printed then.
 int runNew(Environment &environment, const NewArguments &arguments);
 int runRetarget(Environment &environment, const RetargetArguments &arguments);
@@ -49,6 +58,7 @@ int runPins(Environment &environment, const QString &file, bool json);
 enum class RegistersForm { Table, Json, Markdown, CHeader };
 // An empty `file` means all peripherals.
 int runRegisters(Environment &environment, const QString &file, RegistersForm form);
+int runExport(Environment &environment, const ExportArguments &arguments);
 int runOptions(bool json);
 int runDevices(Environment &environment, const QString &series, bool json);
 

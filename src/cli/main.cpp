@@ -188,6 +188,35 @@ int run(int argc, char *argv[])
         };
     });
 
+    CLI::App *exportCommand = app.add_subcommand(
+        "export", "Write what software needs of a configuration: a set of files, whole or not at "
+                  "all; a file that somebody has edited is kept");
+    std::vector<std::string> formats;
+    bool list = false;
+    bool onlyCheck = false;
+    exportCommand->add_option("FILE", file, "Configuration file (.ipc)")->type_name("");
+    exportCommand
+        ->add_option("FORMAT", formats,
+                     "What to write, as \"orixm1 export --list\" names it (default: everything; "
+                     "with --check, what was written last)")
+        ->type_name("");
+    exportCommand->add_option("--out", outDir, "Folder that the files are written to")
+        ->type_name("DIR");
+    CLI::Option *listFlag =
+        exportCommand->add_flag("--list", list, "List the formats; needs no FILE");
+    exportCommand
+        ->add_flag("--check", onlyCheck,
+                   "Only tell which files are missing, stale, edited or left over, with exit "
+                   "status 1 if any is; writes nothing")
+        ->excludes(listFlag);
+    addJson(exportCommand);
+    exportCommand->callback([&] {
+        command = [&] {
+            return Cli::runExport(
+                environment, {text(file), texts(formats), text(outDir), list, onlyCheck, json});
+        };
+    });
+
     CLI::App *optionsCommand =
         app.add_subcommand("options", "List all option keys with type, default and domain");
     addJson(optionsCommand);

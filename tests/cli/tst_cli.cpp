@@ -152,7 +152,8 @@ void tst_Cli::helpAndVersion()
 {
     const Run help = run(words({"--help"}));
     QCOMPARE(help.status, 0);
-    for (const char *command : {"new", "generate", "check", "options", "devices", "sources"}) {
+    for (const char *command :
+         {"new", "generate", "check", "options", "devices", "sources", "export"}) {
         QVERIFY2(help.out.contains(QString::fromLatin1(command)), command);
         const Run own = run(words({command, "--help"}));
         QCOMPARE(own.status, 0);
@@ -931,6 +932,8 @@ void tst_Cli::unwritableOutputIsAFailure_data()
         {"registers"},
         {"registers", "--c-header"},
         {"registers", "--markdown"},
+        {"export", "--list"},
+        {"export", example, "--out", "made"},
         {"new", "--device", "TV2K-18-QFN88-C8/I7", "--out", "made"},
         {"retarget", example, "--device", "TV1L-9-QFN48-C6/I5", "--dry-run"},
         {"generate", example, "--no-synth", "--out", "made"}};

@@ -118,8 +118,11 @@ void tst_CliInputs::everyCommandRefusesConfigurations()
     } else {
         QVERIFY(TestSupport::write(ipc, text));
     }
-    for (const char *command : {"check", "generate", "sources", "pins", "registers"}) {
-        const Run result = run({QString::fromLatin1(command), QStringLiteral("x.ipc")});
+    for (const char *command : {"check", "generate", "sources", "pins", "registers", "export"}) {
+        QStringList arguments = {QString::fromLatin1(command), QStringLiteral("x.ipc")};
+        if (arguments.first() == QLatin1String("export"))
+            arguments << QStringLiteral("--out") << QStringLiteral("out");
+        const Run result = run(arguments);
         QCOMPARE(result.status, 3);
         QVERIFY2(result.err.contains(message) && result.err.contains(QLatin1String("x.ipc")),
                  qPrintable(result.err));
@@ -147,6 +150,9 @@ void tst_CliInputs::refusesDataThatIsNoFile_data()
         << QStringLiteral("packages.json") << words({"--devices", ".", "devices"});
     QTest::newRow("a register file")
         << QStringLiteral("registers/a.json") << words({"--data", ".", "registers"});
+    QTest::newRow("a register file of an export")
+        << QStringLiteral("registers/a.json")
+        << words({"--data", ".", "export", "x.ipc", "--out", "out"});
 }
 
 void tst_CliInputs::refusesDataThatIsNoFile()

@@ -1,0 +1,256 @@
+#include "commands.h"
+
+#include "environment.h"
+#include "ipcdocument.h"
+#include "output.h"
+
+#include <export/format.h>
+#include <system/description.h>
+#include <system/systemmap.h>
+#include <utils/filebundle.h>
+
+#include <algorithm>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+const QLatin1String manifestName("orixm1-export.json");
+
+QStringList formatNames()
+{
+    QStringList names;
+    for (const Format &format : formats())
+        names.append(format.name);
+    return names;
+}
+
+QJsonObject formatList()
+{
+    QJsonArray list;
+    for (const Format &format : formats())
+        list.append(QJsonObject{{QStringLiteral("name"), format.name},
+                                {QStringLiteral("file"), format.file},
+                                {QStringLiteral("title"), format.title},
+                                {QStringLiteral("purpose"), format.purpose},
+                                {QStringLiteral("standard"), format.standard},
+                                {QStringLiteral("checkedBy"), format.checkedBy}});
+    return {{QStringLiteral("formats"), list}};
+}
+
+void printFormatTable(const QJsonObject &list)
+{
+    const QStringList keys = {QStringLiteral("name"),      QStringLiteral("title"),
+                              QStringLiteral("file"),      QStringLiteral("standard"),
+                              QStringLiteral("checkedBy"), QStringLiteral("purpose")};
+    QVector<QStringList> rows = {{QStringLiteral("NAME"), QStringLiteral("TITLE"),
+                                  QStringLiteral("FILES"), QStringLiteral("STANDARD"),
+                                  QStringLiteral("CHECKED BY"), QStringLiteral("PURPOSE")}};
+    const QJsonArray all = list.value(QLatin1String("formats")).toArray();
+    for (const QJsonValue &format : all) {
+        QStringList row;
+        for (const QString &key : keys) {
+            const QString text = format.toObject().value(key).toString();
+            row.append(text.isEmpty() ? QStringLiteral("-") : text);
+        }
+        rows.append(row);
+    }
+    QVector<int> widths(keys.size());
+    for (const QStringList &row : qAsConst(rows)) {
+        for (int column = 0; column + 1 < row.size(); ++column)
+            widths[column] = qMax(widths.at(column), row.at(column).size());
+    }
+    for (const QStringList &row : qAsConst(rows)) {
+        QStringList cells;
+        for (int column = 0; column < row.size(); ++column)
+            cells.append(row.at(column).leftJustified(widths.at(column)));
+        printLine(cells.join(QLatin1String("  ")));
+    }
+}
+
+// Why the arguments cannot be meant; empty if they can.
+QString usageMistake(const ExportArguments &arguments)
+{
+    const QStringList known = formatNames();
+    for (const QString &name : arguments.formats) {
+        if (!known.contains(name))
+            return QLatin1String("Unknown format \"") + name + QLatin1String("\"; there are: ") +
+                   known.join(QLatin1String(", "));
+    }
+    if (arguments.list)
+        return {};
+    if (arguments.file.isEmpty())
+        return QStringLiteral("A configuration FILE is required; \"orixm1 export --list\" lists "
+                              "the formats without one.");
+    if (arguments.outDir.isEmpty())
+        return QStringLiteral("--out DIR is required: the folder that the files are written to.");
+    return {};
+}
+
+// The formats that are asked for, in their order. Without a name that is all of them; a look at
+// what was exported earlier is at the formats of that.
+QStringList chosenFormats(const ExportArguments &arguments, const QString &folder)
+{
+    QStringList asked = arguments.formats;
+    if (asked.isEmpty() && arguments.check)
+        asked = Utils::bundleGroups(folder, manifestName);
+    const QStringList all = formatNames();
+    QStringList chosen;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(chosen),
+                 [&asked](const QString &name) { return asked.contains(name); });
+    return chosen.isEmpty() ? all : chosen;
+}
+
+Utils::Bundle bundleOf(const SystemMap &map, const QString &folder, const QStringList &names,
+                       bool keepsOtherGroups)
+{
+    Utils::Bundle bundle{folder, manifestName, {}, names, keepsOtherGroups};
+    for (const QString &name : names) {
+        const QVector<ExportedFile> files = findFormat(name)->files(map);
+        for (const ExportedFile &file : files)
+            bundle.files.append({file.path, file.bytes, name});
+    }
+    return bundle;
+}
+
+// What a write has made of a file.
+QString resultOf(const Utils::BundleEntry &entry)
+{
+    using Utils::BundleEntry;
+    switch (entry.state) {
+    case BundleEntry::Fresh:
+        return QStringLiteral("untouched");
+    case BundleEntry::Missing:
+    case BundleEntry::Stale:
+    case BundleEntry::Edited:
+        return QStringLiteral("written");
+    case BundleEntry::LeftOver:
+        return QStringLiteral("removed");
+    case BundleEntry::LeftOverEdited:
+        break;
+    }
+    return QStringLiteral("kept");
+}
+
+QJsonObject objectOf(const Utils::Bundle &bundle, const Utils::Result<Utils::BundleReport> &report,
+                     bool check)
+{
+    QJsonArray files;
+    QStringList warnings;
+    QStringList errors;
+    if (report) {
+        for (const Utils::BundleEntry &entry : report->entries) {
+            QJsonObject file{{QStringLiteral("path"), entry.path},
+                             {QStringLiteral("format"), entry.group},
+                             {QStringLiteral("state"), Utils::bundleStateName(entry.state)}};
+            if (!check)
+                file.insert(QStringLiteral("result"), resultOf(entry));
+            if (!entry.keptAs.isEmpty())
+                file.insert(QStringLiteral("keptAs"), entry.keptAs);
+            files.append(file);
+        }
+        warnings = report->messages;
+    } else {
+        errors.append(report.reason());
+    }
+    QStringList empty;
+    for (const QString &name : bundle.groups) {
+        if (std::none_of(bundle.files.begin(), bundle.files.end(),
+                         [&name](const Utils::BundleFile &file) { return file.group == name; }))
+            empty.append(name);
+    }
+    return {{QStringLiteral("folder"), bundle.folder},
+            {QStringLiteral("formats"), QJsonArray::fromStringList(bundle.groups)},
+            {QStringLiteral("emptyFormats"), QJsonArray::fromStringList(empty)},
+            {QStringLiteral("files"), files},
+            {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
+            {QStringLiteral("errors"), QJsonArray::fromStringList(errors)}};
+}
+
+// What the object says beside its files.
+void tellObject(const QJsonObject &object)
+{
+    const auto tellEach = [&object](QLatin1String key, const QString &frame) {
+        const QJsonArray list = object.value(key).toArray();
+        for (const QJsonValue &text : list)
+            printError(frame.arg(text.toString()));
+    };
+    tellEach(QLatin1String("emptyFormats"),
+             QStringLiteral("The format \"%1\" has nothing for this configuration."));
+    tellEach(QLatin1String("warnings"), QStringLiteral("%1"));
+    tellEach(QLatin1String("errors"), QStringLiteral("%1"));
+}
+
+// The files that are there now; of a check, those that should be otherwise.
+void printFiles(const QJsonObject &object, bool check)
+{
+    const QString folder = object.value(QLatin1String("folder")).toString() + u'/';
+    const QJsonArray files = object.value(QLatin1String("files")).toArray();
+    for (const QJsonValue &value : files) {
+        const QJsonObject file = value.toObject();
+        const QString path = folder + file.value(QLatin1String("path")).toString();
+        const QString state = file.value(QLatin1String("state")).toString();
+        const QString result = file.value(QLatin1String("result")).toString();
+        if (check) {
+            if (state != Utils::bundleStateName(Utils::BundleEntry::Fresh))
+                printLine(path + QLatin1String(": ") + state);
+        } else if (result == QLatin1String("removed")) {
+            printError(QLatin1String("removed, no longer part of the export: ") + path);
+        } else if (result != QLatin1String("kept")) {
+            printLine(path);
+        }
+    }
+}
+
+} // namespace
+
+int runExport(Environment &environment, const ExportArguments &arguments)
+{
+    if (const QString mistake = usageMistake(arguments); !mistake.isEmpty()) {
+        printError(mistake);
+        return WrongUsage;
+    }
+    if (arguments.list) {
+        const QJsonObject list = formatList();
+        if (arguments.json)
+            printJson(list);
+        else
+            printFormatTable(list);
+        return Done;
+    }
+    if (environment.ipInfo().isEmpty())
+        return BadInput;
+    const auto description = readSystemDescription(environment.dataFolder());
+    if (!description) {
+        printError(description.reason());
+        return BadInput;
+    }
+    IpcDocument document;
+    if (!openDocument(environment, arguments.file, &document))
+        return BadInput;
+    if (const QString problem = document.deviceProblem(); !problem.isEmpty()) {
+        printError(QLatin1String("\"") + document.path + QLatin1String("\" ") + problem + u'.');
+        return BadInput;
+    }
+
+    const SystemMap map = systemMap(document.options, document.device, *description);
+    const QString folder = outputFolder(document, arguments.outDir);
+    const Utils::Bundle bundle =
+        bundleOf(map, folder, chosenFormats(arguments, folder), !arguments.formats.isEmpty());
+    const Utils::Result<Utils::BundleReport> report =
+        arguments.check ? Utils::checkBundle(bundle) : Utils::writeBundle(bundle);
+    const QJsonObject object = objectOf(bundle, report, arguments.check);
+    if (arguments.json)
+        printJson(object);
+    tellObject(object);
+    if (!arguments.json)
+        printFiles(object, arguments.check);
+    const bool isDone = report && (!arguments.check || report->isFresh());
+    return isDone ? Done : Failed;
+}
+
+} // namespace Cli
