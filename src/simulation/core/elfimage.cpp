@@ -21,8 +21,8 @@ constexpr std::uint64_t upperAlias = 0x10000000;
 
 } // namespace
 
-std::string loadElf(const std::string &path, bool hasUpperAlias,
-                    std::vector<std::uint8_t> &instructionMemory)
+std::string readElf(const std::string &path, bool hasUpperAlias,
+                    std::vector<std::uint8_t> &contents)
 {
     const std::string name = "\"" + path + "\" ";
     std::ifstream file(path, std::ios::binary);
@@ -47,7 +47,7 @@ std::string loadElf(const std::string &path, bool hasUpperAlias,
     std::size_t count = 0;
     if (elf_getphdrnum(elf.get(), &count) != 0)
         return name + "has a broken table of segments";
-    std::vector<std::uint8_t> contents = instructionMemory;
+    std::vector<std::uint8_t> result = contents;
     bool loaded = false;
     for (std::size_t i = 0; i < count; ++i) {
         GElf_Phdr segment;
@@ -58,22 +58,22 @@ std::string loadElf(const std::string &path, bool hasUpperAlias,
         if (segment.p_offset > bytes.size() || segment.p_filesz > bytes.size() - segment.p_offset)
             return name + "ends within a segment";
         std::uint64_t address = segment.p_paddr;
-        if (hasUpperAlias && address >= upperAlias && address - upperAlias < contents.size())
+        if (hasUpperAlias && address >= upperAlias && address - upperAlias < result.size())
             address -= upperAlias;
-        if (address > contents.size() || segment.p_filesz > contents.size() - address)
+        if (address > result.size() || segment.p_filesz > result.size() - address)
             return name + "has " + std::to_string(segment.p_filesz) + " bytes for " +
                    hexadecimal(static_cast<std::uint32_t>(segment.p_paddr)) +
-                   ", which the instruction memory of " + std::to_string(contents.size()) +
+                   ", which the instruction memory of " + std::to_string(result.size()) +
                    " bytes does not hold";
         const auto begin = bytes.begin() + static_cast<std::ptrdiff_t>(segment.p_offset);
         std::transform(begin, begin + static_cast<std::ptrdiff_t>(segment.p_filesz),
-                       contents.begin() + static_cast<std::ptrdiff_t>(address),
+                       result.begin() + static_cast<std::ptrdiff_t>(address),
                        [](char byte) { return static_cast<std::uint8_t>(byte); });
         loaded = true;
     }
     if (!loaded)
         return name + "has nothing to load";
-    instructionMemory = std::move(contents);
+    contents = std::move(result);
     return {};
 }
 

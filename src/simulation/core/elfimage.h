@@ -7,10 +7,10 @@
 namespace CortexM1
 {
 
-// Loads the segments of a little-endian ARM ELF file into an instruction memory that stands at 0,
-// and at 0x10000000 too if `hasUpperAlias`. Returns what is wrong with the file, naming it; the
-// memory is unchanged then. Empty: loaded.
-std::string loadElf(const std::string &path, bool hasUpperAlias,
-                    std::vector<std::uint8_t> &instructionMemory);
+// Puts the segments of a little-endian ARM ELF file into what an instruction memory is to hold that
+// stands at 0, and at 0x10000000 too if `hasUpperAlias`: `contents`, of the memory's size. Returns
+// what is wrong with the file, naming it; the contents are unchanged then. Empty: done.
+std::string readElf(const std::string &path, bool hasUpperAlias,
+                    std::vector<std::uint8_t> &contents);
 
 } // namespace CortexM1

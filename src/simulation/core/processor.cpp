@@ -2,8 +2,8 @@
 
 #include "text.h"
 
+#include <algorithm>
 #include <array>
-#include <cstring>
 #include <stdexcept>
 
 namespace CortexM1
@@ -84,6 +84,14 @@ Processor::Processor(const Configuration &configuration, Surroundings &surroundi
     , m_instructions(m_memory, *this)
 {
     reset();
+}
+
+void Processor::setInstructionMemory(const std::vector<std::uint8_t> &contents)
+{
+    // In place: others know where the memory lies.
+    const std::size_t count = std::min(contents.size(), m_itcm.size());
+    std::copy_n(contents.begin(), count, m_itcm.begin());
+    m_instructions.forget(0, static_cast<std::uint32_t>(count));
 }
 
 void Processor::reset()

@@ -55,9 +55,10 @@ public:
     // Throws std::runtime_error with the reason for a configuration that is not modelled.
     Processor(const Configuration &configuration, Surroundings &surroundings);
 
-    // The contents of the memories, as bytes; they survive a reset.
-    std::vector<std::uint8_t> &instructionMemory() { return m_itcm; }
-    std::vector<std::uint8_t> &dataMemory() { return m_dtcm; }
+    // The memories survive a reset. Of the instruction memory the first bytes are set, at most all.
+    const std::vector<std::uint8_t> &instructionMemory() const { return m_itcm; }
+    const std::vector<std::uint8_t> &dataMemory() const { return m_dtcm; }
+    void setInstructionMemory(const std::vector<std::uint8_t> &contents);
 
     // Begins at the vector table with the next step.
     void reset();

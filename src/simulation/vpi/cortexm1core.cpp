@@ -97,8 +97,9 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
     try {
         instance.core = std::make_unique<CortexM1::Core>(
             configuration, [&instance](const std::string &piece) { print(instance, piece); });
-        instance.mistake = CortexM1::loadElf(firmware, configuration.hasUpperAlias,
-                                             instance.core->processor().instructionMemory());
+        std::vector<std::uint8_t> contents(configuration.itcmBytes);
+        instance.mistake = CortexM1::readElf(firmware, configuration.hasUpperAlias, contents);
+        instance.core->processor().setInstructionMemory(contents);
     } catch (const std::exception &error) {
         instance.mistake = error.what();
     }
