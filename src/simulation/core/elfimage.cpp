@@ -26,11 +26,16 @@ std::string readElf(const std::string &path, bool hasUpperAlias,
 {
     const std::string name = "\"" + path + "\" ";
     std::ifstream file(path, std::ios::binary);
-    std::vector<char> bytes(largestFile + 1);
-    file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (!file.eof() && (!file || file.bad() || file.gcount() > std::streamsize(largestFile)))
-        return name + (file.gcount() > 0 ? "is too long" : "cannot be read");
-    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    std::vector<char> bytes;
+    while (file && bytes.size() <= largestFile) {
+        char piece[16384];
+        file.read(piece, sizeof piece);
+        bytes.insert(bytes.end(), piece, piece + file.gcount());
+    }
+    if (bytes.size() > largestFile)
+        return name + "is too long";
+    if (!file.eof() || (bytes.empty() && file.bad()))
+        return name + "cannot be read";
 
     elf_version(EV_CURRENT);
     const std::unique_ptr<Elf, int (*)(Elf *)> elf(elf_memory(bytes.data(), bytes.size()), elf_end);

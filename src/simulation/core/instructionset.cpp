@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -50,18 +52,20 @@ struct InstructionSet::Engine {
     {
         demand(uc_open(UC_ARCH_ARM, static_cast<uc_mode>(UC_MODE_THUMB | UC_MODE_MCLASS), &uc));
         demand(uc_ctl_set_cpu_model(uc, UC_CPU_ARM_CORTEX_M0));
-        demand(uc_ctl_set_page_size(uc, 1024));
         std::sort(memory.begin(), memory.end(),
                   [](const MemoryBlock &a, const MemoryBlock &b) { return a.address < b.address; });
         gaps.reserve(memory.size() + 1); // the call-backs keep addresses of elements
         std::uint64_t end = 0;
         for (const MemoryBlock &block : memory) {
             mapGap(end, block.address);
-            demand(uc_mem_map_ptr(uc, block.address, block.bytes, UC_PROT_ALL, block.contents));
-            end = std::uint64_t(block.address) + block.bytes;
-            uc_hook hook;
-            demand(uc_hook_add(uc, &hook, UC_HOOK_MEM_WRITE, reinterpret_cast<void *>(noteWrite),
-                               this, block.address, end - 1));
+            const std::uint64_t begin = block.address;
+            const std::uint64_t mapped =
+                (block.bytes + std::uint64_t(MemoryBlock::page) - 1) & ~(MemoryBlock::page - 1ULL);
+            end = begin + mapped;
+            demand(uc_mem_map_ptr(uc, begin, mapped, UC_PROT_ALL, block.contents));
+            watch(UC_HOOK_MEM_WRITE, noteWrite, begin, begin + block.bytes);
+            watch(UC_HOOK_MEM_READ, loadBehind, begin + block.bytes, end);
+            watch(UC_HOOK_MEM_WRITE, storeBehind, begin + block.bytes, end);
         }
         mapGap(end, addressSpace);
     }
@@ -74,6 +78,40 @@ struct InstructionSet::Engine {
             return;
         gaps.push_back({this, static_cast<std::uint32_t>(begin)});
         demand(uc_mmio_map(uc, begin, end - begin, load, &gaps.back(), store, &gaps.back()));
+    }
+
+    void watch(int kind, uc_cb_hookmem_t callBack, std::uint64_t begin, std::uint64_t end)
+    {
+        if (begin >= end)
+            return;
+        uc_hook hook;
+        demand(
+            uc_hook_add(uc, &hook, kind, reinterpret_cast<void *>(callBack), this, begin, end - 1));
+    }
+
+    // The rest of a page is the port's. The library reads it right after this.
+    static void loadBehind(uc_engine *, uc_mem_type, std::uint64_t address, int bytes, std::int64_t,
+                           void *data)
+    {
+        auto *engine = static_cast<Engine *>(data);
+        if (!engine->isData())
+            return;
+        const auto place = static_cast<std::uint32_t>(address);
+        const std::uint32_t value = engine->port.load(place, bytes);
+        for (const MemoryBlock &block : engine->memory) {
+            if (place - block.address < MemoryBlock::page)
+                std::memcpy(block.contents + (place - block.address), &value,
+                            static_cast<std::size_t>(bytes));
+        }
+    }
+
+    static void storeBehind(uc_engine *, uc_mem_type, std::uint64_t address, int bytes,
+                            std::int64_t value, void *data)
+    {
+        auto *engine = static_cast<Engine *>(data);
+        if (engine->isData())
+            engine->port.store(static_cast<std::uint32_t>(address), bytes,
+                               static_cast<std::uint32_t>(value));
     }
 
     // The library also looks for the next instruction, and not always in memory.
@@ -132,7 +170,7 @@ struct InstructionSet::Engine {
         const auto home = std::find_if(memory.begin(), memory.end(), [&](const MemoryBlock &block) {
             return address - block.address < block.bytes;
         });
-        if (home == memory.end())
+        if (home == memory.end() || runFrom.count(home->contents) == 0)
             return;
         for (const MemoryBlock &block : memory) {
             if (block.contents == home->contents) {
@@ -146,6 +184,7 @@ struct InstructionSet::Engine {
     std::vector<MemoryBlock> memory;
     DataPort &port;
     std::vector<Gap> gaps;
+    std::set<const std::uint8_t *> runFrom;                       // memories that have instructions
     std::vector<std::pair<std::uint32_t, std::uint32_t>> written; // address and bytes
     std::array<std::uint32_t, registers> before{};
     bool saved = false;
@@ -183,12 +222,17 @@ bool InstructionSet::execute(std::uint32_t &programCounter, int accesses)
 {
     m_engine->saved = false;
     m_engine->accessesLeft = accesses;
+    for (const MemoryBlock &block : m_engine->memory) {
+        if (programCounter - block.address < block.bytes)
+            m_engine->runFrom.insert(block.contents);
+    }
     const uc_err error = uc_emu_start(m_engine->uc, programCounter | 1, nowhere, 0, 1);
     if (error == UC_ERR_INSN_INVALID)
         return false;
     programCounter = m_engine->read(UC_ARM_REG_PC) & ~1u;
-    for (const auto &[address, bytes] : std::exchange(m_engine->written, {}))
+    for (const auto &[address, bytes] : m_engine->written)
         m_engine->forget(address, bytes);
+    m_engine->written.clear();
     return true;
 }
 

@@ -9,10 +9,13 @@ namespace CortexM1
 
 // Memory of the model that instructions reach without a bus.
 struct MemoryBlock {
-    std::uint32_t address = 0;
-    std::uint32_t bytes = 0; // a multiple of 1024
-    std::uint8_t *contents =
-        nullptr; // outlives the instruction set; may stand at several addresses
+    static constexpr std::uint32_t page = 4096; // what libunicorn maps
+
+    std::uint32_t address = 0; // a multiple of a page
+    std::uint32_t bytes = 0;
+    // Whole pages, of which the rest is nobody's; outlives the instruction set; may stand at
+    // several addresses.
+    std::uint8_t *contents = nullptr;
 };
 
 // Where data accesses go that meet no memory block. Called from within an instruction.
@@ -56,7 +59,7 @@ public:
     // Undoes what the current instruction has done to the registers.
     void restore();
 
-    // To be told of every change of memory that is not made by execute().
+    // To be told of every change of memory that execute() did not make.
     void forget(std::uint32_t address, std::uint32_t bytes);
 
 private:

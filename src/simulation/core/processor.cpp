@@ -51,6 +51,11 @@ const Configuration &supported(const Configuration &configuration)
     return configuration;
 }
 
+std::size_t wholePages(std::uint32_t bytes)
+{
+    return (std::size_t(bytes) + MemoryBlock::page - 1) & ~(std::size_t(MemoryBlock::page) - 1);
+}
+
 std::vector<MemoryBlock> memoryBlocks(const Configuration &configuration,
                                       std::vector<std::uint8_t> &itcm,
                                       std::vector<std::uint8_t> &dtcm)
@@ -76,8 +81,8 @@ bool isExecuteNever(std::uint32_t address)
 Processor::Processor(const Configuration &configuration, Surroundings &surroundings)
     : m_configuration(supported(configuration))
     , m_surroundings(surroundings)
-    , m_itcm(configuration.itcmBytes)
-    , m_dtcm(configuration.dtcmBytes, memoryGarbage)
+    , m_itcm(wholePages(configuration.itcmBytes))
+    , m_dtcm(wholePages(configuration.dtcmBytes), memoryGarbage)
     , m_memory(memoryBlocks(configuration, m_itcm, m_dtcm))
     , m_exceptions(configuration.interrupts)
     , m_system(m_configuration, m_exceptions)
@@ -89,7 +94,7 @@ Processor::Processor(const Configuration &configuration, Surroundings &surroundi
 void Processor::setInstructionMemory(const std::vector<std::uint8_t> &contents)
 {
     // In place: others know where the memory lies.
-    const std::size_t count = std::min(contents.size(), m_itcm.size());
+    const std::size_t count = std::min<std::size_t>(contents.size(), m_configuration.itcmBytes);
     std::copy_n(contents.begin(), count, m_itcm.begin());
     m_instructions.forget(0, static_cast<std::uint32_t>(count));
 }

@@ -55,9 +55,7 @@ public:
     // Throws std::runtime_error with the reason for a configuration that is not modelled.
     Processor(const Configuration &configuration, Surroundings &surroundings);
 
-    // The memories survive a reset. Of the instruction memory the first bytes are set, at most all.
-    const std::vector<std::uint8_t> &instructionMemory() const { return m_itcm; }
-    const std::vector<std::uint8_t> &dataMemory() const { return m_dtcm; }
+    // Sets the first bytes of the memory, at most all. Memories survive a reset.
     void setInstructionMemory(const std::vector<std::uint8_t> &contents);
 
     // Begins at the vector table with the next step.
@@ -115,7 +113,7 @@ private:
 
     const Configuration m_configuration;
     Surroundings &m_surroundings;
-    std::vector<std::uint8_t> m_itcm;
+    std::vector<std::uint8_t> m_itcm; // whole pages
     std::vector<std::uint8_t> m_dtcm;
     std::vector<MemoryBlock> m_memory;
     Exceptions m_exceptions;
