@@ -114,6 +114,14 @@ void NMI_Handler(void)
         wdog_kick(WDOG); /* the last time nobody does */
 }
 
+static volatile uint32_t room;
+
+void UART0_IRQHandler(void)
+{
+    ++room;
+    uart_disable_interrupts(UART0, UART_CTRL_TXIE_Msk);
+}
+
 static volatile char heard[8];
 static volatile uint32_t heard_count;
 
@@ -149,6 +157,14 @@ void RTC_IRQHandler(void)
 {
     if (rtc_take_second(RTC))
         ++seconds;
+}
+
+static volatile uint32_t i2c_commands;
+
+void I2C_IRQHandler(void)
+{
+    ++i2c_commands;
+    I2C->CTRL &= ~I2C_CTRL_IE_Msk;
 }
 
 static volatile uint32_t spi_bytes;
@@ -229,6 +245,13 @@ static void use_gpio(void)
     wait_for(&rises, 0x8000u);
     check("interrupt of pin 15", rises, 0x8000u);
     gpio_disable_interrupts(GPIO, 0x8000u);
+    rises = 0u;
+    gpio_enable_interrupts(GPIO, 0x8000u, GPIO_FALLING);
+    check("no edge yet", rises, 0u);
+    gpio_clear(GPIO, 0x0080u);
+    wait_for(&rises, 0x8000u);
+    check("interrupt of its fall", rises, 0x8000u);
+    gpio_disable_interrupts(GPIO, 0x8000u);
     gpio_clear(GPIO, 0x00FFu);
 }
 
@@ -261,6 +284,10 @@ static void use_uarts(void)
     check("uart_init 0", uart_init(UART0, CLOCK, BAUD), UART_OK);
     check("uart_init 1", uart_init(UART1, CLOCK, BAUD), UART_OK);
     check("uart_baud", uart_baud(UART1, CLOCK), BAUD);
+    NVIC_EnableIRQ(UART0_IRQn);
+    uart_enable_interrupts(UART0, UART_CTRL_TXIE_Msk);
+    wait_for(&room, 1u);
+    check("room for a byte", room, 1u);
     uart_enable_interrupts(UART1, UART_CTRL_RXIE_Msk);
     NVIC_EnableIRQ(UART1_IRQn);
     check("uart_write", uart_write(UART0, "sensor", 6u, POLLS), 6u);
@@ -295,6 +322,14 @@ static void use_timer(void)
     }
     check("three edges", before - timer_left(TIMER0), 3u);
     timer_stop(TIMER0);
+    check("timer_start, gated", timer_start(TIMER0, 100u, TIMER_GATED, false), true);
+    const uint32_t start = timer_left(TIMER0);
+    check("stands while the input is low", timer_left(TIMER0), start);
+    gpio_set(GPIO, 0x10u);
+    (void)gpio_read(GPIO);
+    check("counts while it is high", timer_left(TIMER0) < start, 1u);
+    gpio_clear(GPIO, 0x10u);
+    timer_stop(TIMER0);
 }
 
 static void use_rtc(void)
@@ -309,6 +344,8 @@ static void use_rtc(void)
     check("time", rtc_get(RTC) >= 1004u && rtc_get(RTC) < 1100u, 1u);
     check("alarm", rtc_take_alarm(RTC), true);
     rtc_enable_second_interrupt(RTC, false);
+    check("another second", rtc_wait_second(RTC, POLLS) && rtc_wait_second(RTC, POLLS), 1u);
+    check("no other alarm", rtc_take_alarm(RTC), false);
     rtc_stop(RTC);
 }
 
@@ -335,10 +372,13 @@ static void use_i2c(void)
     static uint8_t received[2];
     check("I2C_PRESCALE after reset", I2C->PRESCALE, I2C_PRESCALE_RESET);
     check("i2c_init", i2c_init(I2C, CLOCK, CLOCK / 80u), I2C_OK);
+    NVIC_EnableIRQ(I2C_IRQn);
+    I2C->CTRL |= I2C_CTRL_IE_Msk;
     check("i2c_probe", i2c_probe(I2C, 0x2Du, POLLS), I2C_OK);
     check("nobody", i2c_probe(I2C, 0x2Eu, POLLS), I2C_ERROR_NO_DEVICE);
     check("i2c_write", i2c_write(I2C, 0x2Du, sent, 3u, POLLS), I2C_OK);
     check("i2c_write_read", i2c_write_read(I2C, 0x2Du, sent, 1u, received, 2u, POLLS), I2C_OK);
+    check("interrupt of the first command", i2c_commands, 1u);
     check("first byte", received[0], 0xE7u);
     check("second byte", received[1], 0x18u);
 }

@@ -77,6 +77,7 @@ module board;
             if (apb1_write)
                 apb1_memory[apb1_addr[5:2]] <= merged(apb1_memory[apb1_addr[5:2]], apb1_wdata, apb1_strb);
         end
+        if (apb2_sel && apb2_enable && apb2_addr[19:6] != 14'd0 && apb2_addr[19:0] != 20'h100) strays = strays + 1;
         if (apb2_sel && apb2_enable && apb2_write)
             apb2_memory[apb2_addr[5:2]] <= merged(apb2_memory[apb2_addr[5:2]], apb2_wdata, apb2_strb);
     end
@@ -103,9 +104,12 @@ module board;
 
     // ---- SPI: bits at rising edges while it is selected
     reg [31:0] spi_bits = 32'd0;
-    integer    spi_count = 0;
+    integer    spi_count = 0, spi_slow = 0;
+    time       spi_edge = 0;
     always @(posedge sclk)
         if (nss === 1'b0) begin
+            if (spi_count % 8 != 0 && $time - spi_edge != 160) spi_slow = spi_slow + 1;
+            spi_edge = $time;
             spi_bits = {spi_bits[30:0], mosi}; spi_count = spi_count + 1;
         end
 
@@ -173,7 +177,7 @@ module board;
     );
     wire lockup;
 
-    initial #4000000 begin
+    initial #2000000 begin
         $display("board: the program does not end");
         $finish;
     end
@@ -181,6 +185,8 @@ module board;
         expect_that(line0 == "sensor" && bytes0 == 6, "the six bytes of UART0");
         expect_that(line1[7:0] == 8'h5A && bytes1 == 1, "the byte of UART1");
         expect_that(spi_bits == 32'h960F313C && spi_count == 32, "the four bytes of SPI");
+        expect_that(spi_slow == 0, "eight clock cycles a bit of SPI");
+        expect_that(nss === 1'b1, "a device on SPI that is left");
         expect_that(i2c_memory[4] === 8'hE7 && i2c_memory[5] === 8'h18, "the bytes of the I2C memory");
         expect_that(i2c_stops == 4, "four stops on I2C");
         expect_that(seen_a0 && seen_50 && seen_c3, "the values of the pins");
