@@ -1,0 +1,127 @@
+#include "core.h"
+
+#include "text.h"
+
+#include <utility>
+
+namespace CortexM1
+{
+
+namespace
+{
+
+// A value on every lane of the bus where its size may stand.
+std::uint32_t onAllLanes(std::uint32_t value, int bytes)
+{
+    switch (bytes) {
+    case 1:
+        return (value & 0xFF) * 0x01010101u;
+    case 2:
+        return (value & 0xFFFF) * 0x00010001u;
+    default:
+        return value;
+    }
+}
+
+// The addressed lanes of a word, in its low bits.
+std::uint32_t fromLanes(std::uint32_t word, std::uint32_t address, int bytes)
+{
+    const std::uint32_t shifted = word >> 8 * (address & 3);
+    return bytes == 4 ? word : shifted & ((1u << 8 * bytes) - 1);
+}
+
+} // namespace
+
+Core::Core(const Configuration &configuration, Print print)
+    : m_print(std::move(print))
+    , m_processor(configuration, *this)
+    , m_program([this] { run(); })
+{
+}
+
+Core::~Core()
+{
+    abandon();
+}
+
+// What the coroutine does, a step a cycle.
+void Core::run()
+{
+    for (;;) {
+        m_processor.step();
+        m_program.yield();
+    }
+}
+
+// Lets an instruction that waits for the bus come to its end without it.
+void Core::abandon()
+{
+    if (m_phase == Phase::Idle)
+        return;
+    m_isAbandoning = true;
+    m_program.resume();
+    m_isAbandoning = false;
+    m_phase = Phase::Idle;
+}
+
+const Outputs &Core::clock(const Inputs &inputs)
+{
+    m_inputs = inputs;
+    if (inputs.isReset) {
+        abandon();
+        m_processor.reset();
+        m_outputs = {};
+        m_hasBeenReset = true;
+    } else if (m_hasBeenReset && !m_outputs.isDone) {
+        m_processor.tick(inputs.interrupts, inputs.nonMaskable);
+        m_program.resume();
+        m_outputs.requestsReset = m_processor.requestsReset();
+        m_outputs.isLockedUp = m_processor.isLockedUp();
+    }
+    if (m_processor.hasEnded()) {
+        m_outputs.isDone = true;
+        m_outputs.hasPassed = m_processor.ending().passed;
+    }
+    return m_outputs;
+}
+
+// Runs in the coroutine. Between two calls of yield() lies a clock cycle.
+TransferEnd Core::transfer(Transfer &transfer)
+{
+    if (m_isAbandoning)
+        return TransferEnd::Abandoned;
+    m_phase = Phase::Address;
+    m_outputs.address = transfer.address;
+    m_outputs.isTransfer = true;
+    m_outputs.isWrite = transfer.isWrite;
+    m_outputs.size = transfer.bytes == 4 ? 2 : transfer.bytes == 2 ? 1 : 0;
+    do {
+        m_program.yield();
+        if (m_isAbandoning)
+            return TransferEnd::Abandoned;
+    } while (!m_inputs.isReady);
+
+    m_phase = Phase::Data;
+    m_outputs.isTransfer = false;
+    m_outputs.isWrite = false;
+    m_outputs.data = onAllLanes(transfer.data, transfer.bytes);
+    do {
+        m_program.yield();
+        if (m_isAbandoning)
+            return TransferEnd::Abandoned;
+    } while (!m_inputs.isReady);
+
+    m_phase = Phase::Idle;
+    if (m_inputs.isError)
+        return TransferEnd::Error;
+    if (transfer.isWrite)
+        return TransferEnd::Done;
+    const std::uint32_t unknown = fromLanes(m_inputs.unknown, transfer.address, transfer.bytes);
+    if (unknown != 0)
+        m_print("the read from " + hexadecimal(transfer.address) + " brings unknown bits, " +
+                hexadecimal(unknown) + ", which are taken for 0\n");
+    transfer.data = fromLanes(m_inputs.data & ~m_inputs.unknown, transfer.address, transfer.bytes);
+    return TransferEnd::Done;
+}
+
+} // namespace CortexM1

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "coroutine.h"
+#include "processor.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace CortexM1
+{
+
+// The pins of CortexM1Core in the middle of a clock cycle, when all of them have settled.
+struct Inputs {
+    bool isReset = true;
+    bool nonMaskable = false;
+    std::uint32_t interrupts = 0;
+    bool isReady = true;       // HREADY
+    bool isError = false;      // HRESP
+    std::uint32_t data = 0;    // HRDATA
+    std::uint32_t unknown = 0; // bits of HRDATA that are neither 0 nor 1
+};
+
+// What the pins show from the next rising edge on.
+struct Outputs {
+    std::uint32_t address = 0;  // HADDR
+    bool isTransfer = false;    // HTRANS: single, or idle
+    int size = 2;               // HSIZE
+    bool isWrite = false;       // HWRITE
+    std::uint32_t data = 0;     // HWDATA, on all lanes that it may belong to
+    bool requestsReset = false; // SYSRESETREQ
+    bool isLockedUp = false;    // LOCKUP
+    bool isDone = false;        // the program has ended
+    bool hasPassed = false;
+};
+
+// A processor behind pins: each call of clock() is one cycle, in which an instruction is executed
+// or an access goes on.
+class Core : private Surroundings
+{
+public:
+    using Print = std::function<void(const std::string &)>;
+
+    // Throws std::runtime_error with the reason for a configuration that is not modelled.
+    Core(const Configuration &configuration, Print print);
+    ~Core() override;
+
+    Processor &processor() { return m_processor; }
+
+    const Outputs &clock(const Inputs &inputs);
+
+private:
+    enum class Phase { Idle, Address, Data };
+
+    TransferEnd transfer(Transfer &transfer) override;
+    void print(const std::string &text) override { m_print(text); }
+    void run();
+    void abandon();
+
+    const Print m_print;
+    Processor m_processor;
+    Coroutine m_program;
+    Inputs m_inputs;
+    Outputs m_outputs;
+    Phase m_phase = Phase::Idle;
+    bool m_isAbandoning = false;
+    bool m_hasBeenReset = false;
+};
+
+} // namespace CortexM1

@@ -1,0 +1,74 @@
+#include "coroutine.h"
+
+#include <ucontext.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <vector>
+
+// The address sanitizer keeps book of stacks.
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/common_interface_defs.h>
+#else
+static void __sanitizer_start_switch_fiber(void **, const void *, std::size_t) {}
+static void __sanitizer_finish_switch_fiber(void *, const void **, std::size_t *) {}
+#endif
+
+namespace CortexM1
+{
+
+struct Coroutine::Contexts {
+    static constexpr std::size_t stackBytes = 1 << 20; // libunicorn translates on it
+
+    std::function<void()> body;
+    std::vector<char> stack = std::vector<char>(stackBytes);
+    ucontext_t caller{};
+    ucontext_t own{};
+    const void *callerStack = nullptr;
+    std::size_t callerStackBytes = 0;
+    void *callerShadow = nullptr;
+    void *ownShadow = nullptr;
+
+    // makecontext() hands on integers only.
+    static void start(unsigned low, unsigned high)
+    {
+        const std::uintptr_t address = std::uintptr_t(high) << 32 | low;
+        auto *self = reinterpret_cast<Contexts *>(address);
+        __sanitizer_finish_switch_fiber(nullptr, &self->callerStack, &self->callerStackBytes);
+        self->body();
+        std::abort();
+    }
+};
+
+Coroutine::Coroutine(std::function<void()> body)
+    : m_contexts(std::make_unique<Contexts>())
+{
+    m_contexts->body = std::move(body);
+    getcontext(&m_contexts->own);
+    m_contexts->own.uc_stack.ss_sp = m_contexts->stack.data();
+    m_contexts->own.uc_stack.ss_size = m_contexts->stack.size();
+    m_contexts->own.uc_link = nullptr;
+    const auto address = reinterpret_cast<std::uintptr_t>(m_contexts.get());
+    makecontext(&m_contexts->own, reinterpret_cast<void (*)()>(Contexts::start), 2,
+                static_cast<unsigned>(address), static_cast<unsigned>(address >> 32));
+}
+
+Coroutine::~Coroutine() = default;
+
+void Coroutine::resume()
+{
+    Contexts &c = *m_contexts;
+    __sanitizer_start_switch_fiber(&c.callerShadow, c.stack.data(), c.stack.size());
+    swapcontext(&c.caller, &c.own);
+    __sanitizer_finish_switch_fiber(c.callerShadow, nullptr, nullptr);
+}
+
+void Coroutine::yield()
+{
+    Contexts &c = *m_contexts;
+    __sanitizer_start_switch_fiber(&c.ownShadow, c.callerStack, c.callerStackBytes);
+    swapcontext(&c.own, &c.caller);
+    __sanitizer_finish_switch_fiber(c.ownShadow, &c.callerStack, &c.callerStackBytes);
+}
+
+} // namespace CortexM1

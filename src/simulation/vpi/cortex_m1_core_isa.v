@@ -1,0 +1,125 @@
+// The processor core for simulation, with its program: the ports and parameters of CortexM1Core, and behind them a model of its
+// instructions in the VPI module "cortexm1core". The file of the program (ELF) is named with +firmware=FILE, or by the
+// environment variable CORTEXM1_FIRMWARE.
+//
+// Instruction and data memory are within the model; every other data access is a transfer on AHB-Lite. An instruction takes a clock
+// cycle, or as many as its transfers take: that is no count of the real core's cycles. What the model does not have ends the
+// program with a message.
+//
+// What the program says by semihosting is printed. When it ends, a line says "PASS" or "FAIL: " and the reason; done is 1 then and
+// passed tells which, and with +finish the simulation ends.
+//
+// Files behind this one without a time scale of their own get this one, unless TARVO_NO_TIMESCALE is defined.
+`ifndef TARVO_NO_TIMESCALE
+`timescale 1ns / 1ps
+`endif
+
+module CortexM1Core #(
+    parameter       NUM_IRQ     = 32,
+    parameter       OS          = 1,
+    parameter       SMALL_MUL   = 0,
+    parameter       BE8         = 0,
+    parameter       DEBUG       = 0,
+    parameter       JTAG        = 0,
+    parameter       SW          = 0,
+    parameter       SMALL_DEBUG = 0,
+    parameter       ITCM_LA_EN  = 1,
+    parameter       ITCM_UA_EN  = 0,
+    parameter [3:0] ITCMSIZE    = 4'b0110,
+    parameter [3:0] DTCMSIZE    = 4'b0110
+) (
+    input  wire        HCLK,
+    input  wire        PORRESETn,
+    input  wire        SYSRESETn,
+    output wire        SYSRESETREQ,
+    output wire        LOCKUP,
+    output wire        HALTED,
+    input  wire        NMI,
+    input  wire [31:0] IRQ,
+
+    output wire [31:0] HADDR,
+    output wire [1:0]  HTRANS,
+    output wire [2:0]  HBURST,
+    output wire [3:0]  HPROT,
+    output wire [2:0]  HSIZE,
+    output wire        HWRITE,
+    output wire        HMASTLOCK,
+    output wire [31:0] HWDATA,
+    input  wire [31:0] HRDATA,
+    input  wire        HREADY,
+    input  wire        HRESP,
+
+    output wire        ITCMEN,
+    output wire [3:0]  ITCMWE,
+    output wire [17:0] ITCMADDR,
+    output wire [31:0] ITCMWDATA,
+    input  wire [31:0] ITCMRDATA,
+    output wire        DTCMEN,
+    output wire [3:0]  DTCMWE,
+    output wire [17:0] DTCMADDR,
+    output wire [31:0] DTCMWDATA,
+    input  wire [31:0] DTCMRDATA,
+
+    output wire        DBGITCMEN,
+    output wire [3:0]  DBGITCMWE,
+    output wire [17:0] DBGITCMADDR,
+    output wire [31:0] DBGITCMWDATA,
+    input  wire        DBGITCMREADY,
+    output wire        DBGDTCMEN,
+    output wire [3:0]  DBGDTCMWE,
+    output wire [17:0] DBGDTCMADDR,
+    output wire [31:0] DBGDTCMWDATA,
+    input  wire        DBGDTCMREADY,
+
+    input  wire        nTRST,
+    input  wire        SWCLKTCK,
+    input  wire        SWDITMS,
+    output wire        SWDO,
+    output wire        SWDOEN,
+    input  wire        TDI,
+    output wire        TDO,
+    output wire        TDOEN
+);
+    assign HALTED = 1'b0;
+    assign HBURST = 3'b000;      // single transfers
+    assign HPROT = 4'b0011;      // data, privileged
+    assign HMASTLOCK = 1'b0;
+    assign {ITCMEN, ITCMWE, ITCMADDR, ITCMWDATA} = 55'd0;
+    assign {DTCMEN, DTCMWE, DTCMADDR, DTCMWDATA} = 55'd0;
+    assign {DBGITCMEN, DBGITCMWE, DBGITCMADDR, DBGITCMWDATA} = 55'd0;
+    assign {DBGDTCMEN, DBGDTCMWE, DBGDTCMADDR, DBGDTCMWDATA} = 55'd0;
+    assign {SWDO, SWDOEN, TDO, TDOEN} = 4'd0;
+
+    reg done = 1'b0;
+    reg passed = 1'b0;
+    integer handle = 0;
+    reg [8*1024-1:0] firmware;
+    initial begin
+        if (!$value$plusargs("firmware=%s", firmware))
+            firmware = "";
+        $cortexm1_open(handle, firmware, NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, ITCMSIZE, DTCMSIZE);
+    end
+
+    // The model looks at falling edges, where inputs have settled, and says what the outputs show from the next rising edge
+    // on. An X is no reset.
+    reg  [73:0] next = 74'd0;
+    reg  [73:0] shown = 74'd0;
+    wire        in_reset = (PORRESETn === 1'b0) | (SYSRESETn === 1'b0);
+    always @(negedge HCLK) begin
+        if (!done) begin
+            $cortexm1_clock(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
+            if (next[73]) begin
+                done = 1'b1;
+                passed = next[72];
+                if ($test$plusargs("finish"))
+                    $finish;
+            end
+        end
+    end
+    always @(posedge HCLK)
+        shown <= next;
+    assign {SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA} = shown[71:0];
+endmodule
+`ifndef HAVE_CortexM1Core
+`define HAVE_CortexM1Core // for models behind this file
+`endif
