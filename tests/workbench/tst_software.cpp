@@ -302,9 +302,13 @@ private Q_SLOTS:
             SoftwareDocument document(documentOf(source), QStringLiteral("sheet/a.html"));
             QVERIFY2(count(drawn(&document), qRgb(0, 255, 0)) > 10000, source);
         }
+        const QByteArray own = "data:image/svg+xml;base64," + picture.toBase64();
+        SoftwareDocument whole(documentOf(own), QStringLiteral("sheet/a.html"));
+        QVERIFY(count(drawn(&whole), qRgb(0, 255, 0)) > 10000);
         QByteArrayList sources{address,
                                outside.toUtf8(),
                                "data:image/png;base64,iVBORw0KGgo=",
+                               "data:image/svg+xml;base64,AAAA",
                                "http://nowhere.invalid/a.svg",
                                "../../b.svg",
                                "/sheet/a.svg"};
@@ -401,6 +405,35 @@ private Q_SLOTS:
                                       QStringLiteral("48"), QStringLiteral("-f"), last, path});
         QVERIFY(count(QImage::fromData(page), qRgb(0, 255, 0)) > 4000);
         QCOMPARE(made(), pdf);
+    }
+
+    void wideTablesAndHeadingsComeOutWholeOnPaper()
+    {
+        // 9 columns whose words have room in a small size alone, and headings everywhere.
+        QByteArray html = "<style>td { padding: 3rem; } h2 { color: var(--x); }</style>";
+        for (int i = 0; i < 40; ++i) {
+            html += "<h2>Chapter " + QByteArray::number(i) + "</h2><table><tr>";
+            for (int column = 0; column < 9; ++column)
+                html += "<td>0x5000" + QByteArray::number(1000 + column) + "</td>";
+            html += "</tr></table>";
+        }
+        SoftwareDocument document({file("a.html", html)}, QStringLiteral("a.html"));
+        const auto pdf = pdfOf(&document);
+        QVERIFY2(pdf, qPrintable(pdf.reason()));
+        const QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("a.pdf"));
+        QVERIFY(write(path, *pdf));
+        const QList<QByteArray> pages =
+            outputOf(TARVO_PDFTOTEXT, {QStringLiteral("-layout"), path, QStringLiteral("-")})
+                .split('\f');
+        QVERIFY(pages.size() > 2);
+        int chapters = 0;
+        for (const QByteArray &page : pages) {
+            QCOMPARE(page.count("0x50001000"), page.count("Chapter"));
+            QCOMPARE(page.count("0x50001008"), page.count("Chapter"));
+            chapters += page.count("Chapter");
+        }
+        QCOMPARE(chapters, 40);
     }
 
     // The page

@@ -9,6 +9,8 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace Workbench
 {
@@ -28,6 +30,43 @@ void blankOut(QByteArray *pdf, const QByteArray &entry)
     const int end = start < 0 ? -1 : pdf->indexOf(')', start);
     if (end > start)
         pdf->replace(start + 1, end - start, QByteArray(end - start, ' '));
+}
+
+// In a size in which the widest table has room, and in lines that end anywhere if none has.
+void fit(SoftwareDocument *document, const QSizeF &room)
+{
+    document->setPageSize(room);
+    for (const qreal size : {10.0, 9.0, 8.0, 7.0}) {
+        QFont font = document->defaultFont();
+        font.setPointSizeF(size);
+        document->setDefaultFont(font);
+        if (document->documentLayout()->documentSize().width() <= room.width() + 1)
+            return;
+    }
+    document->keepWords(false);
+}
+
+// A heading goes to the page of what it stands above.
+void keepHeadings(SoftwareDocument *document, qreal pageHeight)
+{
+    const QAbstractTextDocumentLayout *layout = document->documentLayout();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        const QTextBlock next = block.next();
+        if (block.blockFormat().headingLevel() == 0 || !next.isValid())
+            continue;
+        // Of a line that is too high for the rest of the page, the block may begin there.
+        const QTextLine line =
+            next.layout()->lineCount() > 0 ? next.layout()->lineAt(0) : QTextLine();
+        const qreal top = layout->blockBoundingRect(next).top();
+        const qreal below = line.isValid() ? top + line.y() : top;
+        // A page may begin a fraction of a dot before it does.
+        const auto pageOf = [pageHeight](qreal y) { return int((y + 2) / pageHeight); };
+        if (pageOf(layout->blockBoundingRect(block).top()) == pageOf(below))
+            continue;
+        QTextBlockFormat format = block.blockFormat();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        QTextCursor(block).setBlockFormat(format);
+    }
 }
 
 } // namespace
@@ -54,7 +93,9 @@ Utils::Result<QByteArray> pdfOf(SoftwareDocument *document)
     document->documentLayout()->setPaintDevice(&writer);
     document->setDocumentMargin(0);
     document->pictures()->setRoom(room * 0.98); // a line has more than its picture
-    document->setPageSize(room);
+    fit(document, room);
+    if (document->pageCount() <= pageLimit)
+        keepHeadings(document, room.height());
     const int count = document->pageCount();
     if (count > pageLimit)
         return Utils::Failure{Tr::tr("The document has more than %1 pages.").arg(pageLimit)};

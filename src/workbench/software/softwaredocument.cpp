@@ -5,6 +5,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextTable>
 #include <QUrl>
 
 namespace Workbench
@@ -32,6 +34,45 @@ int depthOf(const QByteArray &html, const QByteArray &opening, const QByteArray 
     return deepest;
 }
 
+// A drawing that stands in the document itself; empty where the name is none.
+QByteArray embedded(const QString &name)
+{
+    const QLatin1String head("data:image/svg+xml;base64,");
+    if (!name.startsWith(head, Qt::CaseInsensitive))
+        return {};
+    return QByteArray::fromBase64(name.midRef(head.size()).toLatin1());
+}
+
+// The text without its style sheets: they are made for browsers, and rich text knows too little of
+// them to come out well.
+QString withoutStyles(const QByteArray &html)
+{
+    static const QRegularExpression style(
+        QStringLiteral("<style\\b[^>]*>.*?(</style\\s*>|$)|<link\\b[^>]*>"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    return QString::fromUtf8(html).remove(style);
+}
+
+// Tables get lines and room between them.
+void ruleTables(QTextFrame *frame)
+{
+    const QList<QTextFrame *> frames = frame->childFrames();
+    for (QTextFrame *child : frames) {
+        ruleTables(child);
+        auto *table = qobject_cast<QTextTable *>(child);
+        if (!table)
+            continue;
+        QTextTableFormat format = table->format();
+        format.setBorder(1);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(QColor(190, 190, 190));
+        format.setBorderCollapse(true);
+        format.setCellSpacing(0);
+        format.setCellPadding(3);
+        table->setFormat(format);
+    }
+}
+
 } // namespace
 
 SoftwareDocument::SoftwareDocument(const QVector<SoftwareFile> &files, const QString &path,
@@ -39,8 +80,12 @@ SoftwareDocument::SoftwareDocument(const QVector<SoftwareFile> &files, const QSt
     : QTextDocument(parent)
     , m_files(files)
     , m_path(path)
-    , m_pictures(
-          new VectorPictures([this](const QString &name) { return bytesOf(resolved(name)); }, this))
+    , m_pictures(new VectorPictures(
+          [this](const QString &name) {
+              const QByteArray own = embedded(name);
+              return own.isEmpty() ? bytesOf(resolved(name)) : own;
+          },
+          this))
 {
     setUndoRedoEnabled(false);
     documentLayout()->registerHandler(QTextFormat::ImageObject, m_pictures);
@@ -57,7 +102,16 @@ SoftwareDocument::SoftwareDocument(const QVector<SoftwareFile> &files, const QSt
         setHtml(QStringLiteral("<img src=\"%1\">")
                     .arg(QString::fromLatin1(QUrl::toPercentEncoding(QFileInfo(path).fileName()))));
     else
-        setHtml(QString::fromUtf8(html));
+        setHtml(withoutStyles(html));
+    ruleTables(rootFrame());
+    keepWords(true);
+}
+
+void SoftwareDocument::keepWords(bool keep)
+{
+    QTextOption option = defaultTextOption();
+    option.setWrapMode(keep ? QTextOption::WordWrap : QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setDefaultTextOption(option);
 }
 
 QString SoftwareDocument::title() const
@@ -83,11 +137,9 @@ QByteArray SoftwareDocument::bytesOf(const QString &name) const
 }
 
 // Pictures are drawn by m_pictures and never loaded.
-QVariant SoftwareDocument::loadResource(int type, const QUrl &name)
+QVariant SoftwareDocument::loadResource(int /*type*/, const QUrl & /*name*/)
 {
-    if (type != StyleSheetResource)
-        return {};
-    return QString::fromUtf8(bytesOf(resolved(name.toString())));
+    return {};
 }
 
 } // namespace Workbench

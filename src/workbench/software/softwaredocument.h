@@ -9,8 +9,8 @@ namespace Workbench
 
 class VectorPictures;
 
-// An HTML file of a set, or a picture of it, with the pictures and style sheets that the set holds.
-// Nothing else is read: no file, no address.
+// An HTML file of a set, or a picture of it, with the pictures that the set holds and drawings that
+// stand in the file itself. Nothing else is read: no file, no address, no style sheet.
 class SoftwareDocument : public QTextDocument
 {
     Q_OBJECT
@@ -26,6 +26,9 @@ public:
     // The document's own title, or the name of its file.
     QString title() const;
     VectorPictures *pictures() const { return m_pictures; }
+    // Whether lines end between words alone, as they do at first; a wide table is wider then than
+    // the page.
+    void keepWords(bool keep);
     // The path in the set of what a link or a picture of the document names; empty if it names
     // nothing there.
     QString resolved(const QString &name) const;

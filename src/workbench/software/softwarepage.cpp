@@ -13,6 +13,7 @@
 #include <utils/filebundle.h>
 #include <utils/fileutils.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -84,7 +85,7 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     halves->addWidget(left);
     halves->addWidget(right);
     // Sizes are shares until the page has one of its own.
-    halves->setSizes({1000, 1500});
+    halves->setSizes({1000, 1300});
     halves->setChildrenCollapsible(false);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_heading);
@@ -118,9 +119,13 @@ void SoftwarePage::buildLeft(QWidget *left)
     m_tree->setUniformRowHeights(true);
     m_tree->setAllColumnsShowFocus(true);
     m_tree->setMinimumHeight(fontMetrics().height() * 3);
-    // Scrolls to what is wider.
+    // What stands in the folder is seen in any case, and enough of the names.
+    m_tree->setTextElideMode(Qt::ElideMiddle);
+    m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionsMovable(false);
-    m_tree->header()->setSectionResizeMode(SoftwareModel::NameColumn,
+    m_tree->header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 14);
+    m_tree->header()->setSectionResizeMode(SoftwareModel::NameColumn, QHeaderView::Stretch);
+    m_tree->header()->setSectionResizeMode(SoftwareModel::StateColumn,
                                            QHeaderView::ResizeToContents);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SoftwarePage::showSelected);
@@ -391,6 +396,8 @@ Utils::Bundle SoftwarePage::bundle() const
     bundle.folder = folder();
     bundle.manifest = m_manifest;
     bundle.groups = m_model->chosen();
+    // An export of all is all that the folder is to hold.
+    bundle.keepsOtherGroups = bundle.groups.size() < m_model->formats().size();
     const QVector<SoftwareFile> files = m_model->chosenFiles();
     for (const SoftwareFile &file : files)
         bundle.files.append({file.path, file.bytes, file.format});
@@ -407,6 +414,7 @@ void SoftwarePage::showStates()
     Utils::Bundle all = bundle();
     all.files.clear();
     all.groups.clear();
+    all.keepsOtherGroups = false;
     for (const SoftwareFormat &format : m_model->formats())
         all.groups.append(format.name);
     for (const SoftwareFile &file : m_model->files())
@@ -531,11 +539,13 @@ void SoftwarePage::choosePdf()
     const QString path = documentPath();
     const QString proposal = QFileInfo(m_ipcFile).absolutePath() + u'/' +
                              QFileInfo(path).completeBaseName() + QStringLiteral(".pdf");
-    QString chosen = QFileDialog::getSaveFileName(this, tr("Save as PDF"), proposal,
-                                                  tr("PDF documents (*.pdf)"));
+    const QString chosen = QFileDialog::getSaveFileName(this, tr("Save as PDF"), proposal,
+                                                        tr("PDF documents (*.pdf)"));
     if (chosen.isEmpty())
         return;
+    QApplication::setOverrideCursor(Qt::WaitCursor); // a long document takes a second
     savePdf(chosen);
+    QApplication::restoreOverrideCursor();
 }
 
 bool SoftwarePage::savePdf(const QString &path)
@@ -544,9 +554,7 @@ bool SoftwarePage::savePdf(const QString &path)
     if (document.isEmpty())
         return false;
     SoftwareDocument paper(m_model->files(), document);
-    QFont text = font();
-    text.setPointSizeF(10);
-    paper.setDefaultFont(text);
+    paper.setDefaultFont(font());
     const Utils::Result<QByteArray> pdf = pdfOf(&paper);
     QString error = pdf.reason();
     if (!pdf || !Utils::FileUtils::writeFile(path, *pdf, &error)) {
