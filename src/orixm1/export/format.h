@@ -31,6 +31,9 @@ struct Format {
     QVector<ExportedFile> (*files)(const SystemMap &map);
 };
 
+// The file beside an export that says what was written, for the next one.
+inline constexpr QLatin1String exportManifest("orixm1-export.json");
+
 // All formats, in the order in which documents and windows list them.
 Rows<Format> formats();
 

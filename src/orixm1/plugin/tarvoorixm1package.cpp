@@ -1,5 +1,6 @@
 #include "tarvoorixm1package.h"
 
+#include "exportsoftware.h"
 #include "movetodevice.h"
 #include "tarvoorixm1.h"
 
@@ -9,6 +10,18 @@
 
 namespace TARVOORIXM1
 {
+
+namespace
+{
+
+// The id that the descriptor in the folder gives the IP; empty without a usable one.
+QString idOf(const QString &dataPath)
+{
+    TarvoOrixM1 core(dataPath);
+    return core.initialize() ? core.id() : QString();
+}
+
+} // namespace
 
 QList<TE::TE_IPCore_Def::BaseIPCoreInterface *> TarvoOrixM1Package::ipCoreInterfaces()
 {
@@ -21,10 +34,20 @@ QList<TE::TE_IPCore_Def::BaseIPCoreInterface *> TarvoOrixM1Package::ipCoreInterf
 QVariantMap TarvoOrixM1Package::moveToDevice(const QString &ipcFile, const QString &deviceId,
                                              bool write)
 {
-    TarvoOrixM1 core(dataPath());
-    const QString id = core.initialize() ? core.id() : QString();
-    return TARVOORIXM1::moveToDevice(ipcFile, deviceId, write, id,
+    return TARVOORIXM1::moveToDevice(ipcFile, deviceId, write, idOf(dataPath()),
                                      *Core::IdeCore::deviceDataBase());
+}
+
+QVariantList TarvoOrixM1Package::softwareFormats() const
+{
+    return TARVOORIXM1::softwareFormats();
+}
+
+QVariantMap TarvoOrixM1Package::exportSoftware(const QString &ipcFile,
+                                               const QStringList &formats) const
+{
+    return TARVOORIXM1::exportSoftware(ipcFile, formats, idOf(dataPath()), dataPath(),
+                                       *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

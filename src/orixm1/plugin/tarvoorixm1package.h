@@ -2,6 +2,8 @@
 
 #include <ipplugin/ipplugin.h>
 
+#include <QStringList>
+#include <QVariantList>
 #include <QVariantMap>
 
 namespace TARVOORIXM1
@@ -22,6 +24,13 @@ public:
     // went well; "device": the id; "losses": sentences; "changed": whether the file changes}.
     Q_INVOKABLE QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId,
                                          bool write);
+
+    // For hosts that ask for it by name: the forms in which software gets a configuration, see
+    // softwareFormats() in exportsoftware.h, and their files, see exportSoftware() there. Nothing
+    // is written.
+    Q_INVOKABLE QVariantList softwareFormats() const;
+    Q_INVOKABLE QVariantMap exportSoftware(const QString &ipcFile,
+                                           const QStringList &formats) const;
 };
 
 } // namespace TARVOORIXM1

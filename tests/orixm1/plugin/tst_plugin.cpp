@@ -2,10 +2,14 @@
 #include "testsupport.h"
 #include "unprivileged.h"
 
+#include <config/ipcfile.h>
 #include <core/viewmanager.h>
 #include <dev/devicedb.h>
+#include <export/format.h>
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
+#include <system/description.h>
+#include <system/systemmap.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -15,6 +19,7 @@
 #include <QPlainTextEdit>
 #include <QPluginLoader>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -50,10 +55,17 @@ private Q_SLOTS:
     void cannotMoveWhatCannotBeRead_data();
     void cannotMoveWhatCannotBeRead();
     void tellsThatAMoveCouldNotBeWritten();
+    void tellsInWhichFormatsSoftwareGetsIt();
+    void makesTheFilesOfEveryFormat_data();
+    void makesTheFilesOfEveryFormat();
+    void makesTheFormatsThatAreAskedForAlone();
+    void makesNoFilesOfWhatCannotBeRead_data();
+    void makesNoFilesOfWhatCannotBeRead();
 
 private:
     // As a host calls it: by name.
     QVariantMap moveToDevice(const QString &file, const QString &device, bool write);
+    QVariantMap exportSoftware(const QString &file, const QStringList &formats = {});
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -399,6 +411,7 @@ void tst_Plugin::aDangerousFileIsNotEvenRead()
         plugin(), "moveToDevice", Q_RETURN_ARG(QVariantMap, answer), Q_ARG(QString, ipc),
         Q_ARG(QString, QStringLiteral("TV2KR-18C-QFN88P-C8/I7")), Q_ARG(bool, true)));
     QVERIFY(!answer.value(QStringLiteral("error")).toString().isEmpty());
+    QVERIFY(!exportSoftware(ipc).value(QStringLiteral("error")).toString().isEmpty());
     QVERIFY(text.isEmpty() || TestSupport::contentsOf(ipc) == text);
     QCOMPARE(boxes.size(), 1);
     QCOMPARE(boxes.first().title, QStringLiteral("Error"));
@@ -517,6 +530,138 @@ void tst_Plugin::tellsThatAMoveCouldNotBeWritten()
              qPrintable(answer.value(QStringLiteral("error")).toString()));
     QCOMPARE(answer.value(QStringLiteral("changed")), QVariant(false));
     QCOMPARE(TestSupport::contentsOf(file), bytes);
+}
+
+QVariantMap tst_Plugin::exportSoftware(const QString &file, const QStringList &formats)
+{
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(plugin(), "exportSoftware", Qt::DirectConnection,
+                                                 Q_RETURN_ARG(QVariantMap, answer),
+                                                 Q_ARG(QString, file), Q_ARG(QStringList, formats));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::tellsInWhichFormatsSoftwareGetsIt()
+{
+    QVariantList list;
+    QVERIFY(QMetaObject::invokeMethod(plugin(), "softwareFormats", Qt::DirectConnection,
+                                      Q_RETURN_ARG(QVariantList, list)));
+    QCOMPARE(list.size(),
+             int(std::distance(TARVOORIXM1::formats().begin(), TARVOORIXM1::formats().end())));
+    int row = 0;
+    for (const TARVOORIXM1::Format &format : TARVOORIXM1::formats()) {
+        const QVariantMap expected{{QStringLiteral("name"), QString(format.name)},
+                                   {QStringLiteral("title"), QString(format.title)},
+                                   {QStringLiteral("purpose"), QString(format.purpose)},
+                                   {QStringLiteral("standard"), QString(format.standard)},
+                                   {QStringLiteral("files"), QString(format.file)},
+                                   {QStringLiteral("checkedBy"), QString(format.checkedBy)}};
+        QCOMPARE(list.at(row++).toMap(), expected);
+    }
+}
+
+void tst_Plugin::makesTheFilesOfEveryFormat_data()
+{
+    QTest::addColumn<QByteArray>("options");
+    QTest::newRow("nothing on") << QByteArray();
+    QTest::newRow("some blocks") << QByteArray(
+        "Enable%20UART0=true\nEnable%20GPIO=true\nEnable%20SPI-Flash=true\nLANG=1\n");
+}
+
+// What the plug-in hands over is what the library makes, byte for byte.
+void tst_Plugin::makesTheFilesOfEveryFormat()
+{
+    QFETCH(QByteArray, options);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    const QByteArray bytes = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                             "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n" +
+                             options;
+    QVERIFY(TestSupport::write(file, bytes));
+    const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    plugin()->setDataPath(data);
+
+    TARVOORIXM1::OptionMap map;
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        TARVOORIXM1::IpcFile::readOptions(settings, map);
+    }
+    const auto description = TARVOORIXM1::readSystemDescription(data);
+    QVERIFY2(description, qPrintable(description.reason()));
+    const TARVOORIXM1::SystemMap system = TARVOORIXM1::systemMap(
+        map, DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV2KR-18C-QFN88P-C8/I7")),
+        *description);
+    QVariantList expected;
+    for (const TARVOORIXM1::Format &format : TARVOORIXM1::formats()) {
+        for (const TARVOORIXM1::ExportedFile &made : format.files(system))
+            expected.append(QVariantMap{{QStringLiteral("path"), made.path},
+                                        {QStringLiteral("format"), QString(format.name)},
+                                        {QStringLiteral("bytes"), made.bytes}});
+    }
+    QVERIFY(!expected.isEmpty());
+    const QVariantMap answer = exportSoftware(file);
+    QCOMPARE(answer.value(QStringLiteral("error")), QVariant(QString()));
+    QCOMPARE(answer.value(QStringLiteral("files")).toList(), expected);
+    QCOMPARE(answer.value(QStringLiteral("manifest")),
+             QVariant(QString(TARVOORIXM1::exportManifest)));
+    // Nothing is written.
+    QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+             QStringList(QStringLiteral("x.ipc")));
+    QCOMPARE(TestSupport::contentsOf(file), bytes);
+}
+
+void tst_Plugin::makesTheFormatsThatAreAskedForAlone()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    QVERIFY(
+        TestSupport::write(file, "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\nversion=1.0\n"));
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantList made =
+        exportSoftware(file, {QStringLiteral("header")}).value(QStringLiteral("files")).toList();
+    QVERIFY(!made.isEmpty());
+    for (const QVariant &entry : made)
+        QCOMPARE(entry.toMap().value(QStringLiteral("format")), QVariant(QStringLiteral("header")));
+    const QVariantMap answer =
+        exportSoftware(file, {QStringLiteral("header"), QStringLiteral("marble")});
+    QVERIFY(answer.value(QStringLiteral("error")).toString().contains(QLatin1String("marble")));
+    QVERIFY(answer.value(QStringLiteral("files")).toList().isEmpty());
+}
+
+void tst_Plugin::makesNoFilesOfWhatCannotBeRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("data");
+    QTest::addColumn<QString>("named");
+    const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    const QByteArray good = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\nversion=1.0\n";
+    QTest::newRow("no file") << QByteArray() << data << QStringLiteral("x.ipc");
+    QTest::newRow("another version")
+        << QByteArray("[General]\nversion=2.0\n") << data << QStringLiteral("version");
+    QTest::newRow("another IP") << QByteArray("[General]\ntype=other.ip\nversion=1.0\n") << data
+                                << QStringLiteral("other.ip");
+    QTest::newRow("no device") << QByteArray("[General]\nversion=1.0\n") << data
+                               << QStringLiteral("names no device");
+    QTest::newRow("unknown device") << QByteArray("[General]\nversion=1.0\ntarget_device=TV9-12\n")
+                                    << data << QStringLiteral("TV9-12");
+    QTest::newRow("no registers") << good << QStringLiteral("/nowhere/at/all")
+                                  << QStringLiteral("/nowhere/at/all");
+}
+
+void tst_Plugin::makesNoFilesOfWhatCannotBeRead()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, data);
+    QFETCH(QString, named);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    if (!bytes.isEmpty())
+        QVERIFY(TestSupport::write(file, bytes));
+    plugin()->setDataPath(data);
+    const QVariantMap answer = exportSoftware(file);
+    const QString error = answer.value(QStringLiteral("error")).toString();
+    QVERIFY2(error.contains(named), qPrintable(error));
+    QVERIFY(answer.value(QStringLiteral("files")).toList().isEmpty());
 }
 
 TARVO_TEST_MAIN(QApplication, tst_Plugin)

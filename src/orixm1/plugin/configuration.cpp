@@ -1,0 +1,61 @@
+#include "configuration.h"
+
+#include "config/ipcfile.h"
+#include "config/latin1literal.h"
+
+#include <dev/devicedb.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace TARVOORIXM1
+{
+
+namespace
+{
+
+// Why the file cannot be used; empty if it can.
+QString unusable(const QString &ipcFile)
+{
+    if (!QFileInfo(ipcFile).isFile())
+        return shownPath(ipcFile) + " is no file."_l1;
+    QFile file(ipcFile);
+    if (!file.open(QIODevice::ReadOnly))
+        return shownPath(ipcFile) + " cannot be read: "_l1 + file.errorString() + u'.';
+    return IpcFile::danger(ipcFile);
+}
+
+} // namespace
+
+QString shownPath(const QString &path)
+{
+    return u'"' + QDir::toNativeSeparators(path) + u'"';
+}
+
+Utils::Result<Configuration> readConfiguration(const QString &ipcFile, const QString &ipId,
+                                               const DEV::DeviceDb &devices)
+{
+    const auto fail = [&ipcFile](const QString &reason) {
+        return Utils::Failure{shownPath(ipcFile) + u' ' + reason};
+    };
+    if (const QString error = unusable(ipcFile); !error.isEmpty())
+        return Utils::Failure{error};
+    QSettings settings(ipcFile, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError)
+        return fail("is no IP configuration file."_l1);
+    if (!IpcFile::isVersionAccepted(settings))
+        return fail("has a version that this IP does not know."_l1);
+    Configuration read;
+    read.type = IpcFile::type(settings);
+    if (!ipId.isEmpty() && !read.type.isEmpty() && read.type != ipId)
+        return fail("is a configuration of \""_l1 + read.type + "\", not of this IP."_l1);
+    read.device = IpcFile::readDevice(settings, devices);
+    read.deviceText = IpcFile::deviceText(settings);
+    IpcFile::readOptions(settings, read.options);
+    read.others = IpcFile::otherEntries(settings);
+    return read;
+}
+
+} // namespace TARVOORIXM1
