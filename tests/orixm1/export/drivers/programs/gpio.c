@@ -3,7 +3,7 @@
 #include "far.h"
 
 enum { INPUTS };
-enum { IRQ, OUT, OUTEN };
+enum { IRQ, OUT, OUTEN, RAISED };
 
 static void outputs(void)
 {
@@ -34,6 +34,7 @@ static void outputs(void)
 
 static void interrupts(void)
 {
+    uint32_t raised;
     EQUAL(FAR(IRQ), 0u);
     gpio_enable_interrupts(GPIO, 0x0001u, GPIO_HIGH);
     gpio_enable_interrupts(GPIO, 0x0002u, GPIO_RISING);
@@ -65,6 +66,13 @@ static void interrupts(void)
     EQUAL(gpio_pending(GPIO), 0u);
     gpio_enable_interrupts(GPIO, 0x0100u, GPIO_RISING); /* from a level to an edge */
     EQUAL(gpio_pending(GPIO), 0u);
+    /* Nothing is raised on the way from one condition to another. */
+    FAR(INPUTS) = 0x0110u;
+    gpio_enable_interrupts(GPIO, 0x0010u, GPIO_RISING);
+    gpio_acknowledge(GPIO, 0xFFFFu);
+    raised = FAR(RAISED);
+    gpio_enable_interrupts(GPIO, 0x0010u, GPIO_LOW);
+    EQUAL(FAR(RAISED), raised);
     gpio_disable_interrupts(GPIO, 0xFFFFFFFFu);
     EQUAL(GPIO->INTEN, 0u);
 }

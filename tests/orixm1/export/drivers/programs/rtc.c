@@ -62,6 +62,7 @@ static void alarms(void)
     rtc_set(RTC, 100u);
     EQUAL(rtc_set_alarm(RTC, 100u, true), false);
     EQUAL(rtc_set_alarm(RTC, 99u, true), false);
+    EQUAL(rtc_set_alarm(RTC, 100u + 0x80000000u, true), false);
     EQUAL(RTC->CTRL, RTC_CTRL_EN_Msk);
     EQUAL(rtc_set_alarm(RTC, 100u + 0x7FFFFFFFu, true), true);
     EQUAL(RTC->CTRL, RTC_CTRL_EN_Msk | RTC_CTRL_ALARMIE_Msk);
@@ -95,6 +96,7 @@ static void standstill(void)
     FAR(STOPPED) = 0u;
     EQUAL(rtc_wait_second(RTC, enough), true);
     EQUAL(rtc_get(RTC), now + 1u);
+    IDLE(100u);
     rtc_stop(RTC);
     IDLE(400u);
     EQUAL(rtc_get(RTC), now + 1u);

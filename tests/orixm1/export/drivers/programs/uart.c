@@ -4,7 +4,7 @@
 
 static const uint32_t enough = 2000u;
 
-enum { BIT_TIME, SEND, LOOP, START_BIT, HEARD, BYTE, IRQ, PAGE, LEVEL };
+enum { BIT_TIME, SEND, LOOP, START_BIT, HEARD, BYTE, IRQ, PAGE, LEVEL, LOOKS };
 
 static void from_far(uint32_t byte)
 {
@@ -69,8 +69,12 @@ static void bytes(UART_Type *uart)
 static void limits(UART_Type *uart)
 {
     uint8_t byte = 0x77u;
+    uint32_t looks = FAR(LOOKS);
     EQUAL(uart_get(uart, &byte, 20u), UART_ERROR_TIMEOUT);
+    EQUAL(FAR(LOOKS) - looks, 20u);
+    EQUAL(uart_get(uart, &byte, 1u), UART_ERROR_TIMEOUT);
     EQUAL(uart_get(uart, &byte, 0u), UART_ERROR_TIMEOUT);
+    EQUAL(FAR(LOOKS) - looks, 22u);
     EQUAL(byte, 0x77u);
     EQUAL(uart_read(uart, &byte, 1u, 3u), 0u);
     uart_stop(uart);

@@ -10,6 +10,9 @@ module tb;
                   .HREADYOUT(hready), .HRESP(hresp), .gpio_in((out & outen) | (outside & ~outen)), .gpio_out(out),
                   .gpio_outen(outen), .irq(irq));
 
+    integer raised = 0;
+    always @(posedge irq) if (rstn) raised = raised + 1;
+
     task far_write(input [31:0] index, input [31:0] value);
         if (index == 0) begin outside = value[15:0]; cycles(4); end
     endtask
@@ -18,6 +21,7 @@ module tb;
             0: rd = irq;
             1: rd = out;
             2: rd = outen;
+            3: rd = raised;
         endcase
     endtask
 `include "serve.vh"

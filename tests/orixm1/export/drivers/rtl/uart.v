@@ -24,6 +24,9 @@ module tb;
     end
     always @(posedge txd) if (rstn && start_bit == 0) start_bit = $time - fall;
 
+    integer   looks = 0;
+    always @(posedge clk) if (dut.fetch && dut.at_status) looks = looks + 1;
+
     event     send;
     reg       sending = 1'b0;
     reg [9:0] sent;
@@ -55,6 +58,7 @@ module tb;
             6: rd = irq;
             7: rd = page;
             8: rd = txd;
+            9: rd = looks;
         endcase
     endtask
 `include "serve.vh"
