@@ -65,7 +65,7 @@ private:
         }
     }
 
-    const int m_waitStates;
+    int m_waitStates;
     bool m_isBusy = false;
     bool m_isWrite = false;
     bool m_isError = false;
@@ -171,7 +171,7 @@ private Q_SLOTS:
             QVERIFY(!bench.pins.isDone);
             bench.pins = bench.core.clock({});
             QVERIFY(!bench.pins.isTransfer && !bench.pins.isWrite);
-            new (&bench.slave) Slave(2); // it is reset as well
+            bench.slave = Slave(2); // it is reset as well
             bench.run();
             QVERIFY2(bench.pins.hasPassed, QByteArray::number(cycle));
         }
