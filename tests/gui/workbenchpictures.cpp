@@ -11,6 +11,8 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/messagemodel.h>
+#include <workbench/software/softwaremodel.h>
+#include <workbench/software/softwarepage.h>
 #include <workbench/window/helpwindow.h>
 #include <workbench/window/mainwindow.h>
 
@@ -222,6 +224,17 @@ int main(int argc, char *argv[])
     save(&window, "workbench-ipc", false);
     window.openPath(projectFile, 1);
     save(&window, "workbench-json", false);
+
+    SoftwarePage *software = window.showSoftware(ipc);
+    if (const auto &files = software->model()->files(); !files.isEmpty())
+        software->select(files.first().path);
+    save(&window, "workbench-software", true);
+    for (const SoftwareFile &file : software->model()->files()) {
+        if (!SoftwareSet::isDocument(file))
+            continue;
+        software->select(file.path);
+        save(&window, "workbench-datasheet", false);
+    }
 
     if (all)
         savePicturesOfCare(window);

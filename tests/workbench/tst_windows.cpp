@@ -7,6 +7,7 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/messages/logview.h>
 #include <workbench/results/resultpage.h>
+#include <workbench/software/softwarepage.h>
 #include <workbench/widgets/infobar.h>
 #include <workbench/window/helpwindow.h>
 #include <workbench/window/startpage.h>
@@ -34,7 +35,7 @@ class TestWindows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_bench = std::make_unique<Bench>(); }
+    void init() { m_bench = std::make_unique<Bench>("exporting"); }
     void cleanup()
     {
         m_bench.reset();
@@ -89,7 +90,7 @@ private Q_SLOTS:
         QFont large = m_font;
         large.setPointSize(16);
         QApplication::setFont(large);
-        m_bench = std::make_unique<Bench>();
+        m_bench = std::make_unique<Bench>("exporting");
         show(
             [](QWidget *window) { QCOMPARE(cutOff(window, smallScreen()).join(u';'), QString()); });
     }
@@ -563,12 +564,29 @@ private:
         QCoreApplication::processEvents();
     }
 
+    // The page on the software of an IP with a long path, and a message on it.
+    void showSoftware(const char *path) const
+    {
+        const QString folder = window()->project()->path() + u'/' +
+                               QStringLiteral("a_folder_with_a_long_name/").repeated(4);
+        QDir().mkpath(folder);
+        write(folder + QStringLiteral("lamp.ipc"),
+              "[General]\ntype=fake.blinker\ntarget_device=TV5K-138B-PBGA484-C1/I0\n"
+              "[Config]\nLamps=7\n");
+        SoftwarePage *page = window()->showSoftware(folder + QStringLiteral("lamp.ipc"));
+        page->select(QString::fromLatin1(path));
+        page->check();
+        page->infoBar()->showMessage(QStringLiteral("The configuration has changed. ").repeated(9),
+                                     {});
+        QCoreApplication::processEvents();
+    }
+
     static void addScenes()
     {
         QTest::addColumn<QString>("scene");
         for (const char *scene :
              {"start", "project", "editor", "results", "log", "new project", "device", "plug-ins",
-              "about", "line", "guide", "message", "kept"})
+              "about", "line", "guide", "message", "kept", "software", "datasheet"})
             QTest::newRow(scene) << QString::fromLatin1(scene);
     }
 
@@ -611,6 +629,8 @@ private:
                 window()->tabs()->closeAll();
             if (scene == QLatin1String("results"))
                 m_bench->action("Results of the Last Run")->trigger();
+            if (scene == QLatin1String("software") || scene == QLatin1String("datasheet"))
+                showSoftware(scene == QLatin1String("software") ? "lamp.h" : "sheet/lamp.html");
             if (scene == QLatin1String("log"))
                 window()->findChild<QTabWidget *>(QStringLiteral("outputTabs"))->setCurrentIndex(1);
             lookOnce(window());

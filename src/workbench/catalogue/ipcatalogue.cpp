@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLibrary>
+#include <QMetaMethod>
 #include <QSet>
 
 #include <algorithm>
@@ -28,6 +29,8 @@ namespace
 {
 
 constexpr const char *moveMethod = "moveToDevice(QString,QString,bool)";
+constexpr const char *formatsMethod = "softwareFormats()";
+constexpr const char *exportMethod = "exportSoftware(QString,QStringList)";
 constexpr int probesAtOnce = 4;
 
 // By library; {"stamp", "reason"}.
@@ -338,6 +341,56 @@ bool IpCatalogue::moveToDevice(int index, const QString &ipcFile, const QString 
     move->losses = result.value(QStringLiteral("losses")).toStringList();
     move->changed = result.value(QStringLiteral("changed")).toBool();
     return error->isEmpty();
+}
+
+bool IpCatalogue::canExport(int index) const
+{
+    const QObject *root = m_cores.at(size_t(index)).root;
+    const auto returns = [root](const char *method, int type) {
+        const int number = root->metaObject()->indexOfMethod(method);
+        return number >= 0 && root->metaObject()->method(number).returnType() == type;
+    };
+    return root && returns(formatsMethod, QMetaType::QVariantList) &&
+           returns(exportMethod, QMetaType::QVariantMap);
+}
+
+bool IpCatalogue::softwareFormats(int index, QVariantList *answer, QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    bool called = false;
+    if (!run(
+            core,
+            [&] {
+                called = canExport(index) && QMetaObject::invokeMethod(
+                                                 core.root, "softwareFormats", Qt::DirectConnection,
+                                                 Q_RETURN_ARG(QVariantList, *answer));
+            },
+            error))
+        return false;
+    if (!called)
+        *error = Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name);
+    return called;
+}
+
+bool IpCatalogue::exportSoftware(int index, const QString &ipcFile, const QStringList &formats,
+                                 QVariantMap *answer, QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    bool called = false;
+    if (!run(
+            core,
+            [&] {
+                called =
+                    canExport(index) &&
+                    QMetaObject::invokeMethod(core.root, "exportSoftware", Qt::DirectConnection,
+                                              Q_RETURN_ARG(QVariantMap, *answer),
+                                              Q_ARG(QString, ipcFile), Q_ARG(QStringList, formats));
+            },
+            error))
+        return false;
+    if (!called)
+        *error = Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name);
+    return called;
 }
 
 void IpCatalogue::fail(const QString &library, const QString &reason)

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -78,6 +80,15 @@ public:
     };
     bool moveToDevice(int index, const QString &ipcFile, const QString &deviceId, bool write,
                       Move *move, QString *error);
+
+    // Whether the plug-in hands on what it has configured to software: its root object has the
+    // invokables QVariantList softwareFormats() const and QVariantMap exportSoftware(const QString
+    // &ipcFile, const QStringList &formats) const.
+    bool canExport(int index) const;
+    // What they answer, as it is. False and a sentence in `*error` if they are not there or throw.
+    bool softwareFormats(int index, QVariantList *answer, QString *error) const;
+    bool exportSoftware(int index, const QString &ipcFile, const QStringList &formats,
+                        QVariantMap *answer, QString *error) const;
 
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
     // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,

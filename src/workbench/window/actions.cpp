@@ -209,6 +209,11 @@ void MainWindow::Actions::addProjectMenu()
             window->openPath(window->m_projectPane->selectedFile(), 1);
     });
     openAsText->setStatusTip(tr("Shows an IP's configuration in the editor, not in its dialog"));
+    software = add(project, tr("&Software"), {},
+                   QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_E), [window] {
+                       if (!window->m_projectPane->selectedFile().isEmpty())
+                           window->showSoftware(window->m_projectPane->selectedFile());
+                   });
     moveToDevice = add(project, tr("&Move to Device…"), {}, nothing, [window] {
         if (!window->m_projectPane->selectedFile().isEmpty())
             window->m_ips->chooseDeviceOf(window->m_projectPane->selectedFile());
@@ -308,6 +313,15 @@ void MainWindow::Actions::refreshProject()
     const int ip = model->isIp(selected)
                        ? catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())
                        : -1;
+    const bool canExport = ip >= 0 && catalogue.canExport(ip);
+    software->setEnabled(canExport);
+    const QString softwareTip =
+        canExport ? tr("Shows the files that software needs of the selected IP, and exports them")
+        : ip >= 0 ? tr("The plug-in of %1 hands on nothing to software")
+                        .arg(catalogue.entries().at(ip).name)
+                  : tr("Select an IP in the project to see what software needs of it");
+    software->setToolTip(softwareTip);
+    software->setStatusTip(softwareTip);
     const bool canMove = ip >= 0 && catalogue.canMove(ip);
     moveToDevice->setEnabled(canMove);
     const QString moveTip =

@@ -44,6 +44,7 @@ public:
     QAction *newSource;
     QAction *openSelected;
     QAction *openAsText;
+    QAction *software;
     QAction *moveToDevice;
     QAction *removeSource;
     QAction *moveUp;

@@ -22,6 +22,7 @@
 #include "projectactions.h"
 #include "results/lastrun.h"
 #include "results/resultpage.h"
+#include "software/softwarepages.h"
 #include "startpage.h"
 #include "widgets/errorbox.h"
 #include "widgets/infobar.h"
@@ -86,6 +87,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_infoBar(new InfoBar)
     , m_messages(new MessageModel(this))
     , m_lastRun(new LastRun(*m_messages, this))
+    , m_software(new SoftwarePages(catalogue, *m_tabs, this))
     , m_projectPane(new ProjectPane)
     , m_projectActions(new ProjectActions(*m_tabs, this))
     , m_catalogueView(new CatalogueView(catalogue))
@@ -115,9 +117,9 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
                                         this);
     m_actions = std::make_unique<Actions>(this);
     m_projectPane->tree()->addActions(
-        {m_actions->openSelected, m_actions->openAsText, m_actions->moveToDevice,
-         m_actions->addSources, m_actions->newSource, m_actions->removeSource, m_actions->moveUp,
-         m_actions->moveDown, m_actions->topModule});
+        {m_actions->openSelected, m_actions->openAsText, m_actions->software,
+         m_actions->moveToDevice, m_actions->addSources, m_actions->newSource,
+         m_actions->removeSource, m_actions->moveUp, m_actions->moveDown, m_actions->topModule});
     m_recent.showIn(m_actions->recentMenu);
 
     connectParts();
@@ -259,6 +261,7 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
     }
     Core::ProjectManager::setCurrentProject(nullptr);
     m_lastRun->setProject(project.get());
+    m_software->clear();
     m_projectActions->setProject(project.get());
     m_ips->setProject(project.get());
     m_projectPane->setProject(project.get());
@@ -359,6 +362,11 @@ void MainWindow::showResults()
         return;
     }
     m_tabs->showPage(results(), symbolIcon(QStringLiteral("results")), tr("Results"));
+}
+
+SoftwarePage *MainWindow::showSoftware(const QString &ipcFile)
+{
+    return m_software->show(ipcFile);
 }
 
 void MainWindow::newProject()

@@ -45,6 +45,8 @@ class PluginList;
 class ProjectActions;
 class ProjectPane;
 class ResultPage;
+class SoftwarePage;
+class SoftwarePages;
 class StartPage;
 
 // The window of the workbench. While it lives it is what the entry points of Core lead to: the
@@ -75,6 +77,8 @@ public:
     bool createIp(int ip, const QString &folder, const DEV::DeviceArg &device);
     // Moves an IP to a device after showing what it loses; false if it was not moved.
     bool moveIp(const QString &ipcFile, const DEV::DeviceArg &device);
+    // The page on what software gets of an IP.
+    SoftwarePage *showSoftware(const QString &ipcFile);
     // Restores a kept configuration after a question, or opens what was dropped in its dialog.
     bool bringBack(const QString &keptId);
     KeptConfigurations *kept() const { return m_kept; }
@@ -145,6 +149,7 @@ private:
     InfoBar *m_infoBar;
     MessageModel *m_messages;
     LastRun *m_lastRun;
+    SoftwarePages *m_software;
     OutputPane *m_output = nullptr;
     ProjectPane *m_projectPane;
     ProjectActions *m_projectActions;

@@ -216,6 +216,65 @@ public:
         return {new Blinker};
     }
 
+#ifdef FAKE_EXPORTS
+    // A header that counts the lamps, a document with a picture, and a format without files.
+    Q_INVOKABLE QVariantList softwareFormats() const
+    {
+        if (is("throwing-exporting"))
+            throw std::runtime_error("the lamp is hot");
+        if (is("garbling-exporting"))
+            return {QVariantMap{{QStringLiteral("name"), QVariantList{1, 2}}}};
+        const auto format = [](const char *name, const char *title, const char *files) {
+            return QVariantMap{
+                {QStringLiteral("name"), QString::fromLatin1(name)},
+                {QStringLiteral("title"), QString::fromLatin1(title)},
+                {QStringLiteral("purpose"), QStringLiteral("Tells programs about the lamps.")},
+                {QStringLiteral("standard"), QStringLiteral("C99")},
+                {QStringLiteral("files"), QString::fromLatin1(files)},
+                {QStringLiteral("checkedBy"), QStringLiteral("gcc")}};
+        };
+        return {format("header", "Lamp header", "lamp.h"),
+                format("sheet", "Lamp sheet", "sheet/lamp.html"), format("dark", "Darkness", "")};
+    }
+    Q_INVOKABLE QVariantMap exportSoftware(const QString &ipcFile, const QStringList &formats) const
+    {
+        if (is("late-exporting"))
+            throw 42;
+        if (is("refusing-exporting"))
+            return {{QStringLiteral("error"), QStringLiteral("These lamps are on strike.")}};
+        QString lamps;
+        QString device;
+        {
+            QSettings file(ipcFile, QSettings::IniFormat);
+            lamps = file.value(QStringLiteral("Config/Lamps")).toString();
+            device = file.value(QStringLiteral("target_device")).toString();
+        }
+        QVariantList files;
+        const auto add = [&](const char *format, const char *path, const QByteArray &bytes) {
+            if (formats.contains(QLatin1String(format)))
+                files.append(QVariantMap{{QStringLiteral("path"), QString::fromLatin1(path)},
+                                         {QStringLiteral("format"), QString::fromLatin1(format)},
+                                         {QStringLiteral("bytes"), bytes}});
+        };
+        if (is("outside-exporting"))
+            add("header", "../lamp.h", "outside");
+        if (is("huge-exporting"))
+            add("header", "huge.h", QByteArray(100 << 20, 'x'));
+        add("header", "lamp.h",
+            "#define LAMPS " + lamps.toUtf8() + "\n/* " + device.toUtf8() + " */\n");
+        add("sheet", "sheet/lamp.html",
+            "<html><head><title>The lamp sheet</title></head><body><h1>Lamps</h1><p>There are " +
+                lamps.toUtf8() +
+                " of them.</p><img src=\"lamp.svg\"><p><a href=\"../lamp.h\">Header</a></p>"
+                "</body></html>");
+        add("sheet", "sheet/lamp.svg",
+            "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"200\" height=\"100\">"
+            "<rect width=\"200\" height=\"100\" fill=\"#00ff00\"/>"
+            "<text x=\"20\" y=\"50\">bulb</text></svg>");
+        return {{QStringLiteral("error"), QString()}, {QStringLiteral("files"), files}};
+    }
+#endif
+
 #ifdef FAKE_MOVES
     // What has more lamps than the name of the new device has letters loses them.
     Q_INVOKABLE QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId,

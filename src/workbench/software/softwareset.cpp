@@ -1,0 +1,198 @@
+#include "softwareset.h"
+
+#include "tr.h"
+
+#include <QSet>
+#include <QStringList>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace Workbench
+{
+
+namespace
+{
+
+QString shown(const QString &text)
+{
+    const QString cut = text.size() > 100 ? text.left(100) + QChar(0x2026) : text;
+    QString result;
+    for (const QChar c : cut)
+        result += c.isPrint() || c == QChar(0x2026) ? c : QChar(0xfffd);
+    return u'"' + result + u'"';
+}
+
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return c.isPrint() || c.isSurrogate(); });
+}
+
+// A text of the map; an absent one is empty.
+bool takeText(const QVariantMap &map, const QString &key, QString *text)
+{
+    const QVariant value = map.value(key);
+    if (!value.isValid()) {
+        text->clear();
+        return true;
+    }
+    if (value.userType() != QMetaType::QString)
+        return false;
+    *text = value.toString();
+    return text->size() <= SoftwareSet::textLimit && isPlain(*text);
+}
+
+// Why no file may have this path; empty if one may.
+QString pathMistake(const QString &path)
+{
+    if (path.isEmpty() || path.toUtf8().size() > 1000)
+        return Tr::tr("it is empty or too long");
+    if (!isPlain(path) || path.contains(u'\\') || path.contains(u':'))
+        return Tr::tr("it has characters that no path may have");
+    const QStringList names = path.split(u'/');
+    for (const QString &name : names) {
+        if (name.isEmpty() || name.startsWith(u'.') || name.toUtf8().size() > 200)
+            return Tr::tr("it does not name a file below a folder");
+    }
+    return {};
+}
+
+} // namespace
+
+namespace SoftwareSet
+{
+
+Utils::Result<QVector<SoftwareFormat>> formatsOf(const QVariantList &answer)
+{
+    if (answer.size() > formatLimit)
+        return Utils::Failure{Tr::tr("it offers more than %1 formats").arg(formatLimit)};
+    QVector<SoftwareFormat> formats;
+    QSet<QString> names;
+    for (const QVariant &entry : answer) {
+        if (entry.userType() != QMetaType::QVariantMap)
+            return Utils::Failure{Tr::tr("one of its formats is no map")};
+        const QVariantMap map = entry.toMap();
+        SoftwareFormat format;
+        const QVector<QPair<QString, QString *>> texts = {
+            {QStringLiteral("name"), &format.name},
+            {QStringLiteral("title"), &format.title},
+            {QStringLiteral("purpose"), &format.purpose},
+            {QStringLiteral("standard"), &format.standard},
+            {QStringLiteral("files"), &format.files},
+            {QStringLiteral("checkedBy"), &format.checkedBy}};
+        for (const auto &[key, text] : texts) {
+            if (!takeText(map, key, text))
+                return Utils::Failure{
+                    Tr::tr("\"%1\" of one of its formats is no text of a line").arg(key)};
+        }
+        if (format.name.isEmpty())
+            return Utils::Failure{Tr::tr("one of its formats has no name")};
+        if (names.contains(format.name))
+            return Utils::Failure{Tr::tr("it offers the format %1 twice").arg(shown(format.name))};
+        names.insert(format.name);
+        if (format.title.isEmpty())
+            format.title = format.name;
+        formats.append(format);
+    }
+    return formats;
+}
+
+Utils::Result<Answer> filesOf(const QVariantMap &answer, const QVector<SoftwareFormat> &formats)
+{
+    Answer result;
+    if (!takeText(answer, QStringLiteral("error"), &result.error))
+        return Utils::Failure{Tr::tr("its \"error\" is no text of a line")};
+    if (!result.error.isEmpty())
+        return result;
+    QString manifest;
+    if (!takeText(answer, QStringLiteral("manifest"), &manifest) || manifest.contains(u'/') ||
+        (!manifest.isEmpty() && !pathMistake(manifest).isEmpty()))
+        return Utils::Failure{Tr::tr("its \"manifest\" is no name of a file")};
+    if (!manifest.isEmpty())
+        result.manifest = manifest;
+    const QVariant list = answer.value(QStringLiteral("files"));
+    if (list.userType() != QMetaType::QVariantList)
+        return Utils::Failure{Tr::tr("its \"files\" are no list")};
+    const QVariantList entries = list.toList();
+    if (entries.size() > fileCountLimit)
+        return Utils::Failure{Tr::tr("it makes more than %1 files").arg(fileCountLimit)};
+    QSet<QString> names;
+    for (const SoftwareFormat &format : formats)
+        names.insert(format.name);
+    QVector<SoftwareFile> &files = result.files;
+    QSet<QString> paths{result.manifest};
+    QSet<QString> folders;
+    qint64 size = 0;
+    for (const QVariant &entry : entries) {
+        const QVariantMap map = entry.toMap();
+        SoftwareFile file;
+        const QVariant bytes = map.value(QStringLiteral("bytes"));
+        if (entry.userType() != QMetaType::QVariantMap ||
+            map.value(QStringLiteral("path")).userType() != QMetaType::QString ||
+            bytes.userType() != QMetaType::QByteArray ||
+            !takeText(map, QStringLiteral("format"), &file.format))
+            return Utils::Failure{
+                Tr::tr("one of its files is no map with a path, a format and bytes")};
+        file.path = map.value(QStringLiteral("path")).toString();
+        file.bytes = bytes.toByteArray();
+        const QString path = shown(file.path);
+        if (const QString mistake = pathMistake(file.path); !mistake.isEmpty())
+            return Utils::Failure{Tr::tr("it has a file with the path %1: %2").arg(path, mistake)};
+        if (!names.contains(file.format))
+            return Utils::Failure{Tr::tr("the file %1 is of the format %2, which it does not offer")
+                                      .arg(path, shown(file.format))};
+        if (paths.contains(file.path) || folders.contains(file.path))
+            return Utils::Failure{Tr::tr("it has the file %1 twice").arg(path)};
+        for (int end = file.path.indexOf(u'/'); end >= 0; end = file.path.indexOf(u'/', end + 1)) {
+            const QString folder = file.path.left(end);
+            if (paths.contains(folder))
+                return Utils::Failure{
+                    Tr::tr("%1 is a file and a folder of files").arg(shown(folder))};
+            folders.insert(folder);
+        }
+        paths.insert(file.path);
+        size += file.bytes.size();
+        if (file.bytes.size() > fileLimit || size > setLimit)
+            return Utils::Failure{Tr::tr("the file %1 is too large: a file may have %2 MiB, all of "
+                                         "them together %3 MiB")
+                                      .arg(path)
+                                      .arg(fileLimit >> 20)
+                                      .arg(setLimit >> 20)};
+        files.append(file);
+    }
+    return result;
+}
+
+const SoftwareFile *find(const QVector<SoftwareFile> &files, const QString &path)
+{
+    const auto found = std::find_if(files.begin(), files.end(), [&path](const SoftwareFile &file) {
+        return file.path == path;
+    });
+    return found == files.end() ? nullptr : found;
+}
+
+bool isDocument(const SoftwareFile &file)
+{
+    return file.path.endsWith(QLatin1String(".html"), Qt::CaseInsensitive) && isText(file.bytes);
+}
+
+bool isPicture(const SoftwareFile &file)
+{
+    return file.path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive) && isText(file.bytes);
+}
+
+bool isText(const QByteArray &bytes)
+{
+    if (std::any_of(bytes.begin(), bytes.end(), [](char c) {
+            return uchar(c) < 0x20 && c != '\t' && c != '\n' && c != '\r' && c != '\f';
+        }))
+        return false;
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+} // namespace SoftwareSet
+
+} // namespace Workbench

@@ -1,0 +1,154 @@
+#include "vectorpicture.h"
+
+#include "tr.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QSet>
+#include <QSvgRenderer>
+#include <QTextDocument>
+#include <QXmlStreamReader>
+
+namespace Workbench
+{
+
+namespace
+{
+
+constexpr int elementLimit = 100000;
+constexpr int depthLimit = 64;
+
+// What draws by itself. Left out are pictures and fonts from elsewhere, copies of elements (whose
+// copies may be copied in turn), animations and scripts.
+bool isHarmless(const QStringRef &element)
+{
+    static const QSet<QString> elements = {
+        QStringLiteral("svg"),      QStringLiteral("g"),
+        QStringLiteral("defs"),     QStringLiteral("title"),
+        QStringLiteral("desc"),     QStringLiteral("metadata"),
+        QStringLiteral("style"),    QStringLiteral("rect"),
+        QStringLiteral("circle"),   QStringLiteral("ellipse"),
+        QStringLiteral("line"),     QStringLiteral("polyline"),
+        QStringLiteral("polygon"),  QStringLiteral("path"),
+        QStringLiteral("text"),     QStringLiteral("tspan"),
+        QStringLiteral("stop"),     QStringLiteral("linearGradient"),
+        QStringLiteral("clipPath"), QStringLiteral("radialGradient"),
+        QStringLiteral("a")};
+    return elements.contains(element.toString());
+}
+
+// Why a drawing is not rendered, as a clause; empty if it may be.
+QString mistakeOf(const QByteArray &bytes)
+{
+    QXmlStreamReader xml(bytes);
+    int elements = 0;
+    int depth = 0;
+    while (!xml.atEnd()) {
+        switch (xml.readNext()) {
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+        case QXmlStreamReader::ProcessingInstruction:
+            return Tr::tr("it has more than elements");
+        case QXmlStreamReader::StartElement:
+            if (++elements > elementLimit || ++depth > depthLimit)
+                return Tr::tr("it is too large");
+            if (!isHarmless(xml.name()))
+                return Tr::tr("it holds the element \"%1\"").arg(xml.name().toString().left(100));
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        default:
+            break;
+        }
+    }
+    return xml.hasError() ? xml.errorString() : QString();
+}
+
+} // namespace
+
+VectorPicture::VectorPicture() = default;
+VectorPicture::~VectorPicture() = default;
+
+Utils::Result<std::shared_ptr<VectorPicture>> VectorPicture::read(const QByteArray &bytes)
+{
+    if (const QString mistake = mistakeOf(bytes); !mistake.isEmpty())
+        return Utils::Failure{mistake};
+    std::shared_ptr<VectorPicture> picture(new VectorPicture);
+    picture->m_renderer = std::make_unique<QSvgRenderer>(bytes);
+    if (!picture->m_renderer->isValid())
+        return Utils::Failure{Tr::tr("it is no drawing")};
+    picture->m_renderer->setAspectRatioMode(Qt::KeepAspectRatio);
+    const QSizeF size = picture->m_renderer->defaultSize();
+    picture->m_size = {qBound(1.0, size.width(), 10000.0), qBound(1.0, size.height(), 10000.0)};
+    return picture;
+}
+
+void VectorPicture::paint(QPainter *painter, const QRectF &place) const
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    m_renderer->render(painter, place);
+    painter->restore();
+}
+
+VectorPictures::VectorPictures(const Source &source, QObject *parent)
+    : QObject(parent)
+    , m_source(source)
+{
+}
+
+const VectorPicture *VectorPictures::picture(const QString &name)
+{
+    auto found = m_pictures.find(name);
+    if (found == m_pictures.end()) {
+        const Utils::Result<std::shared_ptr<VectorPicture>> read =
+            VectorPicture::read(m_source(name));
+        found = m_pictures.emplace(name, read ? *read : nullptr).first;
+    }
+    return found->second.get();
+}
+
+QSizeF VectorPictures::intrinsicSize(QTextDocument *document, int /*position*/,
+                                     const QTextFormat &format)
+{
+    const QTextImageFormat image = format.toImageFormat();
+    const VectorPicture *drawing = picture(image.name());
+    const QPaintDevice *device = document->documentLayout()->paintDevice();
+    const qreal scale = device ? device->logicalDpiX() / 96.0 : 1.0;
+    QSizeF size = drawing ? drawing->size() : QSizeF(200, 30);
+    const bool hasWidth = image.hasProperty(QTextFormat::ImageWidth) && image.width() > 0;
+    const bool hasHeight = image.hasProperty(QTextFormat::ImageHeight) && image.height() > 0;
+    const qreal ratio = size.height() / size.width();
+    if (hasWidth)
+        size = {image.width(), hasHeight ? image.height() : image.width() * ratio};
+    else if (hasHeight)
+        size = {image.height() / ratio, image.height()};
+    size *= scale;
+    const QSizeF room =
+        m_room.isEmpty()
+            ? QSizeF(document->pageSize().width() - 2 * document->documentMargin(), 1e6)
+            : m_room;
+    if (room.width() > 1 && (size.width() > room.width() || size.height() > room.height()))
+        size.scale(room, Qt::KeepAspectRatio);
+    return size.boundedTo(QSizeF(1e6, 1e6)).expandedTo(QSizeF(1, 1));
+}
+
+void VectorPictures::drawObject(QPainter *painter, const QRectF &place,
+                                QTextDocument * /*document*/, int /*position*/,
+                                const QTextFormat &format)
+{
+    const QString name = format.toImageFormat().name();
+    if (const VectorPicture *drawing = picture(name)) {
+        drawing->paint(painter, place);
+        return;
+    }
+    painter->save();
+    painter->setPen(Qt::gray);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(place);
+    painter->drawText(place, Qt::AlignCenter, Tr::tr("This picture cannot be shown."));
+    painter->restore();
+}
+
+} // namespace Workbench
