@@ -19,8 +19,6 @@ using namespace TARVOORIXM1;
 namespace
 {
 
-const QLatin1String manifestName("orixm1-export.json");
-
 QStringList formatNames()
 {
     QStringList names;
@@ -97,7 +95,7 @@ QStringList chosenFormats(const ExportArguments &arguments, const QString &folde
 {
     QStringList asked = arguments.formats;
     if (asked.isEmpty() && arguments.check)
-        asked = Utils::bundleGroups(folder, manifestName);
+        asked = Utils::bundleGroups(folder, exportManifest);
     const QStringList all = formatNames();
     QStringList chosen;
     std::copy_if(all.begin(), all.end(), std::back_inserter(chosen),
@@ -108,7 +106,7 @@ QStringList chosenFormats(const ExportArguments &arguments, const QString &folde
 Utils::Bundle bundleOf(const SystemMap &map, const QString &folder, const QStringList &names,
                        bool keepsOtherGroups)
 {
-    Utils::Bundle bundle{folder, manifestName, {}, names, keepsOtherGroups};
+    Utils::Bundle bundle{folder, exportManifest, {}, names, keepsOtherGroups};
     for (const QString &name : names) {
         const QVector<ExportedFile> files = findFormat(name)->files(map);
         for (const ExportedFile &file : files)
