@@ -247,7 +247,9 @@ QVariant SoftwareModel::fileData(const QModelIndex &index, int role) const
             return entry.path;
         if (role == Qt::DecorationRole)
             return symbolIcon(QStringLiteral("file"));
-        return role == Qt::ToolTipRole && isKnown ? stateSentence(*state) : QVariant();
+        if (role == Qt::ToolTipRole)
+            return isKnown ? QString(entry.path + u'\n' + stateSentence(*state)) : entry.path;
+        return {};
     }
     if (!isKnown)
         return {};

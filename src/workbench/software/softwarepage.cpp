@@ -95,8 +95,8 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     buildFolderRow();
     forwardFocus(this, m_tree);
 
-    m_folder->setText(
-        QDir::toNativeSeparators(QFileInfo(ipcFile).absolutePath() + QStringLiteral("/software")));
+    m_heading->setToolTip(QDir::toNativeSeparators(ipcFile));
+    m_folder->setText(QStringLiteral("software"));
     // A file that is replaced is away for a moment: look when it is quiet.
     m_diskTimer.setSingleShot(true);
     m_diskTimer.setInterval(100);
@@ -171,7 +171,6 @@ void SoftwarePage::buildRight(QWidget *right)
 void SoftwarePage::buildFolderRow()
 {
     m_folder->setObjectName(QStringLiteral("exportFolderEdit"));
-    m_folder->setToolTip(tr("Made when it is needed. Other files in it stay as they are"));
     m_browse->setObjectName(QStringLiteral("exportFolderButton"));
     m_browse->setAccessibleName(tr("Choose the folder"));
     m_check->setObjectName(QStringLiteral("checkButton"));
@@ -274,10 +273,7 @@ void SoftwarePage::checkDisk()
 void SoftwarePage::readAnew()
 {
     m_device = IpcHead::of(m_configuration).deviceWords();
-    m_about->setText(
-        m_device.isEmpty()
-            ? QDir::toNativeSeparators(m_ipcFile)
-            : tr("%1, for the device %2").arg(QDir::toNativeSeparators(m_ipcFile), m_device));
+    m_about->setText(m_device.isEmpty() ? QString() : tr("For the device %1.").arg(m_device));
     const Utils::Result<QVector<SoftwareFormat>> formats = m_source.formats();
     if (!formats) {
         fail(formats.reason());
@@ -427,6 +423,10 @@ void SoftwarePage::refreshButtons()
 {
     const bool hasFolder = !folder().isEmpty();
     const bool hasChoice = !m_model->chosen().isEmpty();
+    m_folder->setToolTip(hasFolder
+                             ? tr("%1. Made when it is needed; other files in it stay as they are")
+                                   .arg(QDir::toNativeSeparators(folder()))
+                             : tr("A folder, or one beside the configuration"));
     m_check->setEnabled(hasFolder && hasChoice);
     m_export->setEnabled(hasFolder && hasChoice);
     m_pdf->setEnabled(!documentPath().isEmpty());
