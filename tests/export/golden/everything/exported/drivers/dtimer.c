@@ -1,0 +1,99 @@
+#include "dtimer.h"
+
+/* Both counters have the same fields. */
+#define CTRL_EN DTIMER_CTRL1_EN_Msk
+#define CTRL_IE DTIMER_CTRL1_IE_Msk
+#define CTRL_ONESHOT DTIMER_CTRL1_ONESHOT_Msk
+#define CTRL_PRESCALE_Pos DTIMER_CTRL1_PRESCALE_Pos
+#define PEND_WRAP DTIMER_PEND1_WRAP_Msk
+
+static void set_ctrl(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t value)
+{
+    if (counter == DTIMER_COUNTER_1)
+        dtimer->CTRL1 = value;
+    else
+        dtimer->CTRL2 = value;
+}
+
+static void set_value(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t value)
+{
+    if (counter == DTIMER_COUNTER_1)
+        dtimer->VALUE1 = value;
+    else
+        dtimer->VALUE2 = value;
+}
+
+static void set_reload(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t value)
+{
+    if (counter == DTIMER_COUNTER_1)
+        dtimer->RELOAD1 = value;
+    else
+        dtimer->RELOAD2 = value;
+}
+
+static void clear_pend(DTIMER_Type *dtimer, dtimer_counter counter)
+{
+    if (counter == DTIMER_COUNTER_1)
+        dtimer->PEND1 = PEND_WRAP;
+    else
+        dtimer->PEND2 = PEND_WRAP;
+}
+
+bool dtimer_start(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t counts, uint32_t prescale,
+                  dtimer_kind kind, bool interrupt)
+{
+    uint32_t ctrl = CTRL_EN;
+    if (counts == 0u || prescale == 0u || prescale > DTIMER_PRESCALE_MAX)
+        return false;
+    ctrl |= (prescale - 1u) << CTRL_PRESCALE_Pos;
+    if (kind == DTIMER_ONCE)
+        ctrl |= CTRL_ONESHOT;
+    if (interrupt)
+        ctrl |= CTRL_IE;
+    set_ctrl(dtimer, counter, 0u);
+    set_value(dtimer, counter, counts - 1u);
+    set_reload(dtimer, counter, counts - 1u);
+    clear_pend(dtimer, counter);
+    set_ctrl(dtimer, counter, ctrl);
+    return true;
+}
+
+bool dtimer_set_period(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t counts)
+{
+    if (counts == 0u)
+        return false;
+    set_reload(dtimer, counter, counts - 1u);
+    return true;
+}
+
+void dtimer_stop(DTIMER_Type *dtimer, dtimer_counter counter)
+{
+    set_ctrl(dtimer, counter, 0u);
+}
+
+bool dtimer_is_running(const DTIMER_Type *dtimer, dtimer_counter counter)
+{
+    return ((counter == DTIMER_COUNTER_1 ? dtimer->CTRL1 : dtimer->CTRL2) & CTRL_EN) != 0u;
+}
+
+uint32_t dtimer_left(const DTIMER_Type *dtimer, dtimer_counter counter)
+{
+    return counter == DTIMER_COUNTER_1 ? dtimer->VALUE1 : dtimer->VALUE2;
+}
+
+bool dtimer_take(DTIMER_Type *dtimer, dtimer_counter counter)
+{
+    if (((counter == DTIMER_COUNTER_1 ? dtimer->PEND1 : dtimer->PEND2) & PEND_WRAP) == 0u)
+        return false;
+    clear_pend(dtimer, counter);
+    return true;
+}
+
+bool dtimer_wait(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t polls)
+{
+    do {
+        if (dtimer_take(dtimer, counter))
+            return true;
+    } while (polls-- > 1u);
+    return false;
+}
