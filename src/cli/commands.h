@@ -55,6 +55,7 @@ struct ExportArguments {
     bool list = false;
     bool check = false;
     bool json = false;
+    QString netlist; // of a run, for the figures of resources; empty: none
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

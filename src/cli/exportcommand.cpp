@@ -5,9 +5,13 @@
 #include "output.h"
 
 #include <export/format.h>
+#include <generate/synthesisrequest.h>
+#include <synthesis/resources.h>
 #include <system/description.h>
 #include <system/systemmap.h>
 #include <utils/filebundle.h>
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -204,6 +208,38 @@ void printFiles(const QJsonObject &object, bool check)
     }
 }
 
+// What a netlist of the configuration takes. A failure is a sentence: it cannot be read, or is of
+// another configuration, as far as its black boxes tell.
+Utils::Result<ResourceFigures> figuresOf(const QString &netlist, const SystemMap &map)
+{
+    const QString path = QFileInfo(netlist).absoluteFilePath();
+    const auto use = Synthesis::readNetlistUse(path, QByteArray(topModule.data(), topModule.size()),
+                                               map.device.resources());
+    if (!use)
+        return Utils::Failure{use.reason()};
+    QStringList found;
+    for (const Synthesis::CellCount &cell : use->cells) {
+        if (cell.isBlackBox)
+            found.append(cell.cell);
+    }
+    QStringList expected;
+    for (const BlackBox &box : map.blackBoxes)
+        expected.append(box.module);
+    found.sort();
+    expected.sort();
+    if (found != expected)
+        return Utils::Failure{
+            u'"' + path +
+            QLatin1String("\" is no netlist of this configuration: its black boxes are ") +
+            (found.isEmpty() ? QStringLiteral("none") : found.join(QLatin1String(", "))) +
+            QLatin1String(", and not ") + expected.join(QLatin1String(", ")) + u'.'};
+    ResourceFigures figures;
+    for (const Synthesis::ResourceUse &line : use->resources)
+        figures.lines.append({line.resource, line.used, line.available});
+    figures.notCounted = Synthesis::notCountedSentence(use->cells);
+    return figures;
+}
+
 } // namespace
 
 int runExport(Environment &environment, const ExportArguments &arguments)
@@ -235,7 +271,15 @@ int runExport(Environment &environment, const ExportArguments &arguments)
         return BadInput;
     }
 
-    const SystemMap map = systemMap(document.options, document.device, *description);
+    SystemMap map = systemMap(document.options, document.device, *description);
+    if (!arguments.netlist.isEmpty()) {
+        const Utils::Result<ResourceFigures> figures = figuresOf(arguments.netlist, map);
+        if (!figures) {
+            printError(figures.reason());
+            return BadInput;
+        }
+        map.resources = *figures;
+    }
     const QString folder = outputFolder(document, arguments.outDir);
     const Utils::Bundle bundle =
         bundleOf(map, folder, chosenFormats(arguments, folder), !arguments.formats.isEmpty());

@@ -233,6 +233,12 @@ int run(int argc, char *argv[])
         ->type_name("");
     exportCommand->add_option("--out", outDir, "Folder that the files are written to")
         ->type_name("DIR");
+    std::string netlist;
+    exportCommand
+        ->add_option("--netlist", netlist,
+                     "Netlist or simulation model in Verilog that a run of this configuration has "
+                     "left: the datasheet tells what it uses of the device")
+        ->type_name("FILE");
     CLI::Option *listFlag =
         exportCommand->add_flag("--list", list, "List the formats; needs no FILE");
     exportCommand
@@ -243,8 +249,8 @@ int run(int argc, char *argv[])
     addJson(exportCommand);
     exportCommand->callback([&] {
         command = [&] {
-            return Cli::runExport(
-                environment, {text(file), texts(formats), text(outDir), list, onlyCheck, json});
+            return Cli::runExport(environment, {text(file), texts(formats), text(outDir), list,
+                                                onlyCheck, json, text(netlist)});
         };
     });
 
@@ -276,7 +282,7 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    for (const std::string *path : {&file, &image, &outDir, &dataFolder, &deviceFolder}) {
+    for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder}) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();
     }

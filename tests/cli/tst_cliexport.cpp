@@ -106,6 +106,66 @@ private Q_SLOTS:
         QVERIFY(TestSupport::entriesOf(m_dir->path()).isEmpty());
     }
 
+    void theDatasheetTellsWhatANetlistUses()
+    {
+        const QByteArray netlist =
+            "module Tarvo_ORIX_M1_Top(HCLK);\n  input HCLK;\n"
+            "  TV_LUT4 #(.INIT(16'h1)) a(.O(x));\n  TV_LUT2 b(.O(y));\n  TV_DFFC c(.Q(z));\n"
+            "  CortexM1Core u_core(.HCLK(HCLK));\nendmodule\n"
+            "(* blackbox *)\nmodule CortexM1Core(HCLK);\n  input HCLK;\nendmodule\n";
+        const QString file = m_dir->filePath(QStringLiteral("net.v"));
+        QVERIFY(TestSupport::write(file, netlist));
+        const QString datasheet = m_dir->filePath(QStringLiteral("out/datasheet/tarvo_orix_m1.md"));
+        const QStringList plain = words({example, "datasheet", "--out", "out"});
+        const QStringList counted = plain + words({"--netlist", "net.v"});
+
+        QCOMPARE(run(plain).status, 0);
+        QVERIFY(TestSupport::contentsOf(datasheet).contains("| LUT4 | not known |"));
+        const Run made = run(counted);
+        QVERIFY2(made.status == 0, qPrintable(made.err));
+        const QByteArray text = TestSupport::contentsOf(datasheet);
+        QVERIFY(text.contains("| LUT4 | 2 | 18000 |"));
+        QVERIFY(text.contains("| Flip-flops | 1 | 18000 |"));
+        QVERIFY(text.contains("Not counted are the contents of black boxes: 1 CortexM1Core."));
+        QCOMPARE(run(counted + words({"--check"})).status, 0);
+        QCOMPARE(run(plain + words({"--check"})).status, 1);
+    }
+
+    void refusesOtherNetlists_data()
+    {
+        QTest::addColumn<QByteArray>("netlist");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("no file") << QByteArray() << QStringLiteral("net.v");
+        QTest::newRow("no Verilog")
+            << QByteArray("entity x is end;")
+            << QStringLiteral("net.v\" cannot be counted: it holds no module "
+                              "\"Tarvo_ORIX_M1_Top\" in Verilog.");
+        QTest::newRow("cut") << QByteArray("module Tarvo_ORIX_M1_Top(HCLK);\n  TV_LUT2 b(.O(y));\n"
+                                           "endmodule\nmodule x(")
+                             << QStringLiteral("net.v\" cannot be counted: its end is missing.");
+        QTest::newRow("other black boxes")
+            << QByteArray("module Tarvo_ORIX_M1_Top(HCLK);\n  CortexM1Core u(.HCLK(HCLK));\n"
+                          "  can_core v(.HCLK(HCLK));\nendmodule\n")
+            << QStringLiteral("net.v\" is no netlist of this configuration: its black boxes are "
+                              "CortexM1Core, can_core, and not CortexM1Core.");
+        QTest::newRow("contains itself")
+            << QByteArray("module Tarvo_ORIX_M1_Top(HCLK);\n  Tarvo_ORIX_M1_Top u(.HCLK(HCLK));\n"
+                          "endmodule\n")
+            << QStringLiteral("the module \"Tarvo_ORIX_M1_Top\" contains itself");
+    }
+
+    void refusesOtherNetlists()
+    {
+        QFETCH(QByteArray, netlist);
+        QFETCH(QString, reason);
+        if (!netlist.isNull())
+            QVERIFY(TestSupport::write(m_dir->filePath(QStringLiteral("net.v")), netlist));
+        const Run result = run(words({example, "datasheet", "--out", "out", "--netlist", "net.v"}));
+        QCOMPARE(result.status, 3);
+        QVERIFY2(result.err.contains(reason), qPrintable(result.err));
+        QVERIFY(!QFileInfo::exists(m_dir->filePath(QStringLiteral("out"))));
+    }
+
     void listsTheFormats()
     {
         const Run table = run(words({"--list"}));

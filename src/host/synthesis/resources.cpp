@@ -1,7 +1,12 @@
 #include "resources.h"
 
+#include "netlist/library.h"
+#include "netlist/verilogscan.h"
 #include "tr.h"
 
+#include <utils/fileutils.h>
+
+#include <QDir>
 #include <QStringList>
 
 #include <array>
@@ -94,6 +99,39 @@ QString notCountedSentence(const QList<CellCount> &cells)
         return {};
     return Tr::tr("Not counted are the contents of black boxes: %1.")
         .arg(parts.join(QLatin1String(", ")));
+}
+
+NetlistUse netlistUse(const QMap<QByteArray, int> &instances, const DEV::DeviceResources &totals)
+{
+    const QByteArrayList primitives = Library::primitives();
+    NetlistUse use;
+    for (auto it = instances.begin(); it != instances.end(); ++it)
+        use.cells << CellCount{QString::fromUtf8(it.key()), it.value(),
+                               !primitives.contains(it.key())};
+    use.resources = resourceUse(instances, totals);
+    return use;
+}
+
+Utils::Result<NetlistUse> readNetlistUse(const QString &path, const QByteArray &top,
+                                         const DEV::DeviceResources &totals)
+{
+    const auto fail = [&path](const QString &reason) {
+        return Utils::Failure{
+            Tr::tr("\"%1\" cannot be counted: %2.").arg(QDir::toNativeSeparators(path), reason)};
+    };
+    QByteArray text;
+    QString error;
+    if (!Utils::FileUtils::readFile(path, &text, &error))
+        return Utils::Failure{error};
+    const VerilogOutline outline = scanVerilog(text);
+    if (!outline.defines(top))
+        return fail(Tr::tr("it holds no module \"%1\" in Verilog").arg(QString::fromUtf8(top)));
+    if (!outline.complete)
+        return fail(Tr::tr("its end is missing"));
+    const QMap<QByteArray, int> instances = outline.leavesOf(top, &error);
+    if (!error.isEmpty())
+        return fail(error);
+    return netlistUse(instances, totals);
 }
 
 } // namespace Synthesis

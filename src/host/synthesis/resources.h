@@ -2,6 +2,8 @@
 
 #include "runreport.h"
 
+#include <utils/result.h>
+
 #include <QByteArray>
 #include <QMap>
 
@@ -20,5 +22,19 @@ QString usedSentence(const QList<ResourceUse> &resources);
 // "Not counted are the contents of black boxes: 1 CortexM1Core, 2 Analog." Empty if the netlist has
 // no black box, so that the totals are whole.
 TARVO_SYNTHESIS_EXPORT QString notCountedSentence(const QList<CellCount> &cells);
+
+// What a netlist instantiates, and what that takes of a device.
+struct NetlistUse {
+    QList<CellCount> cells; // sorted by name
+    QList<ResourceUse> resources;
+};
+
+// Counts what `instances` of primitives and black boxes take.
+NetlistUse netlistUse(const QMap<QByteArray, int> &instances, const DEV::DeviceResources &totals);
+
+// Reads a file that a run has left in Verilog, the netlist or the simulation model, and counts what
+// stands below its module `top`. A failure is a sentence with path and reason.
+TARVO_SYNTHESIS_EXPORT Utils::Result<NetlistUse>
+readNetlistUse(const QString &path, const QByteArray &top, const DEV::DeviceResources &totals);
 
 } // namespace Synthesis

@@ -2,7 +2,6 @@
 
 #include "flow/flow.h"
 #include "flow/tools.h"
-#include "netlist/library.h"
 #include "resources.h"
 #include "run/outputset.h"
 #include "run/toollog.h"
@@ -171,14 +170,12 @@ QString Runner::Private::takeResults()
     if (!error.isEmpty())
         return error;
 
-    const QByteArrayList primitives = Library::primitives();
+    const NetlistUse counted = netlistUse(results.instances, m_runningJob.device.resources());
+    m_report.cells = counted.cells;
+    m_report.resources = counted.resources;
     receive(tr("Instances in the netlist:"));
-    for (auto it = results.instances.begin(); it != results.instances.end(); ++it) {
-        const QString name = QString::fromUtf8(it.key());
-        m_report.cells << CellCount{name, it.value(), !primitives.contains(it.key())};
-        receive(QStringLiteral("%1 %2").arg(it.value(), 8).arg(name));
-    }
-    m_report.resources = resourceUse(results.instances, m_runningJob.device.resources());
+    for (const CellCount &cell : qAsConst(m_report.cells))
+        receive(QStringLiteral("%1 %2").arg(cell.count, 8).arg(cell.cell));
     for (const ResourceUse &use : qAsConst(m_report.resources)) {
         if (use.exceeds())
             m_report.messages << Message{Message::Warning,

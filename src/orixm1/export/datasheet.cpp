@@ -492,8 +492,9 @@ private:
                 {Text(name), Text(unknown()), Text(availableText(available)), Text(unknown())});
         m_parts.append(table);
         paragraph(QStringLiteral(
-            "How much of the device is used, a run of synthesis tells: generate the subsystem and "
-            "look at the results of the run. What it finds in black boxes is not counted."));
+            "How much of the device is used, a run of synthesis tells: \"orixm1 export --netlist\" "
+            "puts what a netlist takes into this table. The contents of black boxes are not "
+            "counted."));
     }
 
     static QString unknown() { return QStringLiteral("not known"); }

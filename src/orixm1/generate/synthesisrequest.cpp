@@ -17,7 +17,7 @@ SynthesisRequest buildSynthesisRequest(const QVariantMap &ipInfo, const DEV::Dev
     request.options = {
         {QStringLiteral("impl_name"), QString(implementationName)},
         {QStringLiteral("write_vhdl"), language && rowOf(*language).isVhdl},
-        {QStringLiteral("top_module"), QStringLiteral("Tarvo_ORIX_M1_Top")},
+        {QStringLiteral("top_module"), QString(topModule)},
         {QStringLiteral("disable_io"), true},
         {QStringLiteral("source_files"), sourceFiles},
         {QStringLiteral("ip_version"), ipInfo.value(InfoKey::version).toString()},

@@ -4,12 +4,16 @@
 
 #include <dev/devicearg.h>
 
+#include <QLatin1String>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
 
 namespace TARVOORIXM1
 {
+
+// The RTL's top, and so the netlist's.
+inline constexpr QLatin1String topModule("Tarvo_ORIX_M1_Top");
 
 // What the synthesis runner is asked for.
 struct SynthesisRequest {
