@@ -194,7 +194,7 @@ QString memoryLine(const QString &name, const LinkedMemory &entry, const QString
 
 QString memoryScript(const ProgramMemory &memory)
 {
-    QString text = "/* Memories of the Tarvo Orix-M1 subsystem for scripts of GNU ld:\n"
+    QString text = "/* Memories of the subsystem Tarvo_ORIX_M1 for scripts of GNU ld:\n"
                    " * INCLUDE tarvo_orix_m1_memory.ld\n"
                    " *\n"
                    " * REGION_TEXT takes vectors, code, constants and the initial values of data; "
@@ -228,7 +228,7 @@ QString memoryScript(const ProgramMemory &memory)
 QString rustMemory(const ProgramMemory &memory)
 {
     QString text =
-        "/* Memories of the Tarvo Orix-M1 subsystem under the names that start-up code for Rust\n"
+        "/* Memories of the subsystem Tarvo_ORIX_M1 under the names that start-up code for Rust\n"
         " * (cortex-m-rt) asks for. It takes numbers only: what the comments leave to you is "
         "changed here.\n */\n"_l1;
     const bool shared = memory.text >= 0 && memory.text == memory.data;
@@ -388,7 +388,7 @@ QString sectionNotes(const ProgramMemory &memory)
 QString head(const SystemMap &map, const ProgramMemory &memory)
 {
     const bool big = map.processor.isBigEndian;
-    return "/* Linker script of the Tarvo Orix-M1 subsystem for GNU ld. DIR is the folder of this "
+    return "/* Linker script of the subsystem Tarvo_ORIX_M1 for GNU ld. DIR is the folder of this "
            "file:\n * arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb"_l1 +
            (big ? " -mbig-endian -Wl,--be8"_l1 : QLatin1String()) +
            " -nostartfiles -L DIR -T tarvo_orix_m1.ld ...\n"_l1 + sizeNotes(memory) +

@@ -121,7 +121,7 @@ QString startup(const SystemMap &map)
     QString furtherCall;
     const QString further = furtherMemories(programMemory(map), &furtherCall);
     const QString entries = QString::number(systemVectors + vectoredInterrupts(map.processor) - 1);
-    return "/* Start-up of the Tarvo Orix-M1 subsystem: vector table, and what runs before main(). "
+    return "/* Start-up of the subsystem Tarvo_ORIX_M1: vector table, and what runs before main(). "
            "C99, without a C library.\n"
            " * Each handler can be replaced by a function of the same name. Interrupts that "
            "nothing requests end in\n"
@@ -190,7 +190,7 @@ QString startup(const SystemMap &map)
 }
 
 const char systemHeader[] =
-    R"(/* System set-up of the Tarvo Orix-M1 subsystem. */
+    R"(/* System set-up of the subsystem Tarvo_ORIX_M1. */
 #ifndef SYSTEM_TARVO_ORIX_M1_H
 #define SYSTEM_TARVO_ORIX_M1_H
 
@@ -220,7 +220,7 @@ void SystemCoreClockUpdate(void);
 )";
 
 const char systemSource[] =
-    R"(/* System set-up of the Tarvo Orix-M1 subsystem: see the header. */
+    R"(/* System set-up of the subsystem Tarvo_ORIX_M1: see the header. */
 #include "system_tarvo_orix_m1.h"
 
 #ifndef SYSTEM_CORE_CLOCK

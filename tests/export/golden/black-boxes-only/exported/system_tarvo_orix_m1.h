@@ -1,4 +1,4 @@
-/* System set-up of the Tarvo Orix-M1 subsystem. */
+/* System set-up of the subsystem Tarvo_ORIX_M1. */
 #ifndef SYSTEM_TARVO_ORIX_M1_H
 #define SYSTEM_TARVO_ORIX_M1_H
 

@@ -1,4 +1,4 @@
-/* System set-up of the Tarvo Orix-M1 subsystem: see the header. */
+/* System set-up of the subsystem Tarvo_ORIX_M1: see the header. */
 #include "system_tarvo_orix_m1.h"
 
 #ifndef SYSTEM_CORE_CLOCK

@@ -1,4 +1,4 @@
-/* Start-up of the Tarvo Orix-M1 subsystem: vector table, and what runs before main(). C99, without a C library.
+/* Start-up of the subsystem Tarvo_ORIX_M1: vector table, and what runs before main(). C99, without a C library.
  * Each handler can be replaced by a function of the same name. Interrupts that nothing requests end in
  * Default_Handler, which stops there. */
 #include <stdint.h>
