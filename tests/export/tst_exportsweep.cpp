@@ -1,6 +1,7 @@
 // Exports random configurations of every device in all formats and has the tools that read such
-// files look at each of them.
+// files look at each of them. Register description and header of each have to say the same.
 
+#include "../orixm1/export/agreement.h"
 #include "exportedfiles.h"
 
 #include <drawnoptions.h>
@@ -117,6 +118,12 @@ private Q_SLOTS:
         if (files != elsewhere(options, arg))
             complaints.append(QStringLiteral("another locale and folder give other bytes"));
         complaints += m_checkers.complaints(files, map.processor.isBigEndian);
+        const QStringList differences =
+            Agreement::disagreements(files.value(QStringLiteral("tarvo_orix_m1.svd")),
+                                     files.value(QStringLiteral("tarvo_orix_m1.h")));
+        if (!differences.isEmpty())
+            complaints.append(QLatin1String("header and description differ: ") +
+                              differences.join(QLatin1String(", ")));
         m_files += files.size();
         ++m_configurations;
         QVERIFY2(complaints.isEmpty(),
