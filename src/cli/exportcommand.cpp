@@ -264,12 +264,8 @@ int runExport(Environment &environment, const ExportArguments &arguments)
         return BadInput;
     }
     IpcDocument document;
-    if (!openDocument(environment, arguments.file, &document))
+    if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
-    if (const QString problem = document.deviceProblem(); !problem.isEmpty()) {
-        printError(QLatin1String("\"") + document.path + QLatin1String("\" ") + problem + u'.');
-        return BadInput;
-    }
 
     SystemMap map = systemMap(document.options, document.device, *description);
     if (!arguments.netlist.isEmpty()) {

@@ -125,10 +125,8 @@ int runFirmware(Environment &environment, const FirmwareArguments &arguments)
     if (environment.ipInfo().isEmpty())
         return BadInput;
     IpcDocument document;
-    if (!openDocument(environment, arguments.file, &document))
+    if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
-    if (const QString problem = document.deviceProblem(); !problem.isEmpty())
-        return refuse(quoted(document.path) + u' ' + problem + u'.', BadInput);
     const auto description = readSystemDescription(environment.dataFolder());
     if (!description)
         return refuse(description.reason(), BadInput);

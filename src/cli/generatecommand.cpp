@@ -192,12 +192,8 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     if (ipInfo.isEmpty())
         return BadInput;
     IpcDocument document;
-    if (!openDocument(environment, arguments.file, &document))
+    if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
-    if (const QString problem = document.deviceProblem(); !problem.isEmpty()) {
-        printError(QLatin1String("\"") + document.path + QLatin1String("\" ") + problem + u'.');
-        return BadInput;
-    }
 
     const GenerationInput input = generationInput(document, ipInfo, arguments.outDir);
     const GenerationPlan plan = generationPlan(input);

@@ -145,4 +145,14 @@ bool openDocument(Environment &environment, const QString &path, IpcDocument *do
     return true;
 }
 
+bool openForDevice(Environment &environment, const QString &path, IpcDocument *document)
+{
+    if (!openDocument(environment, path, document))
+        return false;
+    const QString problem = document->deviceProblem();
+    if (!problem.isEmpty())
+        printError(QLatin1String("\"") + document->path + QLatin1String("\" ") + problem + u'.');
+    return problem.isEmpty();
+}
+
 } // namespace Cli

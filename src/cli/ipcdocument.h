@@ -55,5 +55,8 @@ TARVOORIXM1::GenerationInput generationInput(const IpcDocument &document, const 
 
 // Reads the file of a command with the environment's devices. False: a message has been printed.
 bool openDocument(Environment &environment, const QString &path, IpcDocument *document);
+// The same for commands that work for a device: one that the file lacks or that nobody knows is
+// told, too.
+bool openForDevice(Environment &environment, const QString &path, IpcDocument *document);
 
 } // namespace Cli

@@ -103,6 +103,15 @@ inline QVector<Case> cases()
     };
 }
 
+// A row for each of them: a column "options".
+inline void addCases()
+{
+    QTest::addColumn<OptionMap>("options");
+    const QVector<Case> all = cases();
+    for (const Case &entry : all)
+        QTest::newRow(entry.name) << entry.options;
+}
+
 // What became of a program that was run.
 struct Run {
     bool started = false;

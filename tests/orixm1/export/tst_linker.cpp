@@ -76,14 +76,6 @@ private Q_SLOTS:
     void cLibrariesWorkWithTheirStartUpOff();
 
 private:
-    void addCases() const
-    {
-        QTest::addColumn<OptionMap>("options");
-        const QVector<Case> all = cases();
-        for (const Case &entry : all)
-            QTest::newRow(entry.name) << entry.options;
-    }
-
     Maps m_maps;
 };
 
