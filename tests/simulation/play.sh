@@ -46,17 +46,8 @@ expect() { # TEXT SCRIPT…: the script of these lines must fail, and say so wit
     [[ $(tail -n 1 <<< "$result") == FAIL:* ]] || fail "$* passed: $result"
     [[ $result == *"$text"* ]] || fail "$*: \"$text\" is missing in: $result"
 }
-expect "line 3: read 0x00000000, expected 0x00000001 in the bits 0xffffffff" "# comment" "" "read 0x40000004 1"
-expect "line 1: error response" "read 0x50003000 0"
-expect "line 1: error response" "write 0x50003000 0"
-expect "line 2: no error response" "read 0x40000004 0" "error 0x40000004"
-expect "line 1: unknown command" "jump 0x40000004"
-expect "line 1: not a number" "read 0x40000004 lots"
-expect "line 1: a number is missing" "read 0x40000004"
-expect "line 1: the interrupt input does not get the level" "irq 4 1 10"
-expect "line 1: the non-maskable interrupt does not get the level" "nmi 1 10"
-expect "line 1: read 0x00000000, expected 0x00000004" "poll 0x50004004 4 4 5"
-expect "FAIL: 0 of 0 checks" "# a script that checks nothing"
+# shellcheck source=tests/simulation/mistakes.sh
+source "$(dirname "${BASH_SOURCE[0]}")/mistakes.sh"
 rm script
 [[ $(play script) == *'the script "script" cannot be read'* ]] || fail "missing script"
 printf 'write 0x40000004 0x55 # comment\r\n\tread\t0x40000004 85\r\nread 0x40000004 0x5 0xF\r\n' > script
