@@ -162,6 +162,10 @@ printf '%s\n' "pipeline on" "repeat 5" "write 0x40000000 1" "read 0x40000000 1" 
 [[ $(idle) == 0 ]] || fail "idle cycles in a pipeline"
 sed -i 1d $script
 [[ $(idle) == 9 ]] || fail "no idle cycles without a pipeline"
+# What a read expects is not on the bus.
+printf '%s\n' "write 0x40000000 0" "read 0x40000004 7" "burst-read incr 0x40000004 7" "error 0x50000000" > $script
+both $script > said
+[[ $(awk '{ print $6 }' trace | sort -u) =~ ^0+$ ]] || fail "a read drives HWDATA"
 # The watch over the protocol sees what is wrong.
 mutate() { # SED TEXT
     sed "$1" "$bfm" > mutant.v
@@ -199,6 +203,7 @@ expect "line 2: too many words" "repeat 2" "end repeat" "end"
 expect 'bench.core.play_include: line 2: the script "sub/nowhere" cannot be read' "read 0 0" "include sub/nowhere"
 expect "line 1: the name of a file is missing" "include # nothing"
 expect "line 1: too many words" "include sub/end sub/more"
+expect "bench.core.fail: line 2: the included script is empty" "read 0x40000000 0" "include sub" "read 0x40000000 0"
 echo 'include nowhere' > sub/deeper
 expect 'bench.core.play_include: sub/deeper: line 1: the script "sub/nowhere" cannot be read' "include sub/deeper"
 echo 'include again' > sub/again

@@ -276,11 +276,11 @@ module CortexM1Core #(
     task transfer(input [1:0] kind, input [31:0] address, input [1:0] size, input [31:0] value, input [31:0] mask);
         if (in_itcm(address) || in_dtcm(address)) begin
             close;
-            tcm_access(address, kind == WRITE, size, value);
+            tcm_access(address, kind == WRITE, size, (kind == WRITE) ? value : 32'd0);
             data = addressed(data, address[1:0], size);
             check(kind, value, mask);
         end else begin
-            address_phase(NONSEQ, 3'b000, address, kind == WRITE, size, value);
+            address_phase(NONSEQ, 3'b000, address, kind == WRITE, size, (kind == WRITE) ? value : 32'd0);
             if (open)
                 check_open;
             open = 1'b1;
@@ -446,7 +446,8 @@ module CortexM1Core #(
                 mistake("no bursts in the ITCM and the DTCM");
             if (!wrong) begin
                 for (n = 0; n < beats; n = n + 1) begin
-                    address_phase((n == 0 || burst == 3'b000) ? NONSEQ : SEQ, burst, address, write, 2'd2, number[3+n]);
+                    address_phase((n == 0 || burst == 3'b000) ? NONSEQ : SEQ, burst, address, write, 2'd2,
+                                  write ? number[3+n] : 32'd0);
                     if (n != 0)
                         check(write ? WRITE : READ, number[2+n], 32'hFFFFFFFF);
                     address = (span == 32'd0) ? address + 32'd4 :
@@ -621,6 +622,10 @@ module CortexM1Core #(
             end
             $fclose(files[depth]);
             depth = depth - 1;
+            if (depth >= 0 && lines[depth+1] == 0) begin
+                line = lines[depth];
+                fail("the included script is empty"); // or a folder
+            end
         end
     endtask
 

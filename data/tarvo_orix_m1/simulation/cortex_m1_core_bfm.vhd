@@ -430,14 +430,18 @@ begin
 
         -- A transfer that is checked: the value is what is written or expected.
         procedure transfer(kind : transfer_kind; address : unsigned(31 downto 0); size : width; value, mask : word) is
+            variable stored : word := X"00000000";
         begin
+            if kind = writing then
+                stored := value;
+            end if;
             if in_itcm(address) or in_dtcm(address) then
                 close;
-                tcm_access(address, kind = writing, size, value);
+                tcm_access(address, kind = writing, size, stored);
                 data := addressed(data, address(1 downto 0), size);
                 check(kind, value, mask);
             else
-                address_phase(nonseq, "000", address, kind = writing, size, value);
+                address_phase(nonseq, "000", address, kind = writing, size, stored);
                 if open_one then
                     check_open;
                 end if;
@@ -629,6 +633,7 @@ begin
             constant beats : natural := words - 3;
             constant address : unsigned(31 downto 0) := number(2);
             variable beat, span : unsigned(31 downto 0);
+            variable stored : word := X"00000000";
             variable trans : std_logic_vector(1 downto 0) := nonseq;
         begin
             if name'length <= 6 then
@@ -658,7 +663,10 @@ begin
                     if table(found).wraps then
                         beat := (address and not span) or (beat and span);
                     end if;
-                    address_phase(trans, table(found).code, beat, kind = writing, 2, word(number(3 + n)));
+                    if kind = writing then
+                        stored := word(number(3 + n));
+                    end if;
+                    address_phase(trans, table(found).code, beat, kind = writing, 2, stored);
                     if n /= 0 then
                         check(kind, word(number(2 + n)), X"FFFFFFFF");
                     end if;
@@ -906,6 +914,12 @@ begin
             end loop;
             deallocate(names(depth));
             depth := depth - 1;
+            if depth >= 0 then
+                if line_numbers(depth + 1) = 0 then
+                    line_number := line_numbers(depth);
+                    fail("the included script is empty");   -- or a folder
+                end if;
+            end if;
         end procedure;
 
         -- Plays the next line, or leaves the file.
