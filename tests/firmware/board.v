@@ -8,7 +8,7 @@ module board;
     reg clk = 1'b0;
     always #10 clk = ~clk;
     reg rtc_clk = 1'b0;
-    always #160 rtc_clk = ~rtc_clk;
+    always #480 rtc_clk = ~rtc_clk;
     reg power_good = 1'b0;
     initial #200 power_good = 1'b1;
 

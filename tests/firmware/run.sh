@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # Runs programs that are made from nothing but exported files on the RTL of the example.
-#   run.sh blocks|mistakes ORIXM1 DATA EXAMPLES MODEL MODULES
+#   run.sh blocks|mistakes|memories|memory-mistakes ORIXM1 DATA EXAMPLES MODEL MODULES
 #   blocks: the program that reads and writes each block passes, and so do the board's own checks
 #   mistakes: with one mistake in the exported files, or without what it needs, it does not
+#   memories: it passes in the memories of the RTL too, of every kind that devices have, which have it from the start or are filled
+#   memory-mistakes: with one mistake in those memories or their initial contents it does not
 #   MODEL: folder with cortex_m1_core_isa.v; MODULES: folder with cortexm1core.vpi
 set -euo pipefail
 case=$1 orixm1=$2 data=$3 examples=$4 model=$5 modules=$6
@@ -13,14 +15,27 @@ cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
 
 "$orixm1" export "$examples/sensor-node.ipc" --out exported > log 2>&1 || { cat log; fail "export"; }
-"$orixm1" generate "$examples/sensor-node.ipc" --no-synth --out "$tmp" > log 2>&1 || { cat log; fail "generation"; }
-cp "$examples/sensor-node.ipc" .
-sources=()
-while read -r source; do
-    [[ $(basename "$source") == cortex_m1_core.v ]] || sources+=("$source")
-done < <("$orixm1" sources sensor-node.ipc)
-((${#sources[@]} > 20)) || fail "few sources"
-iverilog -g2012 -s board -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]}" "$model/cortex_m1_core_isa.v" "$here/board.v"
+
+build() { # [FOLDER]: the example's RTL, or that of another sensor-node.ipc, in the folder, and the board in a simulation
+    local source board=$here/board.v
+    sources=()
+    (
+        mkdir -p "${1:-.}"
+        cd "${1:-.}"
+        [[ -e sensor-node.ipc ]] || cp "$examples/sensor-node.ipc" .
+        "$orixm1" generate sensor-node.ipc --no-synth --out "$PWD" > log 2>&1 || { cat log; fail "generation"; }
+    ) || exit 1
+    while read -r source; do
+        [[ $(basename "$source") == cortex_m1_core.v ]] || sources+=("$source")
+    done < <("$orixm1" sources "${1:-.}/sensor-node.ipc")
+    ((${#sources[@]} > 20)) || fail "few sources"
+    if grep -q '^Enable%20Debug=false' "${1:-.}/sensor-node.ipc"; then
+        sed 's/^ *\.JTAG_3.*JTAG_15(srst),$//' "$here/board.v" > no-debug.v
+        board=no-debug.v
+    fi
+    iverilog -g2012 -s board "-I${1:-.}/temp/tv_orix_m1" "-I$data/data/debug" -o board "${sources[@]}" \
+        "$model/cortex_m1_core_isa.v" "$board"
+}
 
 compile() { # FOLDER: the program from the files of an export
     arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -std=c99 -Os -g -ffreestanding -nostdlib -Wall -Wextra -Werror \
@@ -28,9 +43,93 @@ compile() { # FOLDER: the program from the files of an export
         "$here/blocks.c" "$1"/*.c "$1"/drivers/*.c -lgcc
 }
 
-play() { # prints what the simulation prints
+play() { # ARGUMENT…: prints what the simulation prints
     timeout 100 vvp -n -M "$modules" -m cortexm1core board "$@"
 }
+
+memories() { # the kinds of memory in the last simulation
+    printf '%s\n' "${sources[@]}" | sed -nE 's/.*\/([id]tcm[^/]*)\.v$/\1/p' | sort | paste -sd ' '
+}
+
+if [[ $case == memories ]]; then
+    # A device, whether there is debug, sizes of ITCM and DTCM, whether an ITCM with initial contents is built as one
+    # without them or otherwise, and the memories' files.
+    known=
+    while read -r device debug itcm dtcm initial kinds; do
+        for initialized in true false; do
+            $initialized || [[ $initial == otherwise ]] || continue
+            rm -rf other
+            mkdir other
+            sed -E "s|^(target_device=).*|\1$device|; s|^(Enable%20Debug=).*|\1$debug|
+                s|^(ITCM_Size=).*|\1$itcm|; s|^(DTCM_Size=).*|\1$dtcm|" "$examples/sensor-node.ipc" > other/sensor-node.ipc
+            if [[ $dtcm != "$known" ]]; then # the program looks behind the end of the DTCM
+                "$orixm1" export other/sensor-node.ipc --out exported > log 2>&1 || { cat log; fail "export"; }
+                compile exported
+                known=$dtcm
+            fi
+            program=+firmware=program.elf
+            if $initialized; then
+                "$orixm1" firmware program.elf other/sensor-node.ipc --initialize > log 2>&1 || { cat log; fail "itcm"; }
+                program=
+            fi
+            build other
+            [[ $(memories) == "$kinds" ]] || fail "$device has other memories: $(memories)"
+            result=$(play +tcm=rtl $program)
+            [[ $result == $'PASS\nBOARD PASS' ]] || fail "$kinds, initialized: $initialized: $result"
+        done
+    done <<'END'
+TV2KR-18C-QFN88P-C8/I7 true 3 3 alike dtcmdbg itcmdbg_2kc
+TV3K-10A-LQFP144-C8/I7 false 4 3 otherwise dtcm_3k itcm_3k
+TV5K-25A-MBGA121N-C2/I1 false 5 3 otherwise dtcm_5k itcm_5k
+TV2KR-18C-QFN88P-C8/I7 false 4 4 alike dtcm itcm
+TV5K-25A-MBGA121N-C2/I1 true 3 4 otherwise dtcmdbg itcmdbg
+END
+    exit 0
+fi
+
+if [[ $case == memory-mistakes ]]; then
+    compile exported
+    cp "$examples/sensor-node.ipc" .
+    "$orixm1" firmware program.elf sensor-node.ipc --initialize > log 2>&1 || { cat log; fail "itcm"; }
+    build
+    result=$(play +tcm=rtl)
+    [[ $result == $'PASS\nBOARD PASS' ]] || fail "$result"
+    result=$(play +tcm=elsewhere)
+    [[ $result == *"FAIL: +tcm=elsewhere is neither +tcm=model nor +tcm=rtl"* ]] || fail "$result"
+
+    # A byte of the address at which the program begins.
+    cp -r itcm good
+    for lane in 0 1 2 3; do
+        byte=$(sed -n 2p "good/itcm$lane")
+        sed -i "2s/.*/$(printf '%02x' $((0xFF ^ 0x$byte)))/" "itcm/itcm$lane"
+        result=$(play +tcm=rtl)
+        [[ $result != *"BOARD PASS"* ]] || fail "lane $lane is not noticed"
+        cp "good/itcm$lane" itcm
+    done
+    sed -i '2s/.*/xx/' itcm/itcm2
+    result=$(play +tcm=rtl)
+    [[ $result == *"FAIL: the read from 0x00000004 brings unknown bits, 0x00FF0000 (at 0x00000000)"* ]] || fail "$result"
+    cp good/itcm2 itcm
+
+    broken() { # FILE EXPRESSION: a mistake of a memory, which only the program in the RTL can notice
+        local i
+        for i in "${!sources[@]}"; do
+            [[ $(basename "${sources[i]}") != "$1" ]] || break
+        done
+        sed -E "$2" "${sources[i]}" > broken.v
+        ! cmp -s broken.v "${sources[i]}" || fail "$2 changes nothing in $1"
+        iverilog -g2012 -s board -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
+            "${sources[@]:i+1}" "$model/cortex_m1_core_isa.v" "$here/board.v"
+        result=$(play +tcm=rtl)
+        [[ $result != *"BOARD PASS"* ]] || fail "$2 is not noticed in $1"
+        result=$(play +firmware=program.elf)
+        [[ $result == $'PASS\nBOARD PASS' ]] || fail "$2 is noticed without the memory: $result"
+    }
+    broken dtcmdbg.v 's/\.we\(we\[3:0\]\)/.we({we[3:2], we[0], we[0]})/'
+    broken dtcmdbg.v 's/core_addr\[AW-1:0\]/core_addr[AW-1:0] \& ~4/'
+    exit 0
+fi
+build
 
 if [[ $case == blocks ]]; then
     compile exported

@@ -10,6 +10,8 @@ namespace CortexM1
 namespace
 {
 
+constexpr int addressBits = 18; // of ITCMADDR and DTCMADDR
+
 // A value on every lane of the bus where its size may stand.
 std::uint32_t onAllLanes(std::uint32_t value, int bytes)
 {
@@ -44,12 +46,14 @@ Core::~Core()
     abandon();
 }
 
-// What the coroutine does, a step a cycle.
+// What the coroutine does: a step a cycle, or as many cycles as it has accesses.
 void Core::run()
 {
     for (;;) {
+        m_hasTakenTime = false;
         m_processor.step();
-        m_program.yield();
+        if (!m_hasTakenTime || m_isAbandoning)
+            m_program.yield();
     }
 }
 
@@ -85,11 +89,44 @@ const Outputs &Core::clock(const Inputs &inputs)
     return m_outputs;
 }
 
-// Runs in the coroutine. Between two calls of yield() lies a clock cycle.
+// Runs in the coroutine, as what it calls. Between two calls of yield() lies a clock cycle.
 TransferEnd Core::transfer(Transfer &transfer)
 {
     if (m_isAbandoning)
         return TransferEnd::Abandoned;
+    return transfer.port == Port::Bus ? transferOnBus(transfer) : accessMemory(transfer);
+}
+
+TransferEnd Core::accessMemory(Transfer &transfer)
+{
+    const bool isInstruction = transfer.port == Port::InstructionMemory;
+    MemoryOutputs &pins = m_outputs.memory;
+    m_phase = Phase::Memory;
+    (isInstruction ? pins.isInstruction : pins.isData) = true;
+    pins.address = transfer.address / 4 % (1u << addressBits);
+    if (transfer.isWrite) {
+        pins.lanes = ((1u << transfer.bytes) - 1) << transfer.address % 4;
+        pins.data = onAllLanes(transfer.data, transfer.bytes);
+    }
+    m_program.yield();
+    pins = {};
+    if (m_isAbandoning)
+        return TransferEnd::Abandoned;
+
+    m_phase = Phase::Idle;
+    m_hasTakenTime = true;
+    if (!transfer.isWrite) {
+        const std::uint32_t unknown =
+            isInstruction ? m_inputs.instructionMemoryUnknown : m_inputs.dataMemoryUnknown;
+        const std::uint32_t word = isInstruction ? m_inputs.instructionMemory : m_inputs.dataMemory;
+        transfer.unknown = fromLanes(unknown, transfer.address, transfer.bytes);
+        transfer.data = fromLanes(word & ~unknown, transfer.address, transfer.bytes);
+    }
+    return TransferEnd::Done;
+}
+
+TransferEnd Core::transferOnBus(Transfer &transfer)
+{
     m_phase = Phase::Address;
     m_outputs.address = transfer.address;
     m_outputs.isTransfer = true;

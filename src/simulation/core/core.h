@@ -19,6 +19,20 @@ struct Inputs {
     bool isError = false;      // HRESP
     std::uint32_t data = 0;    // HRDATA
     std::uint32_t unknown = 0; // bits of HRDATA that are neither 0 nor 1
+    // ITCMRDATA and DTCMRDATA, and their unknown bits. Only outer memories count.
+    std::uint32_t instructionMemory = 0;
+    std::uint32_t instructionMemoryUnknown = 0;
+    std::uint32_t dataMemory = 0;
+    std::uint32_t dataMemoryUnknown = 0;
+};
+
+// What the pins of outer memories show at once, for the next rising edge only.
+struct MemoryOutputs {
+    bool isInstruction = false; // ITCMEN
+    bool isData = false;        // DTCMEN
+    unsigned lanes = 0;         // ITCMWE or DTCMWE
+    std::uint32_t address = 0;  // ITCMADDR or DTCMADDR: of words, from the memory's first one
+    std::uint32_t data = 0;     // ITCMWDATA or DTCMWDATA, on all lanes that it may belong to
 };
 
 // What the pins show from the next rising edge on.
@@ -32,10 +46,12 @@ struct Outputs {
     bool isLockedUp = false;    // LOCKUP
     bool isDone = false;        // the program has ended
     bool hasPassed = false;
+    MemoryOutputs memory;
 };
 
 // A processor behind pins: each call of clock() is one cycle, in which an instruction is executed
-// or an access goes on.
+// or an access goes on. With outer memories an instruction takes a cycle for each of their accesses
+// instead, the fetch among them.
 class Core : private Surroundings
 {
 public:
@@ -50,9 +66,11 @@ public:
     const Outputs &clock(const Inputs &inputs);
 
 private:
-    enum class Phase { Idle, Address, Data };
+    enum class Phase { Idle, Address, Data, Memory };
 
     TransferEnd transfer(Transfer &transfer) override;
+    TransferEnd transferOnBus(Transfer &transfer);
+    TransferEnd accessMemory(Transfer &transfer);
     void print(const std::string &text) override { m_print(text); }
     void run();
     void abandon();
@@ -64,6 +82,7 @@ private:
     Outputs m_outputs;
     Phase m_phase = Phase::Idle;
     bool m_isAbandoning = false;
+    bool m_hasTakenTime = false; // the current step, by outer memories
     bool m_hasBeenReset = false;
 };
 

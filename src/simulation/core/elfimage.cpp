@@ -22,7 +22,7 @@ constexpr std::uint64_t upperAlias = 0x10000000;
 } // namespace
 
 std::string readElf(const std::string &path, bool hasUpperAlias,
-                    std::vector<std::uint8_t> &contents)
+                    std::vector<std::uint8_t> &contents, std::size_t *end)
 {
     const std::string name = "\"" + path + "\" ";
     std::ifstream file(path, std::ios::binary);
@@ -53,7 +53,7 @@ std::string readElf(const std::string &path, bool hasUpperAlias,
     if (elf_getphdrnum(elf.get(), &count) != 0)
         return name + "has a broken table of segments";
     std::vector<std::uint8_t> result = contents;
-    bool loaded = false;
+    std::uint64_t loaded = 0;
     for (std::size_t i = 0; i < count; ++i) {
         GElf_Phdr segment;
         if (!gelf_getphdr(elf.get(), static_cast<int>(i), &segment))
@@ -74,10 +74,12 @@ std::string readElf(const std::string &path, bool hasUpperAlias,
         std::transform(begin, begin + static_cast<std::ptrdiff_t>(segment.p_filesz),
                        result.begin() + static_cast<std::ptrdiff_t>(address),
                        [](char byte) { return static_cast<std::uint8_t>(byte); });
-        loaded = true;
+        loaded = std::max(loaded, address + segment.p_filesz);
     }
-    if (!loaded)
+    if (loaded == 0)
         return name + "has nothing to load";
+    if (end)
+        *end = static_cast<std::size_t>(loaded);
     contents = std::move(result);
     return {};
 }

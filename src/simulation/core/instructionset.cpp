@@ -31,6 +31,11 @@ int registerId(int number)
     }
 }
 
+std::uint64_t mappedBytes(const MemoryBlock &block)
+{
+    return (block.bytes + std::uint64_t(MemoryBlock::page) - 1) & ~(MemoryBlock::page - 1ULL);
+}
+
 void demand(uc_err error)
 {
     if (error != UC_ERR_OK)
@@ -59,13 +64,13 @@ struct InstructionSet::Engine {
         for (const MemoryBlock &block : memory) {
             mapGap(end, block.address);
             const std::uint64_t begin = block.address;
-            const std::uint64_t mapped =
-                (block.bytes + std::uint64_t(MemoryBlock::page) - 1) & ~(MemoryBlock::page - 1ULL);
+            const std::uint64_t mapped = mappedBytes(block);
             end = begin + mapped;
             demand(uc_mem_map_ptr(uc, begin, mapped, UC_PROT_ALL, block.contents));
-            watch(UC_HOOK_MEM_WRITE, noteWrite, begin, begin + block.bytes);
-            watch(UC_HOOK_MEM_READ, loadBehind, begin + block.bytes, end);
-            watch(UC_HOOK_MEM_WRITE, storeBehind, begin + block.bytes, end);
+            const std::uint64_t own = begin + (block.isCopy ? 0 : block.bytes);
+            watch(UC_HOOK_MEM_WRITE, noteWrite, begin, own);
+            watch(UC_HOOK_MEM_READ, loadBehind, own, end);
+            watch(UC_HOOK_MEM_WRITE, storeBehind, own, end);
         }
         mapGap(end, addressSpace);
     }
@@ -89,7 +94,7 @@ struct InstructionSet::Engine {
             uc_hook_add(uc, &hook, kind, reinterpret_cast<void *>(callBack), this, begin, end - 1));
     }
 
-    // The rest of a page is the port's. The library reads it right after this.
+    // Copies and the rest of a page are the port's. The library reads them right after this.
     static void loadBehind(uc_engine *, uc_mem_type, std::uint64_t address, int bytes, std::int64_t,
                            void *data)
     {
@@ -98,10 +103,15 @@ struct InstructionSet::Engine {
             return;
         const auto place = static_cast<std::uint32_t>(address);
         const std::uint32_t value = engine->port.load(place, bytes);
+        const auto count = static_cast<std::size_t>(bytes);
         for (const MemoryBlock &block : engine->memory) {
-            if (place - block.address < MemoryBlock::page)
-                std::memcpy(block.contents + (place - block.address), &value,
-                            static_cast<std::size_t>(bytes));
+            if (place - block.address >= mappedBytes(block))
+                continue;
+            std::uint8_t *copy = block.contents + (place - block.address);
+            if (std::memcmp(copy, &value, count) == 0)
+                continue;
+            std::memcpy(copy, &value, count);
+            engine->written.emplace_back(place, static_cast<std::uint32_t>(bytes));
         }
     }
 
@@ -109,9 +119,12 @@ struct InstructionSet::Engine {
                             std::int64_t value, void *data)
     {
         auto *engine = static_cast<Engine *>(data);
-        if (engine->isData())
-            engine->port.store(static_cast<std::uint32_t>(address), bytes,
-                               static_cast<std::uint32_t>(value));
+        if (!engine->isData())
+            return;
+        engine->port.store(static_cast<std::uint32_t>(address), bytes,
+                           static_cast<std::uint32_t>(value));
+        engine->written.emplace_back(static_cast<std::uint32_t>(address),
+                                     static_cast<std::uint32_t>(bytes));
     }
 
     // The library also looks for the next instruction, and not always in memory.

@@ -16,9 +16,11 @@ struct MemoryBlock {
     // Whole pages, of which the rest is nobody's; outlives the instruction set; may stand at
     // several addresses.
     std::uint8_t *contents = nullptr;
+    // What counts is behind the port, which sees every access; instructions run from `contents`.
+    bool isCopy = false;
 };
 
-// Where data accesses go that meet no memory block. Called from within an instruction.
+// Where data accesses go that meet no memory block, or a copy. Called from within an instruction.
 class DataPort
 {
 public:

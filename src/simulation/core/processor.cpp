@@ -61,12 +61,13 @@ std::vector<MemoryBlock> memoryBlocks(const Configuration &configuration,
                                       std::vector<std::uint8_t> &dtcm)
 {
     std::vector<MemoryBlock> blocks;
+    const bool areCopies = configuration.hasOuterMemories;
     if (configuration.hasLowerAlias)
-        blocks.push_back({0, configuration.itcmBytes, itcm.data()});
+        blocks.push_back({0, configuration.itcmBytes, itcm.data(), areCopies});
     if (configuration.hasUpperAlias)
-        blocks.push_back({upperAlias, configuration.itcmBytes, itcm.data()});
+        blocks.push_back({upperAlias, configuration.itcmBytes, itcm.data(), areCopies});
     if (configuration.dtcmBytes != 0)
-        blocks.push_back({dataMemoryBase, configuration.dtcmBytes, dtcm.data()});
+        blocks.push_back({dataMemoryBase, configuration.dtcmBytes, dtcm.data(), areCopies});
     return blocks;
 }
 
@@ -93,8 +94,13 @@ Processor::Processor(const Configuration &configuration, Surroundings &surroundi
 
 void Processor::setInstructionMemory(const std::vector<std::uint8_t> &contents)
 {
-    // In place: others know where the memory lies.
     const std::size_t count = std::min<std::size_t>(contents.size(), m_configuration.itcmBytes);
+    if (m_configuration.hasOuterMemories) {
+        m_filling.assign(contents.begin(), contents.begin() + static_cast<std::ptrdiff_t>(count));
+        m_filling.resize((count + 3) & ~std::size_t(3));
+        return;
+    }
+    // In place: others know where the memory lies.
     std::copy_n(contents.begin(), count, m_itcm.begin());
     m_instructions.forget(0, static_cast<std::uint32_t>(count));
 }
@@ -191,6 +197,11 @@ bool Processor::access(Transfer &transfer)
         return false;
     const auto bytes = static_cast<std::uint32_t>(transfer.bytes);
     if (std::uint8_t *memory = memoryAt(transfer.address, bytes)) {
+        if (m_configuration.hasOuterMemories) {
+            transfer.port =
+                transfer.address < dataMemoryBase ? Port::InstructionMemory : Port::DataMemory;
+            return exchangeData(transfer) && isKnown(transfer.address, transfer.unknown);
+        }
         if (!transfer.isWrite) {
             transfer.data = fromBytes(memory, transfer.bytes);
             return true;
@@ -211,10 +222,23 @@ bool Processor::access(Transfer &transfer)
             refuse(mistake);
         return mistake.empty();
     }
+    return exchangeData(transfer);
+}
+
+bool Processor::exchangeData(Transfer &transfer)
+{
     const TransferEnd end = m_surroundings.transfer(transfer);
     if (end == TransferEnd::Abandoned)
         m_isAbandoned = true;
     return end == TransferEnd::Done;
+}
+
+bool Processor::isKnown(std::uint32_t address, std::uint32_t unknown)
+{
+    if (unknown != 0)
+        refuse("the read from " + hexadecimal(address) + " brings unknown bits, " +
+               hexadecimal(unknown));
+    return unknown == 0;
 }
 
 std::uint32_t Processor::load(std::uint32_t address, int bytes)
@@ -233,18 +257,73 @@ void Processor::store(std::uint32_t address, int bytes, std::uint32_t value)
 
 // ---- instructions
 
+// Writes what the program begins with. After a reset on the way it begins anew.
+bool Processor::fillMemory()
+{
+    for (std::uint32_t address = 0; address < m_filling.size(); address += 4) {
+        if (!write(address, 4, fromBytes(m_filling.data() + address, 4)))
+            return false;
+    }
+    m_filling.clear();
+    return true;
+}
+
 void Processor::start()
 {
     m_isStarted = true;
+    if (!fillMemory())
+        return;
     std::uint32_t stack = 0;
     std::uint32_t entry = 0;
     if (!read(0, 4, stack) || !read(4, 4, entry)) {
-        lockUp();
+        if (!m_isAbandoned && !m_hasEnded)
+            lockUp();
         return;
     }
     m_instructions.setValue(InstructionSet::stackPointer, stack);
     m_programCounter = entry & ~1u;
     m_isThumb = entry & 1;
+}
+
+// The halves of the next instruction, the second one of a long one only. Where the program cannot
+// go on, false.
+bool Processor::fetch(std::uint16_t &first, std::uint16_t &second)
+{
+    Transfer word;
+    return fetchHalf(m_programCounter, word, first) &&
+           (!isLong(first) || fetchHalf(m_programCounter + 2, word, second));
+}
+
+// `word`: what an outer memory was last read for, which holds two halves.
+bool Processor::fetchHalf(std::uint32_t address, Transfer &word, std::uint16_t &half)
+{
+    std::uint8_t *memory = memoryAt(address, 2);
+    if (!memory) {
+        refuse("running from " + hexadecimal(m_programCounter) +
+               ", outside of the tightly coupled memories, is not modelled");
+        return false;
+    }
+    half = static_cast<std::uint16_t>(fromBytes(memory, 2));
+    if (!m_configuration.hasOuterMemories)
+        return true;
+
+    const Port port = address < dataMemoryBase ? Port::InstructionMemory : Port::DataMemory;
+    if (word.port == Port::Bus || word.address != (address & ~3u)) {
+        word = {address & ~3u, 4, false, 0, port, 0};
+        if (!exchangeData(word))
+            return false;
+    }
+    const std::uint32_t shift = 8 * (address & 2);
+    if (!isKnown(address, word.unknown >> shift & 0xFFFF))
+        return false;
+    const auto fetched = static_cast<std::uint16_t>(word.data >> shift);
+    if (fetched != half) {
+        half = fetched;
+        memory[0] = static_cast<std::uint8_t>(half);
+        memory[1] = static_cast<std::uint8_t>(half >> 8);
+        m_instructions.forget(address, 2);
+    }
+    return true;
 }
 
 void Processor::execute()
@@ -254,19 +333,10 @@ void Processor::execute()
         fault(address);
         return;
     }
-    const std::uint8_t *memory = memoryAt(address, 2);
-    const auto first = memory ? static_cast<std::uint16_t>(fromBytes(memory, 2)) : std::uint16_t(0);
+    std::uint16_t first = 0;
     std::uint16_t second = 0;
-    if (memory && isLong(first)) {
-        memory = memoryAt(address, 4);
-        if (memory)
-            second = static_cast<std::uint16_t>(fromBytes(memory + 2, 2));
-    }
-    if (!memory) {
-        refuse("running from " + hexadecimal(address) +
-               ", outside of the tightly coupled memories, is not modelled");
+    if (!fetch(first, second))
         return;
-    }
 
     const Instruction instruction = decode(first, second);
     m_hasFaulted = false;

@@ -12,11 +12,17 @@
 namespace CortexM1
 {
 
+enum class Port { Bus, InstructionMemory, DataMemory };
+
 struct Transfer {
     std::uint32_t address = 0; // a multiple of `bytes`
     int bytes = 4;             // 1, 2 or 4
     bool isWrite = false;
     std::uint32_t data = 0; // in the low bits; of a read the result
+    Port port = Port::Bus;  // another one only where the memories are the surroundings'
+    // Result of a read from a memory: bits that are neither 0 nor 1, which `data` has as 0. They
+    // end the program where it uses them.
+    std::uint32_t unknown = 0;
 };
 
 enum class TransferEnd {
@@ -30,7 +36,7 @@ class Surroundings
 {
 public:
     virtual ~Surroundings() = default;
-    // Returns when the transfer has ended.
+    // Returns when the transfer has ended. Memories answer without errors.
     virtual TransferEnd transfer(Transfer &transfer) = 0;
     // What the program says, piece by piece.
     virtual void print(const std::string &text) = 0;
@@ -55,7 +61,8 @@ public:
     // Throws std::runtime_error with the reason for a configuration that is not modelled.
     Processor(const Configuration &configuration, Surroundings &surroundings);
 
-    // Sets the first bytes of the memory, at most all. Memories survive a reset.
+    // Sets the first bytes of the memory, at most all. Memories survive a reset. A memory of the
+    // surroundings is written, in words, before the program begins for the first time.
     void setInstructionMemory(const std::vector<std::uint8_t> &contents);
 
     // Begins at the vector table with the next step.
@@ -85,11 +92,16 @@ private:
     void store(std::uint32_t address, int bytes, std::uint32_t value) override;
 
     std::uint8_t *memoryAt(std::uint32_t address, std::uint32_t bytes);
+    bool fetch(std::uint16_t &first, std::uint16_t &second);
+    bool fetchHalf(std::uint32_t address, Transfer &word, std::uint16_t &half);
     bool read(std::uint32_t address, int bytes, std::uint32_t &value);
     bool write(std::uint32_t address, int bytes, std::uint32_t value);
     bool access(Transfer &transfer);
+    bool exchangeData(Transfer &transfer);
+    bool isKnown(std::uint32_t address, std::uint32_t unknown);
 
     void start();
+    bool fillMemory();
     void execute();
     void executeSystem(const Instruction &instruction, std::uint16_t first, std::uint16_t second);
     bool isMisaligned(std::uint16_t access) const;
@@ -113,8 +125,9 @@ private:
 
     const Configuration m_configuration;
     Surroundings &m_surroundings;
-    std::vector<std::uint8_t> m_itcm; // whole pages
+    std::vector<std::uint8_t> m_itcm; // whole pages; a copy of what is outside
     std::vector<std::uint8_t> m_dtcm;
+    std::vector<std::uint8_t> m_filling; // what is still to be written outside, whole words
     std::vector<MemoryBlock> m_memory;
     Exceptions m_exceptions;
     SystemSpace m_system;

@@ -17,6 +17,7 @@ struct Configuration {
     bool hasUpperAlias = false;  // the ITCM stands at 0x10000000
     std::uint32_t itcmBytes = 0; // a power of two, or 0
     std::uint32_t dtcmBytes = 0;
+    bool hasOuterMemories = false; // no parameter: the ITCM and DTCM are the surroundings'
 };
 
 // The registers of the processor itself, 0xE0000000 to 0xE00FFFFF: interrupt controller, system

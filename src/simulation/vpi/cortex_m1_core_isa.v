@@ -6,6 +6,11 @@
 // cycle, or as many as its transfers take: that is no count of the real core's cycles. What the model does not have ends the
 // program with a message.
 //
+// With +tcm=rtl (+tcm=model is the default) the memories are those behind the pins: every fetch, vector, load, store and stacked word
+// is an access on the ITCM or DTCM interface, one a clock cycle. The program is what the instruction memory holds from the start
+// ("Initialize ITCM"), or FILE, which is then written over the interface before the first instruction. A read of bits that are
+// neither 0 nor 1 ends the program and tells the address. It is slower, and takes more clock cycles.
+//
 // What the program says by semihosting is printed. When it ends, a line says "PASS" or "FAIL: " and the reason; done is 1 then and
 // passed tells which, and with +finish the simulation ends.
 //
@@ -84,8 +89,6 @@ module CortexM1Core #(
     assign HBURST = 3'b000;      // single transfers
     assign HPROT = 4'b0011;      // data, privileged
     assign HMASTLOCK = 1'b0;
-    assign {ITCMEN, ITCMWE, ITCMADDR, ITCMWDATA} = 55'd0;
-    assign {DTCMEN, DTCMWE, DTCMADDR, DTCMWDATA} = 55'd0;
     assign {DBGITCMEN, DBGITCMWE, DBGITCMADDR, DBGITCMWDATA} = 55'd0;
     assign {DBGDTCMEN, DBGDTCMWE, DBGDTCMADDR, DBGDTCMWDATA} = 55'd0;
     assign {SWDO, SWDOEN, TDO, TDOEN} = 4'd0;
@@ -94,20 +97,30 @@ module CortexM1Core #(
     reg passed = 1'b0;
     integer handle = 0;
     reg [8*1024-1:0] firmware;
+    reg [8*32-1:0] memories;
+    reg outer_memories = 1'b0;
     initial begin
+        if (!$value$plusargs("tcm=%s", memories))
+            memories = "model";
+        outer_memories = memories == "rtl";
         if (!$value$plusargs("firmware=%s", firmware))
             firmware = "";
-        $cortexm1_open(handle, firmware, NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, ITCMSIZE, DTCMSIZE);
+        $cortexm1_open(handle, firmware, NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, ITCMSIZE, DTCMSIZE,
+                       memories);
     end
 
     // The model looks at falling edges, where inputs have settled, and says what the outputs show from the next rising edge
     // on. An X is no reset.
     reg  [73:0] next = 74'd0;
     reg  [73:0] shown = 74'd0;
+    reg  [55:0] tcm = 56'd0;
     wire        in_reset = (PORRESETn === 1'b0) | (SYSRESETn === 1'b0);
     always @(negedge HCLK) begin
         if (!done) begin
-            $cortexm1_clock(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
+            if (outer_memories)
+                $cortexm1_clock(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next, {DTCMRDATA, ITCMRDATA}, tcm);
+            else
+                $cortexm1_clock(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
             if (next[73]) begin
                 done = 1'b1;
                 passed = next[72];
@@ -119,6 +132,13 @@ module CortexM1Core #(
     always @(posedge HCLK)
         shown <= next;
     assign {SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA} = shown[71:0];
+
+    // The memories' pins change with the falling edge, so that an access takes one cycle. Both have the same address and data.
+    assign {ITCMEN, DTCMEN} = tcm[55:54];
+    assign ITCMWE = {4{tcm[55]}} & tcm[53:50];
+    assign DTCMWE = {4{tcm[54]}} & tcm[53:50];
+    assign {ITCMADDR, ITCMWDATA} = tcm[49:0];
+    assign {DTCMADDR, DTCMWDATA} = tcm[49:0];
 endmodule
 `ifndef HAVE_CortexM1Core
 `define HAVE_CortexM1Core // for models behind this file

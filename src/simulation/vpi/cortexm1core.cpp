@@ -1,10 +1,14 @@
 // The core as tasks of a Verilog simulator:
 //
 //   $cortexm1_open(handle, firmware, interrupts, os, be8, lower, upper, itcm size code, dtcm size
-//   code) $cortexm1_clock(handle, inputs, outputs)
+//   code, memories)
+//   $cortexm1_clock(handle, inputs, outputs)
+//   $cortexm1_clock(handle, inputs, outputs, memory inputs, memory outputs)
 //
 // with inputs {reset, NMI, HREADY, HRESP, IRQ, HRDATA} and outputs {done, passed, SYSRESETREQ,
-// LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}.
+// LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}. `memories` is "model", or "rtl", where the clock
+// also takes {DTCMRDATA, ITCMRDATA} and gives {ITCMEN, DTCMEN, write enables, word address, write
+// data}.
 #include "core/core.h"
 #include "core/elfimage.h"
 
@@ -82,11 +86,17 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
     const char *fromEnvironment = std::getenv("CORTEXM1_FIRMWARE");
     if (firmware.empty() && fromEnvironment)
         firmware = fromEnvironment;
-    if (firmware.empty()) {
+    const std::string memories = text(args[9]);
+    CortexM1::Configuration configuration;
+    configuration.hasOuterMemories = memories == "rtl";
+    if (!configuration.hasOuterMemories && memories != "model") {
+        instance.mistake = "+tcm=" + memories + " is neither +tcm=model nor +tcm=rtl";
+        return;
+    }
+    if (firmware.empty() && !configuration.hasOuterMemories) {
         instance.mistake = "no program is named: +firmware=FILE";
         return;
     }
-    CortexM1::Configuration configuration;
     configuration.interrupts = integer(args[2]);
     configuration.hasOsExtension = integer(args[3]) != 0;
     configuration.isBigEndian = integer(args[4]) != 0;
@@ -97,8 +107,13 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
     try {
         instance.core = std::make_unique<CortexM1::Core>(
             configuration, [&instance](const std::string &piece) { print(instance, piece); });
+        if (firmware.empty())
+            return; // the memory has it from the start
         std::vector<std::uint8_t> contents(configuration.itcmBytes);
-        instance.mistake = CortexM1::readElf(firmware, configuration.hasUpperAlias, contents);
+        std::size_t end = 0;
+        instance.mistake = CortexM1::readElf(firmware, configuration.hasUpperAlias, contents, &end);
+        if (configuration.hasOuterMemories)
+            contents.resize(end);
         instance.core->processor().setInstructionMemory(contents);
     } catch (const std::exception &error) {
         instance.mistake = error.what();
@@ -108,8 +123,8 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
 PLI_INT32 callOpen(PLI_BYTE8 *)
 {
     const std::vector<vpiHandle> args = arguments();
-    if (args.size() != 9) {
-        vpi_printf("$cortexm1_open takes 9 arguments\n");
+    if (args.size() != 10) {
+        vpi_printf("$cortexm1_open takes 10 arguments\n");
         vpi_control(vpiFinish, 1);
         return 0;
     }
@@ -122,7 +137,8 @@ PLI_INT32 callOpen(PLI_BYTE8 *)
     return 0;
 }
 
-CortexM1::Outputs clock(Instance &instance, vpiHandle pins)
+// `memories`: null where they are in the model.
+CortexM1::Outputs clock(Instance &instance, vpiHandle pins, vpiHandle memories)
 {
     if (!instance.mistake.empty()) {
         CortexM1::Outputs outputs;
@@ -144,7 +160,27 @@ CortexM1::Outputs clock(Instance &instance, vpiHandle pins)
     inputs.isReady = isHigh(1);
     inputs.nonMaskable = isHigh(2);
     inputs.isReset = isHigh(3);
+    if (memories) {
+        vpi_get_value(memories, &value);
+        inputs.instructionMemory = static_cast<std::uint32_t>(value.value.vector[0].aval);
+        inputs.instructionMemoryUnknown = static_cast<std::uint32_t>(value.value.vector[0].bval);
+        inputs.dataMemory = static_cast<std::uint32_t>(value.value.vector[1].aval);
+        inputs.dataMemoryUnknown = static_cast<std::uint32_t>(value.value.vector[1].bval);
+    }
     return instance.core->clock(inputs);
+}
+
+void showMemoryPins(vpiHandle pins, const CortexM1::MemoryOutputs &outputs)
+{
+    s_vpi_vecval words[2] = {};
+    words[0].aval = static_cast<PLI_INT32>(outputs.data);
+    words[1].aval = static_cast<PLI_INT32>(outputs.address | outputs.lanes << 18 |
+                                           unsigned(outputs.isData) << 22 |
+                                           unsigned(outputs.isInstruction) << 23);
+    s_vpi_value value;
+    value.format = vpiVectorVal;
+    value.value.vector = words;
+    vpi_put_value(pins, &value, nullptr, vpiNoDelay);
 }
 
 void report(Instance &instance, const CortexM1::Outputs &outputs)
@@ -163,14 +199,16 @@ void report(Instance &instance, const CortexM1::Outputs &outputs)
 PLI_INT32 callClock(PLI_BYTE8 *)
 {
     const std::vector<vpiHandle> args = arguments();
-    const std::size_t number = args.size() == 3 ? static_cast<std::size_t>(integer(args[0])) : 0;
+    const bool hasMemories = args.size() == 5;
+    const std::size_t number =
+        hasMemories || args.size() == 3 ? static_cast<std::size_t>(integer(args[0])) : 0;
     if (number == 0 || number > instances().size()) {
         vpi_printf("$cortexm1_clock is called without $cortexm1_open\n");
         vpi_control(vpiFinish, 1);
         return 0;
     }
     Instance &instance = *instances()[number - 1];
-    const CortexM1::Outputs outputs = clock(instance, args[1]);
+    const CortexM1::Outputs outputs = clock(instance, args[1], hasMemories ? args[3] : nullptr);
     report(instance, outputs);
 
     s_vpi_vecval words[3] = {};
@@ -183,6 +221,8 @@ PLI_INT32 callClock(PLI_BYTE8 *)
     value.format = vpiVectorVal;
     value.value.vector = words;
     vpi_put_value(args[2], &value, nullptr, vpiNoDelay);
+    if (hasMemories)
+        showMemoryPins(args[4], outputs.memory);
     return 0;
 }
 

@@ -29,6 +29,8 @@ inline QByteArray withVectors(const QByteArray &program)
     return text + "bkpt 99\n.pool\n";
 }
 
+constexpr std::uint32_t vectorsEnd = 0x50; // where `start` stands
+
 // The linked program; empty, and the test fails, if it cannot be assembled.
 inline QByteArray elf(const QByteArray &program, const QByteArrayList &arguments = {})
 {

@@ -34,6 +34,22 @@ private Q_SLOTS:
         QCOMPARE(int(contents.at(32)), 7);
     }
 
+    void tellsWhereTheProgramEnds()
+    {
+        const QTemporaryDir folder;
+        const std::string path = folder.filePath(QStringLiteral("a.elf")).toStdString();
+        QFile file(QString::fromStdString(path));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(Assembled::elf(".word 1, 2\n.hword 0\n", {"-Wl,-Ttext=0x10000010"}));
+        file.close();
+        std::vector<std::uint8_t> contents(64);
+        std::size_t end = 7;
+        QVERIFY(!readElf(path, false, contents, &end).empty());
+        QCOMPARE(int(end), 7);
+        QCOMPARE(readElf(path, true, contents, &end), std::string());
+        QCOMPARE(int(end), 26);
+    }
+
     void refusesOtherFiles_data()
     {
         QTest::addColumn<QByteArray>("bytes");

@@ -7,13 +7,57 @@ using namespace CortexM1;
 namespace
 {
 
+// A memory of bytes whose bits may be unknown.
+struct OuterMemory {
+    std::vector<std::uint8_t> contents;
+    std::vector<std::uint8_t> unknown;
+
+    void access(Transfer &transfer)
+    {
+        transfer.data = transfer.isWrite ? transfer.data : 0;
+        for (int i = 0; i < transfer.bytes; ++i) {
+            const std::size_t place = transfer.address % contents.size() + std::size_t(i);
+            if (transfer.isWrite) {
+                contents[place] = static_cast<std::uint8_t>(transfer.data >> 8 * i);
+                unknown[place] = 0;
+            } else {
+                transfer.data |= std::uint32_t(contents[place] & ~unknown[place]) << 8 * i;
+                transfer.unknown |= std::uint32_t(unknown[place]) << 8 * i;
+            }
+        }
+    }
+};
+
 // Keeps the words that are written to 0x40000000; 0x40000004 sets the interrupt inputs, 0x40000008
-// the non-maskable one, everything from 0x50000000 on answers with an error.
+// the non-maskable one, 0x4000000C puts MOVS R0, #2 to an address of the outer instruction memory,
+// everything from 0x50000000 on answers with an error. Accesses to the outer memories are kept too.
 class Board : public Surroundings
 {
 public:
+    explicit Board(const Configuration &configuration = {},
+                   const std::vector<std::uint8_t> &program = {})
+        : instructions{program, {}}
+    {
+        instructions.contents.resize(configuration.itcmBytes);
+        instructions.unknown.resize(configuration.itcmBytes);
+        data.contents.resize(configuration.dtcmBytes, 0xA5);
+        data.unknown.resize(configuration.dtcmBytes);
+    }
+
     TransferEnd transfer(Transfer &transfer) override
     {
+        if (transfer.port != Port::Bus) {
+            const bool isData = transfer.port == Port::DataMemory;
+            (isData ? data : instructions).access(transfer);
+            // Neither fetches nor literals.
+            if (isData || transfer.isWrite || transfer.address < Assembled::vectorsEnd)
+                accesses += QByteArray(isData ? "D " : "I ") + (transfer.isWrite ? "W" : "R") +
+                            QByteArray::number(transfer.bytes) + ' ' +
+                            QByteArray::number(transfer.address, 16) + ", ";
+            else
+                fetches += QByteArray::number(transfer.address, 16) + ' ';
+            return TransferEnd::Done;
+        }
         if (transfer.address >= 0x50000000)
             return TransferEnd::Error;
         if (transfer.isWrite && transfer.address == 0x40000000)
@@ -22,6 +66,8 @@ public:
             inputs = transfer.data;
         else if (transfer.isWrite && transfer.address == 0x40000008)
             nonMaskable = transfer.data != 0;
+        else if (transfer.isWrite && transfer.address == 0x4000000C)
+            instructions.contents[transfer.data] = 2;
         else
             transfer.data = 0x89ABCDEF;
         return TransferEnd::Done;
@@ -32,6 +78,10 @@ public:
     std::string said;
     std::uint32_t inputs = 0;
     bool nonMaskable = false;
+    OuterMemory instructions;
+    OuterMemory data;
+    QByteArray accesses;
+    QByteArray fetches; // addresses of words
 };
 
 struct Result {
@@ -44,12 +94,11 @@ struct Result {
     bool wantsReset = false;
 };
 
-Result run(const QByteArray &program, const Configuration &configuration = Assembled::smallCore(),
-           int steps = 2000)
+Result runOn(Board &board, const Configuration &configuration,
+             const std::vector<std::uint8_t> &filling, int steps)
 {
-    Board board;
     Processor processor(configuration, board);
-    processor.setInstructionMemory(Assembled::contents(program, configuration.itcmBytes));
+    processor.setInstructionMemory(filling);
     for (int i = 0; i < steps && !processor.hasEnded(); ++i) {
         processor.tick(board.inputs, board.nonMaskable);
         processor.step();
@@ -58,6 +107,46 @@ Result run(const QByteArray &program, const Configuration &configuration = Assem
             processor.ending(),       processor.hasEnded(),
             processor.isLockedUp(),   processor.isSleeping(),
             processor.requestsReset()};
+}
+
+// It has the same result whether the memories are the model's or the surroundings'.
+Result run(const QByteArray &program, Configuration configuration = Assembled::smallCore(),
+           int steps = 2000)
+{
+    const std::vector<std::uint8_t> contents =
+        Assembled::contents(program, configuration.itcmBytes);
+    Board board;
+    const Result result = runOn(board, configuration, contents, steps);
+    configuration.hasOuterMemories = true;
+    Board outer(configuration, contents);
+    const Result other = runOn(outer, configuration, {}, steps);
+    if (result.log != other.log || result.said != other.said || result.ended != other.ended ||
+        result.ending.passed != other.ending.passed ||
+        result.ending.reason != other.ending.reason || result.lockedUp != other.lockedUp ||
+        result.sleeps != other.sleeps || result.wantsReset != other.wantsReset)
+        QTest::qFail(QByteArray("another result with outer memories: " + other.log + '"' +
+                                QByteArray::fromStdString(other.ending.reason) + '"')
+                         .constData(),
+                     __FILE__, __LINE__);
+    if (!board.accesses.isEmpty())
+        QTest::qFail("memories of the model are accessed outside", __FILE__, __LINE__);
+    return result;
+}
+
+Configuration outerCore()
+{
+    Configuration configuration = Assembled::smallCore();
+    configuration.hasOuterMemories = true;
+    return configuration;
+}
+
+// The accesses to these words, with what stands before each address.
+QByteArray words(const QByteArray &kind, int first, int count)
+{
+    QByteArray result;
+    for (int i = 0; i < count; ++i)
+        result += kind + " " + QByteArray::number(first + 4 * i, 16) + ", ";
+    return result;
 }
 
 // Enables the four interrupts with these priorities.
@@ -297,6 +386,176 @@ private Q_SLOTS:
                                       "bne again\nbkpt 0\n",
                                   configuration);
         QCOMPARE(result.log, QByteArray("1 2"));
+    }
+
+    void runsWhatAnotherWroteOverAnInstruction()
+    {
+        Board board(outerCore(),
+                    Assembled::contents("ldr r6, =here\nmovs r5, #0\nb here\n"
+                                        "again: str r6, [r7, #12]\n"
+                                        "here: movs r0, #1\nstr r0, [r7]\nadds r5, #1\n"
+                                        "cmp r5, #2\nbne again\nbkpt 0\n",
+                                        2048));
+        QVERIFY(runOn(board, outerCore(), {}, 50).ending.passed);
+        QCOMPARE(board.log, QByteArray("1 2 "));
+    }
+
+    void accessesOuterMemories_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QByteArray>("accesses");
+        const QByteArray start = words("I R4", 0, 2);
+        const QByteArray base = "ldr r6, =0x20000100\n";
+        const auto row = [&](const char *name, const QByteArray &program,
+                             const QByteArray &accesses) {
+            QTest::newRow(name) << program << start + accesses;
+        };
+        row("vectors at the start", "", "");
+        row("words", base + "str r6, [r6, #4]\nldr r0, [r6, #4]\n",
+            "D W4 20000104, D R4 20000104, ");
+        row("halfwords",
+            base + "movs r1, #10\nstrh r6, [r6, #2]\nldrh r0, [r6, #2]\nldrsh r0, [r6, r1]\n",
+            "D W2 20000102, D R2 20000102, D R2 2000010a, ");
+        row("bytes",
+            base + "movs r1, #9\nstrb r6, [r6, #3]\nldrb r0, [r6, #1]\nldrsb r0, [r6, r1]\n",
+            "D W1 20000103, D R1 20000101, D R1 20000109, ");
+        row("several registers", base + "stm r6!, {r0-r3}\nsubs r6, #8\nldm r6!, {r4, r5}\n",
+            words("D W4", 0x20000100, 4) + words("D R4", 0x20000108, 2));
+        row("the stack", "push {r0-r7, lr}\npop {r0-r7}\n",
+            words("D W4", 0x200003DC, 9) + words("D R4", 0x200003DC, 8));
+        row("a return from a function", "bl 1f\nb 2f\n1: push {r4, lr}\npop {r4, pc}\n2:\n",
+            words("D W4", 0x200003F8, 2) + words("D R4", 0x200003F8, 2));
+        row("an exception", "svc 0\nbkpt 0\nsvc: bx lr\n",
+            words("D W4", 0x200003E0, 8) + "I R4 2c, " + words("D R4", 0x200003E0, 8));
+        row("an exception in an exception's place",
+            "ldr r0, =0xE000ED04\nmovs r1, #1\nlsls r1, #28\nldr r2, =0xE000ED20\n"
+            "ldr r3, =0x00C00000\nstr r3, [r2]\nsvc 0\nbkpt 0\n"
+            "svc: str r1, [r0]\nbx lr\npendsv: bx lr\n",
+            words("D W4", 0x200003E0, 8) + "I R4 2c, I R4 38, " + words("D R4", 0x200003E0, 8));
+        row("a fault", "udf #0\nfault: bkpt 0\n", words("D W4", 0x200003E0, 8) + "I R4 c, ");
+        row("a store into the instruction memory", "ldr r6, =0x700\nstrb r6, [r6, #1]\n",
+            "I W1 701, ");
+        row("a text", base + "ldr r0, =0x6948\nstr r0, [r6]\nmovs r0, #4\nmov r1, r6\nbkpt 0xAB\n",
+            "D W4 20000100, D R1 20000100, D R1 20000101, D R1 20000102, ");
+        row("nothing behind the end of a memory",
+            "ldr r6, =0x20000400\nstr r6, [r6]\nldr r6, =0x800\nldr r0, [r6]\n", "");
+    }
+
+    void accessesOuterMemories()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(QByteArray, accesses);
+        Board board(outerCore(), Assembled::contents(program + "bkpt 0\n", 2048));
+        const Result result = runOn(board, outerCore(), {}, 100);
+        QVERIFY2(result.ending.passed, result.ending.reason.c_str());
+        QCOMPARE(board.accesses, accesses);
+    }
+
+    void fetchesEveryInstruction()
+    {
+        // From 0x50 on: LDR and its literal, two in a word, a long one in one word and one across
+        // two words, and again after a jump.
+        Board board(outerCore(), Assembled::contents("nop\nnop\nnop\ndsb\nnop\ndsb\nb 1f\n"
+                                                     "nop\nnop\n1: b 2f\n2: bkpt 0\n",
+                                                     2048));
+        QVERIFY(runOn(board, outerCore(), {}, 100).ending.passed);
+        QCOMPARE(board.fetches, QByteArray("50 70 50 54 54 58 5c 5c 60 60 68 68 "));
+    }
+
+    void runsFromTheOuterDataMemory()
+    {
+        Board board(outerCore(), Assembled::contents("ldr r0, =0x20000101\nbx r0\n", 2048));
+        board.data.contents[0x101] = 0xBE; // BKPT 0
+        board.data.contents[0x100] = 0x00;
+        QVERIFY(runOn(board, outerCore(), {}, 100).ending.passed);
+        QVERIFY2(board.accesses.endsWith("D R4 20000100, "), board.accesses);
+    }
+
+    void fillsTheOuterMemoryOnceBeforeItRuns()
+    {
+        Board board(outerCore());
+        Processor processor(outerCore(), board);
+        std::vector<std::uint8_t> program = Assembled::contents("movs r0, #1\nbkpt 0\n", 2048);
+        program.resize(99); // and the rest of its word
+        processor.setInstructionMemory(program);
+        for (int i = 0; i < 10 && !processor.hasEnded(); ++i)
+            processor.step();
+        QVERIFY(processor.ending().passed);
+        QCOMPARE(board.accesses, words("I W4", 0, 25) + words("I R4", 0, 2));
+        program.resize(100);
+        QVERIFY(std::equal(program.begin(), program.end(), board.instructions.contents.begin()));
+        board.accesses.clear();
+        processor.reset();
+        processor.step();
+        QCOMPARE(board.accesses, QByteArray()); // a program that has ended stays ended
+    }
+
+    void keepsTheOuterMemoryThroughAReset()
+    {
+        Board board(outerCore());
+        Processor processor(outerCore(), board);
+        processor.setInstructionMemory(Assembled::contents("1: b 1b\n", 2048));
+        processor.step();
+        board.accesses.clear();
+        processor.reset();
+        processor.step();
+        QCOMPARE(board.accesses, words("I R4", 0, 2));
+    }
+
+    // What a program does not use may be unknown.
+    void endsWithUnknownBits_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<int>("place"); // of an unknown nibble
+        QTest::addColumn<QByteArray>("message");
+        const QByteArray base = "ldr r6, =0x20000100\n";
+        const int data = 0x20000000;
+        const auto brings = [](const char *address, const char *bits) -> QByteArray {
+            return QByteArray("the read from ") + address + " brings unknown bits, " + bits +
+                   " (at 0x000000";
+        };
+        QTest::newRow("a word") << base + "ldr r0, [r6]\n"
+                                << data + 0x102 << brings("0x20000100", "0x000F0000");
+        QTest::newRow("a halfword") << base + "ldrh r0, [r6, #2]\n"
+                                    << data + 0x103 << brings("0x20000102", "0x00000F00");
+        QTest::newRow("a byte") << base + "ldrb r0, [r6, #1]\n"
+                                << data + 0x101 << brings("0x20000101", "0x0000000F");
+        QTest::newRow("the byte beside it") << base + "ldrb r0, [r6, #1]\n"
+                                            << data + 0x102 << QByteArray();
+        QTest::newRow("a byte that was written") << base + "strb r6, [r6, #1]\nldrb r0, [r6, #1]\n"
+                                                 << data + 0x101 << QByteArray();
+        QTest::newRow("one of several words") << base + "ldm r6!, {r0-r3}\n"
+                                              << data + 0x108 << brings("0x20000108", "0x0000000F");
+        QTest::newRow("the stack") << QByteArray("sub sp, #8\npop {r0, pc}\n") << data + 0x3FC
+                                   << brings("0x200003FC", "0x0000000F");
+        QTest::newRow("the stack's vector")
+            << QByteArray() << 1 << brings("0x00000000", "0x00000F00");
+        QTest::newRow("a handler's vector")
+            << QByteArray("svc 0\nsvc: bkpt 1\n") << 0x2C << brings("0x0000002C", "0x0000000F");
+        QTest::newRow("an instruction")
+            << QByteArray() << 0x52 << brings("0x00000052", "0x0000000F");
+        QTest::newRow("the second half of an instruction")
+            << QByteArray("nop\ndsb\n") << 0x57 << brings("0x00000056", "0x00000F00");
+        QTest::newRow("the half beside an instruction")
+            << QByteArray("b 1f\nnop\nnop\n1:\n") << 0x56 << QByteArray();
+        QTest::newRow("a text") << QByteArray("movs r0, #4\nldr r1, =0x20000100\nbkpt 0xAB\n")
+                                << data + 0x100 << brings("0x20000100", "0x0000000F");
+    }
+
+    void endsWithUnknownBits()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(int, place);
+        QFETCH(QByteArray, message);
+        Board board(outerCore(), Assembled::contents(program + "bkpt 0\n", 2048));
+        OuterMemory &memory = place < 0x20000000 ? board.instructions : board.data;
+        memory.unknown[std::size_t(place % 0x20000000)] = 0x0F;
+        const Result result = runOn(board, outerCore(), {}, 100);
+        QVERIFY(result.ended && !result.lockedUp);
+        QCOMPARE(result.ending.passed, message.isEmpty());
+        QVERIFY2(message.isEmpty() ||
+                     QByteArray::fromStdString(result.ending.reason).startsWith(message),
+                 result.ending.reason.c_str());
     }
 
     void saysWhatItDoesNotModel_data()
