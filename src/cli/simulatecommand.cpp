@@ -272,8 +272,21 @@ private:
         }
         Simulation::Design design;
         for (const QString &source : plan.sources) {
-            if (QFileInfo(source).fileName() != QLatin1String("cortex_m1_core.v"))
+            const QString name = QFileInfo(source).fileName();
+            if (name == QLatin1String("cortex_m1_core.v"))
+                continue;
+            QByteArray text;
+            if (!Utils::FileUtils::readFile(source, &text, &error))
+                return {BadInput, error};
+            const QByteArray answering = withAnswers(text);
+            if (answering == text) {
                 design.sources.append(source);
+                continue;
+            }
+            const QString made = QLatin1String("licensed/") + name;
+            if (const auto written = m_simulation->write(made, answering); !written)
+                return {Failed, written.reason()};
+            design.sources.append(m_simulation->folder() + u'/' + made);
         }
         design.includeFolder = QDir(m_simulation->folder()).relativeFilePath(plan.folder);
         design.modelFolder = m_modelFolder;
@@ -347,13 +360,15 @@ private:
         for (const int number : numbers)
             lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
                                      {QStringLiteral("bytes"), m_end.uartBytes[number]}});
-        QJsonObject object{{QStringLiteral("result"), nameOfEnd()},
-                           {QStringLiteral("reason"), reason()},
-                           {QStringLiteral("configuration"), m_arguments.file},
-                           {QStringLiteral("clockCycles"), qint64(m_end.cycles)},
-                           {QStringLiteral("timeout"), qint64(m_arguments.timeout)},
-                           {QStringLiteral("uarts"), lines},
-                           {QStringLiteral("note"), note()}};
+        QJsonObject object{
+            {QStringLiteral("result"), nameOfEnd()},
+            {QStringLiteral("reason"), reason()},
+            {QStringLiteral("configuration"), m_arguments.file},
+            {QStringLiteral("clockCycles"), qint64(m_end.cycles)},
+            {QStringLiteral("timeout"), qint64(m_arguments.timeout)},
+            {QStringLiteral("uarts"), lines},
+            {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(m_end.emptyBlocks)},
+            {QStringLiteral("note"), note()}};
         if (m_arguments.sources.isEmpty())
             object.insert(QStringLiteral("firmware"), m_arguments.firmware);
         else
@@ -407,6 +422,11 @@ private:
                             .arg(m_end.uartBytes[number]));
         if (!sent.isEmpty())
             printError(sent.join(QLatin1String(", ")) + u'.');
+        if (!m_end.emptyBlocks.isEmpty())
+            printError(
+                QLatin1String("Licensed blocks are empty here and answer with bus errors; the "
+                              "program has accessed ") +
+                m_end.emptyBlocks.join(QLatin1String(", ")) + u'.');
         printError(note());
     }
 

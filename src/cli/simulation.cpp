@@ -101,6 +101,8 @@ private:
         } else if (kind == QLatin1String("lockup")) {
             if (m_end.lockedUpAt < 0)
                 m_end.lockedUpAt = word(1).toLongLong();
+        } else if (kind == QLatin1String("empty")) {
+            m_end.emptyBlocks.append(word(1).mid(int(sizeof "board.dut")));
         } else if (kind == QLatin1String("end")) {
             m_hasEnded = true;
             m_end.result = word(1) == QLatin1String("passed")    ? SimulationEnd::Passed

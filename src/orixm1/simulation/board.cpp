@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
@@ -135,7 +136,15 @@ module board;
 
 constexpr char tail[] = R"(
     always @(posedge dut.u_core.LOCKUP)
-        if (power_good) $display("\036%0s lockup %0d", mark, ($time - start) / PERIOD);
+        if (power_good && !ended) begin
+            cycles = ($time - start) / PERIOD;
+            $display("\036%0s lockup %0d", mark, cycles);
+            if (!CAN_RECOVER) begin
+                ended = 1'b1;
+                $display("\036%0s end failed %0d", mark, cycles);
+                $finish(0);
+            end
+        end
 
     // What the UARTs still hold is on its way when the program ends: at most two bytes each.
     integer frames;
@@ -155,6 +164,39 @@ constexpr char tail[] = R"(
         end
     end
 endmodule
+)";
+
+constexpr char ahbAnswer[] = R"(
+    reg told = 1'b0;
+    reg first = 1'b0;
+    reg second = 1'b0;
+    always @(posedge HCLK or negedge HRESETn)
+        if (!HRESETn) begin
+            first <= 1'b0;
+            second <= 1'b0;
+        end else begin
+            first <= HREADY & HSEL & HTRANS[1];
+            second <= first;
+            if (first & ~told) begin
+                told <= 1'b1;
+                $display("\036%0s empty %m", board.mark);
+            end
+        end
+    assign HRDATA = 32'd0;
+    assign HREADYOUT = ~first;
+    assign HRESP = first | second;
+)";
+
+constexpr char apbAnswer[] = R"(
+    reg told = 1'b0;
+    always @(posedge PCLK)
+        if (PSEL & PENABLE & ~told) begin
+            told <= 1'b1;
+            $display("\036%0s empty %m", board.mark);
+        end
+    assign PRDATA = 32'd0;
+    assign PREADY = 1'b1;
+    assign PSLVERR = 1'b1;
 )";
 
 // What an input is connected to beside its idle level. `needs` is a port of the same configuration.
@@ -212,6 +254,9 @@ public:
         for (const Port &port : m_map.ports)
             connections.append("        ."_l1 + port.name + "("_l1 + netOf(port) + ")"_l1);
         text += "\n    Tarvo_ORIX_M1_Top dut (\n"_l1 + connections.join(",\n"_l1) + ");\n"_l1;
+        // Only the watchdog gets a processor out of its lock-up.
+        text += QStringLiteral("    localparam CAN_RECOVER = %1;\n")
+                    .arg(findRegion(m_map, QStringLiteral("WDOG")) ? 1 : 0);
         return text + QLatin1String(tail);
     }
 
@@ -370,6 +415,21 @@ private:
 QByteArray boardOf(const SystemMap &map)
 {
     return Board(map).verilog().toUtf8();
+}
+
+QByteArray withAnswers(const QByteArray &source)
+{
+    static const QByteArray mark = "(* blackbox *)";
+    if (!source.contains(mark))
+        return source;
+    QByteArray text = source;
+    text.replace(mark, QByteArray());
+    QByteArray body = text.contains("HREADYOUT") ? ahbAnswer : apbAnswer;
+    static const QRegularExpression request(QStringLiteral("output\\s+wire\\s+irq\\b"));
+    if (QString::fromUtf8(text).contains(request))
+        body += "    assign irq = 1'b0;\n";
+    text.insert(text.lastIndexOf("endmodule"), body);
+    return text;
 }
 
 } // namespace TARVOORIXM1

@@ -20,8 +20,13 @@ namespace TARVOORIXM1
 // standard output it tells events, a line each that begins with the byte 0x1E and the mark:
 //   MARK uart N XX        UART N has sent the byte XX (hexadecimal)
 //   MARK lockup CYCLES    the processor is locked up
+//   MARK empty PATH       a licensed block was accessed the first time; see withAnswers()
 //   MARK done             the program has ended; the model's verdict stands before it
 //   MARK end RESULT CYCLES   last of all; RESULT is passed, failed or timeout
 QByteArray boardOf(const SystemMap &map);
+
+// A source of the subsystem in which a licensed block, of which there is only the declaration,
+// answers each access with an error, on a board; any other source as it is.
+QByteArray withAnswers(const QByteArray &source);
 
 } // namespace TARVOORIXM1
