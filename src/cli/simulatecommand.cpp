@@ -97,6 +97,8 @@ private:
     // Nothing that is read is written, and nothing twice.
     Stop checkTargets() const
     {
+        if (m_arguments.uart0.isEmpty())
+            return {WrongUsage, QStringLiteral("--uart0 names no file.")};
         QStringList taken = {fullPath(m_arguments.file)};
         if (!m_arguments.firmware.isEmpty())
             taken.append(fullPath(m_arguments.firmware));

@@ -135,7 +135,7 @@ private:
 } // namespace
 
 Simulation::Simulation()
-    : m_folder(QDir::tempPath() + QLatin1String("/orixm1-simulate-XXXXXX"))
+    : m_folder(QDir(QDir::tempPath()).absolutePath() + QLatin1String("/orixm1-simulate-XXXXXX"))
 {
     connect(&m_interrupt, &Utils::Interrupt::received, this, [this] { m_isCancelled = true; });
     if (!m_folder.isValid())
