@@ -58,6 +58,16 @@ struct ExportArguments {
     QString netlist; // of a run, for the figures of resources; empty: none
 };
 
+struct SimulateArguments {
+    QString file;
+    QString firmware;    // ELF; or
+    QStringList sources; // in C
+    QString uart0;       // "-": standard output, else a file
+    quint64 timeout = 0; // clock cycles
+    QString waves;       // file; empty: none
+    QString report;      // file; empty: none
+};
+
 // Each runs one command and returns the exit status; messages have been printed then.
 int runNew(Environment &environment, const NewArguments &arguments);
 int runRetarget(Environment &environment, const RetargetArguments &arguments);
@@ -71,6 +81,7 @@ enum class RegistersForm { Table, Json, Markdown, CHeader };
 // An empty `file` means all peripherals.
 int runRegisters(Environment &environment, const QString &file, RegistersForm form);
 int runExport(Environment &environment, const ExportArguments &arguments);
+int runSimulate(Environment &environment, const SimulateArguments &arguments);
 int runOptions(bool json);
 int runDevices(Environment &environment, const QString &series, bool json);
 

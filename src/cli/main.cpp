@@ -33,6 +33,7 @@ constexpr const char *footer = R"(Exit status:
   1  the job failed, or check found an error
   2  wrong usage
   3  unreadable or incompatible input
+  124  the time limit of simulate
   130  cancelled)";
 
 int run(int argc, char *argv[])
@@ -254,6 +255,45 @@ int run(int argc, char *argv[])
         };
     });
 
+    CLI::App *simulateCommand = app.add_subcommand(
+        "simulate", "Run a program for the processor on the subsystem's RTL (Icarus Verilog)");
+    std::string program;
+    std::vector<std::string> cFiles;
+    std::string uart0 = "-";
+    quint64 timeout = 10000000;
+    std::string waves;
+    std::string reportFile;
+    addFile(simulateCommand);
+    CLI::Option_group *programGroup = simulateCommand->add_option_group("Program");
+    programGroup->add_option("--firmware", program, "Program: ELF")->type_name("FILE");
+    programGroup
+        ->add_option("--c", cFiles,
+                     "C files, compiled with what is exported for the configuration; returning "
+                     "from main() ends the run: 0 has passed")
+        ->type_name("FILE ...");
+    programGroup->require_option(1);
+    simulateCommand
+        ->add_option("--uart0", uart0,
+                     "Where the bytes of UART0 go: a file, or - (the default) "
+                     "for standard output")
+        ->type_name("FILE");
+    simulateCommand
+        ->add_option("--timeout", timeout,
+                     "Clock cycles after which a program that has not ended is stopped, with exit "
+                     "status 124 (default: 10000000)")
+        ->check(CLI::Range(quint64(1), quint64(1000000000000)))
+        ->type_name("CYCLES");
+    simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
+    simulateCommand->add_option("--report", reportFile, "Write the result (JSON)")
+        ->type_name("FILE");
+    simulateCommand->callback([&] {
+        command = [&] {
+            return Cli::runSimulate(environment,
+                                    {text(file), text(program), texts(cFiles), text(uart0), timeout,
+                                     text(waves), text(reportFile)});
+        };
+    });
+
     CLI::App *optionsCommand =
         app.add_subcommand("options", "List all option keys with type, default and domain");
     addJson(optionsCommand);
@@ -282,7 +322,14 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder}) {
+    std::vector<const std::string *> paths = {&file,    &image,      &netlist,
+                                              &outDir,  &dataFolder, &deviceFolder,
+                                              &program, &waves,      &reportFile};
+    if (uart0 != "-")
+        paths.push_back(&uart0);
+    for (const std::string &cFile : cFiles)
+        paths.push_back(&cFile);
+    for (const std::string *path : paths) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();
     }

@@ -12,7 +12,7 @@ namespace Cli
 {
 
 // The program's exit status.
-enum Status { Done = 0, Failed = 1, WrongUsage = 2, BadInput = 3, Cancelled = 130 };
+enum Status { Done = 0, Failed = 1, WrongUsage = 2, BadInput = 3, TimeLimit = 124, Cancelled = 130 };
 
 // All output is UTF-8, whatever the locale says.
 void printLine(const QString &line);

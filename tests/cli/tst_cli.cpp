@@ -153,7 +153,7 @@ void tst_Cli::helpAndVersion()
     const Run help = run(words({"--help"}));
     QCOMPARE(help.status, 0);
     for (const char *command :
-         {"new", "generate", "check", "options", "devices", "sources", "export"}) {
+         {"new", "generate", "check", "options", "devices", "sources", "export", "simulate"}) {
         QVERIFY2(help.out.contains(QString::fromLatin1(command)), command);
         const Run own = run(words({command, "--help"}));
         QCOMPARE(own.status, 0);

@@ -118,10 +118,13 @@ void tst_CliInputs::everyCommandRefusesConfigurations()
     } else {
         QVERIFY(TestSupport::write(ipc, text));
     }
-    for (const char *command : {"check", "generate", "sources", "pins", "registers", "export"}) {
+    for (const char *command :
+         {"check", "generate", "sources", "pins", "registers", "export", "simulate"}) {
         QStringList arguments = {QString::fromLatin1(command), QStringLiteral("x.ipc")};
         if (arguments.first() == QLatin1String("export"))
             arguments << QStringLiteral("--out") << QStringLiteral("out");
+        if (arguments.first() == QLatin1String("simulate"))
+            arguments << QStringLiteral("--c") << QStringLiteral("main.c");
         const Run result = run(arguments);
         QCOMPARE(result.status, 3);
         QVERIFY2(result.err.contains(message) && result.err.contains(QLatin1String("x.ipc")),

@@ -37,6 +37,7 @@ struct Prepared {
     char *const *arguments;
     char *const *environment;
     const char *folder;
+    char *const *removal; // arguments of the program that removes a folder; null: none
     pid_t parent;
 };
 
@@ -179,6 +180,8 @@ private:
             return;
         if (size != ssize_t(sizeof signal)) { // the parent is gone
             bury();
+            if (m_program.removal)
+                ::execve(m_program.removal[0], m_program.removal, m_program.environment);
             ::_exit(0);
         }
         ::kill(-m_group, signal);
@@ -227,8 +230,14 @@ int ProcessGuard::start(const Program &program, int output, int kept)
     const QVector<char *> arguments =
         pointersTo(program.arguments, {const_cast<char *>(program.path.constData())});
     const QVector<char *> environment = pointersTo(program.environment);
-    const Prepared prepared = {program.path.constData(), arguments.constData(),
-                               environment.constData(), program.folder.constData(), ::getpid()};
+    const QByteArrayList removalArguments = {"/bin/rm", "-rf", "--", program.doomedFolder};
+    const QVector<char *> removal = pointersTo(removalArguments);
+    const Prepared prepared = {program.path.constData(),
+                               arguments.constData(),
+                               environment.constData(),
+                               program.folder.constData(),
+                               program.doomedFolder.isEmpty() ? nullptr : removal.constData(),
+                               ::getpid()};
     int ends[2];
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0)
         return errno;

@@ -14,6 +14,9 @@ struct Program {
     QByteArrayList arguments;   // without the name
     QByteArrayList environment; // "NAME=value"
     QByteArray folder;          // where it runs
+    // A folder, by its full path, that goes when this process is gone and the program still ran;
+    // empty: none.
+    QByteArray doomedFolder;
 };
 
 // Runs a program in a process group of its own, and kills the group when this process is gone,

@@ -49,6 +49,7 @@ ToolProcess::ToolProcess(const Command &command, const QString &workingDir,
     m_program.arguments = encoded(command.arguments);
     m_program.environment = encoded(environment.toStringList());
     m_program.folder = QFile::encodeName(workingDir);
+    m_program.doomedFolder = QFile::encodeName(command.doomedFolder);
 }
 
 ToolProcess::~ToolProcess()

@@ -20,6 +20,7 @@ struct Command {
     QString program;
     QStringList arguments;
     bool usersHome = false; // else it has a home folder of its own
+    QString doomedFolder{}; // goes when this process dies while the command runs; empty: none
 };
 
 // One run of a command in a process group of its own, without a shell, a terminal and standard

@@ -1,0 +1,455 @@
+#include "commands.h"
+
+#include "environment.h"
+#include "ipcdocument.h"
+#include "output.h"
+#include "simulation.h"
+#include "terminal.h"
+
+#include <config/optionkeys.h>
+#include <firmware/itcmfiles.h>
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+#include <simulation/board.h>
+#include <simulation/program.h>
+#include <utils/fileutils.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+QString quoted(const QString &path)
+{
+    return u'"' + path + u'"';
+}
+
+QString fullPath(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+// Ends the command with a message.
+struct Stop {
+    int status = Done;
+    QString message;
+};
+
+// Files that the command writes, by the option that names them.
+struct Target {
+    const char *option;
+    QString path;
+};
+
+class SimulateRun
+{
+public:
+    SimulateRun(Environment &environment, const SimulateArguments &arguments)
+        : m_environment(environment)
+        , m_arguments(arguments)
+    {
+    }
+
+    int run()
+    {
+        Stop stop = prepare();
+        if (stop.status == Done)
+            stop = build();
+        if (stop.status != Done) {
+            if (m_simulation && m_simulation->wasCancelled())
+                stop = {Cancelled, QStringLiteral("Cancelled.")};
+            if (!stop.message.isEmpty())
+                printError(stop.message);
+            return stop.status;
+        }
+        Terminal terminal;
+        m_end = m_simulation->play(m_vvp, m_arguments.timeout, !m_arguments.waves.isEmpty(),
+                                   isOnTerminal(), terminal);
+        const int status = writeResults();
+        printSummary();
+        return status;
+    }
+
+private:
+    bool isOnTerminal() const { return m_arguments.uart0 == QLatin1String("-"); }
+
+    QVector<Target> targets() const
+    {
+        QVector<Target> list;
+        const auto add = [&list](const char *option, const QString &path) {
+            if (!path.isEmpty())
+                list.append({option, fullPath(path)});
+        };
+        add("--uart0", isOnTerminal() ? QString() : m_arguments.uart0);
+        add("--waves", m_arguments.waves);
+        add("--report", m_arguments.report);
+        return list;
+    }
+
+    // Nothing that is read is written, and nothing twice.
+    Stop checkTargets() const
+    {
+        if (m_arguments.uart0.isEmpty())
+            return {WrongUsage, QStringLiteral("--uart0 names no file.")};
+        QStringList taken = {fullPath(m_arguments.file)};
+        if (!m_arguments.firmware.isEmpty())
+            taken.append(fullPath(m_arguments.firmware));
+        for (const QString &source : m_arguments.sources)
+            taken.append(fullPath(source));
+        for (QString &path : taken) {
+            if (const QString real = QFileInfo(path).canonicalFilePath(); !real.isEmpty())
+                path = real;
+        }
+        const QVector<Target> list = targets();
+        for (const Target &target : list) {
+            const QFileInfo info(target.path);
+            const QString real = info.canonicalFilePath();
+            const QString path = real.isEmpty() ? target.path : real;
+            const QString option = QLatin1String(target.option);
+            if (taken.contains(path))
+                return {WrongUsage, option + u' ' + quoted(target.path) +
+                                        QLatin1String(" is read or written already.")};
+            if (info.isDir())
+                return {Failed,
+                        option + u' ' + quoted(target.path) + QLatin1String(" is a folder.")};
+            if (!QFileInfo(info.absolutePath()).isDir())
+                return {Failed, option + QLatin1String(": there is no folder ") +
+                                    quoted(info.absolutePath()) + u'.'};
+            taken.append(path);
+        }
+        return {};
+    }
+
+    Stop prepare()
+    {
+        if (const Stop stop = checkTargets(); stop.status != Done)
+            return stop;
+        m_info = m_environment.ipInfo();
+        if (m_info.isEmpty())
+            return {BadInput, {}};
+        const auto description = readSystemDescription(m_environment.dataFolder());
+        if (!description)
+            return {BadInput, description.reason()};
+        if (!openForDevice(m_environment, m_arguments.file, &m_document))
+            return {BadInput, {}};
+        // The program is in the model's own memory.
+        m_document.options.insert(Key::initializeItcm, false);
+        m_map = systemMap(m_document.options, m_document.device, *description);
+        if (m_map.processor.isBigEndian)
+            return {BadInput, quoted(m_document.path) +
+                                  QLatin1String(" cannot be simulated: the model of the processor "
+                                                "has no big-endian data.")};
+        if (!isOnTerminal() && !findRegion(m_map, QStringLiteral("UART0")))
+            return {BadInput, quoted(m_document.path) + QLatin1String(" has no UART0.")};
+        for (const QString &source : m_arguments.sources) {
+            const QFileInfo info(source);
+            if (!info.isFile() || !info.isReadable())
+                return {BadInput, quoted(fullPath(source)) + QLatin1String(" cannot be read.")};
+        }
+        return {};
+    }
+
+    Stop build()
+    {
+        QByteArray image;
+        if (m_arguments.sources.isEmpty()) {
+            if (const Stop stop = readProgram(m_arguments.firmware, &image); stop.status != Done)
+                return stop;
+        }
+        if (const Stop stop = findTools(); stop.status != Done)
+            return stop;
+        m_simulation = std::make_unique<Simulation>();
+        if (m_simulation->folder().isEmpty())
+            return {Failed, m_simulation->problem()};
+        const auto made = m_arguments.sources.isEmpty()
+                              ? failedUnless(m_simulation->write(programFile(), image))
+                              : compileProgram();
+        if (made.status != Done)
+            return made;
+        return compileDesign();
+    }
+
+    static QString programFile() { return QStringLiteral("program.elf"); }
+
+    static Stop failedUnless(const Utils::Result<void> &result)
+    {
+        return result ? Stop{} : Stop{Failed, result.reason()};
+    }
+
+    // A program that the instruction memory takes.
+    Stop readProgram(const QString &file, QByteArray *bytes) const
+    {
+        const QString path = fullPath(file);
+        QString reason;
+        if (!Reading::readPlainFile(path, Reading::Limits::firmwareImage, bytes, &reason))
+            return {BadInput, quoted(path) + QLatin1String(" cannot be read: ") + reason + u'.'};
+        const Utils::Result<FirmwareImage> image = readImage(*bytes, ImageForm::Elf);
+        if (!image)
+            return {BadInput,
+                    quoted(path) + QLatin1String(" cannot be used: ") + image.reason() + u'.'};
+        if (const auto files = itcmFiles(*image, m_map); !files)
+            return {BadInput,
+                    quoted(path) + QLatin1String(" does not fit: ") + files.reason() + u'.'};
+        return {};
+    }
+
+    Stop findTools()
+    {
+        struct Tool {
+            const char *program;
+            const char *package;
+            QString *path;
+        };
+        QVector<Tool> tools = {{"iverilog", "iverilog", &m_iverilog}, {"vvp", "iverilog", &m_vvp}};
+        if (!m_arguments.sources.isEmpty())
+            tools.append({"arm-none-eabi-gcc", "gcc-arm-none-eabi", &m_compiler});
+        for (const Tool &tool : qAsConst(tools)) {
+            const auto path = Simulation::findTool(tool.program, tool.package);
+            if (!path)
+                return {Failed, path.reason()};
+            *tool.path = *path;
+        }
+        // The build tree and an installation are laid out alike.
+        m_modelFolder = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                        QLatin1String("/" ORIXM1_MODEL_FOLDER));
+        for (const char *name : {"cortexm1core.vpi", "cortex_m1_core_isa.v"}) {
+            const QString path = m_modelFolder + u'/' + QLatin1String(name);
+            if (!QFileInfo(path).isFile())
+                return {Failed,
+                        QLatin1String("The model of the processor is missing: there is no ") +
+                            quoted(path) +
+                            QLatin1String("; it is built where the Debian packages "
+                                          "libunicorn-dev, libelf-dev and iverilog are.")};
+        }
+        return {};
+    }
+
+    Stop compileProgram()
+    {
+        QStringList sources;
+        for (const QString &source : m_arguments.sources)
+            sources.append(fullPath(source));
+        const ProgramBuild program = programBuild(m_map, sources);
+        for (const ExportedFile &file : program.files) {
+            if (const auto written = m_simulation->write(file.path, file.bytes); !written)
+                return {Failed, written.reason()};
+        }
+        bool lacksLibrary = false;
+        qint64 said = 0;
+        const auto result = m_simulation->runTool(
+            QStringLiteral("The compiler"), m_compiler, program.arguments,
+            [&](const QString &line) {
+                lacksLibrary = lacksLibrary || line.contains(QLatin1String("cannot find -lc"));
+                said += line.size();
+                if (said < 1 << 20)
+                    printText(stderr, line.toStdString() + '\n');
+            });
+        if (lacksLibrary)
+            return {Failed, QStringLiteral("The compiler has no C library; the Debian package "
+                                           "libnewlib-arm-none-eabi has one.")};
+        if (!result)
+            return {BadInput, result.reason()};
+        QByteArray image;
+        return readProgram(m_simulation->folder() + u'/' + programFile(), &image);
+    }
+
+    Stop compileDesign()
+    {
+        const GenerationPlan plan =
+            generationPlan(generationInput(m_document, m_info, m_simulation->folder()));
+        QString error;
+        if (!Utils::FileUtils::makePath(plan.folder, &error))
+            return {Failed, error};
+        for (const IncludeFile &file : plan.includeFiles) {
+            if (!Utils::FileUtils::writeLines(plan.pathOf(file), file.lines, &error))
+                return {Failed, error};
+        }
+        Simulation::Design design;
+        for (const QString &source : plan.sources) {
+            const QString name = QFileInfo(source).fileName();
+            if (name == QLatin1String("cortex_m1_core.v"))
+                continue;
+            QByteArray text;
+            if (!Utils::FileUtils::readFile(source, &text, &error))
+                return {BadInput, error};
+            const QByteArray answering = withAnswers(text);
+            if (answering == text) {
+                design.sources.append(source);
+                continue;
+            }
+            const QString made = QLatin1String("licensed/") + name;
+            if (const auto written = m_simulation->write(made, answering); !written)
+                return {Failed, written.reason()};
+            design.sources.append(m_simulation->folder() + u'/' + made);
+        }
+        design.includeFolder = QDir(m_simulation->folder()).relativeFilePath(plan.folder);
+        design.modelFolder = m_modelFolder;
+        design.board = boardOf(m_map);
+        return failedUnless(m_simulation->compile(m_iverilog, design));
+    }
+
+    int statusOfEnd() const
+    {
+        switch (m_end.result) {
+        case SimulationEnd::Passed:
+            return Done;
+        case SimulationEnd::Failed:
+            return Failed;
+        case SimulationEnd::TimeLimit:
+            return TimeLimit;
+        case SimulationEnd::Cancelled:
+            break;
+        }
+        return Cancelled;
+    }
+
+    QString nameOfEnd() const
+    {
+        switch (m_end.result) {
+        case SimulationEnd::Passed:
+            return QStringLiteral("passed");
+        case SimulationEnd::Failed:
+            return QStringLiteral("failed");
+        case SimulationEnd::TimeLimit:
+            return QStringLiteral("time limit");
+        case SimulationEnd::Cancelled:
+            break;
+        }
+        return QStringLiteral("cancelled");
+    }
+
+    QString reason() const
+    {
+        QString text = m_end.reason;
+        if (m_end.result == SimulationEnd::TimeLimit)
+            text = QStringLiteral("the program has not ended");
+        if (m_end.lockedUpAt >= 0)
+            text +=
+                (text.isEmpty() ? QString() : QStringLiteral("; ")) +
+                QStringLiteral("the processor locked up at clock cycle %1").arg(m_end.lockedUpAt);
+        return text;
+    }
+
+    static QString note()
+    {
+        return QStringLiteral("The model executes an instruction a clock cycle: instruction counts "
+                              "are no cycle counts of the processor.");
+    }
+
+    // The UARTs of the configuration.
+    QVector<int> uarts() const
+    {
+        QVector<int> numbers;
+        for (const int number : {0, 1}) {
+            if (findRegion(m_map, QStringLiteral("UART%1").arg(number)))
+                numbers.append(number);
+        }
+        return numbers;
+    }
+
+    QByteArray report() const
+    {
+        QJsonArray lines;
+        const QVector<int> numbers = uarts();
+        for (const int number : numbers)
+            lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
+                                     {QStringLiteral("bytes"), m_end.uartBytes[number]}});
+        QJsonObject object{
+            {QStringLiteral("result"), nameOfEnd()},
+            {QStringLiteral("reason"), reason()},
+            {QStringLiteral("configuration"), m_arguments.file},
+            {QStringLiteral("clockCycles"), qint64(m_end.cycles)},
+            {QStringLiteral("timeout"), qint64(m_arguments.timeout)},
+            {QStringLiteral("uarts"), lines},
+            {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(m_end.emptyBlocks)},
+            {QStringLiteral("note"), note()}};
+        if (m_arguments.sources.isEmpty())
+            object.insert(QStringLiteral("firmware"), m_arguments.firmware);
+        else
+            object.insert(QStringLiteral("sources"),
+                          QJsonArray::fromStringList(m_arguments.sources));
+        return QJsonDocument(object).toJson(QJsonDocument::Indented);
+    }
+
+    int writeResults() const
+    {
+        int status = statusOfEnd();
+        QString error;
+        const auto check = [&](bool isWritten) {
+            if (isWritten)
+                return;
+            printError(error);
+            if (status == Done)
+                status = Failed;
+        };
+        if (!isOnTerminal())
+            check(Utils::FileUtils::writeFile(fullPath(m_arguments.uart0), m_end.uarts[0], &error));
+        // What a simulator that was stopped has written is no whole file.
+        const QString waves = m_simulation->folder() + QLatin1String("/waves.fst");
+        if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
+            check(Utils::FileUtils::copyFile(waves, fullPath(m_arguments.waves), &error));
+        if (!m_arguments.report.isEmpty())
+            check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), report(), &error));
+        return status;
+    }
+
+    void printSummary() const
+    {
+        if (m_end.result == SimulationEnd::Cancelled) {
+            printError(QStringLiteral("Cancelled."));
+            return;
+        }
+        QString line =
+            QStringLiteral("%1 after %2 clock cycles")
+                .arg(m_end.result == SimulationEnd::Passed   ? QStringLiteral("Passed")
+                     : m_end.result == SimulationEnd::Failed ? QStringLiteral("Failed")
+                                                             : QStringLiteral("Time limit reached"))
+                .arg(m_end.cycles);
+        if (const QString why = reason(); !why.isEmpty())
+            line += QLatin1String(": ") + why;
+        printError(line + u'.');
+        QStringList sent;
+        const QVector<int> numbers = uarts();
+        for (const int number : numbers)
+            sent.append(QStringLiteral("UART%1 has sent %2 bytes")
+                            .arg(number)
+                            .arg(m_end.uartBytes[number]));
+        if (!sent.isEmpty())
+            printError(sent.join(QLatin1String(", ")) + u'.');
+        if (!m_end.emptyBlocks.isEmpty())
+            printError(
+                QLatin1String("Licensed blocks are empty here and answer with bus errors; the "
+                              "program has accessed ") +
+                m_end.emptyBlocks.join(QLatin1String(", ")) + u'.');
+        printError(note());
+    }
+
+    Environment &m_environment;
+    const SimulateArguments &m_arguments;
+    QVariantMap m_info;
+    IpcDocument m_document;
+    SystemMap m_map;
+    QString m_iverilog;
+    QString m_vvp;
+    QString m_compiler;
+    QString m_modelFolder;
+    std::unique_ptr<Simulation> m_simulation;
+    SimulationEnd m_end;
+};
+
+} // namespace
+
+int runSimulate(Environment &environment, const SimulateArguments &arguments)
+{
+    return SimulateRun(environment, arguments).run();
+}
+
+} // namespace Cli

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "export/format.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace TARVOORIXM1
+{
+
+// How C files become a program for a simulated subsystem.
+struct ProgramBuild {
+    QVector<ExportedFile> files; // to be written below the folder that the compiler runs in
+    QStringList arguments;       // of the compiler
+};
+
+// The program is made of `sources` (full paths), and of what is exported for the configuration:
+// header, start-up code, linker script and drivers. When its main() returns, it ends the simulation
+// by semihosting with what main() has returned. It is left in "program.elf".
+ProgramBuild programBuild(const SystemMap &map, const QStringList &sources);
+
+} // namespace TARVOORIXM1

@@ -1,0 +1,456 @@
+#include <drawnoptions.h>
+#include <markedprocesses.h>
+
+#include <config/ipcfile.h>
+#include <config/optionkeys.h>
+#include <dev/devicedb.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+// By hand more: TARVO_TEST_DRAWS.
+int draws()
+{
+    return qMax(6, qEnvironmentVariableIntValue("TARVO_TEST_DRAWS"));
+}
+
+const QString example = QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc");
+
+// A configuration to which options can be added.
+const QByteArray plain = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                         "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n";
+
+// A program's call of its reader.
+const QByteArray semihosting =
+    "static int call(unsigned operation, const void *argument)\n"
+    "{\n    register unsigned r0 __asm__(\"r0\") = operation;\n"
+    "    register const void *r1 __asm__(\"r1\") = argument;\n"
+    "    __asm__ volatile(\"bkpt 0xAB\" : \"+r\"(r0) : \"r\"(r1) : \"memory\");\n"
+    "    return (int)r0;\n}\n";
+
+struct Run {
+    int status = -1;
+    QByteArray out;
+    QString err;
+};
+
+QStringList words(std::initializer_list<const char *> list)
+{
+    QStringList result;
+    for (const char *word : list)
+        result.append(QString::fromUtf8(word));
+    return result;
+}
+
+} // namespace
+
+// "orixm1 simulate" as people run it: as a process.
+class tst_CliSimulate : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("scratch")));
+    }
+
+    void cleanup()
+    {
+        QCOMPARE(TestSupport::entriesOf(path("scratch")), QStringList());
+        m_dir.reset();
+    }
+
+    void helloSaysItsWordsAndPasses()
+    {
+        const QString hello = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c");
+        const Run run = simulate({example, QStringLiteral("--c"), hello, QStringLiteral("--report"),
+                                  path("run.json"), QStringLiteral("--waves"), path("run.fst")});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(run.out, QByteArray("hello, world\n"));
+        QVERIFY(run.err.contains(QLatin1String("orixm1: Passed after ")));
+        QVERIFY(
+            run.err.contains(QLatin1String("UART0 has sent 13 bytes, UART1 has sent 0 bytes.")));
+        QVERIFY(run.err.contains(QLatin1String("instruction counts are no cycle counts")));
+        const QJsonObject report = jsonIn("run.json");
+        QCOMPARE(report.value(QLatin1String("result")).toString(), QStringLiteral("passed"));
+        QCOMPARE(report.value(QLatin1String("reason")).toString(), QString());
+        // Thirteen bytes of ten bits of fifty clock cycles, but for what the buffers hold at the
+        // end.
+        const int cycles = report.value(QLatin1String("clockCycles")).toInt();
+        QVERIFY2(cycles > 11 * 10 * 50 && cycles < 14 * 10 * 50,
+                 qPrintable(QString::number(cycles)));
+        const QJsonArray uarts = report.value(QLatin1String("uarts")).toArray();
+        QCOMPARE(uarts.size(), 2);
+        QCOMPARE(uarts.at(0).toObject().value(QLatin1String("name")).toString(),
+                 QStringLiteral("UART0"));
+        QCOMPARE(uarts.at(0).toObject().value(QLatin1String("bytes")).toInt(), 13);
+        QVERIFY(QFileInfo(path("run.fst")).size() > 1000);
+    }
+
+    void blinkMovesPinsInItsInterrupt()
+    {
+        const QString blink = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/blink.c");
+        const Run run = simulate({example, QStringLiteral("--c"), blink});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(run.out, QByteArray());
+    }
+
+    void tellsHowAProgramEnds_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char *name, const QByteArray &body, int status,
+                            const char *told) {
+            QTest::newRow(name) << QByteArray(semihosting + "int main(void)\n{\n" + body + "\n}\n")
+                                << status << QString::fromUtf8(told);
+        };
+        row("return of another value", "(void)call; return 3;", 1, ": exit 3.");
+        row("exit with an error", "call(0x18, (void *)0x20023); return 0;", 1, ": exit 0x00020023");
+        row("exit", "call(0x18, (void *)0x20026); return 3;", 0, "Passed after ");
+        row("breakpoint", "(void)call; __asm__ volatile(\"bkpt 0\"); return 3;", 0,
+            "Passed after ");
+        row("breakpoint with a number", "(void)call; __asm__ volatile(\"bkpt 7\"); return 0;", 1,
+            ": BKPT 7 at 0x");
+        row("no end", "(void)call; for (;;) { }", 124,
+            "Time limit reached after 3000 clock cycles: the program has not ended.");
+        row("a fault without a handler", "(void)call; return *(volatile int *)0x90000000u;", 124,
+            "the program has not ended");
+        row("a lock-up that a watchdog may end",
+            "(void)call; return *(volatile int *)0x90000000u;\n}\n"
+            "void HardFault_Handler(void)\n{\n    (void)*(volatile int *)0x90000000u;",
+            124, "the program has not ended; the processor locked up at clock cycle ");
+    }
+
+    void tellsHowAProgramEnds()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(int, status);
+        QFETCH(QString, told);
+        TestSupport::write(path("main.c"), program);
+        const Run run =
+            simulate(QStringList{example} + words({"--timeout", "3000", "--c", "main.c"}));
+        QVERIFY2(run.status == status, qPrintable(run.err));
+        QVERIFY2(run.err.contains(told), qPrintable(run.err));
+    }
+
+    void aLockUpForEverEndsTheRun()
+    {
+        TestSupport::write(path("x.ipc"), plain);
+        TestSupport::write(path("main.c"),
+                           "void HardFault_Handler(void) { (void)*(volatile int *)0x90000000u; }\n"
+                           "int main(void) { return *(volatile int *)0x90000000u; }\n");
+        const Run run = simulate(words({"x.ipc", "--c", "main.c", "--timeout", "1000000"}));
+        QVERIFY2(run.status == 1, qPrintable(run.err));
+        QVERIFY2(run.err.contains(QLatin1String(": the processor locked up at clock cycle ")),
+                 qPrintable(run.err));
+    }
+
+    // Bytes of the UART are exact, and nothing that a program says is taken for its end.
+    void tellsTheUartFromOtherTexts()
+    {
+        TestSupport::write(path("main.c"),
+                           "#include \"system_tarvo_orix_m1.h\"\n#include \"uart.h\"\n" +
+                               semihosting +
+                               "int main(void)\n{\n"
+                               "    static const char text[] = {'A', 0, (char)0xFF, 0x1E, '\\r'};\n"
+                               "    call(4, \"PASS\\n\");\n    call(4, \"no end\");\n"
+                               "    uart_init(UART0, SystemCoreClock, 1000000u);\n"
+                               "    uart_write(UART0, text, 5, 100000u);\n"
+                               "    uart_flush(UART0, 100000u);\n"
+                               "    call(4, \"FAIL: no\\nlast\");\n    return 0;\n}\n");
+        const QByteArray bytes("A\0\xFF\x1E\r", 5);
+        Run run = simulate(QStringList{example} + words({"--c", "main.c"}));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(run.out, QByteArray("semihosting: PASS\nsemihosting: no end\n" + bytes +
+                                     "\nsemihosting: FAIL: no\nsemihosting: last\n"));
+        run = simulate(QStringList{example} + words({"--c", "main.c", "--uart0", "uart"}));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(TestSupport::contentsOf(path("uart")), bytes);
+        QVERIFY(!run.out.contains('A' + bytes.mid(1, 1)));
+    }
+
+    void takesAProgramThatIsCompiledAlready()
+    {
+        TestSupport::write(path("a b.c"), "int main(void) { __asm__ volatile(\"bkpt 0\"); for (;;) "
+                                          "{ } }\n");
+        QProcess process;
+        process.setWorkingDirectory(m_dir->path());
+        process.start(QStringLiteral(TARVO_COMMAND), words({"export", "--out", "made"}) << example);
+        QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+        process.start(
+            QStringLiteral("arm-none-eabi-gcc"),
+            words({"-mcpu=cortex-m1", "-mthumb", "-Os", "-nostartfiles", "-Imade", "-Lmade",
+                   "-Ttarvo_orix_m1.ld", "a b.c", "made/startup_tarvo_orix_m1.c",
+                   "made/system_tarvo_orix_m1.c", "-o", "a b.elf"}));
+        QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+        const Run run = simulate(QStringList{example} + words({"--firmware", "a b.elf"}));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+    }
+
+    void refusesWrongUsage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("no program") << words({}) << QStringLiteral("--firmware");
+        QTest::newRow("two programs")
+            << words({"--firmware", "a", "--c", "b"}) << QStringLiteral("--firmware");
+        QTest::newRow("no time") << words({"--c", "a", "--timeout", "0"})
+                                 << QStringLiteral("--timeout");
+        QTest::newRow("no name of a file")
+            << words({"--c", "a", "--uart0", ""}) << QStringLiteral("--uart0");
+        QTest::newRow("a result over a source")
+            << words({"--c", "a", "--report", "./a"}) << QStringLiteral("--report");
+        QTest::newRow("two results in one file")
+            << words({"--c", "a", "--report", "b", "--waves", "b"}) << QStringLiteral("--report");
+    }
+
+    void refusesWrongUsage()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, message);
+        const Run run = simulate(QStringList{example} + arguments);
+        QCOMPARE(run.status, 2);
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+    }
+
+    void refusesBadInput_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("config");
+        QTest::addColumn<QString>("message");
+        const QByteArray uart = "Enable%20UART0=true\n";
+        QTest::newRow("no such source")
+            << words({"--c", "nothing.c"}) << uart << QStringLiteral("nothing.c\" cannot be read");
+        QTest::newRow("a source with a mistake")
+            << words({"--c", "wrong.c"}) << uart << QStringLiteral("wrong.c:1:");
+        QTest::newRow("no such program")
+            << words({"--firmware", "a.elf"}) << uart << QStringLiteral("a.elf\" cannot be read");
+        QTest::newRow("no program") << words({"--firmware", "wrong.c"}) << uart
+                                    << QStringLiteral("wrong.c\" cannot be used");
+        QTest::newRow("a program that is too large")
+            << words({"--c", "large.c"}) << uart << QStringLiteral("overflow");
+        QTest::newRow("big-endian data")
+            << words({"--c", "right.c"}) << QByteArray("Big%20Endian=true\n")
+            << QStringLiteral("no big-endian data");
+        QTest::newRow("no UART0") << words({"--c", "right.c", "--uart0", "x"}) << QByteArray()
+                                  << QStringLiteral("has no UART0");
+    }
+
+    void refusesBadInput()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, config);
+        QFETCH(QString, message);
+        TestSupport::write(path("wrong.c"), "int main(void) { return x; }\n");
+        TestSupport::write(path("right.c"), "int main(void) { return 0; }\n");
+        TestSupport::write(path("large.c"),
+                           "const int x[100000] = {1};\nint main(void) { return x[*(volatile int "
+                           "*)0x20000000]; }\n");
+        TestSupport::write(path("x.ipc"), plain + config);
+        const Run run = simulate(QStringList{QStringLiteral("x.ipc")} + arguments);
+        QVERIFY2(run.status == 3, qPrintable(run.err));
+        QVERIFY2(run.err.contains(message), qPrintable(run.err));
+        QVERIFY(!QFileInfo::exists(path("x")));
+    }
+
+    void namesThePackageOfAMissingTool_data()
+    {
+        QTest::addColumn<QStringList>("present");
+        QTest::addColumn<QString>("package");
+        QTest::newRow("nothing") << words({}) << QStringLiteral("iverilog");
+        QTest::newRow("half of the simulator") << words({"iverilog"}) << QStringLiteral("iverilog");
+        QTest::newRow("no compiler")
+            << words({"iverilog", "vvp"}) << QStringLiteral("gcc-arm-none-eabi");
+    }
+
+    void namesThePackageOfAMissingTool()
+    {
+        QFETCH(QStringList, present);
+        QFETCH(QString, package);
+        TestSupport::write(path("main.c"), "int main(void) { return 0; }\n");
+        QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("bin")));
+        for (const QString &tool : present)
+            QVERIFY(QFile::link(QStandardPaths::findExecutable(tool), path("bin/") + tool));
+        const Run run = simulate(QStringList{example} + words({"--c", "main.c"}), path("bin"));
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.contains(QLatin1String("the Debian package ") + package +
+                                  QLatin1String(" has it")),
+                 qPrintable(run.err));
+    }
+
+    void whatCannotBeWrittenIsToldBefore()
+    {
+        TestSupport::write(path("main.c"), "int main(void) { return 0; }\n");
+        const Run run = simulate(QStringList{example} +
+                                 words({"--c", "main.c", "--report", "nowhere/run.json"}));
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.contains(QLatin1String("nowhere")), qPrintable(run.err));
+        QVERIFY(!run.err.contains(QLatin1String("Passed")));
+    }
+
+    void aFloodIsCutOff()
+    {
+        TestSupport::write(path("main.c"), semihosting +
+                                               "static char text[4000];\nint main(void)\n{\n"
+                                               "    for (int i = 0; i < 3999; ++i)\n"
+                                               "        text[i] = i & 31 ? 'x' : '\\n';\n"
+                                               "    for (;;)\n        call(4, text);\n}\n");
+        const Run run =
+            simulate(QStringList{example} + words({"--c", "main.c", "--timeout", "60000"}));
+        QCOMPARE(run.status, 124);
+        QVERIFY2(run.out.size() > 500000 && run.out.size() < 2000000,
+                 qPrintable(QString::number(run.out.size())));
+    }
+
+    void licensedBlocksAnswerWithErrors_data()
+    {
+        QTest::addColumn<QByteArray>("address");
+        QTest::addColumn<QString>("block");
+        QTest::newRow("AHB") << QByteArray("0x41000000u") << QStringLiteral("u_can");
+        QTest::newRow("APB") << QByteArray("0x5000A000u") << QStringLiteral("u_trng");
+    }
+
+    void licensedBlocksAnswerWithErrors()
+    {
+        QFETCH(QByteArray, address);
+        QFETCH(QString, block);
+        TestSupport::write(path("x.ipc"),
+                           plain + "Enable%20CAN=true\nCAN_BUFFER_DEPTH=256\nEnable%20TRNG=true\n");
+        TestSupport::write(path("main.c"),
+                           "void HardFault_Handler(void) { __asm__ volatile(\"bkpt 9\"); }\n"
+                           "int main(void) { return *(volatile int *)" +
+                               address + " & 0; }\n");
+        const Run run = simulate(words({"x.ipc", "--c", "main.c", "--timeout", "5000"}));
+        QVERIFY2(run.status == 1, qPrintable(run.err));
+        QVERIFY2(run.err.contains(QLatin1String("BKPT 9")), qPrintable(run.err));
+        QVERIFY2(run.err.contains(QLatin1String("Licensed blocks are empty")) &&
+                     run.err.contains(block),
+                 qPrintable(run.err));
+    }
+
+    // The seed of the draws is fixed: a failure names the configuration.
+    void aBoardFitsEveryConfiguration_data()
+    {
+        QTest::addColumn<int>("draw");
+        for (int draw = 0; draw < draws(); ++draw)
+            QTest::addRow("configuration %d", draw) << draw;
+    }
+
+    void aBoardFitsEveryConfiguration()
+    {
+        QFETCH(int, draw);
+        TestSupport::Random random(unsigned(draw) + 20);
+        const QList<DEV::DeviceArg> devices = DEV::DeviceDb::bundled().devices();
+        const DEV::DeviceArg device = devices.at(TestSupport::below(devices.size(), random));
+        OptionMap options = TestSupport::drawnOptions(device, random);
+        options.insert(Key::itcmSize, 3 + TestSupport::below(3, random));
+        options.insert(Key::dtcmSize, 3 + TestSupport::below(3, random));
+        options.insert(Key::internalInstructionMemory, true);
+        options.insert(Key::internalDataMemory, true);
+        options.insert(Key::externalInstructionMemory, false);
+        options.insert(Key::externalDataMemory, false);
+        options.insert(Key::bigEndian, false);
+        {
+            QSettings file(path("x.ipc"), QSettings::IniFormat);
+            file.setValue(QStringLiteral("target_device"), device.id());
+            file.setValue(QStringLiteral("type"), QStringLiteral("tarvo.tarvo_orix_m1"));
+            file.setValue(QStringLiteral("version"), QStringLiteral("1.0"));
+            for (auto it = options.begin(); it != options.end(); ++it)
+                file.setValue(QLatin1String("Config/") + it.key(), it.value());
+        }
+        TestSupport::write(path("main.c"), "#include \"tarvo_orix_m1.h\"\n"
+                                           "int main(void) { return 0; }\n");
+        const Run run = simulate(words({"x.ipc", "--c", "main.c", "--timeout", "5000"}));
+        QVERIFY2(run.status == 0,
+                 qPrintable(device.id() + u'\n' + run.err.left(3000) +
+                            QString::fromUtf8(TestSupport::contentsOf(path("x.ipc")))));
+    }
+
+    void aKillLeavesNothing_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::newRow("SIGINT") << SIGINT;
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGKILL") << SIGKILL;
+    }
+
+    void aKillLeavesNothing()
+    {
+        QFETCH(int, signal);
+        TestSupport::write(path("main.c"),
+                           semihosting +
+                               "int main(void) { call(4, \"begun\\n\"); for (;;) { } }\n");
+        const TestSupport::Mark mark;
+        QProcess process;
+        QProcessEnvironment environment = environmentOf({});
+        environment.insert(QString::fromLatin1(mark.name()), QString::fromLatin1(mark.value()));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_dir->path());
+        process.start(
+            QStringLiteral(TARVO_COMMAND),
+            words({"simulate", "--c", "main.c", "--timeout", "1000000000", "--waves", "run.fst"})
+                << example);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            process.bytesAvailable() > 0 || process.state() == QProcess::NotRunning, 60000);
+        QCOMPARE(process.readAllStandardOutput(), QByteArray("semihosting: begun\n"));
+        QVERIFY(mark.processes().size() >= 3);
+        ::kill(pid_t(process.processId()), signal);
+        QTRY_VERIFY_WITH_TIMEOUT(process.state() == QProcess::NotRunning, 60000);
+        if (signal != SIGKILL) {
+            QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+            QCOMPARE(process.exitCode(), 130);
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(mark.processes(), QList<qint64>(), 60000);
+        QCOMPARE(TestSupport::entriesOf(path("scratch")), QStringList());
+        QVERIFY(!QFileInfo::exists(path("run.fst")));
+    }
+
+private:
+    QString path(const char *name) const { return m_dir->filePath(QString::fromUtf8(name)); }
+
+    QJsonObject jsonIn(const char *name) const
+    {
+        return QJsonDocument::fromJson(TestSupport::contentsOf(path(name))).object();
+    }
+
+    // `tools`: the only folder on PATH; empty: as it is.
+    QProcessEnvironment environmentOf(const QString &tools) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("TMPDIR"), path("scratch"));
+        if (!tools.isEmpty())
+            environment.insert(QStringLiteral("PATH"), tools);
+        return environment;
+    }
+
+    Run simulate(const QStringList &arguments, const QString &tools = {}) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(environmentOf(tools));
+        process.setWorkingDirectory(m_dir->path());
+        process.start(QStringLiteral(TARVO_COMMAND),
+                      QStringList{QStringLiteral("simulate")} + arguments);
+        if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+TARVO_TEST_MAIN(QCoreApplication, tst_CliSimulate)
+#include "tst_clisimulate.moc"
