@@ -84,10 +84,9 @@ inline Outcome runInEmulator(const QByteArray &elf)
     emulator.start(
         QStringLiteral("sh"),
         {QStringLiteral("-c"),
-         QStringLiteral("ulimit -c 0; exec timeout -s KILL 60 \"$0\" -M microbit -nographic "
-                        "-monitor none -serial none -semihosting-config "
-                        "enable=on,target=native -kernel program.elf"),
-         QStringLiteral(QEMU_SYSTEM_ARM)});
+         QStringLiteral("ulimit -c 0; exec timeout -s KILL 60 qemu-system-arm -M microbit "
+                        "-nographic -monitor none -serial none -semihosting-config "
+                        "enable=on,target=native -kernel program.elf")});
     const bool ended = emulator.waitForFinished(90'000);
     if (!ended) {
         emulator.kill();
