@@ -372,9 +372,12 @@ void Processor::executeSystem(const Instruction &instruction, std::uint16_t firs
     case InstructionKind::BranchExchange:
     case InstructionKind::BranchLinkExchange: {
         const std::uint32_t target = registerValue(first >> 3 & 15);
-        if (instruction.kind == InstructionKind::BranchLinkExchange)
+        if (instruction.kind == InstructionKind::BranchLinkExchange) {
             m_instructions.setValue(InstructionSet::linkRegister, next | 1);
-        exchange(target);
+            jump(target);
+        } else {
+            exchange(target);
+        }
         return;
     }
     case InstructionKind::SupervisorCall:
@@ -456,15 +459,21 @@ void Processor::popAndBranch(std::uint16_t code)
     exchange(values[8]);
 }
 
-// To an address whose lowest bit names the state, or out of an exception.
+// To an address whose lowest bit names the state.
+void Processor::jump(std::uint32_t target)
+{
+    m_programCounter = target & ~1u;
+    m_isThumb = target & 1;
+}
+
+// The same, or out of an exception.
 void Processor::exchange(std::uint32_t target)
 {
     if (m_running != 0 && target >> 28 == 0xF) {
         leave(target);
         return;
     }
-    m_programCounter = target & ~1u;
-    m_isThumb = target & 1;
+    jump(target);
 }
 
 void Processor::callSupervisor()

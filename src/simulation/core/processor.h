@@ -106,6 +106,7 @@ private:
     void executeSystem(const Instruction &instruction, std::uint16_t first, std::uint16_t second);
     bool isMisaligned(std::uint16_t access) const;
     void popAndBranch(std::uint16_t code);
+    void jump(std::uint32_t target);
     void exchange(std::uint32_t target);
     void callSupervisor();
     void moveToSpecial(int number, std::uint32_t value);

@@ -310,6 +310,14 @@ private Q_SLOTS:
             << QByteArray("0xFFFFFFF9") << QByteArray("4294967288");
     }
 
+    // Only BX and POP leave a handler.
+    void doesNotLeaveAHandlerByACall()
+    {
+        const Result result = run("svc 0\nbkpt 1\nsvc: log 1\nldr r0, =0xFFFFFFF9\nblx r0\n"
+                                  "fault: ldr r0, [sp, #24]\nstr r0, [r7]\nbkpt 0");
+        QCOMPARE(result.log, QByteArray("1 4294967288"));
+    }
+
     void faultsAtTheTargetOfAJump()
     {
         QFETCH(QByteArray, target);
