@@ -87,10 +87,12 @@ Utils::Result<FirmwareImage> readElfImage(const QByteArray &bytes)
         library->memory(copy.data(), size_t(copy.size())), library->end);
     if (!elf)
         return Utils::Failure{"it is no ELF file: "_l1 + library->reason()};
+    // What is something else, or too short to tell, is no mistake to the library.
+    if (library->kind(elf.get()) != ELF_K_ELF)
+        return Utils::Failure{QStringLiteral("it is no ELF file")};
     GElf_Ehdr header;
     size_t count = 0;
-    if (library->kind(elf.get()) != ELF_K_ELF || !library->getehdr(elf.get(), &header) ||
-        library->getphdrnum(elf.get(), &count) != 0)
+    if (!library->getehdr(elf.get(), &header) || library->getphdrnum(elf.get(), &count) != 0)
         return Utils::Failure{"it is no complete ELF file: "_l1 + library->reason()};
     if (const QString reason = unsuitable(header); !reason.isEmpty())
         return Utils::Failure{reason};
