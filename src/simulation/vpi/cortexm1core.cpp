@@ -5,14 +5,19 @@
 //
 // with inputs {reset, NMI, HREADY, HRESP, IRQ, HRDATA} and outputs {done, passed, SYSRESETREQ,
 // LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}.
+//
+// With +gdb=PORT a debugger may connect to the port of the loop-back address; 0 takes a free one,
+// and a line says which. The simulation stands still while the debugger has the program halted.
 #include "core/core.h"
 #include "core/elfimage.h"
+#include "core/tcplink.h"
 
 #include <vpi_user.h>
 
 #include <cstdlib>
 #include <exception>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -22,6 +27,7 @@ namespace
 constexpr std::size_t mostOutput = 1 << 20; // bytes; a program that floods is cut off
 
 struct Instance {
+    std::unique_ptr<CortexM1::TcpLink> debugger;
     std::unique_ptr<CortexM1::Core> core;
     std::string mistake; // why there is no core
     std::size_t printed = 0;
@@ -76,6 +82,37 @@ void print(Instance &instance, const std::string &piece)
         vpi_printf("%s", piece.c_str());
 }
 
+// What stands behind +NAME= on the simulator's command line; null without it.
+const char *plusArgument(const std::string &name)
+{
+    s_vpi_vlog_info info;
+    if (!vpi_get_vlog_info(&info))
+        return nullptr;
+    const std::string start = "+" + name + "=";
+    for (int i = 0; i < info.argc; ++i) {
+        if (std::string(info.argv[i]).compare(0, start.size(), start) == 0)
+            return info.argv[i] + start.size();
+    }
+    return nullptr;
+}
+
+void openDebugger(Instance &instance)
+{
+    const char *argument = plusArgument("gdb");
+    if (!argument)
+        return;
+    const std::string digits = argument;
+    const bool isNumber = !digits.empty() && digits.size() <= 5 &&
+                          digits.find_first_not_of("0123456789") == std::string::npos;
+    const int port = isNumber ? std::stoi(digits) : -1;
+    if (port < 0 || port > 65535)
+        throw std::runtime_error("+gdb takes a port from 0 to 65535, not \"" + digits + "\"");
+    instance.debugger = std::make_unique<CortexM1::TcpLink>(static_cast<std::uint16_t>(port));
+    instance.core->attach(*instance.debugger);
+    vpi_printf("The program waits for gdb at 127.0.0.1:%d\n", int(instance.debugger->port()));
+    vpi_flush();
+}
+
 void open(Instance &instance, const std::vector<vpiHandle> &args)
 {
     std::string firmware = text(args[1]);
@@ -100,6 +137,8 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
         std::vector<std::uint8_t> contents(configuration.itcmBytes);
         instance.mistake = CortexM1::readElf(firmware, configuration.hasUpperAlias, contents);
         instance.core->processor().setInstructionMemory(contents);
+        if (instance.mistake.empty())
+            openDebugger(instance);
     } catch (const std::exception &error) {
         instance.mistake = error.what();
     }
