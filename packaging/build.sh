@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# packaging/build.sh [--quiet] PRESET [TARGET …]: installs what is missing, configures and builds, one caller at a time.
+# packaging/build.sh [--quiet] PRESET [TARGET …]: installs what is missing (without TARGET also what the tests need),
+# configures and builds, one caller at a time.
 # With --quiet it speaks only when something fails.
 set -euo pipefail
 
@@ -30,7 +31,8 @@ if [[ $quiet && ! -d build/$preset/bin ]]; then
     echo "Building, which takes a few minutes the first time …" >&2
 fi
 
-packaging/setup.sh {lock}>&-
+# Everything is built for the tests.
+packaging/setup.sh $( (($#)) || echo --tests) {lock}>&-
 build() {
     cmake --preset "$preset" && cmake --build --preset "$preset" ${1+--target "$@"}
 }

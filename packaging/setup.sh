@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian packages of debian-packages.txt that this machine lacks. Prints nothing when there is nothing
-# to do.
+# packaging/setup.sh [--tests]: installs the Debian packages of debian-packages.txt that this machine lacks, with --tests
+# those for the tests too. Prints nothing when there is nothing to do.
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-mapfile -t wanted < <(sed 's/#.*//; s/[[:space:]]//g; /^$/d' "$here/debian-packages.txt")
+mapfile -t wanted < <(sed 's/#.*//' "$here/debian-packages.txt" |
+    awk -v tests="${1:-}" 'NF == 1 || (NF == 2 && $2 == "tests" && tests == "--tests") { print $1 }')
 
 find_missing() {
     missing=()

@@ -9,15 +9,10 @@
 #include <firmware/itcmfiles.h>
 #include <reading/limits.h>
 #include <reading/plainfile.h>
-#include <rules/itcmpath.h>
-#include <utils/filereplacement.h>
-#include <utils/fileutils.h>
+#include <utils/fileplacement.h>
 
 #include <QDir>
 #include <QFileInfo>
-
-#include <memory>
-#include <vector>
 
 namespace Cli
 {
@@ -32,53 +27,12 @@ QString quoted(const QString &path)
     return u'"' + path + u'"';
 }
 
-// Where the files go: where the user says, else where the configuration looks for them already,
-// else beside it.
+// Where the files go: where the user says, else where the configuration has them.
 QString folderFor(const IpcDocument &document, const QString &outDir)
 {
-    if (!outDir.isEmpty())
-        return QDir::cleanPath(QFileInfo(outDir).absoluteFilePath());
-    const QString path = textOf(document.options, Key::itcmInitializationPath);
-    if (isOn(document.options, Key::initializeItcm) && !path.isEmpty())
-        return QDir::cleanPath(absoluteItcmPath(path, document.folder()));
-    return document.folder() + QLatin1String("/itcm");
+    return outDir.isEmpty() ? itcmFolder(document.options, document.folder())
+                            : QDir::cleanPath(QFileInfo(outDir).absoluteFilePath());
 }
-
-// The four files, all or none.
-class Placement
-{
-public:
-    Utils::Result<void> place(const ItcmFiles &files, const QString &folder)
-    {
-        QString error;
-        if (!Utils::FileUtils::makePath(folder, &error))
-            return Utils::Failure{error};
-        for (int lane = 0; lane < ItcmFiles::count; ++lane) {
-            m_paths.append(folder + u'/' + ItcmFiles::fileName(lane));
-            m_files.push_back(std::make_unique<Utils::FileReplacement>(m_paths.last()));
-            if (!m_files.back()->prepare(files.texts[size_t(lane)], &error))
-                return Utils::Failure{error};
-        }
-        for (; m_placed < m_files.size(); ++m_placed) {
-            if (!m_files[m_placed]->place(&error)) {
-                revert();
-                return Utils::Failure{error};
-            }
-        }
-        return {};
-    }
-    void revert()
-    {
-        while (m_placed > 0)
-            m_files[--m_placed]->revert();
-    }
-    const QStringList &paths() const { return m_paths; }
-
-private:
-    std::vector<std::unique_ptr<Utils::FileReplacement>> m_files;
-    QStringList m_paths;
-    size_t m_placed = 0;
-};
 
 Utils::Result<FirmwareImage> imageFrom(const FirmwareArguments &arguments)
 {
@@ -141,8 +95,11 @@ int runFirmware(Environment &environment, const FirmwareArguments &arguments)
                       BadInput);
 
     const QString folder = folderFor(document, arguments.outDir);
-    Placement placement;
-    if (const Utils::Result<void> placed = placement.place(*files, folder); !placed)
+    QVector<Utils::PlacedFile> contents;
+    for (int lane = 0; lane < ItcmFiles::count; ++lane)
+        contents.append({ItcmFiles::fileName(lane), files->texts[size_t(lane)]});
+    Utils::FilePlacement placement;
+    if (const Utils::Result<void> placed = placement.place(folder, contents); !placed)
         return refuse(placed.reason(), Failed);
     bool changed = false;
     if (arguments.initialise) {

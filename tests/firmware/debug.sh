@@ -126,6 +126,9 @@ fi
 
 # What comes and goes without a packet leaves the program waiting; of two only the first one is served.
 start +gdb=0
+start +gdb=0
+listening=$(printf ':%04X 00000000:0000 0A' "$port")
+[[ $(grep -hoE "[0-9A-F]+$listening" /proc/net/tcp /proc/net/tcp6) == "0100007F$listening" ]] || fail "it listens elsewhere"
 exec 3<> "/dev/tcp/127.0.0.1/$port" 4<> "/dev/tcp/127.0.0.1/$port"
 read -rt 10 -n 1 <&4 && fail "two debuggers at once"
 (($? <= 1)) || fail "the second debugger has to wait"
@@ -210,6 +213,14 @@ mistake "the port $taken cannot be opened for a debugger: Address already in use
 kill "$first"
 wait "$first" || true
 simulator=
-# Without a debugger nobody listens.
-timeout 30 vvp -n -M "$modules" -m cortexm1core board +firmware=program.elf > simulation
+# Without the argument nobody listens.
+vvp -n -M "$modules" -m cortexm1core board +firmware=program.elf > simulation &
+simulator=$! looks=0
+while files=$(readlink /proc/"$simulator"/fd/*); do
+    [[ $files != *socket:* ]] || fail "a socket without +gdb"
+    looks=$((looks + 1))
+done 2> /dev/null
+((looks > 0)) || fail "nobody has looked"
+wait "$simulator" || fail "the simulator ended with $?"
+simulator=
 [[ $(cat simulation) == $'PASS\nBOARD PASS' ]] || fail "without a debugger"

@@ -236,6 +236,9 @@ int main(int argc, char *argv[])
         save(&window, "workbench-datasheet", false);
     }
 
+    software->showProgram();
+    save(&window, "workbench-program", false);
+
     if (all)
         savePicturesOfCare(window);
 

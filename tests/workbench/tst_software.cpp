@@ -1,6 +1,8 @@
 #include "hands.h"
 
+#include <workbench/kept/keptconfigurations.h>
 #include <workbench/software/paper.h>
+#include <workbench/software/programpart.h>
 #include <workbench/software/softwarebrowser.h>
 #include <workbench/software/softwaredocument.h>
 #include <workbench/software/softwaremodel.h>
@@ -10,6 +12,7 @@
 #include <workbench/widgets/infobar.h>
 
 #include <QAbstractItemModelTester>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -17,6 +20,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTreeView>
 
 using namespace Workbench;
@@ -184,6 +188,84 @@ private Q_SLOTS:
         QVERIFY2(read.reason().size() < 300, qPrintable(read.reason()));
     }
 
+    void refusesHostilePrograms_data()
+    {
+        QTest::addColumn<QVariantMap>("answer");
+        QTest::addColumn<QString>("named");
+        const auto row = [](const char *name, const char *key, const QVariant &value,
+                            const char *named) {
+            QVariantMap answer = goodProgram();
+            answer.insert(QString::fromLatin1(key), value);
+            QTest::newRow(name) << answer << QString::fromLatin1(named);
+        };
+        const auto fileOf = [](const QVariant &path, const QVariant &bytes = QByteArray("a")) {
+            return QVariantMap{{QStringLiteral("path"), path}, {QStringLiteral("bytes"), bytes}};
+        };
+        const QString name = QStringLiteral("a");
+        for (const char *path : {"../a", "/etc/a", "a/b", "", ".a", "..", "a\nb", "a\\b", "c:a"})
+            row(path, "files", QVariantList{fileOf(QString::fromLatin1(path))}, "path");
+        row("a path that is a number", "files", QVariantList{fileOf(3)}, "no map");
+        row("bytes that are a text", "files", QVariantList{fileOf(name, name)}, "no map");
+        row("a file that is a text", "files", QVariantList{name}, "no map");
+        row("a file twice", "files", QVariantList{fileOf(name), fileOf(name)}, "twice");
+        row("a file of 17 MiB", "files", QVariantList{fileOf(name, QByteArray(17 << 20, 'x'))},
+            "16 MiB");
+        QVariantList many;
+        for (int i = 0; i < 65; ++i)
+            many.append(fileOf(QString::number(i)));
+        row("65 files", "files", many, "64");
+        row("no files", "files", QVariantList(), "files");
+        row("files that are a number", "files", 3, "files");
+        row("more used than there is", "used", 30, "size");
+        row("numbers that do not agree", "free", 3, "size");
+        row("a size below 0", "size", -16, "size");
+        row("a size that is a text", "size", QStringLiteral("16"), "size");
+        row("no size", "size", {}, "size");
+        row("warnings that are a number", "warnings", 3, "warnings");
+        row("a warning of two lines", "warnings", QStringList{QStringLiteral("a\nb")}, "warnings");
+        row("a warning of 3000 characters", "warnings", QStringList{QString(3000, u'x')},
+            "warnings");
+        QStringList warnings;
+        for (int i = 0; i < 101; ++i)
+            warnings.append(QString::number(i));
+        row("101 warnings", "warnings", warnings, "warnings");
+        row("an error that is a list", "error", QVariantList{1}, "error");
+        QTest::newRow("nothing") << QVariantMap() << QStringLiteral("files");
+    }
+    void refusesHostilePrograms()
+    {
+        QFETCH(QVariantMap, answer);
+        QFETCH(QString, named);
+        QVERIFY(SoftwareSet::programOf(goodProgram()));
+        const auto read = SoftwareSet::programOf(answer);
+        QVERIFY(!read);
+        QVERIFY2(read.reason().contains(named), qPrintable(read.reason()));
+        QVERIFY2(read.reason().size() < 300, qPrintable(read.reason()));
+    }
+
+    void refusesHostileStarts()
+    {
+        const QVariantMap good{{QStringLiteral("error"), QString()},
+                               {QStringLiteral("folder"), QStringLiteral("/a/../b")},
+                               {QStringLiteral("changed"), true}};
+        const auto read = SoftwareSet::startOf(good);
+        QVERIFY(read);
+        QCOMPARE(read->folder, QStringLiteral("/b"));
+        const auto refused = [&good](const char *key, const QVariant &value) {
+            QVariantMap answer = good;
+            answer.insert(QString::fromLatin1(key), value);
+            const auto start = SoftwareSet::startOf(answer);
+            return !start && start.reason().contains(QLatin1String(key));
+        };
+        QVERIFY(refused("folder", QStringLiteral("b")));
+        QVERIFY(refused("folder", QStringLiteral("/b\n")));
+        QVERIFY(refused("folder", 3));
+        QVERIFY(refused("folder", {}));
+        QVERIFY(refused("changed", QStringLiteral("true")));
+        QVERIFY(refused("changed", {}));
+        QVERIFY(refused("error", 3));
+    }
+
     void refusesHostileFormats_data()
     {
         QTest::addColumn<QVariantList>("answer");
@@ -232,6 +314,13 @@ private Q_SLOTS:
         QVERIFY2(error.contains(QLatin1String("Blinker")), qPrintable(error));
         error.clear();
         QVERIFY(!catalogue.exportSoftware(0, {}, {}, &files, &error));
+        QVERIFY2(error.contains(QLatin1String("Blinker")), qPrintable(error));
+        QVERIFY(!catalogue.canTakePrograms(0));
+        error.clear();
+        QVERIFY(!catalogue.firmwareFiles(0, {}, {}, &files, &error));
+        QVERIFY2(error.contains(QLatin1String("Blinker")), qPrintable(error));
+        error.clear();
+        QVERIFY(!catalogue.startFromFirmware(0, {}, {}, true, &files, &error));
         QVERIFY2(error.contains(QLatin1String("Blinker")), qPrintable(error));
     }
 
@@ -454,7 +543,7 @@ private Q_SLOTS:
         for (const char *part : {"Tells programs", "Standard: C99", "Checked by: gcc"})
             QVERIFY2(label("formatPurpose").contains(QLatin1String(part)), part);
         QVERIFY(text(page).contains(QLatin1String("#define LAMPS 7")));
-        const auto *preview = page->findChild<QStackedWidget *>();
+        const auto *preview = page->findChild<QStackedWidget *>(QStringLiteral("softwarePreview"));
         page->select(QStringLiteral("sheet/lamp.html"));
         auto *document = page->findChild<SoftwareBrowser *>();
         QCOMPARE(preview->currentWidget(), document);
@@ -628,6 +717,138 @@ private Q_SLOTS:
         QVERIFY2(told(page).contains(QLatin1String("nowhere")), qPrintable(told(page)));
     }
 
+    // Programs
+
+    void aProgramIsOfferedWhereThePluginTakesOne()
+    {
+        SoftwarePage *page = open();
+        QVERIFY(!page->programPart());
+        const auto *parts = page->findChild<QTabBar *>(QStringLiteral("softwareParts"));
+        QVERIFY(parts->isHidden());
+        QVERIFY(!page->findChild<ProgramPart *>()->isVisible());
+        page = open("taking");
+        QVERIFY(page->programPart() && !page->programPart()->isVisible());
+        QVERIFY(page->findChild<QTabBar *>(QStringLiteral("softwareParts"))->isVisible());
+        page->showProgram();
+        QVERIFY(page->programPart()->isVisible());
+        QCOMPARE(page->programPart()->folder(), glow());
+        QVERIFY(!page->findChild<QPushButton *>(QStringLiteral("programWriteButton"))->isEnabled());
+    }
+
+    void makesTheFilesOfAProgramAndSetsTheConfiguration()
+    {
+        ProgramPart *part = openProgram("taking", "?12345678");
+        const QByteArray before = contentsOf(ipc());
+        part->findChild<QPushButton *>(QStringLiteral("programWriteButton"))->click();
+        QCOMPARE(filesIn(glow()), (QStringList{QStringLiteral("glow0"), QStringLiteral("glow1")}));
+        QCOMPARE(contentsOf(glow() + QStringLiteral("/glow0")), QByteArray("?1234567"));
+        QCOMPARE(contentsOf(glow() + QStringLiteral("/glow1")), QByteArray("8"));
+        for (const char *told : {"9 of 16 bytes are used, 7 are free", "The lamp may stay dark.",
+                                 "glow0, glow1", "starts from them now"})
+            QVERIFY2(part->told().contains(QLatin1String(told)), qPrintable(part->told()));
+        QVERIFY(contentsOf(ipc()).contains("Glow=" + glow().toUtf8()));
+        const auto *kept = m_bench->window->findChild<KeptConfigurations *>();
+        QCOMPARE(contentsOf(kept->newest().copy), before);
+        QVERIFY(part->writeFiles());
+        QVERIFY2(part->told().contains(QLatin1String("already")), qPrintable(part->told()));
+    }
+
+    void leavesTheConfigurationAloneUnlessTicked()
+    {
+        ProgramPart *part = openProgram("taking", "1");
+        part->findChild<QCheckBox *>(QStringLiteral("programInitializeBox"))->click();
+        part->setFolder(QStringLiteral("my/lamps"));
+        const QByteArray before = contentsOf(ipc());
+        QVERIFY(part->writeFiles());
+        QCOMPARE(filesIn(QFileInfo(ipc()).path() + QStringLiteral("/my/lamps")).size(), 2);
+        QVERIFY2(part->told().contains(QLatin1String("does not start")), qPrintable(part->told()));
+        QCOMPARE(contentsOf(ipc()), before);
+        // What the user has chosen stays when the configuration changes.
+        writeLamps(9, "TV5K-138B-PBGA484-C1/I0");
+        part->refresh();
+        QVERIFY(part->folder().endsWith(QLatin1String("/my/lamps")));
+    }
+
+    void proposesTheFolderOfTheConfiguration()
+    {
+        ProgramPart *part = openProgram("taking", "1");
+        write(ipc(), contentsOf(ipc()) + "Glow=/elsewhere/glow\n");
+        QTRY_COMPARE(part->folder(), QStringLiteral("/elsewhere/glow"));
+    }
+
+    void nothingOfAProgramIsHalfWritten_data()
+    {
+        QTest::addColumn<QString>("plugin");
+        QTest::addColumn<QByteArray>("image");
+        QTest::addColumn<QString>("named");
+        const QByteArray good("1");
+        const auto row = [](const char *name, const char *plugin, const QByteArray &image,
+                            const char *named) {
+            QTest::newRow(name) << QString::fromLatin1(plugin) << image
+                                << QString::fromLatin1(named);
+        };
+        row("a program that does not fit", "taking", QByteArray(17, '1'), "The lamp is too small.");
+        row("a plug-in that throws", "throwing-taking", good, "the lamp is hot");
+        row("no files", "garbling-taking", good, "\"files\"");
+        row("a file outside of the folder", "outside-taking", good, "../glow1");
+        row("a configuration that cannot be set", "stuck-taking", good,
+            "The lamp is screwed down.");
+        row("no such program", "taking", QByteArray(), "app.bin");
+    }
+    void nothingOfAProgramIsHalfWritten()
+    {
+        QFETCH(QString, plugin);
+        QFETCH(QByteArray, image);
+        QFETCH(QString, named);
+        ProgramPart *part = openProgram(qPrintable(plugin), image);
+        const QByteArray before = contentsOf(ipc());
+        QVERIFY(!part->writeFiles());
+        QVERIFY2(part->told().contains(named), qPrintable(part->told()));
+        QVERIFY(!QFileInfo::exists(glow()));
+        QCOMPARE(contentsOf(ipc()), before);
+    }
+
+    void tellsWhyTheFilesOfAProgramCannotBeWritten()
+    {
+        ProgramPart *part = openProgram("taking", "123456789");
+        const QByteArray before = contentsOf(ipc());
+        write(m_bench->folder() + QStringLiteral("/taken"), "x");
+        part->setFolder(m_bench->folder() + QStringLiteral("/taken"));
+        QVERIFY(!part->writeFiles());
+        QVERIFY2(part->told().contains(QLatin1String("/taken")), qPrintable(part->told()));
+        // All or none: the second file cannot have its place.
+        const QString folder = m_bench->folder() + QStringLiteral("/half");
+        QDir().mkpath(folder + QStringLiteral("/glow1"));
+        write(folder + QStringLiteral("/glow0"), "old");
+        part->setFolder(folder);
+        QVERIFY(!part->writeFiles());
+        QVERIFY2(part->told().contains(QLatin1String("glow1")), qPrintable(part->told()));
+        QCOMPARE(contentsOf(folder + QStringLiteral("/glow0")), QByteArray("old"));
+        QCOMPARE(contentsOf(ipc()), before);
+    }
+
+    void theConfiguratorTakesPrograms()
+    {
+        m_bench = std::make_unique<Bench>("blinker");
+        m_bench->window->openProject(m_bench->makeProject());
+        const QString path = m_bench->window->project()->path() + QStringLiteral("/ip/sensor.ipc");
+        QDir().mkpath(QFileInfo(path).path());
+        write(path, contentsOf(QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc")));
+        const QString app = QFileInfo(path).path() + QStringLiteral("/app.bin");
+        write(app, QByteArray("\x00\x04\x00\x20\x09\x00\x00\x00\xFE\xE7\xFE\xE7", 12));
+        ProgramPart *part = m_bench->window->showSoftware(path)->programPart();
+        QVERIFY(part);
+        QVERIFY2(part->folder().endsWith(QLatin1String("/itcm")), qPrintable(part->folder()));
+        part->setImage(app);
+        QVERIFY2(part->writeFiles(), qPrintable(part->told()));
+        QVERIFY2(part->told().contains(QLatin1String("12 of 16384 bytes are used")),
+                 qPrintable(part->told()));
+        QCOMPARE(filesIn(part->folder()).size(), 4);
+        QVERIFY2(contentsOf(path).contains("ITCM"), contentsOf(path).constData());
+        QVERIFY(part->writeFiles());
+        QVERIFY2(part->told().contains(QLatin1String("already")), qPrintable(part->told()));
+    }
+
     void theActionLeadsToThePageOfTheSelectedIp()
     {
         m_bench = std::make_unique<Bench>("exporting");
@@ -697,6 +918,37 @@ private:
         m_bench->window->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
         writeLamps(7, "TV5K-138B-PBGA484-C1/I0");
         return m_bench->window->showSoftware(ipc());
+    }
+
+    QString glow() const { return QFileInfo(ipc()).path() + QStringLiteral("/glow"); }
+
+    // Its part for programs, with one in "app.bin" beside the configuration; empty: there is none.
+    ProgramPart *openProgram(const char *plugin, const QByteArray &image)
+    {
+        SoftwarePage *page = open(plugin);
+        page->showProgram();
+        ProgramPart *part = page->programPart();
+        if (!image.isEmpty())
+            write(QFileInfo(ipc()).path() + QStringLiteral("/app.bin"), image);
+        part->setImage(QStringLiteral("app.bin"));
+        return part;
+    }
+
+    static QStringList filesIn(const QString &folder)
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    static QVariantMap goodProgram()
+    {
+        return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("files"),
+                 QVariantList{QVariantMap{{QStringLiteral("path"), QStringLiteral("a")},
+                                          {QStringLiteral("bytes"), QByteArray("a")}}}},
+                {QStringLiteral("size"), 16},
+                {QStringLiteral("used"), 1},
+                {QStringLiteral("free"), 15},
+                {QStringLiteral("warnings"), QStringList()}};
     }
 
     static QString text(SoftwarePage *page)

@@ -7,6 +7,7 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/messages/logview.h>
 #include <workbench/results/resultpage.h>
+#include <workbench/software/programpart.h>
 #include <workbench/software/softwarepage.h>
 #include <workbench/widgets/infobar.h>
 #include <workbench/window/helpwindow.h>
@@ -35,7 +36,7 @@ class TestWindows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_bench = std::make_unique<Bench>("exporting"); }
+    void init() { m_bench = std::make_unique<Bench>("taking"); }
     void cleanup()
     {
         m_bench.reset();
@@ -90,7 +91,7 @@ private Q_SLOTS:
         QFont large = m_font;
         large.setPointSize(16);
         QApplication::setFont(large);
-        m_bench = std::make_unique<Bench>("exporting");
+        m_bench = std::make_unique<Bench>("taking");
         show(
             [](QWidget *window) { QCOMPARE(cutOff(window, smallScreen()).join(u';'), QString()); });
     }
@@ -581,12 +582,27 @@ private:
         QCoreApplication::processEvents();
     }
 
+    // Its part for programs, with long names and what became of one.
+    void showProgram() const
+    {
+        showSoftware("lamp.h");
+        SoftwarePage *page = window()->findChild<SoftwarePage *>();
+        page->showProgram();
+        ProgramPart *part = page->programPart();
+        QVERIFY(part);
+        const QString image = QStringLiteral("a_program_with_a_long_name_").repeated(6);
+        write(QFileInfo(page->ipcFile()).path() + u'/' + image, "?12345678");
+        part->setImage(image);
+        QVERIFY2(part->writeFiles(), qPrintable(part->told()));
+        QCoreApplication::processEvents();
+    }
+
     static void addScenes()
     {
         QTest::addColumn<QString>("scene");
         for (const char *scene :
              {"start", "project", "editor", "results", "log", "new project", "device", "plug-ins",
-              "about", "line", "guide", "message", "kept", "software", "datasheet"})
+              "about", "line", "guide", "message", "kept", "software", "datasheet", "program"})
             QTest::newRow(scene) << QString::fromLatin1(scene);
     }
 
@@ -631,6 +647,8 @@ private:
                 m_bench->action("Results of the Last Run")->trigger();
             if (scene == QLatin1String("software") || scene == QLatin1String("datasheet"))
                 showSoftware(scene == QLatin1String("software") ? "lamp.h" : "sheet/lamp.html");
+            if (scene == QLatin1String("program"))
+                showProgram();
             if (scene == QLatin1String("log"))
                 window()->findChild<QTabWidget *>(QStringLiteral("outputTabs"))->setCurrentIndex(1);
             lookOnce(window());

@@ -5,6 +5,7 @@
 #include "filereplacement.h"
 #include "fileutils.h"
 #include "folderlock.h"
+#include "madefolders.h"
 #include "tr.h"
 
 #include <reading/limits.h>
@@ -269,7 +270,7 @@ public:
         if (const Result<void> checked = checkPaths(m_bundle); !checked)
             return Failure{checked.reason()};
         QString error;
-        if (!makeFolder(QDir::cleanPath(QFileInfo(m_bundle.folder).absoluteFilePath()), &error))
+        if (!m_folders.make(QDir::cleanPath(QFileInfo(m_bundle.folder).absoluteFilePath()), &error))
             return Failure{error};
         m_lock = FolderLock::take(m_bundle.folder, &error);
         if (!m_lock)
@@ -299,23 +300,10 @@ private:
         QFile::Permissions permissions;
     };
 
-    bool makeFolder(const QString &folder, QString *error)
-    {
-        QStringList missing;
-        QFileInfo info(folder);
-        while (!info.exists() && info.absolutePath() != info.absoluteFilePath()) {
-            missing.prepend(info.absoluteFilePath());
-            info.setFile(info.absolutePath());
-        }
-        // Some may be made before another cannot be.
-        m_folders += missing;
-        return FileUtils::makePath(folder, error);
-    }
-
     bool add(const QString &place, const QByteArray &bytes, const Item *item, QString *error)
     {
         Replaced replaced{std::make_unique<FileReplacement>(place), place, item, {}};
-        if (!makeFolder(QFileInfo(place).absolutePath(), error) ||
+        if (!m_folders.make(QFileInfo(place).absolutePath(), error) ||
             !replaced.replacement->prepare(bytes, error))
             return false;
         m_replaced.push_back(std::move(replaced));
@@ -492,8 +480,7 @@ private:
             m_replaced.at(size_t(--m_placed)).replacement->revert();
         m_replaced.clear();
         m_lock.reset();
-        for (auto folder = m_folders.crbegin(); folder != m_folders.crend(); ++folder)
-            QDir().rmdir(*folder);
+        m_folders.takeBack();
     }
 
     const Bundle &m_bundle;
@@ -502,7 +489,7 @@ private:
     std::vector<Replaced> m_replaced; // in the order in which they are placed
     std::vector<Removed> m_removed;
     QSet<QString> m_kept;
-    QStringList m_folders; // that did not exist, outermost first
+    MadeFolders m_folders;
     int m_placed = 0;
     bool m_isDone = false;
 };

@@ -2,6 +2,8 @@
 #include "parts.h"
 #include "registers/registerdocs.h"
 
+#include <QLibrary>
+
 #include <gelf.h>
 #include <libelf.h>
 
@@ -13,12 +15,51 @@ namespace TARVOORIXM1
 namespace
 {
 
-using Handle = std::unique_ptr<Elf, decltype(&elf_end)>;
-
-QString libraryReason()
+// Loaded with the first ELF image, so that programs and plug-ins start without it.
+class ElfLibrary
 {
-    return QString::fromUtf8(elf_errmsg(-1));
-}
+public:
+    // Null where the machine does not have it.
+    static const ElfLibrary *instance()
+    {
+        static ElfLibrary library;
+        return library.m_isWhole ? &library : nullptr;
+    }
+
+    decltype(&elf_version) version = nullptr;
+    decltype(&elf_errmsg) errmsg = nullptr;
+    decltype(&elf_memory) memory = nullptr;
+    decltype(&elf_end) end = nullptr;
+    decltype(&elf_kind) kind = nullptr;
+    decltype(&elf_getphdrnum) getphdrnum = nullptr;
+    decltype(&gelf_getehdr) getehdr = nullptr;
+    decltype(&gelf_getphdr) getphdr = nullptr;
+
+    QString reason() const { return QString::fromUtf8(errmsg(-1)); }
+
+private:
+    ElfLibrary()
+    {
+        take("elf_version", &version);
+        take("elf_errmsg", &errmsg);
+        take("elf_memory", &memory);
+        take("elf_end", &end);
+        take("elf_kind", &kind);
+        take("elf_getphdrnum", &getphdrnum);
+        take("gelf_getehdr", &getehdr);
+        take("gelf_getphdr", &getphdr);
+        m_isWhole = m_isWhole && version(EV_CURRENT) != EV_NONE;
+    }
+    template <typename Function>
+    void take(const char *name, Function *function)
+    {
+        *function = m_isWhole ? reinterpret_cast<Function>(m_library.resolve(name)) : nullptr;
+        m_isWhole = *function != nullptr;
+    }
+
+    QLibrary m_library{QStringLiteral("elf"), 1}; // libelf.so.1
+    bool m_isWhole = true;
+};
 
 // What kind of ELF file it is and why that is no program for the processor, as a clause; empty if
 // it is one.
@@ -37,16 +78,20 @@ QString unsuitable(const GElf_Ehdr &header)
 
 Utils::Result<FirmwareImage> readElfImage(const QByteArray &bytes)
 {
-    elf_version(EV_CURRENT);
+    const ElfLibrary *library = ElfLibrary::instance();
+    if (!library)
+        return Utils::Failure{
+            QStringLiteral("ELF images need libelf.so.1, which is not installed")};
     QByteArray copy = bytes; // the library asks for memory of its own, though it only reads
-    const Handle elf(elf_memory(copy.data(), size_t(copy.size())), elf_end);
+    const std::unique_ptr<Elf, decltype(library->end)> elf(
+        library->memory(copy.data(), size_t(copy.size())), library->end);
     if (!elf)
-        return Utils::Failure{"it is no ELF file: "_l1 + libraryReason()};
+        return Utils::Failure{"it is no ELF file: "_l1 + library->reason()};
     GElf_Ehdr header;
     size_t count = 0;
-    if (elf_kind(elf.get()) != ELF_K_ELF || !gelf_getehdr(elf.get(), &header) ||
-        elf_getphdrnum(elf.get(), &count) != 0)
-        return Utils::Failure{"it is no complete ELF file: "_l1 + libraryReason()};
+    if (library->kind(elf.get()) != ELF_K_ELF || !library->getehdr(elf.get(), &header) ||
+        library->getphdrnum(elf.get(), &count) != 0)
+        return Utils::Failure{"it is no complete ELF file: "_l1 + library->reason()};
     if (const QString reason = unsuitable(header); !reason.isEmpty())
         return Utils::Failure{reason};
 
@@ -60,8 +105,8 @@ Utils::Result<FirmwareImage> readElfImage(const QByteArray &bytes)
             return Utils::Failure{"segment "_l1 + QString::number(i) + ": "_l1 + reason};
         };
         GElf_Phdr segment;
-        if (!gelf_getphdr(elf.get(), int(i), &segment))
-            return fail("cannot be read: "_l1 + libraryReason());
+        if (!library->getphdr(elf.get(), int(i), &segment))
+            return fail("cannot be read: "_l1 + library->reason());
         if (segment.p_type != PT_LOAD || segment.p_filesz == 0)
             continue;
         const quint64 size = quint64(bytes.size());

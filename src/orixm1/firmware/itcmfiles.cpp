@@ -2,7 +2,9 @@
 
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
+#include "config/optionvalue.h"
 #include "registers/registerdocs.h"
+#include "rules/itcmpath.h"
 
 #include <QDir>
 
@@ -120,6 +122,14 @@ Utils::Result<ItcmFiles> itcmFiles(const FirmwareImage &image, const SystemMap &
         files.warnings.append(
             QStringLiteral("The entry point of the ELF file is no byte of the image."));
     return files;
+}
+
+QString itcmFolder(const OptionMap &options, const QString &ipcFolder)
+{
+    const QString path = textOf(options, Key::itcmInitializationPath);
+    if (isOn(options, Key::initializeItcm) && !path.isEmpty())
+        return QDir::cleanPath(absoluteItcmPath(path, ipcFolder));
+    return ipcFolder + "/itcm"_l1;
 }
 
 OptionMap withItcmFiles(OptionMap options, const QString &folder, const QString &createIn)

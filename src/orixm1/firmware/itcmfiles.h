@@ -28,6 +28,10 @@ struct ItcmFiles {
 // the image has bytes outside of it, or is for the other byte order.
 Utils::Result<ItcmFiles> itcmFiles(const FirmwareImage &image, const SystemMap &map);
 
+// Where the files of a configuration in the folder `ipcFolder` go if nobody says otherwise: where
+// it looks for them already, else beside it. A full path.
+QString itcmFolder(const OptionMap &options, const QString &ipcFolder);
+
 // The options with which a generation starts the ITCM from the files in `folder`, an absolute
 // path. One below `createIn`, the output folder, is stored relative to it, as the dialog does.
 OptionMap withItcmFiles(OptionMap options, const QString &folder, const QString &createIn);

@@ -2,6 +2,7 @@
 
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
+#include "system/description.h"
 
 #include <dev/devicedb.h>
 
@@ -56,6 +57,23 @@ Utils::Result<Configuration> readConfiguration(const QString &ipcFile, const QSt
     IpcFile::readOptions(settings, read.options);
     read.others = IpcFile::otherEntries(settings);
     return read;
+}
+
+Utils::Result<SystemMap> readSystem(const QString &ipcFile, const QString &ipId,
+                                    const QString &dataPath, const DEV::DeviceDb &devices)
+{
+    const Utils::Result<Configuration> read = readConfiguration(ipcFile, ipId, devices);
+    if (!read)
+        return Utils::Failure{read.reason()};
+    if (read->device.isNull())
+        return Utils::Failure{read->deviceText.isEmpty()
+                                  ? QString(shownPath(ipcFile) + " names no device."_l1)
+                                  : QString(shownPath(ipcFile) + " is made for the device \""_l1 +
+                                            read->deviceText + "\", which is not known."_l1)};
+    const Utils::Result<SystemDescription> description = readSystemDescription(dataPath);
+    if (!description)
+        return Utils::Failure{description.reason()};
+    return systemMap(read->options, read->device, *description);
 }
 
 } // namespace TARVOORIXM1

@@ -2,6 +2,8 @@
 
 #include "config/optionmap.h"
 
+#include "system/systemmap.h"
+
 #include <dev/devicearg.h>
 #include <utils/result.h>
 
@@ -29,6 +31,11 @@ struct Configuration {
 // file and the reason.
 Utils::Result<Configuration> readConfiguration(const QString &ipcFile, const QString &ipId,
                                                const DEV::DeviceDb &devices);
+
+// The subsystem that such a file configures. `dataPath` is the folder with the IP's registers. A
+// failure, a sentence, also where the file names no device or one that is not known.
+Utils::Result<SystemMap> readSystem(const QString &ipcFile, const QString &ipId,
+                                    const QString &dataPath, const DEV::DeviceDb &devices);
 
 // The path as sentences name it.
 QString shownPath(const QString &path);

@@ -3,10 +3,6 @@
 #include "config/latin1literal.h"
 #include "configuration.h"
 #include "export/format.h"
-#include "system/description.h"
-#include "system/systemmap.h"
-
-#include <dev/devicedb.h>
 
 namespace TARVOORIXM1
 {
@@ -58,21 +54,12 @@ QVariantMap exportSoftware(const QString &ipcFile, const QStringList &formats, c
     const QVector<const Format *> wanted = chosen(formats, &unknown);
     if (!unknown.isEmpty())
         return answer("There is no format "_l1 + unknown.join(", "_l1) + u'.');
-    const Utils::Result<Configuration> read = readConfiguration(ipcFile, ipId, devices);
-    if (!read)
-        return answer(read.reason());
-    if (read->device.isNull())
-        return answer(read->deviceText.isEmpty()
-                          ? QString(shownPath(ipcFile) + " names no device."_l1)
-                          : QString(shownPath(ipcFile) + " is made for the device \""_l1 +
-                                    read->deviceText + "\", which is not known."_l1));
-    const Utils::Result<SystemDescription> description = readSystemDescription(dataPath);
-    if (!description)
-        return answer(description.reason());
-    const SystemMap map = systemMap(read->options, read->device, *description);
+    const Utils::Result<SystemMap> map = readSystem(ipcFile, ipId, dataPath, devices);
+    if (!map)
+        return answer(map.reason());
     QVariantList files;
     for (const Format *format : wanted) {
-        const QVector<ExportedFile> made = format->files(map);
+        const QVector<ExportedFile> made = format->files(*map);
         for (const ExportedFile &file : made)
             files.append(QVariantMap{{QStringLiteral("path"), file.path},
                                      {QStringLiteral("format"), QString(format->name)},

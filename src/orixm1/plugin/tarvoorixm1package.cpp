@@ -1,6 +1,7 @@
 #include "tarvoorixm1package.h"
 
 #include "exportsoftware.h"
+#include "firmware.h"
 #include "movetodevice.h"
 #include "tarvoorixm1.h"
 
@@ -48,6 +49,19 @@ QVariantMap TarvoOrixM1Package::exportSoftware(const QString &ipcFile,
 {
     return TARVOORIXM1::exportSoftware(ipcFile, formats, idOf(dataPath()), dataPath(),
                                        *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::firmwareFiles(const QString &ipcFile, const QByteArray &image) const
+{
+    return TARVOORIXM1::firmwareFiles(ipcFile, image, idOf(dataPath()), dataPath(),
+                                      *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::startFromFirmware(const QString &ipcFile, const QString &folder,
+                                                  bool write)
+{
+    return TARVOORIXM1::startFromFirmware(ipcFile, folder, write, idOf(dataPath()),
+                                          *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -31,6 +31,12 @@ public:
     Q_INVOKABLE QVariantList softwareFormats() const;
     Q_INVOKABLE QVariantMap exportSoftware(const QString &ipcFile,
                                            const QStringList &formats) const;
+
+    // For hosts that ask for it by name: the way of a program into the memory from which the
+    // processor starts, see firmware.h. The first writes nothing, the second only with `write`.
+    Q_INVOKABLE QVariantMap firmwareFiles(const QString &ipcFile, const QByteArray &image) const;
+    Q_INVOKABLE QVariantMap startFromFirmware(const QString &ipcFile, const QString &folder,
+                                              bool write);
 };
 
 } // namespace TARVOORIXM1

@@ -31,6 +31,8 @@ namespace
 constexpr const char *moveMethod = "moveToDevice(QString,QString,bool)";
 constexpr const char *formatsMethod = "softwareFormats()";
 constexpr const char *exportMethod = "exportSoftware(QString,QStringList)";
+constexpr const char *programMethod = "firmwareFiles(QString,QByteArray)";
+constexpr const char *startMethod = "startFromFirmware(QString,QString,bool)";
 constexpr int probesAtOnce = 4;
 
 // By library; {"stamp", "reason"}.
@@ -48,6 +50,13 @@ QSet<QString> &goodStamps()
 {
     static QSet<QString> stamps;
     return stamps;
+}
+
+// Whether the object, which may be null, has an invokable method that returns this type.
+bool returns(const QObject *root, const char *method, int type)
+{
+    const int number = root ? root->metaObject()->indexOfMethod(method) : -1;
+    return number >= 0 && root->metaObject()->method(number).returnType() == type;
 }
 
 QString plainName(const QString &name)
@@ -346,50 +355,80 @@ bool IpCatalogue::moveToDevice(int index, const QString &ipcFile, const QString 
 bool IpCatalogue::canExport(int index) const
 {
     const QObject *root = m_cores.at(size_t(index)).root;
-    const auto returns = [root](const char *method, int type) {
-        const int number = root->metaObject()->indexOfMethod(method);
-        return number >= 0 && root->metaObject()->method(number).returnType() == type;
-    };
-    return root && returns(formatsMethod, QMetaType::QVariantList) &&
-           returns(exportMethod, QMetaType::QVariantMap);
+    return returns(root, formatsMethod, QMetaType::QVariantList) &&
+           returns(root, exportMethod, QMetaType::QVariantMap);
 }
 
 bool IpCatalogue::softwareFormats(int index, QVariantList *answer, QString *error) const
 {
     const Core &core = m_cores.at(size_t(index));
-    bool called = false;
-    if (!run(
-            core,
-            [&] {
-                called = canExport(index) && QMetaObject::invokeMethod(
-                                                 core.root, "softwareFormats", Qt::DirectConnection,
-                                                 Q_RETURN_ARG(QVariantList, *answer));
-            },
-            error))
-        return false;
-    if (!called)
-        *error = Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name);
-    return called;
+    return ask(
+        core, canExport(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(root, "softwareFormats", Qt::DirectConnection,
+                                             Q_RETURN_ARG(QVariantList, *answer));
+        },
+        Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name), error);
 }
 
 bool IpCatalogue::exportSoftware(int index, const QString &ipcFile, const QStringList &formats,
                                  QVariantMap *answer, QString *error) const
 {
     const Core &core = m_cores.at(size_t(index));
+    return ask(
+        core, canExport(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(root, "exportSoftware", Qt::DirectConnection,
+                                             Q_RETURN_ARG(QVariantMap, *answer),
+                                             Q_ARG(QString, ipcFile), Q_ARG(QStringList, formats));
+        },
+        Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name), error);
+}
+
+bool IpCatalogue::canTakePrograms(int index) const
+{
+    const QObject *root = m_cores.at(size_t(index)).root;
+    return returns(root, programMethod, QMetaType::QVariantMap) &&
+           returns(root, startMethod, QMetaType::QVariantMap);
+}
+
+bool IpCatalogue::firmwareFiles(int index, const QString &ipcFile, const QByteArray &image,
+                                QVariantMap *answer, QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    return ask(
+        core, canTakePrograms(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(root, "firmwareFiles", Qt::DirectConnection,
+                                             Q_RETURN_ARG(QVariantMap, *answer),
+                                             Q_ARG(QString, ipcFile), Q_ARG(QByteArray, image));
+        },
+        Tr::tr("The plug-in of %1 takes no programs.").arg(core.name), error);
+}
+
+bool IpCatalogue::startFromFirmware(int index, const QString &ipcFile, const QString &folder,
+                                    bool write, QVariantMap *answer, QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    return ask(
+        core, canTakePrograms(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(
+                root, "startFromFirmware", Qt::DirectConnection, Q_RETURN_ARG(QVariantMap, *answer),
+                Q_ARG(QString, ipcFile), Q_ARG(QString, folder), Q_ARG(bool, write));
+        },
+        Tr::tr("The plug-in of %1 takes no programs.").arg(core.name), error);
+}
+
+bool IpCatalogue::ask(const Core &core, bool isOffered, const std::function<bool(QObject *)> &call,
+                      const QString &refusal, QString *error) const
+{
     bool called = false;
     if (!run(
-            core,
-            [&] {
-                called =
-                    canExport(index) &&
-                    QMetaObject::invokeMethod(core.root, "exportSoftware", Qt::DirectConnection,
-                                              Q_RETURN_ARG(QVariantMap, *answer),
-                                              Q_ARG(QString, ipcFile), Q_ARG(QStringList, formats));
-            },
-            error))
+            core, [&] { called = isOffered && call(core.root); }, error))
         return false;
     if (!called)
-        *error = Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name);
+        *error = refusal;
     return called;
 }
 

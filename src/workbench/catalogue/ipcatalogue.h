@@ -90,6 +90,16 @@ public:
     bool exportSoftware(int index, const QString &ipcFile, const QStringList &formats,
                         QVariantMap *answer, QString *error) const;
 
+    // Whether the plug-in takes programs for its IP's memory: its root object has the invokables
+    // QVariantMap firmwareFiles(const QString &ipcFile, const QByteArray &image) const and
+    // QVariantMap startFromFirmware(const QString &ipcFile, const QString &folder, bool write).
+    bool canTakePrograms(int index) const;
+    // As above.
+    bool firmwareFiles(int index, const QString &ipcFile, const QByteArray &image,
+                       QVariantMap *answer, QString *error) const;
+    bool startFromFirmware(int index, const QString &ipcFile, const QString &folder, bool write,
+                           QVariantMap *answer, QString *error) const;
+
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
     // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,
     // "_" and "-" count for nothing ("my_fine_ip"). Without one it is the library's own folder.
@@ -113,6 +123,9 @@ private:
     bool loadLibraries(const QStringList &paths);
     bool take(LoadedPlugin plugin, const QString &path, const QString &dataFolder);
     bool run(const Core &core, const std::function<void()> &call, QString *error) const;
+    // Asks the root object for something optional; `refusal` says that it is not there.
+    bool ask(const Core &core, bool isOffered, const std::function<bool(QObject *)> &call,
+             const QString &refusal, QString *error) const;
     void fail(const QString &library, const QString &reason);
 
     QStringList m_dataFolders;

@@ -26,6 +26,7 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -34,6 +35,8 @@ namespace Workbench
 
 namespace
 {
+
+enum Part { FilesPart, ProgramRow };
 
 constexpr int previewLimit = 1 << 20; // bytes of a text
 
@@ -55,6 +58,9 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     , m_ipcFile(ipcFile)
     , m_model(new SoftwareModel(this))
     , m_infoBar(new InfoBar)
+    , m_parts(new QTabBar)
+    , m_stack(new QStackedWidget)
+    , m_program(new ProgramPart(source.program, ipcFile))
     , m_heading(makeLabel(QStringLiteral("softwareHeading")))
     , m_about(makeLabel(QStringLiteral("softwareAbout")))
     , m_tree(new QTreeView)
@@ -87,12 +93,28 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     // Sizes are shares until the page has one of its own.
     halves->setSizes({1000, 1300});
     halves->setChildrenCollapsible(false);
+    auto *files = new QWidget;
+    auto *filesLayout = new QVBoxLayout(files);
+    filesLayout->setContentsMargins(0, 0, 0, 0);
+    filesLayout->addWidget(halves, 1);
+    buildFolderRow(filesLayout);
+    m_stack->addWidget(files);
+    m_stack->addWidget(m_program);
+    m_parts->setObjectName(QStringLiteral("softwareParts"));
+    m_parts->setAccessibleName(tr("Parts of the page"));
+    m_parts->setDrawBase(false);
+    m_parts->addTab(tr("&Software Files"));
+    m_parts->addTab(tr("Pro&gram"));
+    m_parts->setTabToolTip(ProgramRow, tr("A program for the memory of the IP"));
+    connect(m_parts, &QTabBar::currentChanged, m_stack, &QStackedWidget::setCurrentIndex);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_heading);
+    auto *head = new QHBoxLayout; // a row of their own would cost small screens the preview
+    head->addWidget(m_heading, 1);
+    head->addWidget(m_parts);
+    layout->addLayout(head);
     layout->addWidget(m_about);
     layout->addWidget(m_infoBar);
-    layout->addWidget(halves, 1);
-    buildFolderRow();
+    layout->addWidget(m_stack, 1);
     forwardFocus(this, m_tree);
 
     m_heading->setToolTip(QDir::toNativeSeparators(ipcFile));
@@ -154,6 +176,7 @@ void SoftwarePage::buildRight(QWidget *right)
     m_text->setTabStopDistance(8 * m_text->fontMetrics().horizontalAdvance(u' '));
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setMargin(fontMetrics().height());
+    m_preview->setObjectName(QStringLiteral("softwarePreview"));
     m_preview->addWidget(m_message);
     m_preview->addWidget(m_text);
     m_preview->addWidget(m_document);
@@ -168,7 +191,7 @@ void SoftwarePage::buildRight(QWidget *right)
     layout->addWidget(m_preview, 1);
 }
 
-void SoftwarePage::buildFolderRow()
+void SoftwarePage::buildFolderRow(QVBoxLayout *layout)
 {
     m_folder->setObjectName(QStringLiteral("exportFolderEdit"));
     m_browse->setObjectName(QStringLiteral("exportFolderButton"));
@@ -197,9 +220,29 @@ void SoftwarePage::buildFolderRow()
     buttons->addWidget(m_pdf);
     buttons->addWidget(m_check);
     buttons->addWidget(m_export);
-    auto *layout = static_cast<QVBoxLayout *>(this->layout());
     layout->addLayout(place);
     layout->addLayout(buttons);
+}
+
+ProgramPart *SoftwarePage::programPart() const
+{
+    return m_parts->isHidden() ? nullptr : m_program;
+}
+
+void SoftwarePage::showProgram()
+{
+    if (programPart())
+        m_parts->setCurrentIndex(ProgramRow);
+}
+
+void SoftwarePage::refreshProgram()
+{
+    const bool isOffered = m_source.program.isOffered();
+    m_parts->setVisible(isOffered);
+    if (isOffered)
+        m_program->refresh();
+    else
+        m_parts->setCurrentIndex(FilesPart);
 }
 
 QString SoftwarePage::folder() const
@@ -254,6 +297,7 @@ void SoftwarePage::checkDisk()
     const QVector<SoftwareFile> files = m_model->files();
     m_isRead = bool(bytes);
     m_configuration = bytes ? *bytes : QByteArray();
+    refreshProgram();
     if (!bytes) {
         fail(bytes.reason());
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "programpart.h"
 #include "softwareset.h"
 
 #include <QFileSystemWatcher>
@@ -14,7 +15,9 @@ QT_FORWARD_DECLARE_CLASS(QModelIndex)
 QT_FORWARD_DECLARE_CLASS(QPlainTextEdit)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
+QT_FORWARD_DECLARE_CLASS(QTabBar)
 QT_FORWARD_DECLARE_CLASS(QTreeView)
+QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 
 namespace Utils
 {
@@ -30,7 +33,8 @@ class SoftwareBrowser;
 class SoftwareModel;
 
 // What a plug-in makes of a configuration for software: the formats, a look at each file, and a
-// folder to export them to. Follows the configuration's file on the disk.
+// folder to export them to; and the way back, a program for the IP's memory, if the plug-in takes
+// one. Follows the configuration's file on the disk.
 class SoftwarePage : public QWidget
 {
     Q_OBJECT
@@ -41,6 +45,7 @@ public:
         std::function<Utils::Result<QVector<SoftwareFormat>>()> formats;
         // Of these formats, or of all without a name.
         std::function<Utils::Result<SoftwareSet::Answer>(const QVector<SoftwareFormat> &)> files;
+        ProgramPart::Source program;
     };
 
     SoftwarePage(const Source &source, const QString &ipcFile, QWidget *parent = nullptr);
@@ -48,6 +53,10 @@ public:
     const QString &ipcFile() const { return m_ipcFile; }
     SoftwareModel *model() const { return m_model; }
     InfoBar *infoBar() const { return m_infoBar; }
+    // Null as long as the plug-in takes no programs.
+    ProgramPart *programPart() const;
+    // Brings it to the front.
+    void showProgram();
     // Full path.
     QString folder() const;
     void setFolder(const QString &folder);
@@ -71,7 +80,8 @@ protected:
 private:
     void buildLeft(QWidget *left);
     void buildRight(QWidget *right);
-    void buildFolderRow();
+    void buildFolderRow(QVBoxLayout *layout);
+    void refreshProgram();
     void watch();
     void readAnew();
     void fail(const QString &reason);
@@ -95,6 +105,9 @@ private:
     QTimer m_diskTimer;
     SoftwareModel *m_model;
     InfoBar *m_infoBar;
+    QTabBar *m_parts;
+    QStackedWidget *m_stack;
+    ProgramPart *m_program;
     QLabel *m_heading;
     QLabel *m_about;
     QTreeView *m_tree;

@@ -3,6 +3,7 @@
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/ipsession.h"
 #include "editor/editortabs.h"
+#include "kept/keptconfigurations.h"
 #include "softwarepage.h"
 #include "tr.h"
 #include "widgets/symbolicon.h"
@@ -17,7 +18,8 @@ namespace
 {
 
 // The plug-in of a configuration, which may name another IP the next time that it is asked.
-SoftwarePage::Source sourceOf(const IpCatalogue &catalogue, const QString &ipcFile)
+SoftwarePage::Source sourceOf(const IpCatalogue &catalogue, KeptConfigurations &kept,
+                              const QString &ipcFile)
 {
     const auto indexOf = [&catalogue, ipcFile](QString *error) {
         const QString type = IpSession::typeOf(ipcFile, error);
@@ -59,14 +61,49 @@ SoftwarePage::Source sourceOf(const IpCatalogue &catalogue, const QString &ipcFi
             return unusable(ip, files.reason());
         return files;
     };
+    source.program.isOffered = [&catalogue, indexOf] {
+        QString error;
+        const int ip = indexOf(&error);
+        return ip >= 0 && catalogue.canTakePrograms(ip);
+    };
+    source.program.files = [&catalogue, ipcFile, indexOf, unusable](
+                               const QByteArray &image) -> Utils::Result<SoftwareSet::Program> {
+        QString error;
+        QVariantMap answer;
+        const int ip = indexOf(&error);
+        if (ip < 0 || !catalogue.firmwareFiles(ip, ipcFile, image, &answer, &error))
+            return Utils::Failure{error};
+        Utils::Result<SoftwareSet::Program> program = SoftwareSet::programOf(answer);
+        if (!program)
+            return unusable(ip, program.reason());
+        return program;
+    };
+    source.program.start = [&catalogue, ipcFile, indexOf,
+                            unusable](const QString &folder,
+                                      bool write) -> Utils::Result<SoftwareSet::Start> {
+        QString error;
+        QVariantMap answer;
+        const int ip = indexOf(&error);
+        if (ip < 0 || !catalogue.startFromFirmware(ip, ipcFile, folder, write, &answer, &error))
+            return Utils::Failure{error};
+        Utils::Result<SoftwareSet::Start> start = SoftwareSet::startOf(answer);
+        if (!start)
+            return unusable(ip, start.reason());
+        return start;
+    };
+    source.program.keep = [&kept, ipcFile](QString *error) {
+        return kept.keepFile(ipcFile, error);
+    };
     return source;
 }
 
 } // namespace
 
-SoftwarePages::SoftwarePages(const IpCatalogue &catalogue, EditorTabs &tabs, QWidget *window)
+SoftwarePages::SoftwarePages(const IpCatalogue &catalogue, KeptConfigurations &kept,
+                             EditorTabs &tabs, QWidget *window)
     : QObject(window)
     , m_catalogue(catalogue)
+    , m_kept(kept)
     , m_tabs(tabs)
     , m_window(window)
 {
@@ -77,7 +114,7 @@ SoftwarePage *SoftwarePages::show(const QString &ipcFile)
     const QString path = QFileInfo(ipcFile).absoluteFilePath();
     SoftwarePage *&page = m_pages[path];
     if (!page) {
-        page = new SoftwarePage(sourceOf(m_catalogue, path), path, m_window);
+        page = new SoftwarePage(sourceOf(m_catalogue, m_kept, path), path, m_window);
         page->hide();
     }
     m_tabs.showPage(page, symbolIcon(QStringLiteral("ip-file")),

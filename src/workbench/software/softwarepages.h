@@ -8,6 +8,7 @@ namespace Workbench
 
 class EditorTabs;
 class IpCatalogue;
+class KeptConfigurations;
 class SoftwarePage;
 
 // The pages on the software of IPs, one for each configuration that was asked for. They close with
@@ -18,7 +19,8 @@ class SoftwarePages : public QObject
 
 public:
     // All of it must outlive this; the tabs show the pages.
-    SoftwarePages(const IpCatalogue &catalogue, EditorTabs &tabs, QWidget *window);
+    SoftwarePages(const IpCatalogue &catalogue, KeptConfigurations &kept, EditorTabs &tabs,
+                  QWidget *window);
 
     // Brings the page of a configuration to the front.
     SoftwarePage *show(const QString &ipcFile);
@@ -29,6 +31,7 @@ public:
 
 private:
     const IpCatalogue &m_catalogue;
+    KeptConfigurations &m_kept;
     EditorTabs &m_tabs;
     QWidget *m_window;
     QHash<QString, SoftwarePage *> m_pages; // by full path

@@ -2,8 +2,8 @@
 
 #include "tr.h"
 
+#include <QDir>
 #include <QSet>
-#include <QStringList>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -58,10 +58,115 @@ QString pathMistake(const QString &path)
     return {};
 }
 
+bool isTooLarge(const QByteArray &bytes, qint64 *size)
+{
+    *size += bytes.size();
+    return bytes.size() > SoftwareSet::fileLimit || *size > SoftwareSet::setLimit;
+}
+
+Utils::Failure tooLarge(const QString &path)
+{
+    return {Tr::tr("the file %1 is too large: a file may have %2 MiB, all of them together %3 MiB")
+                .arg(shown(path))
+                .arg(SoftwareSet::fileLimit >> 20)
+                .arg(SoftwareSet::setLimit >> 20)};
+}
+
+// A number of bytes.
+bool takeCount(const QVariantMap &map, const QString &key, qint64 *count)
+{
+    const QVariant value = map.value(key);
+    const int type = value.userType();
+    *count = type == QMetaType::Int || type == QMetaType::LongLong ? value.toLongLong() : -1;
+    return *count >= 0;
+}
+
+// A failure of its own, a sentence; false if it is none.
+bool takeError(const QVariantMap &answer, QString *error)
+{
+    return takeText(answer, QStringLiteral("error"), error);
+}
+
+QString badError()
+{
+    return Tr::tr("its \"error\" is no text of a line");
+}
+
 } // namespace
 
 namespace SoftwareSet
 {
+
+Utils::Result<Program> programOf(const QVariantMap &answer)
+{
+    Program program;
+    if (!takeError(answer, &program.error))
+        return Utils::Failure{badError()};
+    if (!program.error.isEmpty())
+        return program;
+    const QVariant list = answer.value(QStringLiteral("files"));
+    if (list.userType() != QMetaType::QVariantList || list.toList().isEmpty())
+        return Utils::Failure{Tr::tr("its \"files\" are no list of files")};
+    const QVariantList entries = list.toList();
+    if (entries.size() > programFileLimit)
+        return Utils::Failure{Tr::tr("it makes more than %1 files").arg(programFileLimit)};
+    QSet<QString> names;
+    qint64 size = 0;
+    for (const QVariant &entry : entries) {
+        const QVariantMap map = entry.toMap();
+        const QVariant bytes = map.value(QStringLiteral("bytes"));
+        const QVariant path = map.value(QStringLiteral("path"));
+        if (entry.userType() != QMetaType::QVariantMap || path.userType() != QMetaType::QString ||
+            bytes.userType() != QMetaType::QByteArray)
+            return Utils::Failure{Tr::tr("one of its files is no map with a path and bytes")};
+        const Utils::PlacedFile file{path.toString(), bytes.toByteArray()};
+        const QString mistake = file.name.contains(u'/')
+                                    ? Tr::tr("it does not name a file of the folder")
+                                    : pathMistake(file.name);
+        if (!mistake.isEmpty())
+            return Utils::Failure{
+                Tr::tr("it has a file with the path %1: %2").arg(shown(file.name), mistake)};
+        if (names.contains(file.name))
+            return Utils::Failure{Tr::tr("it has the file %1 twice").arg(shown(file.name))};
+        names.insert(file.name);
+        if (isTooLarge(file.bytes, &size))
+            return tooLarge(file.name);
+        program.files.append(file);
+    }
+    qint64 free = 0;
+    if (!takeCount(answer, QStringLiteral("size"), &program.size) ||
+        !takeCount(answer, QStringLiteral("used"), &program.used) ||
+        !takeCount(answer, QStringLiteral("free"), &free) || program.used > program.size ||
+        free != program.free())
+        return Utils::Failure{
+            Tr::tr("its \"size\", \"used\" and \"free\" are no numbers that agree")};
+    const QVariant warnings = answer.value(QStringLiteral("warnings"));
+    program.warnings = warnings.toStringList();
+    if ((warnings.isValid() && warnings.userType() != QMetaType::QStringList) ||
+        program.warnings.size() > warningLimit ||
+        std::any_of(program.warnings.cbegin(), program.warnings.cend(),
+                    [](const QString &text) { return text.size() > textLimit || !isPlain(text); }))
+        return Utils::Failure{Tr::tr("its \"warnings\" are no texts of a line")};
+    return program;
+}
+
+Utils::Result<Start> startOf(const QVariantMap &answer)
+{
+    Start start;
+    if (!takeError(answer, &start.error))
+        return Utils::Failure{badError()};
+    if (!start.error.isEmpty())
+        return start;
+    if (!takeText(answer, QStringLiteral("folder"), &start.folder) ||
+        !QDir::isAbsolutePath(start.folder))
+        return Utils::Failure{Tr::tr("its \"folder\" is no full path")};
+    start.folder = QDir::cleanPath(start.folder);
+    const QVariant changed = answer.value(QStringLiteral("changed"));
+    if (changed.userType() != QMetaType::Bool)
+        return Utils::Failure{Tr::tr("its \"changed\" is neither true nor false")};
+    start.changed = changed.toBool();
+    return start;
+}
 
 Utils::Result<QVector<SoftwareFormat>> formatsOf(const QVariantList &answer)
 {
@@ -101,8 +206,8 @@ Utils::Result<QVector<SoftwareFormat>> formatsOf(const QVariantList &answer)
 Utils::Result<Answer> filesOf(const QVariantMap &answer, const QVector<SoftwareFormat> &formats)
 {
     Answer result;
-    if (!takeText(answer, QStringLiteral("error"), &result.error))
-        return Utils::Failure{Tr::tr("its \"error\" is no text of a line")};
+    if (!takeError(answer, &result.error))
+        return Utils::Failure{badError()};
     if (!result.error.isEmpty())
         return result;
     QString manifest;
@@ -152,13 +257,8 @@ Utils::Result<Answer> filesOf(const QVariantMap &answer, const QVector<SoftwareF
             folders.insert(folder);
         }
         paths.insert(file.path);
-        size += file.bytes.size();
-        if (file.bytes.size() > fileLimit || size > setLimit)
-            return Utils::Failure{Tr::tr("the file %1 is too large: a file may have %2 MiB, all of "
-                                         "them together %3 MiB")
-                                      .arg(path)
-                                      .arg(fileLimit >> 20)
-                                      .arg(setLimit >> 20)};
+        if (isTooLarge(file.bytes, &size))
+            return tooLarge(file.path);
         files.append(file);
     }
     return result;

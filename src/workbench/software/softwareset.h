@@ -1,9 +1,11 @@
 #pragma once
 
+#include <utils/fileplacement.h>
 #include <utils/result.h>
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
 #include <QVector>
@@ -45,6 +47,8 @@ constexpr int setLimit = 64 << 20;
 constexpr int formatLimit = 100;
 constexpr int fileCountLimit = 2000;
 constexpr int textLimit = 2000; // characters of any text
+constexpr int programFileLimit = 64;
+constexpr int warningLimit = 100;
 
 struct Answer {
     QVector<SoftwareFile> files;
@@ -54,6 +58,25 @@ struct Answer {
     QString error; // why there are no files, a sentence of the plug-in's; empty if all went well
 };
 
+// What becomes of a program: files from which a memory starts with it.
+struct Program {
+    QString error; // why there is none, a sentence of the plug-in's; empty if all went well
+    QVector<Utils::PlacedFile> files;
+    qint64 size = 0;      // bytes of the memory
+    qint64 used = 0;      // by the program
+    QStringList warnings; // sentences
+
+    qint64 free() const { return size - used; }
+};
+// How a configuration starts from such files.
+struct Start {
+    QString error;
+    QString folder;       // of the files, a full path
+    bool changed = false; // the configuration, or it would be
+};
+
+Utils::Result<Program> programOf(const QVariantMap &answer);
+Utils::Result<Start> startOf(const QVariantMap &answer);
 Utils::Result<QVector<SoftwareFormat>> formatsOf(const QVariantList &answer);
 // The files are of these formats.
 Utils::Result<Answer> filesOf(const QVariantMap &answer, const QVector<SoftwareFormat> &formats);

@@ -87,7 +87,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_infoBar(new InfoBar)
     , m_messages(new MessageModel(this))
     , m_lastRun(new LastRun(*m_messages, this))
-    , m_software(new SoftwarePages(catalogue, *m_tabs, this))
+    , m_software(new SoftwarePages(catalogue, *m_kept, *m_tabs, this))
     , m_projectPane(new ProjectPane)
     , m_projectActions(new ProjectActions(*m_tabs, this))
     , m_catalogueView(new CatalogueView(catalogue))

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void refuses_data();
     void refuses();
     void leavesAllFourFilesWhenOneCannotBeWritten();
+    void leavesNoFolderBehindWhenItFails();
+    void needsTheElfLibraryForElfImagesAlone();
 
 private:
     // The words of a command line.
@@ -206,6 +208,40 @@ void tst_CliFirmware::leavesAllFourFilesWhenOneCannotBeWritten()
     QCOMPARE(TestSupport::contentsOf(path(QStringLiteral("fw/itcm0"))), before);
     QCOMPARE(TestSupport::contentsOf(path(QStringLiteral("node.ipc"))), configuration);
     QCOMPARE(TestSupport::entriesOf(path(QStringLiteral("fw"))).size(), 4);
+}
+
+void tst_CliFirmware::leavesNoFolderBehindWhenItFails()
+{
+    QVERIFY(TestSupport::write(path(QStringLiteral("fw")), "x"));
+    QVERIFY(run("firmware app.bin node.ipc --out fw/deep/er").status != 0);
+    QVERIFY(QFile::remove(path(QStringLiteral("fw"))));
+    QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("closed")));
+    QVERIFY(QFile::link(QStringLiteral("/dev/null"), path(QStringLiteral("closed/itcm2"))));
+    QVERIFY(run("firmware app.bin node.ipc --out closed").status != 0);
+    QCOMPARE(QDir(path(QStringLiteral("closed")))
+                 .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+             QStringList(QStringLiteral("itcm2")));
+}
+
+// As on a machine without it.
+void tst_CliFirmware::needsTheElfLibraryForElfImagesAlone()
+{
+    QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("lib")));
+    QVERIFY(TestSupport::write(path(QStringLiteral("lib/libelf.so.1")), {}));
+    QVERIFY(TestSupport::write(path(QStringLiteral("app.elf")), QByteArray("\x7F"
+                                                                           "ELF") +
+                                                                    QByteArray(60, '\0')));
+    const QByteArray before = qgetenv("LD_LIBRARY_PATH");
+    qputenv("LD_LIBRARY_PATH", path(QStringLiteral("lib")).toLocal8Bit());
+    const Run elf = run("firmware app.elf node.ipc");
+    const Run binary = run("firmware app.bin node.ipc");
+    before.isNull() ? qunsetenv("LD_LIBRARY_PATH") : qputenv("LD_LIBRARY_PATH", before);
+    QVERIFY2(
+        elf.err.contains(QStringLiteral("ELF images need libelf.so.1, which is not installed.")),
+        qPrintable(elf.err));
+    QVERIFY(elf.status > 0);
+    QCOMPARE(binary.status, 0);
+    QVERIFY2(!run("firmware app.elf node.ipc").err.contains(QStringLiteral("libelf")), "");
 }
 
 QTEST_GUILESS_MAIN(tst_CliFirmware)

@@ -19,6 +19,7 @@
 #include <QPlainTextEdit>
 #include <QPluginLoader>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -61,11 +62,18 @@ private Q_SLOTS:
     void makesTheFormatsThatAreAskedForAlone();
     void makesNoFilesOfWhatCannotBeRead_data();
     void makesNoFilesOfWhatCannotBeRead();
+    void makesTheFilesOfAProgram();
+    void refusesPrograms_data();
+    void refusesPrograms();
+    void startsTheConfigurationFromAProgram();
+    void needsNoLibraryThatAHostMayLack();
 
 private:
     // As a host calls it: by name.
     QVariantMap moveToDevice(const QString &file, const QString &device, bool write);
     QVariantMap exportSoftware(const QString &file, const QStringList &formats = {});
+    QVariantMap firmwareFiles(const QString &file, const QByteArray &image);
+    QVariantMap startFromFirmware(const QString &file, const QString &folder, bool write);
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -662,6 +670,164 @@ void tst_Plugin::makesNoFilesOfWhatCannotBeRead()
     const QString error = answer.value(QStringLiteral("error")).toString();
     QVERIFY2(error.contains(named), qPrintable(error));
     QVERIFY(answer.value(QStringLiteral("files")).toList().isEmpty());
+}
+
+// Stack pointer 0x20000400, reset vector 9, two branches to themselves.
+static QByteArray program()
+{
+    return {"\x00\x04\x00\x20\x09\x00\x00\x00\xFE\xE7\xFE\xE7", 12};
+}
+
+QVariantMap tst_Plugin::firmwareFiles(const QString &file, const QByteArray &image)
+{
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(plugin(), "firmwareFiles", Qt::DirectConnection,
+                                                 Q_RETURN_ARG(QVariantMap, answer),
+                                                 Q_ARG(QString, file), Q_ARG(QByteArray, image));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+QVariantMap tst_Plugin::startFromFirmware(const QString &file, const QString &folder, bool write)
+{
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(
+        plugin(), "startFromFirmware", Qt::DirectConnection, Q_RETURN_ARG(QVariantMap, answer),
+        Q_ARG(QString, file), Q_ARG(QString, folder), Q_ARG(bool, write));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+// What the command line makes of the same image and configuration.
+void tst_Plugin::makesTheFilesOfAProgram()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    const QByteArray bytes = TestSupport::contentsOf(QStringLiteral(TARVO_EXAMPLE));
+    QVERIFY(TestSupport::write(file, bytes));
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantMap answer = firmwareFiles(file, program());
+    QCOMPARE(answer.value(QStringLiteral("error")), QVariant(QString()));
+    QCOMPARE(answer.value(QStringLiteral("size")), QVariant(16384));
+    QCOMPARE(answer.value(QStringLiteral("used")), QVariant(12));
+    QCOMPARE(answer.value(QStringLiteral("free")), QVariant(16372));
+    QCOMPARE(answer.value(QStringLiteral("warnings")), QVariant(QStringList()));
+    QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
+             QStringList(QStringLiteral("x.ipc")));
+
+    const QString image = dir.filePath(QStringLiteral("app.bin"));
+    QVERIFY(TestSupport::write(image, program()));
+    const QString folder = dir.filePath(QStringLiteral("fw"));
+    QCOMPARE(QProcess::execute(QStringLiteral(TARVO_COMMAND),
+                               {QStringLiteral("firmware"), image, file, QStringLiteral("--out"),
+                                folder, QStringLiteral("--json")}),
+             0);
+    const QVariantList files = answer.value(QStringLiteral("files")).toList();
+    QCOMPARE(files.size(), 4);
+    for (const QVariant &entry : files) {
+        const QString name = entry.toMap().value(QStringLiteral("path")).toString();
+        QVERIFY2(name.startsWith(QLatin1String("itcm")), qPrintable(name));
+        QCOMPARE(entry.toMap().value(QStringLiteral("bytes")).toByteArray(),
+                 TestSupport::contentsOf(folder + u'/' + name));
+    }
+    QVERIFY(firmwareFiles(file, QByteArray(8, '\0'))
+                .value(QStringLiteral("warnings"))
+                .toStringList()
+                .join(u' ')
+                .contains(QLatin1String("reset vector")));
+}
+
+void tst_Plugin::refusesPrograms_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("image");
+    QTest::addColumn<QString>("named");
+    const QByteArray good = TestSupport::contentsOf(QStringLiteral(TARVO_EXAMPLE));
+    QTest::newRow("nothing") << good << QByteArray() << QStringLiteral("empty");
+    QTest::newRow("a broken record")
+        << good << QByteArray(":00000001FE\n") << QStringLiteral("line 1");
+    QTest::newRow("no whole ELF file") << good
+                                       << QByteArray("\x7F"
+                                                     "ELF")
+                                       << QStringLiteral("ELF");
+    QTest::newRow("more than the memory")
+        << good << QByteArray(20000, 'x') << QStringLiteral("16384 bytes");
+    QTest::newRow("no device") << QByteArray("[General]\nversion=1.0\n") << program()
+                               << QStringLiteral("names no device");
+    QTest::newRow("no configuration") << QByteArray() << program() << QStringLiteral("x.ipc");
+}
+
+void tst_Plugin::refusesPrograms()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, image);
+    QFETCH(QString, named);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    if (!bytes.isEmpty())
+        QVERIFY(TestSupport::write(file, bytes));
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantMap answer = firmwareFiles(file, image);
+    const QString error = answer.value(QStringLiteral("error")).toString();
+    QVERIFY2(error.contains(named) && error.endsWith(u'.'), qPrintable(error));
+    QCOMPARE(answer.size(), 1);
+}
+
+void tst_Plugin::startsTheConfigurationFromAProgram()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    const QByteArray bytes = "[General]\nowner=me\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                             "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\nLANG=1\n";
+    QVERIFY(TestSupport::write(file, bytes));
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QString own = dir.filePath(QStringLiteral("itcm"));
+    const QVariantMap told = startFromFirmware(file, QString(), false);
+    QCOMPARE(told, (QVariantMap{{QStringLiteral("error"), QString()},
+                                {QStringLiteral("folder"), own},
+                                {QStringLiteral("changed"), true}}));
+    QCOMPARE(TestSupport::contentsOf(file), bytes);
+    QCOMPARE(startFromFirmware(file, QStringLiteral("itcm"), true), told);
+    const QByteArray after = TestSupport::contentsOf(file);
+    for (const char *line : {"owner=me\n", "LANG=1\n", "TV2KR-18C-QFN88P-C8/I7\n"})
+        QVERIFY2(after.contains(line), after.constData());
+    // The file is the one that the command line writes.
+    QVERIFY(TestSupport::write(file, bytes));
+    const QString image = dir.filePath(QStringLiteral("app.bin"));
+    QVERIFY(TestSupport::write(image, program()));
+    QCOMPARE(QProcess::execute(QStringLiteral(TARVO_COMMAND),
+                               {QStringLiteral("firmware"), image, file,
+                                QStringLiteral("--initialize"), QStringLiteral("--json")}),
+             0);
+    QCOMPARE(TestSupport::contentsOf(file), after);
+    QCOMPARE(startFromFirmware(file, QString(), true).value(QStringLiteral("changed")),
+             QVariant(false));
+    // From then on it has a folder of its own.
+    QCOMPARE(startFromFirmware(file, QStringLiteral("/fw"), true).value(QStringLiteral("changed")),
+             QVariant(true));
+    QCOMPARE(startFromFirmware(file, QString(), false).value(QStringLiteral("folder")),
+             QVariant(QStringLiteral("/fw")));
+    const QVariantMap refused =
+        startFromFirmware(dir.filePath(QStringLiteral("y.ipc")), QString(), true);
+    QVERIFY(refused.value(QStringLiteral("error")).toString().contains(QLatin1String("y.ipc")));
+    QVERIFY(!QFileInfo::exists(dir.filePath(QStringLiteral("y.ipc"))));
+}
+
+// A host that has Qt can load the plug-in.
+void tst_Plugin::needsNoLibraryThatAHostMayLack()
+{
+    QProcess objdump;
+    objdump.start(QStringLiteral("objdump"),
+                  {QStringLiteral("-p"), QStringLiteral(TARVO_PLUGIN_FILE)});
+    QVERIFY(objdump.waitForFinished(-1));
+    const QString text = QString::fromLatin1(objdump.readAllStandardOutput());
+    static const QRegularExpression needed(QStringLiteral("NEEDED +(\\S+)"));
+    static const QRegularExpression known(QStringLiteral(
+        "^(libQt5|libTarvoHost|libstdc\\+\\+|libm\\.|libgcc_s|libc\\.|libasan|libubsan|ld-linux)"));
+    int count = 0;
+    for (auto matches = needed.globalMatch(text); matches.hasNext(); ++count) {
+        const QString library = matches.next().captured(1);
+        QVERIFY2(known.match(library).hasMatch(), qPrintable(library));
+    }
+    QVERIFY(count > 5);
 }
 
 TARVO_TEST_MAIN(QApplication, tst_Plugin)

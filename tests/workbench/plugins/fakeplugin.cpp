@@ -275,6 +275,53 @@ public:
     }
 #endif
 
+#ifdef FAKE_TAKES
+    // A memory of 16 bytes in two files, which it takes from "glow" beside the configuration.
+    Q_INVOKABLE QVariantMap firmwareFiles(const QString &, const QByteArray &image) const
+    {
+        if (is("throwing-taking"))
+            throw std::runtime_error("the lamp is hot");
+        if (is("garbling-taking"))
+            return {{QStringLiteral("files"), 3}};
+        const int size = 16;
+        if (image.size() > size)
+            return {{QStringLiteral("error"), QStringLiteral("The lamp is too small.")}};
+        QStringList warnings;
+        if (image.startsWith('?'))
+            warnings.append(QStringLiteral("The lamp may stay dark."));
+        const auto file = [&](const char *name, const QByteArray &bytes) {
+            return QVariantMap{{QStringLiteral("path"), QString::fromLatin1(name)},
+                               {QStringLiteral("bytes"), bytes}};
+        };
+        return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("files"),
+                 QVariantList{file("glow0", image.left(8)),
+                              file(is("outside-taking") ? "../glow1" : "glow1", image.mid(8))}},
+                {QStringLiteral("size"), size},
+                {QStringLiteral("used"), image.size()},
+                {QStringLiteral("free"), size - image.size()},
+                {QStringLiteral("warnings"), warnings}};
+    }
+    Q_INVOKABLE QVariantMap startFromFirmware(const QString &ipcFile, const QString &folder,
+                                              bool write)
+    {
+        const QString key = QStringLiteral("Config/Glow");
+        QSettings file(ipcFile, QSettings::IniFormat);
+        const QString before = file.value(key).toString();
+        QString place = folder;
+        if (place.isEmpty())
+            place = before.isEmpty() ? QFileInfo(ipcFile).absolutePath() + QStringLiteral("/glow")
+                                     : before;
+        if (write && is("stuck-taking"))
+            return {{QStringLiteral("error"), QStringLiteral("The lamp is screwed down.")}};
+        if (write)
+            file.setValue(key, place);
+        return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("folder"), place},
+                {QStringLiteral("changed"), place != before}};
+    }
+#endif
+
 #ifdef FAKE_MOVES
     // What has more lamps than the name of the new device has letters loses them.
     Q_INVOKABLE QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId,
