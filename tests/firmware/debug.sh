@@ -8,8 +8,14 @@ case=$1 orixm1=$2 data=$3 examples=$4 model=$5 modules=$6
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 tmp=$(mktemp -d)
 simulator=
+guard=(timeout -k 5 60)
 cleanup() {
-    [[ -z $simulator ]] || kill -KILL "$simulator" 2> /dev/null || true
+    # A guard hands SIGTERM on, and SIGKILL later; on its own death it would leave the simulator behind.
+    if [[ -n $simulator ]]; then
+        kill "$simulator" 2> /dev/null || true
+        ((${#guard[@]} > 0)) || kill -KILL "$simulator" 2> /dev/null || true
+        wait "$simulator" 2> /dev/null || true
+    fi
     rm -rf "$tmp"
 }
 trap cleanup EXIT
@@ -42,7 +48,6 @@ expect() { # FILE TEXT
     done
 }
 
-guard=(timeout 60)
 start() { # ARGUMENT…: the simulator; sets simulator and port
     rm -f simulation
     "${guard[@]}" vvp -n -M "$modules" -m cortexm1core board +firmware=program.elf "$@" > simulation 2>&1 &
@@ -196,7 +201,7 @@ for signal in INT TERM HUP; do
     done
 done
 simulator=
-guard=(timeout 60)
+guard=(timeout -k 5 60)
 
 mistake() { # TEXT ARGUMENT…: a simulation that cannot begin
     local text=$1
