@@ -43,7 +43,7 @@ arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -std=c99 -Os -g3 -ffreestanding -nostd
 expect() { # FILE TEXT
     local turns=0
     until grep -qFs -- "$2" "$1"; do
-        ((++turns < 2000)) && kill -0 "$simulator" 2> /dev/null || fail "\"$2\" is missing in $1"
+        ((++turns < 2000)) && kill -0 "$simulator" 2> /dev/null || grep -qFs -- "$2" "$1" || fail "\"$2\" is missing in $1"
         read -rt 0.01 <> <(:) || true
     done
 }
@@ -130,7 +130,6 @@ COMMANDS
 fi
 
 # What comes and goes without a packet leaves the program waiting; of two only the first one is served.
-start +gdb=0
 start +gdb=0
 listening=$(printf ':%04X 00000000:0000 0A' "$port")
 [[ $(grep -hoE "[0-9A-F]+$listening" /proc/net/tcp /proc/net/tcp6) == "0100007F$listening" ]] || fail "it listens elsewhere"
