@@ -220,9 +220,10 @@ simulator=
 # Without the argument nobody listens.
 vvp -n -M "$modules" -m cortexm1core board +firmware=program.elf > simulation &
 simulator=$! looks=0
-while files=$(readlink /proc/"$simulator"/fd/*); do
+while kill -0 "$simulator"; do
+    files=$(readlink /proc/"$simulator"/fd/*) || true # some may close meanwhile
     [[ $files != *socket:* ]] || fail "a socket without +gdb"
-    looks=$((looks + 1))
+    [[ -z $files ]] || looks=$((looks + 1))
 done 2> /dev/null
 ((looks > 0)) || fail "nobody has looked"
 wait "$simulator" || fail "the simulator ended with $?"
