@@ -46,12 +46,25 @@ Core::~Core()
     abandon();
 }
 
+void Core::attach(DebuggerLink &link)
+{
+    m_debugger = std::make_unique<Debugger>(m_processor, link);
+}
+
 // What the coroutine does: a step a cycle, or as many cycles as it has accesses.
 void Core::run()
 {
     for (;;) {
         m_hasTakenTime = false;
-        m_processor.step();
+        if (!m_debugger || m_debugger->mayStep()) {
+            m_processor.step();
+            m_isHeld = m_debugger && m_processor.hasEnded();
+            while (m_isHeld) {
+                m_isHeld = !m_debugger->mayEnd();
+                if (m_isHeld)
+                    m_program.yield();
+            }
+        }
         if (!m_hasTakenTime || m_isAbandoning)
             m_program.yield();
     }
@@ -74,15 +87,18 @@ const Outputs &Core::clock(const Inputs &inputs)
     if (inputs.isReset) {
         abandon();
         m_processor.reset();
+        if (m_debugger)
+            m_debugger->noteReset();
         m_outputs = {};
         m_hasBeenReset = true;
     } else if (m_hasBeenReset && !m_outputs.isDone) {
-        m_processor.tick(inputs.interrupts, inputs.nonMaskable);
+        m_processor.tick(inputs.interrupts, inputs.nonMaskable,
+                         m_debugger && m_debugger->isHalted());
         m_program.resume();
         m_outputs.requestsReset = m_processor.requestsReset();
         m_outputs.isLockedUp = m_processor.isLockedUp();
     }
-    if (m_processor.hasEnded()) {
+    if (m_processor.hasEnded() && !m_isHeld) {
         m_outputs.isDone = true;
         m_outputs.hasPassed = m_processor.ending().passed;
     }

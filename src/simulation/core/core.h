@@ -1,10 +1,12 @@
 #pragma once
 
 #include "coroutine.h"
+#include "debugger.h"
 #include "processor.h"
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace CortexM1
@@ -63,6 +65,10 @@ public:
 
     Processor &processor() { return m_processor; }
 
+    // From now on a debugger may halt the processor; clock() waits meanwhile. Once, before the
+    // first clock cycle, and not with outer memories. `link` outlives the core.
+    void attach(DebuggerLink &link);
+
     const Outputs &clock(const Inputs &inputs);
 
 private:
@@ -77,6 +83,7 @@ private:
 
     const Print m_print;
     Processor m_processor;
+    std::unique_ptr<Debugger> m_debugger; // if one is attached
     Coroutine m_program;
     Inputs m_inputs;
     Outputs m_outputs;
@@ -84,6 +91,7 @@ private:
     bool m_isAbandoning = false;
     bool m_hasTakenTime = false; // the current step, by outer memories
     bool m_hasBeenReset = false;
+    bool m_isHeld = false; // ended, but the debugger still looks
 };
 
 } // namespace CortexM1

@@ -134,4 +134,47 @@ AddressOf addressOf(std::uint16_t access)
     }
 }
 
+AccessRange accessRange(std::uint16_t code, const std::array<std::uint32_t, 16> &registers)
+{
+    const Instruction instruction = decode(code, 0);
+    if (isLong(code) ||
+        (instruction.kind != Kind::Access && instruction.kind != Kind::PopAndBranch))
+        return {};
+    const std::uint32_t stack = registers[13];
+    const std::uint32_t words = (code & 0xFFu) * 4; // of an offset in words
+    const bool isLoad = code >> 11 & 1;
+    const auto listed = static_cast<std::uint32_t>(4 * ones(code & 0xFF));
+    const auto at = [&](std::uint32_t bytes, bool isWrite) -> AccessRange {
+        const AddressOf parts = addressOf(code);
+        const std::uint32_t index =
+            parts.index < 0 ? 0 : registers[static_cast<std::size_t>(parts.index)];
+        return {registers[static_cast<std::size_t>(parts.base)] + index + parts.offset, bytes,
+                isWrite};
+    };
+    switch (code >> 12) {
+    case 0x4:
+        return {((registers[15] + 4) & ~3u) + words, 4, false};
+    case 0x5: {
+        const std::uint32_t bytes = addressOf(code).divisor;
+        return at(bytes, (code >> 9 & 7) < 3);
+    }
+    case 0x6:
+        return at(4, !isLoad);
+    case 0x7:
+        return {registers[code >> 3 & 7u] + (code >> 6 & 31u), 1, !isLoad};
+    case 0x8:
+        return at(2, !isLoad);
+    case 0x9:
+        return {stack + words, 4, !isLoad};
+    case 0xB: { // with LR or PC
+        const std::uint32_t bytes = listed + (code >> 8 & 1) * 4u;
+        return isLoad ? AccessRange{stack, bytes, false} : AccessRange{stack - bytes, bytes, true};
+    }
+    case 0xC:
+        return at(listed, !isLoad);
+    default:
+        return {};
+    }
+}
+
 } // namespace CortexM1

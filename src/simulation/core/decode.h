@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 namespace CortexM1
@@ -48,5 +49,14 @@ struct AddressOf {
     std::uint32_t divisor = 1;
 };
 AddressOf addressOf(std::uint16_t access);
+
+// What an Access or a PopAndBranch touches; no bytes: nothing.
+struct AccessRange {
+    std::uint32_t address = 0;
+    std::uint32_t bytes = 0;
+    bool isWrite = false;
+};
+// `registers`: before the instruction, the program counter as its address.
+AccessRange accessRange(std::uint16_t code, const std::array<std::uint32_t, 16> &registers);
 
 } // namespace CortexM1

@@ -71,6 +71,12 @@ std::vector<MemoryBlock> memoryBlocks(const Configuration &configuration,
     return blocks;
 }
 
+std::string unknownBits(std::uint32_t address, std::uint32_t unknown)
+{
+    return "the read from " + hexadecimal(address) + " brings unknown bits, " +
+           hexadecimal(unknown);
+}
+
 // Whether instructions may never come from there.
 bool isExecuteNever(std::uint32_t address)
 {
@@ -126,37 +132,49 @@ void Processor::reset()
     m_hasFaulted = false;
 }
 
-void Processor::tick(std::uint32_t interruptInputs, bool nonMaskableInput)
+void Processor::tick(std::uint32_t interruptInputs, bool nonMaskableInput, bool isHalted)
 {
     const std::uint32_t before = m_exceptions.pendingInterrupts();
     m_exceptions.sample(interruptInputs, nonMaskableInput);
-    if (m_configuration.hasOsExtension)
+    if (m_configuration.hasOsExtension && !isHalted)
         m_system.tick();
     if (m_system.pendingWakes() && (m_exceptions.pendingInterrupts() & ~before) != 0)
         m_event = true;
+}
+
+bool Processor::wakes() const
+{
+    return m_exceptions.preempting(false) != 0 || (m_sleep == Sleep::UntilEvent && m_event);
+}
+
+Processor::Next Processor::next() const
+{
+    if (!m_isStarted)
+        return Next::Start;
+    if (m_sleep != Sleep::Awake && !wakes())
+        return Next::Nothing;
+    if (m_exceptions.preempting(m_primask) != 0)
+        return Next::Exception;
+    return m_isLockedUp ? Next::Nothing : Next::Instruction;
 }
 
 void Processor::step()
 {
     if (m_hasEnded)
         return;
-    if (!m_isStarted) {
+    const Next what = next();
+    if (what == Next::Start) {
         start();
         return;
     }
-    const int next = m_exceptions.preempting(m_primask);
-    if (m_sleep != Sleep::Awake) {
-        const bool wakes =
-            m_exceptions.preempting(false) != 0 || (m_sleep == Sleep::UntilEvent && m_event);
-        if (!wakes)
-            return;
+    if (m_sleep != Sleep::Awake && wakes()) {
         if (m_sleep == Sleep::UntilEvent)
             m_event = false;
         m_sleep = Sleep::Awake;
     }
-    if (next != 0)
+    if (what == Next::Exception)
         enter(m_isLockedUp ? lockUpAddress : m_programCounter);
-    else if (!m_isLockedUp)
+    else if (what == Next::Instruction)
         execute();
 }
 
@@ -167,7 +185,7 @@ std::uint32_t Processor::registerValue(int number) const
 
 // ---- memory
 
-std::uint8_t *Processor::memoryAt(std::uint32_t address, std::uint32_t bytes)
+std::uint8_t *Processor::memoryAt(std::uint32_t address, std::uint32_t bytes) const
 {
     for (const MemoryBlock &block : m_memory) {
         const std::uint32_t offset = address - block.address;
@@ -195,50 +213,48 @@ bool Processor::access(Transfer &transfer)
 {
     if (m_isAbandoned || m_hasEnded)
         return false;
-    const auto bytes = static_cast<std::uint32_t>(transfer.bytes);
-    if (std::uint8_t *memory = memoryAt(transfer.address, bytes)) {
-        if (m_configuration.hasOuterMemories) {
-            transfer.port =
-                transfer.address < dataMemoryBase ? Port::InstructionMemory : Port::DataMemory;
-            return exchangeData(transfer) && isKnown(transfer.address, transfer.unknown);
-        }
-        if (!transfer.isWrite) {
-            transfer.data = fromBytes(memory, transfer.bytes);
-            return true;
-        }
-        for (int i = 0; i < transfer.bytes; ++i)
-            memory[i] = static_cast<std::uint8_t>(transfer.data >> 8 * i);
-        m_instructions.forget(transfer.address, bytes);
-        return true;
-    }
-    if (transfer.address >= systemFirst && transfer.address <= systemLast) {
-        std::string mistake = "an access of " + std::to_string(bytes) +
-                              " bytes to the register at " + hexadecimal(transfer.address) +
-                              " is not modelled";
-        if (transfer.bytes == 4)
-            mistake = transfer.isWrite ? m_system.write(transfer.address, transfer.data)
-                                       : m_system.read(transfer.address, m_running, transfer.data);
-        if (!mistake.empty())
-            refuse(mistake);
-        return mistake.empty();
-    }
-    return exchangeData(transfer);
-}
-
-bool Processor::exchangeData(Transfer &transfer)
-{
-    const TransferEnd end = m_surroundings.transfer(transfer);
+    std::string mistake;
+    const TransferEnd end = reach(transfer, mistake);
+    if (!mistake.empty())
+        refuse(mistake);
     if (end == TransferEnd::Abandoned)
         m_isAbandoned = true;
     return end == TransferEnd::Done;
 }
 
-bool Processor::isKnown(std::uint32_t address, std::uint32_t unknown)
+// What an access meets: memory, the processor's own registers, the bus. `mistake`: of an access
+// that the model does not have.
+TransferEnd Processor::reach(Transfer &transfer, std::string &mistake)
 {
-    if (unknown != 0)
-        refuse("the read from " + hexadecimal(address) + " brings unknown bits, " +
-               hexadecimal(unknown));
-    return unknown == 0;
+    const auto bytes = static_cast<std::uint32_t>(transfer.bytes);
+    if (std::uint8_t *memory = memoryAt(transfer.address, bytes)) {
+        if (m_configuration.hasOuterMemories) {
+            transfer.port =
+                transfer.address < dataMemoryBase ? Port::InstructionMemory : Port::DataMemory;
+            const TransferEnd end = m_surroundings.transfer(transfer);
+            if (end != TransferEnd::Done || transfer.unknown == 0)
+                return end;
+            mistake = unknownBits(transfer.address, transfer.unknown);
+            return TransferEnd::Error;
+        }
+        if (!transfer.isWrite) {
+            transfer.data = fromBytes(memory, transfer.bytes);
+            return TransferEnd::Done;
+        }
+        for (int i = 0; i < transfer.bytes; ++i)
+            memory[i] = static_cast<std::uint8_t>(transfer.data >> 8 * i);
+        m_instructions.forget(transfer.address, bytes);
+        return TransferEnd::Done;
+    }
+    if (transfer.address >= systemFirst && transfer.address <= systemLast) {
+        mistake = "an access of " + std::to_string(bytes) + " bytes to the register at " +
+                  hexadecimal(transfer.address) + " is not modelled";
+        if (transfer.bytes == 4)
+            mistake = transfer.isWrite ? m_system.write(transfer.address, transfer.data)
+                                       : m_system.read(transfer.address, m_running, transfer.data);
+        return mistake.empty() ? TransferEnd::Done : TransferEnd::Error;
+    }
+    return m_surroundings.transfer(transfer);
 }
 
 std::uint32_t Processor::load(std::uint32_t address, int bytes)
@@ -310,12 +326,18 @@ bool Processor::fetchHalf(std::uint32_t address, Transfer &word, std::uint16_t &
     const Port port = address < dataMemoryBase ? Port::InstructionMemory : Port::DataMemory;
     if (word.port == Port::Bus || word.address != (address & ~3u)) {
         word = {address & ~3u, 4, false, 0, port, 0};
-        if (!exchangeData(word))
+        const TransferEnd end = m_surroundings.transfer(word);
+        if (end == TransferEnd::Abandoned)
+            m_isAbandoned = true;
+        if (end != TransferEnd::Done)
             return false;
     }
     const std::uint32_t shift = 8 * (address & 2);
-    if (!isKnown(address, word.unknown >> shift & 0xFFFF))
+    const std::uint32_t unknown = word.unknown >> shift & 0xFFFF;
+    if (unknown != 0) {
+        refuse(unknownBits(address, unknown));
         return false;
+    }
     const auto fetched = static_cast<std::uint16_t>(word.data >> shift);
     if (fetched != half) {
         half = fetched;
@@ -687,6 +709,81 @@ void Processor::selectStack(bool process)
     const std::uint32_t old = m_instructions.value(InstructionSet::stackPointer);
     m_instructions.setValue(InstructionSet::stackPointer, m_otherStack);
     m_otherStack = old;
+}
+
+// ---- for a debugger
+
+std::uint32_t Processor::debugRegister(int number) const
+{
+    const std::uint32_t inUse = m_instructions.value(InstructionSet::stackPointer);
+    switch (number) {
+    case programStatus:
+        return m_instructions.flags() | (m_isThumb ? thumbState : 0) |
+               static_cast<std::uint32_t>(m_running);
+    case mainStack:
+        return m_usesProcessStack ? m_otherStack : inUse;
+    case processStack:
+        return m_usesProcessStack ? inUse : m_otherStack;
+    case primask:
+        return m_primask;
+    case control:
+        return m_usesProcessStack ? 2 : 0;
+    default:
+        return registerValue(number);
+    }
+}
+
+bool Processor::setDebugRegister(int number, std::uint32_t value)
+{
+    const bool hasOs = m_configuration.hasOsExtension;
+    switch (number) {
+    case 15:
+        m_programCounter = value & ~1u;
+        m_sleep = Sleep::Awake;
+        m_isLockedUp = false;
+        return true;
+    case programStatus:
+        m_instructions.setFlags(value);
+        m_isThumb = value & thumbState;
+        return true;
+    case mainStack:
+    case processStack:
+        if (number == processStack && !hasOs)
+            return value == m_otherStack;
+        if ((number == processStack) == m_usesProcessStack)
+            m_instructions.setValue(InstructionSet::stackPointer, value);
+        else
+            m_otherStack = value & ~3u;
+        return true;
+    case primask:
+        m_primask = value & 1;
+        return true;
+    case control:
+        if (value == debugRegister(control))
+            return true;
+        if ((value & ~2u) != 0 || !hasOs || m_running != 0)
+            return false;
+        selectStack(value & 2);
+        return true;
+    default:
+        m_instructions.setValue(number, value);
+        return true;
+    }
+}
+
+TransferEnd Processor::debugAccess(Transfer &transfer, std::string &mistake)
+{
+    return reach(transfer, mistake);
+}
+
+AccessRange Processor::nextAccess() const
+{
+    std::array<std::uint32_t, 16> registers{};
+    for (int number = 0; number < 16; ++number)
+        registers[static_cast<std::size_t>(number)] = registerValue(number);
+    const std::uint8_t *memory = memoryAt(m_programCounter, 2);
+    return memory ? accessRange(static_cast<std::uint16_t>(fromBytes(memory, 2)), registers)
+                  : AccessRange();
 }
 
 // ---- the program and its reader

@@ -68,11 +68,16 @@ public:
     // Begins at the vector table with the next step.
     void reset();
 
-    // One clock cycle, before its step: inputs are sampled, the system timer counts.
-    void tick(std::uint32_t interruptInputs, bool nonMaskableInput);
+    // One clock cycle, before its step: inputs are sampled, the system timer counts unless a
+    // debugger has halted the processor.
+    void tick(std::uint32_t interruptInputs, bool nonMaskableInput, bool isHalted = false);
 
     // One instruction, or the entry of an exception.
     void step();
+
+    // What step() would do now.
+    enum class Next { Start, Instruction, Exception, Nothing };
+    Next next() const;
 
     bool hasEnded() const { return m_hasEnded; }
     const Ending &ending() const { return m_ending; }
@@ -85,23 +90,43 @@ public:
     std::uint32_t flags() const { return m_instructions.flags(); }
     int runningException() const { return m_running; }
 
+    // For a debugger, between two steps, from the first instruction on. Registers 0 to 15 are as
+    // above, these follow.
+    static constexpr int programStatus = 16; // xPSR
+    static constexpr int mainStack = 17;
+    static constexpr int processStack = 18;
+    static constexpr int primask = 19;
+    static constexpr int control = 20;
+    static constexpr int debugRegisters = 21;
+    std::uint32_t debugRegister(int number) const;
+    // False, with nothing changed, for what is not modelled. The number of the exception in xPSR
+    // does not change. A new program counter wakes.
+    bool setDebugRegister(int number, std::uint32_t value);
+    // An access without effect on the program; returns when it has ended. Of a failure `mistake`
+    // says why, and is empty if that was the bus.
+    TransferEnd debugAccess(Transfer &transfer, std::string &mistake);
+    // What the instruction that comes next loads or stores.
+    AccessRange nextAccess() const;
+    void requestReset(bool requested) { m_system.requestReset(requested); }
+    void stop(const std::string &reason) { end(false, reason); }
+
 private:
     enum class Sleep { Awake, UntilInterrupt, UntilEvent };
 
     std::uint32_t load(std::uint32_t address, int bytes) override;
     void store(std::uint32_t address, int bytes, std::uint32_t value) override;
 
-    std::uint8_t *memoryAt(std::uint32_t address, std::uint32_t bytes);
+    std::uint8_t *memoryAt(std::uint32_t address, std::uint32_t bytes) const;
     bool fetch(std::uint16_t &first, std::uint16_t &second);
     bool fetchHalf(std::uint32_t address, Transfer &word, std::uint16_t &half);
     bool read(std::uint32_t address, int bytes, std::uint32_t &value);
     bool write(std::uint32_t address, int bytes, std::uint32_t value);
     bool access(Transfer &transfer);
-    bool exchangeData(Transfer &transfer);
-    bool isKnown(std::uint32_t address, std::uint32_t unknown);
+    TransferEnd reach(Transfer &transfer, std::string &mistake);
 
     void start();
     bool fillMemory();
+    bool wakes() const;
     void execute();
     void executeSystem(const Instruction &instruction, std::uint16_t first, std::uint16_t second);
     bool isMisaligned(std::uint16_t access) const;

@@ -38,6 +38,7 @@ public:
     std::string write(std::uint32_t address, std::uint32_t value);
 
     bool resetRequested() const { return m_resetRequested; } // until the reset
+    void requestReset(bool requested) { m_resetRequested = requested; }
     bool sleepsOnExit() const { return m_sleepControl & 2; }
     bool pendingWakes() const { return m_sleepControl & 16; } // an event for WFE
 

@@ -12,7 +12,8 @@
 // neither 0 nor 1 ends the program and tells the address. It is slower, and takes more clock cycles.
 //
 // What the program says by semihosting is printed. When it ends, a line says "PASS" or "FAIL: " and the reason; done is 1 then and
-// passed tells which, and with +finish the simulation ends.
+// passed tells which, and with +finish the simulation ends. With +gdb=PORT the program waits for a debugger at 127.0.0.1;
+// that needs +tcm=model.
 //
 // Files behind this one without a time scale of their own get this one, unless TARVO_NO_TIMESCALE is defined.
 `ifndef TARVO_NO_TIMESCALE

@@ -9,14 +9,20 @@
 // LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}. `memories` is "model", or "rtl", where the clock
 // also takes {DTCMRDATA, ITCMRDATA} and gives {ITCMEN, DTCMEN, write enables, word address, write
 // data}.
+//
+// With +gdb=PORT a debugger may connect to the port of the loop-back address; 0 takes a free one,
+// and a line says which. The simulation stands still while the debugger has the program halted.
+// Only memories of the model have a debugger.
 #include "core/core.h"
 #include "core/elfimage.h"
+#include "core/tcplink.h"
 
 #include <vpi_user.h>
 
 #include <cstdlib>
 #include <exception>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -26,6 +32,7 @@ namespace
 constexpr std::size_t mostOutput = 1 << 20; // bytes; a program that floods is cut off
 
 struct Instance {
+    std::unique_ptr<CortexM1::TcpLink> debugger;
     std::unique_ptr<CortexM1::Core> core;
     std::string mistake; // why there is no core
     std::size_t printed = 0;
@@ -80,6 +87,37 @@ void print(Instance &instance, const std::string &piece)
         vpi_printf("%s", piece.c_str());
 }
 
+// What stands behind +NAME= on the simulator's command line; null without it.
+const char *plusArgument(const std::string &name)
+{
+    s_vpi_vlog_info info;
+    if (!vpi_get_vlog_info(&info))
+        return nullptr;
+    const std::string start = "+" + name + "=";
+    for (int i = 0; i < info.argc; ++i) {
+        if (std::string(info.argv[i]).compare(0, start.size(), start) == 0)
+            return info.argv[i] + start.size();
+    }
+    return nullptr;
+}
+
+void openDebugger(Instance &instance)
+{
+    const char *argument = plusArgument("gdb");
+    if (!argument)
+        return;
+    const std::string digits = argument;
+    const bool isNumber = !digits.empty() && digits.size() <= 5 &&
+                          digits.find_first_not_of("0123456789") == std::string::npos;
+    const int port = isNumber ? std::stoi(digits) : -1;
+    if (port < 0 || port > 65535)
+        throw std::runtime_error("+gdb takes a port from 0 to 65535, not \"" + digits + "\"");
+    instance.debugger = std::make_unique<CortexM1::TcpLink>(static_cast<std::uint16_t>(port));
+    instance.core->attach(*instance.debugger);
+    vpi_printf("The program waits for gdb at 127.0.0.1:%d\n", int(instance.debugger->port()));
+    vpi_flush();
+}
+
 void open(Instance &instance, const std::vector<vpiHandle> &args)
 {
     std::string firmware = text(args[1]);
@@ -91,6 +129,10 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
     configuration.hasOuterMemories = memories == "rtl";
     if (!configuration.hasOuterMemories && memories != "model") {
         instance.mistake = "+tcm=" + memories + " is neither +tcm=model nor +tcm=rtl";
+        return;
+    }
+    if (configuration.hasOuterMemories && plusArgument("gdb")) {
+        instance.mistake = "+gdb needs +tcm=model"; // elsewhere each look would take time
         return;
     }
     if (firmware.empty() && !configuration.hasOuterMemories) {
@@ -115,6 +157,8 @@ void open(Instance &instance, const std::vector<vpiHandle> &args)
         if (configuration.hasOuterMemories)
             contents.resize(end);
         instance.core->processor().setInstructionMemory(contents);
+        if (instance.mistake.empty())
+            openDebugger(instance);
     } catch (const std::exception &error) {
         instance.mistake = error.what();
     }
