@@ -163,7 +163,8 @@ inline QStringList disagreements(const QByteArray &description, const QByteArray
         if (!holds)
             differences.append(name);
     };
-    expect(QStringLiteral("ten registers"), expected.registers > 10);
+    // The processor has ten of its own in the smallest configuration.
+    expect(QStringLiteral("registers"), expected.registers >= 10);
     QList<qint64> inHeader;
     for (auto it = found.begin(); it != found.end(); ++it) {
         if (!isDescribed(it.key()))
