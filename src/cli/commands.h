@@ -62,6 +62,7 @@ struct SimulateArguments {
     QString file;
     QString firmware;    // ELF; or
     QStringList sources; // in C
+    QString engine;      // of engineNames()
     QString uart0;       // "-": standard output, else a file
     quint64 timeout = 0; // clock cycles
     QString waves;       // file; empty: none

@@ -1,5 +1,6 @@
 #include "commands.h"
 #include "environment.h"
+#include "simulate/engine.h"
 #include "output.h"
 
 #include <utils/utf8names.h>
@@ -289,7 +290,8 @@ int run(int argc, char *argv[])
     simulateCommand->callback([&] {
         command = [&] {
             return Cli::runSimulate(environment,
-                                    {text(file), text(program), texts(cFiles), text(uart0), timeout,
+                                    {text(file), text(program), texts(cFiles),
+                                     Cli::engineNames().first(), text(uart0), timeout,
                                      text(waves), text(reportFile)});
         };
     });

@@ -64,63 +64,84 @@ endmodule
 
 // Reads a line of eight data bits, no parity, one stop bit.
 module board_uart #(
-    parameter NUMBER = 0,
-    parameter PERIOD = 20
+    parameter NUMBER = 0
 ) (
-    input wire        line,
+    input wire        clk, line,
     input wire [19:0] divider, // clock cycles a bit
-    input wire [8*16-1:0] mark
+    output reg        busy
 );
-    reg        busy = 1'b0;
     reg [7:0]  data;
-    reg [63:0] bit_time;
-    integer    n;
-    always @(negedge line) begin
-        busy = 1'b1;
-        bit_time = PERIOD * divider;
-        #(bit_time / 2);
-        if (line === 1'b0) begin
-            for (n = 0; n < 8; n = n + 1)
-                #(bit_time) data[n] = line;
-            #(bit_time);
-            if (line === 1'b1)
-                $display("\036%0s uart %0d %02x", mark, NUMBER, data);
+    reg [19:0] left;           // clock cycles until the middle of the next bit
+    reg [3:0]  place;
+    initial busy = 1'b0;
+    always @(posedge clk)
+        if (!busy) begin
+            busy <= line === 1'b0;
+            left <= {1'b0, divider[19:1]};
+            place <= 4'd0;
+        end else if (left > 20'd1)
+            left <= left - 20'd1;
+        else begin
+            left <= divider;
+            place <= place + 4'd1;
+            if (place == 4'd0)
+                busy <= line === 1'b0;
+            else if (place < 4'd9)
+                data[place[2:0] - 3'd1] <= line;
+            else begin
+                busy <= 1'b0;
+                if (line === 1'b1)
+                    `BOARD_SENT(NUMBER, data);
+            end
         end
-        busy = 1'b0;
-    end
 endmodule
 )";
 
+// Functions of the program that runs the simulation (simulation/core/boardhost.h).
+constexpr char host[] = R"(
+`ifdef VERILATOR
+import "DPI-C" function void board_sent(input int uart, input int data);
+`define BOARD_SENT(uart, data) board_sent(uart, {24'd0, data})
+`else
+`define BOARD_SENT(uart, data) $board_sent(uart, data)
+`endif
+)";
+
 constexpr char head[] = R"(
+// Under Verilator the clock is the program's.
+`ifdef VERILATOR
+module board (input wire clk);
+`else
 module board;
-    localparam PERIOD = 20;      // nanoseconds of a clock cycle
+    localparam PERIOD = 20;      // nanoseconds
     reg clk = 1'b0;
     always #(PERIOD / 2) clk = ~clk;
-    reg slow_clk = 1'b0;         // for what is sampled
-    always #(PERIOD * 8) slow_clk = ~slow_clk;
-    reg power_good = 1'b0;
-
-    reg [8*16-1:0]   mark;
     reg [8*1024-1:0] waves;
-    reg [63:0] limit;
-    reg [63:0] start;
-    reg [63:0] cycles;
-    reg        ended = 1'b0;
-    initial begin
-        if (!$value$plusargs("mark=%s", mark)) mark = "board";
-        if (!$value$plusargs("timeout=%d", limit)) limit = 64'd10000000;
+    initial
         if ($value$plusargs("waves=%s", waves)) begin
             $dumpfile(waves);
             $dumpvars(0, board);
         end
-        #(PERIOD * 10) power_good = 1'b1;
-        start = $time;
-        #(PERIOD * limit);
-        if (!ended) begin
-            ended = 1'b1;
-            $display("\036%0s end timeout %0d", mark, limit);
-            $finish(0);
+`endif
+    reg [3:0] slow = 4'd0;
+    wire      slow_clk = slow[3]; // for what is sampled
+    reg [3:0] power = 4'd0;
+    reg       power_good = 1'b0;
+    reg [63:0] cycles = 64'd0;    // from the end of the power-on reset
+    always @(posedge clk) begin
+        slow <= slow + 4'd1;
+        if (power != 4'd10) power <= power + 4'd1;
+        else begin
+            power_good <= 1'b1;
+            if (power_good) cycles <= cycles + 64'd1;
         end
+    end
+
+    reg [8*16-1:0] mark;
+    reg [63:0] limit;
+    initial begin
+        if (!$value$plusargs("mark=%s", mark)) mark = "board";
+        if (!$value$plusargs("timeout=%d", limit)) limit = 64'd10000000;
     end
 
     // What the program writes, as the processor's pins show it.
@@ -135,34 +156,45 @@ module board;
 )";
 
 constexpr char tail[] = R"(
-    always @(posedge dut.u_core.LOCKUP)
+    reg        ended = 1'b0;
+    reg        was_locked_up = 1'b0;
+    reg        is_done = 1'b0;
+    reg [63:0] done_at;
+    reg [23:0] silence;          // clock cycles in which no UART sends
+    reg [23:0] draining;
+    always @(posedge clk)
         if (power_good && !ended) begin
-            cycles = ($time - start) / PERIOD;
-            $display("\036%0s lockup %0d", mark, cycles);
-            if (!CAN_RECOVER) begin
-                ended = 1'b1;
-                $display("\036%0s end failed %0d", mark, cycles);
+            was_locked_up <= dut.u_core.LOCKUP;
+            if (dut.u_core.LOCKUP && !was_locked_up) begin
+                $display("\036%0s lockup %0d", mark, cycles);
+                if (!CAN_RECOVER) begin
+                    ended <= 1'b1;
+                    $display("\036%0s end failed %0d", mark, cycles);
+                    $finish(0);
+                end
+            end
+            if (!is_done && dut.u_core.done) begin
+                is_done <= 1'b1;
+                done_at <= cycles;
+                silence <= 24'd0;
+                draining <= 24'd0;
+                $display("\036%0s done", mark);
+            end else if (is_done) begin
+                // What the UARTs still hold is on its way when the program ends: at most two bytes each.
+                silence <= uart_busy ? 24'd0 : silence + 24'd1;
+                draining <= draining + 24'd1;
+                if (silence > {4'd0, uart_bit} + 24'd64 || draining > {4'd0, uart_bit} * 24'd32 + 24'd256) begin
+                    ended <= 1'b1;
+                    if (dut.u_core.passed) $display("\036%0s end passed %0d", mark, done_at);
+                    else $display("\036%0s end failed %0d", mark, done_at);
+                    $finish(0);
+                end
+            end else if (cycles >= limit) begin
+                ended <= 1'b1;
+                $display("\036%0s end timeout %0d", mark, limit);
                 $finish(0);
             end
         end
-
-    // What the UARTs still hold is on its way when the program ends: at most two bytes each.
-    integer frames;
-    always @(posedge dut.u_core.done) begin
-        cycles = ($time - start) / PERIOD;
-        $display("\036%0s done", mark);
-        #(PERIOD * 64);
-        for (frames = 0; frames < 3 && uart_busy; frames = frames + 1) begin
-            wait (!uart_busy || ended);
-            #(PERIOD * (uart_bit + 64));
-        end
-        if (!ended) begin
-            ended = 1'b1;
-            if (dut.u_core.passed) $display("\036%0s end passed %0d", mark, cycles);
-            else $display("\036%0s end failed %0d", mark, cycles);
-            $finish(0);
-        end
-    end
 endmodule
 )";
 
@@ -241,7 +273,8 @@ public:
     {
         QString text = "// The board of a simulated subsystem: made, not to be edited.\n"
                        "`timescale 1ns / 1ps\n"_l1 +
-                       QLatin1String(modules) + QLatin1String(head) + u'\n';
+                       QLatin1String(host) + QLatin1String(modules) +
+                       QLatin1String(head) + u'\n';
         for (const Port &port : m_map.ports)
             text += declaration(port);
         text += u'\n';
@@ -393,13 +426,14 @@ private:
                             "        else if (store && store_address == 32'h%3)\n"
                             "            divider%1 <= dut.u_core.HWDATA[19:0] < 20'd%4 ? 20'd%4 : "
                             "dut.u_core.HWDATA[19:0];\n"
-                            "    board_uart #(.NUMBER(%1), .PERIOD(PERIOD)) uart%1 "
-                            "(.line(p_UART%1TXD), .divider(divider%1), .mark(mark));\n")
+                            "    wire busy%1;\n"
+                            "    board_uart #(.NUMBER(%1)) uart%1 (.clk(clk), .line(p_UART%1TXD), "
+                            ".divider(divider%1), .busy(busy%1));\n")
                             .arg(number)
                             .arg(field.reset)
                             .arg(instance.base + rate->offset, 8, 16, QLatin1Char('0'))
                             .arg(field.minimum);
-                busy.append(QStringLiteral("uart%1.busy").arg(number));
+                busy.append(QStringLiteral("busy%1").arg(number));
                 bit = QStringLiteral("(divider%1 > %2 ? divider%1 : %2)").arg(number).arg(bit);
             }
         }

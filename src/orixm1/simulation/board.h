@@ -16,8 +16,12 @@ namespace TARVOORIXM1
 // of the GPIO follow pins 0 to 7 unless they are driven, MISO follows MOSI, extension ports are
 // memories of 4 KB that repeat. Every other input has its idle level.
 //
+// Everything moves with the clock, so that Verilator takes it; there "board" has a port for that,
+// and otherwise makes it. What the board says and hears beside the subsystem goes through functions
+// of the program that runs the simulation (BoardHost).
+//
 // Plusargs: +mark=TEXT, +timeout=CYCLES (from the end of the power-on reset), +waves=FILE. On
-// standard output it tells events, a line each that begins with the byte 0x1E and the mark:
+// standard output events are told, a line each that begins with the byte 0x1E and the mark:
 //   MARK uart N XX        UART N has sent the byte XX (hexadecimal)
 //   MARK lockup CYCLES    the processor is locked up
 //   MARK empty PATH       a licensed block was accessed the first time; see withAnswers()

@@ -1,9 +1,11 @@
-#include "commands.h"
+#include "../commands.h"
 
-#include "environment.h"
-#include "ipcdocument.h"
-#include "output.h"
+#include "../environment.h"
+#include "../ipcdocument.h"
+#include "../output.h"
+#include "engine.h"
 #include "simulation.h"
+#include "simulationreport.h"
 #include "terminal.h"
 
 #include <config/optionkeys.h>
@@ -17,7 +19,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
 
 namespace Cli
 {
@@ -70,11 +71,12 @@ public:
                 printError(stop.message);
             return stop.status;
         }
-        Terminal terminal;
-        m_end = m_simulation->play(m_vvp, m_arguments.timeout, !m_arguments.waves.isEmpty(),
-                                   isOnTerminal(), terminal);
+        Terminal terminal(isOnTerminal());
+        m_end = m_simulation->play(*m_engine, plusArguments(), terminal);
         const int status = writeResults();
-        printSummary();
+        const QStringList summary = summaryOf(report());
+        for (const QString &line : summary)
+            printError(line);
         return status;
     }
 
@@ -201,21 +203,25 @@ private:
         return {};
     }
 
+    QStringList plusArguments() const
+    {
+        QStringList arguments = {QLatin1String("firmware=") + programFile(),
+                                 QStringLiteral("timeout=%1").arg(m_arguments.timeout)};
+        if (!m_arguments.waves.isEmpty())
+            arguments.append(QStringLiteral("waves=waves.fst"));
+        return arguments;
+    }
+
     Stop findTools()
     {
-        struct Tool {
-            const char *program;
-            const char *package;
-            QString *path;
-        };
-        QVector<Tool> tools = {{"iverilog", "iverilog", &m_iverilog}, {"vvp", "iverilog", &m_vvp}};
-        if (!m_arguments.sources.isEmpty())
-            tools.append({"arm-none-eabi-gcc", "gcc-arm-none-eabi", &m_compiler});
-        for (const Tool &tool : qAsConst(tools)) {
-            const auto path = Simulation::findTool(tool.program, tool.package);
-            if (!path)
-                return {Failed, path.reason()};
-            *tool.path = *path;
+        m_engine = makeEngine(m_arguments.engine);
+        if (const auto found = m_engine->findTools(); !found)
+            return {Failed, found.reason()};
+        if (!m_arguments.sources.isEmpty()) {
+            const auto compiler = Simulation::findTool("arm-none-eabi-gcc", "gcc-arm-none-eabi");
+            if (!compiler)
+                return {Failed, compiler.reason()};
+            m_compiler = *compiler;
         }
         // The build tree and an installation are laid out alike.
         m_modelFolder = QDir::cleanPath(QCoreApplication::applicationDirPath() +
@@ -245,7 +251,7 @@ private:
         bool lacksLibrary = false;
         qint64 said = 0;
         const auto result = m_simulation->runTool(
-            QStringLiteral("The compiler"), m_compiler, program.arguments,
+            {QStringLiteral("The compiler"), m_compiler, program.arguments},
             [&](const QString &line) {
                 lacksLibrary = lacksLibrary || line.contains(QLatin1String("cannot find -lc"));
                 said += line.size();
@@ -272,7 +278,9 @@ private:
             if (!Utils::FileUtils::writeLines(plan.pathOf(file), file.lines, &error))
                 return {Failed, error};
         }
-        Simulation::Design design;
+        Design design;
+        design.includeFolders.append(plan.folder);
+        design.hasWaves = !m_arguments.waves.isEmpty();
         for (const QString &source : plan.sources) {
             const QString name = QFileInfo(source).fileName();
             if (name == QLatin1String("cortex_m1_core.v"))
@@ -290,98 +298,14 @@ private:
                 return {Failed, written.reason()};
             design.sources.append(m_simulation->folder() + u'/' + made);
         }
-        design.includeFolder = QDir(m_simulation->folder()).relativeFilePath(plan.folder);
         design.modelFolder = m_modelFolder;
         design.board = boardOf(m_map);
-        return failedUnless(m_simulation->compile(m_iverilog, design));
-    }
-
-    int statusOfEnd() const
-    {
-        switch (m_end.result) {
-        case SimulationEnd::Passed:
-            return Done;
-        case SimulationEnd::Failed:
-            return Failed;
-        case SimulationEnd::TimeLimit:
-            return TimeLimit;
-        case SimulationEnd::Cancelled:
-            break;
-        }
-        return Cancelled;
-    }
-
-    QString nameOfEnd() const
-    {
-        switch (m_end.result) {
-        case SimulationEnd::Passed:
-            return QStringLiteral("passed");
-        case SimulationEnd::Failed:
-            return QStringLiteral("failed");
-        case SimulationEnd::TimeLimit:
-            return QStringLiteral("time limit");
-        case SimulationEnd::Cancelled:
-            break;
-        }
-        return QStringLiteral("cancelled");
-    }
-
-    QString reason() const
-    {
-        QString text = m_end.reason;
-        if (m_end.result == SimulationEnd::TimeLimit)
-            text = QStringLiteral("the program has not ended");
-        if (m_end.lockedUpAt >= 0)
-            text +=
-                (text.isEmpty() ? QString() : QStringLiteral("; ")) +
-                QStringLiteral("the processor locked up at clock cycle %1").arg(m_end.lockedUpAt);
-        return text;
-    }
-
-    static QString note()
-    {
-        return QStringLiteral("The model executes an instruction a clock cycle: instruction counts "
-                              "are no cycle counts of the processor.");
-    }
-
-    // The UARTs of the configuration.
-    QVector<int> uarts() const
-    {
-        QVector<int> numbers;
-        for (const int number : {0, 1}) {
-            if (findRegion(m_map, QStringLiteral("UART%1").arg(number)))
-                numbers.append(number);
-        }
-        return numbers;
-    }
-
-    QByteArray report() const
-    {
-        QJsonArray lines;
-        const QVector<int> numbers = uarts();
-        for (const int number : numbers)
-            lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
-                                     {QStringLiteral("bytes"), m_end.uartBytes[number]}});
-        QJsonObject object{
-            {QStringLiteral("result"), nameOfEnd()},
-            {QStringLiteral("reason"), reason()},
-            {QStringLiteral("configuration"), m_arguments.file},
-            {QStringLiteral("clockCycles"), qint64(m_end.cycles)},
-            {QStringLiteral("timeout"), qint64(m_arguments.timeout)},
-            {QStringLiteral("uarts"), lines},
-            {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(m_end.emptyBlocks)},
-            {QStringLiteral("note"), note()}};
-        if (m_arguments.sources.isEmpty())
-            object.insert(QStringLiteral("firmware"), m_arguments.firmware);
-        else
-            object.insert(QStringLiteral("sources"),
-                          QJsonArray::fromStringList(m_arguments.sources));
-        return QJsonDocument(object).toJson(QJsonDocument::Indented);
+        return failedUnless(m_engine->build(*m_simulation, design));
     }
 
     int writeResults() const
     {
-        int status = statusOfEnd();
+        int status = statusOf(m_end);
         QString error;
         const auto check = [&](bool isWritten) {
             if (isWritten)
@@ -397,48 +321,19 @@ private:
         if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
             check(Utils::FileUtils::copyFile(waves, fullPath(m_arguments.waves), &error));
         if (!m_arguments.report.isEmpty())
-            check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), report(), &error));
+            check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), documentOf(report()),
+                                              &error));
         return status;
     }
 
-    void printSummary() const
-    {
-        if (m_end.result == SimulationEnd::Cancelled) {
-            printError(QStringLiteral("Cancelled."));
-            return;
-        }
-        QString line =
-            QStringLiteral("%1 after %2 clock cycles")
-                .arg(m_end.result == SimulationEnd::Passed   ? QStringLiteral("Passed")
-                     : m_end.result == SimulationEnd::Failed ? QStringLiteral("Failed")
-                                                             : QStringLiteral("Time limit reached"))
-                .arg(m_end.cycles);
-        if (const QString why = reason(); !why.isEmpty())
-            line += QLatin1String(": ") + why;
-        printError(line + u'.');
-        QStringList sent;
-        const QVector<int> numbers = uarts();
-        for (const int number : numbers)
-            sent.append(QStringLiteral("UART%1 has sent %2 bytes")
-                            .arg(number)
-                            .arg(m_end.uartBytes[number]));
-        if (!sent.isEmpty())
-            printError(sent.join(QLatin1String(", ")) + u'.');
-        if (!m_end.emptyBlocks.isEmpty())
-            printError(
-                QLatin1String("Licensed blocks are empty here and answer with bus errors; the "
-                              "program has accessed ") +
-                m_end.emptyBlocks.join(QLatin1String(", ")) + u'.');
-        printError(note());
-    }
+    SimulationReport report() const { return {m_arguments, m_map, m_end}; }
 
     Environment &m_environment;
     const SimulateArguments &m_arguments;
     QVariantMap m_info;
     IpcDocument m_document;
     SystemMap m_map;
-    QString m_iverilog;
-    QString m_vvp;
+    std::unique_ptr<Engine> m_engine;
     QString m_compiler;
     QString m_modelFolder;
     std::unique_ptr<Simulation> m_simulation;

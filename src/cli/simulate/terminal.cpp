@@ -1,6 +1,6 @@
 #include "terminal.h"
 
-#include "output.h"
+#include "../output.h"
 
 #include <cstdio>
 
@@ -41,15 +41,17 @@ void Terminal::put(const QByteArray &bytes)
     std::fflush(stdout);
 }
 
-void Terminal::putUart(char byte)
+void Terminal::uartSent(int number, char byte)
 {
+    if (number != 0 || !m_showsUart)
+        return;
     if (!isWithin(mostUartBytes, 1, &m_uartBytes, "the UART"))
         return;
     turnTo(Uart);
     put(QByteArray(1, byte));
 }
 
-void Terminal::putText(const QString &text, bool endsLine)
+void Terminal::said(const QString &text, bool endsLine)
 {
     const QByteArray bytes = text.toUtf8();
     if (bytes.isEmpty() && !endsLine)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "listener.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -9,12 +11,17 @@ namespace Cli
 // What a simulated program says, on standard output: the bytes of a UART as they are, and lines of
 // other texts behind "semihosting: ", on lines of their own. Both are bounded; what is cut off is
 // told once.
-class Terminal
+class Terminal : public Listener
 {
 public:
-    void putUart(char byte);
-    // `endsLine`: a line end follows.
-    void putText(const QString &text, bool endsLine);
+    // `showsUart`: the bytes of UART0 appear.
+    explicit Terminal(bool showsUart)
+        : m_showsUart(showsUart)
+    {
+    }
+
+    void uartSent(int number, char byte) override;
+    void said(const QString &text, bool endsLine) override;
 
 private:
     enum Source { Nobody, Uart, Text };
@@ -22,6 +29,7 @@ private:
     void turnTo(Source source);
     void put(const QByteArray &bytes);
 
+    const bool m_showsUart;
     Source m_last = Nobody;
     bool m_isAtLineStart = true;
     qint64 m_uartBytes = 0;

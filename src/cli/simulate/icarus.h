@@ -1,0 +1,22 @@
+#pragma once
+
+#include "engine.h"
+
+namespace Cli
+{
+
+// Icarus Verilog: starts at once.
+class Icarus : public Engine
+{
+public:
+    Utils::Result<void> findTools() override;
+    Utils::Result<void> build(Simulation &simulation, const Design &design) override;
+    Tool run(const QStringList &plusArguments) const override;
+
+private:
+    QString m_compiler;
+    QString m_player;
+    bool m_hasWaves = false;
+};
+
+} // namespace Cli

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "core.h"
+#include "tcplink.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+namespace CortexM1
+{
+
+// The Verilog simulator, as the model needs it.
+class Simulator
+{
+public:
+    virtual ~Simulator() = default;
+    // What stands behind +NAME= on its command line; null without it.
+    virtual const char *argument(const std::string &name) const = 0;
+    // On standard output, at once.
+    virtual void print(const std::string &text) = 0;
+};
+
+// The parameters of CortexM1Core, with the codes of the memories' sizes.
+struct Parameters {
+    int interrupts = 32;
+    bool hasOsExtension = true;
+    bool isBigEndian = false;
+    bool hasLowerAlias = true;
+    bool hasUpperAlias = false;
+    int itcmSize = 0;
+    int dtcmSize = 0;
+};
+
+// A core in a simulation: what the command line asks for, what is printed and how it ends. A
+// mistake ends the program in its first clock cycle.
+class Session
+{
+public:
+    // `firmware`: a path, or empty for the one in the environment; `memories`: of +tcm=.
+    // `simulator` outlives the session.
+    Session(Simulator &simulator, const Parameters &parameters, const std::string &firmware,
+            const std::string &memories);
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    // The line that tells the verdict is printed when the program ends.
+    Outputs clock(const Inputs &inputs);
+
+private:
+    void open(const Parameters &parameters, std::string firmware, const std::string &memories);
+    void openDebugger();
+    void print(const std::string &piece);
+
+    Simulator &m_simulator;
+    std::unique_ptr<TcpLink> m_debugger;
+    std::unique_ptr<Core> m_core;
+    std::string m_mistake; // why there is no core
+    std::size_t m_printed = 0;
+    bool m_isReported = false;
+};
+
+} // namespace CortexM1
