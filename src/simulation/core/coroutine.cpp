@@ -3,9 +3,9 @@
 
 #include "coroutine.h"
 
-#include <csetjmp>
 #include <ucontext.h>
 
+#include <csetjmp>
 #include <cstdint>
 #include <cstdlib>
 #include <vector>
@@ -53,6 +53,22 @@ private:
 
 } // namespace
 
+namespace
+{
+
+struct Stack {
+    const void *begin = nullptr;
+    std::size_t bytes = 0;
+};
+// Nothing: the thread's own. Only the sanitizer asks.
+#if defined(__SANITIZE_ADDRESS__)
+thread_local Stack current;
+#else
+Stack current;
+#endif
+
+} // namespace
+
 struct Coroutine::Contexts {
     static constexpr std::size_t stackBytes = 1 << 20; // libunicorn translates on it
 
@@ -60,8 +76,8 @@ struct Coroutine::Contexts {
     std::vector<char> stack = std::vector<char>(stackBytes);
     Place caller;
     Place own;
-    const void *callerStack = nullptr;
-    std::size_t callerStackBytes = 0;
+    Stack callerStack;
+    Stack ownStack{stack.data(), stack.size()}; // or that of another, whose body has yielded
     void *callerShadow = nullptr;
     void *ownShadow = nullptr;
 
@@ -70,7 +86,8 @@ struct Coroutine::Contexts {
     {
         const std::uintptr_t address = std::uintptr_t(high) << 32 | low;
         auto *self = reinterpret_cast<Contexts *>(address);
-        __sanitizer_finish_switch_fiber(nullptr, &self->callerStack, &self->callerStackBytes);
+        __sanitizer_finish_switch_fiber(nullptr, &self->callerStack.begin,
+                                        &self->callerStack.bytes);
         self->body();
         std::abort();
     }
@@ -95,17 +112,21 @@ Coroutine::~Coroutine() = default;
 void Coroutine::resume()
 {
     Contexts &c = *m_contexts;
-    __sanitizer_start_switch_fiber(&c.callerShadow, c.stack.data(), c.stack.size());
+    const Stack here = current;
+    __sanitizer_start_switch_fiber(&c.callerShadow, c.ownStack.begin, c.ownStack.bytes);
+    current = c.ownStack;
     c.caller.leaveFor(c.own);
+    current = here;
     __sanitizer_finish_switch_fiber(c.callerShadow, nullptr, nullptr);
 }
 
 void Coroutine::yield()
 {
     Contexts &c = *m_contexts;
-    __sanitizer_start_switch_fiber(&c.ownShadow, c.callerStack, c.callerStackBytes);
+    c.ownStack = current;
+    __sanitizer_start_switch_fiber(&c.ownShadow, c.callerStack.begin, c.callerStack.bytes);
     c.own.leaveFor(c.caller);
-    __sanitizer_finish_switch_fiber(c.ownShadow, &c.callerStack, &c.callerStackBytes);
+    __sanitizer_finish_switch_fiber(c.ownShadow, &c.callerStack.begin, &c.callerStack.bytes);
 }
 
 } // namespace CortexM1

@@ -7,7 +7,8 @@ namespace CortexM1
 {
 
 // A function on a stack of its own, which hands over to its caller wherever it wants. Neither a
-// thread nor pre-empted; resume() and yield() belong to one thread.
+// thread nor pre-empted; resume() and yield() belong to one thread. The body may resume others and
+// yield from their bodies.
 class Coroutine
 {
 public:

@@ -1,11 +1,12 @@
 #include "instructionset.h"
 
+#include "coroutine.h"
+
 #include <unicorn/unicorn.h>
 
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -54,6 +55,7 @@ struct InstructionSet::Engine {
     Engine(const std::vector<MemoryBlock> &blocks, DataPort &dataPort)
         : memory(blocks)
         , port(dataPort)
+        , program([this] { run(); })
     {
         demand(uc_open(UC_ARCH_ARM, static_cast<uc_mode>(UC_MODE_THUMB | UC_MODE_MCLASS), &uc));
         demand(uc_ctl_set_cpu_model(uc, UC_CPU_ARM_CORTEX_M0));
@@ -73,9 +75,67 @@ struct InstructionSet::Engine {
             watch(UC_HOOK_MEM_WRITE, storeBehind, own, end);
         }
         mapGap(end, addressSpace);
+        uc_hook hook;
+        demand(uc_hook_add(uc, &hook, UC_HOOK_CODE, reinterpret_cast<void *>(beforeInstruction),
+                           this, 1, 0));
     }
 
-    ~Engine() { uc_close(uc); }
+    ~Engine()
+    {
+        leave();
+        uc_close(uc);
+    }
+
+    // What the coroutine does. The library stays in its loop from one instruction to the next,
+    // since beginning and ending that takes longer than most instructions; it is suspended before
+    // each.
+    void run()
+    {
+        for (;;) {
+            isBeginning = true;
+            isLeaving = false;
+            error = uc_emu_start(uc, wanted | 1, nowhere, 0, 0);
+            if (!isLeaving) {
+                reached = read(UC_ARM_REG_PC) & ~1u;
+                program.yield();
+            } else if (!isWanted) {
+                program.yield();
+            }
+        }
+    }
+
+    static void beforeInstruction(uc_engine *uc, std::uint64_t address, std::uint32_t, void *data)
+    {
+        auto *engine = static_cast<Engine *>(data);
+        if (engine->isBeginning) {
+            engine->isBeginning = false;
+            return;
+        }
+        engine->error = UC_ERR_OK;
+        engine->reached = static_cast<std::uint32_t>(address);
+        engine->isInLoop = true;
+        engine->program.yield();
+        engine->isInLoop = false;
+        if (engine->isWanted && engine->wanted == engine->reached && !engine->isChanged)
+            return;
+        engine->isLeaving = true;
+        uc_emu_stop(uc);
+    }
+
+    // Executes an instruction, or nothing.
+    void resume(bool withInstruction)
+    {
+        isWanted = withInstruction;
+        program.resume();
+        isChanged = false;
+    }
+
+    // Ends the library's loop, which some of its functions ask for.
+    void leave()
+    {
+        if (isInLoop)
+            resume(false);
+    }
 
     void mapGap(std::uint64_t begin, std::uint64_t end)
     {
@@ -174,17 +234,44 @@ struct InstructionSet::Engine {
         return value;
     }
 
-    void write(int id, std::uint32_t value) { uc_reg_write(uc, id, &value); }
+    void write(int id, std::uint32_t value)
+    {
+        uc_reg_write(uc, id, &value);
+        isChanged = true;
+    }
+
+    // The memory that has an address.
+    MemoryBlock *homeOf(std::uint32_t address)
+    {
+        for (MemoryBlock &block : memory) {
+            if (address - block.address < block.bytes)
+                return &block;
+        }
+        return nullptr;
+    }
+
+    void noteRunningFrom(std::uint32_t address)
+    {
+        if (lastRunFrom && address - lastRunFrom->address < lastRunFrom->bytes)
+            return;
+        lastRunFrom = homeOf(address);
+        if (lastRunFrom && !hasRun(lastRunFrom->contents))
+            runFrom.push_back(lastRunFrom->contents);
+    }
+
+    bool hasRun(const std::uint8_t *contents) const
+    {
+        return std::find(runFrom.begin(), runFrom.end(), contents) != runFrom.end();
+    }
 
     // Translated instructions are kept by address: those of every address at which the bytes stand
     // go.
     void forget(std::uint32_t address, std::uint32_t bytes)
     {
-        const auto home = std::find_if(memory.begin(), memory.end(), [&](const MemoryBlock &block) {
-            return address - block.address < block.bytes;
-        });
-        if (home == memory.end() || runFrom.count(home->contents) == 0)
+        const MemoryBlock *home = homeOf(address);
+        if (!home || !hasRun(home->contents))
             return;
+        leave();
         for (const MemoryBlock &block : memory) {
             if (block.contents == home->contents) {
                 const std::uint64_t begin = block.address + (address - home->address);
@@ -197,11 +284,22 @@ struct InstructionSet::Engine {
     std::vector<MemoryBlock> memory;
     DataPort &port;
     std::vector<Gap> gaps;
-    std::set<const std::uint8_t *> runFrom;                       // memories that have instructions
+    Coroutine program;
+    std::vector<const std::uint8_t *> runFrom; // memories that have instructions
+    const MemoryBlock *lastRunFrom = nullptr;
     std::vector<std::pair<std::uint32_t, std::uint32_t>> written; // address and bytes
     std::array<std::uint32_t, registers> before{};
     bool saved = false;
     int accessesLeft = 0;
+
+    std::uint32_t wanted = 0;  // the instruction to execute
+    bool isWanted = false;     // or none
+    std::uint32_t reached = 0; // the one behind it
+    uc_err error = UC_ERR_OK;  // of the executed one
+    bool isBeginning = false;  // the library's loop
+    bool isInLoop = false;     // suspended there
+    bool isLeaving = false;    // that loop
+    bool isChanged = false;    // a register, since the loop was suspended
 };
 
 InstructionSet::InstructionSet(const std::vector<MemoryBlock> &memory, DataPort &port)
@@ -235,14 +333,12 @@ bool InstructionSet::execute(std::uint32_t &programCounter, int accesses)
 {
     m_engine->saved = false;
     m_engine->accessesLeft = accesses;
-    for (const MemoryBlock &block : m_engine->memory) {
-        if (programCounter - block.address < block.bytes)
-            m_engine->runFrom.insert(block.contents);
-    }
-    const uc_err error = uc_emu_start(m_engine->uc, programCounter | 1, nowhere, 0, 1);
-    if (error == UC_ERR_INSN_INVALID)
+    m_engine->noteRunningFrom(programCounter);
+    m_engine->wanted = programCounter;
+    m_engine->resume(true);
+    if (m_engine->error == UC_ERR_INSN_INVALID)
         return false;
-    programCounter = m_engine->read(UC_ARM_REG_PC) & ~1u;
+    programCounter = m_engine->reached;
     for (const auto &[address, bytes] : m_engine->written)
         m_engine->forget(address, bytes);
     m_engine->written.clear();
