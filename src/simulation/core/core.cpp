@@ -83,7 +83,7 @@ void Core::abandon()
 
 const Outputs &Core::clock(const Inputs &inputs)
 {
-    m_inputs = inputs;
+    m_inputs = &inputs;
     if (inputs.isReset) {
         abandon();
         m_processor.reset();
@@ -95,8 +95,11 @@ const Outputs &Core::clock(const Inputs &inputs)
         m_processor.tick(inputs.interrupts, inputs.nonMaskable,
                          m_debugger && m_debugger->isHalted());
         m_program.resume();
-        m_outputs.requestsReset = m_processor.requestsReset();
-        m_outputs.isLockedUp = m_processor.isLockedUp();
+        // Bytes that are written just before the whole is copied hold that up.
+        if (m_outputs.requestsReset != m_processor.requestsReset())
+            m_outputs.requestsReset = m_processor.requestsReset();
+        if (m_outputs.isLockedUp != m_processor.isLockedUp())
+            m_outputs.isLockedUp = m_processor.isLockedUp();
     }
     if (m_processor.hasEnded() && !m_isHeld) {
         m_outputs.isDone = true;
@@ -133,8 +136,9 @@ TransferEnd Core::accessMemory(Transfer &transfer)
     m_hasTakenTime = true;
     if (!transfer.isWrite) {
         const std::uint32_t unknown =
-            isInstruction ? m_inputs.instructionMemoryUnknown : m_inputs.dataMemoryUnknown;
-        const std::uint32_t word = isInstruction ? m_inputs.instructionMemory : m_inputs.dataMemory;
+            isInstruction ? m_inputs->instructionMemoryUnknown : m_inputs->dataMemoryUnknown;
+        const std::uint32_t word =
+            isInstruction ? m_inputs->instructionMemory : m_inputs->dataMemory;
         transfer.unknown = fromLanes(unknown, transfer.address, transfer.bytes);
         transfer.data = fromLanes(word & ~unknown, transfer.address, transfer.bytes);
     }
@@ -152,7 +156,7 @@ TransferEnd Core::transferOnBus(Transfer &transfer)
         m_program.yield();
         if (m_isAbandoning)
             return TransferEnd::Abandoned;
-    } while (!m_inputs.isReady);
+    } while (!m_inputs->isReady);
 
     m_phase = Phase::Data;
     m_outputs.isTransfer = false;
@@ -162,18 +166,19 @@ TransferEnd Core::transferOnBus(Transfer &transfer)
         m_program.yield();
         if (m_isAbandoning)
             return TransferEnd::Abandoned;
-    } while (!m_inputs.isReady);
+    } while (!m_inputs->isReady);
 
     m_phase = Phase::Idle;
-    if (m_inputs.isError)
+    if (m_inputs->isError)
         return TransferEnd::Error;
     if (transfer.isWrite)
         return TransferEnd::Done;
-    const std::uint32_t unknown = fromLanes(m_inputs.unknown, transfer.address, transfer.bytes);
+    const std::uint32_t unknown = fromLanes(m_inputs->unknown, transfer.address, transfer.bytes);
     if (unknown != 0)
         m_print("the read from " + hexadecimal(transfer.address) + " brings unknown bits, " +
                 hexadecimal(unknown) + ", which are taken for 0\n");
-    transfer.data = fromLanes(m_inputs.data & ~m_inputs.unknown, transfer.address, transfer.bytes);
+    transfer.data =
+        fromLanes(m_inputs->data & ~m_inputs->unknown, transfer.address, transfer.bytes);
     return TransferEnd::Done;
 }
 

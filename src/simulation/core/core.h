@@ -85,7 +85,7 @@ private:
     Processor m_processor;
     std::unique_ptr<Debugger> m_debugger; // if one is attached
     Coroutine m_program;
-    Inputs m_inputs;
+    const Inputs *m_inputs = nullptr; // of the call of clock()
     Outputs m_outputs;
     Phase m_phase = Phase::Idle;
     bool m_isAbandoning = false;

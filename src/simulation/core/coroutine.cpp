@@ -1,11 +1,8 @@
-// The checked longjmp() takes another stack for a mistake.
-#undef _FORTIFY_SOURCE
-
 #include "coroutine.h"
 
 #include <ucontext.h>
 
-#include <csetjmp>
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <vector>
@@ -24,37 +21,103 @@ namespace CortexM1
 namespace
 {
 
-// A place to go on at. Going there a second time asks nothing of the system, which swapcontext()
-// does; the sanitizer wants to see each change of the stack.
+// A place to go on at. Going there asks nothing of the system, unlike swapcontext(), which is left
+// for other processors, and for the sanitizer, which wants to see each change of the stack.
+#if defined(__x86_64__) && !defined(__SANITIZE_ADDRESS__)
+
+extern "C" void cortexm1_leave(void **from, void *to) __attribute__((visibility("hidden")));
+extern "C" void cortexm1_begin_body() __attribute__((visibility("hidden")));
+
+// What a function has to keep lies on its stack, with where it goes on at.
+__asm__(".text\n"
+        ".p2align 4\n"
+        ".hidden cortexm1_leave\n"
+        ".globl cortexm1_leave\n"
+        ".type cortexm1_leave, @function\n"
+        "cortexm1_leave:\n"
+        "    pushq %rbp\n"
+        "    pushq %rbx\n"
+        "    pushq %r12\n"
+        "    pushq %r13\n"
+        "    pushq %r14\n"
+        "    pushq %r15\n"
+        "    movq %rsp, (%rdi)\n"
+        "    movq %rsi, %rsp\n"
+        "    popq %r15\n"
+        "    popq %r14\n"
+        "    popq %r13\n"
+        "    popq %r12\n"
+        "    popq %rbx\n"
+        "    popq %rbp\n"
+        "    popq %rcx\n"
+        "    jmp *%rcx\n"
+        ".size cortexm1_leave, .-cortexm1_leave\n"
+        ".hidden cortexm1_begin_body\n"
+        ".globl cortexm1_begin_body\n"
+        ".type cortexm1_begin_body, @function\n"
+        "cortexm1_begin_body:\n"
+        "    movq %rbx, %rdi\n"
+        "    call *%r12\n"
+        "    ud2\n"
+        ".size cortexm1_begin_body, .-cortexm1_begin_body\n");
+
 class Place
 {
 public:
-    ucontext_t context{};
-
-    // Goes on at another place, until somebody comes back to this one.
-    void leaveFor(Place &other)
+    // `body` does not return.
+    void beginAt(std::vector<char> &stack, void (*body)(void *), void *data)
     {
-#if defined(__SANITIZE_ADDRESS__)
-        swapcontext(&context, &other.context);
-#else
-        if (_setjmp(m_registers) != 0)
-            return;
-        m_isKnown = true;
-        if (other.m_isKnown)
-            _longjmp(other.m_registers, 1);
-        setcontext(&other.context);
-#endif
+        auto **top = reinterpret_cast<void **>(
+            reinterpret_cast<std::uintptr_t>(stack.data() + stack.size()) & ~std::uintptr_t(15));
+        top -= 9; // r15, r14, r13, r12, rbx, rbp and where to go on; the rest stays aligned
+        std::fill(top, top + 9, nullptr);
+        top[3] = reinterpret_cast<void *>(body);
+        top[4] = data;
+        top[6] = reinterpret_cast<void *>(cortexm1_begin_body);
+        m_top = top;
     }
 
+    // Goes on at another place, until somebody comes back to this one.
+    void leaveFor(Place &other) { cortexm1_leave(&m_top, other.m_top); }
+
 private:
-    std::jmp_buf m_registers;
-    bool m_isKnown = false;
+    void *m_top = nullptr; // of its stack
 };
 
-} // namespace
+#else
 
-namespace
+class Place
 {
+public:
+    void beginAt(std::vector<char> &stack, void (*body)(void *), void *data)
+    {
+        getcontext(&m_context);
+        m_context.uc_stack.ss_sp = stack.data();
+        m_context.uc_stack.ss_size = stack.size();
+        m_context.uc_link = nullptr;
+        const auto toBody = reinterpret_cast<std::uintptr_t>(body);
+        const auto toData = reinterpret_cast<std::uintptr_t>(data);
+        makecontext(&m_context, reinterpret_cast<void (*)()>(begin), 4, low(toBody), high(toBody),
+                    low(toData), high(toData));
+    }
+
+    void leaveFor(Place &other) { swapcontext(&m_context, &other.m_context); }
+
+private:
+    // makecontext() hands on integers only.
+    static unsigned low(std::uint64_t address) { return static_cast<unsigned>(address); }
+    static unsigned high(std::uint64_t address) { return static_cast<unsigned>(address >> 32); }
+    static void begin(unsigned bodyLow, unsigned bodyHigh, unsigned dataLow, unsigned dataHigh)
+    {
+        const auto body = static_cast<std::uintptr_t>(std::uint64_t(bodyHigh) << 32 | bodyLow);
+        const auto data = static_cast<std::uintptr_t>(std::uint64_t(dataHigh) << 32 | dataLow);
+        reinterpret_cast<void (*)(void *)>(body)(reinterpret_cast<void *>(data));
+    }
+
+    ucontext_t m_context{};
+};
+
+#endif
 
 struct Stack {
     const void *begin = nullptr;
@@ -81,11 +144,9 @@ struct Coroutine::Contexts {
     void *callerShadow = nullptr;
     void *ownShadow = nullptr;
 
-    // makecontext() hands on integers only.
-    static void start(unsigned low, unsigned high)
+    static void start(void *data)
     {
-        const std::uintptr_t address = std::uintptr_t(high) << 32 | low;
-        auto *self = reinterpret_cast<Contexts *>(address);
+        auto *self = static_cast<Contexts *>(data);
         __sanitizer_finish_switch_fiber(nullptr, &self->callerStack.begin,
                                         &self->callerStack.bytes);
         self->body();
@@ -97,14 +158,7 @@ Coroutine::Coroutine(std::function<void()> body)
     : m_contexts(std::make_unique<Contexts>())
 {
     m_contexts->body = std::move(body);
-    ucontext_t &own = m_contexts->own.context;
-    getcontext(&own);
-    own.uc_stack.ss_sp = m_contexts->stack.data();
-    own.uc_stack.ss_size = m_contexts->stack.size();
-    own.uc_link = nullptr;
-    const auto address = reinterpret_cast<std::uintptr_t>(m_contexts.get());
-    makecontext(&own, reinterpret_cast<void (*)()>(Contexts::start), 2,
-                static_cast<unsigned>(address), static_cast<unsigned>(address >> 32));
+    m_contexts->own.beginAt(m_contexts->stack, Contexts::start, m_contexts.get());
 }
 
 Coroutine::~Coroutine() = default;

@@ -223,8 +223,10 @@ struct InstructionSet::Engine {
                           void *data)
     {
         auto *engine = static_cast<Engine *>(data);
-        engine->written.emplace_back(static_cast<std::uint32_t>(address),
-                                     static_cast<std::uint32_t>(bytes));
+        const auto place = static_cast<std::uint32_t>(address);
+        const MemoryBlock *home = engine->homeOf(place);
+        if (home && engine->hasRun(home->contents))
+            engine->written.emplace_back(place, static_cast<std::uint32_t>(bytes));
     }
 
     std::uint32_t read(int id) const
