@@ -5,10 +5,10 @@
 //   $cortexm1_clock(handle, inputs, outputs)
 //   $cortexm1_clock(handle, inputs, outputs, memory inputs, memory outputs)
 //
-// with inputs {reset, NMI, HREADY, HRESP, IRQ, HRDATA} and outputs {done, passed, SYSRESETREQ,
-// LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}. `memories` is "model", or "rtl", where the clock
-// also takes {DTCMRDATA, ITCMRDATA} and gives {ITCMEN, DTCMEN, write enables, word address, write
-// data}.
+// with inputs {reset, NMI, HREADY, HRESP, IRQ, HRDATA} and outputs {HBURST, done, passed,
+// SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}. `memories` is "model", or "rtl",
+// where the clock also takes {DTCMRDATA, ITCMRDATA} and gives {ITCMEN, DTCMEN, write enables, word
+// address, write data}.
 //
 // With +gdb=PORT a debugger may connect to the port of the loop-back address; 0 takes a free one,
 // and a line says which. The simulation stands still while the debugger has the program halted.
@@ -102,9 +102,9 @@ PLI_INT32 callClock(PLI_BYTE8 *)
     s_vpi_vecval words[3] = {};
     words[0].aval = static_cast<PLI_INT32>(outputs.data);
     words[1].aval = static_cast<PLI_INT32>(outputs.address);
-    words[2].aval = outputs.isWrite | outputs.size << 1 | (outputs.isTransfer ? 2 : 0) << 4 |
-                    outputs.isLockedUp << 6 | outputs.requestsReset << 7 | outputs.hasPassed << 8 |
-                    outputs.isDone << 9;
+    words[2].aval = outputs.isWrite | outputs.size << 1 | outputs.isSequential << 4 |
+                    outputs.isTransfer << 5 | outputs.isLockedUp << 6 | outputs.requestsReset << 7 |
+                    outputs.hasPassed << 8 | outputs.isDone << 9 | outputs.burst << 10;
     s_vpi_value value;
     value.format = vpiVectorVal;
     value.value.vector = words;
