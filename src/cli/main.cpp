@@ -1,7 +1,7 @@
 #include "commands.h"
 #include "environment.h"
-#include "simulate/engine.h"
 #include "output.h"
+#include "simulate/engine.h"
 
 #include <utils/utf8names.h>
 
@@ -289,10 +289,16 @@ int run(int argc, char *argv[])
         ->type_name("FILE");
     simulateCommand->callback([&] {
         command = [&] {
-            return Cli::runSimulate(environment,
-                                    {text(file), text(program), texts(cFiles),
-                                     Cli::engineNames().first(), text(uart0), timeout,
-                                     text(waves), text(reportFile)});
+            Cli::SimulateArguments arguments;
+            arguments.file = text(file);
+            arguments.firmware = text(program);
+            arguments.sources = texts(cFiles);
+            arguments.engine = Cli::engineNames().first();
+            arguments.uart0 = text(uart0);
+            arguments.timeout = timeout;
+            arguments.waves = text(waves);
+            arguments.report = text(reportFile);
+            return Cli::runSimulate(environment, arguments);
         };
     });
 
@@ -324,9 +330,11 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    std::vector<const std::string *> paths = {&file,    &image,      &netlist,
-                                              &outDir,  &dataFolder, &deviceFolder,
-                                              &program, &waves,      &reportFile};
+    std::vector<const std::string *> paths;
+    for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder})
+        paths.push_back(path);
+    for (const std::string *path : {&program, &waves, &reportFile})
+        paths.push_back(path);
     if (uart0 != "-")
         paths.push_back(&uart0);
     for (const std::string &cFile : cFiles)
