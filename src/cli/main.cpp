@@ -265,7 +265,7 @@ int run(int argc, char *argv[])
     std::string uart0 = "-";
     quint64 timeout = 10000000;
     std::string waves;
-    std::string reportFile;
+    std::vector<std::string> reportFiles;
     addFile(simulateCommand);
     CLI::Option_group *programGroup = simulateCommand->add_option_group("Program");
     programGroup->add_option("--firmware", program, "Program: ELF")->type_name("FILE");
@@ -296,8 +296,13 @@ int run(int argc, char *argv[])
         ->check(CLI::Range(quint64(1), quint64(1000000000000)))
         ->type_name("CYCLES");
     simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
-    simulateCommand->add_option("--report", reportFile, "Write the result (JSON)")
-        ->type_name("FILE");
+    simulateCommand
+        ->add_option("--report", reportFiles,
+                     "Write what happened: text (.txt), JUnit (.xml), otherwise JSON; may be "
+                     "repeated")
+        ->type_name("FILE")
+        ->take_all()
+        ->allow_extra_args(false);
     simulateCommand->callback([&] {
         command = [&] {
             Cli::SimulateArguments arguments;
@@ -308,7 +313,7 @@ int run(int argc, char *argv[])
             arguments.uart0 = text(uart0);
             arguments.timeout = timeout;
             arguments.waves = text(waves);
-            arguments.report = text(reportFile);
+            arguments.reports = texts(reportFiles);
             return Cli::runSimulate(environment, arguments);
         };
     });
@@ -341,13 +346,14 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    std::vector<const std::string *> paths = {&file,    &image,      &netlist,
-                                              &outDir,  &dataFolder, &deviceFolder,
-                                              &program, &waves,      &reportFile};
+    std::vector<const std::string *> paths = {&file,       &image,        &netlist, &outDir,
+                                              &dataFolder, &deviceFolder, &program, &waves};
     if (uart0 != "-")
         paths.push_back(&uart0);
     for (const std::string &cFile : cFiles)
         paths.push_back(&cFile);
+    for (const std::string &reportFile : reportFiles)
+        paths.push_back(&reportFile);
     for (const std::string *path : paths) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();

@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtEndian>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace TARVOORIXM1;
@@ -267,6 +268,90 @@ private Q_SLOTS:
                  qPrintable(run.err));
     }
 
+    void tellsPlacesInC_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QStringList>("told");
+        QTest::newRow("bus error")
+            << QByteArray("static int poke(volatile int *place)\n{\n    return *place;\n}\n"
+                          "int main(void)\n{\n    return poke((int *)0x90000000u);\n}\n"
+                          "void HardFault_Handler(void)\n{\n    __asm__ volatile(\"bkpt 9\");\n}\n")
+            << words({"main.c:3 (reading 4 bytes at 0x90000000, in no block)", "1 bus error, at",
+                      "HardFault_Handler() in ", "main.c:11."});
+        QTest::newRow("a program that does not end")
+            << QByteArray("int main(void)\n{\n    for (;;)\n        __asm__ volatile(\"nop\");"
+                          "\n}\n")
+            << words({"The program was at 0x", "main() in ", "main.c:4."});
+        QTest::newRow("an instruction that does not exist")
+            << QByteArray("int main(void)\n{\n    __asm__ volatile(\"udf 1\");\n    return 0;\n}\n"
+                          "void HardFault_Handler(void)\n{\n    __asm__ volatile(\"bkpt 0\");\n}\n")
+            << words({"1 hard fault, at 0x", "main.c:3 (there is no such instruction)"});
+        QTest::newRow("a place in a driver")
+            << QByteArray("#include \"uart.h\"\nint main(void)\n{\n"
+                          "    uart_init(UART0, 50000000u, 50u);\n"
+                          "    return (int)uart_write(UART0, \"abc\", 3, 0xFFFFFFFFu);\n}\n")
+            << words({"() in software/drivers/uart.c:"});
+    }
+
+    void tellsPlacesInC()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(QStringList, told);
+        TestSupport::write(path("main.c"), program);
+        const Run run =
+            simulate(QStringList{example} + words({"--timeout", "3000", "--c", "main.c"}));
+        for (const QString &text : qAsConst(told))
+            QVERIFY2(run.err.contains(text), qPrintable(run.err));
+    }
+
+    void aReturnFromMainHasNoPlace()
+    {
+        TestSupport::write(path("main.c"), "int main(void) { return 3; }\n");
+        const Run run = simulate(QStringList{example} + words({"--c", "main.c"}));
+        QCOMPARE(run.status, 1);
+        QVERIFY2(!run.err.contains(QLatin1String("The program was at")), qPrintable(run.err));
+    }
+
+    void reportsInEveryForm()
+    {
+        const QString blink = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/blink.c");
+        const Run run =
+            simulate(QStringList{example, QStringLiteral("--c"), blink} +
+                     words({"--report", "run.json", "--report", "run.xml", "--report", "run.txt"}));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QJsonObject report = jsonIn("run.json");
+        QVERIFY(report.value(QLatin1String("instructions")).toInt() > 100);
+        QVERIFY(report.value(QLatin1String("cyclesAsleep")).toInt() > 10000);
+        QVERIFY(report.value(QLatin1String("cyclesAsleep")).toInt() <
+                report.value(QLatin1String("clockCycles")).toInt());
+        const QJsonArray exceptions = report.value(QLatin1String("exceptions")).toArray();
+        QCOMPARE(exceptions.size(), 1);
+        QCOMPARE(exceptions.first().toObject().value(QLatin1String("name")).toString(),
+                 QStringLiteral("TIMER0"));
+        QCOMPARE(exceptions.first().toObject().value(QLatin1String("count")).toInt(), 16);
+        const QJsonArray never = report.value(QLatin1String("interruptsNeverTaken")).toArray();
+        QVERIFY(never.contains(QStringLiteral("UART0")) &&
+                !never.contains(QStringLiteral("TIMER0")));
+        QStringList accessed;
+        const QJsonArray blocks = report.value(QLatin1String("blocks")).toArray();
+        for (const QJsonValue &block : blocks) {
+            if (block.toObject().value(QLatin1String("reads")).toInt() != 0)
+                accessed.append(block.toObject().value(QLatin1String("name")).toString());
+        }
+        QCOMPARE(accessed.join(u' '), QStringLiteral("GPIO TIMER0"));
+        QCOMPARE(report.value(QLatin1String("busErrors")).toObject().value(QLatin1String("count")),
+                 QJsonValue(0));
+        QXmlStreamReader xml(TestSupport::contentsOf(path("run.xml")));
+        QStringList elements;
+        while (!xml.atEnd()) {
+            if (xml.readNext() == QXmlStreamReader::StartElement)
+                elements.append(xml.name().toString());
+        }
+        QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+        QCOMPARE(elements.join(u' '), QStringLiteral("testsuites testsuite testcase system-out"));
+        QVERIFY(TestSupport::contentsOf(path("run.txt")).startsWith("Passed after "));
+    }
+
     // Bytes of the UART are exact, and nothing that a program says is taken for its end.
     void tellsTheUartFromOtherTexts()
     {
@@ -322,6 +407,8 @@ private Q_SLOTS:
             << words({"--c", "a", "--uart0", ""}) << QStringLiteral("--uart0");
         QTest::newRow("a result over a source")
             << words({"--c", "a", "--report", "./a"}) << QStringLiteral("--report");
+        QTest::newRow("a report twice") << words({"--c", "a", "--report", "b", "--report", "./b"})
+                                        << QStringLiteral("--report");
         QTest::newRow("two results in one file")
             << words({"--c", "a", "--report", "b", "--waves", "b"}) << QStringLiteral("--report");
         QTest::newRow("no such engine")

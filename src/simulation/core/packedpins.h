@@ -10,7 +10,7 @@ namespace CortexM1
 // The pins as vectors of a Verilog simulator, the lowest word first:
 //
 //   inputs {reset, NMI, HREADY, HRESP, IRQ, HRDATA}
-//   outputs {done, passed, SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}
+//   outputs {HBURST, done, passed, SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}
 //   memory inputs {DTCMRDATA, ITCMRDATA}
 //   memory outputs {ITCMEN, DTCMEN, write enables, word address, write data}
 constexpr int inputWords = 3;
@@ -52,9 +52,10 @@ inline void packOutputs(const Outputs &outputs, std::uint32_t *words)
     words[0] = outputs.data;
     words[1] = outputs.address;
     words[2] = unsigned(outputs.isWrite) | static_cast<unsigned>(outputs.size) << 1 |
-               (outputs.isTransfer ? 2u : 0u) << 4 | unsigned(outputs.isLockedUp) << 6 |
-               unsigned(outputs.requestsReset) << 7 | unsigned(outputs.hasPassed) << 8 |
-               unsigned(outputs.isDone) << 9;
+               unsigned(outputs.isSequential) << 4 | unsigned(outputs.isTransfer) << 5 |
+               unsigned(outputs.isLockedUp) << 6 | unsigned(outputs.requestsReset) << 7 |
+               unsigned(outputs.hasPassed) << 8 | unsigned(outputs.isDone) << 9 |
+               static_cast<unsigned>(outputs.burst) << 10;
 }
 
 inline void packMemories(const MemoryOutputs &outputs, std::uint32_t *words)

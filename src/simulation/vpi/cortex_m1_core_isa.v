@@ -11,6 +11,9 @@
 // ("Initialize ITCM"), or FILE, which is then written over the interface before the first instruction. A read of bits that are
 // neither 0 nor 1 ends the program and tells the address (Verilator has no such bits). It is slower, and takes more clock cycles.
 //
+// With +script=FILE the core plays a script of transfers instead of a program, as the bus-functional model does; with +tcm=model
+// its accesses to the memories stay within the model and take as many clock cycles as they take over the interfaces.
+//
 // What the program says by semihosting is printed. When it ends, a line says "PASS" or "FAIL: " and the reason; done is 1 then and
 // passed tells which, and with +finish the simulation ends. With +gdb=PORT the program waits for a debugger at 127.0.0.1;
 // that needs +tcm=model.
@@ -23,8 +26,8 @@
 `ifdef VERILATOR
 import "DPI-C" function int cortexm1_open(input string firmware, input int interrupts, os, be8, lower, upper, itcm_size, dtcm_size,
                                           input string memories);
-import "DPI-C" function void cortexm1_clock(input int handle, input bit [67:0] pins, output bit [73:0] next);
-import "DPI-C" function void cortexm1_clock_memories(input int handle, input bit [67:0] pins, output bit [73:0] next,
+import "DPI-C" function void cortexm1_clock(input int handle, input bit [67:0] pins, output bit [76:0] next);
+import "DPI-C" function void cortexm1_clock_memories(input int handle, input bit [67:0] pins, output bit [76:0] next,
                                                      input bit [63:0] data, output bit [55:0] tcm);
 `define CORTEXM1_OPEN(firmware, memories) \
     handle = cortexm1_open(string'(firmware), NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, {28'd0, ITCMSIZE}, {28'd0, DTCMSIZE}, \
@@ -105,7 +108,6 @@ module CortexM1Core #(
     output wire        TDOEN
 );
     assign HALTED = 1'b0;
-    assign HBURST = 3'b000;      // single transfers
     assign HPROT = 4'b0011;      // data, privileged
     assign HMASTLOCK = 1'b0;
     assign {DBGITCMEN, DBGITCMWE, DBGITCMADDR, DBGITCMWDATA} = 55'd0;
@@ -129,8 +131,8 @@ module CortexM1Core #(
 
     // The model looks at falling edges, where inputs have settled, and says what the outputs show from the next rising edge
     // on. An X is no reset.
-    reg  [73:0] next = 74'd0;
-    reg  [73:0] shown = 74'd0;
+    reg  [76:0] next = 77'd0;
+    reg  [76:0] shown = 77'd0;
     reg  [55:0] tcm = 56'd0;
     wire        in_reset = (PORRESETn === 1'b0) | (SYSRESETn === 1'b0);
     always @(negedge HCLK) begin
@@ -149,6 +151,7 @@ module CortexM1Core #(
     end
     always @(posedge HCLK)
         shown <= next;
+    assign HBURST = shown[76:74];
     assign {SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA} = shown[71:0];
 
     // The memories' pins change with the falling edge, so that an access takes one cycle. Both have the same address and data.
