@@ -21,6 +21,10 @@ public:
     // The subsystem has sent a byte on the line of a UART.
     void sent(int uart, std::uint8_t byte);
 
+    // Whether waves are written of this clock cycle, counted from the end of the power-on reset;
+    // asked in each one if the waves have a window (WaveWindow).
+    bool waves(std::uint32_t cyclesLow, std::uint32_t cyclesHigh);
+
 private:
     void tell(const std::string &event);
 

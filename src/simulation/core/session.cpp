@@ -1,6 +1,7 @@
 #include "session.h"
 
 #include "elfimage.h"
+#include "wavewindow.h"
 
 #include <cstdlib>
 #include <exception>
@@ -30,7 +31,14 @@ Session::Session(Simulator &simulator, const Parameters &parameters, const std::
 {
     if (const char *file = simulator.argument("statistics"))
         m_statisticsFile = file;
+    if (const char *file = simulator.argument("names")) {
+        std::ifstream lines(file, std::ios::binary);
+        m_names = Names(lines);
+    }
     try {
+        WaveWindow::shared() =
+            WaveWindow(simulator.argument("waves-from"), simulator.argument("waves-to"),
+                       simulator.argument("waves-at"));
         open(parameters, firmware, memories);
     } catch (const std::exception &error) {
         m_mistake = error.what();
@@ -102,6 +110,26 @@ void Session::print(const std::string &piece)
     m_printed += piece.size();
     if (m_printed <= mostOutput)
         m_simulator.print(piece);
+    WaveWindow::shared().noteText(0, piece);
+}
+
+void Session::noteEvents(const Outputs &outputs)
+{
+    const Processor &processor = m_core->processor();
+    if (outputs.isTransfer)
+        WaveWindow::shared().noteTransfer(outputs.address, 1 << outputs.size);
+    if (processor.statistics().starts != 0)
+        WaveWindow::shared().noteInstruction(processor.registerValue(15),
+                                             processor.runningException());
+}
+
+Session::Shown Session::shown() const
+{
+    if (!m_core)
+        return {};
+    const std::uint32_t place = m_core->processor().registerValue(15);
+    return {place, m_names.functionAt(place).c_str(),
+            m_core->isOnBus() ? m_names.registerAt(m_busAddress).c_str() : ""};
 }
 
 Outputs Session::clock(const Inputs &inputs)
@@ -111,6 +139,9 @@ Outputs Session::clock(const Inputs &inputs)
         outputs = m_core->clock(inputs);
     else
         outputs.isDone = true;
+    m_busAddress = outputs.address;
+    if (m_core && WaveWindow::shared().isWaiting())
+        noteEvents(outputs);
     if (outputs.isDone && !m_isReported) {
         m_isReported = true;
         m_simulator.print(

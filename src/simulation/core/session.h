@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core.h"
+#include "names.h"
 #include "tcplink.h"
 
 #include <cstddef>
@@ -46,6 +47,15 @@ public:
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
+    // What people see in waves: the instruction, the function that it is in and the register that a
+    // transfer accesses, by the names of +names=FILE; empty for none. The texts are the session's.
+    struct Shown {
+        std::uint32_t programCounter = 0;
+        const char *functionName = "";
+        const char *registerName = "";
+    };
+    Shown shown() const;
+
     // The line that tells the verdict is printed when the program ends.
     Outputs clock(const Inputs &inputs);
 
@@ -53,10 +63,13 @@ private:
     void open(const Parameters &parameters, std::string firmware, const std::string &memories);
     void openDebugger();
     void print(const std::string &piece);
+    void noteEvents(const Outputs &outputs);
 
     Simulator &m_simulator;
     std::unique_ptr<TcpLink> m_debugger;
     std::unique_ptr<Core> m_core;
+    Names m_names;
+    std::uint32_t m_busAddress = 0;
     std::string m_statisticsFile; // empty: none
     std::string m_mistake;        // why there is no core
     std::size_t m_printed = 0;
