@@ -256,10 +256,12 @@ int run(int argc, char *argv[])
         };
     });
 
-    CLI::App *simulateCommand = app.add_subcommand(
-        "simulate", "Run a program for the processor on the subsystem's RTL (Icarus Verilog)");
+    CLI::App *simulateCommand =
+        app.add_subcommand("simulate", "Run a program for the processor on the subsystem's RTL");
     std::string program;
     std::vector<std::string> cFiles;
+    const QStringList engines = Cli::engineNames();
+    std::string engine = engines.first().toStdString();
     std::string uart0 = "-";
     quint64 timeout = 10000000;
     std::string waves;
@@ -273,6 +275,15 @@ int run(int argc, char *argv[])
                      "from main() ends the run: 0 has passed")
         ->type_name("FILE ...");
     programGroup->require_option(1);
+    std::vector<std::string> engineTexts;
+    for (const QString &name : engines)
+        engineTexts.push_back(name.toStdString());
+    simulateCommand
+        ->add_option("--engine", engine,
+                     "Simulator: icarus (the default) starts at once, verilator compiles the "
+                     "design first and then runs it fast")
+        ->check(CLI::IsMember(engineTexts))
+        ->type_name("NAME");
     simulateCommand
         ->add_option("--uart0", uart0,
                      "Where the bytes of UART0 go: a file, or - (the default) "
@@ -319,7 +330,7 @@ int run(int argc, char *argv[])
             arguments.file = text(file);
             arguments.firmware = text(program);
             arguments.sources = texts(cFiles);
-            arguments.engine = Cli::engineNames().first();
+            arguments.engine = text(engine);
             arguments.uart0 = text(uart0);
             arguments.timeout = timeout;
             arguments.waves = text(waves);

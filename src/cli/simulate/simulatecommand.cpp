@@ -258,7 +258,7 @@ private:
         // The build tree and an installation are laid out alike.
         m_modelFolder = QDir::cleanPath(QCoreApplication::applicationDirPath() +
                                         QLatin1String("/" ORIXM1_MODEL_FOLDER));
-        for (const char *name : {"cortexm1core.vpi", "cortex_m1_core_isa.v"}) {
+        for (const char *name : {"cortexm1core.vpi", "cortexm1core.so", "cortex_m1_core_isa.v"}) {
             const QString path = m_modelFolder + u'/' + QLatin1String(name);
             if (!QFileInfo(path).isFile())
                 return {Failed,

@@ -3,6 +3,7 @@
 #include "elfimage.h"
 #include "wavewindow.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <fstream>
@@ -16,7 +17,24 @@ namespace CortexM1
 namespace
 {
 
-constexpr std::size_t mostOutput = 1 << 20; // bytes; a program that floods is cut off
+constexpr std::size_t mostOutput = 1 << 20;  // bytes; a program that floods is cut off
+constexpr std::uint64_t mostFailures = 1000; // of a script, that are told
+
+// Without white space, and in ASCII.
+std::string percentEncoded(const std::string &bytes)
+{
+    std::string text;
+    for (const char c : bytes) {
+        if (c > ' ' && c < 0x7F && c != '%') {
+            text += c;
+            continue;
+        }
+        char code[4];
+        std::snprintf(code, sizeof code, "%%%02X", static_cast<unsigned char>(c));
+        text += code;
+    }
+    return text;
+}
 
 std::uint32_t memoryBytes(int code)
 {
@@ -54,8 +72,9 @@ Session::~Session()
 
 void Session::open(const Parameters &parameters, std::string firmware, const std::string &memories)
 {
+    const char *script = m_simulator.argument("script");
     const char *fromEnvironment = std::getenv("CORTEXM1_FIRMWARE");
-    if (firmware.empty() && fromEnvironment)
+    if (firmware.empty() && fromEnvironment && !script)
         firmware = fromEnvironment;
     Configuration configuration;
     configuration.hasOuterMemories = memories == "rtl";
@@ -63,7 +82,7 @@ void Session::open(const Parameters &parameters, std::string firmware, const std
         throw std::runtime_error("+tcm=" + memories + " is neither +tcm=model nor +tcm=rtl");
     if (configuration.hasOuterMemories && m_simulator.argument("gdb"))
         throw std::runtime_error("+gdb needs +tcm=model"); // elsewhere each look would take time
-    if (firmware.empty() && !configuration.hasOuterMemories)
+    if (firmware.empty() && !configuration.hasOuterMemories && !script)
         throw std::runtime_error("no program is named: +firmware=FILE");
     configuration.interrupts = parameters.interrupts;
     configuration.hasOsExtension = parameters.hasOsExtension;
@@ -72,6 +91,10 @@ void Session::open(const Parameters &parameters, std::string firmware, const std
     configuration.hasUpperAlias = parameters.hasUpperAlias;
     configuration.itcmBytes = memoryBytes(parameters.itcmSize);
     configuration.dtcmBytes = memoryBytes(parameters.dtcmSize);
+    if (script) {
+        openScript(configuration, firmware, script);
+        return;
+    }
     m_core =
         std::make_unique<Core>(configuration, [this](const std::string &piece) { print(piece); });
     if (firmware.empty())
@@ -84,6 +107,18 @@ void Session::open(const Parameters &parameters, std::string firmware, const std
     m_core->processor().setInstructionMemory(contents);
     if (m_mistake.empty())
         openDebugger();
+}
+
+void Session::openScript(const Configuration &configuration, const std::string &firmware,
+                         const std::string &script)
+{
+    if (!firmware.empty())
+        throw std::runtime_error("+script=FILE and +firmware=FILE exclude each other");
+    if (m_simulator.argument("gdb"))
+        throw std::runtime_error("+gdb needs a program");
+    m_player =
+        std::make_unique<ScriptPlayer>(configuration, BoardHost::shared(m_simulator), script,
+                                       [this](const ScriptFailure &failure) { tell(failure); });
 }
 
 void Session::openDebugger()
@@ -115,40 +150,72 @@ void Session::print(const std::string &piece)
 
 void Session::noteEvents(const Outputs &outputs)
 {
-    const Processor &processor = m_core->processor();
     if (outputs.isTransfer)
         WaveWindow::shared().noteTransfer(outputs.address, 1 << outputs.size);
-    if (processor.statistics().starts != 0)
-        WaveWindow::shared().noteInstruction(processor.registerValue(15),
-                                             processor.runningException());
+    if (m_core && m_core->processor().statistics().starts != 0)
+        WaveWindow::shared().noteInstruction(m_core->processor().registerValue(15),
+                                             m_core->processor().runningException());
 }
 
 Session::Shown Session::shown() const
 {
-    if (!m_core)
-        return {};
-    const std::uint32_t place = m_core->processor().registerValue(15);
-    return {place, m_names.functionAt(place).c_str(),
-            m_core->isOnBus() ? m_names.registerAt(m_busAddress).c_str() : ""};
+    Shown shown;
+    if (m_core) {
+        shown.programCounter = m_core->processor().registerValue(15);
+        shown.functionName = m_names.functionAt(shown.programCounter).c_str();
+    }
+    if (m_core ? m_core->isOnBus() : m_isTransferring)
+        shown.registerName = m_names.registerAt(m_busAddress).c_str();
+    return shown;
+}
+
+void Session::tell(const ScriptFailure &failure)
+{
+    if (m_player->failures() > mostFailures)
+        return;
+    const std::string line = std::to_string(failure.line);
+    const char *mark = m_simulator.argument("mark");
+    if (mark)
+        m_simulator.print('\036' + std::string(mark) + " failure " + line + ' ' +
+                          percentEncoded(failure.file) + ' ' + failure.text + '\n');
+    else if (failure.line == 0)
+        m_simulator.print(failure.text + '\n');
+    else
+        m_simulator.print(failure.file + ':' + line + ": " + failure.text + '\n');
+    if (m_player->failures() == mostFailures)
+        m_simulator.print("(further failures are only counted)\n");
+}
+
+// The last line.
+std::string Session::verdict() const
+{
+    if (!m_mistake.empty())
+        return "FAIL: " + m_mistake;
+    if (!m_player)
+        return "FAIL: " + m_core->processor().ending().reason;
+    return "FAIL: " + std::to_string(m_player->failures()) + " of " +
+           std::to_string(m_player->checks()) + " checks";
 }
 
 Outputs Session::clock(const Inputs &inputs)
 {
     Outputs outputs;
-    if (m_mistake.empty())
-        outputs = m_core->clock(inputs);
-    else
+    if (!m_mistake.empty())
         outputs.isDone = true;
+    else
+        outputs = m_player ? m_player->clock(inputs) : m_core->clock(inputs);
     m_busAddress = outputs.address;
-    if (m_core && WaveWindow::shared().isWaiting())
+    m_isTransferring = outputs.isTransfer;
+    if (WaveWindow::shared().isWaiting())
         noteEvents(outputs);
     if (outputs.isDone && !m_isReported) {
         m_isReported = true;
-        m_simulator.print(
-            outputs.hasPassed
-                ? std::string("PASS\n")
-                : "FAIL: " + (m_mistake.empty() ? m_core->processor().ending().reason : m_mistake) +
-                      "\n");
+        const char *mark = m_simulator.argument("mark");
+        if (m_player && mark)
+            m_simulator.print('\036' + std::string(mark) + " checks " +
+                              std::to_string(m_player->checks()) + ' ' +
+                              std::to_string(m_player->failures()) + '\n');
+        m_simulator.print((outputs.hasPassed ? std::string("PASS") : verdict()) + '\n');
     }
     return outputs;
 }

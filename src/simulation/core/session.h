@@ -2,6 +2,7 @@
 
 #include "core.h"
 #include "names.h"
+#include "scriptplayer.h"
 #include "tcplink.h"
 
 #include <cstddef>
@@ -34,7 +35,10 @@ struct Parameters {
 };
 
 // A core in a simulation: what the command line asks for, what is printed and how it ends. A
-// mistake ends the program in its first clock cycle.
+// mistake ends the program in its first clock cycle. +script=FILE plays a script instead of a
+// program. Its failures are lines "FILE:LINE: TEXT"; with +mark=MARK, for a reader that knows it,
+// "\036MARK failure LINE FILE TEXT" with FILE percent-encoded, and before the verdict
+// "\036MARK checks CHECKS FAILURES".
 class Session
 {
 public:
@@ -61,15 +65,21 @@ public:
 
 private:
     void open(const Parameters &parameters, std::string firmware, const std::string &memories);
+    void openScript(const Configuration &configuration, const std::string &firmware,
+                    const std::string &script);
     void openDebugger();
+    void tell(const ScriptFailure &failure);
+    std::string verdict() const;
     void print(const std::string &piece);
     void noteEvents(const Outputs &outputs);
 
     Simulator &m_simulator;
     std::unique_ptr<TcpLink> m_debugger;
-    std::unique_ptr<Core> m_core;
+    std::unique_ptr<Core> m_core; // or
+    std::unique_ptr<ScriptPlayer> m_player;
     Names m_names;
     std::uint32_t m_busAddress = 0;
+    bool m_isTransferring = false;
     std::string m_statisticsFile; // empty: none
     std::string m_mistake;        // why there is no core
     std::size_t m_printed = 0;
