@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace Cli
 {
 
@@ -60,13 +62,16 @@ struct ExportArguments {
 
 struct SimulateArguments {
     QString file;
-    QString firmware;    // ELF; or
-    QStringList sources; // in C
-    QString engine;      // of engineNames()
-    QString uart0;       // "-": standard output, else a file
-    quint64 timeout = 0; // clock cycles
-    QString waves;       // file; empty: none
-    QStringList reports; // files
+    QString firmware;                 // ELF; or
+    QStringList sources;              // in C
+    QString engine;                   // of engineNames()
+    QString uart0;                    // "-": standard output, else a file
+    quint64 timeout = 0;              // clock cycles
+    QString waves;                    // file; empty: none
+    QStringList reports;              // files
+    std::optional<quint64> wavesFrom; // clock cycle; of the part that waves are wanted of
+    std::optional<quint64> wavesTo;
+    std::optional<QString> wavesAt; // event
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

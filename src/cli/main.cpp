@@ -295,7 +295,28 @@ int run(int argc, char *argv[])
                      "status 124 (default: 10000000)")
         ->check(CLI::Range(quint64(1), quint64(1000000000000)))
         ->type_name("CYCLES");
-    simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
+    quint64 wavesFrom = 0;
+    quint64 wavesTo = 0;
+    std::string wavesAt;
+    simulateCommand
+        ->add_option("--waves", waves,
+                     "Write all signals (FST), and beside them a view for GTKWave (.gtkw)")
+        ->type_name("FILE");
+    const CLI::Option *wavesFromOption =
+        simulateCommand
+            ->add_option("--waves-from", wavesFrom, "Clock cycle at which the waves begin")
+            ->check(CLI::Range(quint64(0), quint64(1000000000000)))
+            ->type_name("CYCLE");
+    const CLI::Option *wavesToOption =
+        simulateCommand->add_option("--waves-to", wavesTo, "Clock cycle with which they end")
+            ->check(CLI::Range(quint64(0), quint64(1000000000000)))
+            ->type_name("CYCLE");
+    const CLI::Option *wavesAtOption =
+        simulateCommand
+            ->add_option("--waves-at", wavesAt,
+                         "Event at which they begin: address:0x40000000[-0x400000FF], "
+                         "interrupt:NAME or its number, message:TEXT")
+            ->type_name("EVENT");
     simulateCommand
         ->add_option("--report", reportFiles,
                      "Write what happened: text (.txt), JUnit (.xml), otherwise JSON; may be "
@@ -303,7 +324,7 @@ int run(int argc, char *argv[])
         ->type_name("FILE")
         ->take_all()
         ->allow_extra_args(false);
-    simulateCommand->callback([&] {
+    simulateCommand->callback([&, wavesFromOption, wavesToOption, wavesAtOption] {
         command = [&] {
             Cli::SimulateArguments arguments;
             arguments.file = text(file);
@@ -314,6 +335,12 @@ int run(int argc, char *argv[])
             arguments.timeout = timeout;
             arguments.waves = text(waves);
             arguments.reports = texts(reportFiles);
+            if (wavesFromOption->count() != 0)
+                arguments.wavesFrom = wavesFrom;
+            if (wavesToOption->count() != 0)
+                arguments.wavesTo = wavesTo;
+            if (wavesAtOption->count() != 0)
+                arguments.wavesAt = text(wavesAt);
             return Cli::runSimulate(environment, arguments);
         };
     });

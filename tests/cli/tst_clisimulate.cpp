@@ -11,8 +11,8 @@
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QtEndian>
 #include <QXmlStreamReader>
+#include <QtEndian>
 #include <QtTest>
 
 using namespace TARVOORIXM1;
@@ -352,6 +352,130 @@ private Q_SLOTS:
         QVERIFY(TestSupport::contentsOf(path("run.txt")).startsWith("Passed after "));
     }
 
+    void wavesAreOfThePartThatIsAskedFor_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<qint64>("first"); // nanoseconds, if the waves can be read
+        QTest::addColumn<qint64>("last");
+        // The power-on reset takes eleven clock cycles of 20 ns.
+        QTest::newRow("clock cycles")
+            << words({"--waves-from", "300", "--waves-to", "400"}) << qint64(6200) << qint64(8300);
+        QTest::newRow("interrupt by name")
+            << words({"--waves-at", "interrupt:TIMER0"}) << qint64(23000) << qint64(330000);
+        QTest::newRow("interrupt by number")
+            << words({"--waves-at", "interrupt:2", "--waves-to", "1500"}) << qint64(23000)
+            << qint64(30300);
+        QTest::newRow("from a cycle on an address")
+            << words({"--waves-at", "address:0x40000000-0x40000FFF", "--waves-from", "2500",
+                      "--waves-to", "4000"})
+            << qint64(50000) << qint64(80300);
+    }
+
+    void wavesAreOfThePartThatIsAskedFor()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(qint64, first);
+        QFETCH(qint64, last);
+        const QStringList program{example, QStringLiteral("--c"),
+                                  QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/blink.c"),
+                                  QStringLiteral("--waves")};
+        static qint64 wholeSize = 0;
+        if (wholeSize == 0) {
+            const Run whole = simulate(program + words({"whole.fst"}));
+            QVERIFY2(whole.status == 0, qPrintable(whole.err));
+            wholeSize = QFileInfo(path("whole.fst")).size();
+        }
+        const Run part = simulate(program + words({"part.fst"}) + options);
+        QVERIFY2(part.status == 0, qPrintable(part.err));
+        const qint64 size = QFileInfo(path("part.fst")).size();
+        QVERIFY(size > 1000 && size < wholeSize);
+        const QByteArray text = wavesOf("part.fst");
+        if (text.isEmpty())
+            return;
+        QList<qint64> times;
+        for (const QByteArray &line : text.split('\n')) {
+            if (line.startsWith('#'))
+                times.append(line.mid(1).toLongLong() / 1000);
+        }
+        QVERIFY2(times.first() >= first && times.last() <= last,
+                 qPrintable(QStringLiteral("%1 %2").arg(times.first()).arg(times.last())));
+    }
+
+    void wavesBeginWithAMessage_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("comes");
+        QTest::newRow("by semihosting") << QStringLiteral("message:one two") << true;
+        QTest::newRow("on a UART") << QStringLiteral("message:lo, w") << true;
+        QTest::newRow("of nobody") << QStringLiteral("message:three") << false;
+    }
+
+    void wavesBeginWithAMessage()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, comes);
+        TestSupport::write(path("main.c"),
+                           "#include \"system_tarvo_orix_m1.h\"\n#include \"uart.h\"\n" +
+                               semihosting +
+                               "int main(void)\n{\n    call(4, \"one \");\n    call(4, \"two\");\n"
+                               "    uart_init(UART0, SystemCoreClock, 1000000u);\n"
+                               "    uart_write(UART0, \"hello, world\", 12, 100000u);\n"
+                               "    return 0;\n}\n");
+        const Run run = simulate(
+            QStringList{example} + words({"--c", "main.c", "--waves", "w.fst", "--waves-at"})
+            << text);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(QFileInfo::exists(path("w.fst")), comes);
+        QCOMPARE(run.err.contains(QLatin1String("has not begun")), !comes);
+    }
+
+    void wavesComeWithAViewThatIsThePersonsOwnOnceSaved()
+    {
+        TestSupport::write(path("main.c"), "int main(void) { return 0; }\n");
+        const QStringList arguments =
+            QStringList{example} + words({"--c", "main.c", "--waves", "a.b.fst"});
+        TestSupport::write(path("a.b.gtkw"), "[*]\nmine\n");
+        Run run = simulate(arguments);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(TestSupport::contentsOf(path("a.b.gtkw")), QByteArray("[*]\nmine\n"));
+        QVERIFY(QFile::remove(path("a.b.gtkw")));
+        run = simulate(arguments);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QByteArray view = TestSupport::contentsOf(path("a.b.gtkw"));
+        QVERIFY(view.contains(path("a.b.fst").toUtf8()));
+        // What it shows is there.
+        const QByteArray waves = wavesOf("a.b.fst");
+        for (QByteArray line : view.split('\n')) {
+            line.remove(0, line.lastIndexOf(' ') + 1);
+            line.remove(0, line.lastIndexOf(')') + 1);
+            if (!line.startsWith("board.") || waves.isEmpty())
+                continue;
+            const QByteArray name =
+                line.mid(line.lastIndexOf('.') + 1).replace("[", " [") + " $end";
+            QVERIFY2(waves.contains(name), line.constData());
+        }
+    }
+
+    void wavesNameFunctionsAndRegisters()
+    {
+        const Run run = simulate({example, QStringLiteral("--c"),
+                                  QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c"),
+                                  QStringLiteral("--waves"), path("w.fst")});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QByteArray waves = wavesOf("w.fst");
+        if (waves.isEmpty())
+            QSKIP("fst2vcd of the Debian package gtkwave is not installed");
+        const auto inBits = [](const QByteArray &text) -> QByteArray {
+            QByteArray bits;
+            for (const char c : text)
+                bits += QByteArray::number(c, 2).rightJustified(8, '0');
+            return bits.mid(bits.indexOf('1')) + ' ';
+        };
+        for (const char *name : {"uart_write", "main", "UART0.DATA", "UART0.BAUDDIV"})
+            QVERIFY2(waves.contains('b' + inBits(name)) || waves.contains('0' + inBits(name)),
+                     name);
+    }
+
     // Bytes of the UART are exact, and nothing that a program says is taken for its end.
     void tellsTheUartFromOtherTexts()
     {
@@ -409,6 +533,33 @@ private Q_SLOTS:
             << words({"--c", "a", "--report", "./a"}) << QStringLiteral("--report");
         QTest::newRow("a report twice") << words({"--c", "a", "--report", "b", "--report", "./b"})
                                         << QStringLiteral("--report");
+        const auto window = [](const char *name, const QStringList &options, const char *message) {
+            QTest::newRow(name) << words({"--c", "a"}) + options << QString::fromUtf8(message);
+        };
+        window("a part of no waves", words({"--waves-from", "1"}), "need --waves");
+        window("an event of no waves", words({"--waves-at", "address:1"}), "need --waves");
+        const QStringList waves = words({"--waves", "w.fst"});
+        window("waves that end before they begin",
+               waves + words({"--waves-from", "5", "--waves-to", "4"}), "--waves-to 4");
+        window("a part of the waves of another engine",
+               waves + words({"--waves-from", "5", "--engine", "verilator"}), "--engine icarus");
+        window("waves from no number", waves + words({"--waves-from", "x"}), "--waves-from");
+        window("waves before the beginning", waves + words({"--waves-from", "-1"}), "--waves-from");
+        window("no event", waves + words({"--waves-at", ""}), "--waves-at");
+        window("an unknown event", waves + words({"--waves-at", "noon:12"}), "noon:12");
+        window("no address", waves + words({"--waves-at", "address:x"}), "32 bits");
+        window("an address that is too large", waves + words({"--waves-at", "address:0x100000000"}),
+               "32 bits");
+        window("a range backwards", waves + words({"--waves-at", "address:8-4"}),
+               "before it begins");
+        window("three addresses", waves + words({"--waves-at", "address:1-2-3"}), "32 bits");
+        window("an unknown interrupt", waves + words({"--waves-at", "interrupt:UART7"}),
+               "TIMER0, ");
+        window("an interrupt input too many", waves + words({"--waves-at", "interrupt:32"}),
+               "no such interrupt");
+        window("an empty message", waves + words({"--waves-at", "message:"}), "1 to 1024 bytes");
+        window("a report in the view of the waves", waves + words({"--report", "w.gtkw"}),
+               "--report");
         QTest::newRow("two results in one file")
             << words({"--c", "a", "--report", "b", "--waves", "b"}) << QStringLiteral("--report");
         QTest::newRow("no such engine")
@@ -634,6 +785,17 @@ private Q_SLOTS:
 
 private:
     QString path(const char *name) const { return m_dir->filePath(QString::fromUtf8(name)); }
+
+    // As text (VCD); empty where nothing can read it.
+    QByteArray wavesOf(const char *name) const
+    {
+        const QString reader = QStandardPaths::findExecutable(QStringLiteral("fst2vcd"));
+        QProcess process;
+        if (!reader.isEmpty())
+            process.start(reader, {QStringLiteral("-f"), path(name)});
+        return !reader.isEmpty() && process.waitForFinished() ? process.readAllStandardOutput()
+                                                              : QByteArray();
+    }
 
     QJsonObject jsonIn(const char *name) const
     {

@@ -7,6 +7,7 @@
 #include "simulation.h"
 #include "simulationreport.h"
 #include "terminal.h"
+#include "wavewindow.h"
 
 #include <config/optionkeys.h>
 #include <firmware/itcmfiles.h>
@@ -14,6 +15,7 @@
 #include <reading/plainfile.h>
 #include <simulation/board.h>
 #include <simulation/program.h>
+#include <simulation/wavesview.h>
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
@@ -93,6 +95,7 @@ private:
         };
         add("--uart0", isOnTerminal() ? QString() : m_arguments.uart0);
         add("--waves", m_arguments.waves);
+        add("--waves", viewFile());
         for (const QString &report : m_arguments.reports)
             add("--report", report);
         return list;
@@ -153,6 +156,10 @@ private:
                                                 "has no big-endian data.")};
         if (!isOnTerminal() && !findRegion(m_map, QStringLiteral("UART0")))
             return {BadInput, quoted(m_document.path) + QLatin1String(" has no UART0.")};
+        const auto window = waveArguments(m_arguments, m_map);
+        if (!window)
+            return {WrongUsage, window.reason()};
+        m_waveArguments = *window;
         for (const QString &source : m_arguments.sources) {
             const QFileInfo info(source);
             if (!info.isFile() || !info.isReadable())
@@ -178,10 +185,29 @@ private:
                               : compileProgram();
         if (made.status != Done)
             return made;
+        m_places = SourcePlaces(programBytes());
+        if (!m_arguments.waves.isEmpty()) {
+            const auto written =
+                m_simulation->write(namesFile(), wavesNames(m_map, m_places.functions()));
+            if (!written)
+                return {Failed, written.reason()};
+        }
         return compileDesign();
     }
 
     static QString programFile() { return QStringLiteral("program.elf"); }
+
+    static QString namesFile() { return QStringLiteral("names.txt"); }
+
+    // Beside the waves; empty without them.
+    QString viewFile() const
+    {
+        const QFileInfo info(m_arguments.waves);
+        const QString name =
+            info.suffix() == QLatin1String("fst") ? info.completeBaseName() : info.fileName();
+        return m_arguments.waves.isEmpty() ? QString()
+                                           : info.path() + u'/' + name + QLatin1String(".gtkw");
+    }
 
     static QString statisticsFile() { return QStringLiteral("statistics.txt"); }
 
@@ -213,7 +239,8 @@ private:
                                  QStringLiteral("timeout=%1").arg(m_arguments.timeout)};
         arguments.append(QLatin1String("statistics=") + statisticsFile());
         if (!m_arguments.waves.isEmpty())
-            arguments.append(QStringLiteral("waves=waves.fst"));
+            arguments += {QStringLiteral("waves=waves.fst"), QLatin1String("names=") + namesFile()};
+        arguments += m_waveArguments;
         return arguments;
     }
 
@@ -313,7 +340,6 @@ private:
     {
         const QString folder = m_simulation->folder() + u'/';
         QByteArray bytes;
-        QByteArray program;
         QString error;
         if (!Reading::readPlainFile(folder + statisticsFile(), Reading::Limits::toolLog, &bytes,
                                     &error))
@@ -321,10 +347,40 @@ private:
         const auto run = readRunStatistics(bytes);
         if (!run)
             return;
-        if (!Reading::readPlainFile(folder + programFile(), Reading::Limits::firmwareImage,
-                                    &program, &error))
-            program.clear();
-        m_details = runDetails(m_map, *run, SourcePlaces(program), m_simulation->folder());
+        m_details = runDetails(m_map, *run, m_places, m_simulation->folder());
+    }
+
+    // What stands in the simulation's folder; nothing if it is not there.
+    QByteArray programBytes() const
+    {
+        QByteArray bytes;
+        QString error;
+        return Reading::readPlainFile(m_simulation->folder() + u'/' + programFile(),
+                                      Reading::Limits::firmwareImage, &bytes, &error)
+                   ? bytes
+                   : QByteArray();
+    }
+
+    bool writeWaves(QString *error) const
+    {
+        const QString waves = m_simulation->folder() + QLatin1String("/waves.fst");
+        const QString file = fullPath(m_arguments.waves);
+        if (!m_waveArguments.isEmpty() && !QFileInfo::exists(waves)) {
+            printError(quoted(file) + QLatin1String(" is not written: the part of the run that "
+                                                    "was asked for has not begun."));
+            return true;
+        }
+        if (!Utils::FileUtils::copyFile(waves, file, error))
+            return false;
+        // One that somebody has saved from GTKWave is left as it is.
+        const QString view = fullPath(viewFile());
+        QByteArray old;
+        QString reason;
+        const bool isOurs =
+            !QFileInfo::exists(view) ||
+            (Reading::readPlainFile(view, Reading::Limits::memoryFile, &old, &reason) &&
+             isWavesView(old));
+        return !isOurs || Utils::FileUtils::writeFile(view, wavesView(m_map, file, view), error);
     }
 
     int writeResults() const
@@ -341,9 +397,8 @@ private:
         if (!isOnTerminal())
             check(Utils::FileUtils::writeFile(fullPath(m_arguments.uart0), m_end.uarts[0], &error));
         // What a simulator that was stopped has written is no whole file.
-        const QString waves = m_simulation->folder() + QLatin1String("/waves.fst");
         if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
-            check(Utils::FileUtils::copyFile(waves, fullPath(m_arguments.waves), &error));
+            check(writeWaves(&error));
         for (const QString &file : m_arguments.reports)
             check(Utils::FileUtils::writeFile(fullPath(file), documentOf(report(), file), &error));
         return status;
@@ -361,6 +416,8 @@ private:
     QString m_modelFolder;
     std::unique_ptr<Simulation> m_simulation;
     SimulationEnd m_end;
+    QStringList m_waveArguments; // of a part of the run
+    SourcePlaces m_places;
     std::optional<RunDetails> m_details;
 };
 

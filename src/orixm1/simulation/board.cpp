@@ -104,6 +104,7 @@ import "DPI-C" function void board_sent(input int uart, input int data);
 `define BOARD_SENT(uart, data) board_sent(uart, {24'd0, data})
 `else
 `define BOARD_SENT(uart, data) $board_sent(uart, data)
+`define BOARD_WAVES(low, high, wanted) $board_waves(low, high, wanted)
 `endif
 )";
 
@@ -117,10 +118,12 @@ module board;
     reg clk = 1'b0;
     always #(PERIOD / 2) clk = ~clk;
     reg [8*1024-1:0] waves;
+    reg has_window = 1'b0;       // the waves are of a part of the run
     initial
         if ($value$plusargs("waves=%s", waves)) begin
             $dumpfile(waves);
-            $dumpvars(0, board);
+            has_window = $test$plusargs("waves-") != 0;
+            if (!has_window) $dumpvars(0, board);
         end
 `endif
     reg [3:0] slow = 4'd0;
@@ -136,6 +139,23 @@ module board;
             if (power_good) cycles <= cycles + 64'd1;
         end
     end
+
+`ifndef VERILATOR
+    integer wants_waves = 0;
+    reg     has_waves = 1'b0;
+    always @(posedge clk)
+        if (has_window) begin
+            `BOARD_WAVES(cycles[31:0], cycles[63:32], wants_waves);
+            if (wants_waves != 0 && !has_waves) begin
+                has_waves = 1'b1;
+                $dumpvars(0, board);
+            end
+            if (wants_waves == 0 && has_waves) begin
+                has_window = 1'b0; // it does not open again
+                $dumpoff;
+            end
+        end
+`endif
 
     reg [8*16-1:0] mark;
     reg [63:0] limit;

@@ -20,7 +20,8 @@ namespace TARVOORIXM1
 // and otherwise makes it. What the board says and hears beside the subsystem goes through functions
 // of the program that runs the simulation (BoardHost).
 //
-// Plusargs: +mark=TEXT, +timeout=CYCLES (from the end of the power-on reset), +waves=FILE. On
+// Plusargs: +mark=TEXT, +timeout=CYCLES (from the end of the power-on reset), +waves=FILE, and
+// +waves-from=, +waves-to=, +waves-at= for a part of them (WaveWindow of the model). On
 // standard output events are told, a line each that begins with the byte 0x1E and the mark:
 //   MARK uart N XX        UART N has sent the byte XX (hexadecimal)
 //   MARK lockup CYCLES    the processor is locked up

@@ -1,6 +1,7 @@
 #include "boardhost.h"
 
 #include "session.h"
+#include "wavewindow.h"
 
 #include <cstdio>
 
@@ -31,6 +32,12 @@ void BoardHost::sent(int uart, std::uint8_t byte)
     char text[32];
     std::snprintf(text, sizeof text, "uart %d %02x", uart, unsigned(byte));
     tell(text);
+    WaveWindow::shared().noteText(1 + uart, std::string(1, static_cast<char>(byte)));
+}
+
+bool BoardHost::waves(std::uint32_t cyclesLow, std::uint32_t cyclesHigh)
+{
+    return WaveWindow::shared().wants(std::uint64_t(cyclesHigh) << 32 | cyclesLow);
 }
 
 int BoardHost::input(int uart)

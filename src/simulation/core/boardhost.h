@@ -55,6 +55,10 @@ public:
     void send(int uart, const std::string &bytes);
     void drive(std::uint32_t mask, std::uint32_t levels);
 
+    // Whether waves are written of this clock cycle, counted from the end of the power-on reset;
+    // asked in each one if the waves have a window (WaveWindow).
+    bool waves(std::uint32_t cyclesLow, std::uint32_t cyclesHigh);
+
 private:
     void tell(const std::string &event);
 

@@ -73,6 +73,9 @@ public:
 
     const Outputs &clock(const Inputs &inputs);
 
+    // A transfer on the bus has not ended yet.
+    bool isOnBus() const { return m_phase == Phase::Address || m_phase == Phase::Data; }
+
 private:
     enum class Phase { Idle, Address, Data, Memory };
 

@@ -1,6 +1,7 @@
 #include "session.h"
 
 #include "elfimage.h"
+#include "wavewindow.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -48,7 +49,14 @@ Session::Session(Simulator &simulator, const Parameters &parameters, const std::
 {
     if (const char *file = simulator.argument("statistics"))
         m_statisticsFile = file;
+    if (const char *file = simulator.argument("names")) {
+        std::ifstream lines(file, std::ios::binary);
+        m_names = Names(lines);
+    }
     try {
+        WaveWindow::shared() =
+            WaveWindow(simulator.argument("waves-from"), simulator.argument("waves-to"),
+                       simulator.argument("waves-at"));
         open(parameters, firmware, memories);
     } catch (const std::exception &error) {
         m_mistake = error.what();
@@ -137,6 +145,28 @@ void Session::print(const std::string &piece)
     m_printed += piece.size();
     if (m_printed <= mostOutput)
         m_simulator.print(piece);
+    WaveWindow::shared().noteText(0, piece);
+}
+
+void Session::noteEvents(const Outputs &outputs)
+{
+    if (outputs.isTransfer)
+        WaveWindow::shared().noteTransfer(outputs.address, 1 << outputs.size);
+    if (m_core && m_core->processor().statistics().starts != 0)
+        WaveWindow::shared().noteInstruction(m_core->processor().registerValue(15),
+                                             m_core->processor().runningException());
+}
+
+Session::Shown Session::shown() const
+{
+    Shown shown;
+    if (m_core) {
+        shown.programCounter = m_core->processor().registerValue(15);
+        shown.functionName = m_names.functionAt(shown.programCounter).c_str();
+    }
+    if (m_core ? m_core->isOnBus() : m_isTransferring)
+        shown.registerName = m_names.registerAt(m_busAddress).c_str();
+    return shown;
 }
 
 void Session::tell(const ScriptFailure &failure)
@@ -174,6 +204,10 @@ Outputs Session::clock(const Inputs &inputs)
         outputs.isDone = true;
     else
         outputs = m_player ? m_player->clock(inputs) : m_core->clock(inputs);
+    m_busAddress = outputs.address;
+    m_isTransferring = outputs.isTransfer;
+    if (WaveWindow::shared().isWaiting())
+        noteEvents(outputs);
     if (outputs.isDone && !m_isReported) {
         m_isReported = true;
         const char *mark = m_simulator.argument("mark");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core.h"
+#include "names.h"
 #include "scriptplayer.h"
 #include "tcplink.h"
 
@@ -50,6 +51,15 @@ public:
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
+    // What people see in waves: the instruction, the function that it is in and the register that a
+    // transfer accesses, by the names of +names=FILE; empty for none. The texts are the session's.
+    struct Shown {
+        std::uint32_t programCounter = 0;
+        const char *functionName = "";
+        const char *registerName = "";
+    };
+    Shown shown() const;
+
     // The line that tells the verdict is printed when the program ends.
     Outputs clock(const Inputs &inputs);
 
@@ -61,11 +71,15 @@ private:
     void tell(const ScriptFailure &failure);
     std::string verdict() const;
     void print(const std::string &piece);
+    void noteEvents(const Outputs &outputs);
 
     Simulator &m_simulator;
     std::unique_ptr<TcpLink> m_debugger;
     std::unique_ptr<Core> m_core; // or
     std::unique_ptr<ScriptPlayer> m_player;
+    Names m_names;
+    std::uint32_t m_busAddress = 0;
+    bool m_isTransferring = false;
     std::string m_statisticsFile; // empty: none
     std::string m_mistake;        // why there is no core
     std::size_t m_printed = 0;

@@ -129,6 +129,15 @@ module CortexM1Core #(
         `CORTEXM1_OPEN(firmware, memories);
     end
 
+    // For people who look at waves, with +names=FILE: the instruction, the function that it is in, and the register that a transfer
+    // accesses.
+    reg [31:0] pc = 32'd0;
+    reg [8*40-1:0] function_name = 320'd0;
+    reg [8*40-1:0] register_name = 320'd0;
+    reg has_names = 1'b0;
+    initial
+        has_names = $test$plusargs("names=") != 0;
+
     // The model looks at falling edges, where inputs have settled, and says what the outputs show from the next rising edge
     // on. An X is no reset.
     reg  [76:0] next = 77'd0;
@@ -141,6 +150,10 @@ module CortexM1Core #(
                 `CORTEXM1_CLOCK_MEMORIES(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next, {DTCMRDATA, ITCMRDATA}, tcm);
             else
                 `CORTEXM1_CLOCK(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
+`ifndef VERILATOR
+            if (has_names)
+                $cortexm1_names(handle, pc, function_name, register_name);
+`endif
             if (next[73]) begin
                 done = 1'b1;
                 passed = next[72];

@@ -4,6 +4,7 @@
 //   code, memories)
 //   $cortexm1_clock(handle, inputs, outputs)
 //   $cortexm1_clock(handle, inputs, outputs, memory inputs, memory outputs)
+//   $cortexm1_names(handle, program counter, function name, register name)
 //
 // The vectors are those of core/packedpins.h. `memories` is "model", or "rtl", where the clock also
 // takes and gives the memories' pins.
@@ -16,6 +17,8 @@
 #include "core/packedpins.h"
 
 #include <array>
+#include <cstring>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -96,6 +99,36 @@ PLI_INT32 callClock(PLI_BYTE8 *)
     return 0;
 }
 
+void setText(vpiHandle target, const char *text)
+{
+    std::string copy = text;
+    s_vpi_value value;
+    value.format = vpiStringVal;
+    value.value.str = copy.data();
+    vpi_put_value(target, &value, nullptr, vpiNoDelay);
+}
+
+// What has not changed is not set: waves grow with each change, and time goes by.
+PLI_INT32 callNames(PLI_BYTE8 *)
+{
+    static std::map<std::size_t, CortexM1::Session::Shown> before;
+    const std::vector<vpiHandle> args = Vpi::arguments();
+    const std::size_t number =
+        args.size() == 4 ? static_cast<std::size_t>(Vpi::integer(args[0])) : 0;
+    if (number == 0 || number > sessions().size())
+        return Vpi::refuseCall("$cortexm1_names is called without $cortexm1_open");
+    const CortexM1::Session::Shown shown = sessions()[number - 1]->shown();
+    CortexM1::Session::Shown &old = before[number];
+    if (shown.programCounter != old.programCounter)
+        Vpi::setInteger(args[1], static_cast<int>(shown.programCounter));
+    if (std::strcmp(shown.functionName, old.functionName) != 0)
+        setText(args[2], shown.functionName);
+    if (std::strcmp(shown.registerName, old.registerName) != 0)
+        setText(args[3], shown.registerName);
+    old = shown;
+    return 0;
+}
+
 PLI_INT32 forgetSessions(p_cb_data)
 {
     sessions().clear();
@@ -106,6 +139,7 @@ void addTasks()
 {
     Vpi::addTask("$cortexm1_open", callOpen);
     Vpi::addTask("$cortexm1_clock", callClock);
+    Vpi::addTask("$cortexm1_names", callNames);
     Vpi::addBoardTasks();
     s_cb_data atEnd{};
     atEnd.reason = cbEndOfSimulation;
