@@ -66,7 +66,7 @@ struct SimulateArguments {
     QString uart0;       // "-": standard output, else a file
     quint64 timeout = 0; // clock cycles
     QString waves;       // file; empty: none
-    QString report;      // file; empty: none
+    QStringList reports; // files
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

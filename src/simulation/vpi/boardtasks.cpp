@@ -9,21 +9,13 @@ namespace Vpi
 namespace
 {
 
-// Made with the first call: the command line is known then.
-CortexM1::BoardHost &host()
-{
-    static CortexM1::BoardHost made(
-        simulator().argument("mark") ? simulator().argument("mark") : "board",
-        [](const std::string &line) { simulator().print(line + "\n"); });
-    return made;
-}
-
 PLI_INT32 callSent(PLI_BYTE8 *)
 {
     const std::vector<vpiHandle> args = arguments();
     if (args.size() != 2)
         return refuseCall("$board_sent takes 2 arguments");
-    host().sent(integer(args[0]), static_cast<std::uint8_t>(integer(args[1])));
+    CortexM1::BoardHost::shared(simulator())
+        .sent(integer(args[0]), static_cast<std::uint8_t>(integer(args[1])));
     return 0;
 }
 
