@@ -881,30 +881,11 @@ private Q_SLOTS:
     void anExampleRunsAfterThreeClicks()
     {
         prepareExample("hello\n");
-        const QString location = m_bench->folder() + QStringLiteral("/mine");
-        int clicks = 0;
-        const auto click = [&clicks](QWidget *widget) {
-            QVERIFY(widget && widget->isVisible() && widget->isEnabled());
-            QCOMPARE(
-                widget->window()->childAt(widget->mapTo(widget->window(), widget->rect().center())),
-                widget);
-            ++clicks;
-            QTest::mouseClick(widget, Qt::LeftButton);
-        };
-        bool isAsked = false;
-        const ModalWatcher watcher([&](QWidget *modal) {
-            isAsked = true;
-            click(Bench::ok(modal));
-        });
-        click(exampleLink());
-        QTRY_VERIFY(isAsked);
-        QTRY_COMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Simulate speaking")));
-        auto *page = qobject_cast<SimulationPage *>(m_bench->window->tabs()->currentWidget());
+        const SimulationPage *page = runInThreeClicks("A lamp that speaks");
         QVERIFY(page);
-        click(page->runButton());
-        waitForEnd(page);
+        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Simulate speaking")));
         QCOMPARE(page->terminal(0)->toPlainText(), QStringLiteral("hello, world\n"));
-        QCOMPARE(clicks, 3);
+        const QString location = m_bench->folder() + QStringLiteral("/mine");
 
         // The files are the user's own.
         const QString folder = location + QStringLiteral("/speaking");
@@ -913,6 +894,27 @@ private Q_SLOTS:
         QCOMPARE(page->files(), QStringList(folder + QStringLiteral("/firmware/hello.c")));
         QCOMPARE(contentsOf(folder + QStringLiteral("/firmware/other.c")), QByteArray("other"));
         QCOMPARE(m_bench->window->project()->ipFiles(), QStringList(page->ipcFile()));
+    }
+
+    // The configurator's own example, on its RTL.
+    void theExampleOfTheProductRunsAfterThreeClicks()
+    {
+        QProcess help;
+        help.start(QStringLiteral(TARVO_COMMAND),
+                   {QStringLiteral("simulate"), QStringLiteral("--help")});
+        QVERIFY(help.waitForFinished(-1));
+        if (!help.readAllStandardOutput().contains("--live"))
+            QSKIP("The command does not speak to programs.");
+        const Mark mark;
+        qputenv(mark.name(), mark.value());
+        prepareExample("hello\n");
+        const SimulationPage *page = runInThreeClicks("Hello from a sensor node");
+        qunsetenv(mark.name());
+        QVERIFY(page);
+        const QString result = child<QLabel>(page, "simulationResult")->text();
+        QVERIFY2(result.startsWith(QLatin1String("Passed after ")), qPrintable(result));
+        QCOMPARE(page->terminal(0)->toPlainText(), QStringLiteral("hello, world\n"));
+        QTRY_VERIFY(mark.processes().isEmpty());
     }
 
     void anExampleReplacesNothing()
@@ -1015,17 +1017,48 @@ private:
         QCoreApplication::processEvents(); // lays out
     }
 
-    // Of the fake plug-in.
-    QWidget *exampleLink() const
+    QWidget *exampleLink(const char *title = "A lamp that speaks") const
     {
         const auto links =
             m_bench->window->findChildren<QCommandLinkButton *>(QStringLiteral("exampleLink"));
         for (QCommandLinkButton *link : links) {
-            if (link->text().contains(QLatin1String("A lamp that speaks")) && link->isVisible())
+            if (link->text().contains(QLatin1String(title)) && link->isVisible())
                 return link;
         }
         qFatal("there is no example");
         return nullptr;
+    }
+
+    // Clicks what can be clicked at its place in its window.
+    static bool clickOnce(QWidget *widget, int *clicks)
+    {
+        const QPoint place = widget->mapTo(widget->window(), widget->rect().center());
+        if (!widget->isEnabled() || widget->window()->childAt(place) != widget)
+            return false;
+        ++*clicks;
+        QTest::mouseClick(widget, Qt::LeftButton);
+        return true;
+    }
+
+    // The page with the finished run of an example, from the start page; null if it takes more.
+    SimulationPage *runInThreeClicks(const char *title) const
+    {
+        int clicks = 0;
+        bool isAnswered = false;
+        const ModalWatcher watcher(
+            [&](QWidget *modal) { isAnswered = clickOnce(Bench::ok(modal), &clicks); });
+        SimulationPage *page = nullptr;
+        const auto isOpen = [&] {
+            page = qobject_cast<SimulationPage *>(m_bench->window->tabs()->currentWidget());
+            return page && page->isVisible() && page->runButton()->isEnabled();
+        };
+        if (!clickOnce(exampleLink(title), &clicks) || !QTest::qWaitFor(isOpen, 30000) ||
+            !isAnswered || !clickOnce(page->runButton(), &clicks))
+            return nullptr;
+        const auto isOver = [&] {
+            return page->state().phase == SimulationState::Ended && !page->process();
+        };
+        return QTest::qWaitFor(isOver, 60000) && clicks == 3 ? page : nullptr;
     }
 
     std::unique_ptr<Bench> m_bench;
