@@ -11,6 +11,10 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/messagemodel.h>
+#include <workbench/simulation/pinpanel.h>
+#include <workbench/simulation/pinswitch.h>
+#include <workbench/simulation/simulationpage.h>
+#include <workbench/simulation/simulationrun.h>
 #include <workbench/software/softwaremodel.h>
 #include <workbench/software/softwarepage.h>
 #include <workbench/window/helpwindow.h>
@@ -139,6 +143,24 @@ void savePicturesOfCare(MainWindow &window)
         window.kept()->forget(item.id);
 }
 
+// A program on the example; on the way what a run looks like.
+void savePicturesOfSimulation(MainWindow &window, const QString &ipc)
+{
+    const QString program = window.project()->path() + QStringLiteral("/firmware/hello.c");
+    write(program, contentsOf(QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c")));
+    SimulationPage *page = window.showSimulation(ipc);
+    page->choose(QStringLiteral("c"), {program});
+    save(&window, "workbench-simulation-before", false);
+    page->pins()->pins().at(4)->click();
+    if (!page->run())
+        std::fprintf(stderr, "nothing is simulated\n");
+    save(&window, "workbench-simulation-running", false);
+    if (!QTest::qWaitFor([page] { return !page->process(); }, 120000))
+        failed = true;
+    save(&window, "workbench-simulation", true);
+    saveDialog([&] { window.openExample(0, 0); }, "workbench-example");
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -238,6 +260,8 @@ int main(int argc, char *argv[])
 
     software->showProgram();
     save(&window, "workbench-program", false);
+
+    savePicturesOfSimulation(window, ipc);
 
     if (all)
         savePicturesOfCare(window);

@@ -7,6 +7,8 @@
 #include <workbench/editor/findbar.h>
 #include <workbench/messages/logview.h>
 #include <workbench/results/resultpage.h>
+#include <workbench/simulation/simulationpage.h>
+#include <workbench/simulation/simulationrun.h>
 #include <workbench/software/programpart.h>
 #include <workbench/software/softwarepage.h>
 #include <workbench/widgets/infobar.h>
@@ -597,12 +599,32 @@ private:
         QCoreApplication::processEvents();
     }
 
+    // The page on which programs run, after a run, with long names.
+    void showSimulation() const
+    {
+        qputenv("FAKE_SIMULATOR", TARVO_FAKE_TOOLS "/simulator/simulate");
+        const QString folder = window()->project()->path() + u'/' +
+                               QStringLiteral("a_folder_with_a_long_name/").repeated(4);
+        write(folder + QStringLiteral("lamp.ipc"),
+              "[General]\ntype=fake.blinker\ntarget_device=TV5K-138B-PBGA484-C1/I0\n"
+              "[Config]\nLamps=2\n");
+        const QString program = folder + QStringLiteral("a_program_with_a_long_name_").repeated(6) +
+                                QStringLiteral(".c");
+        write(program, "hello\n");
+        SimulationPage *page = window()->showSimulation(folder + QStringLiteral("lamp.ipc"));
+        page->choose(QStringLiteral("c"), {program, program});
+        QVERIFY(page->run());
+        QTRY_VERIFY(!page->process());
+        page->infoBar()->showMessage(QStringLiteral("The waves are elsewhere. ").repeated(9), {});
+        QCoreApplication::processEvents();
+    }
+
     static void addScenes()
     {
         QTest::addColumn<QString>("scene");
-        for (const char *scene :
-             {"start", "project", "editor", "results", "log", "new project", "device", "plug-ins",
-              "about", "line", "guide", "message", "kept", "software", "datasheet", "program"})
+        for (const char *scene : {"start", "project", "editor", "results", "log", "new project",
+                                  "device", "plug-ins", "about", "line", "guide", "message", "kept",
+                                  "software", "datasheet", "program", "simulation", "example"})
             QTest::newRow(scene) << QString::fromLatin1(scene);
     }
 
@@ -634,6 +656,8 @@ private:
             m_bench->action("Bring Back a Configuration")->trigger();
         } else if (scene == QLatin1String("message")) {
             window()->openPath(u'/' + QStringLiteral("a_folder_with_a_long_name/").repeated(12));
+        } else if (scene == QLatin1String("example")) {
+            window()->openExample(0, 0);
         } else if (scene == QLatin1String("line")) {
             m_bench->action("Go to Line")->trigger();
         } else if (scene == QLatin1String("guide")) {
@@ -649,6 +673,8 @@ private:
                 showSoftware(scene == QLatin1String("software") ? "lamp.h" : "sheet/lamp.html");
             if (scene == QLatin1String("program"))
                 showProgram();
+            if (scene == QLatin1String("simulation"))
+                showSimulation();
             if (scene == QLatin1String("log"))
                 window()->findChild<QTabWidget *>(QStringLiteral("outputTabs"))->setCurrentIndex(1);
             lookOnce(window());

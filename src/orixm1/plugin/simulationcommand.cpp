@@ -32,7 +32,7 @@ constexpr InputKind inputKinds[] = {
 };
 
 struct EngineChoice {
-    const char *name; // as --engine takes it
+    const char *name; // as --engine takes it; the first one is what it takes by itself
     const char *title;
     const char *purpose;
 };
@@ -98,13 +98,15 @@ QVariantMap simulationCommand(const QString &ipcFile, const QString &ipId, const
             {QStringLiteral("patterns"), QString::fromLatin1(kind.patterns).split(u' ')},
             {QStringLiteral("several"), kind.takesSeveral}});
     QVariantList engines;
-    for (const EngineChoice &engine : engineChoices)
-        engines.append(
-            QVariantMap{{QStringLiteral("name"), QLatin1String(engine.name)},
-                        {QStringLiteral("title"), QLatin1String(engine.title)},
-                        {QStringLiteral("purpose"), QLatin1String(engine.purpose)},
-                        {QStringLiteral("arguments"),
-                         QStringList{QStringLiteral("--engine"), QLatin1String(engine.name)}}});
+    for (const EngineChoice &engine : engineChoices) {
+        QStringList arguments;
+        if (&engine != engineChoices)
+            arguments = QStringList{QStringLiteral("--engine"), QLatin1String(engine.name)};
+        engines.append(QVariantMap{{QStringLiteral("name"), QLatin1String(engine.name)},
+                                   {QStringLiteral("title"), QLatin1String(engine.title)},
+                                   {QStringLiteral("purpose"), QLatin1String(engine.purpose)},
+                                   {QStringLiteral("arguments"), arguments}});
+    }
     int uarts = 0;
     for (const char *name : {"UART0", "UART1"}) {
         // They count from 0; a subsystem with the second alone shows a first that is silent.

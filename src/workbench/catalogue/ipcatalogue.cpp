@@ -33,6 +33,8 @@ constexpr const char *formatsMethod = "softwareFormats()";
 constexpr const char *exportMethod = "exportSoftware(QString,QStringList)";
 constexpr const char *programMethod = "firmwareFiles(QString,QByteArray)";
 constexpr const char *startMethod = "startFromFirmware(QString,QString,bool)";
+constexpr const char *simulateMethod = "simulationCommand(QString)";
+constexpr const char *examplesMethod = "simulationExamples()";
 constexpr int probesAtOnce = 4;
 
 // By library; {"stamp", "reason"}.
@@ -418,6 +420,43 @@ bool IpCatalogue::startFromFirmware(int index, const QString &ipcFile, const QSt
                 Q_ARG(QString, ipcFile), Q_ARG(QString, folder), Q_ARG(bool, write));
         },
         Tr::tr("The plug-in of %1 takes no programs.").arg(core.name), error);
+}
+
+bool IpCatalogue::canSimulate(int index) const
+{
+    return returns(m_cores.at(size_t(index)).root, simulateMethod, QMetaType::QVariantMap);
+}
+
+bool IpCatalogue::simulationCommand(int index, const QString &ipcFile, QVariantMap *answer,
+                                    QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    return ask(
+        core, canSimulate(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(root, "simulationCommand", Qt::DirectConnection,
+                                             Q_RETURN_ARG(QVariantMap, *answer),
+                                             Q_ARG(QString, ipcFile));
+        },
+        Tr::tr("The plug-in of %1 cannot simulate.").arg(core.name), error);
+}
+
+QVariantList IpCatalogue::simulationExamples(int index) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    QVariantList answer;
+    QString ignored;
+    const bool isOffered =
+        canSimulate(index) && returns(core.root, examplesMethod, QMetaType::QVariantList);
+    if (!ask(
+            core, isOffered,
+            [&](QObject *root) {
+                return QMetaObject::invokeMethod(root, "simulationExamples", Qt::DirectConnection,
+                                                 Q_RETURN_ARG(QVariantList, answer));
+            },
+            {}, &ignored))
+        return {};
+    return answer;
 }
 
 bool IpCatalogue::ask(const Core &core, bool isOffered, const std::function<bool(QObject *)> &call,

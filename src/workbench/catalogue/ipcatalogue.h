@@ -100,6 +100,16 @@ public:
     bool startFromFirmware(int index, const QString &ipcFile, const QString &folder, bool write,
                            QVariantMap *answer, QString *error) const;
 
+    // Whether the plug-in can have its IP simulated: its root object has the invokable QVariantMap
+    // simulationCommand(const QString &ipcFile) const.
+    bool canSimulate(int index) const;
+    // As above.
+    bool simulationCommand(int index, const QString &ipcFile, QVariantMap *answer,
+                           QString *error) const;
+    // What the invokable QVariantList simulationExamples() const of a plug-in that can answers;
+    // empty if it is not there or throws.
+    QVariantList simulationExamples(int index) const;
+
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
     // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,
     // "_" and "-" count for nothing ("my_fine_ip"). Without one it is the library's own folder.

@@ -46,10 +46,10 @@ void MessageModel::setReport(const Synthesis::RunReport &report)
     endResetModel();
 }
 
-void MessageModel::append(Severity severity, const QString &text, const QString &file)
+void MessageModel::append(Severity severity, const QString &text, const QString &file, int line)
 {
     beginInsertRows({}, m_rows.size(), m_rows.size());
-    m_rows.append({severity, text, file, 0, false});
+    m_rows.append({severity, text, file, line, false});
     endInsertRows();
 }
 
@@ -78,7 +78,17 @@ bool MessageModel::hasPlaces() const
 
 QString MessageModel::nameOf(Severity severity)
 {
-    return severity == Error ? tr("Error") : severity == Warning ? tr("Warning") : tr("Summary");
+    switch (severity) {
+    case Error:
+        return tr("Error");
+    case Warning:
+        return tr("Warning");
+    case Note:
+        return tr("Note");
+    case Summary:
+        break;
+    }
+    return tr("Summary");
 }
 
 QString MessageModel::toText() const

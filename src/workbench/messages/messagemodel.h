@@ -15,14 +15,15 @@ class MessageModel : public QAbstractTableModel
 
 public:
     enum Column { Text, File, Line, ColumnCount };
-    enum Severity { Summary, Error, Warning };
+    enum Severity { Summary, Error, Warning, Note };
     enum Role { PathRole = Qt::UserRole, LineRole, SeverityRole };
 
     explicit MessageModel(QObject *parent = nullptr);
 
     void setReport(const Synthesis::RunReport &report);
-    // Puts a message of the workbench itself at the end.
-    void append(Severity severity, const QString &text, const QString &file = QString());
+    // Puts a message that is of no run of synthesis at the end; line 0: none.
+    void append(Severity severity, const QString &text, const QString &file = QString(),
+                int line = 0);
     void clear();
     // The headline of a run that failed is an error of its own only if nothing explains it.
     int count(Severity severity) const;

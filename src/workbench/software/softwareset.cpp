@@ -1,5 +1,6 @@
 #include "softwareset.h"
 
+#include "catalogue/answers.h"
 #include "tr.h"
 
 #include <QDir>
@@ -11,37 +12,12 @@
 namespace Workbench
 {
 
+using Answers::isPlain;
+using Answers::shown;
+using Answers::takeText;
+
 namespace
 {
-
-QString shown(const QString &text)
-{
-    const QString cut = text.size() > 100 ? text.left(100) + QChar(0x2026) : text;
-    QString result;
-    for (const QChar c : cut)
-        result += c.isPrint() || c == QChar(0x2026) ? c : QChar(0xfffd);
-    return u'"' + result + u'"';
-}
-
-bool isPlain(const QString &text)
-{
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar c) { return c.isPrint() || c.isSurrogate(); });
-}
-
-// A text of the map; an absent one is empty.
-bool takeText(const QVariantMap &map, const QString &key, QString *text)
-{
-    const QVariant value = map.value(key);
-    if (!value.isValid()) {
-        text->clear();
-        return true;
-    }
-    if (value.userType() != QMetaType::QString)
-        return false;
-    *text = value.toString();
-    return text->size() <= SoftwareSet::textLimit && isPlain(*text);
-}
 
 // Why no file may have this path; empty if one may.
 QString pathMistake(const QString &path)

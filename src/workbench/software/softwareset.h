@@ -1,5 +1,7 @@
 #pragma once
 
+#include "catalogue/answers.h"
+
 #include <utils/fileplacement.h>
 #include <utils/result.h>
 
@@ -46,7 +48,7 @@ constexpr int setLimit = 64 << 20;
 // Counts.
 constexpr int formatLimit = 100;
 constexpr int fileCountLimit = 2000;
-constexpr int textLimit = 2000; // characters of any text
+constexpr int textLimit = Answers::textLimit; // characters of any text
 constexpr int programFileLimit = 64;
 constexpr int warningLimit = 100;
 

@@ -214,6 +214,11 @@ void MainWindow::Actions::addProjectMenu()
                        if (!window->m_projectPane->selectedFile().isEmpty())
                            window->showSoftware(window->m_projectPane->selectedFile());
                    });
+    simulate = add(project, tr("Simu&late"), QStringLiteral("run"),
+                   QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_R), [window] {
+                       if (!window->m_projectPane->selectedFile().isEmpty())
+                           window->showSimulation(window->m_projectPane->selectedFile());
+                   });
     moveToDevice = add(project, tr("&Move to Device…"), {}, nothing, [window] {
         if (!window->m_projectPane->selectedFile().isEmpty())
             window->m_ips->chooseDeviceOf(window->m_projectPane->selectedFile());
@@ -322,6 +327,14 @@ void MainWindow::Actions::refreshProject()
                   : tr("Select an IP in the project to see what software needs of it");
     software->setToolTip(softwareTip);
     software->setStatusTip(softwareTip);
+    const bool canSimulate = ip >= 0 && catalogue.canSimulate(ip);
+    simulate->setEnabled(canSimulate);
+    const QString simulateTip =
+        canSimulate ? tr("Runs programs on the selected IP before there is hardware")
+        : ip >= 0   ? tr("The plug-in of %1 cannot simulate").arg(catalogue.entries().at(ip).name)
+                    : tr("Select an IP in the project to run programs on it");
+    simulate->setToolTip(simulateTip);
+    simulate->setStatusTip(simulateTip);
     const bool canMove = ip >= 0 && catalogue.canMove(ip);
     moveToDevice->setEnabled(canMove);
     const QString moveTip =

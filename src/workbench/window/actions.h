@@ -45,6 +45,7 @@ public:
     QAction *openSelected;
     QAction *openAsText;
     QAction *software;
+    QAction *simulate;
     QAction *moveToDevice;
     QAction *removeSource;
     QAction *moveUp;

@@ -22,6 +22,10 @@
 #include "projectactions.h"
 #include "results/lastrun.h"
 #include "results/resultpage.h"
+#include "simulation/exampledialog.h"
+#include "simulation/exampleproject.h"
+#include "simulation/simulationpage.h"
+#include "simulation/simulationpages.h"
 #include "software/softwarepages.h"
 #include "startpage.h"
 #include "widgets/errorbox.h"
@@ -49,6 +53,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -88,6 +93,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_messages(new MessageModel(this))
     , m_lastRun(new LastRun(*m_messages, this))
     , m_software(new SoftwarePages(catalogue, *m_kept, *m_tabs, this))
+    , m_simulations(new SimulationPages(catalogue, settings, *m_tabs, this))
     , m_projectPane(new ProjectPane)
     , m_projectActions(new ProjectActions(*m_tabs, this))
     , m_catalogueView(new CatalogueView(catalogue))
@@ -117,7 +123,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
                                         this);
     m_actions = std::make_unique<Actions>(this);
     m_projectPane->tree()->addActions(
-        {m_actions->openSelected, m_actions->openAsText, m_actions->software,
+        {m_actions->openSelected, m_actions->openAsText, m_actions->software, m_actions->simulate,
          m_actions->moveToDevice, m_actions->addSources, m_actions->newSource,
          m_actions->removeSource, m_actions->moveUp, m_actions->moveDown, m_actions->topModule});
     m_recent.showIn(m_actions->recentMenu);
@@ -158,6 +164,7 @@ void MainWindow::connectParts()
     connect(m_messages, &QAbstractItemModel::rowsInserted, this, &MainWindow::showEditorState);
     connect(m_tabs, &EditorTabs::countChanged, this, &MainWindow::showStart);
     connect(m_tabs, &EditorTabs::currentStateChanged, this, &MainWindow::showEditorState);
+    connect(m_simulations, &SimulationPages::openRequested, this, &MainWindow::openPath);
     connect(m_lastRun, &LastRun::openRequested, this, openFile);
     connect(m_lastRun, &LastRun::changed, this, &MainWindow::showEditorState);
     connect(m_ips.get(), &IpActions::opening, this, [this](int ip) {
@@ -187,6 +194,10 @@ void MainWindow::connectStartPage()
     connect(m_start, &StartPage::createIpRequested, this, &MainWindow::createSelectedIp,
             Qt::QueuedConnection);
     connect(m_start, &StartPage::bringBackRequested, this, &MainWindow::bringBack,
+            Qt::QueuedConnection);
+    connect(m_start, &StartPage::exampleRequested, this, &MainWindow::openExample,
+            Qt::QueuedConnection);
+    connect(m_start, &StartPage::simulationRequested, this, &MainWindow::showSimulation,
             Qt::QueuedConnection);
     connect(m_start, &StartPage::allKeptRequested, m_ips.get(), &IpActions::showKept,
             Qt::QueuedConnection);
@@ -262,6 +273,7 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
     Core::ProjectManager::setCurrentProject(nullptr);
     m_lastRun->setProject(project.get());
     m_software->clear();
+    m_simulations->clear();
     m_projectActions->setProject(project.get());
     m_ips->setProject(project.get());
     m_projectPane->setProject(project.get());
@@ -305,8 +317,16 @@ void MainWindow::showPlace()
 void MainWindow::showStart()
 {
     const bool empty = m_tabs->count() == 0;
-    if (empty)
-        m_start->showState(m_project.get(), m_catalogue, m_recent.files(), m_kept->items());
+    if (empty) {
+        QVector<StartPage::Example> examples;
+        for (int ip = 0; !m_project && ip < m_catalogue.entries().size(); ++ip) {
+            const QVector<SimulationExample> own = m_simulations->examplesOf(ip);
+            for (int number = 0; number < own.size(); ++number)
+                examples.append({ip, number, own.at(number).title, own.at(number).purpose});
+        }
+        m_start->showState(m_project.get(), m_catalogue, m_recent.files(), m_kept->items(),
+                           examples);
+    }
     m_stack->setCurrentWidget(empty ? static_cast<QWidget *>(m_start) : m_tabs);
     showEditorState();
 }
@@ -367,6 +387,35 @@ void MainWindow::showResults()
 SoftwarePage *MainWindow::showSoftware(const QString &ipcFile)
 {
     return m_software->show(ipcFile);
+}
+
+SimulationPage *MainWindow::showSimulation(const QString &ipcFile)
+{
+    return m_simulations->show(ipcFile);
+}
+
+bool MainWindow::openExample(int ip, int number)
+{
+    const QVector<SimulationExample> examples = m_simulations->examplesOf(ip);
+    if (number >= examples.size())
+        return false;
+    const SimulationExample &example = examples.at(number);
+    QString location = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QFileInfo(location).isDir())
+        location = QDir::homePath();
+    ExampleDialog dialog(example, m_settings.value(locationKey, location).toString(), this);
+    if (dialog.exec() != QDialog::Accepted || !closeProject())
+        return false;
+    const auto made = ExampleProject::make(example, dialog.folder(), m_catalogue.targetOf(ip));
+    if (!made) {
+        showError(this, made.reason());
+        return false;
+    }
+    m_settings.setValue(locationKey, QFileInfo(dialog.folder()).path());
+    if (!openProject(made->projectFile))
+        return false;
+    showSimulation(made->configuration)->choose(example.input, {made->program});
+    return true;
 }
 
 void MainWindow::newProject()

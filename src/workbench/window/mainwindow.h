@@ -45,6 +45,8 @@ class PluginList;
 class ProjectActions;
 class ProjectPane;
 class ResultPage;
+class SimulationPage;
+class SimulationPages;
 class SoftwarePage;
 class SoftwarePages;
 class StartPage;
@@ -79,6 +81,11 @@ public:
     bool moveIp(const QString &ipcFile, const DEV::DeviceArg &device);
     // The page on what software gets of an IP.
     SoftwarePage *showSoftware(const QString &ipcFile);
+    // The page on which programs run on an IP.
+    SimulationPage *showSimulation(const QString &ipcFile);
+    // Makes a project of an example of an IP's plug-in, in a folder that the user names, and opens
+    // it with its page for simulations; false if there is none.
+    bool openExample(int ip, int number);
     // Restores a kept configuration after a question, or opens what was dropped in its dialog.
     bool bringBack(const QString &keptId);
     KeptConfigurations *kept() const { return m_kept; }
@@ -150,6 +157,7 @@ private:
     MessageModel *m_messages;
     LastRun *m_lastRun;
     SoftwarePages *m_software;
+    SimulationPages *m_simulations;
     OutputPane *m_output = nullptr;
     ProjectPane *m_projectPane;
     ProjectActions *m_projectActions;

@@ -48,7 +48,8 @@ StartPage::StartPage(QWidget *parent)
 }
 
 void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
-                          const QStringList &recent, const QList<KeptConfigurations::Item> &kept)
+                          const QStringList &recent, const QList<KeptConfigurations::Item> &kept,
+                          const QVector<Example> &examples)
 {
     auto *content = new QWidget;
     auto *columns = new QHBoxLayout(content);
@@ -57,7 +58,7 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
     if (project)
         showProject(page, *project, catalogue);
     else
-        showWelcome(page, recent);
+        showWelcome(page, recent, examples);
     showKept(page, project ? project->path() : QString(), kept);
     page->addStretch(1);
     // The old page may be the one whose button is being clicked.
@@ -93,7 +94,8 @@ void StartPage::changeEvent(QEvent *event)
         applyFont();
 }
 
-void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent)
+void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent,
+                            const QVector<Example> &examples)
 {
     page->addWidget(makeLabel(tr("Tarvo Workbench"), 1.8, true));
     page->addWidget(makeLabel(
@@ -112,6 +114,14 @@ void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent)
     connect(open, &QPushButton::clicked, this, &StartPage::openRequested);
     page->addWidget(create);
     page->addWidget(open);
+    for (const Example &example : examples) {
+        auto *link = makeLink(tr("Open the example: %1…").arg(example.title), example.purpose,
+                              QStringLiteral("run"));
+        link->setObjectName(QStringLiteral("exampleLink"));
+        connect(link, &QPushButton::clicked, this,
+                [this, example] { Q_EMIT exampleRequested(example.ip, example.number); });
+        page->addWidget(link);
+    }
 
     if (!recent.isEmpty()) {
         page->addSpacing(fontMetrics().height());
@@ -151,6 +161,16 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
         connect(link, &QPushButton::clicked, this,
                 [this, path] { Q_EMIT openFileRequested(path); });
         page->addWidget(link);
+        const int ip = catalogue.indexOf(IpcHead::read(path).type);
+        if (ip < 0 || !catalogue.canSimulate(ip))
+            continue;
+        auto *simulate =
+            makeLink(tr("Simulate %1").arg(QDir::toNativeSeparators(folder.relativeFilePath(path))),
+                     tr("Runs a program on it before there is hardware."), QStringLiteral("run"));
+        simulate->setObjectName(QStringLiteral("simulateLink"));
+        connect(simulate, &QPushButton::clicked, this,
+                [this, path] { Q_EMIT simulationRequested(path); });
+        page->addWidget(simulate);
     }
     if (!ips.isEmpty())
         page->addSpacing(fontMetrics().height());

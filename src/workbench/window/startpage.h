@@ -21,9 +21,17 @@ class StartPage : public QScrollArea
 public:
     explicit StartPage(QWidget *parent = nullptr);
 
+    // An example of the plug-in of an IP.
+    struct Example {
+        int ip = 0;     // in the catalogue
+        int number = 0; // among those of its plug-in
+        QString title;
+        QString purpose;
+    };
+
     // `project` may be null. Nothing is kept of the arguments.
     void showState(const Project *project, const IpCatalogue &catalogue, const QStringList &recent,
-                   const QList<KeptConfigurations::Item> &kept);
+                   const QList<KeptConfigurations::Item> &kept, const QVector<Example> &examples);
 
 Q_SIGNALS:
     void newProjectRequested();
@@ -32,6 +40,8 @@ Q_SIGNALS:
     void createIpRequested(int ip);
     void bringBackRequested(const QString &keptId);
     void allKeptRequested();
+    void exampleRequested(int ip, int number);
+    void simulationRequested(const QString &ipcFile);
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -39,7 +49,8 @@ protected:
 private:
     // Headings are larger than the user's font.
     void applyFont();
-    void showWelcome(QVBoxLayout *page, const QStringList &recent);
+    void showWelcome(QVBoxLayout *page, const QStringList &recent,
+                     const QVector<Example> &examples);
     void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue);
     // Those in the folder, which may be empty for all.
     void showKept(QVBoxLayout *page, const QString &folder,

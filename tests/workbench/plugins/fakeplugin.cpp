@@ -322,6 +322,57 @@ public:
     }
 #endif
 
+#ifdef FAKE_SIMULATES
+    // Runs the program that the environment names, with as many UARTs as the configuration has
+    // lamps.
+    Q_INVOKABLE QVariantMap simulationCommand(const QString &ipcFile) const
+    {
+        if (is("throwing-simulating"))
+            throw std::runtime_error("the lamp is hot");
+        if (is("garbling-simulating"))
+            return {{QStringLiteral("program"), 3}};
+        if (is("refusing-simulating"))
+            return {{QStringLiteral("error"), QStringLiteral("These lamps are real ones only.")}};
+        const auto kind = [](const char *name, const char *title, bool several) {
+            return QVariantMap{{QStringLiteral("name"), QString::fromLatin1(name)},
+                               {QStringLiteral("title"), QString::fromLatin1(title)},
+                               {QStringLiteral("purpose"), QString()},
+                               {QStringLiteral("arguments"),
+                                QStringList(QLatin1String("--") + QLatin1String(name))},
+                               {QStringLiteral("patterns"),
+                                QStringList(QLatin1String("*.") + QLatin1String(name))},
+                               {QStringLiteral("several"), several}};
+        };
+        QSettings file(ipcFile, QSettings::IniFormat);
+        return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("program"), qEnvironmentVariable("FAKE_SIMULATOR")},
+                {QStringLiteral("arguments"), QStringList{QStringLiteral("shine"), ipcFile}},
+                {QStringLiteral("inputs"),
+                 QVariantList{kind("c", "C files", true), kind("elf", "Program", false)}},
+                {QStringLiteral("engines"),
+                 QVariantList{kind("slow", "Slow lamp", false), kind("fast", "Fast lamp", false)}},
+                {QStringLiteral("wavesArguments"), QStringList(QStringLiteral("--waves"))},
+                {QStringLiteral("wavesSuffix"), QStringLiteral("waves")},
+                {QStringLiteral("uarts"), file.value(QStringLiteral("Config/Lamps")).toInt()},
+                {QStringLiteral("pins"), 16},
+                {QStringLiteral("clock"), 50000000}};
+    }
+    Q_INVOKABLE QVariantList simulationExamples() const
+    {
+        const QString folder = qEnvironmentVariable("FAKE_EXAMPLES");
+        if (folder.isEmpty())
+            return {};
+        const QString program = folder + QStringLiteral("/hello.c");
+        return {QVariantMap{
+            {QStringLiteral("title"), QStringLiteral("A lamp that speaks")},
+            {QStringLiteral("purpose"), QStringLiteral("Says hello.")},
+            {QStringLiteral("configuration"), QString(folder + QStringLiteral("/speaking.ipc"))},
+            {QStringLiteral("files"), QStringList{program, folder + QStringLiteral("/other.c")}},
+            {QStringLiteral("input"), QStringLiteral("c")},
+            {QStringLiteral("program"), program}}};
+    }
+#endif
+
 #ifdef FAKE_MOVES
     // What has more lamps than the name of the new device has letters loses them.
     Q_INVOKABLE QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId,
