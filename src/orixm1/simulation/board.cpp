@@ -89,9 +89,10 @@ module board_uart_sender #(
     parameter NUMBER = 0
 ) (
     input  wire        clk, enabled,
+    input  wire        quiet,   // the UART does not hear itself just now
     input  wire [19:0] divider, // clock cycles a bit
     output reg         line,
-    output reg         is_used  // something has come
+    output reg         is_used  // something has come, or is going to
 );
     reg        has_byte = 1'b0;
     reg [7:0]  data;
@@ -101,7 +102,7 @@ module board_uart_sender #(
     integer    next;
     initial begin
         line = 1'b1;
-        is_used = 1'b0;
+        is_used = NUMBER == 0 ? $test$plusargs("uart0-input=") != 0 : $test$plusargs("uart1-input=") != 0;
     end
     always @(posedge clk) begin
         pause <= pause + 4'd1;
@@ -113,7 +114,7 @@ module board_uart_sender #(
             left <= left - 20'd1;
         else if (place == 4'd0 || place == 4'd11) begin
             // An idle line looks for a byte each 16 clock cycles.
-            if (!has_byte && (pause == 4'd0 || place != 4'd0)) begin
+            if (!has_byte && (is_used || quiet) && (pause == 4'd0 || place != 4'd0)) begin
                 next = `BOARD_INPUT(NUMBER);
                 if (next >= 0) begin
                     data = next[7:0];
@@ -577,20 +578,22 @@ private:
                     std::find_if(fields.begin(), fields.end(), [](const RegisterField &field) {
                         return field.name == "RXEN"_l1;
                     });
-                text += copyOf(rate, QStringLiteral("rate%1").arg(number)) +
-                        copyOf(control, QStringLiteral("control%1").arg(number)) +
-                        QStringLiteral(
-                            "    wire [19:0] divider%1 = rate%1[19:0] < 20'd%2 ? 20'd%2 : "
-                            "rate%1[19:0];\n"
-                            "    wire busy%1, line%1, is_used%1;\n"
-                            "    board_uart #(.NUMBER(%1)) uart%1 (.clk(clk), .line(p_UART%1TXD), "
-                            ".divider(divider%1), .busy(busy%1));\n"
-                            "    board_uart_sender #(.NUMBER(%1)) sender%1 (.clk(clk), "
-                            ".enabled(control%1[%3]), .divider(divider%1), .line(line%1), "
-                            ".is_used(is_used%1));\n")
-                            .arg(number)
-                            .arg(rate.entry->fields.first().minimum)
-                            .arg(receiver->low);
+                text +=
+                    copyOf(rate, QStringLiteral("rate%1").arg(number)) +
+                    copyOf(control, QStringLiteral("control%1").arg(number)) +
+                    QStringLiteral(
+                        "    wire [19:0] divider%1 = rate%1[19:0] < 20'd%2 ? 20'd%2 : "
+                        "rate%1[19:0];\n"
+                        "    wire busy%1, line%1, is_used%1;\n"
+                        "    board_uart #(.NUMBER(%1)) uart%1 (.clk(clk), .line(p_UART%1TXD), "
+                        ".divider(divider%1), .busy(busy%1));\n"
+                        "    board_uart_sender #(.NUMBER(%1)) sender%1 (.clk(clk), "
+                        ".enabled(control%1[%3]), .quiet(%1 == 0 || !busy%1), .divider(divider%1), "
+                        ".line(line%1), "
+                        ".is_used(is_used%1));\n")
+                        .arg(number)
+                        .arg(rate.entry->fields.first().minimum)
+                        .arg(receiver->low);
                 busy.append(QStringLiteral("busy%1").arg(number));
                 bit = QStringLiteral("(divider%1 > %2 ? divider%1 : %2)").arg(number).arg(bit);
             }
