@@ -256,14 +256,16 @@ int run(int argc, char *argv[])
         };
     });
 
-    CLI::App *simulateCommand = app.add_subcommand(
-        "simulate", "Run a program for the processor on the subsystem's RTL (Icarus Verilog)");
+    CLI::App *simulateCommand =
+        app.add_subcommand("simulate", "Run a program for the processor on the subsystem's RTL");
     std::string program;
     std::vector<std::string> cFiles;
+    const QStringList engines = Cli::engineNames();
+    std::string engine = engines.first().toStdString();
     std::string uart0 = "-";
     quint64 timeout = 10000000;
     std::string waves;
-    std::string reportFile;
+    std::vector<std::string> reportFiles;
     addFile(simulateCommand);
     CLI::Option_group *programGroup = simulateCommand->add_option_group("Program");
     programGroup->add_option("--firmware", program, "Program: ELF")->type_name("FILE");
@@ -273,6 +275,15 @@ int run(int argc, char *argv[])
                      "from main() ends the run: 0 has passed")
         ->type_name("FILE ...");
     programGroup->require_option(1);
+    std::vector<std::string> engineTexts;
+    for (const QString &name : engines)
+        engineTexts.push_back(name.toStdString());
+    simulateCommand
+        ->add_option("--engine", engine,
+                     "Simulator: icarus (the default) starts at once, verilator compiles the "
+                     "design first and then runs it fast")
+        ->check(CLI::IsMember(engineTexts))
+        ->type_name("NAME");
     simulateCommand
         ->add_option("--uart0", uart0,
                      "Where the bytes of UART0 go: a file, or - (the default) "
@@ -285,8 +296,13 @@ int run(int argc, char *argv[])
         ->check(CLI::Range(quint64(1), quint64(1000000000000)))
         ->type_name("CYCLES");
     simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
-    simulateCommand->add_option("--report", reportFile, "Write the result (JSON)")
-        ->type_name("FILE");
+    simulateCommand
+        ->add_option("--report", reportFiles,
+                     "Write what happened: text (.txt), JUnit (.xml), otherwise JSON; may be "
+                     "repeated")
+        ->type_name("FILE")
+        ->take_all()
+        ->allow_extra_args(false);
     std::string uart0Input;
     std::string uart1Input;
     std::string uartLines = "apart";
@@ -318,11 +334,11 @@ int run(int argc, char *argv[])
             arguments.file = text(file);
             arguments.firmware = text(program);
             arguments.sources = texts(cFiles);
-            arguments.engine = Cli::engineNames().first();
+            arguments.engine = text(engine);
             arguments.uart0 = text(uart0);
             arguments.timeout = timeout;
             arguments.waves = text(waves);
-            arguments.report = text(reportFile);
+            arguments.reports = texts(reportFiles);
             arguments.uart0Input = text(uart0Input);
             arguments.uart1Input = text(uart1Input);
             arguments.eeprom = text(eeprom);
@@ -364,13 +380,14 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    std::vector<const std::string *> paths = {&file,    &image,      &netlist,
-                                              &outDir,  &dataFolder, &deviceFolder,
-                                              &program, &waves,      &reportFile};
+    std::vector<const std::string *> paths = {&file,       &image,        &netlist, &outDir,
+                                              &dataFolder, &deviceFolder, &program, &waves};
     if (uart0 != "-")
         paths.push_back(&uart0);
     for (const std::string &cFile : cFiles)
         paths.push_back(&cFile);
+    for (const std::string &reportFile : reportFiles)
+        paths.push_back(&reportFile);
     for (const std::string *path : paths) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();

@@ -101,6 +101,7 @@ public:
         }
         Terminal terminal(isOnTerminal());
         m_end = m_simulation->play(*m_engine, plusArguments(), terminal);
+        readDetails();
         const int status = writeResults();
         const QStringList summary = summaryOf(report());
         for (const QString &line : summary)
@@ -120,7 +121,8 @@ private:
         };
         add(QStringLiteral("--uart0"), isOnTerminal() ? QString() : m_arguments.uart0);
         add(QStringLiteral("--waves"), m_arguments.waves);
-        add(QStringLiteral("--report"), m_arguments.report);
+        for (const QString &report : m_arguments.reports)
+            add(QStringLiteral("--report"), report);
         for (const BoardFile &file : boardFiles) {
             if (file.isResult)
                 add(optionOf(file), m_arguments.*file.path);
@@ -266,6 +268,8 @@ private:
 
     static QString programFile() { return QStringLiteral("program.elf"); }
 
+    static QString statisticsFile() { return QStringLiteral("statistics.txt"); }
+
     static Stop failedUnless(const Utils::Result<void> &result)
     {
         return result ? Stop{} : Stop{Failed, result.reason()};
@@ -292,6 +296,7 @@ private:
     {
         QStringList arguments = {QLatin1String("firmware=") + programFile(),
                                  QStringLiteral("timeout=%1").arg(m_arguments.timeout)};
+        arguments.append(QLatin1String("statistics=") + statisticsFile());
         if (!m_arguments.waves.isEmpty())
             arguments.append(QStringLiteral("waves=waves.fst"));
         if (m_arguments.crossesUarts)
@@ -317,7 +322,7 @@ private:
         // The build tree and an installation are laid out alike.
         m_modelFolder = QDir::cleanPath(QCoreApplication::applicationDirPath() +
                                         QLatin1String("/" ORIXM1_MODEL_FOLDER));
-        for (const char *name : {"cortexm1core.vpi", "cortex_m1_core_isa.v"}) {
+        for (const char *name : {"cortexm1core.vpi", "cortexm1core.so", "cortex_m1_core_isa.v"}) {
             const QString path = m_modelFolder + u'/' + QLatin1String(name);
             if (!QFileInfo(path).isFile())
                 return {Failed,
@@ -402,6 +407,25 @@ private:
         return failedUnless(m_engine->build(*m_simulation, design));
     }
 
+    // A simulator that was stopped has written none.
+    void readDetails()
+    {
+        const QString folder = m_simulation->folder() + u'/';
+        QByteArray bytes;
+        QByteArray program;
+        QString error;
+        if (!Reading::readPlainFile(folder + statisticsFile(), Reading::Limits::toolLog, &bytes,
+                                    &error))
+            return;
+        const auto run = readRunStatistics(bytes);
+        if (!run)
+            return;
+        if (!Reading::readPlainFile(folder + programFile(), Reading::Limits::firmwareImage,
+                                    &program, &error))
+            program.clear();
+        m_details = runDetails(m_map, *run, SourcePlaces(program), m_simulation->folder());
+    }
+
     int writeResults() const
     {
         int status = statusOf(m_end);
@@ -426,13 +450,12 @@ private:
                                                      QLatin1String(file.name),
                                                  fullPath(path), &error));
         }
-        if (!m_arguments.report.isEmpty())
-            check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), documentOf(report()),
-                                              &error));
+        for (const QString &file : m_arguments.reports)
+            check(Utils::FileUtils::writeFile(fullPath(file), documentOf(report(), file), &error));
         return status;
     }
 
-    SimulationReport report() const { return {m_arguments, m_map, m_end}; }
+    SimulationReport report() const { return {m_arguments, m_map, m_end, m_details}; }
 
     Environment &m_environment;
     const SimulateArguments &m_arguments;
@@ -444,6 +467,7 @@ private:
     QString m_modelFolder;
     std::unique_ptr<Simulation> m_simulation;
     SimulationEnd m_end;
+    std::optional<RunDetails> m_details;
 };
 
 } // namespace
