@@ -72,6 +72,15 @@ struct SimulateArguments {
     std::optional<quint64> wavesFrom; // clock cycle; of the part that waves are wanted of
     std::optional<quint64> wavesTo;
     std::optional<QString> wavesAt; // event
+    QString uart0Input;             // files; empty: none
+    QString uart1Input;
+    QString eeprom;
+    QString flash;
+    QString sd;
+    QString eepromResult;
+    QString flashResult;
+    QString sdResult;
+    bool crossesUarts = false;
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

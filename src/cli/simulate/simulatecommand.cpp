@@ -10,6 +10,7 @@
 #include "wavewindow.h"
 
 #include <config/optionkeys.h>
+#include <core/storagekinds.h>
 #include <firmware/itcmfiles.h>
 #include <reading/limits.h>
 #include <reading/plainfile.h>
@@ -48,9 +49,36 @@ struct Stop {
 
 // Files that the command writes, by the option that names them.
 struct Target {
-    const char *option;
+    QString option;
     QString path;
 };
+
+// A file that the board has a block read or write. It stands in the folder of the simulation under
+// the name of its plusarg.
+struct BoardFile {
+    const char *name; // of the plusarg; of the option behind two dashes
+    const char *region;
+    const char *title; // of the region, for people
+    QString SimulateArguments::*path;
+    int storage; // number of a kind; -1: none
+    bool isResult;
+};
+
+constexpr BoardFile boardFiles[] = {
+    {"uart0-input", "UART0", "UART0", &SimulateArguments::uart0Input, -1, false},
+    {"uart1-input", "UART1", "UART1", &SimulateArguments::uart1Input, -1, false},
+    {"eeprom", "I2C", "I2C", &SimulateArguments::eeprom, 0, false},
+    {"flash", "SPIFLASH", "SPI-Flash", &SimulateArguments::flash, 1, false},
+    {"sd", "SD", "SD card", &SimulateArguments::sd, 2, false},
+    {"eeprom-result", "I2C", "I2C", &SimulateArguments::eepromResult, 0, true},
+    {"flash-result", "SPIFLASH", "SPI-Flash", &SimulateArguments::flashResult, 1, true},
+    {"sd-result", "SD", "SD card", &SimulateArguments::sdResult, 2, true},
+};
+
+QString optionOf(const BoardFile &file)
+{
+    return QLatin1String("--") + QLatin1String(file.name);
+}
 
 class SimulateRun
 {
@@ -89,15 +117,19 @@ private:
     QVector<Target> targets() const
     {
         QVector<Target> list;
-        const auto add = [&list](const char *option, const QString &path) {
+        const auto add = [&list](const QString &option, const QString &path) {
             if (!path.isEmpty())
                 list.append({option, fullPath(path)});
         };
-        add("--uart0", isOnTerminal() ? QString() : m_arguments.uart0);
-        add("--waves", m_arguments.waves);
-        add("--waves", viewFile());
+        add(QStringLiteral("--uart0"), isOnTerminal() ? QString() : m_arguments.uart0);
+        add(QStringLiteral("--waves"), m_arguments.waves);
+        add(QStringLiteral("--waves"), viewFile());
         for (const QString &report : m_arguments.reports)
-            add("--report", report);
+            add(QStringLiteral("--report"), report);
+        for (const BoardFile &file : boardFiles) {
+            if (file.isResult)
+                add(optionOf(file), m_arguments.*file.path);
+        }
         return list;
     }
 
@@ -111,6 +143,10 @@ private:
             taken.append(fullPath(m_arguments.firmware));
         for (const QString &source : m_arguments.sources)
             taken.append(fullPath(source));
+        for (const BoardFile &file : boardFiles) {
+            if (!file.isResult && !(m_arguments.*file.path).isEmpty())
+                taken.append(fullPath(m_arguments.*file.path));
+        }
         for (QString &path : taken) {
             if (const QString real = QFileInfo(path).canonicalFilePath(); !real.isEmpty())
                 path = real;
@@ -120,7 +156,7 @@ private:
             const QFileInfo info(target.path);
             const QString real = info.canonicalFilePath();
             const QString path = real.isEmpty() ? target.path : real;
-            const QString option = QLatin1String(target.option);
+            const QString option = target.option;
             if (taken.contains(path))
                 return {WrongUsage, option + u' ' + quoted(target.path) +
                                         QLatin1String(" is read or written already.")};
@@ -165,6 +201,53 @@ private:
             if (!info.isFile() || !info.isReadable())
                 return {BadInput, quoted(fullPath(source)) + QLatin1String(" cannot be read.")};
         }
+        return checkBoardFiles();
+    }
+
+    Stop checkBoardFiles() const
+    {
+        for (const BoardFile &file : boardFiles) {
+            if ((m_arguments.*file.path).isEmpty())
+                continue;
+            if (!findRegion(m_map, QLatin1String(file.region)))
+                return {BadInput, optionOf(file) + QLatin1String(": ") + quoted(m_document.path) +
+                                      QLatin1String(" has no ") + QLatin1String(file.title) + u'.'};
+            if (file.isResult)
+                continue;
+            const QString path = fullPath(m_arguments.*file.path);
+            const QFileInfo info(path);
+            if (!info.isFile() || !info.isReadable())
+                return {BadInput, optionOf(file) + u' ' + quoted(path) +
+                                      QLatin1String(" cannot be read, or is no plain file.")};
+            if (file.storage < 0)
+                continue;
+            const std::string mistake = CortexM1::storageMistake(
+                CortexM1::storageKinds[file.storage], quint64(info.size()));
+            if (!mistake.empty())
+                return {BadInput, optionOf(file) + u' ' + quoted(path) + u' ' +
+                                      QString::fromStdString(mistake) + u'.'};
+        }
+        if (!m_arguments.sdResult.isEmpty() && m_arguments.sd.isEmpty())
+            return {WrongUsage, QStringLiteral("--sd-result needs --sd: there is no card else.")};
+        for (const char *name : {"UART0", "UART1"}) {
+            if (m_arguments.crossesUarts && !findRegion(m_map, QLatin1String(name)))
+                return {BadInput, QLatin1String("--uarts crossed: ") + quoted(m_document.path) +
+                                      QLatin1String(" has no ") + QLatin1String(name) + u'.'};
+        }
+        return {};
+    }
+
+    // The board reads the user's own files, by links that every tool can name.
+    Stop linkBoardFiles() const
+    {
+        for (const BoardFile &file : boardFiles) {
+            const QString path = m_arguments.*file.path;
+            if (!file.isResult && !path.isEmpty() &&
+                !QFile::link(fullPath(path),
+                             m_simulation->folder() + u'/' + QLatin1String(file.name)))
+                return {Failed, QLatin1String("A link in \"") + m_simulation->folder() +
+                                    QLatin1String("\" could not be made.")};
+        }
         return {};
     }
 
@@ -180,6 +263,8 @@ private:
         m_simulation = std::make_unique<Simulation>();
         if (m_simulation->folder().isEmpty())
             return {Failed, m_simulation->problem()};
+        if (const Stop stop = linkBoardFiles(); stop.status != Done)
+            return stop;
         const auto made = m_arguments.sources.isEmpty()
                               ? failedUnless(m_simulation->write(programFile(), image))
                               : compileProgram();
@@ -241,6 +326,12 @@ private:
         if (!m_arguments.waves.isEmpty())
             arguments += {QStringLiteral("waves=waves.fst"), QLatin1String("names=") + namesFile()};
         arguments += m_waveArguments;
+        if (m_arguments.crossesUarts)
+            arguments.append(QStringLiteral("uarts=crossed"));
+        for (const BoardFile &file : boardFiles) {
+            if (!(m_arguments.*file.path).isEmpty())
+                arguments.append(QLatin1String(file.name) + u'=' + QLatin1String(file.name));
+        }
         return arguments;
     }
 
@@ -332,6 +423,14 @@ private:
         }
         design.modelFolder = m_modelFolder;
         design.board = boardOf(m_map);
+        for (const char *name : {"i2c_memory.v", "spi_flash.v", "sd_card.v"}) {
+            QByteArray text;
+            const QString path = m_environment.dataFolder() + QLatin1String("/simulation/board/") +
+                                 QLatin1String(name);
+            if (!Utils::FileUtils::readFile(path, &text, &error))
+                return {Failed, error};
+            design.board += '\n' + text;
+        }
         return failedUnless(m_engine->build(*m_simulation, design));
     }
 
@@ -399,6 +498,13 @@ private:
         // What a simulator that was stopped has written is no whole file.
         if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
             check(writeWaves(&error));
+        for (const BoardFile &file : boardFiles) {
+            const QString path = m_arguments.*file.path;
+            if (file.isResult && !path.isEmpty() && m_end.result != SimulationEnd::Cancelled)
+                check(Utils::FileUtils::copyFile(m_simulation->folder() + u'/' +
+                                                     QLatin1String(file.name),
+                                                 fullPath(path), &error));
+        }
         for (const QString &file : m_arguments.reports)
             check(Utils::FileUtils::writeFile(fullPath(file), documentOf(report(), file), &error));
         return status;

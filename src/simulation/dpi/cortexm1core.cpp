@@ -1,6 +1,7 @@
 // The core as functions of a compiled simulation; the vectors are those of core/packedpins.h.
 #include "cortexm1core.h"
 
+#include "core/boardhost.h"
 #include "core/packedpins.h"
 #include "loading.h"
 
@@ -25,10 +26,13 @@ public:
 
     const char *argument(const std::string &name) const override
     {
-        const std::string start = "+" + name + "=";
+        const std::string start = "+" + name;
         for (int i = 1; i < m_count; ++i) {
-            if (std::strncmp(m_arguments[i], start.c_str(), start.size()) == 0)
-                return m_arguments[i] + start.size();
+            if (std::strncmp(m_arguments[i], start.c_str(), start.size()) != 0)
+                continue;
+            const char *rest = m_arguments[i] + start.size();
+            if (*rest == '=' || *rest == '\0')
+                return *rest == '=' ? rest + 1 : rest;
         }
         return nullptr;
     }
@@ -92,6 +96,7 @@ EXPORTED void cortexm1_begin(int count, const char *const *arguments)
 EXPORTED void cortexm1_end(void)
 {
     sessions().clear();
+    CortexM1::BoardHost::finishShared();
 }
 
 EXPORTED int cortexm1_open(const char *firmware, int interrupts, int hasOs, int isBigEndian,

@@ -132,6 +132,7 @@ PLI_INT32 callNames(PLI_BYTE8 *)
 PLI_INT32 forgetSessions(p_cb_data)
 {
     sessions().clear();
+    Vpi::finishBoard();
     return 0;
 }
 
