@@ -14,21 +14,6 @@ using namespace TARVOORIXM1;
 namespace
 {
 
-QString nameOf(SimulationEnd::Result result)
-{
-    switch (result) {
-    case SimulationEnd::Passed:
-        return QStringLiteral("passed");
-    case SimulationEnd::Failed:
-        return QStringLiteral("failed");
-    case SimulationEnd::TimeLimit:
-        return QStringLiteral("time limit");
-    case SimulationEnd::Cancelled:
-        break;
-    }
-    return QStringLiteral("cancelled");
-}
-
 QString note()
 {
     return QStringLiteral("The model executes an instruction a clock cycle: instruction counts "
@@ -47,6 +32,21 @@ QVector<int> uartsOf(const SystemMap &map)
 }
 
 } // namespace
+
+QString nameOf(SimulationEnd::Result result)
+{
+    switch (result) {
+    case SimulationEnd::Passed:
+        return QStringLiteral("passed");
+    case SimulationEnd::Failed:
+        return QStringLiteral("failed");
+    case SimulationEnd::TimeLimit:
+        return QStringLiteral("time limit");
+    case SimulationEnd::Cancelled:
+        break;
+    }
+    return QStringLiteral("cancelled");
+}
 
 int statusOf(const SimulationEnd &end)
 {

@@ -21,6 +21,9 @@ struct SimulationReport {
 // Why it did not pass, a clause without a full stop; may be empty.
 QString reasonOf(const SimulationEnd &end);
 
+// "passed", "failed", "time limit", "cancelled"
+QString nameOf(SimulationEnd::Result result);
+
 // The exit status that belongs to it.
 int statusOf(const SimulationEnd &end);
 
