@@ -67,6 +67,15 @@ struct SimulateArguments {
     quint64 timeout = 0; // clock cycles
     QString waves;       // file; empty: none
     QString report;      // file; empty: none
+    QString uart0Input;  // files; empty: none
+    QString uart1Input;
+    QString eeprom;
+    QString flash;
+    QString sd;
+    QString eepromResult;
+    QString flashResult;
+    QString sdResult;
+    bool crossesUarts = false;
 
     bool hasProgram = true; // one of those above, or of what else can be one
     QString model = QStringLiteral("rtl");

@@ -335,6 +335,31 @@ int run(int argc, char *argv[])
     simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
     simulateCommand->add_option("--report", reportFile, "Write the result (JSON)")
         ->type_name("FILE");
+    std::string uart0Input;
+    std::string uart1Input;
+    std::string uartLines = "apart";
+    std::string eeprom;
+    std::string flash;
+    std::string card;
+    std::string eepromResult;
+    std::string flashResult;
+    std::string cardResult;
+    const auto addBoardFile = [&](const char *name, std::string &value, const char *help) {
+        simulateCommand->add_option(name, value, help)->type_name("FILE");
+    };
+    addBoardFile("--uart0-input", uart0Input, "Bytes that UART0 receives once its receiver is on");
+    addBoardFile("--uart1-input", uart1Input, "The same for UART1, which else hears itself");
+    simulateCommand
+        ->add_option("--uarts", uartLines,
+                     "apart (the default), or crossed: each receives what the other one sends")
+        ->check(CLI::IsMember({"apart", "crossed"}))
+        ->type_name("LINES");
+    addBoardFile("--eeprom", eeprom, "What the I2C memory holds first; else it is blank");
+    addBoardFile("--flash", flash, "What the serial flash holds first; else it is blank");
+    addBoardFile("--sd", card, "Image of the SD card; without one there is no card");
+    addBoardFile("--eeprom-result", eepromResult, "Write what the I2C memory holds at the end");
+    addBoardFile("--flash-result", flashResult, "Write what the serial flash holds at the end");
+    addBoardFile("--sd-result", cardResult, "Write what the SD card holds at the end");
     simulateCommand->callback([&] {
         command = [&] {
             Cli::SimulateArguments arguments;
@@ -363,6 +388,15 @@ int run(int argc, char *argv[])
             arguments.readsStandardInput =
                 uart0 == "-" || uart1 == "-" ||
                 (arguments.uart0 == QLatin1String("-") && ::isatty(STDIN_FILENO));
+            arguments.uart0Input = text(uart0Input);
+            arguments.uart1Input = text(uart1Input);
+            arguments.eeprom = text(eeprom);
+            arguments.flash = text(flash);
+            arguments.sd = text(card);
+            arguments.eepromResult = text(eepromResult);
+            arguments.flashResult = text(flashResult);
+            arguments.sdResult = text(cardResult);
+            arguments.crossesUarts = uartLines == "crossed";
             return Cli::runSimulate(environment, arguments);
         };
     });

@@ -12,6 +12,7 @@
 #include "terminal.h"
 
 #include <config/optionkeys.h>
+#include <core/storagekinds.h>
 #include <firmware/itcmfiles.h>
 #include <reading/limits.h>
 #include <reading/plainfile.h>
@@ -52,9 +53,36 @@ struct Stop {
 
 // Files that the command writes, by the option that names them.
 struct Target {
-    const char *option;
+    QString option;
     QString path;
 };
+
+// A file that the board has a block read or write. It stands in the folder of the simulation under
+// the name of its plusarg.
+struct BoardFile {
+    const char *name; // of the plusarg; of the option behind two dashes
+    const char *region;
+    const char *title; // of the region, for people
+    QString SimulateArguments::*path;
+    int storage; // number of a kind; -1: none
+    bool isResult;
+};
+
+constexpr BoardFile boardFiles[] = {
+    {"uart0-input", "UART0", "UART0", &SimulateArguments::uart0Input, -1, false},
+    {"uart1-input", "UART1", "UART1", &SimulateArguments::uart1Input, -1, false},
+    {"eeprom", "I2C", "I2C", &SimulateArguments::eeprom, 0, false},
+    {"flash", "SPIFLASH", "SPI-Flash", &SimulateArguments::flash, 1, false},
+    {"sd", "SD", "SD card", &SimulateArguments::sd, 2, false},
+    {"eeprom-result", "I2C", "I2C", &SimulateArguments::eepromResult, 0, true},
+    {"flash-result", "SPIFLASH", "SPI-Flash", &SimulateArguments::flashResult, 1, true},
+    {"sd-result", "SD", "SD card", &SimulateArguments::sdResult, 2, true},
+};
+
+QString optionOf(const BoardFile &file)
+{
+    return QLatin1String("--") + QLatin1String(file.name);
+}
 
 class SimulateRun
 {
@@ -125,6 +153,22 @@ private:
         return giveUp({Failed, error});
     }
 
+    // The board of the configuration, with the devices that stand on it.
+    Stop makeBoard(QByteArray *board) const
+    {
+        *board = boardOf(m_map);
+        for (const char *name : {"i2c_memory.v", "spi_flash.v", "sd_card.v"}) {
+            QByteArray text;
+            QString error;
+            const QString path = m_environment.dataFolder() + QLatin1String("/simulation/board/") +
+                                 QLatin1String(name);
+            if (!Utils::FileUtils::readFile(path, &text, &error))
+                return {Failed, error};
+            *board += '\n' + text;
+        }
+        return {};
+    }
+
     // What only the command knows of the reason.
     void explainEnd()
     {
@@ -175,15 +219,19 @@ private:
     QVector<Target> targets() const
     {
         QVector<Target> list;
-        const auto add = [&list](const char *option, const QString &path) {
+        const auto add = [&list](const QString &option, const QString &path) {
             if (!path.isEmpty())
                 list.append({option, fullPath(path)});
         };
-        add("--uart0", uartFile(0));
-        add("--uart1", uartFile(1));
-        add("--write-board", m_arguments.writeBoard);
-        add("--waves", m_arguments.waves);
-        add("--report", m_arguments.report);
+        add(QStringLiteral("--uart0"), uartFile(0));
+        add(QStringLiteral("--uart1"), uartFile(1));
+        add(QStringLiteral("--write-board"), m_arguments.writeBoard);
+        add(QStringLiteral("--waves"), m_arguments.waves);
+        add(QStringLiteral("--report"), m_arguments.report);
+        for (const BoardFile &file : boardFiles) {
+            if (file.isResult)
+                add(optionOf(file), m_arguments.*file.path);
+        }
         return list;
     }
 
@@ -197,6 +245,10 @@ private:
             taken.append(fullPath(m_arguments.board));
         for (const QString &source : m_arguments.sources)
             taken.append(fullPath(source));
+        for (const BoardFile &file : boardFiles) {
+            if (!file.isResult && !(m_arguments.*file.path).isEmpty())
+                taken.append(fullPath(m_arguments.*file.path));
+        }
         for (QString &path : taken) {
             if (const QString real = QFileInfo(path).canonicalFilePath(); !real.isEmpty())
                 path = real;
@@ -206,7 +258,7 @@ private:
             const QFileInfo info(target.path);
             const QString real = info.canonicalFilePath();
             const QString path = real.isEmpty() ? target.path : real;
-            const QString option = QLatin1String(target.option);
+            const QString option = target.option;
             if (taken.contains(path))
                 return {WrongUsage, option + u' ' + quoted(target.path) +
                                         QLatin1String(" is read or written already.")};
@@ -264,6 +316,53 @@ private:
             const QFileInfo info(source);
             if (!info.isFile() || !info.isReadable())
                 return {BadInput, quoted(fullPath(source)) + QLatin1String(" cannot be read.")};
+        }
+        return checkBoardFiles();
+    }
+
+    Stop checkBoardFiles() const
+    {
+        for (const BoardFile &file : boardFiles) {
+            if ((m_arguments.*file.path).isEmpty())
+                continue;
+            if (!findRegion(m_map, QLatin1String(file.region)))
+                return {BadInput, optionOf(file) + QLatin1String(": ") + quoted(m_document.path) +
+                                      QLatin1String(" has no ") + QLatin1String(file.title) + u'.'};
+            if (file.isResult)
+                continue;
+            const QString path = fullPath(m_arguments.*file.path);
+            const QFileInfo info(path);
+            if (!info.isFile() || !info.isReadable())
+                return {BadInput, optionOf(file) + u' ' + quoted(path) +
+                                      QLatin1String(" cannot be read, or is no plain file.")};
+            if (file.storage < 0)
+                continue;
+            const std::string mistake = CortexM1::storageMistake(
+                CortexM1::storageKinds[file.storage], quint64(info.size()));
+            if (!mistake.empty())
+                return {BadInput, optionOf(file) + u' ' + quoted(path) + u' ' +
+                                      QString::fromStdString(mistake) + u'.'};
+        }
+        if (!m_arguments.sdResult.isEmpty() && m_arguments.sd.isEmpty())
+            return {WrongUsage, QStringLiteral("--sd-result needs --sd: there is no card else.")};
+        for (const char *name : {"UART0", "UART1"}) {
+            if (m_arguments.crossesUarts && !findRegion(m_map, QLatin1String(name)))
+                return {BadInput, QLatin1String("--uarts crossed: ") + quoted(m_document.path) +
+                                      QLatin1String(" has no ") + QLatin1String(name) + u'.'};
+        }
+        return {};
+    }
+
+    // The board reads the user's own files, by links that every tool can name.
+    Stop linkBoardFiles() const
+    {
+        for (const BoardFile &file : boardFiles) {
+            const QString path = m_arguments.*file.path;
+            if (!file.isResult && !path.isEmpty() &&
+                !QFile::link(fullPath(path),
+                             m_simulation->folder() + u'/' + QLatin1String(file.name)))
+                return {Failed, QLatin1String("A link in \"") + m_simulation->folder() +
+                                    QLatin1String("\" could not be made.")};
         }
         return {};
     }
@@ -328,6 +427,8 @@ private:
         m_outside = std::make_unique<Outside>(*m_simulation, *m_listener);
         if (const auto opened = m_outside->open(m_arguments); !opened)
             return {Failed, opened.reason()};
+        if (const Stop stop = linkBoardFiles(); stop.status != Done)
+            return stop;
         m_listener->stageBegun(Stage::Program);
         Stop made;
         if (!m_arguments.sources.isEmpty())
@@ -379,6 +480,12 @@ private:
         arguments += m_outside->plusArguments();
         if (!m_arguments.waves.isEmpty())
             arguments.append(QStringLiteral("waves=waves.fst"));
+        if (m_arguments.crossesUarts)
+            arguments.append(QStringLiteral("uarts=crossed"));
+        for (const BoardFile &file : boardFiles) {
+            if (!(m_arguments.*file.path).isEmpty())
+                arguments.append(QLatin1String(file.name) + u'=' + QLatin1String(file.name));
+        }
         return arguments;
     }
 
@@ -498,7 +605,8 @@ private:
         }
         design.modelFolder = m_modelFolder;
         if (m_arguments.board.isEmpty()) {
-            design.board = boardOf(m_map);
+            if (const Stop stop = makeBoard(&design.board); stop.status != Done)
+                return stop;
             return failedUnless(m_engine->build(*m_simulation, design));
         }
         design.board = m_board;
@@ -531,6 +639,13 @@ private:
         const QString waves = m_simulation->folder() + QLatin1String("/waves.fst");
         if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
             check(Utils::FileUtils::copyFile(waves, fullPath(m_arguments.waves), &error));
+        for (const BoardFile &file : boardFiles) {
+            const QString path = m_arguments.*file.path;
+            if (file.isResult && !path.isEmpty() && m_end.result != SimulationEnd::Cancelled)
+                check(Utils::FileUtils::copyFile(m_simulation->folder() + u'/' +
+                                                     QLatin1String(file.name),
+                                                 fullPath(path), &error));
+        }
         if (!m_arguments.report.isEmpty())
             check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), documentOf(report()),
                                               &error));

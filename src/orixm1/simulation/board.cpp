@@ -1,6 +1,7 @@
 #include "board.h"
 
 #include "config/latin1literal.h"
+#include "registers/registerdocs.h"
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -62,6 +63,78 @@ module board_apb_memory (
     assign rdata = memory[addr[11:2]];
 endmodule
 
+// A copy of a register of a peripheral, by what the program writes.
+module board_register #(
+    parameter [31:0] ADDRESS = 32'd0,
+    parameter [31:0] RESET = 32'd0
+) (
+    input  wire        clk, resetn, store,
+    input  wire [31:0] address,
+    input  wire [3:0]  lanes,
+    input  wire [31:0] data,
+    output reg  [31:0] value
+);
+    integer i;
+    initial value = RESET;
+    always @(posedge clk)
+        if (resetn === 1'b0)
+            value <= RESET;
+        else if (store && address[31:2] == ADDRESS[31:2])
+            for (i = 0; i < 4; i = i + 1)
+                if (lanes[i]) value[8*i +: 8] <= data[8*i +: 8];
+endmodule
+
+// Sends what comes from outside while the receiver is on. A byte that is cut off is sent again.
+module board_uart_sender #(
+    parameter NUMBER = 0
+) (
+    input  wire        clk, enabled,
+    input  wire [19:0] divider, // clock cycles a bit
+    output reg         line,
+    output reg         is_used  // something has come
+);
+    reg        has_byte = 1'b0;
+    reg [7:0]  data;
+    reg [3:0]  place = 4'd0;    // 0: idle, 1 to 8: data bits follow, 9: stop bit, 10, 11: within it
+    reg [19:0] left = 20'd0;    // clock cycles until then
+    reg [3:0]  pause = 4'd0;
+    integer    next;
+    initial begin
+        line = 1'b1;
+        is_used = 1'b0;
+    end
+    always @(posedge clk) begin
+        pause <= pause + 4'd1;
+        if (!enabled) begin
+            line <= 1'b1;
+            place <= 4'd0;
+            left <= divider;
+        end else if (left > 20'd1)
+            left <= left - 20'd1;
+        else if (place == 4'd0 || place == 4'd11) begin
+            // An idle line looks for a byte each 16 clock cycles.
+            if (!has_byte && (pause == 4'd0 || place != 4'd0)) begin
+                next = `BOARD_INPUT(NUMBER);
+                if (next >= 0) begin
+                    data = next[7:0];
+                    has_byte = 1'b1;
+                    is_used <= 1'b1;
+                end
+            end
+            place <= has_byte ? 4'd1 : 4'd0;
+            line <= !has_byte;
+            left <= has_byte ? divider : 20'd0;
+        end else begin
+            place <= place + 4'd1;
+            line <= place > 4'd8 || data[place[2:0] - 3'd1];
+            left <= place < 4'd9 ? divider : place == 4'd9 ? {1'b0, divider[19:1]} + 20'd4 : divider[19:1] - 20'd4;
+            // The receiver has it by now.
+            if (place == 4'd10)
+                has_byte = 1'b0;
+        end
+    end
+endmodule
+
 // Reads a line of eight data bits, no parity, one stop bit.
 module board_uart #(
     parameter NUMBER = 0
@@ -101,9 +174,33 @@ endmodule
 constexpr char host[] = R"(
 `ifdef VERILATOR
 import "DPI-C" function void board_sent(input int uart, input int data);
+import "DPI-C" function int board_input(input int uart);
+import "DPI-C" function void board_pins(input int levels, input int driven);
+import "DPI-C" function int board_drive_mask();
+import "DPI-C" function int board_drive_levels();
+import "DPI-C" function void board_time(input int low, input int high);
+import "DPI-C" function int board_size(input int storage);
+import "DPI-C" function int board_load(input int storage, input int address);
+import "DPI-C" function void board_store(input int storage, input int address, input int data);
 `define BOARD_SENT(uart, data) board_sent(uart, {24'd0, data})
+`define BOARD_INPUT(uart) board_input(uart)
+`define BOARD_PINS(levels, driven) board_pins({16'd0, levels}, {16'd0, driven})
+`define BOARD_DRIVE_MASK board_drive_mask()
+`define BOARD_DRIVE_LEVELS board_drive_levels()
+`define BOARD_TIME(low, high) board_time(low, high)
+`define BOARD_SIZE(storage) board_size(storage)
+`define BOARD_LOAD(storage, address) board_load(storage, address)
+`define BOARD_STORE(storage, address, data) board_store(storage, address, {24'd0, data})
 `else
 `define BOARD_SENT(uart, data) $board_sent(uart, data)
+`define BOARD_INPUT(uart) $board_input(uart)
+`define BOARD_PINS(levels, driven) $board_pins(levels, driven)
+`define BOARD_DRIVE_MASK $board_drive_mask
+`define BOARD_DRIVE_LEVELS $board_drive_levels
+`define BOARD_TIME(low, high) $board_time(low, high)
+`define BOARD_SIZE(storage) $board_size(storage)
+`define BOARD_LOAD(storage, address) $board_load(storage, address)
+`define BOARD_STORE(storage, address, data) $board_store(storage, address, data)
 `endif
 )";
 
@@ -125,6 +222,7 @@ module board;
 `endif
     reg [3:0] slow = 4'd0;
     wire      slow_clk = slow[3]; // for what is sampled
+    wire      card_clk = slow[2];
     reg [3:0] power = 4'd0;
     reg       power_good = 1'b0;
     reg [63:0] cycles = 64'd0;    // from the end of the power-on reset
@@ -144,15 +242,43 @@ module board;
         if (!$value$plusargs("timeout=%d", limit)) limit = 64'd10000000;
     end
 
+    // Bytes of what keeps some; 0: it is not there.
+    integer eeprom_size, flash_size, sd_size;
+    initial begin
+        eeprom_size = `BOARD_SIZE(0);
+        flash_size = `BOARD_SIZE(1);
+        sd_size = `BOARD_SIZE(2);
+    end
+
     // What the program writes, as the processor's pins show it.
     reg        storing = 1'b0;
-    reg [31:0] store_address;
+    reg [31:0] store_address = 32'd0;
+    reg [3:0]  store_lanes = 4'd0;
     wire       store = storing & dut.u_core.HREADY;
     always @(posedge clk)
         if (dut.u_core.HREADY) begin
             storing <= dut.u_core.HTRANS[1] & dut.u_core.HWRITE;
             store_address <= dut.u_core.HADDR;
+            store_lanes <= dut.u_core.HSIZE == 3'd0   ? 4'b0001 << dut.u_core.HADDR[1:0]
+                           : dut.u_core.HSIZE == 3'd1 ? 4'b0011 << dut.u_core.HADDR[1:0] : 4'b1111;
         end
+)";
+
+constexpr char pins[] = R"(    integer gpio_pin;
+    always @*
+        for (gpio_pin = 0; gpio_pin < 16; gpio_pin = gpio_pin + 1)
+            gpio_seen[gpio_pin] = gpio_levels[gpio_pin] === 1'b1;
+    always @(posedge clk) begin
+        gpio_outside <= (gpio_mask & gpio_drive) | (~gpio_mask & {gpio_seen[7:0], 8'd0});
+        if (slow == 4'd0) begin
+            gpio_mask <= `BOARD_DRIVE_MASK;
+            gpio_drive <= `BOARD_DRIVE_LEVELS;
+        end
+        if (power_good && {gpio_seen, gpio_driven} != gpio_told) begin
+            gpio_told <= {gpio_seen, gpio_driven};
+            `BOARD_PINS(gpio_seen, gpio_driven);
+        end
+    end
 )";
 
 constexpr char tail[] = R"(
@@ -162,10 +288,21 @@ constexpr char tail[] = R"(
     reg [63:0] done_at;
     reg [23:0] silence;          // clock cycles in which no UART sends
     reg [23:0] draining;
+    integer    host_state = 0;
     always @(posedge clk)
         if (power_good && !ended) begin
+            if (cycles[7:0] == 8'd0) begin
+                `BOARD_TIME(cycles[31:0], cycles[63:32]);
+                host_state = `BOARD_SIZE(0); // below 0: the outside ends the run
+                if (host_state < 0) begin
+                    ended <= 1'b1;
+                    $display("\036%0s done", mark);
+                    $display("\036%0s end failed %0d", mark, cycles);
+                    $finish(0);
+                end
+            end
             was_locked_up <= dut.u_core.LOCKUP;
-            if (dut.u_core.LOCKUP && !was_locked_up) begin
+            if (host_state >= 0 && dut.u_core.LOCKUP && !was_locked_up) begin
                 $display("\036%0s lockup %0d", mark, cycles);
                 if (!CAN_RECOVER) begin
                     ended <= 1'b1;
@@ -173,7 +310,8 @@ constexpr char tail[] = R"(
                     $finish(0);
                 end
             end
-            if (!is_done && dut.u_core.done) begin
+            if (host_state < 0) begin
+            end else if (!is_done && dut.u_core.done) begin
                 is_done <= 1'b1;
                 done_at <= cycles;
                 silence <= 24'd0;
@@ -241,19 +379,21 @@ struct Wiring {
 constexpr Wiring wirings[] = {
     {"HCLK"_l1, {}, "clk"_l1},
     {"hwRstn"_l1, {}, "power_good"_l1},
-    {"UART0RXD"_l1, {}, "1'b1"_l1},
-    {"UART1RXD"_l1, "UART1TXD"_l1, "p_UART1TXD"_l1},
+    {"UART0RXD"_l1, "UART1TXD"_l1, "uarts_crossed ? p_UART1TXD & line0 : line0"_l1},
+    {"UART0RXD"_l1, {}, "line0"_l1},
+    {"UART1RXD"_l1, "UART0TXD"_l1,
+     "uarts_crossed ? p_UART0TXD & line1 : is_used1 ? line1 : p_UART1TXD"_l1},
+    {"UART1RXD"_l1, {}, "is_used1 ? line1 : p_UART1TXD"_l1},
     {"CAN_RX"_l1, "CAN_TX"_l1, "p_CAN_TX"_l1},
     {"MISO"_l1, "MOSI"_l1, "p_MOSI"_l1},
-    {"SD_DATAIN"_l1, {}, "1'b1"_l1},
+    {"SD_DATAIN"_l1, {}, "p_SD_CS !== 1'b0 || sd_size == 0 || sd_miso"_l1},
+    {"SD_CHECKIN"_l1, {}, "sd_size == 0"_l1},
     {"RTCSRCCLK"_l1, {}, "slow_clk"_l1},
-    {"SD_SPICLK"_l1, {}, "slow_clk"_l1},
+    {"SD_SPICLK"_l1, {}, "card_clk"_l1},
     {"DDR_LOCK_I"_l1, {}, "power_good"_l1},
-    {"SCLIN"_l1, "SCLOUTEN"_l1, "~p_SCLOUTEN | p_SCLOUT"_l1},
-    {"SDAIN"_l1, "SDAOUTEN"_l1, "~p_SDAOUTEN | p_SDAOUT"_l1},
-    {"GPIOIN"_l1, "GPIOOUTEN"_l1,
-     "{(p_GPIOOUTEN[15:8] & p_GPIOOUT[15:8]) | (~p_GPIOOUTEN[15:8] & p_GPIOOUT[7:0] & "
-     "p_GPIOOUTEN[7:0]), p_GPIOOUTEN[7:0] & p_GPIOOUT[7:0]}"_l1},
+    {"SCLIN"_l1, {}, "i2c_scl"_l1},
+    {"SDAIN"_l1, {}, "i2c_sda"_l1},
+    {"GPIOIN"_l1, {}, "gpio_levels"_l1},
 };
 
 QString netOf(const Port &port)
@@ -273,16 +413,14 @@ public:
     {
         QString text = "// The board of a simulated subsystem: made, not to be edited.\n"
                        "`timescale 1ns / 1ps\n"_l1 +
-                       QLatin1String(host) + QLatin1String(modules) +
-                       QLatin1String(head) + u'\n';
+                       QLatin1String(host) + QLatin1String(modules) + QLatin1String(head) + u'\n';
         for (const Port &port : m_map.ports)
             text += declaration(port);
-        text += u'\n';
+        text += u'\n' + uarts() + gpio() + devices() + u'\n';
         for (const Port &port : m_map.ports)
             text += driver(port);
         for (const Region &region : m_map.regions)
             text += memory(region);
-        text += uarts();
         QStringList connections;
         for (const Port &port : m_map.ports)
             connections.append("        ."_l1 + port.name + "("_l1 + netOf(port) + ")"_l1);
@@ -311,17 +449,13 @@ private:
         return {};
     }
 
-    bool isWrapped(const Port &port) const
-    {
-        return port.name == "GPIO"_l1 && port.direction == PortDirection::Inout;
-    }
-
     QString declaration(const Port &port) const
     {
-        const bool isPulled = port.direction == PortDirection::Inout && !isWrapped(port);
-        const QString type = port.needsPullUp ? QStringLiteral("tri1")
-                             : isPulled       ? QStringLiteral("tri0")
-                                              : QStringLiteral("wire");
+        const bool isInout = port.direction == PortDirection::Inout;
+        const bool isHigh = port.needsPullUp || (isInout && port.isActiveLow);
+        const QString type = isHigh    ? QStringLiteral("tri1")
+                             : isInout ? QStringLiteral("tri0")
+                                       : QStringLiteral("wire");
         const QString range =
             port.isVector() ? QStringLiteral(" [%1:%2]").arg(port.left).arg(port.right) : QString();
         return "    "_l1 + type + range + u' ' + netOf(port) + ";\n"_l1;
@@ -361,16 +495,6 @@ private:
 
     QString driver(const Port &port) const
     {
-        if (isWrapped(port)) {
-            QString text;
-            for (int i = 0; i < port.width() / 2; ++i)
-                text += QStringLiteral("    pulldown (%1[%2]);\n    assign (pull1, pull0) %1[%3] = "
-                                       "%1[%2];\n")
-                            .arg(netOf(port))
-                            .arg(i)
-                            .arg(i + port.width() / 2);
-            return text;
-        }
         if (port.direction != PortDirection::Input || port.needsPullUp || isMemorySignal(port))
             return {};
         return "    assign "_l1 + netOf(port) + " = "_l1 + valueOfInput(port) + ";\n"_l1;
@@ -404,41 +528,135 @@ private:
         return text + ");\n"_l1;
     }
 
-    // Readers of the lines of the UARTs, which follow the registers of the rate.
+    // A register as the processor's pins tell of it; null if the peripheral has none with this
+    // name.
+    struct Place {
+        const Register *entry = nullptr;
+        quint32 address = 0;
+    };
+
+    static Place placeOf(const Peripheral &peripheral, const PeripheralInstance &instance,
+                         QLatin1String name)
+    {
+        for (const Register &entry : peripheral.registers) {
+            if (entry.name == name)
+                return {&entry, instance.base + entry.offset};
+        }
+        return {};
+    }
+
+    // A copy of it as the net `name`.
+    static QString copyOf(const Place &place, const QString &name)
+    {
+        return QStringLiteral("    wire [31:0] %1;\n"
+                              "    board_register #(.ADDRESS(32'h%2), .RESET(32'h%3)) copy_%1 "
+                              "(.clk(clk), .resetn(dut.u_core.SYSRESETn), .store(store), "
+                              ".address(store_address), .lanes(store_lanes), "
+                              ".data(dut.u_core.HWDATA), .value(%1));\n")
+            .arg(name)
+            .arg(place.address, 8, 16, QLatin1Char('0'))
+            .arg(resetValue(*place.entry), 8, 16, QLatin1Char('0'));
+    }
+
+    // Readers and senders of the lines of the UARTs, which follow the registers.
     QString uarts() const
     {
-        QString text;
+        QString text = QStringLiteral("    reg uarts_crossed;\n    initial uarts_crossed = "
+                                      "$test$plusargs(\"uarts=crossed\");\n");
         QStringList busy = {QStringLiteral("1'b0")};
         QString bit = QStringLiteral("20'd0");
         for (const Peripheral &peripheral : m_map.peripherals) {
-            const auto rate =
-                std::find_if(peripheral.registers.begin(), peripheral.registers.end(),
-                             [](const Register &entry) { return entry.name == "BAUDDIV"_l1; });
-            if (peripheral.name != "UART"_l1 || rate == peripheral.registers.end())
+            if (peripheral.name != "UART"_l1)
                 continue;
-            const RegisterField &field = rate->fields.first();
             for (const PeripheralInstance &instance : peripheral.instances) {
+                const Place rate = placeOf(peripheral, instance, "BAUDDIV"_l1);
+                const Place control = placeOf(peripheral, instance, "CTRL"_l1);
                 const int number = instance.name.rightRef(1).toInt();
-                text += QStringLiteral(
-                            "    reg [19:0] divider%1 = 20'd%2;\n"
-                            "    always @(posedge clk)\n"
-                            "        if (dut.u_core.SYSRESETn === 1'b0) divider%1 <= 20'd%2;\n"
-                            "        else if (store && store_address == 32'h%3)\n"
-                            "            divider%1 <= dut.u_core.HWDATA[19:0] < 20'd%4 ? 20'd%4 : "
-                            "dut.u_core.HWDATA[19:0];\n"
-                            "    wire busy%1;\n"
+                const QVector<RegisterField> &fields = control.entry->fields;
+                const auto receiver =
+                    std::find_if(fields.begin(), fields.end(), [](const RegisterField &field) {
+                        return field.name == "RXEN"_l1;
+                    });
+                text += copyOf(rate, QStringLiteral("rate%1").arg(number)) +
+                        copyOf(control, QStringLiteral("control%1").arg(number)) +
+                        QStringLiteral(
+                            "    wire [19:0] divider%1 = rate%1[19:0] < 20'd%2 ? 20'd%2 : "
+                            "rate%1[19:0];\n"
+                            "    wire busy%1, line%1, is_used%1;\n"
                             "    board_uart #(.NUMBER(%1)) uart%1 (.clk(clk), .line(p_UART%1TXD), "
-                            ".divider(divider%1), .busy(busy%1));\n")
+                            ".divider(divider%1), .busy(busy%1));\n"
+                            "    board_uart_sender #(.NUMBER(%1)) sender%1 (.clk(clk), "
+                            ".enabled(control%1[%3]), .divider(divider%1), .line(line%1), "
+                            ".is_used(is_used%1));\n")
                             .arg(number)
-                            .arg(field.reset)
-                            .arg(instance.base + rate->offset, 8, 16, QLatin1Char('0'))
-                            .arg(field.minimum);
+                            .arg(rate.entry->fields.first().minimum)
+                            .arg(receiver->low);
                 busy.append(QStringLiteral("busy%1").arg(number));
                 bit = QStringLiteral("(divider%1 > %2 ? divider%1 : %2)").arg(number).arg(bit);
             }
         }
         return text + "    wire uart_busy = "_l1 + busy.join(" | "_l1) +
                ";\n    wire [19:0] uart_bit = "_l1 + bit + ";\n"_l1;
+    }
+
+    // Pins that neither the subsystem nor the outside drives: 8 to 15 follow 0 to 7, which are low.
+    QString gpio() const
+    {
+        const bool isInout = portNamed(QStringLiteral("GPIO"));
+        if (!isInout && !portNamed(QStringLiteral("GPIOIN")))
+            return {};
+        QString text;
+        if (isInout) {
+            for (const Peripheral &peripheral : m_map.peripherals) {
+                for (const PeripheralInstance &instance : peripheral.instances) {
+                    if (peripheral.name == "GPIO"_l1)
+                        text += copyOf(placeOf(peripheral, instance, "OUTEN"_l1),
+                                       QStringLiteral("gpio_enables"));
+                }
+            }
+        }
+        text +=
+            "    reg  [15:0] gpio_outside = 16'd0; // what pins have that the subsystem does not "
+            "drive\n"
+            "    reg  [15:0] gpio_mask = 16'd0, gpio_drive = 16'd0, gpio_seen;\n"
+            "    reg  [31:0] gpio_told = 32'd0;\n"_l1;
+        text += isInout ? "    wire [15:0] gpio_driven = gpio_enables[15:0];\n"
+                          "    wire [15:0] gpio_levels = p_GPIO;\n"_l1
+                        : "    wire [15:0] gpio_driven = p_GPIOOUTEN;\n"
+                          "    wire [15:0] gpio_levels = (p_GPIOOUTEN & p_GPIOOUT) | (~p_GPIOOUTEN "
+                          "& gpio_outside);\n"_l1;
+        for (int i = 0; isInout && i < 16; ++i)
+            text += QStringLiteral("    assign p_GPIO[%1] = gpio_driven[%1] ? 1'bz : "
+                                   "gpio_outside[%1];\n")
+                        .arg(i);
+        return text + QLatin1String(pins);
+    }
+
+    // What keeps bytes behind the pins.
+    QString devices() const
+    {
+        QString text;
+        if (portNamed(QStringLiteral("SDA")))
+            text += "    wire i2c_scl = p_SCL;\n    wire i2c_sda = p_SDA;\n"
+                    "    wire eeprom_low;\n    assign p_SDA = eeprom_low ? 1'b0 : 1'bz;\n"_l1;
+        else if (portNamed(QStringLiteral("SDAIN")))
+            text += "    wire eeprom_low;\n"
+                    "    wire i2c_scl = ~p_SCLOUTEN | p_SCLOUT;\n"
+                    "    wire i2c_sda = (~p_SDAOUTEN | p_SDAOUT) & ~eeprom_low;\n"_l1;
+        if (!text.isEmpty())
+            text += "    board_i2c_memory #(.STORAGE(0)) eeprom (.clk(clk), .size(eeprom_size), "
+                    ".scl(i2c_scl), .sda(i2c_sda), .sda_low(eeprom_low));\n"_l1;
+        if (portNamed(QStringLiteral("FLASH_SPI_CSN")))
+            text += "    wire flash_miso;\n"
+                    "    assign p_FLASH_SPI_MISO = p_FLASH_SPI_CSN === 1'b0 ? flash_miso : 1'bz;\n"
+                    "    board_spi_flash #(.STORAGE(1)) flash (.clk(clk), .size(flash_size), "
+                    ".csn(p_FLASH_SPI_CSN), .sclk(p_FLASH_SPI_CLK), .mosi(p_FLASH_SPI_MOSI), "
+                    ".miso(flash_miso));\n"_l1;
+        if (portNamed(QStringLiteral("SD_DATAIN")))
+            text += "    wire sd_miso;\n"
+                    "    board_sd_card #(.STORAGE(2)) card (.clk(clk), .size(sd_size), "
+                    ".cs(p_SD_CS), .sclk(p_SD_CLK), .mosi(p_SD_DATAOUT), .miso(sd_miso));\n"_l1;
+        return text;
     }
 
     const SystemMap &m_map;

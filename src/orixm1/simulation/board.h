@@ -12,17 +12,23 @@ namespace TARVOORIXM1
 // map; it compiles for every configuration.
 //
 // Clock of 50 MHz, power-on reset, pull-ups where ports need them. The UARTs' lines are read at the
-// rate that the program has set; UART1 receives what it sends, UART0 receives nothing. Pins 8 to 15
-// of the GPIO follow pins 0 to 7 unless they are driven, MISO follows MOSI, extension ports are
-// memories of 4 KB that repeat. Every other input has its idle level.
+// rate that the program has set, and what comes from outside is sent at it while the receiver is
+// on; UART1 receives what it sends until then. GPIO pins that the subsystem does not drive are
+// driven from outside, or 8 to 15 follow 0 to 7. MISO follows MOSI, extension ports are memories of
+// 4 KB that repeat. On the I2C bus, at the SPI-Flash and in the socket of the card are the devices
+// of "simulation/board" in the IP's data folder, which are compiled behind the board. Every other
+// input has its idle level.
 //
 // Everything moves with the clock, so that Verilator takes it; there "board" has a port for that,
 // and otherwise makes it. What the board says and hears beside the subsystem goes through functions
 // of the program that runs the simulation (BoardHost).
 //
-// Plusargs: +mark=TEXT, +timeout=CYCLES (from the end of the power-on reset), +waves=FILE. On
-// standard output events are told, a line each that begins with the byte 0x1E and the mark:
+// Plusargs: +mark=TEXT, +timeout=CYCLES (from the end of the power-on reset), +waves=FILE,
+// +uarts=crossed (each UART receives what the other one sends), and those of BoardHost. On standard
+// output events are told, a line each that begins with the byte 0x1E and the mark:
 //   MARK uart N XX        UART N has sent the byte XX (hexadecimal)
+//   MARK gpio LEVELS DRIVEN   the pins have changed (hexadecimal); the subsystem drives some
+//   MARK time CYCLES      with +progress, up to ten times a second
 //   MARK lockup CYCLES    the processor is locked up
 //   MARK empty PATH       a licensed block was accessed the first time; see withAnswers()
 //   MARK done             the program has ended; the model's verdict stands before it

@@ -1,31 +1,111 @@
 #pragma once
 
+#include <array>
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
-#include <functional>
+#include <deque>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace CortexM1
 {
 
+class InputFile;
+class InputPipe;
+class Simulator;
+class Storage;
+
 // What a simulated board exchanges with the world outside of the simulation. The board calls it
-// through tasks of the simulator; one of them serves a simulation.
+// through tasks of the simulator; one of them serves a simulation. From the command line it takes
+//
+//   +mark=TEXT         what begins the lines that tell events, behind the byte 0x1E; else "board"
+//   +host=PIPE         a named pipe with lines "uart N HEXBYTES", "gpio MASK LEVELS" (hexadecimal)
+//                      and "stop"; what is no such line counts for nothing
+//   +uartN-input=FILE  bytes for a UART, before those of the pipe
+//   +eeprom=FILE, +flash=FILE, +sd=FILE                        contents, see StorageKind
+//   +eeprom-result=FILE, +flash-result=FILE, +sd-result=FILE   written by finish()
+//   +progress          the time is told
 class BoardHost
 {
 public:
-    // Takes the lines that tell events, without the line end.
-    using Tell = std::function<void(const std::string &)>;
+    static constexpr int uarts = 2;
+    static constexpr int storages = 3;
+    static constexpr std::size_t mostInput = 1 << 20; // bytes of a pipe that wait for a UART
 
-    // `mark`: what begins each line, behind the byte 0x1E.
-    BoardHost(std::string mark, Tell tell);
+    // Mistakes of the command line are told by size(). `simulator` outlives the host.
+    explicit BoardHost(Simulator &simulator);
+    BoardHost(const BoardHost &) = delete;
+    BoardHost &operator=(const BoardHost &) = delete;
+    ~BoardHost();
 
     // The subsystem has sent a byte on the line of a UART.
     void sent(int uart, std::uint8_t byte);
+    // The next byte for a UART; -1: none now.
+    int input(int uart);
+
+    // The pins of the GPIO have changed: their levels, and which ones the subsystem drives. The
+    // last state is told in any case, but not every one of a flood.
+    void pins(std::uint32_t levels, std::uint32_t driven);
+    // Which pins the outside drives, and how.
+    int driveMask() const { return m_driveMask; }
+    int driveLevels() const { return m_driveLevels; }
+
+    // Clock cycles since the end of the power-on reset; called now and then. Reads the pipe.
+    void time(std::uint64_t cycles);
+
+    // The bytes of a storage, 0 if it is not there. Below 0: the run has to end, whatever the
+    // storage; why has been printed, in a line that begins with "FAIL: ".
+    int size(int storage);
+    int load(int storage, std::uint32_t address);
+    void store(int storage, std::uint32_t address, std::uint8_t byte);
+
+    // The simulation has ended: tells what is still to be told and writes the results, once. What
+    // fails is printed.
+    void finish();
 
 private:
-    void tell(const std::string &event);
+    struct Line {
+        std::unique_ptr<InputFile> file; // null: none, or read to its end
+        std::uint64_t place = 0;         // in the file, behind the piece
+        std::vector<std::uint8_t> piece;
+        std::size_t taken = 0;          // of the piece
+        std::deque<std::uint8_t> bytes; // of the pipe
+        bool isCutOff = false;
+    };
+    struct Pins {
+        std::uint32_t levels = 0;
+        std::uint32_t driven = 0;
+    };
 
+    std::string argument(const std::string &name) const;
+    void open();
+    void tell(const std::string &event);
+    void tellPins();
+    void readPipe();
+    void takeLine(const std::string &line);
+    void takeBytes(int uart, const std::string &digits);
+    void end(const std::string &reason);
+    Storage *storageOf(int number) const;
+
+    Simulator &m_simulator;
     const std::string m_mark;
-    const Tell m_tell;
+    std::string m_ending; // why the run has to end; empty: it has not
+    bool m_isEndingTold = false;
+    bool m_isFinished = false;
+    std::array<Line, uarts> m_lines;
+    std::array<std::unique_ptr<Storage>, storages> m_storages;
+    std::unique_ptr<InputPipe> m_pipe;
+    std::string m_piece; // of a line that has no end yet
+    bool m_isSkipping = false;
+    int m_driveMask = 0;
+    int m_driveLevels = 0;
+    Pins m_pins;
+    bool m_hasUntoldPins = false;
+    int m_pinCredit = 1000; // changes that may be told; one more each time()
+    bool m_tellsTime = false;
+    std::chrono::steady_clock::time_point m_nextTime;
 };
 
 } // namespace CortexM1

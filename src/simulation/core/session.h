@@ -15,7 +15,7 @@ class Simulator
 {
 public:
     virtual ~Simulator() = default;
-    // What stands behind +NAME= on its command line; null without it.
+    // What stands behind +NAME= on its command line, "" for +NAME alone; null without it.
     virtual const char *argument(const std::string &name) const = 0;
     // On standard output, at once.
     virtual void print(const std::string &text) = 0;

@@ -1,5 +1,7 @@
 #include "calls.h"
 
+#include <cstring>
+
 namespace Vpi
 {
 
@@ -14,10 +16,13 @@ public:
         s_vpi_vlog_info info;
         if (!vpi_get_vlog_info(&info))
             return nullptr;
-        const std::string start = "+" + name + "=";
+        const std::string start = "+" + name;
         for (int i = 0; i < info.argc; ++i) {
-            if (std::string(info.argv[i]).compare(0, start.size(), start) == 0)
-                return info.argv[i] + start.size();
+            if (std::strncmp(info.argv[i], start.c_str(), start.size()) != 0)
+                continue;
+            const char *rest = info.argv[i] + start.size();
+            if (*rest == '=' || *rest == '\0')
+                return *rest == '=' ? rest + 1 : rest;
         }
         return nullptr;
     }
@@ -73,6 +78,22 @@ void addTask(const char *name, PLI_INT32 (*call)(PLI_BYTE8 *))
     task.tfname = name;
     task.calltf = call;
     vpi_register_systf(&task);
+}
+
+void addFunction(const char *name, PLI_INT32 (*call)(PLI_BYTE8 *))
+{
+    s_vpi_systf_data function{};
+    function.type = vpiSysFunc;
+    function.sysfunctype = vpiIntFunc;
+    function.tfname = name;
+    function.calltf = call;
+    vpi_register_systf(&function);
+}
+
+PLI_INT32 returnInteger(int number)
+{
+    setInteger(vpi_handle(vpiSysTfCall, nullptr), number);
+    return 0;
 }
 
 PLI_INT32 refuseCall(const char *message)

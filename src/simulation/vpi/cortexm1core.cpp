@@ -117,6 +117,7 @@ PLI_INT32 callClock(PLI_BYTE8 *)
 PLI_INT32 forgetSessions(p_cb_data)
 {
     sessions().clear();
+    Vpi::finishBoard();
     return 0;
 }
 
