@@ -67,6 +67,21 @@ private:
     TestSupport::Mark m_mark;
 };
 
+// A program that answers three bytes, each with the next one, on a UART; then it ends.
+inline QByteArray answering(const QByteArray &uart)
+{
+    return "#include \"system_tarvo_orix_m1.h\"\n#include \"uart.h\"\n"
+           "int main(void)\n{\n    uart_init(" +
+           uart +
+           ", SystemCoreClock, 1000000u);\n"
+           "    for (int i = 0; i < 3; ++i) {\n        char byte;\n"
+           "        while (uart_read(" +
+           uart +
+           ", &byte, 1, 1000u) != 1)\n            ;\n"
+           "        ++byte;\n        uart_write(" +
+           uart + ", &byte, 1, 100000u);\n    }\n    return 0;\n}\n";
+}
+
 inline QStringList words(std::initializer_list<const char *> list)
 {
     QStringList result;

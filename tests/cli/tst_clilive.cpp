@@ -237,6 +237,41 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_process->mark().processes(), QList<qint64>(), 60000);
     }
 
+    // A byte that nobody sends yet is waited for; so the program hears both.
+    void bytesAndPinsComeFromOutside()
+    {
+        TestSupport::write(m_process->path("main.c"), answering("UART1"));
+        const auto process =
+            m_process->start(QStringList{QStringLiteral("simulate"), example} +
+                             words({"--live", "--c", "main.c", "--timeout", "1000000000"}));
+        process->write("{\"uart\":1,\"text\":\"a\\u00fe\"}\n");
+        QByteArray out;
+        const auto said = [&out] {
+            QString text;
+            const int end = out.lastIndexOf('\n') + 1;
+            for (const QJsonObject &event : named(eventsOf(out.left(end)), "uart"))
+                text += textOf(event, "text");
+            return text;
+        };
+        const auto hears = [&](const QByteArray &piece) {
+            return QTest::qWaitFor(
+                [&] {
+                    out += process->readAllStandardOutput();
+                    return out.contains(piece) || process->state() == QProcess::NotRunning;
+                },
+                60000);
+        };
+        QVERIFY(hears("\"uart\""));
+        process->write("{\"gpio\":{\"mask\":15,\"levels\":5}}\n");
+        QVERIFY(hears("\"levels\":1285")); // pins 8 to 15 follow
+        QVERIFY(hears("\"time\""));
+        process->write("{\"uart\":1,\"text\":\"x\"}\n");
+        const auto run = SimulateProcess::finish(*process);
+        out += run.out;
+        QCOMPARE(run.status, 0);
+        QCOMPARE(said(), QString::fromLatin1("b\xffy"));
+    }
+
     void aFloodIsCutOff()
     {
         TestSupport::write(m_process->path("main.c"),

@@ -268,6 +268,62 @@ private Q_SLOTS:
         QCOMPARE(run.out, QByteArray());
     }
 
+    void whatIsTypedOnAPseudoTerminalIsReceived()
+    {
+        write("main.c", answering("UART1"));
+        const auto process =
+            m_process->start(QStringList{QStringLiteral("simulate"), example} +
+                             words({"--uart1", "pty", "--c", "main.c", "--timeout", "1000000000"}));
+        const QRegularExpressionMatch match = awaited(*process, "UART1 is at (/dev/pts/\\d+)\\.\n");
+        QVERIFY(match.hasMatch());
+        const int terminal =
+            ::open(match.captured(1).toUtf8().constData(), O_RDWR | O_NOCTTY | O_NONBLOCK);
+        QVERIFY(terminal >= 0);
+        QCOMPARE(::write(terminal, "\x03\r\n", 3), ssize_t(3));
+        QByteArray got;
+        QTRY_COMPARE_WITH_TIMEOUT(
+            [&] {
+                char buffer[100];
+                const ssize_t size = ::read(terminal, buffer, sizeof buffer);
+                return got.append(buffer, int(qMax(size, ssize_t(0))));
+            }(),
+            QByteArray("\x04\x0E\x0B"), 60000);
+        const auto run = SimulateProcess::finish(*process);
+        ::close(terminal);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QVERIFY(!QFileInfo::exists(match.captured(1)));
+    }
+
+    void standardInputIsReceived_data()
+    {
+        QTest::addColumn<QByteArray>("uart");
+        QTest::addColumn<QStringList>("more");
+        QTest::addColumn<QByteArray>("out");
+        QTest::newRow("by UART0, if it is named")
+            << QByteArray("UART0") << words({"--uart0", "-"}) << QByteArray("bc\n");
+        QTest::newRow("by UART1, if it is named")
+            << QByteArray("UART1") << words({"--uart1", "-"}) << QByteArray("bc\n");
+        QTest::newRow("by nobody, if it is nobody's terminal")
+            << QByteArray("UART0") << QStringList() << QByteArray();
+        QTest::newRow("by nobody else")
+            << QByteArray("UART0") << words({"--uart1", "-"}) << QByteArray();
+    }
+
+    void standardInputIsReceived()
+    {
+        QFETCH(QByteArray, uart);
+        QFETCH(QStringList, more);
+        write("main.c", answering(uart));
+        const auto process =
+            m_process->start(QStringList{QStringLiteral("simulate"), example} +
+                             words({"--c", "main.c", "--timeout", "30000"}) + more);
+        process->write("ab\t and more than that");
+        process->closeWriteChannel();
+        const auto run = SimulateProcess::finish(*process);
+        QTEST(run.out, "out");
+        QCOMPARE(run.status, run.out.isEmpty() ? 124 : 0);
+    }
+
     void refusesWrongUsage_data()
     {
         QTest::addColumn<QStringList>("arguments");
