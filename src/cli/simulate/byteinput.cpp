@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <cerrno>
+#include <termios.h>
 #include <unistd.h>
 
 namespace Cli
@@ -33,6 +34,8 @@ void ByteInput::setPaused(bool isPaused)
 
 bool ByteInput::isInForeground() const
 {
+    if (::tcgetsid(m_file) != ::getsid(0))
+        return true; // not the terminal that this process is controlled by
     const pid_t group = ::tcgetpgrp(m_file);
     return group < 0 || group == ::getpgrp();
 }

@@ -146,7 +146,10 @@ private:
     {
         const QString path = fullPath(m_arguments.writeBoard);
         QString error = quoted(path) + QLatin1String(" exists already.");
-        if (!QFileInfo::exists(path) && Utils::FileUtils::writeFile(path, boardOf(m_map), &error)) {
+        QByteArray text;
+        if (const Stop stop = makeBoard(&text); stop.status != Done)
+            return giveUp(stop);
+        if (!QFileInfo::exists(path) && Utils::FileUtils::writeFile(path, text, &error)) {
             printLine(path);
             return Done;
         }
