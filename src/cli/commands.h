@@ -66,7 +66,7 @@ struct SimulateArguments {
     QString uart0;       // "-": standard output, else a file
     quint64 timeout = 0; // clock cycles
     QString waves;       // file; empty: none
-    QString report;      // file; empty: none
+    QStringList reports; // files
     QString uart0Input;  // files; empty: none
     QString uart1Input;
     QString eeprom;

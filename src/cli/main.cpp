@@ -273,7 +273,9 @@ int run(int argc, char *argv[])
     std::string uart1;
     quint64 timeout = 10000000;
     std::string waves;
-    std::string reportFile;
+    std::vector<std::string> reportFiles;
+    const QStringList engines = Cli::engineNames();
+    std::string engine = engines.first().toStdString();
     std::string model = "rtl";
     std::string tcm = "model";
     int gdbPort = -1;
@@ -299,6 +301,15 @@ int run(int argc, char *argv[])
     CLI::Option *uart1Option =
         simulateCommand->add_option("--uart1", uart1, "The same for UART1 (default: nowhere)")
             ->type_name("FILE|-|pty");
+    std::vector<std::string> engineTexts;
+    for (const QString &name : engines)
+        engineTexts.push_back(name.toStdString());
+    simulateCommand
+        ->add_option("--engine", engine,
+                     "Simulator: icarus (the default) starts at once, verilator compiles the "
+                     "design first and then runs it fast")
+        ->check(CLI::IsMember(engineTexts))
+        ->type_name("NAME");
     simulateCommand
         ->add_option("--model", model,
                      "What is simulated: rtl (the default), or netlist, which is synthesised for "
@@ -333,8 +344,13 @@ int run(int argc, char *argv[])
         ->check(CLI::Range(quint64(1), quint64(1000000000000)))
         ->type_name("CYCLES");
     simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
-    simulateCommand->add_option("--report", reportFile, "Write the result (JSON)")
-        ->type_name("FILE");
+    simulateCommand
+        ->add_option("--report", reportFiles,
+                     "Write what happened: text (.txt), JUnit (.xml), otherwise JSON; may be "
+                     "repeated")
+        ->type_name("FILE")
+        ->take_all()
+        ->allow_extra_args(false);
     std::string uart0Input;
     std::string uart1Input;
     std::string uartLines = "apart";
@@ -366,11 +382,11 @@ int run(int argc, char *argv[])
             arguments.file = text(file);
             arguments.firmware = text(program);
             arguments.sources = texts(cFiles);
-            arguments.engine = Cli::engineNames().first();
+            arguments.engine = text(engine);
             arguments.uart0 = text(uart0);
             arguments.timeout = timeout;
             arguments.waves = text(waves);
-            arguments.report = text(reportFile);
+            arguments.reports = texts(reportFiles);
             const std::vector<CLI::Option *> programs = programGroup->get_options();
             arguments.hasProgram =
                 std::any_of(programs.begin(), programs.end(),
@@ -436,7 +452,7 @@ int run(int argc, char *argv[])
     std::vector<const std::string *> paths;
     for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder})
         paths.push_back(path);
-    for (const std::string *path : {&program, &waves, &reportFile})
+    for (const std::string *path : {&program, &waves})
         paths.push_back(path);
     for (const std::string *path : {&board, &writeBoard})
         paths.push_back(path);
@@ -446,6 +462,8 @@ int run(int argc, char *argv[])
     }
     for (const std::string &cFile : cFiles)
         paths.push_back(&cFile);
+    for (const std::string &reportFile : reportFiles)
+        paths.push_back(&reportFile);
     for (const std::string *path : paths) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# The processor's bus-functional models, in Verilog and in VHDL, with the same scripts: both print the same lines.
-#   scripts.sh example|bus SHARE OUT EXAMPLES
-# SHARE is the folder of the installed data, OUT what `models.sh generate` made.
+# The processor's bus-functional models, in Verilog and in VHDL, and the processor's model with the same scripts: all of them print
+# the same lines.
+#   scripts.sh example|bus SHARE OUT EXAMPLES [MODEL]
+# SHARE is the folder of the installed data, OUT what `models.sh generate` made, MODEL the folder of the processor's model.
 #   example: on the example's simulation models
 #   bus: on a memory with wait states and errors; the buses show the same in every cycle, too
 set -euo pipefail
-case=$1 share=$2 out=$3 examples=$4
+case=$1 share=$2 out=$3 examples=$4 model=${5:-}
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
@@ -32,11 +33,35 @@ vhdl() { # SCRIPT [STANDARD]
     timeout 60 ghdl -r "--std=${2:-93}" "--workdir=work${2:-93}" "$top" "-gscript=$1" 2>&1 || fail "$1: the simulation"
 }
 
+core() { # SCRIPT [ARGUMENT…]
+    timeout 60 vvp -n -M "$model" -m cortexm1core sim-core "+script=$1" +finish "${@:2}" 2>&1
+}
+# What a bus-functional model prints, as the processor's model says it.
+as_core() { # SCRIPT
+    sed -E "s/^[a-z0-9_.]+: line ([0-9]+): /${1//\//\\/}:\1: /; s/^[a-z0-9_.]+: ([^ ]+): line ([0-9]+): /\1:\2: /
+        s/^[a-z0-9_.]+: (the script .*)/\1/"
+}
+trace() { # NAME: keeps what the buses have shown
+    [[ ! -e trace ]] || mv trace "trace-$1"
+}
+
 both() { # SCRIPT: prints what both models print
-    local first second
+    local first second third memories
     first=$(verilog "$1")
+    trace verilog
     second=$(vhdl "$1")
+    trace vhdl
     [[ $first == "$second" ]] || { diff <(echo "$first") <(echo "$second") || true; fail "$(head -n 30 "$1"): the models differ"; }
+    # The board without memories answers for them.
+    for memories in ${model:+model rtl}; do
+        [[ $memories == rtl || $top == sensor_node_tb ]] || continue
+        third=$(core "$1" "+tcm=$memories")
+        trace core
+        [[ $(as_core "$1" <<< "$first") == "$third" ]] ||
+            { diff <(as_core "$1" <<< "$first") <(echo "$third") || true; fail "$(head -n 30 "$1"): the processor's model differs"; }
+        [[ ! -e trace-core ]] || cmp trace-verilog trace-core ||
+            fail "$(head -n 30 "$1"): the buses differ: $(diff trace-verilog trace-core | head)"
+    done
     echo "$first"
 }
 
@@ -60,6 +85,8 @@ pass() { # LINE…
 if [[ $case == example ]]; then
     top=sensor_node_tb
     iverilog -g2005 -Wall -DHAVE_CortexM1Core -s $top -o sim "$net.vo" "$bfm" "$examples/sensor-node-tb.v"
+    [[ -z $model ]] || iverilog -g2005 -Wall -DHAVE_CortexM1Core -s $top -o sim-core "$net.vo" "$model/cortex_m1_core_isa.v" \
+        "$examples/sensor-node-tb.v"
     analyse 93 "$examples/sensor-node-tb.vhd" "$net.vho"
     analyse 08 "$examples/sensor-node-tb.vhd" "$net.vho"
     [[ $(both "$examples/sensor-node.play") == PASS ]] || fail "the example: $(verilog "$examples/sensor-node.play")"
@@ -80,6 +107,13 @@ if [[ $case == example ]]; then
         [[ $result == *"$text"* ]] || fail "\"$text\" is missing in: $result"
     done < texts
     [[ $(wc -l <<< "$result") == $((count + 1)) ]] || fail "not a line for each mistake: $result"
+    if [[ -n $model ]]; then
+        printf '%s\n' 'write16 0x20000200 0xABCD' 'read 0x20000200 0xABCD 0xFFFF' 'read 0x20000200 0' 'read 0x20000200 0 0xF0FF000' > $script
+        result=$(core $script) || true
+        for text in "script:3: read 0xxxxxabcd, expected 0x00000000 in the bits 0xffffffff" "script:4: read 0xxxxxabcd" "FAIL: 2 of 4 checks"; do
+            [[ $result == *"$text"* ]] || fail "\"$text\" is missing in: $result"
+        done
+    fi
     # Memories, registers behind the bridge and an extension port, back to back and in bursts.
     pass 'write 0x40000004 0x55 # comment\r' '\tread\t0x40000004 85\r' 'read 0x40000004 0x5 0xF\r' \
         'pipeline on' 'write8 0x40000005 0xA5' 'write8 0x40000004 0x5A' 'read 0x40000004 0xA55A' 'read8 0x40000005 0xA5' \
@@ -94,6 +128,7 @@ fi
 top=bench
 mkdir sub
 iverilog -g2005 -Wall -s $top -o sim "$bfm" "$here/bus-tb.v"
+[[ -z $model ]] || iverilog -g2005 -Wall -s $top -o sim-core "$model/cortex_m1_core_isa.v" "$here/bus-tb.v"
 { printf 'library ieee;\nuse ieee.std_logic_1164.all;\n'; sed -n '/^entity CortexM1Core is/,/^end entity/p' "$net.vho"; } > core.vhd
 analyse 93 "$here/bus-tb.vhd" core.vhd
 
@@ -150,12 +185,9 @@ write 0x40000510 7
 include ../bus-end
 P
 printf 'repeat 2\nread 0x40000510 0x7 0xf\nend\nwrite 0x40000510 8' > bus-end
-verilog bus > said
-[[ $(< said) == PASS ]] || fail "Verilog: $(head -n 20 said)"
-mv trace trace-verilog
-vhdl bus > said
-[[ $(< said) == PASS ]] || fail "VHDL: $(head -n 20 said)"
-cmp trace trace-verilog || fail "the buses differ: $(diff trace-verilog trace | head)"
+both bus > said
+[[ $(< said) == PASS ]] || fail "$(head -n 20 said)"
+cmp trace-verilog trace-vhdl || fail "the buses differ: $(diff trace-verilog trace-vhdl | head)"
 # Pipelined transfers leave no idle cycle, others do.
 idle() { verilog $script > said; [[ $(< said) == PASS ]] || fail "$(< said)"; sed -n '/^10 /,$p' trace | tac | sed -n '/^10 /,$p' | grep -c '^00 ' || true; }
 printf '%s\n' "pipeline on" "repeat 5" "write 0x40000000 1" "read 0x40000000 1" "end" > $script
@@ -165,7 +197,7 @@ sed -i 1d $script
 # What a read expects is not on the bus.
 printf '%s\n' "write 0x40000000 0" "read 0x40000004 7" "burst-read incr 0x40000004 7" "error 0x50000000" > $script
 both $script > said
-[[ $(awk '{ print $6 }' trace | sort -u) =~ ^0+$ ]] || fail "a read drives HWDATA"
+[[ $(awk '{ print $6 }' trace-verilog | sort -u) =~ ^0+$ ]] || fail "a read drives HWDATA"
 # The watch over the protocol sees what is wrong.
 mutate() { # SED TEXT
     sed "$1" "$bfm" > mutant.v
@@ -178,6 +210,13 @@ mutate "s/address + 32'd4 :/address + 32'd8 :/" "address [0-9a-f]* does not go o
 mutate 's/wrap8": *begin burst = 3.b100/wrap8": begin burst = 3'"'"'b110/' "the burst is too short"
 mutate 's/"incr16": begin burst = 3.b111/"incr16": begin burst = 3'"'"'b101/' "the burst is too long"
 mutate 's/next_HTRANS = trans; next_HBURST/next_HTRANS = trans; next_HBURST/; s/^            ready;$//' "the address phase changes"
+
+# What the board of "orixm1 simulate" is needed for.
+for line in 'expect-uart 0 "a" 1' 'uart 0 "a"' 'gpio 1 1 1' 'gpio-drive 1 1'; do
+    printf '%s\n' "$line" > $script
+    [[ $(verilog $script) == *"line 1: only in orixm1 simulate"* && $(verilog $script) == "$(vhdl $script)" ]] ||
+        fail "$line: $(verilog $script) $(vhdl $script)"
+done
 
 # Mistakes.
 rm $script

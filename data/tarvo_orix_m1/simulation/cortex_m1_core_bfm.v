@@ -396,6 +396,11 @@ module CortexM1Core #(
         endcase
     endfunction
 
+    // Commands that need the board of "orixm1 simulate".
+    function needs_board(input [8*16-1:0] command);
+        needs_board = command == "expect-uart" || command == "uart" || command == "gpio" || command == "gpio-drive";
+    endfunction
+
     // Words that a command has at most; for the first ones more do not matter.
     function integer most(input [8*16-1:0] command);
         case (command)
@@ -535,7 +540,7 @@ module CortexM1Core #(
             command = (length[0] > 16) ? "" : word[0];
             wrong = 1'b0;
             if (needed(command) == 0)
-                mistake("unknown command");
+                mistake(needs_board(command) ? "only in orixm1 simulate" : "unknown command");
             for (n = first_number(command); n < words && n <= last_number(command); n = n + 1)
                 if (!wrong)
                     read_number(n);

@@ -583,6 +583,12 @@ begin
             return 0;
         end function;
 
+        -- Commands that need the board of "orixm1 simulate".
+        function needs_board(command : string) return boolean is
+        begin
+            return command = "expect-uart" or command = "uart" or command = "gpio" or command = "gpio-drive";
+        end function;
+
         -- Words that a command has at most; for the first ones more do not matter.
         function most(command : string) return natural is
         begin
@@ -783,7 +789,9 @@ begin
             variable mask : word := X"FFFFFFFF";
         begin
             wrong := false;
-            if needed(command) = 0 then
+            if needs_board(command) then
+                mistake("only in orixm1 simulate");
+            elsif needed(command) = 0 then
                 mistake("unknown command");
             end if;
             for n in first_number(command) to last_number(command) loop

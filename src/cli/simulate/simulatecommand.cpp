@@ -108,6 +108,7 @@ public:
         m_end = m_simulation->play(*m_engine, plusArguments(), *m_listener);
         m_outside->close();
         explainEnd();
+        readDetails();
         const int status = writeResults();
         m_listener->ended(
             {m_end.result, status, reasonOf(m_end), m_end.cycles, summaryOf(report())});
@@ -230,7 +231,8 @@ private:
         add(QStringLiteral("--uart1"), uartFile(1));
         add(QStringLiteral("--write-board"), m_arguments.writeBoard);
         add(QStringLiteral("--waves"), m_arguments.waves);
-        add(QStringLiteral("--report"), m_arguments.report);
+        for (const QString &report : m_arguments.reports)
+            add(QStringLiteral("--report"), report);
         for (const BoardFile &file : boardFiles) {
             if (file.isResult)
                 add(optionOf(file), m_arguments.*file.path);
@@ -450,6 +452,8 @@ private:
 
     static QString programFile() { return QStringLiteral("program.elf"); }
 
+    static QString statisticsFile() { return QStringLiteral("statistics.txt"); }
+
     static Stop failedUnless(const Utils::Result<void> &result)
     {
         return result ? Stop{} : Stop{Failed, result.reason()};
@@ -481,6 +485,7 @@ private:
         if (m_arguments.gdbPort >= 0)
             arguments.append(QStringLiteral("gdb=%1").arg(m_arguments.gdbPort));
         arguments += m_outside->plusArguments();
+        arguments.append(QLatin1String("statistics=") + statisticsFile());
         if (!m_arguments.waves.isEmpty())
             arguments.append(QStringLiteral("waves=waves.fst"));
         if (m_arguments.crossesUarts)
@@ -506,7 +511,7 @@ private:
         // The build tree and an installation are laid out alike.
         m_modelFolder = QDir::cleanPath(QCoreApplication::applicationDirPath() +
                                         QLatin1String("/" ORIXM1_MODEL_FOLDER));
-        for (const char *name : {"cortexm1core.vpi", "cortex_m1_core_isa.v"}) {
+        for (const char *name : {"cortexm1core.vpi", "cortexm1core.so", "cortex_m1_core_isa.v"}) {
             const QString path = m_modelFolder + u'/' + QLatin1String(name);
             if (!QFileInfo(path).isFile())
                 return {Failed,
@@ -623,6 +628,25 @@ private:
 
     bool isNetlist() const { return m_arguments.model == QLatin1String("netlist"); }
 
+    // A simulator that was stopped has written none.
+    void readDetails()
+    {
+        const QString folder = m_simulation->folder() + u'/';
+        QByteArray bytes;
+        QByteArray program;
+        QString error;
+        if (!Reading::readPlainFile(folder + statisticsFile(), Reading::Limits::toolLog, &bytes,
+                                    &error))
+            return;
+        const auto run = readRunStatistics(bytes);
+        if (!run)
+            return;
+        if (!Reading::readPlainFile(folder + programFile(), Reading::Limits::firmwareImage,
+                                    &program, &error))
+            program.clear();
+        m_details = runDetails(m_map, *run, SourcePlaces(program), m_simulation->folder());
+    }
+
     int writeResults() const
     {
         int status = statusOf(m_end);
@@ -649,13 +673,12 @@ private:
                                                      QLatin1String(file.name),
                                                  fullPath(path), &error));
         }
-        if (!m_arguments.report.isEmpty())
-            check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), documentOf(report()),
-                                              &error));
+        for (const QString &file : m_arguments.reports)
+            check(Utils::FileUtils::writeFile(fullPath(file), documentOf(report(), file), &error));
         return status;
     }
 
-    SimulationReport report() const { return {m_arguments, m_map, m_end}; }
+    SimulationReport report() const { return {m_arguments, m_map, m_end, m_details}; }
 
     Environment &m_environment;
     const SimulateArguments &m_arguments;
@@ -670,6 +693,7 @@ private:
     std::unique_ptr<Simulation> m_simulation;
     std::unique_ptr<Outside> m_outside;
     SimulationEnd m_end;
+    std::optional<RunDetails> m_details;
 };
 
 } // namespace

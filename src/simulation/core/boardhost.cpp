@@ -63,6 +63,27 @@ BoardHost::BoardHost(Simulator &simulator)
 
 BoardHost::~BoardHost() = default;
 
+std::unique_ptr<BoardHost> &BoardHost::sharedHost()
+{
+    static std::unique_ptr<BoardHost> made;
+    return made;
+}
+
+BoardHost &BoardHost::shared(Simulator &simulator)
+{
+    std::unique_ptr<BoardHost> &made = sharedHost();
+    if (!made)
+        made = std::make_unique<BoardHost>(simulator);
+    return *made;
+}
+
+void BoardHost::finishShared()
+{
+    if (sharedHost())
+        sharedHost()->finish();
+    sharedHost().reset();
+}
+
 std::string BoardHost::argument(const std::string &name) const
 {
     const char *value = m_simulator.argument(name);
@@ -96,6 +117,8 @@ void BoardHost::end(const std::string &reason)
 
 void BoardHost::sent(int uart, std::uint8_t byte)
 {
+    if (m_observer)
+        m_observer->sent(uart, byte);
     char text[32];
     std::snprintf(text, sizeof text, "uart %d %02x", uart, unsigned(byte));
     tell(text);
@@ -126,6 +149,8 @@ int BoardHost::input(int uart)
 void BoardHost::pins(std::uint32_t levels, std::uint32_t driven)
 {
     m_pins = {levels & allPins, driven & allPins};
+    if (m_observer)
+        m_observer->pinsChanged(m_pins.levels, m_pins.driven);
     m_hasUntoldPins = true;
     tellPins();
 }
@@ -184,8 +209,7 @@ void BoardHost::takeLine(const std::string &line)
         takeBytes(words[1][0] - '0', words[2]);
     } else if (words.size() == 3 && words[0] == "gpio" && readPins(words[1], &mask) &&
                readPins(words[2], &levels)) {
-        m_driveMask = mask;
-        m_driveLevels = levels & mask;
+        drive(static_cast<std::uint32_t>(mask), static_cast<std::uint32_t>(levels));
     } else if (words.size() == 1 && words[0] == "stop") {
         end("it was stopped from outside");
     }
@@ -207,6 +231,20 @@ void BoardHost::takeBytes(int uart, const std::string &digits)
         line.bytes.push_back(
             static_cast<std::uint8_t>(std::stoul(digits.substr(i, 2), nullptr, 16)));
     }
+}
+
+void BoardHost::send(int uart, const std::string &bytes)
+{
+    if (uart < 0 || uart >= uarts)
+        return;
+    std::deque<std::uint8_t> &waiting = m_lines[uart].bytes;
+    waiting.insert(waiting.end(), bytes.begin(), bytes.end());
+}
+
+void BoardHost::drive(std::uint32_t mask, std::uint32_t levels)
+{
+    m_driveMask = static_cast<int>(mask);
+    m_driveLevels = static_cast<int>(levels & mask);
 }
 
 Storage *BoardHost::storageOf(int number) const

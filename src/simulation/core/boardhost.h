@@ -17,6 +17,17 @@ class InputPipe;
 class Simulator;
 class Storage;
 
+// Hears what a board tells.
+class BoardObserver
+{
+public:
+    virtual ~BoardObserver() = default;
+
+    // As of BoardHost.
+    virtual void sent(int uart, std::uint8_t byte) = 0;
+    virtual void pinsChanged(std::uint32_t levels, std::uint32_t driven) = 0;
+};
+
 // What a simulated board exchanges with the world outside of the simulation. The board calls it
 // through tasks of the simulator; one of them serves a simulation. From the command line it takes
 //
@@ -40,6 +51,11 @@ public:
     BoardHost &operator=(const BoardHost &) = delete;
     ~BoardHost();
 
+    // The one of this process, made with the first call: the command line is known then.
+    static BoardHost &shared(Simulator &simulator);
+    // Calls finish() of the one of this process, which goes then; without one nothing happens.
+    static void finishShared();
+
     // The subsystem has sent a byte on the line of a UART.
     void sent(int uart, std::uint8_t byte);
     // The next byte for a UART; -1: none now.
@@ -60,6 +76,12 @@ public:
     int size(int storage);
     int load(int storage, std::uint32_t address);
     void store(int storage, std::uint32_t address, std::uint8_t byte);
+
+    // From inside the simulator. The observer hears everything from now on, until another one (or
+    // null) takes its place, and outlives that time.
+    void observe(BoardObserver *observer) { m_observer = observer; }
+    void send(int uart, const std::string &bytes); // behind those of file and pipe
+    void drive(std::uint32_t mask, std::uint32_t levels);
 
     // The simulation has ended: tells what is still to be told and writes the results, once. What
     // fails is printed.
@@ -89,7 +111,10 @@ private:
     void end(const std::string &reason);
     Storage *storageOf(int number) const;
 
+    static std::unique_ptr<BoardHost> &sharedHost();
+
     Simulator &m_simulator;
+    BoardObserver *m_observer = nullptr;
     const std::string m_mark;
     std::string m_ending; // why the run has to end; empty: it has not
     bool m_isEndingTold = false;

@@ -1,5 +1,6 @@
 #include "core.h"
 
+#include "lanes.h"
 #include "text.h"
 
 #include <utility>
@@ -11,26 +12,6 @@ namespace
 {
 
 constexpr int addressBits = 18; // of ITCMADDR and DTCMADDR
-
-// A value on every lane of the bus where its size may stand.
-std::uint32_t onAllLanes(std::uint32_t value, int bytes)
-{
-    switch (bytes) {
-    case 1:
-        return (value & 0xFF) * 0x01010101u;
-    case 2:
-        return (value & 0xFFFF) * 0x00010001u;
-    default:
-        return value;
-    }
-}
-
-// The addressed lanes of a word, in its low bits.
-std::uint32_t fromLanes(std::uint32_t word, std::uint32_t address, int bytes)
-{
-    const std::uint32_t shifted = word >> 8 * (address & 3);
-    return bytes == 4 ? word : shifted & ((1u << 8 * bytes) - 1);
-}
 
 } // namespace
 
@@ -121,7 +102,7 @@ TransferEnd Core::accessMemory(Transfer &transfer)
     (isInstruction ? pins.isInstruction : pins.isData) = true;
     pins.address = transfer.address / 4 % (1u << addressBits);
     if (transfer.isWrite) {
-        pins.lanes = ((1u << transfer.bytes) - 1) << transfer.address % 4;
+        pins.lanes = lanesOf(transfer.address, transfer.bytes);
         pins.data = onAllLanes(transfer.data, transfer.bytes);
     }
     m_program.yield();
@@ -173,6 +154,7 @@ TransferEnd Core::transferOnBus(Transfer &transfer)
     if (unknown != 0)
         m_print("the read from " + hexadecimal(transfer.address) + " brings unknown bits, " +
                 hexadecimal(unknown) + ", which are taken for 0\n");
+    transfer.unknown = unknown;
     transfer.data = fromLanes(m_inputs.data & ~m_inputs.unknown, transfer.address, transfer.bytes);
     return TransferEnd::Done;
 }

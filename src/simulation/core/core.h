@@ -40,7 +40,9 @@ struct MemoryOutputs {
 // What the pins show from the next rising edge on.
 struct Outputs {
     std::uint32_t address = 0;  // HADDR
-    bool isTransfer = false;    // HTRANS: single, or idle
+    bool isTransfer = false;    // HTRANS: not idle
+    bool isSequential = false;  // HTRANS: goes on with a burst
+    int burst = 0;              // HBURST
     int size = 2;               // HSIZE
     bool isWrite = false;       // HWRITE
     std::uint32_t data = 0;     // HWDATA, on all lanes that it may belong to

@@ -2,8 +2,10 @@
 
 #include "elfimage.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <fstream>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -14,7 +16,24 @@ namespace CortexM1
 namespace
 {
 
-constexpr std::size_t mostOutput = 1 << 20; // bytes; a program that floods is cut off
+constexpr std::size_t mostOutput = 1 << 20;  // bytes; a program that floods is cut off
+constexpr std::uint64_t mostFailures = 1000; // of a script, that are told
+
+// Without white space, and in ASCII.
+std::string percentEncoded(const std::string &bytes)
+{
+    std::string text;
+    for (const char c : bytes) {
+        if (c > ' ' && c < 0x7F && c != '%') {
+            text += c;
+            continue;
+        }
+        char code[4];
+        std::snprintf(code, sizeof code, "%%%02X", static_cast<unsigned char>(c));
+        text += code;
+    }
+    return text;
+}
 
 std::uint32_t memoryBytes(int code)
 {
@@ -27,6 +46,8 @@ Session::Session(Simulator &simulator, const Parameters &parameters, const std::
                  const std::string &memories)
     : m_simulator(simulator)
 {
+    if (const char *file = simulator.argument("statistics"))
+        m_statisticsFile = file;
     try {
         open(parameters, firmware, memories);
     } catch (const std::exception &error) {
@@ -34,10 +55,18 @@ Session::Session(Simulator &simulator, const Parameters &parameters, const std::
     }
 }
 
+Session::~Session()
+{
+    if (m_statisticsFile.empty() || !m_core)
+        return;
+    std::ofstream(m_statisticsFile, std::ios::binary) << m_core->processor().statisticsText();
+}
+
 void Session::open(const Parameters &parameters, std::string firmware, const std::string &memories)
 {
+    const char *script = m_simulator.argument("script");
     const char *fromEnvironment = std::getenv("CORTEXM1_FIRMWARE");
-    if (firmware.empty() && fromEnvironment)
+    if (firmware.empty() && fromEnvironment && !script)
         firmware = fromEnvironment;
     Configuration configuration;
     configuration.hasOuterMemories = memories == "rtl";
@@ -45,7 +74,7 @@ void Session::open(const Parameters &parameters, std::string firmware, const std
         throw std::runtime_error("+tcm=" + memories + " is neither +tcm=model nor +tcm=rtl");
     if (configuration.hasOuterMemories && m_simulator.argument("gdb"))
         throw std::runtime_error("+gdb needs +tcm=model"); // elsewhere each look would take time
-    if (firmware.empty() && !configuration.hasOuterMemories)
+    if (firmware.empty() && !configuration.hasOuterMemories && !script)
         throw std::runtime_error("no program is named: +firmware=FILE");
     configuration.interrupts = parameters.interrupts;
     configuration.hasOsExtension = parameters.hasOsExtension;
@@ -54,6 +83,10 @@ void Session::open(const Parameters &parameters, std::string firmware, const std
     configuration.hasUpperAlias = parameters.hasUpperAlias;
     configuration.itcmBytes = memoryBytes(parameters.itcmSize);
     configuration.dtcmBytes = memoryBytes(parameters.dtcmSize);
+    if (script) {
+        openScript(configuration, firmware, script);
+        return;
+    }
     m_core =
         std::make_unique<Core>(configuration, [this](const std::string &piece) { print(piece); });
     if (firmware.empty())
@@ -66,6 +99,18 @@ void Session::open(const Parameters &parameters, std::string firmware, const std
     m_core->processor().setInstructionMemory(contents);
     if (m_mistake.empty())
         openDebugger();
+}
+
+void Session::openScript(const Configuration &configuration, const std::string &firmware,
+                         const std::string &script)
+{
+    if (!firmware.empty())
+        throw std::runtime_error("+script=FILE and +firmware=FILE exclude each other");
+    if (m_simulator.argument("gdb"))
+        throw std::runtime_error("+gdb needs a program");
+    m_player =
+        std::make_unique<ScriptPlayer>(configuration, BoardHost::shared(m_simulator), script,
+                                       [this](const ScriptFailure &failure) { tell(failure); });
 }
 
 void Session::openDebugger()
@@ -94,20 +139,49 @@ void Session::print(const std::string &piece)
         m_simulator.print(piece);
 }
 
+void Session::tell(const ScriptFailure &failure)
+{
+    if (m_player->failures() > mostFailures)
+        return;
+    const std::string line = std::to_string(failure.line);
+    const char *mark = m_simulator.argument("mark");
+    if (mark)
+        m_simulator.print('\036' + std::string(mark) + " failure " + line + ' ' +
+                          percentEncoded(failure.file) + ' ' + failure.text + '\n');
+    else if (failure.line == 0)
+        m_simulator.print(failure.text + '\n');
+    else
+        m_simulator.print(failure.file + ':' + line + ": " + failure.text + '\n');
+    if (m_player->failures() == mostFailures)
+        m_simulator.print("(further failures are only counted)\n");
+}
+
+// The last line.
+std::string Session::verdict() const
+{
+    if (!m_mistake.empty())
+        return "FAIL: " + m_mistake;
+    if (!m_player)
+        return "FAIL: " + m_core->processor().ending().reason;
+    return "FAIL: " + std::to_string(m_player->failures()) + " of " +
+           std::to_string(m_player->checks()) + " checks";
+}
+
 Outputs Session::clock(const Inputs &inputs)
 {
     Outputs outputs;
-    if (m_mistake.empty())
-        outputs = m_core->clock(inputs);
-    else
+    if (!m_mistake.empty())
         outputs.isDone = true;
+    else
+        outputs = m_player ? m_player->clock(inputs) : m_core->clock(inputs);
     if (outputs.isDone && !m_isReported) {
         m_isReported = true;
-        m_simulator.print(
-            outputs.hasPassed
-                ? std::string("PASS\n")
-                : "FAIL: " + (m_mistake.empty() ? m_core->processor().ending().reason : m_mistake) +
-                      "\n");
+        const char *mark = m_simulator.argument("mark");
+        if (m_player && mark)
+            m_simulator.print('\036' + std::string(mark) + " checks " +
+                              std::to_string(m_player->checks()) + ' ' +
+                              std::to_string(m_player->failures()) + '\n');
+        m_simulator.print((outputs.hasPassed ? std::string("PASS") : verdict()) + '\n');
     }
     return outputs;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core.h"
+#include "scriptplayer.h"
 #include "tcplink.h"
 
 #include <cstddef>
@@ -33,7 +34,10 @@ struct Parameters {
 };
 
 // A core in a simulation: what the command line asks for, what is printed and how it ends. A
-// mistake ends the program in its first clock cycle.
+// mistake ends the program in its first clock cycle. +script=FILE plays a script instead of a
+// program. Its failures are lines "FILE:LINE: TEXT"; with +mark=MARK, for a reader that knows it,
+// "\036MARK failure LINE FILE TEXT" with FILE percent-encoded, and before the verdict
+// "\036MARK checks CHECKS FAILURES".
 class Session
 {
 public:
@@ -41,6 +45,8 @@ public:
     // `simulator` outlives the session.
     Session(Simulator &simulator, const Parameters &parameters, const std::string &firmware,
             const std::string &memories);
+    // Writes the statistics where +statistics=FILE asks for them (Statistics::text()).
+    ~Session();
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
@@ -49,13 +55,19 @@ public:
 
 private:
     void open(const Parameters &parameters, std::string firmware, const std::string &memories);
+    void openScript(const Configuration &configuration, const std::string &firmware,
+                    const std::string &script);
     void openDebugger();
+    void tell(const ScriptFailure &failure);
+    std::string verdict() const;
     void print(const std::string &piece);
 
     Simulator &m_simulator;
     std::unique_ptr<TcpLink> m_debugger;
-    std::unique_ptr<Core> m_core;
-    std::string m_mistake; // why there is no core
+    std::unique_ptr<Core> m_core; // or
+    std::unique_ptr<ScriptPlayer> m_player;
+    std::string m_statisticsFile; // empty: none
+    std::string m_mistake;        // why there is no core
     std::size_t m_printed = 0;
     bool m_isReported = false;
 };

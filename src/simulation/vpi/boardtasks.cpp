@@ -3,26 +3,15 @@
 #include "calls.h"
 #include "core/boardhost.h"
 
-#include <memory>
-
 namespace Vpi
 {
 
 namespace
 {
 
-std::unique_ptr<CortexM1::BoardHost> &madeHost()
-{
-    static std::unique_ptr<CortexM1::BoardHost> made;
-    return made;
-}
-
-// Made with the first call: the command line is known then.
 CortexM1::BoardHost &host()
 {
-    if (!madeHost())
-        madeHost() = std::make_unique<CortexM1::BoardHost>(simulator());
-    return *madeHost();
+    return CortexM1::BoardHost::shared(simulator());
 }
 
 // The arguments of a call as numbers; none, and the simulation ends, if they are not as many.
@@ -118,9 +107,7 @@ void addBoardTasks()
 
 void finishBoard()
 {
-    if (madeHost())
-        madeHost()->finish();
-    madeHost().reset();
+    CortexM1::BoardHost::finishShared();
 }
 
 } // namespace Vpi
