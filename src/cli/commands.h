@@ -81,6 +81,16 @@ struct SimulateArguments {
     QString flashResult;
     QString sdResult;
     bool crossesUarts = false;
+
+    bool hasProgram = true; // one of those above, or of what else can be one
+    QString model = QStringLiteral("rtl");
+    QString tcm = QStringLiteral("model");
+    int gdbPort = -1;                // 0: a free one; -1: no debugger
+    QString board;                   // file; empty: the made one
+    QString writeBoard;              // file; empty: simulate
+    QString uart1;                   // as `uart0`, which may be "pty"; empty: nowhere
+    bool readsStandardInput = false; // for the UART that is on the terminal
+    bool live = false;
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

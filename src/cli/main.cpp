@@ -2,6 +2,7 @@
 #include "environment.h"
 #include "output.h"
 #include "simulate/engine.h"
+#include "simulate/livelistener.h"
 
 #include <utils/utf8names.h>
 
@@ -10,8 +11,11 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <algorithm>
+#include <fcntl.h>
 #include <functional>
 #include <sstream>
+#include <unistd.h>
 
 namespace
 {
@@ -27,6 +31,11 @@ QStringList texts(const std::vector<std::string> &list)
     for (const std::string &entry : list)
         result.append(text(entry));
     return result;
+}
+
+bool isAsked(const char *option, int argc, char *argv[])
+{
+    return std::find(argv, argv + argc, std::string(option)) != argv + argc;
 }
 
 constexpr const char *footer = R"(Exit status:
@@ -256,16 +265,23 @@ int run(int argc, char *argv[])
         };
     });
 
-    CLI::App *simulateCommand =
-        app.add_subcommand("simulate", "Run a program for the processor on the subsystem's RTL");
+    CLI::App *simulateCommand = app.add_subcommand(
+        "simulate", "Run a program for the processor on the subsystem's RTL or netlist");
     std::string program;
     std::vector<std::string> cFiles;
-    const QStringList engines = Cli::engineNames();
-    std::string engine = engines.first().toStdString();
-    std::string uart0 = "-";
+    std::string uart0;
+    std::string uart1;
     quint64 timeout = 10000000;
     std::string waves;
     std::vector<std::string> reportFiles;
+    const QStringList engines = Cli::engineNames();
+    std::string engine = engines.first().toStdString();
+    std::string model = "rtl";
+    std::string tcm = "model";
+    int gdbPort = -1;
+    std::string board;
+    std::string writeBoard;
+    bool live = false;
     addFile(simulateCommand);
     CLI::Option_group *programGroup = simulateCommand->add_option_group("Program");
     programGroup->add_option("--firmware", program, "Program: ELF")->type_name("FILE");
@@ -274,7 +290,17 @@ int run(int argc, char *argv[])
                      "C files, compiled with what is exported for the configuration; returning "
                      "from main() ends the run: 0 has passed")
         ->type_name("FILE ...");
-    programGroup->require_option(1);
+    programGroup->require_option(0, 1);
+    CLI::Option *uart0Option =
+        simulateCommand
+            ->add_option("--uart0", uart0,
+                         "Where the bytes of UART0 go: a file; - for the terminal, which is the "
+                         "default (named, standard input goes to the UART too); or pty for a "
+                         "pseudo-terminal, in both directions")
+            ->type_name("FILE|-|pty");
+    CLI::Option *uart1Option =
+        simulateCommand->add_option("--uart1", uart1, "The same for UART1 (default: nowhere)")
+            ->type_name("FILE|-|pty");
     std::vector<std::string> engineTexts;
     for (const QString &name : engines)
         engineTexts.push_back(name.toStdString());
@@ -285,10 +311,32 @@ int run(int argc, char *argv[])
         ->check(CLI::IsMember(engineTexts))
         ->type_name("NAME");
     simulateCommand
-        ->add_option("--uart0", uart0,
-                     "Where the bytes of UART0 go: a file, or - (the default) "
-                     "for standard output")
+        ->add_option("--model", model,
+                     "What is simulated: rtl (the default), or netlist, which is synthesised for "
+                     "it and much slower")
+        ->check(CLI::IsMember({"rtl", "netlist"}))
+        ->type_name("MODEL");
+    simulateCommand
+        ->add_option("--tcm", tcm,
+                     "Where instruction and data memory are: in the model (the default), or rtl; "
+                     "then what the configuration initialises is a program, too")
+        ->check(CLI::IsMember({"model", "rtl"}))
+        ->type_name("PLACE");
+    simulateCommand
+        ->add_option("--gdb", gdbPort,
+                     "Wait for gdb at this port of this machine; 0 takes a free one")
+        ->check(CLI::Range(0, 65535))
+        ->type_name("PORT");
+    simulateCommand
+        ->add_option("--board", board, "Board in Verilog instead of the one that is made")
         ->type_name("FILE");
+    simulateCommand
+        ->add_option("--write-board", writeBoard,
+                     "Only write the board that is made, as a start for one's own")
+        ->type_name("FILE");
+    simulateCommand->add_flag("--live", live,
+                              "For programs: tell everything in JSON objects, a line each, and "
+                              "take such from standard input");
     simulateCommand
         ->add_option("--timeout", timeout,
                      "Clock cycles after which a program that has not ended is stopped, with exit "
@@ -366,6 +414,23 @@ int run(int argc, char *argv[])
                 arguments.wavesTo = wavesTo;
             if (wavesAtOption->count() != 0)
                 arguments.wavesAt = text(wavesAt);
+            const std::vector<CLI::Option *> programs = programGroup->get_options();
+            arguments.hasProgram =
+                std::any_of(programs.begin(), programs.end(),
+                            [](const CLI::Option *option) { return option->count() > 0; });
+            arguments.model = text(model);
+            arguments.tcm = text(tcm);
+            arguments.gdbPort = gdbPort;
+            arguments.board = text(board);
+            arguments.writeBoard = text(writeBoard);
+            arguments.uart1 = text(uart1);
+            arguments.live = live;
+            if (uart0Option->count() == 0 && !live && uart1 != "-")
+                arguments.uart0 = QStringLiteral("-");
+            // The terminal of the default is read only if somebody sits there.
+            arguments.readsStandardInput =
+                uart0 == "-" || uart1 == "-" ||
+                (arguments.uart0 == QLatin1String("-") && ::isatty(STDIN_FILENO));
             arguments.uart0Input = text(uart0Input);
             arguments.uart1Input = text(uart1Input);
             arguments.eeprom = text(eeprom);
@@ -398,6 +463,10 @@ int run(int argc, char *argv[])
         std::ostringstream output;
         std::ostringstream errors;
         const bool isHelp = app.exit(error, output, errors) == 0;
+        if (!isHelp && simulateCommand->parsed() && isAsked("--live", argc, argv)) {
+            Cli::tellLiveMistake(Cli::WrongUsage, text(errors.str()));
+            return Cli::WrongUsage;
+        }
         Cli::printText(stdout, output.str());
         Cli::printText(stderr, errors.str());
         return isHelp ? Cli::Done : Cli::WrongUsage;
@@ -407,10 +476,17 @@ int run(int argc, char *argv[])
         return Cli::WrongUsage;
     }
     QString mistake = Utils::nonUtf8Argument(argc, argv);
-    std::vector<const std::string *> paths = {&file,       &image,        &netlist, &outDir,
-                                              &dataFolder, &deviceFolder, &program, &waves};
-    if (uart0 != "-")
-        paths.push_back(&uart0);
+    std::vector<const std::string *> paths;
+    for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder})
+        paths.push_back(path);
+    for (const std::string *path : {&program, &waves})
+        paths.push_back(path);
+    for (const std::string *path : {&board, &writeBoard})
+        paths.push_back(path);
+    for (const std::string *path : {&uart0, &uart1}) {
+        if (*path != "-" && *path != "pty")
+            paths.push_back(path);
+    }
     for (const std::string &cFile : cFiles)
         paths.push_back(&cFile);
     for (const std::string &reportFile : reportFiles)
@@ -418,6 +494,14 @@ int run(int argc, char *argv[])
     for (const std::string *path : paths) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();
+    }
+    for (const CLI::Option *option : {uart0Option, uart1Option}) {
+        if (mistake.isEmpty() && option->count() > 0 && option->as<std::string>().empty())
+            mistake = text(option->get_name()) + QLatin1String(" names no file.");
+    }
+    if (!mistake.isEmpty() && live) {
+        Cli::tellLiveMistake(Cli::WrongUsage, mistake);
+        return Cli::WrongUsage;
     }
     if (!mistake.isEmpty()) {
         Cli::printError(mistake);
@@ -434,6 +518,9 @@ int main(int argc, char *argv[])
 {
     // File names and arguments are UTF-8 in every locale.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    // Else the first file that is opened would be standard input.
+    if (::fcntl(STDIN_FILENO, F_GETFD) < 0)
+        ::open("/dev/null", O_RDONLY);
     QCoreApplication application(argc, argv);
 
     const int status = run(argc, argv);

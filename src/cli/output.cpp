@@ -13,6 +13,7 @@ namespace
 {
 
 int firstWriteError = 0;
+std::function<void(const QString &)> errorTaker;
 
 void put(FILE *stream, const QByteArray &bytes)
 {
@@ -34,8 +35,17 @@ void printText(FILE *stream, const std::string &text)
     put(stream, QByteArray::fromStdString(text));
 }
 
+void divertErrors(const std::function<void(const QString &)> &taker)
+{
+    errorTaker = taker;
+}
+
 void printError(const QString &line)
 {
+    if (errorTaker) {
+        errorTaker(line);
+        return;
+    }
     put(stderr, QByteArray("orixm1: ") + line.toUtf8() + '\n');
 }
 

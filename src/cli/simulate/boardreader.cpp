@@ -13,6 +13,12 @@ namespace
 constexpr int mostUartBytes = 16 << 20; // kept of each UART
 constexpr QChar eventMark(0x1E);
 
+// As a shell reads it back.
+QString shellWord(QString text)
+{
+    return u'\'' + text.replace(QLatin1String("'"), QLatin1String("'\\''")) + u'\'';
+}
+
 } // namespace
 
 BoardReader::BoardReader(const QString &mark, Listener &listener, SimulationEnd &end)
@@ -29,6 +35,15 @@ void BoardReader::takeLine(const QString &line)
         return;
     if (line.contains(QLatin1String("libunicorn.so")))
         m_lacksLibrary = true;
+    static const QLatin1String port("The program waits for gdb at 127.0.0.1:");
+    if (!m_debugged.isEmpty() && line.startsWith(port)) {
+        m_listener.told(Severity::Note, line + QLatin1String(": gdb-multiarch ") +
+                                            shellWord(m_debugged) +
+                                            QLatin1String(" -ex 'target remote ") +
+                                            line.mid(line.lastIndexOf(u' ') + 1) + u'\'');
+        m_debugged.clear();
+        return;
+    }
     if (place < 0) {
         takeText(line, true);
         return;
@@ -106,6 +121,8 @@ void BoardReader::takeByte(int uart, char byte)
     if (sent.size() < mostUartBytes)
         sent.append(byte);
     m_listener.uartSent(uart, byte);
+    if (m_takeUart)
+        m_takeUart(uart, byte);
 }
 
 } // namespace Cli

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace Cli
 {
 
@@ -16,6 +18,12 @@ class BoardReader
 public:
     // `listener` and `end` outlive it.
     BoardReader(const QString &mark, Listener &listener, SimulationEnd &end);
+
+    // Takes the bytes that UARTs send, beside the listener.
+    void setUartTaker(const std::function<void(int, char)> &taker) { m_takeUart = taker; }
+    // The simulation tells the port at which it waits for a debugger, before all else; the listener
+    // hears how the program in this file is debugged there.
+    void expectDebugger(const QString &program) { m_debugged = program; }
 
     void takeLine(const QString &line);
     // What is held back belongs to nobody else.
@@ -36,6 +44,8 @@ private:
     SimulationEnd &m_end;
     QString m_held;
     bool m_isHeld = false;
+    std::function<void(int, char)> m_takeUart;
+    QString m_debugged; // empty: no debugger is expected
     bool m_hasEnded = false;
     bool m_lacksLibrary = false;
 };

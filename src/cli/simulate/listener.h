@@ -1,11 +1,27 @@
 #pragma once
 
+#include "simulationend.h"
+
 #include <QString>
+#include <QStringList>
 
 namespace Cli
 {
 
-// Hears what happens while a simulation runs. Each call does nothing unless it is overridden.
+enum class Stage { Program, Simulator, Run };
+
+enum class Severity { Error, Warning, Note };
+
+// What is told at the end of all.
+struct Outcome {
+    SimulationEnd::Result result = SimulationEnd::Failed;
+    int status = 0; // of the process
+    QString reason; // a clause; may be empty
+    quint64 cycles = 0;
+    QStringList lines; // a sentence each
+};
+
+// Hears what happens while a program is simulated. Each call does nothing unless it is overridden.
 class Listener
 {
 public:
@@ -31,6 +47,19 @@ public:
     }
     // Now and then: clock cycles from the end of the power-on reset.
     virtual void timePassed(quint64 cycles) { Q_UNUSED(cycles) }
+
+    // What is being done now.
+    virtual void stageBegun(Stage stage) { Q_UNUSED(stage) }
+    // A compiler's line, as it comes.
+    virtual void compilerSaid(const QString &line) { Q_UNUSED(line) }
+    // Something for the user, one line or several.
+    virtual void told(Severity severity, const QString &text)
+    {
+        Q_UNUSED(severity)
+        Q_UNUSED(text)
+    }
+    // Last of all, once.
+    virtual void ended(const Outcome &outcome) { Q_UNUSED(outcome) }
 };
 
 } // namespace Cli

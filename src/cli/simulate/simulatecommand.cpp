@@ -4,6 +4,9 @@
 #include "../ipcdocument.h"
 #include "../output.h"
 #include "engine.h"
+#include "livelistener.h"
+#include "netlist.h"
+#include "outside.h"
 #include "simulation.h"
 #include "simulationreport.h"
 #include "terminal.h"
@@ -14,6 +17,8 @@
 #include <firmware/itcmfiles.h>
 #include <reading/limits.h>
 #include <reading/plainfile.h>
+#include <rules/generationfolder.h>
+#include <rules/itcmcontents.h>
 #include <simulation/board.h>
 #include <simulation/program.h>
 #include <simulation/wavesview.h>
@@ -22,6 +27,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace Cli
 {
@@ -86,33 +92,135 @@ public:
     SimulateRun(Environment &environment, const SimulateArguments &arguments)
         : m_environment(environment)
         , m_arguments(arguments)
+        , m_listener(arguments.live ? std::unique_ptr<Listener>(std::make_unique<LiveListener>())
+                                    : std::make_unique<Terminal>(shownUart()))
     {
     }
 
     int run()
     {
         Stop stop = prepare();
+        if (stop.status == Done && !m_arguments.writeBoard.isEmpty())
+            return writeBoard();
         if (stop.status == Done)
             stop = build();
-        if (stop.status != Done) {
-            if (m_simulation && m_simulation->wasCancelled())
-                stop = {Cancelled, QStringLiteral("Cancelled.")};
-            if (!stop.message.isEmpty())
-                printError(stop.message);
-            return stop.status;
-        }
-        Terminal terminal(isOnTerminal());
-        m_end = m_simulation->play(*m_engine, plusArguments(), terminal);
+        if (stop.status != Done)
+            return giveUp(stop);
+        m_listener->stageBegun(Stage::Run);
+        m_end = m_simulation->play(*m_engine, plusArguments(), *m_listener);
+        m_outside->close();
+        explainEnd();
         readDetails();
         const int status = writeResults();
-        const QStringList summary = summaryOf(report());
-        for (const QString &line : summary)
-            printError(line);
+        m_listener->ended(
+            {m_end.result, status, reasonOf(m_end), m_end.cycles, summaryOf(report())});
         return status;
     }
 
 private:
-    bool isOnTerminal() const { return m_arguments.uart0 == QLatin1String("-"); }
+    int giveUp(const Stop &stop)
+    {
+        Outcome outcome;
+        outcome.status = stop.status;
+        if (m_simulation && m_simulation->wasCancelled()) {
+            outcome.result = SimulationEnd::Cancelled;
+            outcome.status = Cancelled;
+            outcome.lines = QStringList{QStringLiteral("Cancelled.")};
+        } else if (!stop.message.isEmpty()) {
+            tellFailure(stop.message);
+        }
+        m_listener->ended(outcome);
+        return outcome.status;
+    }
+
+    // A failure may end in what a compiler has said.
+    void tellFailure(const QString &text)
+    {
+        if (!m_arguments.live) {
+            m_listener->told(Severity::Error, text);
+            return;
+        }
+        const QStringList lines = text.split(u'\n');
+        for (const QString &line : lines)
+            m_listener->compilerSaid(line);
+    }
+
+    int writeBoard()
+    {
+        const QString path = fullPath(m_arguments.writeBoard);
+        QString error = quoted(path) + QLatin1String(" exists already.");
+        QByteArray text;
+        if (const Stop stop = makeBoard(&text); stop.status != Done)
+            return giveUp(stop);
+        if (!QFileInfo::exists(path) && Utils::FileUtils::writeFile(path, text, &error)) {
+            printLine(path);
+            return Done;
+        }
+        return giveUp({Failed, error});
+    }
+
+    // The board of the configuration, with the devices that stand on it.
+    Stop makeBoard(QByteArray *board) const
+    {
+        *board = boardOf(m_map);
+        for (const char *name : {"i2c_memory.v", "spi_flash.v", "sd_card.v"}) {
+            QByteArray text;
+            QString error;
+            const QString path = m_environment.dataFolder() + QLatin1String("/simulation/board/") +
+                                 QLatin1String(name);
+            if (!Utils::FileUtils::readFile(path, &text, &error))
+                return {Failed, error};
+            *board += '\n' + text;
+        }
+        return {};
+    }
+
+    // What only the command knows of the reason.
+    void explainEnd()
+    {
+        if (!m_arguments.board.isEmpty() && m_end.hasEndedByItself)
+            m_end.reason = QLatin1String("the board ") + quoted(fullPath(m_arguments.board)) +
+                           QLatin1String(" has ended the simulation without telling \"end\" and "
+                                         "the result");
+    }
+
+    // The number of the UART that is on the terminal; -1: none.
+    int shownUart() const
+    {
+        return m_arguments.uart0 == QLatin1String("-")   ? 0
+               : m_arguments.uart1 == QLatin1String("-") ? 1
+                                                         : -1;
+    }
+
+    // The file that takes what a UART sends; empty: none.
+    QString uartFile(int number) const
+    {
+        const QString &place = number == 0 ? m_arguments.uart0 : m_arguments.uart1;
+        return place == QLatin1String("-") || place == QLatin1String("pty") ? QString() : place;
+    }
+
+    Stop checkUsage() const
+    {
+        const auto wrong = [](const char *text) {
+            return Stop{WrongUsage, QString::fromUtf8(text)};
+        };
+        if (!m_arguments.writeBoard.isEmpty())
+            return m_arguments.hasProgram || m_arguments.live
+                       ? wrong(
+                             "--write-board simulates nothing: it takes no program and no --live.")
+                       : Stop{};
+        if (!m_arguments.hasProgram && m_arguments.tcm != QLatin1String("rtl"))
+            return wrong("A program is needed: --c or --firmware; or --tcm rtl, with which the "
+                         "program is what the instruction memory holds from the start.");
+        if (m_arguments.gdbPort >= 0 && m_arguments.tcm == QLatin1String("rtl"))
+            return wrong("--gdb needs the memories of the model: it does not go with --tcm rtl.");
+        if (m_arguments.uart0 == QLatin1String("-") && m_arguments.uart1 == QLatin1String("-"))
+            return wrong("--uart0 - and --uart1 -: only one UART can be on the terminal.");
+        if (m_arguments.live && shownUart() >= 0)
+            return wrong("--live tells the bytes of the UARTs on standard output itself: it does "
+                         "not go with --uart0 - or --uart1 -.");
+        return {};
+    }
 
     QVector<Target> targets() const
     {
@@ -121,7 +229,9 @@ private:
             if (!path.isEmpty())
                 list.append({option, fullPath(path)});
         };
-        add(QStringLiteral("--uart0"), isOnTerminal() ? QString() : m_arguments.uart0);
+        add(QStringLiteral("--uart0"), uartFile(0));
+        add(QStringLiteral("--uart1"), uartFile(1));
+        add(QStringLiteral("--write-board"), m_arguments.writeBoard);
         add(QStringLiteral("--waves"), m_arguments.waves);
         add(QStringLiteral("--waves"), viewFile());
         for (const QString &report : m_arguments.reports)
@@ -136,11 +246,11 @@ private:
     // Nothing that is read is written, and nothing twice.
     Stop checkTargets() const
     {
-        if (m_arguments.uart0.isEmpty())
-            return {WrongUsage, QStringLiteral("--uart0 names no file.")};
         QStringList taken = {fullPath(m_arguments.file)};
         if (!m_arguments.firmware.isEmpty())
             taken.append(fullPath(m_arguments.firmware));
+        if (!m_arguments.board.isEmpty())
+            taken.append(fullPath(m_arguments.board));
         for (const QString &source : m_arguments.sources)
             taken.append(fullPath(source));
         for (const BoardFile &file : boardFiles) {
@@ -173,6 +283,8 @@ private:
 
     Stop prepare()
     {
+        if (const Stop stop = checkUsage(); stop.status != Done)
+            return stop;
         if (const Stop stop = checkTargets(); stop.status != Done)
             return stop;
         m_info = m_environment.ipInfo();
@@ -183,19 +295,35 @@ private:
             return {BadInput, description.reason()};
         if (!openForDevice(m_environment, m_arguments.file, &m_document))
             return {BadInput, {}};
-        // The program is in the model's own memory.
-        m_document.options.insert(Key::initializeItcm, false);
+        if (m_arguments.hasProgram || !m_arguments.writeBoard.isEmpty()) {
+            // Its contents would count for nothing.
+            m_document.options.insert(Key::initializeItcm, false);
+        } else if (const Stop stop = checkContents(); stop.status != Done) {
+            return stop;
+        }
         m_map = systemMap(m_document.options, m_document.device, *description);
         if (m_map.processor.isBigEndian)
             return {BadInput, quoted(m_document.path) +
                                   QLatin1String(" cannot be simulated: the model of the processor "
                                                 "has no big-endian data.")};
-        if (!isOnTerminal() && !findRegion(m_map, QStringLiteral("UART0")))
-            return {BadInput, quoted(m_document.path) + QLatin1String(" has no UART0.")};
         const auto window = waveArguments(m_arguments, m_map);
         if (!window)
             return {WrongUsage, window.reason()};
         m_waveArguments = *window;
+        for (const auto &[name, place] : {std::pair(QStringLiteral("UART0"), m_arguments.uart0),
+                                          std::pair(QStringLiteral("UART1"), m_arguments.uart1)}) {
+            const bool isDefault = name == QLatin1String("UART0") && place == QLatin1String("-");
+            if (!place.isEmpty() && !isDefault && !findRegion(m_map, name))
+                return {BadInput,
+                        quoted(m_document.path) + QLatin1String(" has no ") + name + u'.'};
+        }
+        if (!m_arguments.board.isEmpty()) {
+            QString reason;
+            const QString path = fullPath(m_arguments.board);
+            if (!Reading::readPlainFile(path, Reading::Limits::anyFile, &m_board, &reason))
+                return {BadInput,
+                        quoted(path) + QLatin1String(" cannot be read: ") + reason + u'.'};
+        }
         for (const QString &source : m_arguments.sources) {
             const QFileInfo info(source);
             if (!info.isFile() || !info.isReadable())
@@ -251,10 +379,52 @@ private:
         return {};
     }
 
+    QString contentsFolder() const
+    {
+        const QString named = QDir::cleanPath(
+            m_document.options.value(Key::itcmInitializationAbsolutePath).toString());
+        return QDir(generationFolder(m_document.folder())).absoluteFilePath(named);
+    }
+
+    // The instruction memory holds a program from the start.
+    Stop checkContents() const
+    {
+        if (!m_document.options.value(Key::internalInstructionMemory, true).toBool() ||
+            !m_document.options.value(Key::initializeItcm).toBool())
+            return {BadInput, quoted(m_document.path) +
+                                  QLatin1String(" has no program: no --c or --firmware is given, "
+                                                "and \"Initialize ITCM\" is off.")};
+        OptionMap options = m_document.options;
+        options.insert(Key::itcmInitializationAbsolutePath, contentsFolder());
+        QStringList lines;
+        const QVector<ItcmMistake> mistakes =
+            itcmMistakes(options, m_document.device.device(), m_document.folder());
+        for (const ItcmMistake &mistake : mistakes)
+            lines.append(mistake.text());
+        return lines.isEmpty() ? Stop{} : Stop{BadInput, lines.join(u'\n')};
+    }
+
+    // Where the tools read it: paths without characters that they may stumble over.
+    Stop placeContents(const QString &contents, const QString &generationFolder)
+    {
+        const QDir folder(contents);
+        for (int lane = 0; lane < ItcmFiles::count; ++lane) {
+            const QString name = ItcmFiles::fileName(lane);
+            QString error;
+            for (const QString &place : {m_simulation->folder(), generationFolder}) {
+                const QString made = place + QLatin1String("/itcm");
+                if (!Utils::FileUtils::makePath(made, &error) ||
+                    !Utils::FileUtils::copyFile(folder.filePath(name), made + u'/' + name, &error))
+                    return {BadInput, error};
+            }
+        }
+        return {};
+    }
+
     Stop build()
     {
         QByteArray image;
-        if (m_arguments.sources.isEmpty()) {
+        if (!m_arguments.firmware.isEmpty()) {
             if (const Stop stop = readProgram(m_arguments.firmware, &image); stop.status != Done)
                 return stop;
         }
@@ -263,11 +433,20 @@ private:
         m_simulation = std::make_unique<Simulation>();
         if (m_simulation->folder().isEmpty())
             return {Failed, m_simulation->problem()};
+        if (auto *live = dynamic_cast<LiveListener *>(m_listener.get()))
+            live->setFolder(m_simulation->folder(),
+                            {{QStringLiteral("board.v"), fullPath(m_arguments.board)}});
+        m_outside = std::make_unique<Outside>(*m_simulation, *m_listener);
+        if (const auto opened = m_outside->open(m_arguments); !opened)
+            return {Failed, opened.reason()};
         if (const Stop stop = linkBoardFiles(); stop.status != Done)
             return stop;
-        const auto made = m_arguments.sources.isEmpty()
-                              ? failedUnless(m_simulation->write(programFile(), image))
-                              : compileProgram();
+        m_listener->stageBegun(Stage::Program);
+        Stop made;
+        if (!m_arguments.sources.isEmpty())
+            made = compileProgram();
+        else if (!m_arguments.firmware.isEmpty())
+            made = failedUnless(m_simulation->write(programFile(), image));
         if (made.status != Done)
             return made;
         m_places = SourcePlaces(programBytes());
@@ -277,6 +456,11 @@ private:
             if (!written)
                 return {Failed, written.reason()};
         }
+        if (m_arguments.gdbPort >= 0)
+            m_simulation->expectDebugger(m_arguments.firmware.isEmpty()
+                                             ? m_simulation->folder() + u'/' + programFile()
+                                             : fullPath(m_arguments.firmware));
+        m_listener->stageBegun(Stage::Simulator);
         return compileDesign();
     }
 
@@ -320,8 +504,13 @@ private:
 
     QStringList plusArguments() const
     {
-        QStringList arguments = {QLatin1String("firmware=") + programFile(),
-                                 QStringLiteral("timeout=%1").arg(m_arguments.timeout)};
+        QStringList arguments = {QStringLiteral("timeout=%1").arg(m_arguments.timeout),
+                                 QLatin1String("tcm=") + m_arguments.tcm};
+        if (!m_arguments.firmware.isEmpty() || !m_arguments.sources.isEmpty())
+            arguments.append(QLatin1String("firmware=") + programFile());
+        if (m_arguments.gdbPort >= 0)
+            arguments.append(QStringLiteral("gdb=%1").arg(m_arguments.gdbPort));
+        arguments += m_outside->plusArguments();
         arguments.append(QLatin1String("statistics=") + statisticsFile());
         if (!m_arguments.waves.isEmpty())
             arguments += {QStringLiteral("waves=waves.fst"), QLatin1String("names=") + namesFile()};
@@ -372,14 +561,11 @@ private:
                 return {Failed, written.reason()};
         }
         bool lacksLibrary = false;
-        qint64 said = 0;
         const auto result = m_simulation->runTool(
             {QStringLiteral("The compiler"), m_compiler, program.arguments},
             [&](const QString &line) {
                 lacksLibrary = lacksLibrary || line.contains(QLatin1String("cannot find -lc"));
-                said += line.size();
-                if (said < 1 << 20)
-                    printText(stderr, line.toStdString() + '\n');
+                m_listener->compilerSaid(line);
             });
         if (lacksLibrary)
             return {Failed, QStringLiteral("The compiler has no C library; the Debian package "
@@ -392,8 +578,19 @@ private:
 
     Stop compileDesign()
     {
-        const GenerationPlan plan =
-            generationPlan(generationInput(m_document, m_info, m_simulation->folder()));
+        const QString contents = contentsFolder();
+        if (!m_arguments.hasProgram)
+            m_document.options.insert(Key::itcmInitializationAbsolutePath, QStringLiteral("itcm"));
+        GenerationInput input = generationInput(m_document, m_info, m_simulation->folder());
+        if (isNetlist()) {
+            input.tool = TARVOORIXM1::Tool::TarvoSynthesis;
+            input.language = Language::Verilog;
+        }
+        const GenerationPlan plan = generationPlan(input);
+        if (!m_arguments.hasProgram) {
+            if (const Stop stop = placeContents(contents, plan.folder); stop.status != Done)
+                return stop;
+        }
         QString error;
         if (!Utils::FileUtils::makePath(plan.folder, &error))
             return {Failed, error};
@@ -403,6 +600,17 @@ private:
         }
         Design design;
         design.includeFolders.append(plan.folder);
+        if (!m_arguments.board.isEmpty())
+            design.includeFolders.append(QFileInfo(fullPath(m_arguments.board)).absolutePath());
+        if (isNetlist()) {
+            const QString model = m_simulation->folder() + QLatin1String("/netlist/model.v");
+            if (!Utils::FileUtils::makePath(QFileInfo(model).absolutePath(), &error))
+                return {Failed, error};
+            if (const auto made = makeNetlist(*m_simulation, plan, model, *m_listener); !made)
+                return {Failed, made.reason()};
+            design.sources.append(model);
+            design.defines.append(QStringLiteral("HAVE_CortexM1Core"));
+        }
         design.hasWaves = !m_arguments.waves.isEmpty();
         for (const QString &source : plan.sources) {
             const QString name = QFileInfo(source).fileName();
@@ -413,8 +621,17 @@ private:
                 return {BadInput, error};
             const QByteArray answering = withAnswers(text);
             if (answering == text) {
-                design.sources.append(source);
+                if (!isNetlist())
+                    design.sources.append(source);
                 continue;
+            }
+            if (isNetlist()) {
+                if (const QString folder = QFileInfo(source).absolutePath();
+                    !design.includeFolders.contains(folder))
+                    design.includeFolders.append(folder);
+                static const QRegularExpression module(QStringLiteral("\\bmodule\\s+(\\w+)"));
+                design.defines.append(QLatin1String("HAVE_") +
+                                      module.match(QString::fromUtf8(text)).captured(1));
             }
             const QString made = QLatin1String("licensed/") + name;
             if (const auto written = m_simulation->write(made, answering); !written)
@@ -422,17 +639,21 @@ private:
             design.sources.append(m_simulation->folder() + u'/' + made);
         }
         design.modelFolder = m_modelFolder;
-        design.board = boardOf(m_map);
-        for (const char *name : {"i2c_memory.v", "spi_flash.v", "sd_card.v"}) {
-            QByteArray text;
-            const QString path = m_environment.dataFolder() + QLatin1String("/simulation/board/") +
-                                 QLatin1String(name);
-            if (!Utils::FileUtils::readFile(path, &text, &error))
-                return {Failed, error};
-            design.board += '\n' + text;
+        if (m_arguments.board.isEmpty()) {
+            if (const Stop stop = makeBoard(&design.board); stop.status != Done)
+                return stop;
+            return failedUnless(m_engine->build(*m_simulation, design));
         }
-        return failedUnless(m_engine->build(*m_simulation, design));
+        design.board = m_board;
+        const auto built = m_engine->build(*m_simulation, design);
+        if (built)
+            return {};
+        return {BadInput, quoted(fullPath(m_arguments.board)) +
+                              QLatin1String(" does not compile with the subsystem:\n") +
+                              built.reason()};
     }
+
+    bool isNetlist() const { return m_arguments.model == QLatin1String("netlist"); }
 
     // A simulator that was stopped has written none.
     void readDetails()
@@ -493,8 +714,10 @@ private:
             if (status == Done)
                 status = Failed;
         };
-        if (!isOnTerminal())
-            check(Utils::FileUtils::writeFile(fullPath(m_arguments.uart0), m_end.uarts[0], &error));
+        for (const int number : {0, 1}) {
+            if (const QString file = uartFile(number); !file.isEmpty())
+                check(Utils::FileUtils::writeFile(fullPath(file), m_end.uarts[number], &error));
+        }
         // What a simulator that was stopped has written is no whole file.
         if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
             check(writeWaves(&error));
@@ -514,13 +737,16 @@ private:
 
     Environment &m_environment;
     const SimulateArguments &m_arguments;
+    std::unique_ptr<Listener> m_listener;
     QVariantMap m_info;
     IpcDocument m_document;
     SystemMap m_map;
     std::unique_ptr<Engine> m_engine;
     QString m_compiler;
     QString m_modelFolder;
+    QByteArray m_board;
     std::unique_ptr<Simulation> m_simulation;
+    std::unique_ptr<Outside> m_outside;
     SimulationEnd m_end;
     QStringList m_waveArguments; // of a part of the run
     SourcePlaces m_places;

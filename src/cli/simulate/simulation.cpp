@@ -15,15 +15,19 @@ namespace Cli
 {
 
 Simulation::Simulation()
-    : m_folder(QDir(QDir::tempPath()).absolutePath() + QLatin1String("/orixm1-simulate-XXXXXX"))
+    : m_folder(QStringLiteral("orixm1-simulate"))
+    , m_problem(m_folder.problem())
 {
-    connect(&m_interrupt, &Utils::Interrupt::received, this, [this] { m_isCancelled = true; });
-    if (!m_folder.isValid())
-        m_problem = QLatin1String("A folder in \"") + QDir::tempPath() +
-                    QLatin1String("\" could not be made: ") + m_folder.errorString() + u'.';
-    else if (!QDir(m_folder.path()).mkdir(QStringLiteral("tmp")))
+    connect(&m_interrupt, &Utils::Interrupt::received, this, &Simulation::cancel);
+    if (m_problem.isEmpty() && !QDir(m_folder.path()).mkdir(QStringLiteral("tmp")))
         m_problem = QLatin1String("A folder in \"") + m_folder.path() +
                     QLatin1String("\" could not be made.");
+}
+
+void Simulation::cancel()
+{
+    m_isCancelled = true;
+    Q_EMIT cancelled();
 }
 
 QString Simulation::folder() const
@@ -44,11 +48,13 @@ Utils::Result<QString> Simulation::findTool(const char *program, const char *pac
 
 Utils::Result<void> Simulation::runTool(const Tool &tool, const LineTaker &takeLine)
 {
+    if (m_isCancelled)
+        return Utils::Failure{QString()};
     Synthesis::ToolRun run({tool.name, tool.path, tool.arguments, folder()});
     QEventLoop loop;
     connect(&run, &Synthesis::ToolRun::lineReceived, &loop, takeLine);
     connect(&run, &Synthesis::ToolRun::ended, &loop, &QEventLoop::quit);
-    connect(&m_interrupt, &Utils::Interrupt::received, &run, &Synthesis::ToolRun::stop);
+    connect(this, &Simulation::cancelled, &run, &Synthesis::ToolRun::stop);
     run.start();
     loop.exec();
     if (m_isCancelled)
@@ -108,6 +114,8 @@ SimulationEnd Simulation::play(const Engine &engine, const QStringList &plusArgu
     SimulationEnd end;
     const QString mark = QUuid::createUuid().toString(QUuid::Id128).left(16);
     BoardReader reader(mark, listener, end);
+    reader.setUartTaker(m_takeByte);
+    reader.expectDebugger(m_debugged);
     const auto result =
         runTool(engine.run(QStringList(QLatin1String("mark=") + mark) + plusArguments),
                 [&reader](const QString &line) { reader.takeLine(line); });
@@ -116,6 +124,7 @@ SimulationEnd Simulation::play(const Engine &engine, const QStringList &plusArgu
         end.result = SimulationEnd::Cancelled;
     } else if (!result || !reader.hasEnded()) {
         end.result = SimulationEnd::Failed;
+        end.hasEndedByItself = bool(result);
         end.reason = result ? QStringLiteral("the simulation has ended by itself")
                             : result.reason().chopped(1);
         if (reader.lacksLibrary())

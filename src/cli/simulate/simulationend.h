@@ -19,6 +19,8 @@ struct SimulationEnd {
     QStringList emptyBlocks;     // instances of licensed blocks that were accessed
     QMap<int, QByteArray> uarts; // by number: what each one has sent, up to a limit
     QMap<int, qint64> uartBytes; // how many these were
+
+    bool hasEndedByItself = false; // nobody has told the end
 };
 
 } // namespace Cli

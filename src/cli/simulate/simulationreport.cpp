@@ -52,6 +52,21 @@ QStringList placesOf(const SimulationReport &report)
 
 } // namespace
 
+QString nameOf(SimulationEnd::Result result)
+{
+    switch (result) {
+    case SimulationEnd::Passed:
+        return QStringLiteral("passed");
+    case SimulationEnd::Failed:
+        return QStringLiteral("failed");
+    case SimulationEnd::TimeLimit:
+        return QStringLiteral("time limit");
+    case SimulationEnd::Cancelled:
+        break;
+    }
+    return QStringLiteral("cancelled");
+}
+
 int statusOf(const SimulationEnd &end)
 {
     switch (end.result) {

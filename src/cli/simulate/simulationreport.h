@@ -25,6 +25,9 @@ struct SimulationReport {
 // Why it did not pass, a clause without a full stop; may be empty.
 QString reasonOf(const SimulationEnd &end);
 
+// "passed", "failed", "time limit", "cancelled"
+QString nameOf(SimulationEnd::Result result);
+
 // The instruction at which it failed, locked up or met its limit; null if there is none of the
 // program's own.
 const TARVOORIXM1::RunPlace *failurePlaceOf(const SimulationReport &report);

@@ -43,7 +43,7 @@ void Terminal::put(const QByteArray &bytes)
 
 void Terminal::uartSent(int number, char byte)
 {
-    if (number != 0 || !m_showsUart)
+    if (number != m_uart)
         return;
     if (!isWithin(mostUartBytes, 1, &m_uartBytes, "the UART"))
         return;
@@ -61,6 +61,25 @@ void Terminal::said(const QString &text, bool endsLine)
     turnTo(Text);
     put((m_isAtLineStart ? QByteArray("semihosting: ") : QByteArray()) + bytes +
         (endsLine ? QByteArray("\n") : QByteArray()));
+}
+
+void Terminal::compilerSaid(const QString &line)
+{
+    m_compilerBytes += line.size();
+    if (m_compilerBytes < mostTextBytes)
+        printText(stderr, line.toStdString() + '\n');
+}
+
+void Terminal::told(Severity severity, const QString &text)
+{
+    Q_UNUSED(severity)
+    printError(text);
+}
+
+void Terminal::ended(const Outcome &outcome)
+{
+    for (const QString &line : outcome.lines)
+        printError(line);
 }
 
 } // namespace Cli
