@@ -260,6 +260,7 @@ int run(int argc, char *argv[])
         "simulate", "Run a program for the processor on the subsystem's RTL (Icarus Verilog)");
     std::string program;
     std::vector<std::string> cFiles;
+    std::string script;
     std::string uart0 = "-";
     quint64 timeout = 10000000;
     std::string waves;
@@ -272,6 +273,11 @@ int run(int argc, char *argv[])
                      "C files, compiled with what is exported for the configuration; returning "
                      "from main() ends the run: 0 has passed")
         ->type_name("FILE ...");
+    programGroup
+        ->add_option("--script", script,
+                     "Script of bus transfers, played in place of a program; it has passed if all "
+                     "of its checks have")
+        ->type_name("FILE");
     programGroup->require_option(1);
     simulateCommand
         ->add_option("--uart0", uart0,
@@ -298,6 +304,7 @@ int run(int argc, char *argv[])
             arguments.timeout = timeout;
             arguments.waves = text(waves);
             arguments.report = text(reportFile);
+            arguments.script = text(script);
             return Cli::runSimulate(environment, arguments);
         };
     });
@@ -333,7 +340,7 @@ int run(int argc, char *argv[])
     std::vector<const std::string *> paths;
     for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder})
         paths.push_back(path);
-    for (const std::string *path : {&program, &waves, &reportFile})
+    for (const std::string *path : {&program, &script, &waves, &reportFile})
         paths.push_back(path);
     if (uart0 != "-")
         paths.push_back(&uart0);

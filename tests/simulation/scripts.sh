@@ -89,8 +89,8 @@ if [[ $case == example ]]; then
         "$examples/sensor-node-tb.v"
     analyse 93 "$examples/sensor-node-tb.vhd" "$net.vho"
     analyse 08 "$examples/sensor-node-tb.vhd" "$net.vho"
-    [[ $(both "$examples/sensor-node.play") == PASS ]] || fail "the example: $(verilog "$examples/sensor-node.play")"
-    [[ $(vhdl "$examples/sensor-node.play" 08) == PASS ]] || fail "VHDL of 2008"
+    [[ $(both "$examples/sensor-node-tb.play") == PASS ]] || fail "the example: $(verilog "$examples/sensor-node-tb.play")"
+    [[ $(vhdl "$examples/sensor-node-tb.play" 08) == PASS ]] || fail "VHDL of 2008"
     # The mistakes one after the other: the start of a simulation takes long.
     count=0
     expect() { # as below

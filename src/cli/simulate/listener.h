@@ -1,5 +1,7 @@
 #pragma once
 
+#include "simulationend.h"
+
 #include <QString>
 
 namespace Cli
@@ -29,6 +31,8 @@ public:
         Q_UNUSED(levels)
         Q_UNUSED(driven)
     }
+    // A check of a script has failed, or a line of it is none.
+    virtual void checkFailed(const ScriptFailure &failure) { Q_UNUSED(failure) }
     // Now and then: clock cycles from the end of the power-on reset.
     virtual void timePassed(quint64 cycles) { Q_UNUSED(cycles) }
 };

@@ -73,6 +73,7 @@ public:
         }
         Terminal terminal(isOnTerminal());
         m_end = m_simulation->play(*m_engine, plusArguments(), terminal);
+        m_end.isScript = isScript();
         const int status = writeResults();
         const QStringList summary = summaryOf(report());
         for (const QString &line : summary)
@@ -81,6 +82,7 @@ public:
     }
 
 private:
+    bool isScript() const { return !m_arguments.script.isEmpty(); }
     bool isOnTerminal() const { return m_arguments.uart0 == QLatin1String("-"); }
 
     QVector<Target> targets() const
@@ -104,6 +106,8 @@ private:
         QStringList taken = {fullPath(m_arguments.file)};
         if (!m_arguments.firmware.isEmpty())
             taken.append(fullPath(m_arguments.firmware));
+        if (isScript())
+            taken.append(fullPath(m_arguments.script));
         for (const QString &source : m_arguments.sources)
             taken.append(fullPath(source));
         for (QString &path : taken) {
@@ -145,7 +149,7 @@ private:
         // The program is in the model's own memory.
         m_document.options.insert(Key::initializeItcm, false);
         m_map = systemMap(m_document.options, m_document.device, *description);
-        if (m_map.processor.isBigEndian)
+        if (m_map.processor.isBigEndian && !isScript())
             return {BadInput, quoted(m_document.path) +
                                   QLatin1String(" cannot be simulated: the model of the processor "
                                                 "has no big-endian data.")};
@@ -162,7 +166,10 @@ private:
     Stop build()
     {
         QByteArray image;
-        if (m_arguments.sources.isEmpty()) {
+        if (isScript()) {
+            if (const Stop stop = checkScript(); stop.status != Done)
+                return stop;
+        } else if (m_arguments.sources.isEmpty()) {
             if (const Stop stop = readProgram(m_arguments.firmware, &image); stop.status != Done)
                 return stop;
         }
@@ -171,7 +178,8 @@ private:
         m_simulation = std::make_unique<Simulation>();
         if (m_simulation->folder().isEmpty())
             return {Failed, m_simulation->problem()};
-        const auto made = m_arguments.sources.isEmpty()
+        const auto made = isScript() ? Stop{}
+                          : m_arguments.sources.isEmpty()
                               ? failedUnless(m_simulation->write(programFile(), image))
                               : compileProgram();
         if (made.status != Done)
@@ -184,6 +192,17 @@ private:
     static Stop failedUnless(const Utils::Result<void> &result)
     {
         return result ? Stop{} : Stop{Failed, result.reason()};
+    }
+
+    // It is read where it stands, as is what it includes.
+    Stop checkScript() const
+    {
+        const QString path = fullPath(m_arguments.script);
+        QByteArray bytes;
+        QString reason;
+        if (!Reading::readPlainFile(path, Reading::Limits::script, &bytes, &reason))
+            return {BadInput, quoted(path) + QLatin1String(" cannot be read: ") + reason + u'.'};
+        return {};
     }
 
     // A program that the instruction memory takes.
@@ -205,7 +224,9 @@ private:
 
     QStringList plusArguments() const
     {
-        QStringList arguments = {QLatin1String("firmware=") + programFile(),
+        QStringList arguments = {isScript()
+                                     ? QLatin1String("script=") + fullPath(m_arguments.script)
+                                     : QLatin1String("firmware=") + programFile(),
                                  QStringLiteral("timeout=%1").arg(m_arguments.timeout)};
         if (!m_arguments.waves.isEmpty())
             arguments.append(QStringLiteral("waves=waves.fst"));

@@ -35,6 +35,12 @@ QString note()
                           "are no cycle counts of the processor.");
 }
 
+QString counted(qint64 number, const char *what)
+{
+    return QStringLiteral("%1 %2%3").arg(number).arg(QLatin1String(what),
+                                                     number == 1 ? QString() : QStringLiteral("s"));
+}
+
 // The UARTs of the configuration.
 QVector<int> uartsOf(const SystemMap &map)
 {
@@ -44,6 +50,19 @@ QVector<int> uartsOf(const SystemMap &map)
             numbers.append(number);
     }
     return numbers;
+}
+
+// Why a script that has ended did not pass; empty: it did.
+QString scriptReason(const SimulationEnd &end)
+{
+    if (end.failures == 0)
+        return end.checks == 0 ? QStringLiteral("the script checks nothing") : QString();
+    QString text = QStringLiteral("%1 in %2")
+                       .arg(counted(end.failures, "failure"), counted(end.checks, "check"));
+    if (!end.failed.isEmpty())
+        text += QLatin1String(end.failures == 1 ? ": " : ", the first one: ") +
+                failureText(end.failed.first());
+    return text;
 }
 
 } // namespace
@@ -65,9 +84,10 @@ int statusOf(const SimulationEnd &end)
 
 QString reasonOf(const SimulationEnd &end)
 {
-    QString text = end.reason;
+    QString text = end.isScript && end.hasCounts ? scriptReason(end) : end.reason;
     if (end.result == SimulationEnd::TimeLimit)
-        text = QStringLiteral("the program has not ended");
+        text = end.isScript ? QStringLiteral("the script has not ended")
+                            : QStringLiteral("the program has not ended");
     if (end.lockedUpAt >= 0)
         text += (text.isEmpty() ? QString() : QStringLiteral("; ")) +
                 QStringLiteral("the processor locked up at clock cycle %1").arg(end.lockedUpAt);
@@ -89,6 +109,9 @@ QStringList summaryOf(const SimulationReport &report)
     if (const QString why = reasonOf(end); !why.isEmpty())
         line += QLatin1String(": ") + why;
     lines.append(line + u'.');
+    if (end.failures > end.failed.size())
+        lines.append(
+            QStringLiteral("Of the failures the first %1 are told.").arg(end.failed.size()));
     QStringList sent;
     const QVector<int> numbers = uartsOf(report.map);
     for (const int number : numbers)
@@ -97,10 +120,12 @@ QStringList summaryOf(const SimulationReport &report)
     if (!sent.isEmpty())
         lines.append(sent.join(QLatin1String(", ")) + u'.');
     if (!end.emptyBlocks.isEmpty())
-        lines.append(QLatin1String("Licensed blocks are empty here and answer with bus errors; the "
-                                   "program has accessed ") +
-                     end.emptyBlocks.join(QLatin1String(", ")) + u'.');
-    lines.append(note());
+        lines.append(
+            QLatin1String("Licensed blocks are empty here and answer with bus errors; the ") +
+            QLatin1String(end.isScript ? "script" : "program") + QLatin1String(" has accessed ") +
+            end.emptyBlocks.join(QLatin1String(", ")) + u'.');
+    if (!end.isScript)
+        lines.append(note());
     return lines;
 }
 
@@ -113,15 +138,27 @@ QByteArray documentOf(const SimulationReport &report)
     for (const int number : numbers)
         lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
                                  {QStringLiteral("bytes"), end.uartBytes[number]}});
-    QJsonObject object{{QStringLiteral("result"), nameOf(end.result)},
-                       {QStringLiteral("reason"), reasonOf(end)},
-                       {QStringLiteral("configuration"), arguments.file},
-                       {QStringLiteral("clockCycles"), qint64(end.cycles)},
-                       {QStringLiteral("timeout"), qint64(arguments.timeout)},
-                       {QStringLiteral("uarts"), lines},
-                       {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(end.emptyBlocks)},
-                       {QStringLiteral("note"), note()}};
-    if (arguments.sources.isEmpty())
+    QJsonObject object{
+        {QStringLiteral("result"), nameOf(end.result)},
+        {QStringLiteral("reason"), reasonOf(end)},
+        {QStringLiteral("configuration"), arguments.file},
+        {QStringLiteral("clockCycles"), qint64(end.cycles)},
+        {QStringLiteral("timeout"), qint64(arguments.timeout)},
+        {QStringLiteral("uarts"), lines},
+        {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(end.emptyBlocks)}};
+    if (!end.isScript)
+        object.insert(QStringLiteral("note"), note());
+    if (end.isScript) {
+        QJsonArray failed;
+        for (const ScriptFailure &failure : end.failed)
+            failed.append(QJsonObject{{QStringLiteral("file"), failure.file},
+                                      {QStringLiteral("line"), failure.line},
+                                      {QStringLiteral("text"), failure.text}});
+        object.insert(QStringLiteral("script"), arguments.script);
+        object.insert(QStringLiteral("checks"), end.checks);
+        object.insert(QStringLiteral("failures"), end.failures);
+        object.insert(QStringLiteral("failed"), failed);
+    } else if (arguments.sources.isEmpty())
         object.insert(QStringLiteral("firmware"), arguments.firmware);
     else
         object.insert(QStringLiteral("sources"), QJsonArray::fromStringList(arguments.sources));

@@ -63,4 +63,10 @@ void Terminal::said(const QString &text, bool endsLine)
         (endsLine ? QByteArray("\n") : QByteArray()));
 }
 
+// The model limits how many there are.
+void Terminal::checkFailed(const ScriptFailure &failure)
+{
+    printText(stderr, failureText(failure).toStdString() + '\n');
+}
+
 } // namespace Cli

@@ -10,7 +10,7 @@ namespace Cli
 
 // What a simulated program says, on standard output: the bytes of a UART as they are, and lines of
 // other texts behind "semihosting: ", on lines of their own. Both are bounded; what is cut off is
-// told once.
+// told once. Failures of a script are on standard error.
 class Terminal : public Listener
 {
 public:
@@ -22,6 +22,7 @@ public:
 
     void uartSent(int number, char byte) override;
     void said(const QString &text, bool endsLine) override;
+    void checkFailed(const ScriptFailure &failure) override;
 
 private:
     enum Source { Nobody, Uart, Text };
