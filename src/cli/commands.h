@@ -66,9 +66,8 @@ struct SimulateArguments {
     QString uart0;       // "-": standard output, else a file
     quint64 timeout = 0; // clock cycles
     QString waves;       // file; empty: none
-    QString report;      // file; empty: none
-
-    QString script; // a script of transfers, if it is no program
+    QStringList reports; // files
+    QString script;      // a script of transfers, if it is no program
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

@@ -256,15 +256,17 @@ int run(int argc, char *argv[])
         };
     });
 
-    CLI::App *simulateCommand = app.add_subcommand(
-        "simulate", "Run a program for the processor on the subsystem's RTL (Icarus Verilog)");
+    CLI::App *simulateCommand =
+        app.add_subcommand("simulate", "Run a program for the processor on the subsystem's RTL");
     std::string program;
     std::vector<std::string> cFiles;
     std::string script;
+    const QStringList engines = Cli::engineNames();
+    std::string engine = engines.first().toStdString();
     std::string uart0 = "-";
     quint64 timeout = 10000000;
     std::string waves;
-    std::string reportFile;
+    std::vector<std::string> reportFiles;
     addFile(simulateCommand);
     CLI::Option_group *programGroup = simulateCommand->add_option_group("Program");
     programGroup->add_option("--firmware", program, "Program: ELF")->type_name("FILE");
@@ -279,6 +281,15 @@ int run(int argc, char *argv[])
                      "of its checks have")
         ->type_name("FILE");
     programGroup->require_option(1);
+    std::vector<std::string> engineTexts;
+    for (const QString &name : engines)
+        engineTexts.push_back(name.toStdString());
+    simulateCommand
+        ->add_option("--engine", engine,
+                     "Simulator: icarus (the default) starts at once, verilator compiles the "
+                     "design first and then runs it fast")
+        ->check(CLI::IsMember(engineTexts))
+        ->type_name("NAME");
     simulateCommand
         ->add_option("--uart0", uart0,
                      "Where the bytes of UART0 go: a file, or - (the default) "
@@ -291,19 +302,24 @@ int run(int argc, char *argv[])
         ->check(CLI::Range(quint64(1), quint64(1000000000000)))
         ->type_name("CYCLES");
     simulateCommand->add_option("--waves", waves, "Write all signals (FST)")->type_name("FILE");
-    simulateCommand->add_option("--report", reportFile, "Write the result (JSON)")
-        ->type_name("FILE");
+    simulateCommand
+        ->add_option("--report", reportFiles,
+                     "Write what happened: text (.txt), JUnit (.xml), otherwise JSON; may be "
+                     "repeated")
+        ->type_name("FILE")
+        ->take_all()
+        ->allow_extra_args(false);
     simulateCommand->callback([&] {
         command = [&] {
             Cli::SimulateArguments arguments;
             arguments.file = text(file);
             arguments.firmware = text(program);
             arguments.sources = texts(cFiles);
-            arguments.engine = Cli::engineNames().first();
+            arguments.engine = text(engine);
             arguments.uart0 = text(uart0);
             arguments.timeout = timeout;
             arguments.waves = text(waves);
-            arguments.report = text(reportFile);
+            arguments.reports = texts(reportFiles);
             arguments.script = text(script);
             return Cli::runSimulate(environment, arguments);
         };
@@ -340,12 +356,14 @@ int run(int argc, char *argv[])
     std::vector<const std::string *> paths;
     for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder})
         paths.push_back(path);
-    for (const std::string *path : {&program, &script, &waves, &reportFile})
+    for (const std::string *path : {&program, &script, &waves})
         paths.push_back(path);
     if (uart0 != "-")
         paths.push_back(&uart0);
     for (const std::string &cFile : cFiles)
         paths.push_back(&cFile);
+    for (const std::string &reportFile : reportFiles)
+        paths.push_back(&reportFile);
     for (const std::string *path : paths) {
         if (mistake.isEmpty() && !path->empty() && path->front() != '/')
             mistake = Utils::nonUtf8CurrentFolder();

@@ -11,6 +11,8 @@
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QtEndian>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace TARVOORIXM1;
@@ -107,6 +109,114 @@ private Q_SLOTS:
         QCOMPARE(run.out, QByteArray());
     }
 
+    void bothEnginesPlayTheSame_data()
+    {
+        QTest::addColumn<QString>("program");
+        QTest::newRow("hello") << QStringLiteral("hello");
+        QTest::newRow("blink") << QStringLiteral("blink");
+    }
+
+    void bothEnginesPlayTheSame()
+    {
+        QFETCH(QString, program);
+        QStringList told;
+        for (const char *engine : {"icarus", "verilator"}) {
+            const Run run =
+                simulate({example, QStringLiteral("--c"),
+                          QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/%1.c").arg(program),
+                          QStringLiteral("--engine"), QLatin1String(engine),
+                          QStringLiteral("--report"), path("run.json")});
+            QVERIFY2(run.status == 0, qPrintable(run.err));
+            told.append(QString::fromUtf8(run.out) + run.err);
+            QVERIFY(jsonIn("run.json").value(QLatin1String("clockCycles")).toInt() > 1000);
+        }
+        QCOMPARE(told.at(1), told.at(0)); // the number of clock cycles, too
+    }
+
+    void wavesOfBothEnginesBeginWithTheBoard()
+    {
+        const QString hello = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c");
+        QList<QByteArray> ends;
+        for (const char *engine : {"icarus", "verilator"}) {
+            const Run run =
+                simulate({example, QStringLiteral("--c"), hello, QStringLiteral("--engine"),
+                          QLatin1String(engine), QStringLiteral("--waves"), path("run.fst")});
+            QVERIFY2(run.status == 0, qPrintable(run.err));
+            QCOMPARE(run.out, QByteArray("hello, world\n"));
+            const QByteArray waves = TestSupport::contentsOf(path("run.fst"));
+            // The header of the form: a block 0, its length, the first and the last time.
+            QVERIFY(waves.size() > 10000 && waves.startsWith(QByteArray(1, '\0')));
+            ends.append(waves.mid(17, 8));
+        }
+        const auto time = [](const QByteArray &bytes) {
+            return qFromBigEndian<quint64>(bytes.constData());
+        };
+        const quint64 cycle = 20000; // picoseconds
+        QVERIFY(time(ends.at(0)) / cycle > 5000);
+        QCOMPARE(time(ends.at(1)) / cycle, time(ends.at(0)) / cycle);
+    }
+
+    // Where nothing can be kept, too.
+    void bothEnginesNameTheSameEmptyBlocks()
+    {
+        TestSupport::write(path("file"), "");
+        TestSupport::write(path("x.ipc"), plain + "Enable%20TRNG=true\n");
+        TestSupport::write(path("main.c"),
+                           "void HardFault_Handler(void) { __asm__ volatile(\"bkpt 9\"); }\n"
+                           "int main(void) { return *(volatile int *)0x5000A000u & 0; }\n");
+        QStringList told;
+        for (const char *engine : {"icarus", "verilator"}) {
+            const Run run =
+                simulate(words({"x.ipc", "--c", "main.c", "--timeout", "5000", "--engine", engine}),
+                         {}, path("file"));
+            QCOMPARE(run.status, 1);
+            told.append(run.err);
+        }
+        QVERIFY2(told.at(0).contains(QLatin1String("u_trng")), qPrintable(told.at(0)));
+        QCOMPARE(told.at(1), told.at(0));
+        QCOMPARE(TestSupport::contentsOf(path("file")), QByteArray());
+    }
+
+    // What is built once is not built again, unless what was kept is broken.
+    void buildsADesignOnce()
+    {
+        const QString hello = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c");
+        const QStringList arguments = {example, QStringLiteral("--c"), hello,
+                                       QStringLiteral("--engine"), QStringLiteral("verilator")};
+        QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("bin")));
+        TestSupport::write(path("bin/g++"), "#!/bin/sh\necho \"no compiler today\"\nexit 1\n");
+        QFile::setPermissions(path("bin/g++"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        const QString withoutCompiler = path("bin:") + qEnvironmentVariable("PATH");
+        QVERIFY2(simulate(arguments).status == 0, "built");
+        Run run = simulate(arguments, withoutCompiler);
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(run.out, QByteArray("hello, world\n"));
+
+        // Another design is another program.
+        run =
+            simulate(arguments + words({"--waves", "run.fst"}), withoutCompiler, path("elsewhere"));
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.contains(QLatin1String("no compiler today")), qPrintable(run.err));
+        QVERIFY(!QFileInfo::exists(path("elsewhere")));
+
+        const QString kept = m_cache.filePath(QStringLiteral("tarvo/simulate"));
+        const QString copies = path("copies/tarvo/simulate");
+        QVERIFY(QDir().mkpath(copies));
+        const QStringList entries = QDir(kept).entryList(QDir::Files);
+        QVERIFY(!entries.isEmpty());
+        for (const QString &entry : entries) {
+            const QByteArray bytes = TestSupport::contentsOf(kept + u'/' + entry);
+            TestSupport::write(copies + u'/' + entry, bytes.left(bytes.size() - 1000));
+        }
+        run = simulate(arguments, withoutCompiler, path("copies"));
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.contains(QLatin1String("no compiler today")), qPrintable(run.err));
+        run = simulate(arguments, {}, path("copies"));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        run = simulate(arguments, withoutCompiler, path("copies"));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+    }
+
     void tellsHowAProgramEnds_data()
     {
         QTest::addColumn<QByteArray>("program");
@@ -156,6 +266,90 @@ private Q_SLOTS:
         QVERIFY2(run.status == 1, qPrintable(run.err));
         QVERIFY2(run.err.contains(QLatin1String(": the processor locked up at clock cycle ")),
                  qPrintable(run.err));
+    }
+
+    void tellsPlacesInC_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QStringList>("told");
+        QTest::newRow("bus error")
+            << QByteArray("static int poke(volatile int *place)\n{\n    return *place;\n}\n"
+                          "int main(void)\n{\n    return poke((int *)0x90000000u);\n}\n"
+                          "void HardFault_Handler(void)\n{\n    __asm__ volatile(\"bkpt 9\");\n}\n")
+            << words({"main.c:3 (reading 4 bytes at 0x90000000, in no block)", "1 bus error, at",
+                      "HardFault_Handler() in ", "main.c:11."});
+        QTest::newRow("a program that does not end")
+            << QByteArray("int main(void)\n{\n    for (;;)\n        __asm__ volatile(\"nop\");"
+                          "\n}\n")
+            << words({"The program was at 0x", "main() in ", "main.c:4."});
+        QTest::newRow("an instruction that does not exist")
+            << QByteArray("int main(void)\n{\n    __asm__ volatile(\"udf 1\");\n    return 0;\n}\n"
+                          "void HardFault_Handler(void)\n{\n    __asm__ volatile(\"bkpt 0\");\n}\n")
+            << words({"1 hard fault, at 0x", "main.c:3 (there is no such instruction)"});
+        QTest::newRow("a place in a driver")
+            << QByteArray("#include \"uart.h\"\nint main(void)\n{\n"
+                          "    uart_init(UART0, 50000000u, 50u);\n"
+                          "    return (int)uart_write(UART0, \"abc\", 3, 0xFFFFFFFFu);\n}\n")
+            << words({"() in software/drivers/uart.c:"});
+    }
+
+    void tellsPlacesInC()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(QStringList, told);
+        TestSupport::write(path("main.c"), program);
+        const Run run =
+            simulate(QStringList{example} + words({"--timeout", "3000", "--c", "main.c"}));
+        for (const QString &text : qAsConst(told))
+            QVERIFY2(run.err.contains(text), qPrintable(run.err));
+    }
+
+    void aReturnFromMainHasNoPlace()
+    {
+        TestSupport::write(path("main.c"), "int main(void) { return 3; }\n");
+        const Run run = simulate(QStringList{example} + words({"--c", "main.c"}));
+        QCOMPARE(run.status, 1);
+        QVERIFY2(!run.err.contains(QLatin1String("The program was at")), qPrintable(run.err));
+    }
+
+    void reportsInEveryForm()
+    {
+        const QString blink = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/blink.c");
+        const Run run =
+            simulate(QStringList{example, QStringLiteral("--c"), blink} +
+                     words({"--report", "run.json", "--report", "run.xml", "--report", "run.txt"}));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        const QJsonObject report = jsonIn("run.json");
+        QVERIFY(report.value(QLatin1String("instructions")).toInt() > 100);
+        QVERIFY(report.value(QLatin1String("cyclesAsleep")).toInt() > 10000);
+        QVERIFY(report.value(QLatin1String("cyclesAsleep")).toInt() <
+                report.value(QLatin1String("clockCycles")).toInt());
+        const QJsonArray exceptions = report.value(QLatin1String("exceptions")).toArray();
+        QCOMPARE(exceptions.size(), 1);
+        QCOMPARE(exceptions.first().toObject().value(QLatin1String("name")).toString(),
+                 QStringLiteral("TIMER0"));
+        QCOMPARE(exceptions.first().toObject().value(QLatin1String("count")).toInt(), 16);
+        const QJsonArray never = report.value(QLatin1String("interruptsNeverTaken")).toArray();
+        QVERIFY(never.contains(QStringLiteral("UART0")) &&
+                !never.contains(QStringLiteral("TIMER0")));
+        QStringList accessed;
+        const QJsonArray blocks = report.value(QLatin1String("blocks")).toArray();
+        for (const QJsonValue &block : blocks) {
+            if (block.toObject().value(QLatin1String("reads")).toInt() != 0)
+                accessed.append(block.toObject().value(QLatin1String("name")).toString());
+        }
+        QCOMPARE(accessed.join(u' '), QStringLiteral("GPIO TIMER0"));
+        QCOMPARE(report.value(QLatin1String("busErrors")).toObject().value(QLatin1String("count")),
+                 QJsonValue(0));
+        QXmlStreamReader xml(TestSupport::contentsOf(path("run.xml")));
+        QStringList elements;
+        while (!xml.atEnd()) {
+            if (xml.readNext() == QXmlStreamReader::StartElement)
+                elements.append(xml.name().toString());
+        }
+        QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+        QCOMPARE(elements.join(u' '), QStringLiteral("testsuites testsuite testcase system-out"));
+        QVERIFY(TestSupport::contentsOf(path("run.txt")).startsWith("Passed after "));
     }
 
     // Bytes of the UART are exact, and nothing that a program says is taken for its end.
@@ -323,8 +517,12 @@ private Q_SLOTS:
             << words({"--c", "a", "--uart0", ""}) << QStringLiteral("--uart0");
         QTest::newRow("a result over a source")
             << words({"--c", "a", "--report", "./a"}) << QStringLiteral("--report");
+        QTest::newRow("a report twice") << words({"--c", "a", "--report", "b", "--report", "./b"})
+                                        << QStringLiteral("--report");
         QTest::newRow("two results in one file")
             << words({"--c", "a", "--report", "b", "--waves", "b"}) << QStringLiteral("--report");
+        QTest::newRow("no such engine")
+            << words({"--c", "a", "--engine", "Icarus"}) << QStringLiteral("--engine");
     }
 
     void refusesWrongUsage()
@@ -382,23 +580,35 @@ private Q_SLOTS:
 
     void namesThePackageOfAMissingTool_data()
     {
+        QTest::addColumn<QString>("engine");
         QTest::addColumn<QStringList>("present");
         QTest::addColumn<QString>("package");
-        QTest::newRow("nothing") << words({}) << QStringLiteral("iverilog");
-        QTest::newRow("half of the simulator") << words({"iverilog"}) << QStringLiteral("iverilog");
-        QTest::newRow("no compiler")
-            << words({"iverilog", "vvp"}) << QStringLiteral("gcc-arm-none-eabi");
+        const auto row = [](const char *name, const char *engine,
+                            std::initializer_list<const char *> present, const char *package) {
+            QTest::newRow(name) << QString::fromUtf8(engine) << words(present)
+                                << QString::fromUtf8(package);
+        };
+        row("nothing", "icarus", {}, "iverilog");
+        row("half of the simulator", "icarus", {"iverilog"}, "iverilog");
+        row("no compiler", "icarus", {"iverilog", "vvp"}, "gcc-arm-none-eabi");
+        row("no Verilator", "verilator", {"iverilog", "vvp"}, "verilator");
+        row("no make", "verilator", {"verilator", "arm-none-eabi-gcc"}, "make");
+        row("no compiler for the simulation", "verilator",
+            {"verilator", "arm-none-eabi-gcc", "make"}, "g++");
     }
 
     void namesThePackageOfAMissingTool()
     {
+        QFETCH(QString, engine);
         QFETCH(QStringList, present);
         QFETCH(QString, package);
         TestSupport::write(path("main.c"), "int main(void) { return 0; }\n");
         QVERIFY(QDir(m_dir->path()).mkdir(QStringLiteral("bin")));
         for (const QString &tool : present)
             QVERIFY(QFile::link(QStandardPaths::findExecutable(tool), path("bin/") + tool));
-        const Run run = simulate(QStringList{example} + words({"--c", "main.c"}), path("bin"));
+        const Run run = simulate({example, QStringLiteral("--c"), QStringLiteral("main.c"),
+                                  QStringLiteral("--engine"), engine},
+                                 path("bin"), path("empty"));
         QCOMPARE(run.status, 1);
         QVERIFY2(run.err.contains(QLatin1String("the Debian package ") + package +
                                   QLatin1String(" has it")),
@@ -495,14 +705,18 @@ private Q_SLOTS:
 
     void aKillLeavesNothing_data()
     {
+        QTest::addColumn<QString>("engine");
         QTest::addColumn<int>("signal");
-        QTest::newRow("SIGINT") << SIGINT;
-        QTest::newRow("SIGTERM") << SIGTERM;
-        QTest::newRow("SIGKILL") << SIGKILL;
+        for (const QString &engine : words({"icarus", "verilator"})) {
+            QTest::addRow("%s, SIGINT", qPrintable(engine)) << engine << SIGINT;
+            QTest::addRow("%s, SIGTERM", qPrintable(engine)) << engine << SIGTERM;
+            QTest::addRow("%s, SIGKILL", qPrintable(engine)) << engine << SIGKILL;
+        }
     }
 
     void aKillLeavesNothing()
     {
+        QFETCH(QString, engine);
         QFETCH(int, signal);
         TestSupport::write(path("main.c"),
                            semihosting +
@@ -516,7 +730,7 @@ private Q_SLOTS:
         process.start(
             QStringLiteral(TARVO_COMMAND),
             words({"simulate", "--c", "main.c", "--timeout", "1000000000", "--waves", "run.fst"})
-                << example);
+                << QStringLiteral("--engine") << engine << example);
         QTRY_VERIFY_WITH_TIMEOUT(
             process.bytesAvailable() > 0 || process.state() == QProcess::NotRunning, 60000);
         QCOMPARE(process.readAllStandardOutput(), QByteArray("semihosting: begun\n"));
@@ -540,20 +754,23 @@ private:
         return QJsonDocument::fromJson(TestSupport::contentsOf(path(name))).object();
     }
 
-    // `tools`: the only folder on PATH; empty: as it is.
-    QProcessEnvironment environmentOf(const QString &tools) const
+    // `tools`: PATH; `cache`: folder of what is kept. Empty: as it is, and one for all tests.
+    QProcessEnvironment environmentOf(const QString &tools, const QString &cache = {}) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("TMPDIR"), path("scratch"));
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"),
+                           cache.isEmpty() ? m_cache.path() : cache);
         if (!tools.isEmpty())
             environment.insert(QStringLiteral("PATH"), tools);
         return environment;
     }
 
-    Run simulate(const QStringList &arguments, const QString &tools = {}) const
+    Run simulate(const QStringList &arguments, const QString &tools = {},
+                 const QString &cache = {}) const
     {
         QProcess process;
-        process.setProcessEnvironment(environmentOf(tools));
+        process.setProcessEnvironment(environmentOf(tools, cache));
         process.setWorkingDirectory(m_dir->path());
         process.start(QStringLiteral(TARVO_COMMAND),
                       QStringList{QStringLiteral("simulate")} + arguments);
@@ -563,6 +780,7 @@ private:
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
+    QTemporaryDir m_cache;
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 

@@ -1,6 +1,7 @@
 #include "engine.h"
 
 #include "icarus.h"
+#include "verilator.h"
 
 namespace Cli
 {
@@ -19,7 +20,7 @@ std::unique_ptr<Engine> make()
     return std::make_unique<T>();
 }
 
-constexpr Row rows[] = {{"icarus", make<Icarus>}};
+constexpr Row rows[] = {{"icarus", make<Icarus>}, {"verilator", make<Verilator>}};
 
 } // namespace
 

@@ -74,6 +74,7 @@ public:
         Terminal terminal(isOnTerminal());
         m_end = m_simulation->play(*m_engine, plusArguments(), terminal);
         m_end.isScript = isScript();
+        readDetails();
         const int status = writeResults();
         const QStringList summary = summaryOf(report());
         for (const QString &line : summary)
@@ -94,7 +95,8 @@ private:
         };
         add("--uart0", isOnTerminal() ? QString() : m_arguments.uart0);
         add("--waves", m_arguments.waves);
-        add("--report", m_arguments.report);
+        for (const QString &report : m_arguments.reports)
+            add("--report", report);
         return list;
     }
 
@@ -189,6 +191,8 @@ private:
 
     static QString programFile() { return QStringLiteral("program.elf"); }
 
+    static QString statisticsFile() { return QStringLiteral("statistics.txt"); }
+
     static Stop failedUnless(const Utils::Result<void> &result)
     {
         return result ? Stop{} : Stop{Failed, result.reason()};
@@ -228,6 +232,7 @@ private:
                                      ? QLatin1String("script=") + fullPath(m_arguments.script)
                                      : QLatin1String("firmware=") + programFile(),
                                  QStringLiteral("timeout=%1").arg(m_arguments.timeout)};
+        arguments.append(QLatin1String("statistics=") + statisticsFile());
         if (!m_arguments.waves.isEmpty())
             arguments.append(QStringLiteral("waves=waves.fst"));
         return arguments;
@@ -247,7 +252,7 @@ private:
         // The build tree and an installation are laid out alike.
         m_modelFolder = QDir::cleanPath(QCoreApplication::applicationDirPath() +
                                         QLatin1String("/" ORIXM1_MODEL_FOLDER));
-        for (const char *name : {"cortexm1core.vpi", "cortex_m1_core_isa.v"}) {
+        for (const char *name : {"cortexm1core.vpi", "cortexm1core.so", "cortex_m1_core_isa.v"}) {
             const QString path = m_modelFolder + u'/' + QLatin1String(name);
             if (!QFileInfo(path).isFile())
                 return {Failed,
@@ -324,6 +329,25 @@ private:
         return failedUnless(m_engine->build(*m_simulation, design));
     }
 
+    // A simulator that was stopped has written none.
+    void readDetails()
+    {
+        const QString folder = m_simulation->folder() + u'/';
+        QByteArray bytes;
+        QByteArray program;
+        QString error;
+        if (!Reading::readPlainFile(folder + statisticsFile(), Reading::Limits::toolLog, &bytes,
+                                    &error))
+            return;
+        const auto run = readRunStatistics(bytes);
+        if (!run)
+            return;
+        if (!Reading::readPlainFile(folder + programFile(), Reading::Limits::firmwareImage,
+                                    &program, &error))
+            program.clear();
+        m_details = runDetails(m_map, *run, SourcePlaces(program), m_simulation->folder());
+    }
+
     int writeResults() const
     {
         int status = statusOf(m_end);
@@ -341,13 +365,12 @@ private:
         const QString waves = m_simulation->folder() + QLatin1String("/waves.fst");
         if (!m_arguments.waves.isEmpty() && m_end.result != SimulationEnd::Cancelled)
             check(Utils::FileUtils::copyFile(waves, fullPath(m_arguments.waves), &error));
-        if (!m_arguments.report.isEmpty())
-            check(Utils::FileUtils::writeFile(fullPath(m_arguments.report), documentOf(report()),
-                                              &error));
+        for (const QString &file : m_arguments.reports)
+            check(Utils::FileUtils::writeFile(fullPath(file), documentOf(report(), file), &error));
         return status;
     }
 
-    SimulationReport report() const { return {m_arguments, m_map, m_end}; }
+    SimulationReport report() const { return {m_arguments, m_map, m_end, m_details}; }
 
     Environment &m_environment;
     const SimulateArguments &m_arguments;
@@ -359,6 +382,7 @@ private:
     QString m_modelFolder;
     std::unique_ptr<Simulation> m_simulation;
     SimulationEnd m_end;
+    std::optional<RunDetails> m_details;
 };
 
 } // namespace

@@ -1,10 +1,7 @@
 #include "simulationreport.h"
 
 #include "../output.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "reportforms.h"
 
 namespace Cli
 {
@@ -14,42 +11,49 @@ using namespace TARVOORIXM1;
 namespace
 {
 
-QString nameOf(SimulationEnd::Result result)
+// "1 bus error, at " or "5 bus errors, the first one at "
+QString counted(quint64 count, const char *what)
 {
-    switch (result) {
-    case SimulationEnd::Passed:
-        return QStringLiteral("passed");
-    case SimulationEnd::Failed:
-        return QStringLiteral("failed");
-    case SimulationEnd::TimeLimit:
-        return QStringLiteral("time limit");
-    case SimulationEnd::Cancelled:
-        break;
-    }
-    return QStringLiteral("cancelled");
+    return QStringLiteral("%1 %2%3").arg(count).arg(
+        QLatin1String(what),
+        count == 1 ? QLatin1String(", at ") : QLatin1String("s, the first one at "));
 }
 
-QString note()
-{
-    return QStringLiteral("The model executes an instruction a clock cycle: instruction counts "
-                          "are no cycle counts of the processor.");
-}
-
-QString counted(qint64 number, const char *what)
+QString numbered(qint64 number, const char *what)
 {
     return QStringLiteral("%1 %2%3").arg(number).arg(QLatin1String(what),
                                                      number == 1 ? QString() : QStringLiteral("s"));
 }
 
-// The UARTs of the configuration.
-QVector<int> uartsOf(const SystemMap &map)
+// Where things went wrong: a few lines.
+QStringList placesOf(const SimulationReport &report)
 {
-    QVector<int> numbers;
-    for (const int number : {0, 1}) {
-        if (findRegion(map, QStringLiteral("UART%1").arg(number)))
-            numbers.append(number);
-    }
-    return numbers;
+    QStringList lines;
+    bool hasLine = true;
+    const auto told = [&hasLine](const RunPlace &place) {
+        hasLine = hasLine && !place.source.file.isEmpty();
+        return place.text();
+    };
+    if (const RunPlace *place = failurePlaceOf(report))
+        lines.append(QLatin1String("The program was at ") + told(*place) + u'.');
+    if (!report.details)
+        return lines;
+    const RunDetails &details = *report.details;
+    // A bus error is mostly a fault as well.
+    const bool isSame =
+        details.errorCount == details.faultCount && !details.errors.isEmpty() &&
+        details.errors.first().place.address == details.faults.first().place.address;
+    if (!details.faults.isEmpty() && !isSame)
+        lines.append(counted(details.faultCount, "hard fault") +
+                     told(details.faults.first().place) + QLatin1String(" (") +
+                     details.faults.first().cause + QLatin1String(")."));
+    if (!details.errors.isEmpty())
+        lines.append(counted(details.errorCount, "bus error") + told(details.errors.first().place) +
+                     QLatin1String(" (") + busErrorText(details.errors.first()) +
+                     QLatin1String(")."));
+    if (!hasLine && !details.problem.isEmpty())
+        lines.append(details.problem);
+    return lines;
 }
 
 // Why a script that has ended did not pass; empty: it did.
@@ -58,7 +62,7 @@ QString scriptReason(const SimulationEnd &end)
     if (end.failures == 0)
         return end.checks == 0 ? QStringLiteral("the script checks nothing") : QString();
     QString text = QStringLiteral("%1 in %2")
-                       .arg(counted(end.failures, "failure"), counted(end.checks, "check"));
+                       .arg(numbered(end.failures, "failure"), numbered(end.checks, "check"));
     if (!end.failed.isEmpty())
         text += QLatin1String(end.failures == 1 ? ": " : ", the first one: ") +
                 failureText(end.failed.first());
@@ -94,6 +98,16 @@ QString reasonOf(const SimulationEnd &end)
     return text;
 }
 
+const RunPlace *failurePlaceOf(const SimulationReport &report)
+{
+    if (!report.details || report.end.result == SimulationEnd::Passed)
+        return nullptr;
+    const RunPlace *place = &report.details->end;
+    if (report.end.lockedUpAt >= 0 && !report.details->lockUps.isEmpty())
+        place = &report.details->lockUps.last();
+    return place->isMains ? nullptr : place;
+}
+
 QStringList summaryOf(const SimulationReport &report)
 {
     const SimulationEnd &end = report.end;
@@ -112,6 +126,7 @@ QStringList summaryOf(const SimulationReport &report)
     if (end.failures > end.failed.size())
         lines.append(
             QStringLiteral("Of the failures the first %1 are told.").arg(end.failed.size()));
+    lines += placesOf(report);
     QStringList sent;
     const QVector<int> numbers = uartsOf(report.map);
     for (const int number : numbers)
@@ -125,44 +140,23 @@ QStringList summaryOf(const SimulationReport &report)
             QLatin1String(end.isScript ? "script" : "program") + QLatin1String(" has accessed ") +
             end.emptyBlocks.join(QLatin1String(", ")) + u'.');
     if (!end.isScript)
-        lines.append(note());
+        lines.append(modelNote());
     return lines;
 }
 
-QByteArray documentOf(const SimulationReport &report)
+QByteArray documentOf(const SimulationReport &report, const QString &file)
 {
-    const SimulationEnd &end = report.end;
-    const SimulateArguments &arguments = report.arguments;
-    QJsonArray lines;
-    const QVector<int> numbers = uartsOf(report.map);
-    for (const int number : numbers)
-        lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
-                                 {QStringLiteral("bytes"), end.uartBytes[number]}});
-    QJsonObject object{
-        {QStringLiteral("result"), nameOf(end.result)},
-        {QStringLiteral("reason"), reasonOf(end)},
-        {QStringLiteral("configuration"), arguments.file},
-        {QStringLiteral("clockCycles"), qint64(end.cycles)},
-        {QStringLiteral("timeout"), qint64(arguments.timeout)},
-        {QStringLiteral("uarts"), lines},
-        {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(end.emptyBlocks)}};
-    if (!end.isScript)
-        object.insert(QStringLiteral("note"), note());
-    if (end.isScript) {
-        QJsonArray failed;
-        for (const ScriptFailure &failure : end.failed)
-            failed.append(QJsonObject{{QStringLiteral("file"), failure.file},
-                                      {QStringLiteral("line"), failure.line},
-                                      {QStringLiteral("text"), failure.text}});
-        object.insert(QStringLiteral("script"), arguments.script);
-        object.insert(QStringLiteral("checks"), end.checks);
-        object.insert(QStringLiteral("failures"), end.failures);
-        object.insert(QStringLiteral("failed"), failed);
-    } else if (arguments.sources.isEmpty())
-        object.insert(QStringLiteral("firmware"), arguments.firmware);
-    else
-        object.insert(QStringLiteral("sources"), QJsonArray::fromStringList(arguments.sources));
-    return QJsonDocument(object).toJson(QJsonDocument::Indented);
+    struct Form {
+        QLatin1String suffix;
+        QByteArray (*write)(const SimulationReport &report);
+    };
+    static const Form forms[] = {{QLatin1String(".txt"), textReport},
+                                 {QLatin1String(".xml"), junitReport}};
+    for (const Form &form : forms) {
+        if (file.endsWith(form.suffix, Qt::CaseInsensitive))
+            return form.write(report);
+    }
+    return jsonReport(report);
 }
 
 } // namespace Cli

@@ -3,10 +3,13 @@
 #include "../commands.h"
 #include "simulationend.h"
 
+#include <simulation/rundetails.h>
 #include <system/systemmap.h>
 
 #include <QByteArray>
 #include <QStringList>
+
+#include <optional>
 
 namespace Cli
 {
@@ -16,10 +19,15 @@ struct SimulationReport {
     const SimulateArguments &arguments;
     const TARVOORIXM1::SystemMap &map;
     const SimulationEnd &end;
+    const std::optional<TARVOORIXM1::RunDetails> &details; // null if the model told nothing
 };
 
 // Why it did not pass, a clause without a full stop; may be empty.
 QString reasonOf(const SimulationEnd &end);
+
+// The instruction at which it failed, locked up or met its limit; null if there is none of the
+// program's own.
+const TARVOORIXM1::RunPlace *failurePlaceOf(const SimulationReport &report);
 
 // The exit status that belongs to it.
 int statusOf(const SimulationEnd &end);
@@ -27,7 +35,8 @@ int statusOf(const SimulationEnd &end);
 // For people: a sentence a line.
 QStringList summaryOf(const SimulationReport &report);
 
-// The file that --report names, a JSON document.
-QByteArray documentOf(const SimulationReport &report);
+// The file that --report names: for people with the suffix ".txt", for build servers (JUnit) with
+// ".xml", otherwise a JSON document.
+QByteArray documentOf(const SimulationReport &report, const QString &file);
 
 } // namespace Cli

@@ -1,65 +1,13 @@
 #include "config/latin1literal.h"
+#include "elflibrary.h"
 #include "parts.h"
 #include "registers/registerdocs.h"
-
-#include <QLibrary>
-
-#include <gelf.h>
-#include <libelf.h>
-
-#include <memory>
 
 namespace TARVOORIXM1
 {
 
 namespace
 {
-
-// Loaded with the first ELF image, so that programs and plug-ins start without it.
-class ElfLibrary
-{
-public:
-    // Null where the machine does not have it.
-    static const ElfLibrary *instance()
-    {
-        static ElfLibrary library;
-        return library.m_isWhole ? &library : nullptr;
-    }
-
-    decltype(&elf_version) version = nullptr;
-    decltype(&elf_errmsg) errmsg = nullptr;
-    decltype(&elf_memory) memory = nullptr;
-    decltype(&elf_end) end = nullptr;
-    decltype(&elf_kind) kind = nullptr;
-    decltype(&elf_getphdrnum) getphdrnum = nullptr;
-    decltype(&gelf_getehdr) getehdr = nullptr;
-    decltype(&gelf_getphdr) getphdr = nullptr;
-
-    QString reason() const { return QString::fromUtf8(errmsg(-1)); }
-
-private:
-    ElfLibrary()
-    {
-        take("elf_version", &version);
-        take("elf_errmsg", &errmsg);
-        take("elf_memory", &memory);
-        take("elf_end", &end);
-        take("elf_kind", &kind);
-        take("elf_getphdrnum", &getphdrnum);
-        take("gelf_getehdr", &getehdr);
-        take("gelf_getphdr", &getphdr);
-        m_isWhole = m_isWhole && version(EV_CURRENT) != EV_NONE;
-    }
-    template <typename Function>
-    void take(const char *name, Function *function)
-    {
-        *function = m_isWhole ? reinterpret_cast<Function>(m_library.resolve(name)) : nullptr;
-        m_isWhole = *function != nullptr;
-    }
-
-    QLibrary m_library{QStringLiteral("elf"), 1}; // libelf.so.1
-    bool m_isWhole = true;
-};
 
 // What kind of ELF file it is and why that is no program for the processor, as a clause; empty if
 // it is one.
@@ -82,9 +30,8 @@ Utils::Result<FirmwareImage> readElfImage(const QByteArray &bytes)
     if (!library)
         return Utils::Failure{
             QStringLiteral("ELF images need libelf.so.1, which is not installed")};
-    QByteArray copy = bytes; // the library asks for memory of its own, though it only reads
-    const std::unique_ptr<Elf, decltype(library->end)> elf(
-        library->memory(copy.data(), size_t(copy.size())), library->end);
+    QByteArray copy = bytes;
+    const ElfLibrary::Image elf = library->open(copy);
     if (!elf)
         return Utils::Failure{"it is no ELF file: "_l1 + library->reason()};
     // What is something else, or too short to tell, is no mistake to the library.

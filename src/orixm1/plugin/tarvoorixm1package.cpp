@@ -3,6 +3,7 @@
 #include "exportsoftware.h"
 #include "firmware.h"
 #include "movetodevice.h"
+#include "simulationcommand.h"
 #include "tarvoorixm1.h"
 
 #include <core/idecore.h>
@@ -62,6 +63,17 @@ QVariantMap TarvoOrixM1Package::startFromFirmware(const QString &ipcFile, const 
 {
     return TARVOORIXM1::startFromFirmware(ipcFile, folder, write, idOf(dataPath()),
                                           *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::simulationCommand(const QString &ipcFile) const
+{
+    return TARVOORIXM1::simulationCommand(ipcFile, idOf(dataPath()), dataPath(),
+                                          *Core::IdeCore::deviceDataBase());
+}
+
+QVariantList TarvoOrixM1Package::simulationExamples() const
+{
+    return TARVOORIXM1::simulationExamples(dataPath());
 }
 
 } // namespace TARVOORIXM1

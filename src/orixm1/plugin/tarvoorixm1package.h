@@ -37,6 +37,12 @@ public:
     Q_INVOKABLE QVariantMap firmwareFiles(const QString &ipcFile, const QByteArray &image) const;
     Q_INVOKABLE QVariantMap startFromFirmware(const QString &ipcFile, const QString &folder,
                                               bool write);
+
+    // For hosts that ask for it by name: how a program is run on a configured subsystem before
+    // there is hardware, and what can be tried at once; see simulationcommand.h. Nothing is
+    // written.
+    Q_INVOKABLE QVariantMap simulationCommand(const QString &ipcFile) const;
+    Q_INVOKABLE QVariantList simulationExamples() const;
 };
 
 } // namespace TARVOORIXM1

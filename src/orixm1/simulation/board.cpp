@@ -273,8 +273,7 @@ public:
     {
         QString text = "// The board of a simulated subsystem: made, not to be edited.\n"
                        "`timescale 1ns / 1ps\n"_l1 +
-                       QLatin1String(host) + QLatin1String(modules) +
-                       QLatin1String(head) + u'\n';
+                       QLatin1String(host) + QLatin1String(modules) + QLatin1String(head) + u'\n';
         for (const Port &port : m_map.ports)
             text += declaration(port);
         text += u'\n';
@@ -361,16 +360,15 @@ private:
 
     QString driver(const Port &port) const
     {
-        if (isWrapped(port)) {
-            QString text;
-            for (int i = 0; i < port.width() / 2; ++i)
-                text += QStringLiteral("    pulldown (%1[%2]);\n    assign (pull1, pull0) %1[%3] = "
-                                       "%1[%2];\n")
-                            .arg(netOf(port))
-                            .arg(i)
-                            .arg(i + port.width() / 2);
-            return text;
-        }
+        if (isWrapped(port))
+            // Settled levels, so that nothing runs in a circle. A driver of the subsystem is
+            // stronger.
+            return QStringLiteral("    reg [%2:0] follow_%1 = %3'd0;\n"
+                                  "    always @(negedge clk) follow_%1 <= %1[%2:0];\n"
+                                  "    assign (pull1, pull0) %1 = {follow_%1, %3'd0};\n")
+                .arg(netOf(port))
+                .arg(port.width() / 2 - 1)
+                .arg(port.width() / 2);
         if (port.direction != PortDirection::Input || port.needsPullUp || isMemorySignal(port))
             return {};
         return "    assign "_l1 + netOf(port) + " = "_l1 + valueOfInput(port) + ";\n"_l1;

@@ -60,9 +60,14 @@ ProgramBuild programBuild(const SystemMap &map, const QStringList &sources)
                 build.arguments.append("software/"_l1 + file.path);
         }
     }
-    build.files.append({QStringLiteral("software/ending.c"), ending});
-    build.arguments.append(QStringLiteral("software/ending.c"));
+    build.files.append({programEnding(), ending});
+    build.arguments.append(programEnding());
     return build;
+}
+
+QString programEnding()
+{
+    return QStringLiteral("software/ending.c");
 }
 
 } // namespace TARVOORIXM1

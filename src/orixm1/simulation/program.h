@@ -20,4 +20,7 @@ struct ProgramBuild {
 // by semihosting with what main() has returned. It is left in "program.elf".
 ProgramBuild programBuild(const SystemMap &map, const QStringList &sources);
 
+// The file among them that ends the simulation, a path below that folder.
+QString programEnding();
+
 } // namespace TARVOORIXM1

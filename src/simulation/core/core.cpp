@@ -154,6 +154,7 @@ TransferEnd Core::transferOnBus(Transfer &transfer)
     if (unknown != 0)
         m_print("the read from " + hexadecimal(transfer.address) + " brings unknown bits, " +
                 hexadecimal(unknown) + ", which are taken for 0\n");
+    transfer.unknown = unknown;
     transfer.data = fromLanes(m_inputs.data & ~m_inputs.unknown, transfer.address, transfer.bytes);
     return TransferEnd::Done;
 }

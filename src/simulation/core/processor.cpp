@@ -138,6 +138,10 @@ void Processor::tick(std::uint32_t interruptInputs, bool nonMaskableInput, bool 
     m_exceptions.sample(interruptInputs, nonMaskableInput);
     if (m_configuration.hasOsExtension && !isHalted)
         m_system.tick();
+    if (!isHalted) {
+        ++m_statistics.cycles;
+        m_statistics.asleep += m_sleep != Sleep::Awake;
+    }
     if (m_system.pendingWakes() && (m_exceptions.pendingInterrupts() & ~before) != 0)
         m_event = true;
 }
@@ -183,6 +187,11 @@ std::uint32_t Processor::registerValue(int number) const
     return number == 15 ? m_programCounter : m_instructions.value(number);
 }
 
+std::string Processor::statisticsText() const
+{
+    return m_statistics.text(m_hasEnded ? m_ending.programCounter : m_programCounter);
+}
+
 // ---- memory
 
 std::uint8_t *Processor::memoryAt(std::uint32_t address, std::uint32_t bytes) const
@@ -215,6 +224,11 @@ bool Processor::access(Transfer &transfer)
         return false;
     std::string mistake;
     const TransferEnd end = reach(transfer, mistake);
+    if (transfer.isOnBus && end != TransferEnd::Abandoned)
+        m_statistics.countTransfer(transfer.address, transfer.bytes, transfer.isWrite,
+                                   end == TransferEnd::Error, m_programCounter);
+    if (transfer.isOnBus && transfer.unknown != 0)
+        m_statistics.countUnknown(transfer.address, transfer.unknown, m_programCounter);
     if (!mistake.empty())
         refuse(mistake);
     if (end == TransferEnd::Abandoned)
@@ -254,6 +268,7 @@ TransferEnd Processor::reach(Transfer &transfer, std::string &mistake)
                                        : m_system.read(transfer.address, m_running, transfer.data);
         return mistake.empty() ? TransferEnd::Done : TransferEnd::Error;
     }
+    transfer.isOnBus = true;
     return m_surroundings.transfer(transfer);
 }
 
@@ -287,13 +302,16 @@ bool Processor::fillMemory()
 void Processor::start()
 {
     m_isStarted = true;
+    ++m_statistics.starts;
     if (!fillMemory())
         return;
     std::uint32_t stack = 0;
     std::uint32_t entry = 0;
     if (!read(0, 4, stack) || !read(4, 4, entry)) {
-        if (!m_isAbandoned && !m_hasEnded)
+        if (!m_isAbandoned && !m_hasEnded) {
+            m_statistics.countFault(FaultCause::VectorTable, m_programCounter);
             lockUp();
+        }
         return;
     }
     m_instructions.setValue(InstructionSet::stackPointer, stack);
@@ -352,20 +370,21 @@ void Processor::execute()
 {
     const std::uint32_t address = m_programCounter;
     if (!m_isThumb || isExecuteNever(address)) {
-        fault(address);
+        fault(FaultCause::State, address);
         return;
     }
     std::uint16_t first = 0;
     std::uint16_t second = 0;
     if (!fetch(first, second))
         return;
+    ++m_statistics.instructions;
 
     const Instruction instruction = decode(first, second);
     m_hasFaulted = false;
     switch (instruction.kind) {
     case InstructionKind::Access:
         if (isMisaligned(first)) {
-            fault(address);
+            fault(FaultCause::Misaligned, address);
             return;
         }
         break;
@@ -380,7 +399,7 @@ void Processor::execute()
         return;
     m_instructions.restore();
     m_programCounter = address;
-    fault(address);
+    fault(exists ? FaultCause::Bus : FaultCause::Undefined, address);
 }
 
 void Processor::executeSystem(const Instruction &instruction, std::uint16_t first,
@@ -443,7 +462,7 @@ void Processor::executeSystem(const Instruction &instruction, std::uint16_t firs
     case InstructionKind::Computing:
     case InstructionKind::Access:
     case InstructionKind::Undefined:
-        fault(m_programCounter);
+        fault(FaultCause::Undefined, m_programCounter);
         return;
     }
     m_programCounter = next;
@@ -468,7 +487,7 @@ void Processor::popAndBranch(std::uint16_t code)
         if (number < 8 && !(code >> number & 1))
             continue;
         if (!read(stack, 4, values[static_cast<std::size_t>(number)])) {
-            fault(m_programCounter);
+            fault(FaultCause::Bus, m_programCounter);
             return;
         }
         stack += 4;
@@ -504,7 +523,7 @@ void Processor::callSupervisor()
         m_configuration.hasOsExtension &&
         m_exceptions.priority(supervisorCall) < m_exceptions.executionPriority(m_primask);
     if (!isPossible) {
-        fault(m_programCounter);
+        fault(FaultCause::Supervisor, m_programCounter);
         return;
     }
     m_exceptions.setPending(supervisorCall, true);
@@ -592,6 +611,7 @@ void Processor::enter(std::uint32_t returnAddress)
                                                               ? returnToProcessStack
                                                               : returnToMainStack);
     if (!kept) {
+        m_statistics.countFault(FaultCause::Stacking, m_programCounter);
         if (m_exceptions.executionPriority(m_primask) <= hardFaultPriority) {
             lockUp();
             return;
@@ -608,10 +628,12 @@ void Processor::take(int number)
     if (!read(static_cast<std::uint32_t>(4 * number), 4, handler)) {
         if (m_isAbandoned || m_hasEnded)
             return;
+        m_statistics.countFault(FaultCause::VectorTable, m_programCounter);
         lockUp();
         return;
     }
     selectStack(false);
+    m_statistics.countException(number);
     m_exceptions.activate(number);
     m_running = number;
     m_programCounter = handler & ~1u;
@@ -649,6 +671,7 @@ void Processor::leave(std::uint32_t exceptionReturn)
         if (!read(frame + 4 * i, 4, words[i])) {
             if (m_isAbandoned || m_hasEnded)
                 return;
+            m_statistics.countFault(FaultCause::Unstacking, m_programCounter);
             if (m_exceptions.executionPriority(m_primask) <= hardFaultPriority) {
                 lockUp();
                 return;
@@ -684,10 +707,11 @@ void Processor::leave(std::uint32_t exceptionReturn)
         m_sleep = Sleep::UntilInterrupt;
 }
 
-void Processor::fault(std::uint32_t returnAddress)
+void Processor::fault(FaultCause cause, std::uint32_t returnAddress)
 {
     if (m_isAbandoned || m_hasEnded)
         return;
+    m_statistics.countFault(cause, returnAddress);
     if (m_exceptions.executionPriority(m_primask) <= hardFaultPriority) {
         lockUp();
         return;
@@ -698,6 +722,8 @@ void Processor::fault(std::uint32_t returnAddress)
 
 void Processor::lockUp()
 {
+    if (!m_isLockedUp)
+        m_statistics.countLockUp(m_programCounter);
     m_isLockedUp = true;
 }
 
@@ -875,7 +901,7 @@ void Processor::end(bool passed, const std::string &reason)
     if (m_hasEnded)
         return;
     m_hasEnded = true;
-    m_ending = {passed, reason};
+    m_ending = {passed, reason, m_programCounter};
 }
 
 void Processor::refuse(const std::string &what)

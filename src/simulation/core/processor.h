@@ -3,6 +3,7 @@
 #include "decode.h"
 #include "exceptions.h"
 #include "instructionset.h"
+#include "statistics.h"
 #include "systemspace.h"
 
 #include <cstdint>
@@ -23,6 +24,7 @@ struct Transfer {
     // Result of a read from a memory: bits that are neither 0 nor 1, which `data` has as 0. They
     // end the program where it uses them.
     std::uint32_t unknown = 0;
+    bool isOnBus = false; // set where it was made on the bus
 };
 
 enum class TransferEnd {
@@ -46,6 +48,7 @@ public:
 struct Ending {
     bool passed = false;
     std::string reason; // a part of a sentence
+    std::uint32_t programCounter = 0;
 };
 
 // An ARMv6-M processor at the level of instructions: each takes one step, however long its accesses
@@ -84,6 +87,12 @@ public:
     bool isLockedUp() const { return m_isLockedUp; }
     bool isSleeping() const { return m_sleep != Sleep::Awake; }
     bool requestsReset() const { return m_system.resetRequested(); }
+
+    // What has been executed, from the construction on; what a debugger does is left out.
+    Statistics &statistics() { return m_statistics; }
+    const Statistics &statistics() const { return m_statistics; }
+    // Their text, with where the program is, or where it ended.
+    std::string statisticsText() const;
 
     // For messages and tests. `number`: 0 to 15.
     std::uint32_t registerValue(int number) const;
@@ -140,7 +149,7 @@ private:
     void enter(std::uint32_t returnAddress);
     void take(int number);
     void leave(std::uint32_t exceptionReturn);
-    void fault(std::uint32_t returnAddress);
+    void fault(FaultCause cause, std::uint32_t returnAddress);
     void lockUp();
     void selectStack(bool process);
 
@@ -173,6 +182,7 @@ private:
     bool m_hasFaulted = false; // an access of the current instruction
     bool m_hasEnded = false;
     Ending m_ending;
+    Statistics m_statistics;
 };
 
 } // namespace CortexM1

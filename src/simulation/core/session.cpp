@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <fstream>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -45,11 +46,20 @@ Session::Session(Simulator &simulator, const Parameters &parameters, const std::
                  const std::string &memories)
     : m_simulator(simulator)
 {
+    if (const char *file = simulator.argument("statistics"))
+        m_statisticsFile = file;
     try {
         open(parameters, firmware, memories);
     } catch (const std::exception &error) {
         m_mistake = error.what();
     }
+}
+
+Session::~Session()
+{
+    if (m_statisticsFile.empty() || !m_core)
+        return;
+    std::ofstream(m_statisticsFile, std::ios::binary) << m_core->processor().statisticsText();
 }
 
 void Session::open(const Parameters &parameters, std::string firmware, const std::string &memories)

@@ -45,6 +45,8 @@ public:
     // `simulator` outlives the session.
     Session(Simulator &simulator, const Parameters &parameters, const std::string &firmware,
             const std::string &memories);
+    // Writes the statistics where +statistics=FILE asks for them (Statistics::text()).
+    ~Session();
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
@@ -64,7 +66,8 @@ private:
     std::unique_ptr<TcpLink> m_debugger;
     std::unique_ptr<Core> m_core; // or
     std::unique_ptr<ScriptPlayer> m_player;
-    std::string m_mistake; // why there is no core
+    std::string m_statisticsFile; // empty: none
+    std::string m_mistake;        // why there is no core
     std::size_t m_printed = 0;
     bool m_isReported = false;
 };

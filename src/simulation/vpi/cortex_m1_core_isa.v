@@ -1,6 +1,6 @@
 // The processor core for simulation, with its program: the ports and parameters of CortexM1Core, and behind them a model of its
-// instructions in the VPI module "cortexm1core". The file of the program (ELF) is named with +firmware=FILE, or by the
-// environment variable CORTEXM1_FIRMWARE.
+// instructions: the VPI module "cortexm1core", or under Verilator the library "cortexm1core.so". The file of the program (ELF) is
+// named with +firmware=FILE, or by the environment variable CORTEXM1_FIRMWARE.
 //
 // Instruction and data memory are within the model; every other data access is a transfer on AHB-Lite. An instruction takes a clock
 // cycle, or as many as its transfers take: that is no count of the real core's cycles. What the model does not have ends the
@@ -9,7 +9,7 @@
 // With +tcm=rtl (+tcm=model is the default) the memories are those behind the pins: every fetch, vector, load, store and stacked word
 // is an access on the ITCM or DTCM interface, one a clock cycle. The program is what the instruction memory holds from the start
 // ("Initialize ITCM"), or FILE, which is then written over the interface before the first instruction. A read of bits that are
-// neither 0 nor 1 ends the program and tells the address. It is slower, and takes more clock cycles.
+// neither 0 nor 1 ends the program and tells the address (Verilator has no such bits). It is slower, and takes more clock cycles.
 //
 // With +script=FILE the core plays a script of transfers instead of a program, as the bus-functional model does; with +tcm=model
 // its accesses to the memories stay within the model and take as many clock cycles as they take over the interfaces.
@@ -21,6 +21,24 @@
 // Files behind this one without a time scale of their own get this one, unless TARVO_NO_TIMESCALE is defined.
 `ifndef TARVO_NO_TIMESCALE
 `timescale 1ns / 1ps
+`endif
+
+`ifdef VERILATOR
+import "DPI-C" function int cortexm1_open(input string firmware, input int interrupts, os, be8, lower, upper, itcm_size, dtcm_size,
+                                          input string memories);
+import "DPI-C" function void cortexm1_clock(input int handle, input bit [67:0] pins, output bit [76:0] next);
+import "DPI-C" function void cortexm1_clock_memories(input int handle, input bit [67:0] pins, output bit [76:0] next,
+                                                     input bit [63:0] data, output bit [55:0] tcm);
+`define CORTEXM1_OPEN(firmware, memories) \
+    handle = cortexm1_open(string'(firmware), NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, {28'd0, ITCMSIZE}, {28'd0, DTCMSIZE}, \
+                           string'(memories))
+`define CORTEXM1_CLOCK cortexm1_clock
+`define CORTEXM1_CLOCK_MEMORIES cortexm1_clock_memories
+`else
+`define CORTEXM1_OPEN(firmware, memories) \
+    $cortexm1_open(handle, firmware, NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, ITCMSIZE, DTCMSIZE, memories)
+`define CORTEXM1_CLOCK $cortexm1_clock
+`define CORTEXM1_CLOCK_MEMORIES $cortexm1_clock
 `endif
 
 module CortexM1Core #(
@@ -108,8 +126,7 @@ module CortexM1Core #(
         outer_memories = memories == "rtl";
         if (!$value$plusargs("firmware=%s", firmware))
             firmware = "";
-        $cortexm1_open(handle, firmware, NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, ITCMSIZE, DTCMSIZE,
-                       memories);
+        `CORTEXM1_OPEN(firmware, memories);
     end
 
     // The model looks at falling edges, where inputs have settled, and says what the outputs show from the next rising edge
@@ -121,9 +138,9 @@ module CortexM1Core #(
     always @(negedge HCLK) begin
         if (!done) begin
             if (outer_memories)
-                $cortexm1_clock(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next, {DTCMRDATA, ITCMRDATA}, tcm);
+                `CORTEXM1_CLOCK_MEMORIES(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next, {DTCMRDATA, ITCMRDATA}, tcm);
             else
-                $cortexm1_clock(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
+                `CORTEXM1_CLOCK(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
             if (next[73]) begin
                 done = 1'b1;
                 passed = next[72];

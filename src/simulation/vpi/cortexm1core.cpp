@@ -5,17 +5,17 @@
 //   $cortexm1_clock(handle, inputs, outputs)
 //   $cortexm1_clock(handle, inputs, outputs, memory inputs, memory outputs)
 //
-// with inputs {reset, NMI, HREADY, HRESP, IRQ, HRDATA} and outputs {HBURST, done, passed,
-// SYSRESETREQ, LOCKUP, HTRANS, HSIZE, HWRITE, HADDR, HWDATA}. `memories` is "model", or "rtl",
-// where the clock also takes {DTCMRDATA, ITCMRDATA} and gives {ITCMEN, DTCMEN, write enables, word
-// address, write data}.
+// The vectors are those of core/packedpins.h. `memories` is "model", or "rtl", where the clock also
+// takes and gives the memories' pins.
 //
 // With +gdb=PORT a debugger may connect to the port of the loop-back address; 0 takes a free one,
 // and a line says which. The simulation stands still while the debugger has the program halted.
 // Only memories of the model have a debugger.
 #include "boardtasks.h"
 #include "calls.h"
+#include "core/packedpins.h"
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -47,45 +47,29 @@ PLI_INT32 callOpen(PLI_BYTE8 *)
     return 0;
 }
 
-// `memories`: null where they are in the model.
-CortexM1::Inputs inputsOf(vpiHandle pins, vpiHandle memories)
+template <int count>
+std::array<CortexM1::PackedWord, count> wordsOf(vpiHandle vector)
 {
     s_vpi_value value;
     value.format = vpiVectorVal;
-    vpi_get_value(pins, &value);
-    const s_vpi_vecval *words = value.value.vector; // HRDATA, IRQ, {reset, NMI, HREADY, HRESP}
-    const auto isHigh = [&](int bit) {
-        return (static_cast<unsigned>(words[2].aval & ~words[2].bval) >> bit & 1) != 0;
-    };
-    CortexM1::Inputs inputs;
-    inputs.data = static_cast<std::uint32_t>(words[0].aval);
-    inputs.unknown = static_cast<std::uint32_t>(words[0].bval);
-    inputs.interrupts = static_cast<std::uint32_t>(words[1].aval & ~words[1].bval);
-    inputs.isError = isHigh(0);
-    inputs.isReady = isHigh(1);
-    inputs.nonMaskable = isHigh(2);
-    inputs.isReset = isHigh(3);
-    if (memories) {
-        vpi_get_value(memories, &value);
-        inputs.instructionMemory = static_cast<std::uint32_t>(value.value.vector[0].aval);
-        inputs.instructionMemoryUnknown = static_cast<std::uint32_t>(value.value.vector[0].bval);
-        inputs.dataMemory = static_cast<std::uint32_t>(value.value.vector[1].aval);
-        inputs.dataMemoryUnknown = static_cast<std::uint32_t>(value.value.vector[1].bval);
-    }
-    return inputs;
+    vpi_get_value(vector, &value);
+    std::array<CortexM1::PackedWord, count> words;
+    for (int i = 0; i < count; ++i)
+        words[i] = {static_cast<std::uint32_t>(value.value.vector[i].aval),
+                    static_cast<std::uint32_t>(value.value.vector[i].bval)};
+    return words;
 }
 
-void showMemoryPins(vpiHandle pins, const CortexM1::MemoryOutputs &outputs)
+template <int count>
+void show(vpiHandle vector, const std::array<std::uint32_t, count> &words)
 {
-    s_vpi_vecval words[2] = {};
-    words[0].aval = static_cast<PLI_INT32>(outputs.data);
-    words[1].aval = static_cast<PLI_INT32>(outputs.address | outputs.lanes << 18 |
-                                           unsigned(outputs.isData) << 22 |
-                                           unsigned(outputs.isInstruction) << 23);
+    s_vpi_vecval vecvals[count] = {};
+    for (int i = 0; i < count; ++i)
+        vecvals[i].aval = static_cast<PLI_INT32>(words[i]);
     s_vpi_value value;
     value.format = vpiVectorVal;
-    value.value.vector = words;
-    vpi_put_value(pins, &value, nullptr, vpiNoDelay);
+    value.value.vector = vecvals;
+    vpi_put_value(vector, &value, nullptr, vpiNoDelay);
 }
 
 PLI_INT32 callClock(PLI_BYTE8 *)
@@ -96,21 +80,19 @@ PLI_INT32 callClock(PLI_BYTE8 *)
         hasMemories || args.size() == 3 ? static_cast<std::size_t>(Vpi::integer(args[0])) : 0;
     if (number == 0 || number > sessions().size())
         return Vpi::refuseCall("$cortexm1_clock is called without $cortexm1_open");
-    const CortexM1::Outputs outputs =
-        sessions()[number - 1]->clock(inputsOf(args[1], hasMemories ? args[3] : nullptr));
-
-    s_vpi_vecval words[3] = {};
-    words[0].aval = static_cast<PLI_INT32>(outputs.data);
-    words[1].aval = static_cast<PLI_INT32>(outputs.address);
-    words[2].aval = outputs.isWrite | outputs.size << 1 | outputs.isSequential << 4 |
-                    outputs.isTransfer << 5 | outputs.isLockedUp << 6 | outputs.requestsReset << 7 |
-                    outputs.hasPassed << 8 | outputs.isDone << 9 | outputs.burst << 10;
-    s_vpi_value value;
-    value.format = vpiVectorVal;
-    value.value.vector = words;
-    vpi_put_value(args[2], &value, nullptr, vpiNoDelay);
+    CortexM1::Inputs inputs =
+        CortexM1::unpackedInputs(wordsOf<CortexM1::inputWords>(args[1]).data());
     if (hasMemories)
-        showMemoryPins(args[4], outputs.memory);
+        CortexM1::unpackMemories(wordsOf<CortexM1::memoryWords>(args[3]).data(), inputs);
+    const CortexM1::Outputs outputs = sessions()[number - 1]->clock(inputs);
+    std::array<std::uint32_t, CortexM1::outputWords> shown;
+    CortexM1::packOutputs(outputs, shown.data());
+    show<CortexM1::outputWords>(args[2], shown);
+    if (hasMemories) {
+        std::array<std::uint32_t, CortexM1::memoryWords> memories;
+        CortexM1::packMemories(outputs.memory, memories.data());
+        show<CortexM1::memoryWords>(args[4], memories);
+    }
     return 0;
 }
 

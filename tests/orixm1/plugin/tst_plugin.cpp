@@ -66,6 +66,12 @@ private Q_SLOTS:
     void refusesPrograms_data();
     void refusesPrograms();
     void startsTheConfigurationFromAProgram();
+    void tellsHowASubsystemIsSimulated_data();
+    void tellsHowASubsystemIsSimulated();
+    void tellsWhyNothingIsSimulated_data();
+    void tellsWhyNothingIsSimulated();
+    void offersExamplesThatCanBeSimulated();
+    void offersNoExamplesThatAreNotThere();
     void needsNoLibraryThatAHostMayLack();
 
 private:
@@ -74,6 +80,8 @@ private:
     QVariantMap exportSoftware(const QString &file, const QStringList &formats = {});
     QVariantMap firmwareFiles(const QString &file, const QByteArray &image);
     QVariantMap startFromFirmware(const QString &file, const QString &folder, bool write);
+    QVariantMap simulationCommand(const QString &file);
+    QVariantList simulationExamples();
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -812,6 +820,135 @@ void tst_Plugin::startsTheConfigurationFromAProgram()
 }
 
 // A host that has Qt can load the plug-in.
+QVariantMap tst_Plugin::simulationCommand(const QString &file)
+{
+    QVariantMap answer;
+    const bool found =
+        QMetaObject::invokeMethod(plugin(), "simulationCommand", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QVariantMap, answer), Q_ARG(QString, file));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+QVariantList tst_Plugin::simulationExamples()
+{
+    QVariantList list;
+    if (!QMetaObject::invokeMethod(plugin(), "simulationExamples", Qt::DirectConnection,
+                                   Q_RETURN_ARG(QVariantList, list)))
+        qFatal("no method");
+    return list;
+}
+
+void tst_Plugin::tellsHowASubsystemIsSimulated_data()
+{
+    QTest::addColumn<QByteArray>("options");
+    QTest::addColumn<int>("uarts");
+    QTest::addColumn<int>("pins");
+    QTest::newRow("nothing on") << QByteArray() << 0 << 0;
+    QTest::newRow("a UART") << QByteArray("Enable%20UART0=true\n") << 1 << 0;
+    QTest::newRow("the second UART alone")
+        << QByteArray("Enable%20UART1=true\nEnable%20GPIO=true\n") << 2 << 16;
+    QTest::newRow("two UARTs and pins")
+        << QByteArray("Enable%20UART0=true\nEnable%20UART1=true\nEnable%20GPIO=true\n") << 2 << 16;
+}
+
+void tst_Plugin::tellsHowASubsystemIsSimulated()
+{
+    QFETCH(QByteArray, options);
+    QFETCH(int, uarts);
+    QFETCH(int, pins);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    QVERIFY(TestSupport::write(file, "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                                     "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n" +
+                                         options));
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantMap answer = simulationCommand(file);
+    QCOMPARE(answer.value(QStringLiteral("error")), QVariant(QString()));
+    QCOMPARE(QFileInfo(answer.value(QStringLiteral("program")).toString()).canonicalFilePath(),
+             QFileInfo(QStringLiteral(TARVO_COMMAND)).canonicalFilePath());
+    QCOMPARE(answer.value(QStringLiteral("arguments")).toStringList(),
+             (QStringList{QStringLiteral("simulate"), file, QStringLiteral("--live")}));
+    QCOMPARE(answer.value(QStringLiteral("uarts")), QVariant(uarts));
+    QCOMPARE(answer.value(QStringLiteral("pins")), QVariant(pins));
+
+    // Nothing is written.
+    QCOMPARE(TestSupport::entriesOf(dir.path()), QStringList(QStringLiteral("x.ipc")));
+}
+
+void tst_Plugin::tellsWhyNothingIsSimulated_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isInstalled");
+    QTest::addColumn<QString>("named");
+    const QByteArray good = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\nversion=1.0\n";
+    QTest::newRow("no file") << QByteArray() << true << QStringLiteral("x.ipc");
+    QTest::newRow("no device") << QByteArray("[General]\nversion=1.0\n") << true
+                               << QStringLiteral("names no device");
+    QTest::newRow("big-endian data") << QByteArray(good + "[Config]\nBig%20Endian=true\n") << true
+                                     << QStringLiteral("big-endian");
+    QTest::newRow("the program is missing") << good << false << QStringLiteral("orixm1");
+}
+
+void tst_Plugin::tellsWhyNothingIsSimulated()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, isInstalled);
+    QFETCH(QString, named);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    if (!bytes.isEmpty())
+        QVERIFY(TestSupport::write(file, bytes));
+    QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    if (!isInstalled) {
+        data = dir.filePath(QStringLiteral("a/b/c/d/e/f/tarvo_orix_m1"));
+        QVERIFY(QDir().mkpath(QFileInfo(data).path()));
+        // Not a link, whose folders above would be those of the build tree.
+        QProcess copy;
+        copy.start(QStringLiteral("cp"),
+                   {QStringLiteral("-r"), QStringLiteral(TARVO_IP_DATA_DIR), data});
+        QVERIFY(copy.waitForFinished(-1) && copy.exitCode() == 0);
+    }
+    plugin()->setDataPath(data);
+    const QVariantMap answer = simulationCommand(file);
+    const QString error = answer.value(QStringLiteral("error")).toString();
+    QVERIFY2(error.contains(named), qPrintable(error));
+    QCOMPARE(answer.size(), 1);
+}
+
+void tst_Plugin::offersExamplesThatCanBeSimulated()
+{
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantList examples = simulationExamples();
+    QVERIFY(!examples.isEmpty());
+    for (const QVariant &entry : examples) {
+        const QVariantMap example = entry.toMap();
+        const QString configuration = example.value(QStringLiteral("configuration")).toString();
+        const QVariantMap answer = simulationCommand(configuration);
+        QCOMPARE(answer.value(QStringLiteral("error")), QVariant(QString()));
+        QStringList inputs;
+        for (const QVariant &input : answer.value(QStringLiteral("inputs")).toList())
+            inputs.append(input.toMap().value(QStringLiteral("name")).toString());
+        QVERIFY(inputs.contains(example.value(QStringLiteral("input")).toString()));
+        const QStringList files = example.value(QStringLiteral("files")).toStringList();
+        QVERIFY(files.contains(example.value(QStringLiteral("program")).toString()));
+        const QString source = QFileInfo(QStringLiteral(TARVO_EXAMPLE)).path();
+        // They are the repository's own, every one of them.
+        QCOMPARE(TestSupport::contentsOf(configuration),
+                 TestSupport::contentsOf(source + u'/' + QFileInfo(configuration).fileName()));
+        for (const QString &file : files)
+            QCOMPARE(TestSupport::contentsOf(file),
+                     TestSupport::contentsOf(source + QStringLiteral("/firmware/") +
+                                             QFileInfo(file).fileName()));
+    }
+}
+
+void tst_Plugin::offersNoExamplesThatAreNotThere()
+{
+    QTemporaryDir dir;
+    plugin()->setDataPath(dir.path());
+    QVERIFY(simulationExamples().isEmpty());
+}
+
 void tst_Plugin::needsNoLibraryThatAHostMayLack()
 {
     QProcess objdump;
