@@ -91,6 +91,8 @@ struct SimulateArguments {
     QString uart1;                   // as `uart0`, which may be "pty"; empty: nowhere
     bool readsStandardInput = false; // for the UART that is on the terminal
     bool live = false;
+
+    QString script; // of transfers, in place of a program; empty: none
 };
 
 // Each runs one command and returns the exit status; messages have been printed then.

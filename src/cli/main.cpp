@@ -269,6 +269,7 @@ int run(int argc, char *argv[])
         "simulate", "Run a program for the processor on the subsystem's RTL or netlist");
     std::string program;
     std::vector<std::string> cFiles;
+    std::string script;
     std::string uart0;
     std::string uart1;
     quint64 timeout = 10000000;
@@ -290,6 +291,11 @@ int run(int argc, char *argv[])
                      "C files, compiled with what is exported for the configuration; returning "
                      "from main() ends the run: 0 has passed")
         ->type_name("FILE ...");
+    programGroup
+        ->add_option("--script", script,
+                     "Script of bus transfers, played in place of a program; it has passed if all "
+                     "of its checks have")
+        ->type_name("FILE");
     programGroup->require_option(0, 1);
     CLI::Option *uart0Option =
         simulateCommand
@@ -440,6 +446,7 @@ int run(int argc, char *argv[])
             arguments.flashResult = text(flashResult);
             arguments.sdResult = text(cardResult);
             arguments.crossesUarts = uartLines == "crossed";
+            arguments.script = text(script);
             return Cli::runSimulate(environment, arguments);
         };
     });
@@ -479,7 +486,7 @@ int run(int argc, char *argv[])
     std::vector<const std::string *> paths;
     for (const std::string *path : {&file, &image, &netlist, &outDir, &dataFolder, &deviceFolder})
         paths.push_back(path);
-    for (const std::string *path : {&program, &waves})
+    for (const std::string *path : {&program, &script, &waves})
         paths.push_back(path);
     for (const std::string *path : {&board, &writeBoard})
         paths.push_back(path);

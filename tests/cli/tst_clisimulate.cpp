@@ -500,6 +500,112 @@ private Q_SLOTS:
         QVERIFY(!run.out.contains('A' + bytes.mid(1, 1)));
     }
 
+    void theExamplesScriptPasses()
+    {
+        const Run run = simulate({example, QStringLiteral("--script"),
+                                  QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.play"),
+                                  QStringLiteral("--report"), path("run.json")});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QVERIFY(run.err.startsWith(QLatin1String("orixm1: Passed after ")));
+        QVERIFY(!run.err.contains(QLatin1String("instruction counts")));
+        const QJsonObject report = jsonIn("run.json");
+        QCOMPARE(report.value(QLatin1String("result")).toString(), QStringLiteral("passed"));
+        QCOMPARE(report.value(QLatin1String("script")).toString(),
+                 QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.play"));
+        QVERIFY(report.value(QLatin1String("checks")).toInt() > 50);
+        QCOMPARE(report.value(QLatin1String("failures")).toInt(-1), 0);
+        QVERIFY(!report.contains(QLatin1String("firmware")));
+    }
+
+    // Failures are told with full paths, as they come and in the report.
+    void aScriptIsToldWithItsLines()
+    {
+        const QString folder = path("of scripts %");
+        QVERIFY(QDir().mkpath(folder + QLatin1String("/sub")));
+        TestSupport::write(folder + QLatin1String("/main.play"),
+                           "write 0x50004008 1 # CTRL of UART0\n"
+                           "write 0x50004000 0x48\n"
+                           "include sub/more.play\n"
+                           "expect-uart 0 \"Ho\" 3000\n"
+                           "expect-uart 1 \"x\" 0\n");
+        TestSupport::write(folder + QLatin1String("/sub/more.play"),
+                           "write 0x50004000 0x69\nread 0x50004008 2\nread 0x50004008 1\n");
+        const Run run = simulate(QStringList{example} +
+                                 words({"--script", "of scripts %/main.play", "--report", "r"}));
+        const QStringList failures = {
+            folder + QLatin1String("/sub/more.play:2: read 0x00000001, expected 0x00000002 in the "
+                                   "bits 0xffffffff"),
+            folder + QLatin1String("/main.play:4: UART0 has sent \"Hi\" instead of \"Ho\""),
+            folder + QLatin1String("/main.play:5: UART1 has sent nothing instead of \"x\"")};
+        QVERIFY2(run.status == 1, qPrintable(run.err));
+        QCOMPARE(run.out, QByteArray("Hi"));
+        QVERIFY2(
+            run.err.startsWith(failures.join(u'\n') + QLatin1String("\norixm1: Failed after ")),
+            qPrintable(run.err));
+        QVERIFY2(run.err.contains(QLatin1String(": 3 failures in 7 checks, the first one: ") +
+                                  failures.first() + u'.'),
+                 qPrintable(run.err));
+        const QJsonObject report = jsonIn("r");
+        QCOMPARE(report.value(QLatin1String("checks")).toInt(), 7);
+        QCOMPARE(report.value(QLatin1String("failures")).toInt(), 3);
+        const QJsonArray failed = report.value(QLatin1String("failed")).toArray();
+        QCOMPARE(failed.size(), 3);
+        for (int i = 0; i < 3; ++i) {
+            const QJsonObject one = failed.at(i).toObject();
+            QCOMPARE(QString(one.value(QLatin1String("file")).toString() + u':' +
+                             QString::number(one.value(QLatin1String("line")).toInt()) +
+                             QLatin1String(": ") + one.value(QLatin1String("text")).toString()),
+                     failures.at(i));
+        }
+    }
+
+    void tellsHowAScriptEnds_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QByteArray>("config");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("told");
+        const QByteArray gpio = "Enable%20GPIO=true\n";
+        QTest::newRow("no check") << QByteArray("wait 5\n") << gpio << 1
+                                  << QStringLiteral(": the script checks nothing.");
+        QTest::newRow("no line") << QByteArray() << gpio << 1
+                                 << QStringLiteral(": the script checks nothing.");
+        QTest::newRow("a mistake") << QByteArray("write 0x40000004 1\njump\n") << gpio << 1
+                                   << QStringLiteral("script:2: unknown command");
+        QTest::newRow("an included script that is missing")
+            << QByteArray("include nowhere\n") << gpio << 1
+            << QStringLiteral("/nowhere\" cannot be read");
+        QTest::newRow("no end") << QByteArray("read 0x40000004 0\nwait 0xFFFFFFFF\n") << gpio << 124
+                                << QStringLiteral(": the script has not ended.");
+        QTest::newRow("a flood of failures")
+            << QByteArray("repeat 2000\nread 0x40000004 1\nend\n") << gpio << 1
+            << QStringLiteral("Of the failures the first 1000 are told.");
+        QTest::newRow("memories") << QByteArray("write8 0x20000003 0xAB\nread8 0x20000003 0xAB\n"
+                                                "write 0x10 7\nread16 0x10 7\n")
+                                  << gpio << 0 << QStringLiteral("Passed after ");
+        QTest::newRow("a burst") << QByteArray("pipeline on\nwrite 0x40000004 5\nburst-read single "
+                                               "0x40000004 5 0\n")
+                                 << gpio << 0 << QStringLiteral("Passed after ");
+        QTest::newRow("big-endian data, which is the program's")
+            << QByteArray("write 0x40000004 5\nread8 0x40000004 5\n")
+            << QByteArray(gpio + "Big%20Endian=true\n") << 0 << QStringLiteral("Passed after ");
+    }
+
+    void tellsHowAScriptEnds()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QByteArray, config);
+        QFETCH(int, status);
+        QFETCH(QString, told);
+        TestSupport::write(path("x.ipc"), plain + config);
+        TestSupport::write(path("script"), script);
+        const Run run = simulate(words({"x.ipc", "--script", "script", "--timeout", "20000"}));
+        QVERIFY2(run.status == status, qPrintable(run.err));
+        QVERIFY2(run.err.contains(told), qPrintable(run.err));
+        QVERIFY(run.err.count(u'\n') < 1010);
+        QCOMPARE(run.out, QByteArray());
+    }
+
     void takesAProgramThatIsCompiledAlready()
     {
         TestSupport::write(path("a b.c"), "int main(void) { __asm__ volatile(\"bkpt 0\"); for (;;) "
@@ -525,6 +631,10 @@ private Q_SLOTS:
         QTest::newRow("no program") << words({}) << QStringLiteral("--firmware");
         QTest::newRow("two programs")
             << words({"--firmware", "a", "--c", "b"}) << QStringLiteral("--firmware");
+        QTest::newRow("a program and a script")
+            << words({"--firmware", "a", "--script", "b"}) << QStringLiteral("--script");
+        QTest::newRow("a result over the script")
+            << words({"--script", "a", "--report", "./a"}) << QStringLiteral("--report");
         QTest::newRow("no time") << words({"--c", "a", "--timeout", "0"})
                                  << QStringLiteral("--timeout");
         QTest::newRow("no name of a file")
@@ -589,6 +699,10 @@ private Q_SLOTS:
             << words({"--firmware", "a.elf"}) << uart << QStringLiteral("a.elf\" cannot be read");
         QTest::newRow("no program") << words({"--firmware", "wrong.c"}) << uart
                                     << QStringLiteral("wrong.c\" cannot be used");
+        QTest::newRow("no such script")
+            << words({"--script", "a.play"}) << uart << QStringLiteral("a.play\" cannot be read");
+        QTest::newRow("a folder in place of a script")
+            << words({"--script", "."}) << uart << QStringLiteral("\" cannot be read");
         QTest::newRow("a program that is too large")
             << words({"--c", "large.c"}) << uart << QStringLiteral("overflow");
         QTest::newRow("big-endian data")

@@ -73,7 +73,7 @@ time-scales) # none of the board changes what the model does, wherever the board
     play() { # FILES [DEFINE]
         # shellcheck disable=SC2086
         iverilog -g2005 -DHAVE_CortexM1Core "-D${2:-X}" -s sensor_node_tb -o sim $1
-        result=$(timeout 60 vvp -n sim "+script=$examples/sensor-node.play" +finish) || fail "$1: no end"
+        result=$(timeout 60 vvp -n sim "+script=$examples/sensor-node-tb.play" +finish) || fail "$1: no end"
         [[ $result == PASS ]] || fail "$1: $result"
     }
     play "none.v $model $bfm"

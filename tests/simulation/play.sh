@@ -32,7 +32,7 @@ play() { # SCRIPT: prints what the simulation prints
 }
 
 if [[ $case != mistakes ]]; then
-    result=$(play "$examples/sensor-node.play")
+    result=$(play "$examples/sensor-node-tb.play")
     [[ $result == PASS ]] || fail "$result"
     exit 0
 fi

@@ -89,8 +89,8 @@ if [[ $case == example ]]; then
         "$examples/sensor-node-tb.v"
     analyse 93 "$examples/sensor-node-tb.vhd" "$net.vho"
     analyse 08 "$examples/sensor-node-tb.vhd" "$net.vho"
-    [[ $(both "$examples/sensor-node.play") == PASS ]] || fail "the example: $(verilog "$examples/sensor-node.play")"
-    [[ $(vhdl "$examples/sensor-node.play" 08) == PASS ]] || fail "VHDL of 2008"
+    [[ $(both "$examples/sensor-node-tb.play") == PASS ]] || fail "the example: $(verilog "$examples/sensor-node-tb.play")"
+    [[ $(vhdl "$examples/sensor-node-tb.play" 08) == PASS ]] || fail "VHDL of 2008"
     # The mistakes one after the other: the start of a simulation takes long.
     count=0
     expect() { # as below
@@ -277,6 +277,12 @@ expect "line 1: not a number" "read 0x40000000 0xx"
 expect "line 1: not a number" "wait -"
 expect "line 1: a number of more than 32 bits" "read 0x40000000 4294967296"
 expect "line 1: a number of more than 32 bits" "read 0x140000000 0"
+expect "line 2: read 0x00000000, expected 0x00000001" "wait 0" "poll 0x40001000 1 1 3" "poll 0x40002000 0 1 0" "write 0x40000000 1"
+expect "line 1: error response" "poll 0x50001000 0 0 5" "write 0x40000000 1"
+expect "line 2: the interrupt input does not get the level" "irq 5 0 9" "irq 3 1 5" "write 0x40000000 1" "irq 35 3 0"
+expect "line 2: the non-maskable interrupt does not get the level" "nmi 0 9" "nmi 1 4" "write 0x40000000 1"
+expect "line 2: read 0x00000000, expected 0x00000001" "pipeline on" "read 0x40003000 1" "jump" "write 0x40000000"
+expect "line 2: read 0x00000000, expected 0x00000001" "pipeline on" "read 0x40003000 1" "burst-read wrap5 0" "pipeline maybe"
 expect "line 1: unknown command" "$(many 240)write 1"
 expect "line 2: a line of more than 255 characters" "read 0x40000000 0 # $(many 237)" "read 0x40000000 0 # $(many 238)" "jump"
 expect "line 3: unknown command" "" "# $(many 600)" "jump"

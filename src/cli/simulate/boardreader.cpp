@@ -103,6 +103,14 @@ void BoardReader::takeEvent(const QStringList &words)
     } else if (kind == QLatin1String("lockup")) {
         if (m_end.lockedUpAt < 0)
             m_end.lockedUpAt = word(1).toLongLong();
+    } else if (kind == QLatin1String("failure")) {
+        // Of the model, when it plays a script.
+        const QString file = QString::fromUtf8(QByteArray::fromPercentEncoding(word(2).toLatin1()));
+        takeFailure({file, word(1).toInt(), words.mid(3).join(u' ')});
+    } else if (kind == QLatin1String("checks")) {
+        m_end.hasCounts = true;
+        m_end.checks = word(1).toLongLong();
+        m_end.failures = word(2).toLongLong();
     } else if (kind == QLatin1String("empty")) {
         m_end.emptyBlocks.append(word(1).mid(int(sizeof "board.dut")));
     } else if (kind == QLatin1String("end")) {
@@ -112,6 +120,13 @@ void BoardReader::takeEvent(const QStringList &words)
                                                              : SimulationEnd::Failed;
         m_end.cycles = word(2).toULongLong();
     }
+}
+
+void BoardReader::takeFailure(const ScriptFailure &failure)
+{
+    ++m_end.failures;
+    m_end.failed.append(failure);
+    m_listener.checkFailed(failure);
 }
 
 void BoardReader::takeByte(int uart, char byte)

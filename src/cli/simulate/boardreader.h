@@ -37,6 +37,7 @@ private:
     void release();
     void takeVerdict();
     void takeEvent(const QStringList &words);
+    void takeFailure(const ScriptFailure &failure);
     void takeByte(int uart, char byte);
 
     const QString m_begin;

@@ -45,6 +45,8 @@ public:
         Q_UNUSED(levels)
         Q_UNUSED(driven)
     }
+    // A check of a script has failed, or a line of it is none.
+    virtual void checkFailed(const ScriptFailure &failure) { Q_UNUSED(failure) }
     // Now and then: clock cycles from the end of the power-on reset.
     virtual void timePassed(quint64 cycles) { Q_UNUSED(cycles) }
 
@@ -57,6 +59,14 @@ public:
     {
         Q_UNUSED(severity)
         Q_UNUSED(text)
+    }
+    // Something that the program did, with its place in C: a full path and a line.
+    virtual void toldAt(Severity severity, const QString &text, const QString &file, int line)
+    {
+        Q_UNUSED(severity)
+        Q_UNUSED(text)
+        Q_UNUSED(file)
+        Q_UNUSED(line)
     }
     // Last of all, once.
     virtual void ended(const Outcome &outcome) { Q_UNUSED(outcome) }

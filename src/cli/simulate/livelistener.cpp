@@ -208,6 +208,16 @@ void LiveListener::compilerSaid(const QString &line)
         tellMessage(message->severity, message->text, message->file, message->line);
 }
 
+void LiveListener::toldAt(Severity severity, const QString &text, const QString &file, int line)
+{
+    tellMessage(severity, text, file, line);
+}
+
+void LiveListener::checkFailed(const ScriptFailure &failure)
+{
+    tellMessage(Severity::Error, failure.text, failure.file, failure.line);
+}
+
 void LiveListener::told(Severity severity, const QString &text)
 {
     const QString trimmed = text.trimmed();

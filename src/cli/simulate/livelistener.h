@@ -36,6 +36,8 @@ public:
     void stageBegun(Stage stage) override;
     void compilerSaid(const QString &line) override;
     void told(Severity severity, const QString &text) override;
+    void toldAt(Severity severity, const QString &text, const QString &file, int line) override;
+    void checkFailed(const ScriptFailure &failure) override;
     void ended(const Outcome &outcome) override;
 
 private:

@@ -96,6 +96,19 @@ void insert(QJsonObject &object, const RunDetails &details)
         object.insert(QStringLiteral("sourcePlaces"), details.problem);
 }
 
+void insertScript(QJsonObject &object, const SimulationReport &report)
+{
+    QJsonArray failed;
+    for (const ScriptFailure &failure : report.end.failed)
+        failed.append(QJsonObject{{QStringLiteral("file"), failure.file},
+                                  {QStringLiteral("line"), failure.line},
+                                  {QStringLiteral("text"), failure.text}});
+    object.insert(QStringLiteral("script"), report.arguments.script);
+    object.insert(QStringLiteral("checks"), report.end.checks);
+    object.insert(QStringLiteral("failures"), report.end.failures);
+    object.insert(QStringLiteral("failed"), failed);
+}
+
 QString blockName(const QString &name)
 {
     return name.isEmpty() ? QStringLiteral("no block") : name;
@@ -247,6 +260,8 @@ QString modelNote()
 
 QString programName(const SimulateArguments &arguments)
 {
+    if (!arguments.script.isEmpty())
+        return arguments.script;
     return arguments.sources.isEmpty() ? arguments.firmware
                                        : arguments.sources.join(QLatin1String(", "));
 }
@@ -269,15 +284,19 @@ QByteArray jsonReport(const SimulationReport &report)
     for (const int number : numbers)
         lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
                                  {QStringLiteral("bytes"), end.uartBytes[number]}});
-    QJsonObject object{{QStringLiteral("result"), resultName(end.result)},
-                       {QStringLiteral("reason"), reasonOf(end)},
-                       {QStringLiteral("configuration"), arguments.file},
-                       {QStringLiteral("clockCycles"), qint64(end.cycles)},
-                       {QStringLiteral("timeout"), qint64(arguments.timeout)},
-                       {QStringLiteral("uarts"), lines},
-                       {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(end.emptyBlocks)},
-                       {QStringLiteral("note"), modelNote()}};
-    if (arguments.sources.isEmpty())
+    QJsonObject object{
+        {QStringLiteral("result"), resultName(end.result)},
+        {QStringLiteral("reason"), reasonOf(end)},
+        {QStringLiteral("configuration"), arguments.file},
+        {QStringLiteral("clockCycles"), qint64(end.cycles)},
+        {QStringLiteral("timeout"), qint64(arguments.timeout)},
+        {QStringLiteral("uarts"), lines},
+        {QStringLiteral("emptyBlocks"), QJsonArray::fromStringList(end.emptyBlocks)}};
+    if (!end.isScript)
+        object.insert(QStringLiteral("note"), modelNote());
+    if (end.isScript)
+        insertScript(object, report);
+    else if (arguments.sources.isEmpty())
         object.insert(QStringLiteral("firmware"), arguments.firmware);
     else
         object.insert(QStringLiteral("sources"), QJsonArray::fromStringList(arguments.sources));
@@ -293,6 +312,8 @@ QByteArray textReport(const SimulationReport &report)
     QStringList lines = summaryOf(report);
     lines += {QString(), QLatin1String("Configuration: ") + report.arguments.file,
               QLatin1String("Program: ") + programName(report.arguments)};
+    for (const ScriptFailure &failure : report.end.failed)
+        lines.append(failureText(failure));
     if (report.details)
         append(lines, *report.details);
     return lines.join(u'\n').toUtf8() + '\n';

@@ -109,8 +109,10 @@ public:
         m_listener->stageBegun(Stage::Run);
         m_end = m_simulation->play(*m_engine, plusArguments(), *m_listener);
         m_outside->close();
+        m_end.isScript = isScript();
         explainEnd();
         readDetails();
+        tellPlaces();
         const int status = writeResults();
         m_listener->ended(
             {m_end.result, status, reasonOf(m_end), m_end.cycles, summaryOf(report())});
@@ -118,6 +120,26 @@ public:
     }
 
 private:
+    bool isScript() const { return !m_arguments.script.isEmpty(); }
+
+    // What the summary says of places, for those who want to go there.
+    void tellPlaces()
+    {
+        if (!m_details)
+            return;
+        const auto tell = [this](Severity severity, const QString &text, const RunPlace &place) {
+            if (!place.source.file.isEmpty())
+                m_listener->toldAt(severity, text, place.source.file, place.source.line);
+        };
+        for (const auto &error : qAsConst(m_details->errors))
+            tell(Severity::Warning, QLatin1String("Bus error: ") + busErrorText(error),
+                 error.place);
+        for (const auto &fault : qAsConst(m_details->faults))
+            tell(Severity::Warning, QLatin1String("Hard fault: ") + fault.cause, fault.place);
+        if (const RunPlace *place = failurePlaceOf(report()))
+            tell(Severity::Error, reasonOf(m_end), *place);
+    }
+
     int giveUp(const Stop &stop)
     {
         Outcome outcome;
@@ -210,10 +232,13 @@ private:
                              "--write-board simulates nothing: it takes no program and no --live.")
                        : Stop{};
         if (!m_arguments.hasProgram && m_arguments.tcm != QLatin1String("rtl"))
-            return wrong("A program is needed: --c or --firmware; or --tcm rtl, with which the "
-                         "program is what the instruction memory holds from the start.");
+            return wrong(
+                "A program is needed: --c, --firmware or --script; or --tcm rtl, with which the "
+                "program is what the instruction memory holds from the start.");
         if (m_arguments.gdbPort >= 0 && m_arguments.tcm == QLatin1String("rtl"))
             return wrong("--gdb needs the memories of the model: it does not go with --tcm rtl.");
+        if (m_arguments.gdbPort >= 0 && isScript())
+            return wrong("--gdb needs a program: it does not go with --script.");
         if (m_arguments.uart0 == QLatin1String("-") && m_arguments.uart1 == QLatin1String("-"))
             return wrong("--uart0 - and --uart1 -: only one UART can be on the terminal.");
         if (m_arguments.live && shownUart() >= 0)
@@ -251,6 +276,8 @@ private:
             taken.append(fullPath(m_arguments.firmware));
         if (!m_arguments.board.isEmpty())
             taken.append(fullPath(m_arguments.board));
+        if (isScript())
+            taken.append(fullPath(m_arguments.script));
         for (const QString &source : m_arguments.sources)
             taken.append(fullPath(source));
         for (const BoardFile &file : boardFiles) {
@@ -302,7 +329,7 @@ private:
             return stop;
         }
         m_map = systemMap(m_document.options, m_document.device, *description);
-        if (m_map.processor.isBigEndian)
+        if (m_map.processor.isBigEndian && !isScript())
             return {BadInput, quoted(m_document.path) +
                                   QLatin1String(" cannot be simulated: the model of the processor "
                                                 "has no big-endian data.")};
@@ -424,7 +451,10 @@ private:
     Stop build()
     {
         QByteArray image;
-        if (!m_arguments.firmware.isEmpty()) {
+        if (isScript()) {
+            if (const Stop stop = checkScript(); stop.status != Done)
+                return stop;
+        } else if (!m_arguments.firmware.isEmpty()) {
             if (const Stop stop = readProgram(m_arguments.firmware, &image); stop.status != Done)
                 return stop;
         }
@@ -485,6 +515,17 @@ private:
         return result ? Stop{} : Stop{Failed, result.reason()};
     }
 
+    // It is read where it stands, as is what it includes.
+    Stop checkScript() const
+    {
+        const QString path = fullPath(m_arguments.script);
+        QByteArray bytes;
+        QString reason;
+        if (!Reading::readPlainFile(path, Reading::Limits::script, &bytes, &reason))
+            return {BadInput, quoted(path) + QLatin1String(" cannot be read: ") + reason + u'.'};
+        return {};
+    }
+
     // A program that the instruction memory takes.
     Stop readProgram(const QString &file, QByteArray *bytes) const
     {
@@ -508,6 +549,8 @@ private:
                                  QLatin1String("tcm=") + m_arguments.tcm};
         if (!m_arguments.firmware.isEmpty() || !m_arguments.sources.isEmpty())
             arguments.append(QLatin1String("firmware=") + programFile());
+        if (isScript())
+            arguments.append(QLatin1String("script=") + fullPath(m_arguments.script));
         if (m_arguments.gdbPort >= 0)
             arguments.append(QStringLiteral("gdb=%1").arg(m_arguments.gdbPort));
         arguments += m_outside->plusArguments();

@@ -4,9 +4,25 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace Cli
 {
+
+// What a script found wrong.
+struct ScriptFailure {
+    QString file; // a full path
+    int line = 0; // from 1; 0: the file as a whole
+    QString text;
+};
+
+// "FILE:LINE: TEXT"
+inline QString failureText(const ScriptFailure &failure)
+{
+    return failure.line == 0 ? failure.text
+                             : failure.file + u':' + QString::number(failure.line) +
+                                   QLatin1String(": ") + failure.text;
+}
 
 // How a simulation came to its end.
 struct SimulationEnd {
@@ -21,6 +37,12 @@ struct SimulationEnd {
     QMap<int, qint64> uartBytes; // how many these were
 
     bool hasEndedByItself = false; // nobody has told the end
+
+    bool isScript = false;  // what was played; only then what follows counts
+    bool hasCounts = false; // it has come to its end
+    qint64 checks = 0;
+    qint64 failures = 0;           // of checks and of lines with a mistake
+    QVector<ScriptFailure> failed; // these, up to a limit of the model
 };
 
 } // namespace Cli

@@ -19,6 +19,12 @@ QString counted(quint64 count, const char *what)
         count == 1 ? QLatin1String(", at ") : QLatin1String("s, the first one at "));
 }
 
+QString numbered(qint64 number, const char *what)
+{
+    return QStringLiteral("%1 %2%3").arg(number).arg(QLatin1String(what),
+                                                     number == 1 ? QString() : QStringLiteral("s"));
+}
+
 // Where things went wrong: a few lines.
 QStringList placesOf(const SimulationReport &report)
 {
@@ -48,6 +54,19 @@ QStringList placesOf(const SimulationReport &report)
     if (!hasLine && !details.problem.isEmpty())
         lines.append(details.problem);
     return lines;
+}
+
+// Why a script that has ended did not pass; empty: it did.
+QString scriptReason(const SimulationEnd &end)
+{
+    if (end.failures == 0)
+        return end.checks == 0 ? QStringLiteral("the script checks nothing") : QString();
+    QString text = QStringLiteral("%1 in %2")
+                       .arg(numbered(end.failures, "failure"), numbered(end.checks, "check"));
+    if (!end.failed.isEmpty())
+        text += QLatin1String(end.failures == 1 ? ": " : ", the first one: ") +
+                failureText(end.failed.first());
+    return text;
 }
 
 } // namespace
@@ -84,9 +103,10 @@ int statusOf(const SimulationEnd &end)
 
 QString reasonOf(const SimulationEnd &end)
 {
-    QString text = end.reason;
+    QString text = end.isScript && end.hasCounts ? scriptReason(end) : end.reason;
     if (end.result == SimulationEnd::TimeLimit)
-        text = QStringLiteral("the program has not ended");
+        text = end.isScript ? QStringLiteral("the script has not ended")
+                            : QStringLiteral("the program has not ended");
     if (end.lockedUpAt >= 0)
         text += (text.isEmpty() ? QString() : QStringLiteral("; ")) +
                 QStringLiteral("the processor locked up at clock cycle %1").arg(end.lockedUpAt);
@@ -118,6 +138,9 @@ QStringList summaryOf(const SimulationReport &report)
     if (const QString why = reasonOf(end); !why.isEmpty())
         line += QLatin1String(": ") + why;
     lines.append(line + u'.');
+    if (end.failures > end.failed.size())
+        lines.append(
+            QStringLiteral("Of the failures the first %1 are told.").arg(end.failed.size()));
     lines += placesOf(report);
     QStringList sent;
     const QVector<int> numbers = uartsOf(report.map);
@@ -127,10 +150,12 @@ QStringList summaryOf(const SimulationReport &report)
     if (!sent.isEmpty())
         lines.append(sent.join(QLatin1String(", ")) + u'.');
     if (!end.emptyBlocks.isEmpty())
-        lines.append(QLatin1String("Licensed blocks are empty here and answer with bus errors; the "
-                                   "program has accessed ") +
-                     end.emptyBlocks.join(QLatin1String(", ")) + u'.');
-    lines.append(modelNote());
+        lines.append(
+            QLatin1String("Licensed blocks are empty here and answer with bus errors; the ") +
+            QLatin1String(end.isScript ? "script" : "program") + QLatin1String(" has accessed ") +
+            end.emptyBlocks.join(QLatin1String(", ")) + u'.');
+    if (!end.isScript)
+        lines.append(modelNote());
     return lines;
 }
 

@@ -82,4 +82,10 @@ void Terminal::ended(const Outcome &outcome)
         printError(line);
 }
 
+// The model limits how many there are.
+void Terminal::checkFailed(const ScriptFailure &failure)
+{
+    printText(stderr, failureText(failure).toStdString() + '\n');
+}
+
 } // namespace Cli

@@ -25,6 +25,7 @@ public:
     void compilerSaid(const QString &line) override;
     void told(Severity severity, const QString &text) override;
     void ended(const Outcome &outcome) override;
+    void checkFailed(const ScriptFailure &failure) override;
 
 private:
     enum Source { Nobody, Uart, Text };

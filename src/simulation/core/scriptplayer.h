@@ -129,8 +129,7 @@ private:
 
     Memory m_memories[2];     // of instructions, of data
     std::string m_sent[2];    // by each UART, not yet expected
-    std::uint32_t m_pins = 0; // levels
-    bool m_hasPins = false;
+    std::uint32_t m_pins = 0; // levels; low until the board tells of them
 };
 
 } // namespace CortexM1

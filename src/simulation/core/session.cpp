@@ -182,7 +182,7 @@ void Session::tell(const ScriptFailure &failure)
         m_simulator.print(failure.text + '\n');
     else
         m_simulator.print(failure.file + ':' + line + ": " + failure.text + '\n');
-    if (m_player->failures() == mostFailures)
+    if (m_player->failures() == mostFailures && !mark)
         m_simulator.print("(further failures are only counted)\n");
 }
 
