@@ -500,18 +500,29 @@ private Q_SLOTS:
         QVERIFY(!run.out.contains('A' + bytes.mid(1, 1)));
     }
 
-    void theExamplesScriptPasses()
+    void theExamplesScriptsPass_data()
     {
-        const Run run = simulate({example, QStringLiteral("--script"),
-                                  QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.play"),
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QByteArray>("out");
+        QTest::newRow("transfers")
+            << QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.play") << QByteArray(">");
+        QTest::newRow("what the board hears and does")
+            << QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node-board.play") << QByteArray(">Ok\n");
+    }
+
+    void theExamplesScriptsPass()
+    {
+        QFETCH(QString, script);
+        QFETCH(QByteArray, out);
+        const Run run = simulate({example, QStringLiteral("--script"), script,
                                   QStringLiteral("--report"), path("run.json")});
+        QCOMPARE(run.out, out);
         QVERIFY2(run.status == 0, qPrintable(run.err));
         QVERIFY(run.err.startsWith(QLatin1String("orixm1: Passed after ")));
         QVERIFY(!run.err.contains(QLatin1String("instruction counts")));
         const QJsonObject report = jsonIn("run.json");
         QCOMPARE(report.value(QLatin1String("result")).toString(), QStringLiteral("passed"));
-        QCOMPARE(report.value(QLatin1String("script")).toString(),
-                 QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.play"));
+        QCOMPARE(report.value(QLatin1String("script")).toString(), script);
         QVERIFY(report.value(QLatin1String("checks")).toInt() > 50);
         QCOMPARE(report.value(QLatin1String("failures")).toInt(-1), 0);
         QVERIFY(!report.contains(QLatin1String("firmware")));
@@ -586,6 +597,22 @@ private Q_SLOTS:
         QTest::newRow("a burst") << QByteArray("pipeline on\nwrite 0x40000004 5\nburst-read single "
                                                "0x40000004 5 0\n")
                                  << gpio << 0 << QStringLiteral("Passed after ");
+        QTest::newRow("pins that do not show it")
+            << QByteArray("write 0x40000008 1\nwrite 0x40000004 1\ngpio 3 3 50\n") << gpio << 1
+            << QStringLiteral("script:3: the GPIO pins show 0x0101, expected 0x0003 in the pins "
+                              "0x0003");
+        QTest::newRow("pins that are driven from outside")
+            << QByteArray("gpio-drive 2 2\nwrite 0x40000008 1\nwrite 0x40000004 1\n"
+                          "gpio 3 3 50\nread 0x40000000 3 3\n")
+            << gpio << 0 << QStringLiteral("Passed after ");
+        QTest::newRow("a byte that is still on its way")
+            << QByteArray("uart 0 \"x\"\nwrite 0x50004008 2\npoll 0x50004004 2 2 9\n")
+            << QByteArray(gpio + "Enable%20UART0=true\n") << 1
+            << QStringLiteral("script:3: read 0x00000000, expected 0x00000002");
+        QTest::newRow("a byte from outside")
+            << QByteArray("uart 0 \"x\"\nwrite 0x50004008 2\npoll 0x50004004 2 2 999\n"
+                          "read 0x50004000 0x78\n")
+            << QByteArray(gpio + "Enable%20UART0=true\n") << 0 << QStringLiteral("Passed after ");
         QTest::newRow("big-endian data, which is the program's")
             << QByteArray("write 0x40000004 5\nread8 0x40000004 5\n")
             << QByteArray(gpio + "Big%20Endian=true\n") << 0 << QStringLiteral("Passed after ");
