@@ -7,6 +7,7 @@
 #include "livelistener.h"
 #include "netlist.h"
 #include "outside.h"
+#include "reportforms.h"
 #include "simulation.h"
 #include "simulationreport.h"
 #include "terminal.h"
