@@ -1,0 +1,79 @@
+/* What the board of the simulation hands back: MISO follows MOSI, UART1 hears itself, and extension
+ * ports have a memory behind them. Says on UART0 what was found in order. */
+#include "spi.h"
+#include "system_tarvo_orix_m1.h"
+#include "uart.h"
+
+static const uint8_t patterns[] = {0x00u, 0xFFu, 0x55u, 0xAAu, 0x96u};
+
+enum { count = sizeof patterns };
+
+static void print(const char *text)
+{
+    for (; *text != '\0'; ++text)
+        (void)uart_put(UART0, (uint8_t)*text, 10000u);
+}
+
+static bool spi_works(spi_mode mode, bool lowest_bit_first)
+{
+    uint8_t byte;
+    int i;
+
+    if (spi_init(SPI, SystemCoreClock, 12500000u, mode, lowest_bit_first) != SPI_OK)
+        return false;
+    spi_select(SPI, true);
+    for (i = 0; i < count; ++i) {
+        if (spi_exchange(SPI, patterns[i], &byte, 1000u) != SPI_OK || byte != patterns[i])
+            return false;
+    }
+    spi_select(SPI, false);
+    return true;
+}
+
+static bool uart_works(void)
+{
+    uint8_t byte;
+    int i;
+
+    if (uart_init(UART1, SystemCoreClock, 3125000u) != UART_OK)
+        return false;
+    for (i = 0; i < count; ++i) {
+        if (uart_put(UART1, patterns[i], 1000u) != UART_OK ||
+            uart_get(UART1, &byte, 1000u) != UART_OK || byte != patterns[i])
+            return false;
+    }
+    return uart_take_errors(UART1) == 0u;
+}
+
+static bool memory_works(uint32_t base)
+{
+    volatile uint32_t *memory = (volatile uint32_t *)base;
+    uint32_t i;
+
+    for (i = 0; i < count; ++i)
+        memory[i] = patterns[i] * 0x01010101u ^ i;
+    ((volatile uint8_t *)base)[2] = 0xC3u;
+    for (i = 0; i < count; ++i) {
+        const uint32_t word = patterns[i] * 0x01010101u ^ i;
+
+        if (memory[i] != (i == 0u ? (word & 0xFF00FFFFu) | 0x00C30000u : word))
+            return false;
+    }
+    return true;
+}
+
+int main(void)
+{
+    if (uart_init(UART0, SystemCoreClock, 3125000u) != UART_OK)
+        return 1;
+    if (!spi_works(SPI_MODE_0, false) || !spi_works(SPI_MODE_3, true))
+        return 2;
+    print("SPI\n");
+    if (!uart_works())
+        return 3;
+    print("UART1\n");
+    if (!memory_works(AHB1_BASE) || !memory_works(APB1_BASE))
+        return 4;
+    print("extension ports\n");
+    return 0;
+}
