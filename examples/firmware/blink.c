@@ -13,12 +13,29 @@ void TIMER0_IRQHandler(void)
         gpio_write(GPIO, 0xFFu, ++count);
 }
 
+/* Whether pins read as they were written, each high and low. */
+static bool pins_work(void)
+{
+    static const uint32_t patterns[] = {0xFFu, 0x55u, 0xAAu, 0x00u};
+    uint32_t i;
+
+    for (i = 0; i < sizeof patterns / sizeof *patterns; ++i) {
+        gpio_write(GPIO, 0xFFu, patterns[i]);
+        (void)gpio_read(GPIO); /* a level takes two clock cycles */
+        (void)gpio_read(GPIO);
+        if (gpio_read(GPIO) != (patterns[i] | patterns[i] << 8))
+            return false;
+    }
+    return true;
+}
+
 int main(void)
 {
     uint32_t seen;
 
     gpio_set_direction(GPIO, 0xFFu, true);
-    gpio_write(GPIO, 0xFFu, 0u);
+    if (!pins_work())
+        return 3;
     SCS->NVIC_ISER = 1u << TIMER0_IRQn;
     if (!timer_start(TIMER0, 1000u, TIMER_CLOCK, true))
         return 1;
