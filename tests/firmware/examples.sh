@@ -3,9 +3,10 @@
 #   examples.sh CASE ORIXM1 DATA ROOT
 #   run:PROGRAM[:OPTION…]     the guide's command, with further options (--engine=verilator, --model=netlist): it passes and
 #                             prints what it has to
-#   all:CONFIGURATION[:OPTION…]   the same for all programs of a configuration, one after the other
+#   all:CONFIGURATION[:OPTION…]   the same for all programs of a configuration, one after the other; with storage-node files, too
 #   table                     the guide's table has each program once
 #   mutants:PROGRAM           bits that are stuck in the RTL of the blocks that it uses are noticed by the program
+#   files[:OPTION…]           what a program leaves in a file is there for its next run; a card's files in several pieces
 #   own                       the guide's way to a program of one's own
 #   elf                       the guide's way to end a program that is compiled already
 #   long[:OPTION…]            all programs; by hand for what takes too long, as examples.sh long:--model=netlist …
@@ -21,7 +22,7 @@ fail() { echo "FAILED: $*"; exit 1; }
 
 mkdir bin
 ln -s "$orixm1" bin/orixm1
-PATH=$tmp/bin:$PATH
+export PATH=$tmp/bin:$PATH XDG_CACHE_HOME=$tmp/cache
 ln -s "$root/examples" examples
 guide=$root/docs/user-guide.md
 
@@ -35,15 +36,22 @@ expected() {
     case $1 in
         hello) echo "hello, world" ;;
         blink) ;;
+        echo) cat "$root/examples/firmware/note.txt" ;;
         scheduler) echo aabaabaab ;;
         watchdog) printf '%s\n' "power on" "reset by the watchdog" ;;
         clock) printf '%s\n' 11:59:59 12:00:00 12:00:01 ;;
         loopback) printf '%s\n' SPI UART1 "extension ports" ;;
         timers) printf '%s\n' "five periods" once ;;
+        i2c-eeprom) echo "start 001" ;;
+        flash-reader)
+            printf '%s\n' "flash A0 01 14" "$(head -n 1 "$root/examples/firmware/note.txt")" written ;;
+        sd-files)
+            echo "NOTE.TXT $(wc -c <"$root/examples/firmware/note.txt")"
+            cat "$root/examples/firmware/note.txt" ;;
         *) fail "nothing is known of the program $1" ;;
     esac
 }
-cycles() { echo 30000; }
+cycles() { if [[ $1 == sd-files ]]; then echo 1000000; else echo 30000; fi; }
 
 # Runs the guide's command for a program with further options; what it prints is in the files out and err.
 simulate() { # PROGRAM OPTION…
@@ -61,6 +69,29 @@ run() { # PROGRAM OPTION…
     simulate "$@"
     passes "$1" || fail "$*: status $status, prints:
 $(cat out err)"
+}
+
+# What a program leaves in a file, and finds in one.
+files() { # OPTION…
+    local options=(--timeout 3000000 "$@")
+    eeprom() { # FROM TO
+        orixm1 simulate examples/storage-node.ipc --eeprom "$1" --eeprom-result "$2" --c examples/firmware/i2c-eeprom.c \
+            "${options[@]}" 2>err || fail "$(cat err)"
+    }
+    # Memories of up to 2 KB have other addresses.
+    { printf '%016d' 0; printf 's009\214\317\317\306'; head -c 4072 /dev/zero; } >ninth
+    [[ $(eeprom ninth tenth) == "start 010" && $(eeprom tenth next) == "start 011" ]] || fail "the next starts"
+    head -c 4096 /dev/zero >blank
+    [[ $(eeprom blank first) == "start 001" ]] || fail "a memory without a record"
+    orixm1 simulate examples/storage-node.ipc --flash-result flash --c examples/firmware/flash-reader.c "${options[@]}" \
+        >out 2>err || fail "$(cat err)"
+    [[ $(od -An -v -tx1 -j4096 -N16 flash | tr -d ' \n') == 00000000000000000000000000000000 ]] || fail "the flash"
+    seq 400 >long.txt # four blocks
+    seq -f 'other %g' 100 >other
+    bash examples/firmware/make-card.sh card.img long.txt other
+    orixm1 simulate examples/storage-node.ipc --sd card.img --c examples/firmware/sd-files.c "${options[@]}" >out 2>err ||
+        fail "$(cat out err)"
+    diff <(printf '%s\n' "LONG.TXT $(wc -c <long.txt)" "OTHER $(wc -c <other)" && cat long.txt) out || fail "a long file"
 }
 
 case ${case[0]} in
@@ -81,7 +112,11 @@ case ${case[0]} in
             echo "$program: $(sed -n 's/^orixm1: \(Passed .*\)/\1/p' err)"
             count=$((count + 1))
         done
-        ((count > 1)) || fail "few programs with $configuration"
+        ((count > 0)) || fail "no programs with $configuration"
+        [[ $configuration != storage-node ]] || files "${options[@]}"
+        ;;
+    files)
+        files "${case[@]:1}"
         ;;
     table)
         diff <(programs | sort) <(cd "$root/examples/firmware" && printf '%s\n' *.c | sed 's/\.c$//' | sort) ||
@@ -89,7 +124,7 @@ case ${case[0]} in
         ;;
     mutants)
         cp -r "$data" whole
-        run "${case[1]}" --data whole
+        [[ ${case[1]} != hello ]] || run hello --data whole # a copy is as good
         count=0
         while read -r program file expression; do
             [[ $program == "${case[1]}" ]] || continue
@@ -107,6 +142,8 @@ case ${case[0]} in
         done <<'END'
 hello ahb_to_apb.v s/(assign PWDATA += HWDATA)/\1 \& 32'hFFFFFFEF/
 hello apb_uart.v s/tx_buffer <= PWDATA\[7:0\]/tx_buffer <= PWDATA[7:0] | 8'h04/
+echo apb_uart.v s/rx_buffer <= rx_shift/rx_buffer <= rx_shift | 8'h20/
+echo apb_uart.v s/\(ctrl\[3\] & rx_full\)/1'b0/
 blink ahb_gpio.v s/(4'd0: +r = level)/\1 | 16'h0800/
 blink ahb_gpio.v s/gpio_out +<= gpio_out \| w/gpio_out <= gpio_out | (w \& 16'hFFBF)/
 blink apb_timer.v s/(assign irq += )pend/\11'b0/
@@ -119,6 +156,12 @@ loopback apb_spi.v s/\{24'd0, rx_data\}/{24'd0, rx_data | 8'h10}/
 loopback spi_engine.v s/\{shift_in\[6:0\], miso\}/{shift_in[6:0], 1'b0}/
 timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
 timers apb_dual_timer.v s/oneshot, ie, en\} <= PWDATA\[2:0\]/oneshot, ie, en} <= PWDATA[2:0] \& 3'b011/
+i2c-eeprom apb_i2c.v s/rxdata <= shift_in/rxdata <= shift_in | 8'h08/
+i2c-eeprom apb_i2c.v s/shift_out <= PWDATA\[2\] \? \{8'hFF, PWDATA\[4\]\} : \{txdata/shift_out <= PWDATA[2] ? {8'hFF, PWDATA[4]} : {txdata \& 8'hFD/
+flash-reader ahb_spi_flash.v s/data +<= \{rx_data/data <= {rx_data \& 8'hBF/
+flash-reader ahb_spi_flash.v s/2'd0: r = rx_data/2'd0: r = rx_data | 8'h01/
+sd-files apb_sdcard.v s/\{24'd0, rx_data\}/{24'd0, rx_data | 8'h80}/
+sd-files apb_sdcard.v s/card <= ~card/card <= 1'b0/
 END
         ((count > 0)) || fail "no mutants of ${case[1]}"
         ;;
