@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace Cli
@@ -27,6 +28,13 @@ QString BuildCache::usersFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QLatin1String("/tarvo/simulate");
+}
+
+QByteArray BuildCache::stampOf(const QString &program)
+{
+    const QFileInfo file(QFileInfo(program).canonicalFilePath());
+    return file.filePath().toUtf8() + ' ' + QByteArray::number(file.size()) + ' ' +
+           QByteArray::number(file.lastModified().toMSecsSinceEpoch()) + '\n';
 }
 
 QString BuildCache::pathOf(const QByteArray &key) const

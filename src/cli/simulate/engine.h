@@ -15,11 +15,12 @@ class Simulation;
 
 // What is simulated.
 struct Design {
-    QStringList sources;        // full paths, without the processor
-    QStringList includeFolders; // full paths, beside those of the sources
-    QStringList defines;        // "NAME" or "NAME=VALUE"
-    QString modelFolder;        // with the processor's model
-    QByteArray board;           // boardOf(), or another one
+    QStringList sources;          // full paths, without the processor
+    QStringList includeFolders;   // full paths, beside those of the sources
+    QStringList defines;          // "NAME" or "NAME=VALUE"
+    QString modelFolder;          // with the processor's model
+    QByteArray board;             // boardOf(), or another one
+    bool hasForeignBoard = false; // the user's, which may include any file
     bool hasWaves = false;
 };
 

@@ -5,7 +5,7 @@
 namespace Cli
 {
 
-// Icarus Verilog: starts at once.
+// Icarus Verilog: starts at once, since what was compiled is kept.
 class Icarus : public Engine
 {
 public:
@@ -14,6 +14,8 @@ public:
     Tool run(const QStringList &plusArguments) const override;
 
 private:
+    QByteArray keyOf(const Design &design, const QStringList &arguments) const;
+
     QString m_compiler;
     QString m_player;
     bool m_hasWaves = false;

@@ -3,6 +3,7 @@
 #include "../environment.h"
 #include "../ipcdocument.h"
 #include "../output.h"
+#include "buildcache.h"
 #include "engine.h"
 #include "livelistener.h"
 #include "netlist.h"
@@ -14,6 +15,7 @@
 #include "wavewindow.h"
 
 #include <config/optionkeys.h>
+#include <config/optionvalue.h>
 #include <core/storagekinds.h>
 #include <firmware/itcmfiles.h>
 #include <reading/limits.h>
@@ -23,6 +25,7 @@
 #include <simulation/board.h>
 #include <simulation/program.h>
 #include <simulation/wavesview.h>
+#include <utils/boundedfile.h>
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
@@ -409,16 +412,16 @@ private:
 
     QString contentsFolder() const
     {
-        const QString named = QDir::cleanPath(
-            m_document.options.value(Key::itcmInitializationAbsolutePath).toString());
+        const QString named =
+            QDir::cleanPath(textOf(m_document.options, Key::itcmInitializationAbsolutePath));
         return QDir(generationFolder(m_document.folder())).absoluteFilePath(named);
     }
 
     // The instruction memory holds a program from the start.
     Stop checkContents() const
     {
-        if (!m_document.options.value(Key::internalInstructionMemory, true).toBool() ||
-            !m_document.options.value(Key::initializeItcm).toBool())
+        if (!isOn(m_document.options, Key::internalInstructionMemory) ||
+            !isOn(m_document.options, Key::initializeItcm))
             return {BadInput, quoted(m_document.path) +
                                   QLatin1String(" has no program: no --c or --firmware is given, "
                                                 "and \"Initialize ITCM\" is off.")};
@@ -594,6 +597,40 @@ private:
         return {};
     }
 
+    // What is exported, as one object: it is the same for every program of the configuration.
+    Stop compileSoftware(const ProgramBuild &program)
+    {
+        // Under a debugger the sources have to be found where they stand.
+        const bool isKept = m_arguments.gdbPort < 0;
+        QStringList arguments = program.softwareArguments;
+        QByteArray key =
+            "software " + BuildCache::stampOf(m_compiler) + arguments.join(u'\n').toUtf8() + '\n';
+        for (const char *variable : {"CPATH", "C_INCLUDE_PATH", "GCC_EXEC_PREFIX"})
+            key += qgetenv(variable) + '\n';
+        for (const ExportedFile &file : program.files)
+            key += file.path.toUtf8() + '\0' + QByteArray::number(file.bytes.size()) + '\0' +
+                   file.bytes;
+        const QString object = QStringLiteral("software.o");
+        const BuildCache cache(BuildCache::usersFolder());
+        if (const QByteArray kept = isKept ? cache.find(key) : QByteArray(); !kept.isEmpty())
+            return failedUnless(m_simulation->write(object, kept));
+        if (isKept)
+            arguments.append(QLatin1String("-fdebug-prefix-map=") + m_simulation->folder() + u'=' +
+                             programFolder().chopped(1));
+        const auto result =
+            m_simulation->runTool({QStringLiteral("The compiler"), m_compiler, arguments},
+                                  [&](const QString &line) { m_listener->compilerSaid(line); });
+        if (!result)
+            return {BadInput, result.reason()};
+        if (isKept) {
+            const auto made = Utils::readBoundedFile(m_simulation->folder() + u'/' + object,
+                                                     Reading::Limits::firmwareImage);
+            if (made)
+                cache.keep(key, *made);
+        }
+        return {};
+    }
+
     Stop compileProgram()
     {
         QStringList sources;
@@ -604,6 +641,8 @@ private:
             if (const auto written = m_simulation->write(file.path, file.bytes); !written)
                 return {Failed, written.reason()};
         }
+        if (const Stop stop = compileSoftware(program); stop.status != Done)
+            return stop;
         bool lacksLibrary = false;
         const auto result = m_simulation->runTool(
             {QStringLiteral("The compiler"), m_compiler, program.arguments},
@@ -689,6 +728,7 @@ private:
             return failedUnless(m_engine->build(*m_simulation, design));
         }
         design.board = m_board;
+        design.hasForeignBoard = true;
         const auto built = m_engine->build(*m_simulation, design);
         if (built)
             return {};

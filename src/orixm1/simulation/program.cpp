@@ -29,39 +29,49 @@ int __wrap_main(void)
 }
 )";
 
+constexpr QLatin1String softwareObject = "software.o"_l1;
+
 // The board's clock.
 constexpr QLatin1String clock = "-DSYSTEM_CORE_CLOCK=50000000"_l1;
 
 } // namespace
 
+QString programFolder()
+{
+    return QStringLiteral("/made-by-orixm1/");
+}
+
 ProgramBuild programBuild(const SystemMap &map, const QStringList &sources)
 {
     ProgramBuild build;
-    build.arguments = QStringList{QStringLiteral("-mcpu=cortex-m1"),
-                                  QStringLiteral("-mthumb"),
-                                  QStringLiteral("-Os"),
-                                  QStringLiteral("-g"),
-                                  QStringLiteral("-Wall"),
-                                  QStringLiteral("-nostartfiles"),
-                                  clock,
-                                  QStringLiteral("-Isoftware"),
-                                  QStringLiteral("-Isoftware/drivers"),
-                                  QStringLiteral("-Lsoftware"),
-                                  QStringLiteral("-Ttarvo_orix_m1.ld"),
-                                  QStringLiteral("-Wl,--wrap=main"),
-                                  QStringLiteral("-o"),
-                                  QStringLiteral("program.elf")};
+    const QStringList common = {QStringLiteral("-mcpu=cortex-m1"),
+                                QStringLiteral("-mthumb"),
+                                QStringLiteral("-Os"),
+                                QStringLiteral("-g"),
+                                QStringLiteral("-Wall"),
+                                QStringLiteral("-nostartfiles"),
+                                clock,
+                                QStringLiteral("-Isoftware"),
+                                QStringLiteral("-Isoftware/drivers")};
+    build.softwareArguments =
+        common + QStringList{QStringLiteral("-r"), QStringLiteral("-nostdlib"),
+                             QStringLiteral("-o"), softwareObject};
+    build.arguments =
+        common + QStringList{QStringLiteral("-Lsoftware"), QStringLiteral("-Ttarvo_orix_m1.ld"),
+                             QStringLiteral("-Wl,--wrap=main"), QStringLiteral("-o"),
+                             QStringLiteral("program.elf")};
     build.arguments += sources;
+    build.arguments.append(softwareObject);
     for (const QLatin1String name : {"header"_l1, "linker"_l1, "startup"_l1, "drivers"_l1}) {
         const QVector<ExportedFile> files = findFormat(name)->files(map);
         for (const ExportedFile &file : files) {
             build.files.append({"software/"_l1 + file.path, file.bytes});
             if (file.path.endsWith(".c"_l1))
-                build.arguments.append("software/"_l1 + file.path);
+                build.softwareArguments.append("software/"_l1 + file.path);
         }
     }
-    build.files.append({programEnding(), ending});
-    build.arguments.append(programEnding());
+    build.files.append({QStringLiteral("software/ending.c"), ending});
+    build.softwareArguments.append(QStringLiteral("software/ending.c"));
     return build;
 }
 

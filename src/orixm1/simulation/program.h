@@ -11,9 +11,14 @@ namespace TARVOORIXM1
 
 // How C files become a program for a simulated subsystem.
 struct ProgramBuild {
-    QVector<ExportedFile> files; // to be written below the folder that the compiler runs in
-    QStringList arguments;       // of the compiler
+    QVector<ExportedFile> files;   // to be written below the folder that the compiler runs in
+    QStringList softwareArguments; // of the compiler, for all of them: makes "software.o"
+    QStringList arguments;         // of the compiler, for the program: takes "software.o"
 };
+
+// What the files of a program that are not the user's are said to be in, whatever folder the compiler
+// ran in; with "/" at its end.
+QString programFolder();
 
 // The program is made of `sources` (full paths), and of what is exported for the configuration:
 // header, start-up code, linker script and drivers. When its main() returns, it ends the simulation

@@ -82,9 +82,11 @@ private:
     {
         RunPlace place{address, m_places.at(address), false};
         QString &file = place.source.file;
-        if (!m_folder.isEmpty() && file.startsWith(m_folder)) {
-            file.remove(0, m_folder.size());
-            place.isMains = file == programEnding();
+        for (const QString &folder : {m_folder, programFolder()}) {
+            if (!folder.isEmpty() && file.startsWith(folder)) {
+                file.remove(0, folder.size());
+                place.isMains = file == programEnding();
+            }
         }
         return place;
     }
