@@ -366,6 +366,10 @@ private Q_SLOTS:
         QTest::newRow("interrupt by number")
             << words({"--waves-at", "interrupt:2", "--waves-to", "1500"}) << qint64(23000)
             << qint64(30300);
+        QTest::newRow("from a cycle on an address, by the other engine")
+            << words({"--waves-at", "address:0x40000000-0x40000FFF", "--waves-from", "2500",
+                      "--waves-to", "4000", "--engine", "verilator"})
+            << qint64(50000) << qint64(80300);
         QTest::newRow("from a cycle on an address")
             << words({"--waves-at", "address:0x40000000-0x40000FFF", "--waves-from", "2500",
                       "--waves-to", "4000"})
@@ -457,11 +461,19 @@ private Q_SLOTS:
         }
     }
 
+    void wavesNameFunctionsAndRegisters_data()
+    {
+        QTest::addColumn<QString>("engine");
+        for (const char *engine : {"icarus", "verilator"})
+            QTest::newRow(engine) << QString::fromLatin1(engine);
+    }
+
     void wavesNameFunctionsAndRegisters()
     {
-        const Run run = simulate({example, QStringLiteral("--c"),
-                                  QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c"),
-                                  QStringLiteral("--waves"), path("w.fst")});
+        QFETCH(QString, engine);
+        const Run run = simulate(
+            {example, QStringLiteral("--c"), QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c"),
+             QStringLiteral("--engine"), engine, QStringLiteral("--waves"), path("w.fst")});
         QVERIFY2(run.status == 0, qPrintable(run.err));
         const QByteArray waves = wavesOf("w.fst");
         if (waves.isEmpty())
@@ -679,8 +691,6 @@ private Q_SLOTS:
         const QStringList waves = words({"--waves", "w.fst"});
         window("waves that end before they begin",
                waves + words({"--waves-from", "5", "--waves-to", "4"}), "--waves-to 4");
-        window("a part of the waves of another engine",
-               waves + words({"--waves-from", "5", "--engine", "verilator"}), "--engine icarus");
         window("waves from no number", waves + words({"--waves-from", "x"}), "--waves-from");
         window("waves before the beginning", waves + words({"--waves-from", "-1"}), "--waves-from");
         window("no event", waves + words({"--waves-at", ""}), "--waves-at");

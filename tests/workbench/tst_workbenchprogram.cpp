@@ -38,7 +38,7 @@ QProcessEnvironment environment(const QTemporaryDir &home)
 
 QStringList optionsIn(const QString &text)
 {
-    static const QRegularExpression option(QStringLiteral("--[a-z][a-z-]*"));
+    static const QRegularExpression option(QStringLiteral("--[a-z][a-z0-9-]*"));
     QStringList found;
     auto matches = option.globalMatch(text);
     while (matches.hasNext())

@@ -675,11 +675,13 @@ private:
                 return stop;
         }
         QString error;
-        if (!Utils::FileUtils::makePath(plan.folder, &error))
-            return {Failed, error};
+        const QDir scratch(m_simulation->folder());
         for (const IncludeFile &file : plan.includeFiles) {
-            if (!Utils::FileUtils::writeLines(plan.pathOf(file), file.lines, &error))
-                return {Failed, error};
+            const QByteArray text = (file.lines + QStringList(QString())).join(u'\n').toUtf8();
+            const auto written =
+                m_simulation->write(scratch.relativeFilePath(plan.pathOf(file)), text);
+            if (!written)
+                return {Failed, written.reason()};
         }
         Design design;
         design.includeFolders.append(plan.folder);

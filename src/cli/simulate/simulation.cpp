@@ -67,9 +67,10 @@ Utils::Result<void> Simulation::runTool(const Tool &tool, const LineTaker &takeL
 Utils::Result<void> Simulation::write(const QString &path, const QByteArray &bytes) const
 {
     const QString full = folder() + u'/' + path;
+    const QString parent = QFileInfo(full).absolutePath();
     QString error;
-    if (!Utils::FileUtils::makePath(QFileInfo(full).absolutePath(), &error) ||
-        !Utils::FileUtils::writeFile(full, bytes, &error))
+    if ((!QDir().mkpath(parent) && !Utils::FileUtils::makePath(parent, &error)) ||
+        !Utils::FileUtils::writePassingFile(full, bytes, &error))
         return Utils::Failure{error};
     return {};
 }

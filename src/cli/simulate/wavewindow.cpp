@@ -1,7 +1,5 @@
 #include "wavewindow.h"
 
-#include "engine.h"
-
 #include <simulation/runstatistics.h>
 
 #include <algorithm>
@@ -109,10 +107,6 @@ Utils::Result<QStringList> waveArguments(const SimulateArguments &arguments, con
         return Utils::Failure{QStringLiteral("--waves-from, --waves-to and --waves-at need "
                                              "--waves.")};
     // The others write all of the run.
-    if (hasWindow && arguments.engine != engineNames().first())
-        return Utils::Failure{QLatin1String("--waves-from, --waves-to and --waves-at need "
-                                            "--engine ") +
-                              engineNames().first() + u'.'};
     if (arguments.wavesTo && arguments.wavesFrom.value_or(0) > *arguments.wavesTo)
         return Utils::Failure{QStringLiteral("--waves-to %1 is before --waves-from %2.")
                                   .arg(*arguments.wavesTo)

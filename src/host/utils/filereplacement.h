@@ -25,6 +25,9 @@ public:
     // The folder of `path` must exist. Where the contents need a name of their own it is in
     // `stagingFolder`, if that is given and on the same disk, else beside the file.
     explicit FileReplacement(const QString &path, const QString &stagingFolder = {});
+    // For a file that goes with its folder, before prepare(): it appears in one step as well, but
+    // nobody waits for the disk.
+    void setPassing() { m_isPassing = true; }
     // Takes back what was prepared and not placed.
     ~FileReplacement();
     FileReplacement(const FileReplacement &) = delete;
@@ -65,6 +68,7 @@ private:
     bool m_exists = false;
     bool m_unchanged = false;
     bool m_placed = false;
+    bool m_isPassing = false;
 };
 
 } // namespace Utils

@@ -59,6 +59,13 @@ bool FileUtils::writeFile(const QString &path, const QByteArray &bytes, QString 
     return file.prepare(bytes, error) && file.place(error);
 }
 
+bool FileUtils::writePassingFile(const QString &path, const QByteArray &bytes, QString *error)
+{
+    FileReplacement file(path);
+    file.setPassing();
+    return file.prepare(bytes, error) && file.place(error);
+}
+
 bool FileUtils::writeLines(const QString &path, const QStringList &lines, QString *error)
 {
     QByteArray bytes;

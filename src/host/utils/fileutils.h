@@ -26,6 +26,9 @@ public:
     // link is followed; what is neither a plain file nor missing is refused.
     static bool writeFile(const QString &path, const QByteArray &bytes, QString *error);
 
+    // The same for a file that is of no use after its program, which does not wait for the disk.
+    static bool writePassingFile(const QString &path, const QByteArray &bytes, QString *error);
+
     // Writes each entry as one line: UTF-8, ended by a line feed. No entries give an empty file.
     static bool writeLines(const QString &path, const QStringList &lines, QString *error);
 

@@ -183,6 +183,8 @@ import "DPI-C" function void board_time(input int low, input int high);
 import "DPI-C" function int board_size(input int storage);
 import "DPI-C" function int board_load(input int storage, input int address);
 import "DPI-C" function void board_store(input int storage, input int address, input int data);
+import "DPI-C" function void board_waves(input int low, input int high, output int wanted);
+`define BOARD_WAVES(low, high, wanted) board_waves(low, high, wanted)
 `define BOARD_SENT(uart, data) board_sent(uart, {24'd0, data})
 `define BOARD_INPUT(uart) board_input(uart)
 `define BOARD_PINS(levels, driven) board_pins({16'd0, levels}, {16'd0, driven})
@@ -216,14 +218,15 @@ module board;
     reg clk = 1'b0;
     always #(PERIOD / 2) clk = ~clk;
     reg [8*1024-1:0] waves;
-    reg has_window = 1'b0;       // the waves are of a part of the run
     initial
         if ($value$plusargs("waves=%s", waves)) begin
             $dumpfile(waves);
-            has_window = $test$plusargs("waves-") != 0;
-            if (!has_window) $dumpvars(0, board);
+            if ($test$plusargs("waves-") == 0) $dumpvars(0, board);
         end
 `endif
+    reg has_window = 1'b0;       // the waves are of a part of the run
+    initial
+        has_window = $test$plusargs("waves-") != 0;
     reg [3:0] slow = 4'd0;
     wire      slow_clk = slow[3]; // for what is sampled
     wire      card_clk = slow[2];
@@ -239,22 +242,25 @@ module board;
         end
     end
 
-`ifndef VERILATOR
+    // It does not open again.
     integer wants_waves = 0;
     reg     has_waves = 1'b0;
     always @(posedge clk)
         if (has_window) begin
             `BOARD_WAVES(cycles[31:0], cycles[63:32], wants_waves);
             if (wants_waves != 0 && !has_waves) begin
-                has_waves = 1'b1;
+                has_waves <= 1'b1;
+`ifndef VERILATOR
                 $dumpvars(0, board);
+`endif
             end
             if (wants_waves == 0 && has_waves) begin
-                has_window = 1'b0; // it does not open again
+                has_window <= 1'b0;
+`ifndef VERILATOR
                 $dumpoff;
+`endif
             end
         end
-`endif
 
     reg [8*16-1:0] mark;
     reg [63:0] limit;

@@ -128,7 +128,8 @@ void BoardHost::sent(int uart, std::uint8_t byte)
 
 bool BoardHost::waves(std::uint32_t cyclesLow, std::uint32_t cyclesHigh)
 {
-    return WaveWindow::shared().wants(std::uint64_t(cyclesHigh) << 32 | cyclesLow);
+    m_hasWaves = WaveWindow::shared().wants(std::uint64_t(cyclesHigh) << 32 | cyclesLow);
+    return m_hasWaves;
 }
 
 int BoardHost::input(int uart)

@@ -86,6 +86,8 @@ public:
     // Whether waves are written of this clock cycle, counted from the end of the power-on reset;
     // asked in each one if the waves have a window (WaveWindow).
     bool waves(std::uint32_t cyclesLow, std::uint32_t cyclesHigh);
+    // The last answer.
+    bool hasWaves() const { return m_hasWaves; }
 
     // The simulation has ended: tells what is still to be told and writes the results, once. What
     // fails is printed.
@@ -135,6 +137,7 @@ private:
     int m_pinCredit = 1000; // changes that may be told; one more each time()
     bool m_tellsTime = false;
     std::chrono::steady_clock::time_point m_nextTime;
+    bool m_hasWaves = false;
 };
 
 } // namespace CortexM1

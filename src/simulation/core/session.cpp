@@ -46,6 +46,7 @@ std::uint32_t memoryBytes(int code)
 Session::Session(Simulator &simulator, const Parameters &parameters, const std::string &firmware,
                  const std::string &memories)
     : m_simulator(simulator)
+    , m_window(WaveWindow::shared())
 {
     if (const char *file = simulator.argument("statistics"))
         m_statisticsFile = file;
@@ -197,16 +198,14 @@ std::string Session::verdict() const
            std::to_string(m_player->checks()) + " checks";
 }
 
-Outputs Session::clock(const Inputs &inputs)
+const Outputs &Session::clock(const Inputs &inputs)
 {
-    Outputs outputs;
-    if (!m_mistake.empty())
-        outputs.isDone = true;
-    else
-        outputs = m_player ? m_player->clock(inputs) : m_core->clock(inputs);
+    const Outputs &outputs = !m_mistake.empty() ? m_mistaken
+                             : m_player         ? m_player->clock(inputs)
+                                                : m_core->clock(inputs);
     m_busAddress = outputs.address;
     m_isTransferring = outputs.isTransfer;
-    if (WaveWindow::shared().isWaiting())
+    if (m_window.isWaiting())
         noteEvents(outputs);
     if (outputs.isDone && !m_isReported) {
         m_isReported = true;

@@ -12,6 +12,8 @@
 namespace CortexM1
 {
 
+class WaveWindow;
+
 // The Verilog simulator, as the model needs it.
 class Simulator
 {
@@ -61,7 +63,7 @@ public:
     Shown shown() const;
 
     // The line that tells the verdict is printed when the program ends.
-    Outputs clock(const Inputs &inputs);
+    const Outputs &clock(const Inputs &inputs);
 
 private:
     void open(const Parameters &parameters, std::string firmware, const std::string &memories);
@@ -74,6 +76,8 @@ private:
     void noteEvents(const Outputs &outputs);
 
     Simulator &m_simulator;
+    WaveWindow &m_window;
+    Outputs m_mistaken; // instead of what a core shows
     std::unique_ptr<TcpLink> m_debugger;
     std::unique_ptr<Core> m_core; // or
     std::unique_ptr<ScriptPlayer> m_player;

@@ -63,3 +63,8 @@ BOARD_FUNCTION void board_store(int storage, int address, int byte)
 {
     host().store(storage, bits(address), static_cast<std::uint8_t>(byte));
 }
+
+BOARD_FUNCTION void board_waves(int low, int high, int *wanted)
+{
+    *wanted = host().waves(bits(low), bits(high));
+}

@@ -5,6 +5,7 @@
 #include "core/packedpins.h"
 #include "loading.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -77,6 +78,19 @@ CortexM1::Inputs inputsOf(const std::uint32_t *words)
     return CortexM1::unpackedInputs(packed);
 }
 
+constexpr std::size_t nameWords = 10;
+
+// A text as Verilog has it: the last character in the lowest byte. What is too long loses its
+// begin.
+void packText(const char *text, std::uint32_t *words)
+{
+    std::fill_n(words, nameWords, 0u);
+    const std::size_t length = std::strlen(text);
+    for (std::size_t i = 0; i < std::min(length, 4 * nameWords); ++i)
+        words[i / 4] |= std::uint32_t(static_cast<unsigned char>(text[length - 1 - i]))
+                        << 8 * (i % 4);
+}
+
 } // namespace
 
 CortexM1::Simulator &Dpi::simulator()
@@ -129,8 +143,22 @@ EXPORTED void cortexm1_clock_memories(int handle, const std::uint32_t *inputs,
     const CortexM1::PackedWord memories[CortexM1::memoryWords] = {{memoryInputs[0], 0},
                                                                   {memoryInputs[1], 0}};
     CortexM1::unpackMemories(memories, pins);
-    const CortexM1::Outputs result = session(handle).clock(pins);
+    const CortexM1::Outputs &result = session(handle).clock(pins);
     CortexM1::packOutputs(result, outputs);
     CortexM1::packMemories(result.memory, memoryOutputs);
+}
+
+EXPORTED void cortexm1_names(int handle, std::uint32_t *programCounter, std::uint32_t *functionName,
+                             std::uint32_t *registerName)
+{
+    const CortexM1::Session::Shown shown = session(handle).shown();
+    *programCounter = shown.programCounter;
+    packText(shown.functionName, functionName);
+    packText(shown.registerName, registerName);
+}
+
+EXPORTED int cortexm1_wants_waves(void)
+{
+    return CortexM1::BoardHost::shared(Dpi::simulator()).hasWaves();
 }
 }

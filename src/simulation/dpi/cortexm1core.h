@@ -11,6 +11,9 @@ extern "C" {
 // Before everything else. The arguments of the program, which have to stay; those with a plus are
 // the simulation's.
 void cortexm1_begin(int count, const char *const *arguments);
+// Whether waves are written now, where they are of a part of the run (+waves-...): what the board has
+// asked for last.
+int cortexm1_wants_waves(void);
 // After the simulation.
 void cortexm1_end(void);
 

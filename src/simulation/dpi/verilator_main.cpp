@@ -34,26 +34,30 @@ int main(int argc, char **argv)
         halfPeriod *= 10;
 #if VM_TRACE
     VerilatedFstC waves;
-    bool hasWaves = false;
+    const char *wavesFile = nullptr;
+    bool hasWindow = false; // they are of a part of the run
     for (int i = 1; i < argc; ++i) {
-        if (std::strncmp(argv[i], "+waves=", 7) == 0 && !hasWaves) {
-            hasWaves = true;
-            board.trace(&waves, 99);
-            waves.open(argv[i] + 7);
-        }
+        if (std::strncmp(argv[i], "+waves=", 7) == 0 && !wavesFile)
+            wavesFile = argv[i] + 7;
+        hasWindow = hasWindow || std::strncmp(argv[i], "+waves-", 7) == 0;
     }
+    if (wavesFile)
+        board.trace(&waves, 99);
 #endif
     while (!context.gotFinish()) {
         board.eval();
 #if VM_TRACE
-        if (hasWaves)
+        if (wavesFile && (!hasWindow || cortexm1_wants_waves())) {
+            if (!waves.isOpen())
+                waves.open(wavesFile);
             waves.dump(context.time());
+        }
 #endif
         context.timeInc(halfPeriod);
         board.clk = !board.clk;
     }
 #if VM_TRACE
-    if (hasWaves)
+    if (waves.isOpen())
         waves.close();
 #endif
     board.final();

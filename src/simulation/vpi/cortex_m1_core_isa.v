@@ -32,11 +32,15 @@ import "DPI-C" function void cortexm1_clock_memories(input int handle, input bit
 `define CORTEXM1_OPEN(firmware, memories) \
     handle = cortexm1_open(string'(firmware), NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, {28'd0, ITCMSIZE}, {28'd0, DTCMSIZE}, \
                            string'(memories))
+import "DPI-C" function void cortexm1_names(input int handle, output bit [31:0] pc, output bit [319:0] function_name,
+                                            output bit [319:0] register_name);
+`define CORTEXM1_NAMES cortexm1_names
 `define CORTEXM1_CLOCK cortexm1_clock
 `define CORTEXM1_CLOCK_MEMORIES cortexm1_clock_memories
 `else
 `define CORTEXM1_OPEN(firmware, memories) \
     $cortexm1_open(handle, firmware, NUM_IRQ, OS, BE8, ITCM_LA_EN, ITCM_UA_EN, ITCMSIZE, DTCMSIZE, memories)
+`define CORTEXM1_NAMES $cortexm1_names
 `define CORTEXM1_CLOCK $cortexm1_clock
 `define CORTEXM1_CLOCK_MEMORIES $cortexm1_clock
 `endif
@@ -150,10 +154,8 @@ module CortexM1Core #(
                 `CORTEXM1_CLOCK_MEMORIES(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next, {DTCMRDATA, ITCMRDATA}, tcm);
             else
                 `CORTEXM1_CLOCK(handle, {in_reset, NMI, HREADY, HRESP, IRQ, HRDATA}, next);
-`ifndef VERILATOR
             if (has_names)
-                $cortexm1_names(handle, pc, function_name, register_name);
-`endif
+                `CORTEXM1_NAMES(handle, pc, function_name, register_name);
             if (next[73]) begin
                 done = 1'b1;
                 passed = next[72];

@@ -87,7 +87,7 @@ PLI_INT32 callClock(PLI_BYTE8 *)
         CortexM1::unpackedInputs(wordsOf<CortexM1::inputWords>(args[1]).data());
     if (hasMemories)
         CortexM1::unpackMemories(wordsOf<CortexM1::memoryWords>(args[3]).data(), inputs);
-    const CortexM1::Outputs outputs = sessions()[number - 1]->clock(inputs);
+    const CortexM1::Outputs &outputs = sessions()[number - 1]->clock(inputs);
     std::array<std::uint32_t, CortexM1::outputWords> shown;
     CortexM1::packOutputs(outputs, shown.data());
     show<CortexM1::outputWords>(args[2], shown);

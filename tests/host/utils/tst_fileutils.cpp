@@ -69,6 +69,21 @@ private:
     QString path(const QString &name) const { return m_dir.filePath(name); }
 
 private Q_SLOTS:
+    void aPassingFileIsWholeAndReplacesWhatWasThere()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("passing"));
+        for (const QByteArray &bytes : {oldBytes, newBytes}) {
+            QVERIFY(FileUtils::writePassingFile(path, bytes, nullptr));
+            QCOMPARE(TestSupport::contentsOf(path), bytes);
+        }
+        QCOMPARE(TestSupport::entriesOf(dir.path()), QStringList(QStringLiteral("passing")));
+        QString error;
+        QVERIFY(!FileUtils::writePassingFile(dir.filePath(QStringLiteral("no/file")), newBytes,
+                                             &error));
+        QVERIFY2(error.contains(QLatin1String("no/file")), qPrintable(error));
+    }
+
     void init()
     {
         QVERIFY(m_dir.isValid());
