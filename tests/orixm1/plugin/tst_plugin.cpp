@@ -871,6 +871,23 @@ void tst_Plugin::tellsHowASubsystemIsSimulated()
     QCOMPARE(answer.value(QStringLiteral("uarts")), QVariant(uarts));
     QCOMPARE(answer.value(QStringLiteral("pins")), QVariant(pins));
 
+    // The program has what it is to be called with.
+    QProcess help;
+    help.start(answer.value(QStringLiteral("program")).toString(),
+               {QStringLiteral("simulate"), QStringLiteral("--help")});
+    QVERIFY(help.waitForFinished(-1));
+    const QString known = QString::fromUtf8(help.readAllStandardOutput());
+    QStringList used = answer.value(QStringLiteral("arguments")).toStringList().mid(2) +
+                       answer.value(QStringLiteral("wavesArguments")).toStringList();
+    for (const char *choice : {"inputs", "engines"}) {
+        const QVariantList rows = answer.value(QLatin1String(choice)).toList();
+        QVERIFY(rows.size() > 1);
+        for (const QVariant &row : rows)
+            used += row.toMap().value(QStringLiteral("arguments")).toStringList();
+    }
+    for (const QString &option : qAsConst(used))
+        QVERIFY2(known.contains(option), qPrintable(option));
+
     // Nothing is written.
     QCOMPARE(TestSupport::entriesOf(dir.path()), QStringList(QStringLiteral("x.ipc")));
 }
