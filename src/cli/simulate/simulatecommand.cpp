@@ -592,7 +592,8 @@ private:
                         QLatin1String("The model of the processor is missing: there is no ") +
                             quoted(path) +
                             QLatin1String("; it is built where the Debian packages "
-                                          "libunicorn-dev, libelf-dev and iverilog are.")};
+                                          "libunicorn-dev, libboost-context-dev, libelf-dev and "
+                                          "iverilog are.")};
         }
         return {};
     }

@@ -48,6 +48,7 @@ Session::Session(Simulator &simulator, const Parameters &parameters, const std::
     : m_simulator(simulator)
     , m_window(WaveWindow::shared())
 {
+    m_mistaken.isDone = true;
     if (const char *file = simulator.argument("statistics"))
         m_statisticsFile = file;
     if (const char *file = simulator.argument("names")) {
