@@ -4,6 +4,7 @@
 #include <config/optiontable.h>
 #include <dev/devicedb.h>
 #include <generate/defines.h>
+#include <signals.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -792,7 +793,7 @@ void tst_Cli::interruptStopsTheToolToo()
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(pidFile), 240000);
         const pid_t pid = pid_t(TestSupport::contentsOf(pidFile).trimmed().toLongLong());
         QVERIFY(pid > 1 && ::kill(pid, 0) == 0);
-        QCOMPARE(::kill(pid_t(process.processId()), signal), 0);
+        QVERIFY(TestSupport::sendSignal(process, signal));
         QVERIFY(process.waitForFinished(240000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 130);

@@ -1,4 +1,5 @@
 #include <markedprocesses.h>
+#include <signals.h>
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -120,7 +121,7 @@ void tst_CliKill::leavesNothingBehind()
         QTimer::singleShot(moment, process.get(), [&] {
             happened = true;
             if (process->state() != QProcess::NotRunning)
-                ::kill(pid_t(process->processId()), signal);
+                TestSupport::sendSignal(*process, signal);
         });
         QTRY_VERIFY_WITH_TIMEOUT(process->state() == QProcess::NotRunning, 240000);
         killed += happened ? 1 : 0;
@@ -164,7 +165,7 @@ void tst_CliKill::takesTheToolsChildrenAlong()
     qputenv("PATH", before);
     QTRY_COMPARE_WITH_TIMEOUT(m_mark.processes("sleep").size(), 1, 60000);
     QVERIFY(m_mark.processes().size() >= 3);
-    ::kill(pid_t(process->processId()), SIGKILL);
+    TestSupport::sendSignal(*process, SIGKILL);
     QVERIFY(process->waitForFinished(240000));
     QTRY_COMPARE_WITH_TIMEOUT(m_mark.processes(), QList<qint64>(), 60000);
 }

@@ -1,5 +1,6 @@
 #include <drawnoptions.h>
 #include <markedprocesses.h>
+#include <signals.h>
 
 #include <config/ipcfile.h>
 #include <config/optionkeys.h>
@@ -924,7 +925,7 @@ private Q_SLOTS:
             process.bytesAvailable() > 0 || process.state() == QProcess::NotRunning, 60000);
         QCOMPARE(process.readAllStandardOutput(), QByteArray("semihosting: begun\n"));
         QVERIFY(mark.processes().size() >= 3);
-        ::kill(pid_t(process.processId()), signal);
+        TestSupport::sendSignal(process, signal);
         QTRY_VERIFY_WITH_TIMEOUT(process.state() == QProcess::NotRunning, 60000);
         if (signal != SIGKILL) {
             QCOMPARE(process.exitStatus(), QProcess::NormalExit);

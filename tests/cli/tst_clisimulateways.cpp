@@ -1,6 +1,7 @@
 #include "simulateprocess.h"
 
 #include <QRegularExpression>
+#include <signals.h>
 
 #include <arpa/inet.h>
 #include <csignal>
@@ -168,7 +169,7 @@ private Q_SLOTS:
         const auto process = m_process->start(QStringList{QStringLiteral("simulate"), example} +
                                               words({"--gdb", "0", "--c", "main.c"}));
         QVERIFY(awaited(*process, "gdb at 127\\.0\\.0\\.1:\\d+").hasMatch());
-        ::kill(pid_t(process->processId()), SIGINT);
+        TestSupport::sendSignal(*process, SIGINT);
         QCOMPARE(SimulateProcess::finish(*process).status, 130);
         QTRY_COMPARE_WITH_TIMEOUT(m_process->mark().processes(), QList<qint64>(), 60000);
     }
@@ -362,16 +363,20 @@ private Q_SLOTS:
         write("main.c", right);
         const QStringList arguments = QStringList{QStringLiteral("simulate"), example} +
                                       words({"--uart1", "pty", "--live", "--c", "main.c"});
-        QElapsedTimer clock;
-        clock.start();
-        QCOMPARE(SimulateProcess::finish(*m_process->start(arguments)).status, 0);
-        const qint64 length = clock.elapsed();
+        // The second one finds what the first one has compiled, as all others do.
+        qint64 length = 0;
+        for (int round = 0; round < 2; ++round) {
+            QElapsedTimer clock;
+            clock.start();
+            QCOMPARE(SimulateProcess::finish(*m_process->start(arguments)).status, 0);
+            length = clock.elapsed();
+        }
         int killed = 0;
         for (int round = 0; round < rounds; ++round) {
             const auto process = m_process->start(arguments);
             const qint64 moment = round * length / rounds;
-            killed += process->waitForFinished(int(moment)) ? 0 : 1;
-            ::kill(pid_t(process->processId()), SIGKILL);
+            const bool hasEnded = process->waitForFinished(int(moment));
+            killed += !hasEnded && TestSupport::sendSignal(*process, SIGKILL) ? 1 : 0;
             QVERIFY(process->state() == QProcess::NotRunning || process->waitForFinished());
             QTRY_COMPARE_WITH_TIMEOUT(m_process->mark().processes(), QList<qint64>(), 60000);
             QCOMPARE(m_process->scratch(), QStringList());

@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <signals.h>
 
 #include <csignal>
 
@@ -184,7 +185,7 @@ void tst_Mutate::leavesNothingBehindWhenItIsInterrupted()
         !m_mark.processes("tst_limit").isEmpty() || process.state() == QProcess::NotRunning, 60000);
     QCOMPARE(process.state(), QProcess::Running);
     QVERIFY(!TestSupport::entriesOf(m_temporary.path()).isEmpty());
-    QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);
+    QVERIFY(TestSupport::sendSignal(process, SIGINT));
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 130);
     QCOMPARE(m_mark.processes(), QList<qint64>());

@@ -1,5 +1,6 @@
 // The program tarvo-workbench as a process.
 
+#include <signals.h>
 #include <testsupport.h>
 
 #include <workbench/window/options.h>
@@ -363,7 +364,7 @@ private Q_SLOTS:
         process.start(QStringLiteral(TARVO_WORKBENCH), arguments);
         QVERIFY(process.waitForStarted());
         QTRY_VERIFY_WITH_TIMEOUT(catches(process.processId(), signal), 60000);
-        ::kill(pid_t(process.processId()), signal);
+        TestSupport::sendSignal(process, signal);
         QVERIFY(process.waitForFinished(60000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 0);

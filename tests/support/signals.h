@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProcess>
+
+#include <csignal>
+#include <sys/types.h>
+
+namespace TestSupport
+{
+
+// Sends a signal to a process. False, and nobody gets it, if the process has ended: its number is
+// 0 then, which would be everybody in the group of the tests.
+inline bool sendSignal(const QProcess &process, int signal)
+{
+    const qint64 number = process.processId();
+    return number > 0 && ::kill(pid_t(number), signal) == 0;
+}
+
+} // namespace TestSupport
