@@ -140,7 +140,9 @@ function(tarvo_add_test name)
     if(TARVO_SANITIZE)
         # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
         list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0
-            LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp)
+            LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp
+            # The test's own limit counts, not that of a function of it, in milliseconds.
+            QTEST_FUNCTION_TIMEOUT=1800000)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
 endfunction()
