@@ -67,6 +67,10 @@ private:
     TestSupport::Mark m_mark;
 };
 
+// A configuration to which options can be added.
+inline const QByteArray plain("[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
+                              "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n");
+
 // A program that answers three bytes, each with the next one, on a UART; then it ends.
 inline QByteArray answering(const QByteArray &uart)
 {

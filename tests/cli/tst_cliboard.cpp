@@ -1,3 +1,5 @@
+#include "simulateprocess.h"
+
 #include <testsupport.h>
 
 #include <QProcess>
@@ -7,22 +9,7 @@
 namespace
 {
 
-const QByteArray plain = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
-                         "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n";
-
-struct Run {
-    int status = -1;
-    QByteArray out;
-    QString err;
-};
-
-QStringList words(std::initializer_list<const char *> list)
-{
-    QStringList result;
-    for (const char *word : list)
-        result.append(QString::fromUtf8(word));
-    return result;
-}
+using Run = SimulateProcess::Run;
 
 // A program that ends with the number of the first line that is not as it has to be.
 QByteArray program(const QByteArray &drivers, const QByteArray &declarations,
@@ -365,10 +352,7 @@ private:
         process.setWorkingDirectory(m_dir->path());
         process.start(QStringLiteral(TARVO_COMMAND),
                       QStringList{QStringLiteral("simulate")} + arguments);
-        if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit)
-            return {};
-        return {process.exitCode(), process.readAllStandardOutput(),
-                QString::fromUtf8(process.readAllStandardError())};
+        return SimulateProcess::finish(process);
     }
 
     Run simulate(const QByteArray &config, const QByteArray &text, const QStringList &options) const

@@ -16,10 +16,6 @@ namespace
 const QString example = QStringLiteral(TARVO_EXAMPLES_DIR "/sensor-node.ipc");
 const QString hello = QStringLiteral(TARVO_EXAMPLES_DIR "/firmware/hello.c");
 
-// A configuration to which options can be added.
-const QByteArray plain = "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
-                         "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n";
-
 const QByteArray right = "int main(void) { return 0; }\n";
 
 // Ends by itself, however it begins.

@@ -237,21 +237,6 @@ QVector<int> uartsOf(const SystemMap &map)
     return numbers;
 }
 
-QString resultName(SimulationEnd::Result result)
-{
-    switch (result) {
-    case SimulationEnd::Passed:
-        return QStringLiteral("passed");
-    case SimulationEnd::Failed:
-        return QStringLiteral("failed");
-    case SimulationEnd::TimeLimit:
-        return QStringLiteral("time limit");
-    case SimulationEnd::Cancelled:
-        break;
-    }
-    return QStringLiteral("cancelled");
-}
-
 QString modelNote()
 {
     return QStringLiteral("The model executes an instruction a clock cycle: instruction counts "
@@ -285,7 +270,7 @@ QByteArray jsonReport(const SimulationReport &report)
         lines.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("UART%1").arg(number)},
                                  {QStringLiteral("bytes"), end.uartBytes[number]}});
     QJsonObject object{
-        {QStringLiteral("result"), resultName(end.result)},
+        {QStringLiteral("result"), nameOf(end.result)},
         {QStringLiteral("reason"), reasonOf(end)},
         {QStringLiteral("configuration"), arguments.file},
         {QStringLiteral("clockCycles"), qint64(end.cycles)},
@@ -358,8 +343,8 @@ QByteArray junitReport(const SimulationReport &report)
         const QString why = reasonOf(end);
         xml.writeStartElement(QStringLiteral("failure"));
         QXmlStreamAttributes failure;
-        failure.append(attribute("message", why.isEmpty() ? resultName(end.result) : why));
-        failure.append(attribute("type", resultName(end.result)));
+        failure.append(attribute("message", why.isEmpty() ? nameOf(end.result) : why));
+        failure.append(attribute("type", nameOf(end.result)));
         xml.writeAttributes(failure);
         xml.writeCharacters(inXml(summaryOf(report).join(u'\n')));
         xml.writeEndElement();

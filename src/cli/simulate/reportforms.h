@@ -14,7 +14,6 @@ QByteArray junitReport(const SimulationReport &report);
 
 // Parts of them.
 QVector<int> uartsOf(const TARVOORIXM1::SystemMap &map); // numbers
-QString resultName(SimulationEnd::Result result);
 QString modelNote();
 QString programName(const SimulateArguments &arguments);
 // "reading 4 bytes at 0x90000000, in no block"
