@@ -1,6 +1,7 @@
 #include "format.h"
 
 #include "config/latin1literal.h"
+#include "constraints.h"
 #include "datasheet.h"
 #include "devicetree.h"
 #include "drivers.h"
@@ -42,6 +43,9 @@ constexpr Format rows[] = {
     {"datasheet"_l1, "datasheet/tarvo_orix_m1.md, datasheet/tarvo_orix_m1.html"_l1, "Datasheet"_l1,
      "Diagram, memory and interrupt maps, ports, clocks and registers for people."_l1,
      "CommonMark with GFM tables, HTML, SVG"_l1, "cmark-gfm, xmllint"_l1, datasheetFiles},
+    {"sdc"_l1, "tarvo_orix_m1.sdc"_l1, "Timing constraints"_l1,
+     "What tools that place and route must know of signals from pins and from other clocks."_l1,
+     "SDC (Tcl)"_l1, "tclsh"_l1, constraintFiles},
 };
 
 } // namespace

@@ -29,6 +29,7 @@ struct PortRow {
     QLatin1String text;
     QLatin1String clock = QLatin1String();
     unsigned traits = Plain;
+    QLatin1String synchronizer = QLatin1String();
 };
 
 constexpr PortRole Clock = PortRole::Clock;
@@ -60,15 +61,16 @@ constexpr PortRow rows[] = {
     {"JTAG_14"_l1, PortRole::Unused, "driven low"_l1},
     {"JTAG_15"_l1, Debug,
      "nSRST, resets everything but debug; left open, it can hold the subsystem in reset for ever"_l1,
-     none, ActiveLow | PullUp | ResetSource},
+     none, ActiveLow | PullUp | ResetSource, "u_reset.u_sync_srst"_l1},
     {"JTAG_16"_l1, PortRole::Unused, "driven low"_l1},
     {"JTAG_17"_l1, PortRole::Unused, "not connected"_l1},
     {"JTAG_18"_l1, PortRole::Unused, "driven low"_l1},
     {"EXTINT"_l1, PortRole::Interrupt,
-     "interrupts 12 (bit 0) to 15 (bit 3), requested while high"_l1},
+     "interrupts 12 (bit 0) to 15 (bit 3), requested while high"_l1, none, Plain,
+     "u_sync_extint"_l1},
 
-    {"GPIO"_l1, Peripheral, "pins"_l1},
-    {"GPIOIN"_l1, Peripheral, "levels of the pins"_l1},
+    {"GPIO"_l1, Peripheral, "pins"_l1, none, Plain, "u_gpio.u_sync_in"_l1},
+    {"GPIOIN"_l1, Peripheral, "levels of the pins"_l1, none, Plain, "u_gpio.u_sync_in"_l1},
     {"GPIOOUT"_l1, Peripheral, "values for the pins"_l1, hclk},
     {"GPIOOUTEN"_l1, Peripheral, "1 drives the pin"_l1, hclk},
     {"CAN_RX"_l1, Peripheral, "from the transceiver"_l1},
@@ -139,21 +141,23 @@ constexpr PortRow rows[] = {
     {"DDR_DQS_IO"_l1, Peripheral, "strobes of the data"_l1},
     {"DDR_DQS_N_IO"_l1, Peripheral, "the same, inverted"_l1},
 
-    {"UART0RXD"_l1, Peripheral, "serial data to receive"_l1},
+    {"UART0RXD"_l1, Peripheral, "serial data to receive"_l1, none, Plain, "u_uart0.u_sync_rxd"_l1},
     {"UART0TXD"_l1, Peripheral, "serial data sent"_l1, hclk},
-    {"UART1RXD"_l1, Peripheral, "serial data to receive"_l1},
+    {"UART1RXD"_l1, Peripheral, "serial data to receive"_l1, none, Plain, "u_uart1.u_sync_rxd"_l1},
     {"UART1TXD"_l1, Peripheral, "serial data sent"_l1, hclk},
-    {"TIMER0EXTIN"_l1, Peripheral, "gate or events of the timer"_l1},
-    {"TIMER1EXTIN"_l1, Peripheral, "gate or events of the timer"_l1},
+    {"TIMER0EXTIN"_l1, Peripheral, "gate or events of the timer"_l1, none, Plain,
+     "u_timer0.u_sync_extin"_l1},
+    {"TIMER1EXTIN"_l1, Peripheral, "gate or events of the timer"_l1, none, Plain,
+     "u_timer1.u_sync_extin"_l1},
     {"RTCSRCCLK"_l1, Peripheral,
      "source clock of the seconds, sampled with HCLK and slower than HCLK / 4"_l1, none,
-     ClockSource},
-    {"SCL"_l1, Peripheral, "clock of the bus"_l1, none, PullUp},
-    {"SDA"_l1, Peripheral, "data of the bus"_l1, none, PullUp},
-    {"SCLIN"_l1, Peripheral, "level of the clock line"_l1},
+     ClockSource, "u_rtc.u_sync_rtc_clk"_l1},
+    {"SCL"_l1, Peripheral, "clock of the bus"_l1, none, PullUp, "u_i2c.u_sync_scl"_l1},
+    {"SDA"_l1, Peripheral, "data of the bus"_l1, none, PullUp, "u_i2c.u_sync_sda"_l1},
+    {"SCLIN"_l1, Peripheral, "level of the clock line"_l1, none, Plain, "u_i2c.u_sync_scl"_l1},
     {"SCLOUT"_l1, Peripheral, "value for the clock line, always 0"_l1, hclk},
     {"SCLOUTEN"_l1, Peripheral, "1 drives the clock line"_l1, hclk},
-    {"SDAIN"_l1, Peripheral, "level of the data line"_l1},
+    {"SDAIN"_l1, Peripheral, "level of the data line"_l1, none, Plain, "u_i2c.u_sync_sda"_l1},
     {"SDAOUT"_l1, Peripheral, "value for the data line, always 0"_l1, hclk},
     {"SDAOUTEN"_l1, Peripheral, "1 drives the data line"_l1, hclk},
     {"MOSI"_l1, Peripheral, "data to the slave"_l1, hclk},
@@ -162,13 +166,14 @@ constexpr PortRow rows[] = {
     {"NSS"_l1, Peripheral, "slave select"_l1, hclk, ActiveLow},
     {"SD_CLK"_l1, Peripheral, "clock of the card"_l1, hclk},
     {"SD_SPICLK"_l1, Peripheral,
-     "source clock of SD_CLK, sampled with HCLK and slower than HCLK / 4"_l1, none, ClockSource},
+     "source clock of SD_CLK, sampled with HCLK and slower than HCLK / 4"_l1, none, ClockSource,
+     "u_sd.u_sync_spiclk"_l1},
     {"SD_CS"_l1, Peripheral, "chip select of the card"_l1, hclk, ActiveLow},
     {"SD_DATAIN"_l1, Peripheral, "data from the card"_l1, hclk},
     {"SD_DATAOUT"_l1, Peripheral, "data to the card"_l1, hclk},
     {"SD_CARD_INIT"_l1, Status, "software has initialised the card"_l1, hclk},
     {"SD_CHECKIN"_l1, Peripheral, "switch of the card's socket, low with a card"_l1, none,
-     ActiveLow},
+     ActiveLow, "u_sd.u_sync_checkin"_l1},
     {"SD_CHECKOUT"_l1, Status, "a card is present"_l1, hclk},
 };
 
@@ -257,6 +262,7 @@ void describe(Port *port, const QVector<Region> &regions)
         port->role = row->role;
         port->text = row->text;
         port->clock = row->clock;
+        port->synchronizer = row->synchronizer;
         port->isActiveLow = (row->traits & ActiveLow) != 0;
         port->needsPullUp = (row->traits & PullUp) != 0;
         return;

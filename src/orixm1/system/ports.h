@@ -36,6 +36,9 @@ struct Port {
     bool needsPullUp = false; // outside of the device, or of the user's logic
     QString clock; // name of the clock's or strobe's port that it belongs to; empty: asynchronous
     QString text;  // a phrase
+    // Path of the synchronizer that takes the port's signal to HCLK, "u_uart0.u_sync_rxd"; empty:
+    // none does.
+    QString synchronizer;
 
     bool isVector() const { return left >= 0; }
     int width() const { return isVector() ? left - right + 1 : 1; } // lines
