@@ -551,8 +551,19 @@ void tst_Datasheet::showsAnyTextAsItIs()
     made.regions[0].name = text;
     made.interrupts[0].lost = text;
     made.interrupts[0].source = text;
-    made.ports.append({text, -1, -1, PortDirection::Input, PortRole::Clock, text, text, text, false,
-                       false, text, text});
+    made.ports.append({text,
+                       -1,
+                       -1,
+                       PortDirection::Input,
+                       PortRole::Clock,
+                       text,
+                       text,
+                       text,
+                       false,
+                       false,
+                       text,
+                       text,
+                       {}});
     made.clocks.append({text, false, text});
     made.blackBoxes.append({text, QString(), text});
     made.resources = ResourceFigures{{{text, 1, 2}}, text};
