@@ -293,7 +293,10 @@ module tb;
         apb_write(STATUS, 32'h8);
         apb_expect(STATUS, 32'h0, "RXOVER cleared");
         check(irq === 1'b0, "no more error");
+        apb_write(CTRL, RXEN | BREAKIE);
         send(8'h7E, 210, 2);
+        check(irq === 1'b0, "no interrupt of a break");
+        apb_write(CTRL, RXEN | ERRIE);
         apb_expect(STATUS, 32'h10, "FRAME, and the byte is dropped");
         check(irq === 1'b1, "interrupt of a framing error");
         apb_write(STATUS, 32'h10);
@@ -407,7 +410,9 @@ module tb;
         cycles(40);
         check(txd === 1'b1, "not while the transmitter is off");
         apb_write(CTRL, TXEN | BREAK);
-        cycles(700);
+        cycles(350);
+        apb_write(CTRL, TXEN | BREAK);
+        cycles(350);
         check(txd === 1'b0, "as long as it is asked for");
         started = $time;
         apb_write(CTRL, TXEN);
@@ -485,7 +490,7 @@ module tb;
         for (count = 0; count < 60; count = count + 1) begin
             cyc  = 16 + $urandom(seed) % (count % 12 == 0 ? 100 : 20);
             frac = count % 3 == 0 ? 0 : $urandom(seed) % 64;
-            keep = count % 4 != 1;
+            keep = count % 4 > 1;
             kind = count % 2 == 0 ? 1 + 2 * ($urandom(seed) % 4) : 2 * ($urandom(seed) % 4);
             set_rate(cyc, frac);
             set_format(5 + $urandom(seed) % 5, kind, 1 + $urandom(seed) % 2, keep);
@@ -543,6 +548,42 @@ module tb;
         apb_expect(DATA, 32'h1255, "wrong parity behind lost ones");
         send(7'h2A, 160, 0);
         apb_expect(DATA, 32'h2A, "and the next one is good");
+        apb_write(STATUS, 32'hF8);
+        set_format(8, 7, 1, 1);
+        send(8'h00, 160, 2);
+        apb_expect(DATA, 32'h400, "a parity bit that is 1 is no break");
+        apb_expect(STATUS, 32'h10, "but a missing stop bit");
+
+        // In the cycle in which a character goes there is room for another one.
+        apb_write(STATUS, 32'hF8);
+        apb_write(CTRL, 0);
+        set_format(5, 0, 1, 1);
+        took = 1'b0;
+        for (n = 0; n < 32 && !took; n = n + 1) begin
+            apb_write(COMMAND, 2);
+            apb_write(CTRL, TXEN);
+            for (k = 0; k <= DEPTH; k = k + 1) apb_write(DATA, k);
+            apb_expect(STATUS, 32'h5, "one on its way, the FIFO is full");
+            cycles(95 - 2 * (DEPTH + 2) + n);
+            psel = 1'b1; pwrite = 1'b1; paddr = DATA; pwdata = 32'd9; pstrb = 4'b1111;
+            cycles(1);
+            penable = 1'b1;
+            cycles(1);
+            psel = 1'b0; penable = 1'b0; pwrite = 1'b0;
+            // It was taken, and the FIFO is full again: too early it is lost, too late there was room.
+            apb_read(STATUS);
+            took = rd === 32'h5;
+            if (!took) begin
+                cycles(40);
+                apb_expect(LEVEL, 32'h10000 | (DEPTH - 1) << 8, "what TXOVER tells of is lost");
+            end
+            apb_write(STATUS, 32'h20);
+            apb_write(CTRL, 0);
+            apb_write(COMMAND, 2);
+            wait_sent;
+        end
+        check(took, "written in the cycle in which one leaves");
+        apb_write(CTRL, RXEN);
         apb_write(STATUS, 32'hF8);
 
         // Bits of FORMAT that count for nothing.
