@@ -10,5 +10,7 @@ int main(void)
         return 1;
     if (uart_write(UART0, text, sizeof text - 1, 100000u) != sizeof text - 1)
         return 2;
+    if (uart_flush(UART0, 100000u) != UART_OK)
+        return 3;
     return 0;
 }

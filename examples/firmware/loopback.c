@@ -1,5 +1,6 @@
 /* What the board of the simulation hands back: MISO follows MOSI, UART1 hears itself, and extension
- * ports have a memory behind them. Says on UART0 what was found in order. */
+ * ports have a memory behind them. UART1 hears itself without the board, too. Says on UART0 what
+ * was found in order. */
 #include "spi.h"
 #include "system_tarvo_orix_m1.h"
 #include "uart.h"
@@ -45,6 +46,30 @@ static bool uart_works(void)
     return uart_take_errors(UART1) == 0u;
 }
 
+/* A FIFO full of characters of nine bits, with odd parity and two stop bits. */
+static bool uart_hears_itself(void)
+{
+    uint32_t character, i;
+    const uint32_t size = uart_fifo_size(UART1);
+
+    if (uart_set_format(UART1, 9u, UART_PARITY_ODD, 2u, true) != UART_OK)
+        return false;
+    uart_loop_back(UART1, true);
+    for (i = 0; i < size; ++i) {
+        if (uart_put_character(UART1, 0x1F0u ^ (i * 31u), 1u) != UART_OK)
+            return false;
+    }
+    if (uart_flush(UART1, 10000u) != UART_OK)
+        return false;
+    for (i = 0; i < size; ++i) {
+        if (uart_get_character(UART1, &character, 1u) != UART_OK ||
+            character != (0x1F0u ^ (i * 31u)))
+            return false;
+    }
+    uart_loop_back(UART1, false);
+    return uart_take_errors(UART1) == 0u;
+}
+
 static bool memory_works(uint32_t base)
 {
     volatile uint32_t *memory = (volatile uint32_t *)base;
@@ -69,7 +94,7 @@ int main(void)
     if (!spi_works(SPI_MODE_0, false) || !spi_works(SPI_MODE_3, true))
         return 2;
     print("SPI\n");
-    if (!uart_works())
+    if (!uart_works() || !uart_hears_itself())
         return 3;
     print("UART1\n");
     if (!memory_works(AHB1_BASE) || !memory_works(APB1_BASE))

@@ -60,6 +60,60 @@ private Q_SLOTS:
         QCOMPARE(run.out, TestSupport::contentsOf(path("in")));
     }
 
+    void everyFormatComesAndGoes_data()
+    {
+        QTest::addColumn<QString>("engine");
+        QTest::newRow("Icarus") << QStringLiteral("icarus");
+        QTest::newRow("Verilator") << QStringLiteral("verilator");
+    }
+
+    // A byte in each format, at rates with a fraction and beside breaks; of shorter characters the
+    // bits that they have. What the FIFO holds when the program ends comes too.
+    void everyFormatComesAndGoes()
+    {
+        QFETCH(QString, engine);
+        QByteArray in, out;
+        for (int bits = 5; bits <= 9; ++bits) {
+            for (int i = 0; i < 10; ++i) {
+                in.append(char(0xC5 + 37 * in.size()));
+                out.append(char(in.back() & ((1 << bits) - 1)));
+            }
+        }
+        TestSupport::write(path("in"), in);
+        const Run run = simulate("Enable%20UART0=true\n",
+                                 program("uart",
+                                         "static const uart_parity parities[] = {UART_PARITY_NONE, "
+                                         "UART_PARITY_EVEN, UART_PARITY_ODD, UART_PARITY_SPACE, "
+                                         "UART_PARITY_MARK};",
+                                         R"(
+    uint32_t bits, i, character, rate = 3100000u;
+    for (bits = 5; bits <= 9; ++bits) {
+        for (i = 0; i < 10; ++i) {
+            EXPECT(uart_init(UART0, SystemCoreClock, rate) == UART_OK);
+            EXPECT(uart_set_format(UART0, bits, parities[i / 2], 1 + i % 2, true) == UART_OK);
+            EXPECT(uart_get_character(UART0, &character, LIMIT) == UART_OK);
+            UART0->CTRL = UART_CTRL_TXEN_Msk; /* the next one has another format */
+            EXPECT(character <= 0xFF && uart_take_errors(UART0) == 0);
+            if (i == 3)
+                EXPECT(uart_send_break(UART0, LIMIT) == UART_OK);
+            EXPECT(uart_put_character(UART0, character | 0x100, LIMIT) == UART_OK);
+            EXPECT(uart_flush(UART0, LIMIT) == UART_OK);
+            rate -= 40009u;
+        }
+    }
+    EXPECT(uart_init(UART0, SystemCoreClock, 1000000u) == UART_OK);
+    EXPECT(uart_set_format(UART0, 9, UART_PARITY_ODD, 2, false) == UART_OK);
+    uart_stop(UART0);
+    EXPECT(uart_write(UART0, "the last sixteen", 16, 1) == 16);
+    UART0->CTRL = UART_CTRL_TXEN_Msk | UART_CTRL_BREAK_Msk;
+    UART0->CTRL = UART_CTRL_TXEN_Msk;
+)"),
+                                 QStringList{QStringLiteral("--uart0-input"), QStringLiteral("in"),
+                                             QStringLiteral("--engine"), engine});
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        QCOMPARE(run.out, out + "the last sixteen");
+    }
+
     // Bytes at the rate of the line, without pauses: as fast as the program that takes them.
     void bytesComeBackToBack()
     {

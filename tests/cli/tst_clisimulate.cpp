@@ -277,7 +277,8 @@ private Q_SLOTS:
         QTest::newRow("a place in a driver")
             << QByteArray("#include \"uart.h\"\nint main(void)\n{\n"
                           "    uart_init(UART0, 50000000u, 50u);\n"
-                          "    return (int)uart_write(UART0, \"abc\", 3, 0xFFFFFFFFu);\n}\n")
+                          "    uart_put(UART0, 'a', 1u);\n"
+                          "    return (int)uart_flush(UART0, 0xFFFFFFFFu);\n}\n")
             << words({"() in software/drivers/uart.c:"});
     }
 

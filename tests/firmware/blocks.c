@@ -277,6 +277,53 @@ static void use_external_interrupts(void)
     check("pins taken back", gpio_outputs(GPIO) & 0x0Fu, 0u);
 }
 
+/* Nine data bits, parity, two stop bits, half a cycle more a bit; a wrong parity, a break, the
+ * loop. */
+static void use_uart_formats(void)
+{
+    uint32_t character = 0u;
+    NVIC_DisableIRQ(UART1_IRQn);
+    check("uart_init 0", uart_init(UART0, 2u * CLOCK, 2u * CLOCK * 2u / 33u), UART_OK);
+    check("uart_init 1", uart_init(UART1, 2u * CLOCK, 2u * CLOCK * 2u / 33u), UART_OK);
+    check("UART_BAUDDIV", UART0->BAUDDIV, 16u | 32u << UART_BAUDDIV_FRACTION_Pos);
+    check("uart_set_format 0", uart_set_format(UART0, 9u, UART_PARITY_ODD, 2u, true), UART_OK);
+    check("uart_set_format 1", uart_set_format(UART1, 9u, UART_PARITY_ODD, 2u, true), UART_OK);
+    check("uart_put_character", uart_put_character(UART0, 0x155u, POLLS), UART_OK);
+    check("uart_put_character", uart_put_character(UART0, 0x0AAu, POLLS), UART_OK);
+    check("uart_get_character", uart_get_character(UART1, &character, POLLS), UART_OK);
+    check("nine bits", character, 0x155u);
+    check("uart_get_character", uart_get_character(UART1, &character, POLLS), UART_OK);
+    check("nine bits", character, 0x0AAu);
+    check("uart_flush", uart_flush(UART0, POLLS), UART_OK);
+    check("uart_set_format 1", uart_set_format(UART1, 9u, UART_PARITY_EVEN, 1u, true), UART_OK);
+    check("uart_set_thresholds", uart_set_thresholds(UART1, 3u, 1u), UART_OK);
+    check("uart_set_timeout", uart_set_timeout(UART1, 30u), UART_OK);
+    uart_enable_interrupts(UART1, UART_CTRL_RXIE_Msk | UART_CTRL_TIMEOUTIE_Msk);
+    check("uart_put_character", uart_put_character(UART0, 0x101u, POLLS), UART_OK);
+    check("uart_send_break", uart_send_break(UART0, POLLS), UART_OK);
+    check("uart_flush", uart_flush(UART0, POLLS), UART_OK);
+    check("below the threshold", NVIC_GetPendingIRQ(UART1_IRQn), 0u);
+    for (uint32_t i = 0u; i < POLLS && NVIC_GetPendingIRQ(UART1_IRQn) == 0u; ++i) {
+    }
+    check("time-out", UART1->STATUS & UART_STATUS_TIMEOUT_Msk, UART_STATUS_TIMEOUT_Msk);
+    uart_disable_interrupts(UART1, UART_CTRL_RXIE_Msk | UART_CTRL_TIMEOUTIE_Msk);
+    check("uart_get_character", uart_get_character(UART1, &character, 1u), UART_OK);
+    check("wrong parity", character, 0x101u | UART_DATA_PARITY_Msk);
+    check("uart_get_character", uart_get_character(UART1, &character, 1u), UART_OK);
+    check("break", character, UART_DATA_BREAK_Msk | UART_DATA_FRAME_Msk);
+    check("errors", uart_take_errors(UART1),
+          UART_STATUS_PARITY_Msk | UART_STATUS_FRAME_Msk | UART_STATUS_BREAK_Msk);
+    uart_loop_back(UART0, true);
+    check("uart_put", uart_put(UART0, 0x3Cu, POLLS), UART_OK);
+    check("uart_get_character", uart_get_character(UART0, &character, POLLS), UART_OK);
+    check("heard from itself", character, 0x3Cu);
+    check("uart_flush", uart_flush(UART0, POLLS), UART_OK);
+    uart_loop_back(UART0, false);
+    check("not by the other one", uart_can_get(UART1), false);
+    check("errors", uart_take_errors(UART0) | uart_take_errors(UART1), 0u);
+    check("identity", UART0->ID, UART_ID_RESET);
+}
+
 static void use_uarts(void)
 {
     uint8_t byte = 0u;
@@ -300,6 +347,7 @@ static void use_uarts(void)
     check("byte of the other line", byte, 0x5Au);
     check("uart_flush", uart_flush(UART1, POLLS), UART_OK);
     check("errors", uart_take_errors(UART0) | uart_take_errors(UART1), 0u);
+    use_uart_formats();
 }
 
 static void use_timer(void)

@@ -84,12 +84,29 @@ module board;
     wire [31:0] apb1_rdata = (apb1_sel && apb1_ready) ? apb1_memory[apb1_addr[5:2]] : 32'hx;
     wire [31:0] apb2_rdata = apb2_sel ? apb2_memory[apb2_addr[5:2]] : 32'hx;
 
-    // ---- UART lines, sixteen clock cycles a bit
+    // ---- UART lines, sixteen clock cycles a bit; from the seventh character of UART0 on sixteen and a half, nine bits, odd
+    // parity, two stop bits
     reg [8*6-1:0] line0 = 48'd0;     // the last six bytes
     reg [8*6-1:0] line1 = 48'd0;
     integer bytes0 = 0, bytes1 = 0, n0, n1;
     reg [7:0] byte0, byte1;
-    always @(negedge from_uart0) begin
+    integer      wide0 = 0, breaks0 = 0;
+    reg [9*3-1:0] words0 = 27'd0;
+    reg [11:0]   word0;
+    time         fall0;
+    always @(negedge from_uart0) if (bytes0 == 6) begin
+        #165;
+        for (n0 = 0; n0 < 12; n0 = n0 + 1) begin #330 word0[n0] = from_uart0; end
+        if (word0 == 12'd0) begin
+            fall0 = $time;
+            if (!from_uart0) @(posedge from_uart0);
+            expect_that($time - fall0 < 330, "thirteen bit times of a break");
+            breaks0 = breaks0 + 1;
+        end else begin
+            expect_that(word0[11:10] == 2'b11 && ^word0[9:0], "parity and stop bits of UART0");
+            words0 = {words0[17:0], word0[8:0]}; wide0 = wide0 + 1;
+        end
+    end else begin
         #160;
         for (n0 = 0; n0 < 8; n0 = n0 + 1) begin #320 byte0[n0] = from_uart0; end
         #320 expect_that(from_uart0, "a stop bit of UART0");
@@ -183,6 +200,7 @@ module board;
     end
     always @(posedge dut.u_core.done) begin
         expect_that(line0 == "sensor" && bytes0 == 6, "the six bytes of UART0");
+        expect_that(words0 == {9'h155, 9'h0AA, 9'h101} && wide0 == 3 && breaks0 == 1, "nine bits and the break of UART0");
         expect_that(line1[7:0] == 8'h5A && bytes1 == 1, "the byte of UART1");
         expect_that(spi_bits == 32'h960F313C && spi_count == 32, "the four bytes of SPI");
         expect_that(spi_slow == 0, "eight clock cycles a bit of SPI");

@@ -107,7 +107,7 @@ finish
 continue
 COMMANDS
     said "Reset_Handler in section *" "Temporary breakpoint 1, main *" "PRIMASK 0 CONTROL 0" '$1 = 0' '$2 = 7' \
-        '$3 = {DATA = 0x0, STATUS = 0x0, CTRL = 0x0, BAUDDIV = 0x*}' '$4 = 100' "main + * in section *" \
+        '$3 = {DATA = 0x0, STATUS = 0x0, CTRL = 0x0, BAUDDIV = 0x*, ID = 0x*}' '$4 = 100' "main + * in section *" \
         "Hardware watchpoint 2: ticks" "Old value = 0" "New value = 1" "#0 *SysTick_Handler*" '#* main *' \
         "Temporary breakpoint 3, UART0_IRQHandler *" "* in uart_enable_interrupts *" "*exited normally*"
     finish $'PASS\nBOARD PASS'

@@ -141,9 +141,12 @@ case ${case[0]} in
             count=$((count + 1))
         done <<'END'
 hello ahb_to_apb.v s/(assign PWDATA += HWDATA)/\1 \& 32'hFFFFFFEF/
-hello apb_uart.v s/tx_buffer <= PWDATA\[7:0\]/tx_buffer <= PWDATA[7:0] | 8'h04/
-echo apb_uart.v s/rx_buffer <= rx_shift/rx_buffer <= rx_shift | 8'h20/
-echo apb_uart.v s/\(ctrl\[3\] & rx_full\)/1'b0/
+hello apb_uart.v s/tx_shift  <= tx_data/tx_shift  <= tx_data | 9'h004/
+echo apb_uart.v s/is_break \| is_wrong, rx_shift/is_break | is_wrong, rx_shift | 9'h020/
+echo apb_uart.v s/\(ctrl\[3\] & rx_reached\)/1'b0/
+echo apb_uart.v s/(assign timed_out = ).*;/\11'b0;/
+loopback apb_uart.v s/(wire rx +=) loop \? tx_line :/\1/
+loopback apb_uart.v s/PWDATA\[8\] \& PSTRB\[1\]/1'b0/
 blink ahb_gpio.v s/(4'd0: +r = level)/\1 | 16'h0800/
 blink ahb_gpio.v s/gpio_out +<= gpio_out \| w/gpio_out <= gpio_out | (w \& 16'hFFBF)/
 blink apb_timer.v s/(assign irq += )pend/\11'b0/

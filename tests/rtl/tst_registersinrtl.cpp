@@ -30,8 +30,8 @@ OuterPins outerPins(const QString &module)
         {QStringLiteral("ahb_spi_flash"),
          {QStringLiteral(".flash_miso(1'b0)"), QStringLiteral(".flash_miso(act[2])")}},
         {QStringLiteral("apb_uart"),
-         // Bytes of eight bits, 16 clock cycles each.
-         {QStringLiteral(".rxd(1'b1)"), QStringLiteral(".rxd(act[7])")}},
+         // Breaks and bytes, 16 clock cycles a bit.
+         {QStringLiteral(".rxd(1'b1)"), QStringLiteral(".rxd(act[9] ? act[7] : act[8])")}},
         {QStringLiteral("apb_timer"),
          {QStringLiteral(".extin(1'b0)"), QStringLiteral(".extin(act[2])")}},
         {QStringLiteral("apb_rtc"),
@@ -632,7 +632,8 @@ QString simulate(const QString &bench, const QStringList &sources)
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
                               QStringLiteral("-I" RTL_TESTS_DIR), QStringLiteral("-I" RTL_DIR),
-                              QStringLiteral("-o"), QStringLiteral("bench")} +
+                              QStringLiteral("-y" RTL_DIR), QStringLiteral("-o"),
+                              QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
     if (!process.waitForFinished(120000) || process.exitCode() != 0)
         return process.errorString() + u'\n' + QString::fromUtf8(process.readAll());

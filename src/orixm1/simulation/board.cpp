@@ -84,6 +84,20 @@ module board_register #(
                 if (lanes[i]) value[8*i +: 8] <= data[8*i +: 8];
 endmodule
 
+// How long the bits of a UART are: whole clock cycles, so that their sum keeps up with the exact one.
+module board_uart_clock (
+    input  wire        clk, step,
+    input  wire [19:0] divider,
+    input  wire [5:0]  fraction, // 64ths of a clock cycle
+    output wire [20:0] cycles    // of the next bit
+);
+    reg  [5:0] sum = 6'd0;
+    wire [6:0] next = {1'b0, sum} + {1'b0, fraction};
+    assign cycles = {1'b0, divider} + {20'd0, next[6]};
+    always @(posedge clk)
+        if (step) sum <= next[5:0];
+endmodule
+
 // Sends what comes from outside while the receiver is on. A byte that is cut off is sent again.
 module board_uart_sender #(
     parameter NUMBER = 0
@@ -91,15 +105,24 @@ module board_uart_sender #(
     input  wire        clk, enabled,
     input  wire        quiet,   // the UART does not hear itself just now
     input  wire [19:0] divider, // clock cycles a bit
+    input  wire [5:0]  fraction,
+    input  wire [1:0]  bits,    // data bits: 5 to 8
+    input  wire        nine, parity, odd, stick, two_stops,
     output reg         line,
     output reg         is_used  // something has come, or is going to
 );
     reg        has_byte = 1'b0;
-    reg [7:0]  data;
-    reg [3:0]  place = 4'd0;    // 0: idle, 1 to 8: data bits follow, 9: stop bit, 10, 11: within it
-    reg [19:0] left = 20'd0;    // clock cycles until then
+    reg [8:0]  data;
+    reg [12:0] frame;           // bits that follow
+    reg [3:0]  place = 4'd0;    // bits of the frame that are left, the one on the line included; 0: idle
+    reg [20:0] left = 21'd0;    // clock cycles until the next one
     reg [3:0]  pause = 4'd0;
     integer    next;
+    wire [3:0]  size = nine ? 4'd9 : 4'd5 + {2'd0, bits};
+    wire [8:0]  used = (9'd1 << size) - 9'd1;
+    wire [20:0] cycles;
+    wire        step = enabled && left <= 21'd1;
+    board_uart_clock clock (.clk(clk), .step(step), .divider(divider), .fraction(fraction), .cycles(cycles));
     initial begin
         line = 1'b1;
         is_used = NUMBER == 0 ? $test$plusargs("uart0-input=") != 0 : $test$plusargs("uart1-input=") != 0;
@@ -109,63 +132,81 @@ module board_uart_sender #(
         if (!enabled) begin
             line <= 1'b1;
             place <= 4'd0;
-            left <= divider;
-        end else if (left > 20'd1)
-            left <= left - 20'd1;
-        else if (place == 4'd0 || place == 4'd11) begin
+            left <= cycles;
+        end else if (left > 21'd1) begin
+            left <= left - 21'd1;
+            // Some cycles behind the middle of the first stop bit the receiver has it.
+            if (place == 4'd1 + {3'd0, two_stops} && left == {2'd0, divider[19:1]} - 21'd6)
+                has_byte = 1'b0;
+        end else if (place <= 4'd1) begin
             // An idle line looks for a byte each 16 clock cycles.
             if (!has_byte && (is_used || quiet) && (pause == 4'd0 || place != 4'd0)) begin
                 next = `BOARD_INPUT(NUMBER);
                 if (next >= 0) begin
-                    data = next[7:0];
+                    data = {1'b0, next[7:0]};
                     has_byte = 1'b1;
                     is_used <= 1'b1;
                 end
             end
-            place <= has_byte ? 4'd1 : 4'd0;
+            frame <= {4'hF, data | ~used} &
+                     ~(parity && !(odd ^ (^(data & used) & ~stick)) ? 13'd1 << size : 13'd0);
+            place <= has_byte ? 4'd2 + size + {3'd0, parity} + {3'd0, two_stops} : 4'd0;
             line <= !has_byte;
-            left <= has_byte ? divider : 20'd0;
+            left <= has_byte ? cycles : 21'd0;
         end else begin
-            place <= place + 4'd1;
-            line <= place > 4'd8 || data[place[2:0] - 3'd1];
-            left <= place < 4'd9 ? divider : place == 4'd9 ? {1'b0, divider[19:1]} + 20'd4 : divider[19:1] - 20'd4;
-            // The receiver has it by now.
-            if (place == 4'd10)
-                has_byte = 1'b0;
+            place <= place - 4'd1;
+            line <= frame[0];
+            frame <= {1'b1, frame[12:1]};
+            left <= cycles;
         end
     end
 endmodule
 
-// Reads a line of eight data bits, no parity, one stop bit.
+// Reads a line. What has no stop bit, such as a break, counts for nothing; of nine data bits the lower eight are told.
 module board_uart #(
     parameter NUMBER = 0
 ) (
     input wire        clk, line,
     input wire [19:0] divider, // clock cycles a bit
+    input wire [5:0]  fraction,
+    input wire [1:0]  bits,    // data bits: 5 to 8
+    input wire        nine, parity,
     output reg        busy
 );
     reg [7:0]  data;
-    reg [19:0] left;           // clock cycles until the middle of the next bit
+    reg [20:0] left;           // clock cycles until the middle of the next bit
     reg [3:0]  place;
+    reg        is_lost = 1'b0; // until the line is high again
+    wire [3:0]  size = nine ? 4'd9 : 4'd5 + {2'd0, bits};
+    wire [20:0] cycles;
+    wire        step = busy && !is_lost && left <= 21'd1;
+    board_uart_clock clock (.clk(clk), .step(step), .divider(divider), .fraction(fraction), .cycles(cycles));
     initial busy = 1'b0;
     always @(posedge clk)
         if (!busy) begin
             busy <= line === 1'b0;
-            left <= {1'b0, divider[19:1]};
+            left <= {2'd0, divider[19:1]};
             place <= 4'd0;
-        end else if (left > 20'd1)
-            left <= left - 20'd1;
+            data <= 8'd0;
+        end else if (is_lost) begin
+            is_lost <= line !== 1'b1;
+            busy <= line !== 1'b1;
+        end else if (left > 21'd1)
+            left <= left - 21'd1;
         else begin
-            left <= divider;
+            left <= cycles;
             place <= place + 4'd1;
             if (place == 4'd0)
                 busy <= line === 1'b0;
-            else if (place < 4'd9)
-                data[place[2:0] - 3'd1] <= line;
-            else begin
-                busy <= 1'b0;
-                if (line === 1'b1)
+            else if (place <= size) begin
+                if (place <= 4'd8)
+                    data[place[2:0] - 3'd1] <= line;
+            end else if (place == size + 4'd1 + {3'd0, parity}) begin
+                if (line === 1'b1) begin
+                    busy <= 1'b0;
                     `BOARD_SENT(NUMBER, data);
+                end else
+                    is_lost <= 1'b1;
             end
         end
 endmodule
@@ -313,8 +354,8 @@ constexpr char tail[] = R"(
     reg        was_locked_up = 1'b0;
     reg        is_done = 1'b0;
     reg [63:0] done_at;
-    reg [23:0] silence;          // clock cycles in which no UART sends
-    reg [23:0] draining;
+    reg [31:0] silence;          // clock cycles in which no UART sends
+    reg [31:0] draining;
     integer    host_state = 0;
     always @(posedge clk)
         if (power_good && !ended) begin
@@ -341,14 +382,15 @@ constexpr char tail[] = R"(
             end else if (!is_done && dut.u_core.done) begin
                 is_done <= 1'b1;
                 done_at <= cycles;
-                silence <= 24'd0;
-                draining <= 24'd0;
+                silence <= 32'd0;
+                draining <= 32'd0;
                 $display("\036%0s done", mark);
             end else if (is_done) begin
-                // What the UARTs still hold is on its way when the program ends: at most two bytes each.
-                silence <= uart_busy ? 24'd0 : silence + 24'd1;
-                draining <= draining + 24'd1;
-                if (silence > {4'd0, uart_bit} + 24'd64 || draining > {4'd0, uart_bit} * 24'd32 + 24'd256) begin
+                // What the UARTs still hold is on its way when the program ends: their FIFOs, and a break. Between two
+                // characters there are less than two bit times from the middle of the first stop bit on.
+                silence <= uart_busy ? 32'd0 : silence + 32'd1;
+                draining <= draining + 32'd1;
+                if (silence > {11'd0, uart_bit, 1'b0} + 32'd64 || draining > {4'd0, uart_bit, 8'd0} + 32'd256) begin
                     ended <= 1'b1;
                     if (dut.u_core.passed) $display("\036%0s end passed %0d", mark, done_at);
                     else $display("\036%0s end failed %0d", mark, done_at);
@@ -585,6 +627,16 @@ private:
             .arg(resetValue(*place.entry), 8, 16, QLatin1Char('0'));
     }
 
+    // A field of a register of which there is a copy.
+    static QString fieldOf(const Place &place, const QString &copy, QLatin1String name)
+    {
+        const QVector<RegisterField> &fields = place.entry->fields;
+        const auto field =
+            std::find_if(fields.begin(), fields.end(),
+                         [name](const RegisterField &candidate) { return candidate.name == name; });
+        return QStringLiteral("%1[%2:%3]").arg(copy).arg(field->high).arg(field->low);
+    }
+
     // Readers and senders of the lines of the UARTs, which follow the registers.
     QString uarts() const
     {
@@ -598,30 +650,35 @@ private:
             for (const PeripheralInstance &instance : peripheral.instances) {
                 const Place rate = placeOf(peripheral, instance, "BAUDDIV"_l1);
                 const Place control = placeOf(peripheral, instance, "CTRL"_l1);
-                const int number = instance.name.rightRef(1).toInt();
-                const QVector<RegisterField> &fields = control.entry->fields;
-                const auto receiver =
-                    std::find_if(fields.begin(), fields.end(), [](const RegisterField &field) {
-                        return field.name == "RXEN"_l1;
-                    });
-                text +=
-                    copyOf(rate, QStringLiteral("rate%1").arg(number)) +
-                    copyOf(control, QStringLiteral("control%1").arg(number)) +
-                    QStringLiteral(
-                        "    wire [19:0] divider%1 = rate%1[19:0] < 20'd%2 ? 20'd%2 : "
-                        "rate%1[19:0];\n"
-                        "    wire busy%1, line%1, is_used%1;\n"
-                        "    board_uart #(.NUMBER(%1)) uart%1 (.clk(clk), .line(p_UART%1TXD), "
-                        ".divider(divider%1), .busy(busy%1));\n"
-                        "    board_uart_sender #(.NUMBER(%1)) sender%1 (.clk(clk), "
-                        ".enabled(control%1[%3]), .quiet(%1 == 0 || !busy%1), .divider(divider%1), "
-                        ".line(line%1), "
-                        ".is_used(is_used%1));\n")
-                        .arg(number)
-                        .arg(rate.entry->fields.first().minimum)
-                        .arg(receiver->low);
-                busy.append(QStringLiteral("busy%1").arg(number));
-                bit = QStringLiteral("(divider%1 > %2 ? divider%1 : %2)").arg(number).arg(bit);
+                const Place format = placeOf(peripheral, instance, "FORMAT"_l1);
+                const QString number = instance.name.right(1);
+                const auto formatField = [&](QLatin1String name) {
+                    return fieldOf(format, "format"_l1 + number, name);
+                };
+                const QString reading =
+                    QStringLiteral(".clk(clk), .divider(divider%1), .fraction(%2), .bits(%3), "
+                                   ".nine(%4), .parity(%5)")
+                        .arg(number, fieldOf(rate, "rate"_l1 + number, "FRACTION"_l1),
+                             formatField("BITS"_l1), formatField("NINE"_l1),
+                             formatField("PARITY"_l1));
+                text += copyOf(rate, "rate"_l1 + number) + copyOf(control, "control"_l1 + number) +
+                        copyOf(format, "format"_l1 + number);
+                text += QStringLiteral("    wire [19:0] divider%1 = %2 < 20'd%3 ? 20'd%3 : %2;\n"
+                                       "    wire busy%1, line%1, is_used%1;\n")
+                            .arg(number, fieldOf(rate, "rate"_l1 + number, "CYCLES"_l1))
+                            .arg(rate.entry->fields.first().minimum);
+                text += QStringLiteral("    board_uart #(.NUMBER(%1)) uart%1 (%2, "
+                                       ".line(p_UART%1TXD), .busy(busy%1));\n")
+                            .arg(number, reading);
+                text += QStringLiteral("    board_uart_sender #(.NUMBER(%1)) sender%1 (%2, "
+                                       ".odd(%3), .stick(%4), .two_stops(%5), .enabled(%6), "
+                                       ".quiet(%1 == 0 || !busy%1), .line(line%1), "
+                                       ".is_used(is_used%1));\n")
+                            .arg(number, reading, formatField("ODD"_l1), formatField("STICK"_l1),
+                                 formatField("STOP"_l1),
+                                 fieldOf(control, "control"_l1 + number, "RXEN"_l1));
+                busy.append("busy"_l1 + number);
+                bit = QStringLiteral("(divider%1 > %2 ? divider%1 : %2)").arg(number, bit);
             }
         }
         return text + "    wire uart_busy = "_l1 + busy.join(" | "_l1) +

@@ -324,7 +324,7 @@ void tst_DriversOnRtl::initTestCase()
 void tst_DriversOnRtl::worksOnItsBlock_data()
 {
     QTest::addColumn<QString>("sources");
-    QTest::newRow("uart") << "apb_uart";
+    QTest::newRow("uart") << "apb_uart sync_fifo cdc_synchronizer";
     QTest::newRow("spi") << "apb_spi spi_engine";
     QTest::newRow("i2c") << "apb_i2c";
     QTest::newRow("spiflash") << "ahb_spi_flash spi_engine";
