@@ -48,7 +48,7 @@
     task push_block(input integer bytes, input from_memory);
         begin
             push_idle(pause);
-            if (no_token && transferred == fault_at) push_idle(400);
+            if (no_token && transferred == fault_at) push_idle(1000);
             else if (bad_token && transferred == fault_at) push(error_token);
             else begin
                 push(8'hFE);
