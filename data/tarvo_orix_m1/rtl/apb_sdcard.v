@@ -130,7 +130,6 @@ module apb_sdcard #(
     wire gone       = active & ~card;
 
     // ---- buffer
-    localparam [LOG_WORDS:0] ALL = {1'b1, {LOG_WORDS{1'b0}}};
     reg  [31:0]        mem [0:(1 << LOG_WORDS)-1];
     reg  [31:0]        oldest;
     reg  [LOG_WORDS:0] write_at;
@@ -139,17 +138,18 @@ module apb_sdcard #(
     wire               card_pop, card_push, keep, drop;
     wire [31:0]        card_word;
     wire [LOG_WORDS:0] level = good_to - read_at;
-    wire [LOG_WORDS:0] free  = ALL - (write_at - read_at);
+    wire [LOG_WORDS:0] used  = write_at - read_at;
     wire               is_empty = level == {(LOG_WORDS + 1){1'b0}};
     wire               reads    = direction == 2'd1;
     wire               writes   = direction == 2'd2;
     wire [LOG_WORDS:0] block    = {{(LOG_WORDS - 7){1'b0}}, words};
-    wire               room     = free >= block;
+    wire [LOG_WORDS+1:0] with_it = {1'b0, used} + {1'b0, block};
+    wire               room     = ~with_it[LOG_WORDS+1] & ~(with_it[LOG_WORDS] & (|with_it[LOG_WORDS-1:0]));
     wire               ready    = level >= block;
     wire               get      = access & ~PWRITE & here & (number == BUFFER) & (PADDR[1:0] == 2'd0);
     wire               put      = write & (number == BUFFER) & (|PSTRB);
     wire               do_get   = get & ~is_empty & ~(active & writes);
-    wire               do_put   = put & (&PSTRB) & (free != {(LOG_WORDS + 1){1'b0}}) & ~(active & reads);
+    wire               do_put   = put & (&PSTRB) & ~used[LOG_WORDS] & ~(active & reads);
     wire               push     = card_push | do_put;
     always @(posedge PCLK) begin
         if (push)
@@ -187,7 +187,7 @@ module apb_sdcard #(
         refused,
         (start & ~card) | gone
     };
-    wire [6:0]  state_now = {|errors, free >= block, ready, happened};
+    wire [6:0]  state_now = {|errors, room, ready, happened};
     wire [3:0]  begins    = {leaves, settle & ~card, moved_block, finish | (start & ~card)};
     wire [16:0] cleared   = {PWDATA[16] & PSTRB[2], PWDATA[15:8] & {8{PSTRB[1]}}, PWDATA[7:0] & {8{PSTRB[0]}}};
     always @(posedge PCLK or negedge PRESETn)

@@ -101,7 +101,12 @@ module sd_sequencer (
     wire last_crc  = near_end & (left[1:0] == 2'd0);
     wire cut       = stopped & multi;
     wire [15:0] moved_next = moved + 16'd1;
-    wire last      = ~multi | stopped | (moved_next == blocks);
+    reg  last;              // block: known well before it is asked
+    always @(posedge clk or negedge rstn)
+        if (!rstn)
+            last <= 1'b0;
+        else
+            last <= ~multi | stopped | (moved_next == blocks);
 
     // ---- CRCs: of what is sent when the card samples it, of what is received when it is there.
     reg  [6:0]  crc7;
