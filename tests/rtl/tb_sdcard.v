@@ -7,7 +7,12 @@ module tb;
     wire sd_clk, cs, dataout, card_init, checkout, irq;
     always #67 if (src_on) src = ~src;
 `include "card.vh"
-    apb_sdcard dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
+`ifdef LOG_WORDS
+    apb_sdcard #(.LOG_WORDS(`LOG_WORDS)) dut (
+`else
+    apb_sdcard dut (
+`endif
+                    .PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
                     .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
                     .sd_spiclk(src), .sd_clk(sd_clk), .sd_cs(cs), .sd_datain(by_hand ? hand : datain), .sd_dataout(dataout),
                     .sd_card_init(card_init), .sd_checkin(checkin), .sd_checkout(checkout), .irq(irq));
@@ -290,7 +295,7 @@ module tb;
     task blocks_read;
         begin
             apb_write(EVENTS, BLOCK);
-            for (pause = 0; pause < 3; pause = pause + 1) begin
+            for (pause = 0; pause < 2; pause = pause + 1) begin
                 good('h11 | READS, 32'h300003 + pause, "CMD17");
                 apb_read(EVENTS);
                 check32(rd, BLOCK | READABLE | WRITABLE, "BLOCK and READABLE");
@@ -322,7 +327,7 @@ module tb;
             cycles(40);
             apb_expect(STATUS, 32'h69, "it waits for the buffer");
             taken = 0;
-            cycles(30000);
+            cycles(9000);
             check(taken == 0, "the clock stands still");
             level(256, "two blocks");
             take_block(6);
@@ -337,19 +342,19 @@ module tb;
             apb_expect(RESPONSE, 32'h00FE0000, "R1 and token");
             // The share of the line's rate: words are taken while others come.
             pause = 1;
-            apb_write(BLOCKS, 32'h0080_0009);
+            apb_write(BLOCKS, 32'h0080_0005);
             start('h12 | READS | MULTI, 0);
-            for (m = 0; m < 9; m = m + 1) begin
+            for (m = 0; m < 5; m = m + 1) begin
                 await_moved(m + 1);
                 if (m == 1) began = $time;
-                if (m == 8) cycles_of_blocks = ($time - began) / 10;
+                if (m == 4) cycles_of_blocks = ($time - began) / 30;
                 take_block(m);
             end
             await(1000);
-            failed_with(0, "nine blocks");
-            $display("reading: %0d cycles a block of 512 bytes at PCLK / 2, %0d.%0d %% of the line's rate", cycles_of_blocks / 7,
-                     819200 / (cycles_of_blocks / 7), 8192000 / (cycles_of_blocks / 7) % 10);
-            check(cycles_of_blocks / 7 <= 8192 * 100 / 97, "97 % of the line's rate");
+            failed_with(0, "five blocks");
+            $display("reading: %0d cycles a block of 512 bytes at PCLK / 2, %0d.%0d %% of the line's rate", cycles_of_blocks,
+                     819200 / (cycles_of_blocks), 8192000 / (cycles_of_blocks) % 10);
+            check(cycles_of_blocks <= 8192 * 100 / 97, "97 % of the line's rate");
             // An end by software: after the running block, and while the buffer is full.
             apb_write(BLOCKS, 32'h0080_0000);
             start('h12 | READS | MULTI, 0);
@@ -406,21 +411,21 @@ module tb;
             moved(3, "three blocks");
             // The share of the line's rate.
             busy_bytes = 1;
-            apb_write(BLOCKS, 32'h0080_0006);
+            apb_write(BLOCKS, 32'h0080_0004);
             give_words(128, 10);
             start('h19 | WRITES | MULTI, 0);
-            for (m = 0; m < 6; m = m + 1) begin
-                if (m < 5) give_words(128, 11 + m);
+            for (m = 0; m < 4; m = m + 1) begin
+                if (m < 3) give_words(128, 11 + m);
                 await_moved(m + 1);
                 if (m == 0) began = $time;
-                if (m == 4) cycles_of_blocks = ($time - began) / 10;
+                if (m == 3) cycles_of_blocks = ($time - began) / 30;
             end
             await(100000);
-            failed_with(0, "six blocks");
-            for (m = 0; m < 6; m = m + 1) check_stored(m, 10 + m);
-            $display("writing: %0d cycles a block of 512 bytes at PCLK / 2, %0d.%0d %% of the line's rate", cycles_of_blocks / 4,
-                     819200 / (cycles_of_blocks / 4), 8192000 / (cycles_of_blocks / 4) % 10);
-            check(cycles_of_blocks / 4 <= 8192 * 100 / 97, "97 % of the line's rate");
+            failed_with(0, "four blocks");
+            for (m = 0; m < 4; m = m + 1) check_stored(m, 10 + m);
+            $display("writing: %0d cycles a block of 512 bytes at PCLK / 2, %0d.%0d %% of the line's rate", cycles_of_blocks,
+                     819200 / (cycles_of_blocks), 8192000 / (cycles_of_blocks) % 10);
+            check(cycles_of_blocks <= 8192 * 100 / 97, "97 % of the line's rate");
             busy_bytes = 4;
             // An end by software: of blocks that were announced.
             apb_write(BLOCKS, 32'h0080_0000);
@@ -613,11 +618,11 @@ module tb;
             // An end by software, at rest and everywhere.
             apb_write(ACTION, ABORT | STOP | CLEAR);
             failed_with(0, "nothing to end");
-            for (m = 0; m < 18; m = m + 1) begin
+            for (m = 0; m < 12; m = m + 1) begin
                 apb_write(BLOCKS, 32'h0080_0002);
                 if (m[0]) give_words(128, 50);
                 start(m[0] ? 'h19 | WRITES | MULTI : 'h12 | READS | MULTI, 4);
-                cycles(m * 751 + 7);
+                cycles(m * 1127 + 7);
                 apb_write(ACTION, ABORT | CLEAR);
                 apb_read(STATUS);
                 check32(rd & 32'h61, 0, "ended at once");
@@ -727,8 +732,38 @@ module tb;
         end
     endtask
 
+    // Of another size, which only LEVEL, room and ID show.
+    task whole_buffer(input integer words);
+        begin
+            apb_expect(ID, words == 256 ? 32'h0008_0209 : words == 512 ? 32'h0009_0209 : 32'h000A_0209, "ID");
+            for (k = 0; k < words; k = k + 1) apb_write(BUFFER, ~k);
+            level(words, "full");
+            failed_with(0, "until now");
+            apb_write(BUFFER, 0);
+            failed_with(OVER, "no room");
+            for (k = 0; k < words; k = k + 1) apb_expect(BUFFER, ~k, "words in their order");
+            apb_write(BLOCKS, 32'h0080_0000 | (words / 128 + 1));
+            start('h12 | READS | MULTI, 5);
+            await_moved(words / 128);
+            cycles(1000);
+            apb_expect(STATUS, 32'h69, "it waits for the buffer");
+            level(words, "full of blocks");
+            for (m = 0; m < words / 128; m = m + 1) take_block(5 + m);
+            await(20000);
+            take_block(5 + m);
+            failed_with(0, "one block more than fit");
+        end
+    endtask
+
     initial begin
         reset;
+`ifdef LOG_WORDS
+        by_hand = 1'b0;
+        insert;
+        apb_write(CLOCK, 32'h100);
+        whole_buffer(1 << `LOG_WORDS);
+        finish;
+`endif
         single_bytes;
         detection;
         initialise;
