@@ -466,6 +466,7 @@ module tb;
             r1_errors = 8'h08; bad('h11 | READS, 0, CMDCRC, "a wrong CRC7");
             r1_errors = 8'h20; bad('h11 | READS, 0, R1ERROR, "a wrong address");
             r1_errors = 8'h40; bad('h18 | WRITES, 0, R1ERROR, "a wrong parameter");
+            r1_errors = 8'h02; bad('h11 | READS, 0, R1ERROR, "an erase reset");
             r1_errors = 8'h52; bad('h12 | READS | MULTI, 0, R1ERROR, "erase errors");
             apb_expect(RESPONSE, 32'h00E50052, "R1 is kept");
             r1_errors = 8'h00;
