@@ -158,7 +158,8 @@ int main(void)
         if (looks-- == 0u)
             return 2;
     }
-    if (sd_init(SD, &card, 1000u, 5000u) != SD_OK)
+    if (sd_open(SD, &card, SystemCoreClock, 25000000u) != SD_OK ||
+        sd_check_crc(SD, &card, true) != SD_OK)
         return 3;
     if (!find_volume())
         return 4;

@@ -304,6 +304,44 @@ static int waited(void)
         QVERIFY(TestSupport::contentsOf(path("result")) == image);
     }
 
+    // With the serial clock at half of the bus's, several blocks at a time.
+    void aCardTakesAndGivesSeveralBlocks()
+    {
+        QByteArray image(8 * 512, 'i');
+        for (int i = 0; i < 8; ++i)
+            image[i * 512] = char('a' + i);
+        TestSupport::write(path("sd"), image);
+        const Run run =
+            simulate("Enable%20SDCARD=true\n", program("sd", "static uint8_t blocks[4 * 512];", R"(
+    sd_card card;
+    uint8_t csd[SD_REGISTER_SIZE], cid[SD_REGISTER_SIZE];
+    int i;
+    for (i = 0; i < 3000 && !sd_is_present(SD); ++i) { }
+    EXPECT(sd_open(SD, &card, SystemCoreClock, 25000000u) == SD_OK);
+    EXPECT(sd_rate(SD, SystemCoreClock) == 25000000u);
+    EXPECT(sd_check_crc(SD, &card, true) == SD_OK);
+    EXPECT(sd_read_csd(SD, &card, csd) == SD_OK && csd[0] == 0x40u);
+    EXPECT(sd_read_cid(SD, &card, cid) == SD_OK && cid[3] == 'B');
+    EXPECT(sd_read_blocks(SD, &card, 1, 4, blocks) == SD_OK && card.moved == 4);
+    for (i = 0; i < 4; ++i)
+        EXPECT(blocks[512 * i] == 'b' + i && blocks[512 * i + 511] == 'i');
+    for (i = 0; i < 3; ++i)
+        blocks[512 * i + 1] = 'w';
+    EXPECT(sd_write_blocks(SD, &card, 5, 3, blocks) == SD_OK && card.moved == 3);
+    EXPECT(sd_read_blocks(SD, &card, 6, 4, blocks) == SD_ERROR_DATA && card.moved == 2);
+    EXPECT(card.errors == SD_ERRORS_ERRORTOKEN_Msk);
+    EXPECT(blocks[0] == 'c' && blocks[512] == 'd');
+    EXPECT(sd_write_blocks(SD, &card, 7, 2, blocks) == SD_ERROR_DATA && card.moved == 1);
+    EXPECT(sd_read_block(SD, &card, 7, blocks) == SD_OK && blocks[0] == 'c');
+)"),
+                     words({"--sd", "sd", "--sd-result", "result"}));
+        QVERIFY2(run.status == 0, qPrintable(run.err));
+        for (int i = 0; i < 3; ++i)
+            image.replace((5 + i) * 512, 2, QByteArray(1, char('b' + i)) + 'w');
+        image.replace(7 * 512, 2, "cw");
+        QVERIFY(TestSupport::contentsOf(path("result")) == image);
+    }
+
     void thereIsNoCardWithoutAnImage()
     {
         const Run run = simulate("Enable%20SDCARD=true\n", program("sd", "", R"(

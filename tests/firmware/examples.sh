@@ -163,8 +163,10 @@ i2c-eeprom apb_i2c.v s/rxdata <= shift_in/rxdata <= shift_in | 8'h08/
 i2c-eeprom apb_i2c.v s/shift_out <= PWDATA\[2\] \? \{8'hFF, PWDATA\[4\]\} : \{txdata/shift_out <= PWDATA[2] ? {8'hFF, PWDATA[4]} : {txdata \& 8'hFD/
 flash-reader ahb_spi_flash.v s/data +<= \{rx_data/data <= {rx_data \& 8'hBF/
 flash-reader ahb_spi_flash.v s/2'd0: r = rx_data/2'd0: r = rx_data | 8'h01/
-sd-files apb_sdcard.v s/\{24'd0, rx_data\}/{24'd0, rx_data | 8'h80}/
-sd-files apb_sdcard.v s/card <= ~card/card <= 1'b0/
+sd-files apb_sdcard.v s/card +<= ~card/card <= 1'b0/
+sd-files sd_sequencer.v s/(push_word += \{)rx/\1(rx | 8'h80)/
+sd-files sd_sequencer.v s/crc7\[2\] \^ in7/crc7[2]/
+sd-files sd_sequencer.v s/crc16\[11\] \^ in16/crc16[11]/
 END
         ((count > 0)) || fail "no mutants of ${case[1]}"
         ;;

@@ -1,9 +1,15 @@
-// SD card interface in SPI mode.  The serial clock is made from the source clock SD_SPICLK, which is sampled with PCLK
-// and must be slower than PCLK / 4: each of its rising edges is half a period of SD_CLK.
+// SD card controller in SPI mode: commands with their responses, blocks through a buffer, and bytes one by one.  sd_clk is made
+// from PCLK, or from the source clock sd_spiclk, which is sampled with PCLK and must be slower than PCLK / 4: each of its
+// rising edges is half a period of sd_clk then.
 // Registers: registers/sdcard.json.
-// A card is present when SD_CHECKIN has been low for 1024 clock cycles; SD_CHECKOUT shows it to the fabric.  INIT is
-// cleared when the card leaves.
-module apb_sdcard (
+// A card is present when sd_checkin has been low for a while; sd_checkout shows it to the fabric.  INIT, which sd_card_init
+// shows, is cleared when the card leaves.
+// Bus and card share a buffer of one block RAM.  It has two pointers to be read and written at, and a third one behind which
+// words are no good block yet: the bus sees a block that is read when its CRC was right, and never sees another.
+//   LOG_WORDS  words of the buffer = 2 ** LOG_WORDS, 8 to 15; a block has at most 255
+module apb_sdcard #(
+    parameter LOG_WORDS = 8
+) (
     input  wire        PCLK,
     input  wire        PRESETn,
     input  wire        PSEL,
@@ -26,91 +32,294 @@ module apb_sdcard (
     output wire        sd_checkout,
     output wire        irq
 );
-    wire store = PSEL & PENABLE & PWRITE & PSTRB[0];   // every register has its bits in the lowest byte
-    wire [11:0] offset = {PADDR[11:2], 2'b00};
+    localparam [3:0] DATA = 4'd0, STATUS = 4'd1, CTRL = 4'd2, CLOCK = 4'd3, TIMEOUT = 4'd4, BLOCKS = 4'd5, ARGUMENT = 4'd6,
+                     COMMAND = 4'd7, RESPONSE = 4'd8, VALUE = 4'd9, PROGRESS = 4'd10, EVENTS = 4'd11, ENABLE = 4'd12,
+                     ERRORS = 4'd13, ACTION = 4'd14, BUFFER = 4'd15;
 
-    reg [2:0] src;
-    reg [1:0] det;
+    wire       here   = PADDR[11:6] == 6'd0;
+    wire [3:0] number = PADDR[5:2];
+    wire       access = PSEL & PENABLE;
+    wire       write  = access & PWRITE & here;
+    wire       low    = write & PSTRB[0];
+
+    // ---- the clock of the card
+    wire       source;
+    reg        source_was;
+    reg [7:0]  divided;
+    reg [7:0]  div;
+    reg        from_pclk;
+    reg        late;
+    wire       idle;
+    cdc_synchronizer u_sync_spiclk (.clk(PCLK), .rstn(PRESETn), .d(sd_spiclk), .q(source));
+    wire       tick = from_pclk ? divided == div : source & ~source_was;
+    wire       moving;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
-            src <= 3'd0;
-            det <= 2'b11;
+            source_was <= 1'b0;
+            divided    <= 8'd0;
         end else begin
-            src <= {src[1:0], sd_spiclk};
-            det <= {det[0], sd_checkin};
+            source_was <= source;
+            divided    <= (tick | ~moving) ? 8'd0 : divided + 8'd1;
         end
-    wire tick = src[1] & ~src[2];
 
-    reg       card;
-    reg [9:0] stable;
-    wire      settle = (det[1] == card) & (&stable);   // det is low for a card that is not yet known, and vice versa
+    // ---- the card's socket
+    wire       empty_now;
+    cdc_synchronizer #(.RESET(1'b1)) u_sync_checkin (.clk(PCLK), .rstn(PRESETn), .d(sd_checkin), .q(empty_now));
+    reg        card;
+    reg [9:0]  stable;
+    reg [9:0]  rounds;
+    reg [9:0]  filter;
+    wire       settle = (empty_now == card) & (&stable) & (rounds >= filter);   // low for a card that is not known yet
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             card   <= 1'b0;
             stable <= 10'd0;
-        end else if (det[1] != card)
+            rounds <= 10'd0;
+        end else if (empty_now != card) begin
             stable <= 10'd0;
-        else begin
+            rounds <= 10'd0;
+        end else begin
             stable <= stable + 10'd1;
-            if (settle)
-                card <= ~card;
+            if (settle) begin
+                card   <= ~card;
+                rounds <= 10'd0;
+            end else if (&stable)
+                rounds <= rounds + 10'd1;
         end
 
-    reg [3:0] ctrl;
-    reg       complete;
-    reg       lost;
-    reg       changed;
-    wire       busy;
-    wire       done;
-    wire [7:0] rx_data;
-    wire       write_data = store & (offset == 12'h000);
-    wire       start      = write_data & ~busy;
+    // ---- registers
+    reg [3:0]  ctrl;
+    reg        complete;
+    reg        lost;
+    reg        changed;
+    reg [15:0] token_limit;
+    reg [15:0] busy_limit;
+    reg [15:0] blocks;
+    reg [7:0]  words;
+    reg [31:0] argument;
+    reg [5:0]  index;
+    reg [1:0]  response;
+    reg [1:0]  direction;
+    reg        multi;
+    reg        waits;
+    reg        wake;
+    reg        active;        // a command runs
+    reg [3:0]  happened;
+    reg [6:0]  enabled;
+    reg [16:0] errors;
+
+    wire [11:0] card_errors;
+    wire        raw_done, finish, moved_block, waiting;
+    wire [15:0] moved;
+    wire [7:0]  r1, token, rx;
+    wire [31:0] value;
+
+    wire write_data = low & (number == DATA);
+    wire raw        = write_data & idle;
+    // What a running byte or command depends on does not change.
+    wire guarded    = (number == CLOCK) | (number == TIMEOUT) | (number == BLOCKS) | (number == ARGUMENT) | (number == COMMAND);
+    wire set        = write & guarded & idle;
+    wire refused    = write & guarded & ~idle;
+    wire start      = set & (number == COMMAND) & PSTRB[0];
+    wire go         = start & card;
+    wire new_wake   = PSTRB[1] ? PWDATA[15] : wake;
+    wire abort      = low & (number == ACTION) & PWDATA[0];
+    wire stop       = low & (number == ACTION) & PWDATA[1];
+    wire clear      = low & (number == ACTION) & PWDATA[2] & (~active | abort);
+    wire leaves     = settle & card;
+    wire gone       = active & ~card;
+
+    // ---- buffer
+    reg  [31:0]        mem [0:(1 << LOG_WORDS)-1];
+    reg  [31:0]        oldest;
+    reg  [LOG_WORDS:0] write_at;
+    reg  [LOG_WORDS:0] good_to;
+    reg  [LOG_WORDS:0] read_at;
+    wire               card_pop, card_push, keep, drop;
+    wire [31:0]        card_word;
+    wire [LOG_WORDS:0] level = good_to - read_at;
+    wire [LOG_WORDS:0] used  = write_at - read_at;
+    wire               is_empty = level == {(LOG_WORDS + 1){1'b0}};
+    wire               reads    = direction == 2'd1;
+    wire               writes   = direction == 2'd2;
+    wire [LOG_WORDS:0] block    = {{(LOG_WORDS - 7){1'b0}}, words};
+    wire [LOG_WORDS+1:0] with_it = {1'b0, used} + {1'b0, block};
+    wire               room     = ~with_it[LOG_WORDS+1] & ~(with_it[LOG_WORDS] & (|with_it[LOG_WORDS-1:0]));
+    wire               ready    = level >= block;
+    wire               get      = access & ~PWRITE & here & (number == BUFFER) & (PADDR[1:0] == 2'd0);
+    wire               put      = write & (number == BUFFER) & (|PSTRB);
+    wire               do_get   = get & ~is_empty & ~(active & writes);
+    wire               do_put   = put & (&PSTRB) & ~used[LOG_WORDS] & ~(active & reads);
+    wire               push     = card_push | do_put;
+    always @(posedge PCLK) begin
+        if (push)
+            mem[write_at[LOG_WORDS-1:0]] <= card_push ? card_word : PWDATA;
+        oldest <= mem[read_at[LOG_WORDS-1:0]];
+    end
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
-            ctrl     <= 4'd0;
-            complete <= 1'b0;
-            lost     <= 1'b0;
-            changed  <= 1'b0;
+            write_at <= {(LOG_WORDS + 1){1'b0}};
+            good_to  <= {(LOG_WORDS + 1){1'b0}};
+            read_at  <= {(LOG_WORDS + 1){1'b0}};
+        end else if (clear) begin
+            write_at <= {(LOG_WORDS + 1){1'b0}};
+            good_to  <= {(LOG_WORDS + 1){1'b0}};
+            read_at  <= {(LOG_WORDS + 1){1'b0}};
         end else begin
-            if (store & (offset == 12'h004)) begin
+            if (push)
+                write_at <= write_at + 1'b1;
+            else if (drop)
+                write_at <= good_to;
+            if (do_put)
+                good_to <= good_to + 1'b1;
+            else if (keep)
+                good_to <= write_at;
+            if (do_get | card_pop)
+                read_at <= read_at + 1'b1;
+        end
+
+    // ---- what is told
+    wire [16:0] raised = {
+        put & ~do_put,
+        get & ~do_get,
+        card_errors,
+        abort & active,
+        refused,
+        (start & ~card) | gone
+    };
+    wire [6:0]  state_now = {|errors, room, ready, happened};
+    wire [3:0]  begins    = {leaves, settle & ~card, moved_block, finish | (start & ~card)};
+    wire [16:0] cleared   = {PWDATA[16] & PSTRB[2], PWDATA[15:8] & {8{PSTRB[1]}}, PWDATA[7:0] & {8{PSTRB[0]}}};
+    always @(posedge PCLK or negedge PRESETn)
+        if (!PRESETn) begin
+            ctrl        <= 4'd0;
+            complete    <= 1'b0;
+            lost        <= 1'b0;
+            changed     <= 1'b0;
+            div         <= 8'd0;
+            from_pclk   <= 1'b0;
+            late        <= 1'b0;
+            filter      <= 10'd0;
+            token_limit <= 16'hFFFF;
+            busy_limit  <= 16'hFFFF;
+            blocks      <= 16'd1;
+            words       <= 8'd128;
+            argument    <= 32'd0;
+            index       <= 6'd0;
+            response    <= 2'd0;
+            direction   <= 2'd0;
+            multi       <= 1'b0;
+            waits       <= 1'b0;
+            wake        <= 1'b0;
+            active      <= 1'b0;
+            happened    <= 4'd0;
+            enabled     <= 7'd0;
+            errors      <= 17'd0;
+        end else begin
+            if (low & (number == STATUS)) begin
                 complete <= complete & ~PWDATA[1];
                 lost     <= lost & ~PWDATA[2];
                 changed  <= changed & ~PWDATA[4];
             end
-            if (store & (offset == 12'h008))
+            if (low & (number == CTRL))
                 ctrl <= PWDATA[3:0];
-            if (write_data & busy)
+            if (write_data & ~idle)
                 lost <= 1'b1;
-            if (start)
+            if (raw)
                 complete <= 1'b0;
-            if (done)
+            if (raw_done)
                 complete <= 1'b1;
             if (settle) begin
                 changed <= 1'b1;
                 if (card)
                     ctrl[1] <= 1'b0;
             end
+
+            if (set & (number == CLOCK)) begin
+                if (PSTRB[0]) div <= PWDATA[7:0];
+                if (PSTRB[1]) {late, from_pclk} <= PWDATA[9:8];
+                if (PSTRB[2]) filter[7:0] <= PWDATA[23:16];
+                if (PSTRB[3]) filter[9:8] <= PWDATA[25:24];
+            end
+            if (set & (number == TIMEOUT)) begin
+                if (PSTRB[0]) token_limit[7:0] <= PWDATA[7:0];
+                if (PSTRB[1]) token_limit[15:8] <= PWDATA[15:8];
+                if (PSTRB[2]) busy_limit[7:0] <= PWDATA[23:16];
+                if (PSTRB[3]) busy_limit[15:8] <= PWDATA[31:24];
+            end
+            if (set & (number == BLOCKS)) begin
+                if (PSTRB[0]) blocks[7:0] <= PWDATA[7:0];
+                if (PSTRB[1]) blocks[15:8] <= PWDATA[15:8];
+                if (PSTRB[2]) words <= {PWDATA[23:17], PWDATA[16] | (PWDATA[23:17] == 7'd0)};
+            end
+            if (set & (number == ARGUMENT)) begin
+                if (PSTRB[0]) argument[7:0] <= PWDATA[7:0];
+                if (PSTRB[1]) argument[15:8] <= PWDATA[15:8];
+                if (PSTRB[2]) argument[23:16] <= PWDATA[23:16];
+                if (PSTRB[3]) argument[31:24] <= PWDATA[31:24];
+            end
+            if (set & (number == COMMAND)) begin
+                if (PSTRB[0]) index <= PWDATA[5:0];
+                if (PSTRB[1]) begin
+                    response  <= PWDATA[9:8];
+                    direction <= PWDATA[11:10];
+                    {wake, waits, multi} <= {PWDATA[15], PWDATA[13:12]};
+                end
+            end
+            if (low & (number == ENABLE))
+                enabled <= PWDATA[6:0];
+
+            if (go)
+                active <= 1'b1;
+            else if (finish)
+                active <= 1'b0;
+            if (go & new_wake)
+                ctrl[0] <= 1'b0;
+            happened <= (happened & ~((low & (number == EVENTS)) ? PWDATA[3:0] : 4'd0)) | begins;
+            errors   <= (errors & ~((write & (number == ERRORS)) ? cleared : 17'd0)) | raised;
         end
 
-    spi_engine u_engine (
-        .clk(PCLK), .rstn(PRESETn), .tick(tick), .start(start),
-        .cpol(1'b0), .cpha(1'b0), .lsb_first(1'b0),
-        .tx_data(PWDATA[7:0]), .rx_data(rx_data), .busy(busy), .done(done),
-        .sclk(sd_clk), .mosi(sd_dataout), .miso(sd_datain)
+    wire hold;
+    sd_sequencer u_sequencer (
+        .clk(PCLK), .rstn(PRESETn), .tick(tick), .late(late), .raw(raw), .raw_data(PWDATA[7:0]), .go(go),
+        .halt(abort | gone), .stop(stop), .wake(new_wake), .index(index), .argument(argument),
+        .response(response), .reads(reads), .writes(writes), .multi(multi), .waits(waits), .words(words), .blocks(blocks),
+        .token_limit(token_limit), .busy_limit(busy_limit), .room(room), .ready(ready), .word(oldest), .pop(card_pop),
+        .push(card_push), .push_word(card_word), .keep(keep), .drop(drop), .idle(idle), .waiting(waiting),
+        .finish(finish), .raw_done(raw_done), .moved_block(moved_block), .errors(card_errors), .moved(moved), .r1(r1),
+        .token(token), .value(value), .rx(rx), .moving(moving), .hold(hold), .sclk(sd_clk), .mosi(sd_dataout),
+        .miso(sd_datain)
     );
 
-    always @*
-        case (offset)
-            12'h000: PRDATA = {24'd0, rx_data};
-            12'h004: PRDATA = {27'd0, changed, card, lost, complete, busy};
-            12'h008: PRDATA = {28'd0, ctrl};
-            default: PRDATA = 32'd0;
-        endcase
+    always @* begin
+        PRDATA = 32'd0;
+        if (here)
+            case (number)
+                DATA:     PRDATA = {24'd0, rx};
+                STATUS:   PRDATA = {25'd0, waiting, active, changed, card, lost, complete, ~idle};
+                CTRL:     PRDATA = {28'd0, ctrl};
+                CLOCK:    PRDATA = {6'd0, filter, 6'd0, late, from_pclk, div};
+                TIMEOUT:  PRDATA = {busy_limit, token_limit};
+                BLOCKS:   PRDATA = {8'd0, words, blocks};
+                ARGUMENT: PRDATA = argument;
+                COMMAND:  PRDATA = {16'd0, wake, 1'b0, waits, multi, direction, response, 2'd0, index};
+                RESPONSE: PRDATA = {8'd0, token, 8'd0, r1};
+                VALUE:    PRDATA = value;
+                PROGRESS: PRDATA = {{(15 - LOG_WORDS){1'b0}}, level, moved};
+                EVENTS:   PRDATA = {25'd0, state_now};
+                ENABLE:   PRDATA = {25'd0, enabled};
+                ERRORS:   PRDATA = {15'd0, errors};
+                BUFFER:   PRDATA = oldest & {32{~is_empty}};
+                default:  PRDATA = 32'd0;
+            endcase
+        else if (&PADDR[11:2])
+            PRDATA = {12'd0, LOG_WORDS[3:0], 16'h0209};
+    end
 
     assign PREADY       = 1'b1;
     assign PSLVERR      = 1'b0;
-    assign sd_cs        = ~ctrl[0];
+    assign sd_cs        = ~(ctrl[0] | hold);
     assign sd_card_init = ctrl[1];
     assign sd_checkout  = card;
-    assign irq          = (complete & ctrl[2]) | (changed & ctrl[3]);
+    assign irq          = (complete & ctrl[2]) | (changed & ctrl[3]) | (|(state_now & enabled));
 endmodule

@@ -1,7 +1,8 @@
-// An SD card of version 2 in SPI mode that counts addresses in blocks of 512 bytes: CMD0, 8, 9, 10, 13, 16, 17, 24, 55, 58, 59
-// and ACMD41, which has to come twice and to say that the host knows such cards. Every other command is illegal. The CRC of
-// commands and blocks is checked from CMD59 on; that of CMD0 and CMD8 always. A block that was written keeps the card busy for
-// WRITE_CYCLES.
+// An SD card of version 2 in SPI mode that counts addresses in blocks of 512 bytes: CMD0, 8, 9, 10, 12, 13, 16, 17, 18, 24, 25,
+// 55, 58, 59, ACMD23 and ACMD41, which has to come twice and to say that the host knows such cards. Every other command is
+// illegal. The CRC of commands and blocks is checked from CMD59 on; that of CMD0 and CMD8 always. A block that was written
+// keeps the card busy for WRITE_CYCLES, and so does the token behind the last one of several. Behind the card's end several
+// blocks get the error token, or the answer of a write error.
 //
 // Lines are looked at with clk, which may be as slow as twice the serial clock. Bytes are kept by what runs the simulation where
 // that gives BOARD_LOAD and BOARD_STORE, and else in an array that is blank at the start.
@@ -55,6 +56,7 @@ module board_sd_card #(
     reg          app        = 1'b0;    // the command before was CMD55
     reg          checked    = 1'b0;
     reg          writing    = 1'b0;
+    reg          several    = 1'b0;    // blocks, until they are stopped
     reg [2:0]    bits       = 3'd0;
     reg [2:0]    framed     = 3'd0;    // bytes of a command
     reg [47:0]   frame      = 48'd0;
@@ -64,7 +66,7 @@ module board_sd_card #(
     reg [2:0]    answering  = 3'd0;    // bytes of it
     reg [1:0]    sending    = NOTHING;
     reg [31:0]   place      = 32'd0;   // within what is sent or written, the token included
-    reg [31:0]   base       = 32'd0;   // of the block
+    reg [31:0]   base       = 32'd0;   // of the block, below the size or at the card's end
     reg [15:0]   crc        = 16'd0;
     reg [6:0]    crc7       = 7'd0;
     reg [7:0]    in         = 8'd0;
@@ -108,6 +110,9 @@ module board_sd_card #(
             crc7_take(frame[15:8]);
             base = {argument[22:0], 9'd0};
             place = 32'd0;
+            sending = NOTHING;
+            writing = 1'b0;
+            several = 1'b0;
             if (frame[7:0] != {crc7, 1'b1} && (checked || number == 6'd0 || number == 6'd8))
                 reply(8'h08, 32'd0, 3'd0);
             else if (number == 6'd0) begin
@@ -139,17 +144,21 @@ module board_sd_card #(
             else if (number == 6'd9 || number == 6'd10) begin
                 sending = number == 6'd9 ? LAYOUT : NAME;
                 reply(8'h00, 32'd0, 3'd0);
-            end else if (number == 6'd17 || number == 6'd24) begin
+            end else if (number == 6'd12 || (number == 6'd23 && app))
+                reply(8'h00, 32'd0, 3'd0);
+            else if (number == 6'd17 || number == 6'd18 || number == 6'd24 || number == 6'd25) begin
                 if (argument >= size >> 9)
                     reply(8'h40, 32'd0, 3'd0);
                 else begin
-                    if (number == 6'd17) sending = BLOCK;
+                    several = number == 6'd18 || number == 6'd25;
+                    if (number < 6'd24) sending = BLOCK;
                     else writing = 1'b1;
                     reply(8'h00, 32'd0, 3'd0);
                 end
             end else
                 reply(8'h04, 32'd0, 3'd0);
             app = number == 6'd55;
+            out = number == 6'd12 ? 8'h7F : 8'hFF;   // behind CMD12 comes a byte that says nothing
         end
     endtask
     // The next byte of what is sent: a pause, the token, the bytes, their CRC.
@@ -157,7 +166,10 @@ module board_sd_card #(
         begin
             if (place == 32'd0)
                 out = 8'hFF;
-            else if (place == 32'd1) begin
+            else if (sending == BLOCK && base >= size) begin
+                out = 8'h08;
+                sending = NOTHING;
+            end else if (place == 32'd1) begin
                 out = 8'hFE;
                 crc = 16'd0;
                 crc7 = 7'd0;
@@ -174,8 +186,12 @@ module board_sd_card #(
             end else begin
                 out = crc[15:8];
                 crc = {crc[7:0], 8'd0};
-                if (place == (sending == BLOCK ? 32'd515 : 32'd19))
-                    sending = NOTHING;
+                if (place == (sending == BLOCK ? 32'd515 : 32'd19)) begin
+                    if (!several)
+                        sending = NOTHING;
+                    base = base + 32'd512;
+                    place = 32'hFFFFFFFF;
+                end
             end
             place = place + 32'd1;
         end
@@ -185,19 +201,25 @@ module board_sd_card #(
         begin
             if (place == 32'd0) begin
                 crc = 16'd0;
-                if (in == 8'hFE)
+                if (in == (several ? 8'hFC : 8'hFE))
                     place = 32'd1;
+                else if (several && in == 8'hFD) begin
+                    writing = 1'b0;
+                    busy = WRITE_CYCLES;
+                end
             end else begin
                 if (place <= 32'd512)
                     block[place - 32'd1] = in;
                 crc16_take(in);                     // over the CRC too: 0 if it is right
                 place = place + 32'd1;
                 if (place == 32'd515) begin
-                    writing = 1'b0;
-                    out = (checked && crc != 16'd0) ? 8'hEB : 8'hE5;
+                    writing = several;
+                    place = 32'd0;
+                    out = (checked && crc != 16'd0) ? 8'hEB : base >= size ? 8'hED : 8'hE5;
                     if (out == 8'hE5) begin
                         for (i = 0; i < 512; i = i + 1)
                             store(base + i, block[i]);
+                        base = base + 32'd512;
                         busy = WRITE_CYCLES;
                     end
                 end
@@ -214,11 +236,12 @@ module board_sd_card #(
                 answering = answering - 3'd1;
             end else if (sending != NOTHING)
                 send_next;
-            else if (writing)
-                keep_next;
             else if (busy != 32'd0)
                 out = 8'h00;
-            else if (framed != 3'd0 || in[7:6] == 2'b01) begin
+            else if (writing)
+                keep_next;
+            // Also while several blocks are sent, or the next one to write is waited for.
+            if (busy == 32'd0 && (!writing || place == 32'd0) && (framed != 3'd0 || in[7:6] == 2'b01)) begin
                 frame = {frame[39:0], in};
                 framed = framed + 3'd1;
                 if (framed == 3'd6) begin
@@ -240,6 +263,7 @@ module board_sd_card #(
             answering = 3'd0;
             sending = NOTHING;
             writing = 1'b0;
+            several = 1'b0;
             out = busy != 32'd0 ? 8'h00 : 8'hFF;
             following <= busy == 32'd0;
         end else if (high && !high_was) begin

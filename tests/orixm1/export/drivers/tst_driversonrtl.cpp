@@ -328,7 +328,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::newRow("spi") << "apb_spi spi_engine";
     QTest::newRow("i2c") << "apb_i2c";
     QTest::newRow("spiflash") << "ahb_spi_flash spi_engine";
-    QTest::newRow("sd") << "apb_sdcard spi_engine";
+    QTest::newRow("sd") << "apb_sdcard sd_sequencer sd_shifter cdc_synchronizer";
     QTest::newRow("timer") << "apb_timer";
     QTest::newRow("dtimer") << "apb_dual_timer";
     QTest::newRow("wdog") << "apb_watchdog";
