@@ -2,13 +2,15 @@
 module tb;
 `include "bench.vh"
 `include "ahb_bus.vh"
-    wire fclk, csn, mosi, wpn, holdn;
+    wire fclk, csn;
+    wire [3:0] driven, outen;
+    wire mosi = driven[0], wpn = driven[2];
     reg  miso = 1'b1, away = 1'b0, stuck = 1'b1;
     wire hsel = haddr[31:25] == 7'b0110100;
     ahb_spi_flash dut (.HCLK(clk), .HRESETn(rstn), .HSEL(hsel), .HADDR(haddr[24:0]), .HTRANS(htrans),
                        .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready),
-                       .HRESP(hresp), .flash_clk(fclk), .flash_csn(csn), .flash_mosi(mosi),
-                       .flash_miso(away ? stuck : miso), .flash_wpn(wpn), .flash_holdn(holdn));
+                       .HRESP(hresp), .HSIZE(hsize), .flash_clk(fclk), .flash_csn(csn), .flash_out(driven), .flash_outen(outen),
+                       .flash_in({2'b11, away ? stuck : miso, mosi}));
 
     reg [7:0]  memory [0:65535];
     reg [7:0]  page [0:255];
