@@ -1,5 +1,6 @@
-/* Says on UART0 what the serial flash says of itself and the line of text that it begins with. Then
- * erases a sector behind that line, writes into it and reads it back. */
+/* Says on UART0 what the serial flash says of itself, switches to the fastest way of reading that
+ * it has and says the line of text that it begins with. Then erases a sector behind that line,
+ * writes into it and reads it back. */
 #include "spiflash.h"
 #include "system_tarvo_orix_m1.h"
 #include "uart.h"
@@ -34,7 +35,9 @@ static bool holds(const uint8_t *data, uint8_t byte)
 
 int main(void)
 {
-    uint8_t id[3];
+    static const char *const modes[] = {" 1-1-1", " 1-1-1", " 1-1-2", " 1-2-2", " 1-1-4", " 1-4-4"};
+    spiflash_chip chip;
+    spiflash_mode mode;
     uint8_t data[size];
     char line[longest + 1];
     uint8_t value;
@@ -43,12 +46,15 @@ int main(void)
     if (uart_init(UART0, SystemCoreClock, 3125000u) != UART_OK ||
         spiflash_init(SPIFLASH, SystemCoreClock, 25000000u) != SPIFLASH_OK)
         return 1;
-    spiflash_read_id(SPIFLASH, id);
-    if (id[0] == id[1] && id[1] == id[2]) /* no flash */
+    if (spiflash_detect(SPIFLASH, &chip) != SPIFLASH_OK)
+        return 2;
+    mode = spiflash_fastest(&chip);
+    if (spiflash_set_mode(SPIFLASH, &chip, mode, 100000u) != SPIFLASH_OK)
         return 2;
     print("flash");
     for (i = 0; i < 3; ++i)
-        print_byte(id[i]);
+        print_byte(chip.id[i]);
+    print(modes[mode]);
     print("\n");
 
     if (spiflash_read(SPIFLASH, 0u, line, longest) != SPIFLASH_OK)

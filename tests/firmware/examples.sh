@@ -44,7 +44,7 @@ expected() {
         timers) printf '%s\n' "five periods" once ;;
         i2c-eeprom) echo "start 001" ;;
         flash-reader)
-            printf '%s\n' "flash A0 01 14" "$(head -n 1 "$root/examples/firmware/note.txt")" written ;;
+            printf '%s\n' "flash A0 01 14 1-4-4" "$(head -n 1 "$root/examples/firmware/note.txt")" written ;;
         sd-files)
             echo "NOTE.TXT $(wc -c <"$root/examples/firmware/note.txt")"
             cat "$root/examples/firmware/note.txt" ;;
@@ -161,8 +161,8 @@ timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
 timers apb_dual_timer.v s/oneshot, ie, en\} <= PWDATA\[2:0\]/oneshot, ie, en} <= PWDATA[2:0] \& 3'b011/
 i2c-eeprom apb_i2c.v s/rxdata <= shift_in/rxdata <= shift_in | 8'h08/
 i2c-eeprom apb_i2c.v s/shift_out <= PWDATA\[2\] \? \{8'hFF, PWDATA\[4\]\} : \{txdata/shift_out <= PWDATA[2] ? {8'hFF, PWDATA[4]} : {txdata \& 8'hFD/
-flash-reader ahb_spi_flash.v s/data +<= \{rx_data/data <= {rx_data \& 8'hBF/
-flash-reader ahb_spi_flash.v s/2'd0: r = rx_data/2'd0: r = rx_data | 8'h01/
+flash-reader ahb_spi_flash.v s/(2'd1: assembled\[15:8\] +<= )rx/\1rx \& 8'hBF/
+flash-reader ahb_spi_flash.v s/(2'd2: assembled\[23:16\] +<= )rx/\1rx | 8'h01/
 sd-files apb_sdcard.v s/card +<= ~card/card <= 1'b0/
 sd-files sd_sequencer.v s/(push_word += \{)rx/\1(rx | 8'h80)/
 sd-files sd_sequencer.v s/crc7\[2\] \^ in7/crc7[2]/

@@ -28,7 +28,8 @@ OuterPins outerPins(const QString &module)
         {QStringLiteral("ahb_gpio"),
          {QStringLiteral(".gpio_in(16'd0)"), QStringLiteral(".gpio_in(act[15:0])")}},
         {QStringLiteral("ahb_spi_flash"),
-         {QStringLiteral(".flash_miso(1'b0)"), QStringLiteral(".flash_miso(act[2])")}},
+         {QStringLiteral(".flash_in(4'd0)"),
+          QStringLiteral(".flash_in({act[5], act[4], act[2], act[3]})")}},
         {QStringLiteral("apb_uart"),
          // Breaks and bytes, 16 clock cycles a bit.
          {QStringLiteral(".rxd(1'b1)"), QStringLiteral(".rxd(act[9] ? act[7] : act[8])")}},
@@ -235,9 +236,7 @@ private:
                     ".HADDR(%2), .HTRANS(htrans), %3.HWRITE(hwrite), .HWDATA(hwdata), "
                     ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%4);\n")
                     .arg(m_peripheral.module, QStringLiteral("haddr[%1:0]").arg(addressBits() - 1),
-                         m_peripheral.module == QLatin1String("ahb_gpio")
-                             ? QStringLiteral(".HSIZE(hsize), ")
-                             : QString(),
+                         QStringLiteral(".HSIZE(hsize), "),
                          more);
             return;
         }
@@ -695,7 +694,7 @@ void tst_RegistersInRtl::modulesAreAsDescribed()
     QFETCH(int, index);
     const Peripheral &peripheral = m_peripherals.at(index);
     const QStringList sources = {QStringLiteral(RTL_DIR "/%1.v").arg(peripheral.module),
-                                 rtl("spi_engine.v")};
+                                 rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")};
     for (const QString &bench : {Bench(peripheral).text(), Bench(peripheral).effects()}) {
         const QString wrong = simulate(bench, sources);
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
@@ -971,7 +970,7 @@ void tst_RegistersInRtl::effectsAreFound()
     QCOMPARE(count, 1);
     const QString told =
         simulate(Bench(changed).effects(),
-                 {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module), rtl("spi_engine.v")});
+                 {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module), rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")});
     QVERIFY2(told.contains(QLatin1String("failed: ") + wrong), qPrintable(told));
 }
 
@@ -1015,8 +1014,8 @@ void tst_RegistersInRtl::faultsOfModulesAreFound_data()
         "PADDR");
     row("registers repeat in the whole region", "ahb_gpio", "HADDR[23:6] == 18'd0", "1'b1");
     row("registers repeat once", "ahb_gpio", "HADDR[23:6] == 18'd0", "HADDR[22:6] == 17'd0");
-    row("registers repeat further up", "ahb_spi_flash", "word[23:4] == 20'd0",
-        "word[12:4] == 9'd0");
+    row("registers repeat further up", "ahb_spi_flash", "HADDR[23:6] == 18'd0",
+        "HADDR[12:6] == 7'd0");
 }
 
 // The benches notice modules that do not do what all of them must.
@@ -1034,7 +1033,7 @@ void tst_RegistersInRtl::faultsOfModulesAreFound()
     const QTemporaryDir dir;
     const QString changed = dir.filePath(QStringLiteral("changed.v"));
     TestSupport::write(changed, text.replace(from, to).toUtf8());
-    const QString wrong = simulate(Bench(*found).text(), {changed, rtl("spi_engine.v")});
+    const QString wrong = simulate(Bench(*found).text(), {changed, rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 

@@ -1,15 +1,23 @@
 // SPI-Flash: a read window of 16 MB onto a serial flash, and registers for everything else.
-// A read in the window sends the read command 0x03 with the 24-bit word address and waits for four bytes; the byte at
-// the lowest address arrives in bits 7 to 0.  The bus waits meanwhile.  A write in the window, and a read while
-// SELECT is 1, get the error response.  The serial clock idles low (mode 0).
-// Registers: registers/spi_flash.json.
-// They stand at the start of the upper 16 MB and have their bits in the lowest byte; what lies behind them reads as 0.
-module ahb_spi_flash (
+// A read in the window sends what READ describes and waits for its word; the byte at the lowest address arrives in bits
+// 7 to 0.  With prefetch the chip select stays low afterwards and the words behind go into a FIFO, until that is full or
+// something else is asked for.  A write in the window, and a read while a command runs or SELECT is 1, get the error response.
+// COMMAND sends everything that is no read: opcode, address, mode byte, dummy clocks and data through the same FIFO.
+// Before the chip is used for the first time after a reset it is led back to its state after power-on.
+// The serial clock idles low (mode 0).  Lanes: 0 MOSI, 1 MISO, 2 WPN, 3 HOLDN.
+// Registers: registers/spi_flash.json.  They stand at the start of the upper 16 MB.
+//   LOG_DEPTH  words of the FIFO = 2 ** LOG_DEPTH, 1 to 4
+//   COMMANDS   0: without ADDRESS, LENGTH, POLL, STATUS, COMMAND and FIFO, which then read as 0
+module ahb_spi_flash #(
+    parameter LOG_DEPTH = 3,
+    parameter COMMANDS  = 1
+) (
     input  wire        HCLK,
     input  wire        HRESETn,
     input  wire        HSEL,
     input  wire [24:0] HADDR,
     input  wire [1:0]  HTRANS,
+    input  wire [2:0]  HSIZE,
     input  wire        HWRITE,
     input  wire [31:0] HWDATA,
     input  wire        HREADY,
@@ -19,146 +27,613 @@ module ahb_spi_flash (
 
     output wire        flash_clk,
     output reg         flash_csn,
-    output wire        flash_mosi,
-    input  wire        flash_miso,
-    output wire        flash_wpn,
-    output wire        flash_holdn
+    output wire [3:0]  flash_out,
+    output wire [3:0]  flash_outen,
+    input  wire [3:0]  flash_in
 );
     localparam [2:0] IDLE   = 3'd0;
     localparam [2:0] REGS   = 3'd1;   // data phase of a register access
     localparam [2:0] BYTE   = 3'd2;   // a byte of DATA is on its way
-    localparam [2:0] WINDOW = 3'd3;   // reading the flash
-    localparam [2:0] GAP    = 3'd4;   // chip select high between two reads
-    localparam [2:0] READY  = 3'd5;   // last cycle of a waited data phase
-    localparam [2:0] ERROR1 = 3'd6;
-    localparam [2:0] ERROR2 = 3'd7;
+    localparam [2:0] WINDOW = 3'd3;   // waits for a word of the flash
+    localparam [2:0] READY  = 3'd4;   // last cycle of a waited data phase
+    localparam [2:0] ERROR1 = 3'd5;
+    localparam [2:0] ERROR2 = 3'd6;
 
-    reg [2:0]  state;
-    reg        write;
-    reg [23:2] word;
-    reg        lowest;        // a write that reaches the lowest byte
-    reg [2:0]  index;         // byte of the read sequence: command, 3 of address, 4 of data
-    reg [31:0] data;
+    // What the pins do.
+    localparam [3:0] REST   = 4'd0;
+    localparam [3:0] OPCODE = 4'd1;
+    localparam [3:0] PLACE  = 4'd2;   // bytes of the address
+    localparam [3:0] MODE   = 4'd3;
+    localparam [3:0] DUMMY  = 4'd4;
+    localparam [3:0] DATA   = 4'd5;
+    localparam [3:0] CLOSE  = 4'd6;   // until the chip select may rise
+    localparam [3:0] GAP    = 4'd7;   // how long it stays high
+    localparam [3:0] GAPPED = 4'd8;
+    localparam [3:0] ONES   = 4'd9;   // ends continuous reads
+    localparam [3:0] RESETS = 4'd10;  // the chip resets itself
+    localparam [3:0] HAND   = 4'd11;  // a byte of DATA
+    localparam [3:0] HANDED = 4'd12;
+
+    localparam [3:0] R_DATA    = 4'd0;
+    localparam [3:0] R_SELECT  = 4'd1;
+    localparam [3:0] R_DIV     = 4'd2;
+    localparam [3:0] R_PROTECT = 4'd3;
+    localparam [3:0] R_CTRL    = 4'd4;
+    localparam [3:0] R_READ    = 4'd5;
+    localparam [3:0] R_UPPER   = 4'd6;
+    localparam [3:0] R_ADDRESS = 4'd8;
+    localparam [3:0] R_LENGTH  = 4'd9;
+    localparam [3:0] R_POLL    = 4'd10;
+    localparam [3:0] R_STATUS  = 4'd11;
+    localparam [3:0] R_COMMAND = 4'd12;
+    localparam [3:0] R_FIFO    = 4'd13;
+    localparam [3:0] R_RECOVER = 4'd14;
+
+    // ---- registers
     reg        select;
     reg [7:0]  div;
-    reg [7:0]  count;
     reg        protect;
-    reg        start;
-    reg [7:0]  tx_data;
-    reg        from_window;   // the answer is in data
-    wire [7:0] rx_data;
-    wire       busy;
-    wire       done;
+    reg        prefetch, continuous, quad;
+    reg [1:0]  delay;
+    reg [2:0]  gap;
+    reg [7:0]  patience;      // of an open read that nobody goes on with
+    reg [31:0] format;        // READ
+    reg [7:0]  upper;
+    reg        pending;       // the chip is to be led back to its first state
+    reg        with_reset;
+    reg [7:0]  reset_time;
+
+    // ---- bus
+    reg [2:0]  bus;
+    reg        write;
+    reg [23:2] word;
+    reg [3:0]  lanes;         // bytes that the access reaches
+    reg        listed;        // the address is that of a register
+    reg        is_id;
+    reg        from_window;
+    reg        tried;         // a word of the FIFO was passed over
+    reg        same;          // word is head, one cycle after both
+    reg        sure;          // and that is how they are
+    reg [3:0]  engine;
+
+    // ---- shifter's answers
+    wire        take, busy, receiving, rx_done;
+    wire [7:0]  rx;
+    wire [3:0]  outen;
+
+    // ---- command
+    wire [31:0] command;
+    wire [31:0] place;
+    wire [8:0]  left;         // bytes still to be transferred
+    reg         running;
+    reg         aborting;
+    wire        polling  = command[22];
+    wire        outwards = command[21] & ~polling;
+    wire        matched;      // the status is as waited for
+    wire        begin_command;
+    wire        sent_out;     // and it sends what the FIFO holds
+    wire        abort;
+    wire        push_by_hand, pop_by_hand;
+    wire [31:0] of_commands;  // what the registers of commands read
+
+    // ---- window
+    reg         streamed;     // the FIFO holds words of the window
+    reg [24:2]  head;         // address of the oldest of them, or of the next one
+    reg         reading;
+    reg         fetched;      // a word was asked for
+    reg         continues;    // the chip takes an address without an opcode
+    wire        empty, full;
+    wire [31:0] oldest;
+    wire [LOG_DEPTH:0] level;
 
     wire accept  = HSEL & HREADY & HTRANS[1];
-    wire listed  = word[23:4] == 20'd0;
-    wire store   = (state == REGS) & write & lowest & listed;
-    wire held    = (store & (word[3:2] == 2'd1)) ? HWDATA[0] : select;   // a write of SELECT counts at once
-    wire refused = ~HADDR[24] & (HWRITE | held);
-    wire sends   = store & (word[3:2] == 2'd0);
-    wire tick    = count == 8'd0;
+    wire [3:0] index = word[5:2];
+    wire access  = bus == REGS;
+    wire writing = access & write;
+    wire uses    = listed & lanes[0] & ((index == R_SELECT) | ((index == R_COMMAND) & (COMMANDS != 0)));
+    wire calm    = (engine == REST) & ~continues & ~streamed & ~(pending & uses & ~select);
+    wire store   = writing & listed & calm & ~running;
+    wire early   = writing & listed & running;   // while a command runs
+    wire by_hand = store & lanes[0] & (index == R_DATA);
 
-    reg [7:0] sequence_byte;
-    always @*
-        case (index)
-            3'd0:    sequence_byte = 8'h03;
-            3'd1:    sequence_byte = word[23:16];
-            3'd2:    sequence_byte = word[15:8];
-            3'd3:    sequence_byte = {word[7:2], 2'b00};
-            default: sequence_byte = 8'h00;
-        endcase
+    function [31:0] merged(input [31:0] old, input [31:0] fresh, input [3:0] reach);
+        merged = {reach[3] ? fresh[31:24] : old[31:24], reach[2] ? fresh[23:16] : old[23:16],
+                  reach[1] ? fresh[15:8] : old[15:8], reach[0] ? fresh[7:0] : old[7:0]};
+    endfunction
+    function has_four(input [13:8] over);
+        has_four = (over[9:8] == 2'd2) | (over[11:10] == 2'd2) | (over[13:12] == 2'd2);
+    endfunction
+
+    // A read that cannot be: no address or no data, or four lanes that are not the controller's.
+    wire unreadable = (&format[11:10]) | (&format[13:12]) | (~quad & has_four(format[13:8]));
+    wire refused    = select | running | unreadable;
+
+    wire match = streamed & same;
+    wire open  = reading & ((engine == OPCODE) | (engine == PLACE) | (engine == MODE) | (engine == DUMMY) | (engine == DATA));
+    wire serve = sure & match & ~empty & (prefetch | flash_csn);
+    wire skip  = (bus == WINDOW) & sure & streamed & ~match & ~empty & ~tried;
+    wire miss  = (bus == WINDOW) & sure & ~refused & ~serve & ~skip & ~(match & (open | ~empty));
+    wire start = miss & (engine == REST) & ~pending;
 
     always @(posedge HCLK or negedge HRESETn)
         if (!HRESETn) begin
-            state       <= IDLE;
+            bus         <= IDLE;
             write       <= 1'b0;
             word        <= 22'd0;
-            lowest      <= 1'b0;
-            index       <= 3'd0;
-            data        <= 32'd0;
-            select      <= 1'b0;
-            div         <= 8'd1;
-            count       <= 8'd0;
-            protect     <= 1'b1;
-            start       <= 1'b0;
-            tx_data     <= 8'd0;
-            flash_csn   <= 1'b1;
+            lanes       <= 4'd0;
+            listed      <= 1'b0;
+            is_id       <= 1'b0;
             from_window <= 1'b0;
+            tried       <= 1'b0;
+            same        <= 1'b0;
+            sure        <= 1'b0;
         end else begin
-            start <= 1'b0;
-            count <= (start | tick) ? div : count - 8'd1;
-            case (state)
+            same <= head == {1'b0, word};
+            sure <= (bus == WINDOW) & ~skip & ~start;
+            case (bus)
                 BYTE:
-                    if (done)
-                        state <= READY;
+                    if ((engine == HANDED) & ~busy & ~receiving)
+                        bus <= READY;
                 WINDOW: begin
-                    flash_csn <= 1'b0;
-                    if (!busy && !start && !done) begin
-                        start   <= 1'b1;
-                        tx_data <= sequence_byte;
-                    end
-                    if (done) begin
-                        data  <= {rx_data, data[31:8]};
-                        index <= index + 3'd1;
-                        if (index == 3'd7) begin
-                            flash_csn <= 1'b1;
-                            state     <= GAP;
-                        end
-                    end
+                    tried <= tried | skip;
+                    if (refused)
+                        bus <= ERROR1;
+                    else if (serve)
+                        bus <= READY;
                 end
-                GAP:
-                    if (tick)
-                        state <= READY;
                 ERROR1:
-                    state <= ERROR2;
+                    bus <= ERROR2;
                 default:   // IDLE, REGS, READY, ERROR2: the data phase may end here
-                    if (sends) begin
-                        state   <= BYTE;
-                        start   <= 1'b1;
-                        tx_data <= HWDATA[7:0];
-                    end else begin
-                        if (store)
-                            case (word[3:2])
-                                2'd1: begin
-                                    select    <= HWDATA[0];
-                                    flash_csn <= ~HWDATA[0];
-                                end
-                                2'd2: div     <= HWDATA[7:0];
-                                2'd3: protect <= HWDATA[0];
-                                default: ;
-                            endcase
-                        if (accept) begin
-                            write       <= HWRITE;
-                            word        <= HADDR[23:2];
-                            lowest      <= HADDR[1:0] == 2'd0;
-                            index       <= 3'd0;
-                            from_window <= ~HADDR[24];
-                            state       <= refused ? ERROR1 : HADDR[24] ? REGS : WINDOW;
-                        end else
-                            state <= IDLE;
-                    end
+                    if (by_hand)
+                        bus <= BYTE;
+                    else if (accept) begin
+                        write       <= HWRITE;
+                        word        <= HADDR[23:2];
+                        lanes       <= HSIZE[1] ? 4'b1111 : HSIZE[0] ? 4'b0011 << HADDR[1:0] : 4'b0001 << HADDR[1:0];
+                        listed      <= HADDR[23:6] == 18'd0;
+                        is_id       <= HADDR[23:2] == 22'h0003FF;
+                        from_window <= ~HADDR[24];
+                        tried       <= 1'b0;
+                        bus         <= HADDR[24] ? REGS : HWRITE ? ERROR1 : WINDOW;
+                    end else if (HREADYOUT)
+                        bus <= IDLE;
             endcase
         end
 
-    spi_engine u_engine (
-        .clk(HCLK), .rstn(HRESETn), .tick(tick), .start(start),
-        .cpol(1'b0), .cpha(1'b0), .lsb_first(1'b0),
-        .tx_data(tx_data), .rx_data(rx_data), .busy(busy), .done(done),
-        .sclk(flash_clk), .mosi(flash_mosi), .miso(flash_miso)
+    assign HREADYOUT = (bus == IDLE) | (access & (~write | running | (calm & ~by_hand))) | (bus == READY) | (bus == ERROR2);
+    assign HRESP     = (bus == ERROR1) | (bus == ERROR2);
+
+    // ---- shifter
+    reg [1:0]  place_byte;
+    reg [1:0]  ask_byte;      // byte of a word that is asked for
+    reg [1:0]  store_byte;    // and that arrives
+    reg [31:0] assembled;
+    reg        complete;      // assembled is to go into the FIFO
+    reg        special;       // continuous reads are ended, and with recovering all the rest
+    reg        recovering;
+    reg [2:0]  step;
+    reg [13:0] timer;
+
+    wire [28:0] form     = running ? {command[31:24], command[20:0]} : {format[31:24], format[20:0]};
+    wire        sends    = running & outwards;
+    wire        has_op   = ~&form[9:8];
+    wire        has_at   = ~&form[11:10];
+    wire        has_mode = has_at & form[15];
+    wire        has_data = ~&form[13:12];
+    wire        has_rest = form[20:16] != 5'd0;
+    wire        remains  = left != 9'd0;
+    wire        room     = ~level[LOG_DEPTH] & ~&level[LOG_DEPTH-1:0];   // for this word and the one that still arrives
+    wire        fits     = (ask_byte != 2'd0) | room;
+    wire        more     = running ? has_data & (polling | (remains & (outwards ? ~empty : fits)))
+                                   : prefetch ? fits : ~fetched;
+    wire [31:0] at       = running ? place : {upper, word, 2'b00};
+    wire        quiet    = engine == GAP;
+    wire        stop     = (engine == CLOSE) & ~special;
+
+    reg       valid;
+    reg [7:0] tx;
+    reg [1:0] over;
+    reg [4:0] clocks;
+    always @* begin
+        valid  = 1'b0;
+        tx     = 8'd0;
+        over   = 2'd0;
+        case (engine)
+            OPCODE: begin
+                valid = has_op | special;
+                tx    = special ? (step[0] ? 8'h99 : 8'h66) : form[7:0];
+                over  = special ? 2'd0 : form[9:8];
+            end
+            PLACE: begin
+                valid = has_at;
+                case (place_byte)
+                    2'd3: tx = at[31:24];
+                    2'd2: tx = at[23:16];
+                    2'd1: tx = at[15:8];
+                    2'd0: tx = at[7:0];
+                endcase
+                over  = form[11:10];
+            end
+            MODE: begin
+                valid = has_mode;
+                tx    = form[28:21];
+                over  = form[11:10];
+            end
+            DUMMY: begin
+                valid = has_rest;
+                over  = form[13:12] & {2{has_data}};
+            end
+            DATA: begin
+                valid = more;
+                case (ask_byte)
+                    2'd3: tx = oldest[31:24];
+                    2'd2: tx = oldest[23:16];
+                    2'd1: tx = oldest[15:8];
+                    2'd0: tx = oldest[7:0];
+                endcase
+                over  = form[13:12];
+            end
+            ONES: begin
+                valid = 1'b1;
+                tx    = 8'hFF;
+                over  = 2'd2;
+            end
+            HAND: begin
+                valid = 1'b1;
+                tx    = HWDATA[7:0];
+            end
+            default:
+                valid = quiet;
+        endcase
+        case (engine)
+            DUMMY:   clocks = form[20:16] - 5'd1;
+            GAP:     clocks = {2'd0, gap};
+            // An address and a mode byte: of 3 and 4 bytes on four lanes, and on two.
+            ONES:    clocks = step[1] ? (step[0] ? 5'd19 : 5'd15) : (step[0] ? 5'd9 : 5'd7);
+            default: clocks = over[1] ? 5'd1 : over[0] ? 5'd3 : 5'd7;
+        endcase
+    end
+
+    spi_flash_shifter u_shifter (
+        .clk(HCLK), .rstn(HRESETn), .div(div), .delay(delay),
+        .valid(valid), .take(take), .tx(tx), .lanes(over), .drives(sends | ((engine != DATA) & (engine != DUMMY))),
+        .samples((engine == HAND) | ((engine == DATA) & ~sends)), .quiet(quiet), .clocks(clocks),
+        .stop(stop), .rest(engine == REST), .busy(busy), .receiving(receiving), .rx(rx), .rx_done(rx_done),
+        .wpn(~protect), .holdn(1'b1), .sclk(flash_clk), .out(flash_out), .outen(outen), .in(flash_in)
     );
 
-    reg [7:0] r;
-    always @*
-        case (word[3:2])
-            2'd0: r = rx_data;
-            2'd1: r = {7'd0, select};
-            2'd2: r = div;
-            2'd3: r = {7'd0, protect};
-        endcase
+    // A flash of which a continuous read on two lanes is ended may answer from the last falling edge on.
+    wire released = special & ((engine == GAP) | (engine == GAPPED) | ((engine == CLOSE) & ~busy));
+    assign flash_outen = outen & ~{2'b00, {2{released}}};
 
-    assign HRDATA      = from_window ? data : {24'd0, r & {8{listed}}};
-    assign HREADYOUT   = (state == IDLE) | ((state == REGS) & ~sends) | (state == READY) | (state == ERROR2);
-    assign HRESP       = (state == ERROR1) | (state == ERROR2);
-    assign flash_wpn   = ~protect;
-    assign flash_holdn = 1'b1;
+    wire in_flight = busy | receiving | complete;
+    wire arrives   = rx_done & (engine == DATA) & (reading | ~(outwards | polling));
+    wire drop      = (miss | writing) & ~running;       // the open read is of no use any more
+    wire timed     = timer[13:6] == ((engine == RESETS) ? reset_time : patience);
+    wire done      = running ? (polling & has_data ? matched : ~((remains & has_data) | in_flight | (store_byte != 2'd0)))
+                             : drop | (prefetch ? timed & (patience != 8'd0) & ~in_flight : fetched & ~in_flight);
+    wire last_step = ~recovering | ((step == 3'd3) & ~with_reset);
+
+    always @(posedge HCLK or negedge HRESETn)
+        if (!HRESETn) begin
+            engine     <= REST;
+            flash_csn  <= 1'b1;
+            select     <= 1'b0;
+            pending    <= 1'b1;
+            running    <= 1'b0;
+            aborting   <= 1'b0;
+            reading    <= 1'b0;
+            fetched    <= 1'b0;
+            continues  <= 1'b0;
+            place_byte <= 2'd0;
+            ask_byte   <= 2'd0;
+            special    <= 1'b0;
+            recovering <= 1'b0;
+            step       <= 3'd0;
+            timer      <= 14'd0;
+        end else begin
+            timer <= ((engine == RESETS) | (open & (engine == DATA) & ~busy)) ? timer + 14'd1 : 14'd0;
+            if (abort)
+                aborting <= 1'b1;
+            case (engine)
+                REST: begin
+                    ask_byte   <= 2'd0;
+                    fetched    <= 1'b0;
+                    place_byte <= {1'b1, form[14]};
+                    if (running) begin
+                        if (aborting) begin
+                            running  <= 1'b0;
+                            aborting <= 1'b0;
+                        end else begin
+                            flash_csn <= 1'b0;
+                            engine    <= OPCODE;
+                        end
+                    end else if (continues & writing) begin
+                        special   <= 1'b1;
+                        step      <= {1'b0, format[10], format[14]};
+                        flash_csn <= 1'b0;
+                        engine    <= ONES;
+                    end else if (pending & ~select & (miss | (writing & uses))) begin
+                        special    <= 1'b1;
+                        recovering <= 1'b1;
+                        step       <= 3'd0;
+                        flash_csn  <= 1'b0;
+                        engine     <= ONES;
+                    end else if (start) begin
+                        reading   <= 1'b1;
+                        flash_csn <= 1'b0;
+                        engine    <= continues ? PLACE : OPCODE;
+                    end else if (by_hand)
+                        engine <= HAND;
+                end
+                OPCODE:
+                    if (take | ~valid)
+                        engine <= special ? CLOSE : PLACE;
+                PLACE:
+                    if (~has_at | (take & (place_byte == 2'd0)))
+                        engine <= MODE;
+                    else if (take)
+                        place_byte <= place_byte - 2'd1;
+                MODE:
+                    if (take | ~has_mode)
+                        engine <= DUMMY;
+                DUMMY:
+                    if (take | ~has_rest)
+                        engine <= DATA;
+                DATA: begin
+                    continues <= reading & continuous & has_mode & (format[11] ^ format[10]);
+                    if (take) begin
+                        ask_byte <= ask_byte + 2'd1;
+                        if (ask_byte == 2'd3)
+                            fetched <= 1'b1;
+                    end
+                    if (done)
+                        engine <= CLOSE;
+                end
+                CLOSE:
+                    if (~busy) begin
+                        flash_csn <= 1'b1;
+                        reading   <= 1'b0;
+                        running   <= 1'b0;
+                        aborting  <= 1'b0;
+                        engine    <= GAP;
+                    end
+                GAP:
+                    if (take)
+                        engine <= GAPPED;
+                GAPPED:
+                    if (~busy) begin
+                        engine <= REST;
+                        if (special) begin
+                            step <= step + 3'd1;
+                            if (last_step) begin
+                                special    <= 1'b0;
+                                recovering <= 1'b0;
+                                continues  <= 1'b0;
+                                if (recovering)
+                                    pending <= 1'b0;
+                            end else if (step == 3'd5)
+                                engine <= RESETS;
+                            else begin
+                                flash_csn <= 1'b0;
+                                engine    <= (step < 3'd3) ? ONES : OPCODE;
+                            end
+                        end
+                    end
+                ONES:
+                    if (take)
+                        engine <= CLOSE;
+                RESETS:
+                    if (timed) begin
+                        special    <= 1'b0;
+                        recovering <= 1'b0;
+                        pending    <= 1'b0;
+                        engine     <= REST;
+                    end
+                HAND:
+                    if (take)
+                        engine <= HANDED;
+                default:   // HANDED
+                    if (~busy & ~receiving)
+                        engine <= REST;
+            endcase
+            if (aborting & ((engine == OPCODE) | (engine == PLACE) | (engine == MODE) | (engine == DUMMY) | (engine == DATA)))
+                engine <= CLOSE;
+            if (begin_command) begin
+                running <= 1'b1;
+                select  <= 1'b0;
+                if (select) begin
+                    flash_csn <= 1'b1;
+                    engine    <= GAP;
+                end
+            end
+            if (store & lanes[0] & (index == R_SELECT)) begin
+                select    <= HWDATA[0];
+                flash_csn <= ~HWDATA[0];
+                if (select & ~HWDATA[0])
+                    engine <= GAP;
+            end
+            if (store & lanes[0] & (index == R_RECOVER))
+                pending <= HWDATA[0];
+        end
+
+    // ---- words
+    wire flush = (aborting & outwards) | start | (begin_command & ~sent_out) |
+                 (writing & ~running & streamed & (engine == REST)) | ((bus == READY) & from_window & ~prefetch);
+    wire [31:0] reached = {{8{lanes[3]}}, {8{lanes[2]}}, {8{lanes[1]}}, {8{lanes[0]}}};
+    wire        last_byte = (ask_byte == 2'd3) | (left == 9'd1);
+    sync_fifo #(.WIDTH(32), .LOG_DEPTH(LOG_DEPTH)) u_fifo (
+        .clk(HCLK), .rstn(HRESETn), .clear(flush),
+        .push(complete | push_by_hand), .wdata(complete ? assembled : HWDATA & reached),
+        .pop(skip | pop_by_hand | ((engine == DATA) & sends & take & last_byte)),
+        .rdata(oldest), .empty(empty), .full(full), .level(level)
+    );
+
+    always @(posedge HCLK or negedge HRESETn)
+        if (!HRESETn) begin
+            streamed   <= 1'b0;
+            head       <= 23'd0;
+            assembled  <= 32'd0;
+            complete   <= 1'b0;
+            store_byte <= 2'd0;
+        end else begin
+            if (flush)
+                streamed <= start;
+            if (start)
+                head <= {1'b0, word};
+            else if (skip)
+                head <= head + 23'd1;
+            complete <= ~stop & ((arrives & (store_byte == 2'd3)) |
+                                 ((engine == DATA) & running & ~(remains | in_flight | aborting) & (store_byte != 2'd0)));
+            if ((engine == REST) | complete)
+                store_byte <= 2'd0;
+            else if (arrives)
+                store_byte <= store_byte + 2'd1;
+            if (arrives)
+                case (store_byte)
+                    2'd0: assembled        <= {24'd0, rx};
+                    2'd1: assembled[15:8]  <= rx;
+                    2'd2: assembled[23:16] <= rx;
+                    2'd3: assembled[31:24] <= rx;
+                endcase
+        end
+
+    // ---- registers of the window
+    always @(posedge HCLK or negedge HRESETn)
+        if (!HRESETn) begin
+            div        <= 8'd1;
+            protect    <= 1'b1;
+            prefetch   <= 1'b0;
+            continuous <= 1'b0;
+            quad       <= 1'b0;
+            delay      <= 2'd0;
+            gap        <= 3'd0;
+            patience   <= 8'd0;
+            format     <= 32'h00000003;
+            upper      <= 8'd0;
+            with_reset <= 1'b1;
+            reset_time <= 8'd32;
+        end else if (store)
+            case (index)
+                R_DIV:
+                    if (lanes[0]) div <= HWDATA[7:0];
+                R_PROTECT:
+                    if (lanes[0]) protect <= HWDATA[0];
+                R_CTRL: begin
+                    if (lanes[0]) {delay, quad, continuous, prefetch} <= {HWDATA[5:4], HWDATA[2:0]};
+                    if (lanes[1]) gap <= HWDATA[10:8];
+                    if (lanes[2]) patience <= HWDATA[23:16];
+                end
+                R_READ: format <= merged(format, HWDATA, lanes) & 32'hFF1FFFFF;
+                R_UPPER:
+                    if (lanes[0]) upper <= HWDATA[7:0];
+                R_RECOVER: begin
+                    if (lanes[0]) with_reset <= HWDATA[1];
+                    if (lanes[1]) reset_time <= HWDATA[15:8];
+                end
+                default: ;
+            endcase
+
+    // ---- registers of commands
+    generate if (COMMANDS != 0) begin : g_commands
+        reg [31:0] command_q, place_q;
+        reg [8:0]  left_q;
+        reg [7:0]  mask, wanted;
+        reg        was_refused, overflow, underflow;
+        assign command = command_q;
+        assign place   = place_q;
+        assign left    = left_q;
+        assign matched = rx_done & (((rx ^ wanted) & mask) == 8'd0);
+
+        wire [31:0] next  = merged(command_q, HWDATA, lanes) & 32'hFF7FFFFF;
+        wire        sets  = store & (index == R_COMMAND);
+        wire        legal = quad | ~has_four(next[13:8]);
+        wire        filling = (store | (early & outwards)) & (index == R_FIFO) & lanes[0];
+        wire        taking  = access & ~write & listed & (index == R_FIFO) & lanes[0];
+        wire        idle_fifo = ~streamed & ~sends;
+        assign begin_command = sets & lanes[0] & legal;
+        assign sent_out      = next[21] & ~next[22];
+        assign push_by_hand  = filling & ~full;
+        assign pop_by_hand   = taking & idle_fifo;
+        assign abort         = early & lanes[0] & (index == R_STATUS) & HWDATA[4];
+
+        always @(posedge HCLK or negedge HRESETn)
+            if (!HRESETn) begin
+                command_q   <= 32'd0;
+                place_q     <= 32'd0;
+                left_q      <= 9'd0;
+                mask        <= 8'h01;
+                wanted      <= 8'h00;
+                was_refused <= 1'b0;
+                overflow    <= 1'b0;
+                underflow   <= 1'b0;
+            end else begin
+                if (sets)
+                    command_q <= next;
+                if (store & (index == R_ADDRESS))
+                    place_q <= merged(place_q, HWDATA, lanes);
+                if (store & (index == R_LENGTH)) begin
+                    if (lanes[0]) left_q[7:0] <= HWDATA[7:0];
+                    if (lanes[1]) left_q[8]   <= HWDATA[8];
+                end else if ((engine == DATA) & running & ~polling & take)
+                    left_q <= left_q - 9'd1;
+                if (store & (index == R_POLL)) begin
+                    if (lanes[0]) mask   <= HWDATA[7:0];
+                    if (lanes[1]) wanted <= HWDATA[15:8];
+                end
+                if ((store | early) & (index == R_STATUS) & lanes[0]) begin
+                    was_refused <= was_refused & ~HWDATA[1];
+                    overflow    <= overflow & ~HWDATA[2];
+                    underflow   <= underflow & ~HWDATA[3];
+                end
+                if ((early & (index != R_STATUS) & ~((index == R_FIFO) & outwards)) | (sets & lanes[0] & ~legal))
+                    was_refused <= 1'b1;
+                if (filling & full)
+                    overflow <= 1'b1;
+                if (taking & (empty | ~idle_fifo))
+                    underflow <= 1'b1;
+            end
+
+        reg [31:0] r;
+        wire [4:0] words = {{(4-LOG_DEPTH){1'b0}}, level} & {5{~streamed}};
+        always @*
+            case (index)
+                R_ADDRESS: r = place_q;
+                R_LENGTH:  r = {23'd0, left_q};
+                R_POLL:    r = {16'd0, wanted, mask};
+                R_FIFO:    r = oldest & {32{idle_fifo}};
+                R_COMMAND: r = command_q;
+                R_STATUS:  r = {19'd0, words, 2'd0, continues, 1'b0, underflow, overflow, was_refused, running};
+                default:   r = 32'd0;
+            endcase
+        assign of_commands = r;
+    end else begin : g_none
+        assign command       = 32'd0;
+        assign place         = 32'd0;
+        assign left          = 9'd0;
+        assign matched       = 1'b0;
+        assign begin_command = 1'b0;
+        assign sent_out      = 1'b0;
+        assign push_by_hand  = 1'b0;
+        assign pop_by_hand   = 1'b0;
+        assign abort         = 1'b0;
+        assign of_commands   = 32'd0;
+    end endgenerate
+
+    localparam [31:0] WORDS = LOG_DEPTH;
+    localparam [31:0] ID = {11'd0, (COMMANDS != 0), WORDS[3:0], 8'd2, 8'd10};
+    reg [31:0] value;
+    always @*
+        case (index)
+            R_DATA:    value = {24'd0, rx};
+            R_SELECT:  value = {31'd0, select};
+            R_DIV:     value = {24'd0, div};
+            R_PROTECT: value = {31'd0, protect};
+            R_CTRL:    value = {8'd0, patience, 5'd0, gap, 2'd0, delay, 1'b0, quad, continuous, prefetch};
+            R_READ:    value = format;
+            R_UPPER:   value = {24'd0, upper};
+            R_RECOVER: value = {16'd0, reset_time, 6'd0, with_reset, pending};
+            default:   value = of_commands;
+        endcase
+    assign HRDATA = from_window ? oldest : listed ? value : is_id ? ID : 32'd0;
 endmodule

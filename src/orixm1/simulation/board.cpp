@@ -733,11 +733,15 @@ private:
             text += "    board_i2c_memory #(.STORAGE(0)) eeprom (.clk(clk), .size(eeprom_size), "
                     ".scl(i2c_scl), .sda(i2c_sda), .sda_low(eeprom_low));\n"_l1;
         if (portNamed(QStringLiteral("FLASH_SPI_CSN")))
-            text += "    wire flash_miso;\n"
-                    "    assign p_FLASH_SPI_MISO = p_FLASH_SPI_CSN === 1'b0 ? flash_miso : 1'bz;\n"
+            text += "    wire [3:0] flash_out, flash_outen;\n"
+                    "    assign p_FLASH_SPI_MOSI = flash_outen[0] ? flash_out[0] : 1'bz;\n"
+                    "    assign p_FLASH_SPI_MISO = flash_outen[1] ? flash_out[1] : 1'bz;\n"
+                    "    assign p_FLASH_SPI_WPN = flash_outen[2] ? flash_out[2] : 1'bz;\n"
+                    "    assign p_FLASH_SPI_HOLDN = flash_outen[3] ? flash_out[3] : 1'bz;\n"
                     "    board_spi_flash #(.STORAGE(1)) flash (.clk(clk), .size(flash_size), "
-                    ".csn(p_FLASH_SPI_CSN), .sclk(p_FLASH_SPI_CLK), .mosi(p_FLASH_SPI_MOSI), "
-                    ".miso(flash_miso));\n"_l1;
+                    ".csn(p_FLASH_SPI_CSN), .sclk(p_FLASH_SPI_CLK), "
+                    ".lanes({p_FLASH_SPI_HOLDN, p_FLASH_SPI_WPN, p_FLASH_SPI_MISO, "
+                    "p_FLASH_SPI_MOSI}), .out(flash_out), .outen(flash_outen));\n"_l1;
         if (portNamed(QStringLiteral("SD_DATAIN")))
             text += "    wire sd_miso;\n"
                     "    board_sd_card #(.STORAGE(2)) card (.clk(clk), .size(sd_size), "

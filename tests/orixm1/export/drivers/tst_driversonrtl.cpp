@@ -327,7 +327,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::newRow("uart") << "apb_uart sync_fifo cdc_synchronizer";
     QTest::newRow("spi") << "apb_spi spi_engine";
     QTest::newRow("i2c") << "apb_i2c";
-    QTest::newRow("spiflash") << "ahb_spi_flash spi_engine";
+    QTest::newRow("spiflash") << "ahb_spi_flash spi_flash_shifter sync_fifo";
     QTest::newRow("sd") << "apb_sdcard sd_sequencer sd_shifter cdc_synchronizer";
     QTest::newRow("timer") << "apb_timer";
     QTest::newRow("dtimer") << "apb_dual_timer";

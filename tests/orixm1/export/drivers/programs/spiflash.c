@@ -4,8 +4,24 @@
 
 static const uint32_t enough = 50u;
 
-enum { WORK, REFUSE, AWAY, PEEK, BUSY };
-enum { WHERE, PROGRAMS, ERASES, PEEKED, CSN, WPN, PERIOD, ENABLED, READS, BUSY_LEFT };
+enum { WORK, REFUSE, AWAY, PEEK, BUSY, KIND, STATUS };
+enum {
+    WHERE,
+    PROGRAMS,
+    ERASES,
+    PEEKED,
+    CSN,
+    WPN,
+    PERIOD,
+    ENABLED,
+    READS,
+    BUSY_LEFT,
+    OPCODES,
+    BOTH_STATUS,
+    WRONG,
+    STATE
+};
+enum { PARAMETERS = 8, CONTINUES = 1, LONG = 2 };
 
 static uint32_t in_flash(uint32_t address)
 {
@@ -15,7 +31,7 @@ static uint32_t in_flash(uint32_t address)
 
 static uint32_t at_first(uint32_t address)
 {
-    return ((address ^ (address >> 8)) & 0xFFu) ^ 0x5Cu;
+    return ((address ^ (address >> 8) ^ (address >> 16) ^ (address >> 24)) & 0xFFu) ^ 0x5Cu;
 }
 
 static void reading(void)
@@ -53,7 +69,7 @@ static void reading(void)
         }
     }
     EQUAL(spiflash_read(SPIFLASH, SPIFLASH_SIZE_MAX - 1u, got, 1u), SPIFLASH_OK);
-    EQUAL(got[0], at_first(0xFFFFu));
+    EQUAL(got[0], at_first(0xFFFFFFu));
     EQUAL(spiflash_read(SPIFLASH, SPIFLASH_SIZE_MAX - 1u, got, 2u), SPIFLASH_ERROR_RANGE);
     EQUAL(spiflash_read(SPIFLASH, SPIFLASH_SIZE_MAX + 1u, got, 0u), SPIFLASH_ERROR_RANGE);
     EQUAL(spiflash_read(SPIFLASH, 4u, got, 0xFFFFFFFFu), SPIFLASH_ERROR_RANGE);
@@ -144,9 +160,133 @@ static void failures(void)
     EQUAL(FAR(CSN), 1u);
 }
 
+/* What is read from an address on, over the end of some words. */
+static void read_all(uint32_t from, uint32_t high)
+{
+    uint8_t got[23];
+    uint32_t i;
+    EQUAL(spiflash_read(SPIFLASH, from, got, 23u), SPIFLASH_OK);
+    for (i = 0u; i < 23u; ++i)
+        EQUAL(got[i], at_first(high + from + i));
+}
+
+static void modes(void)
+{
+    spiflash_chip chip;
+    uint32_t opcodes;
+    int mode;
+    FAR(AWAY) = 3u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_ERROR_ABSENT);
+    FAR(AWAY) = 1u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_ERROR_ABSENT);
+    FAR(AWAY) = 0u;
+    /* Nothing but its identification. */
+    FAR(KIND) = 6u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_OK);
+    EQUAL(chip.id[2], 0xD3u);
+    EQUAL(chip.size, 0u);
+    EQUAL(spiflash_fastest(&chip), SPIFLASH_MODE_FAST);
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_DUAL_OUT, enough), SPIFLASH_ERROR_RANGE);
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODES, enough), SPIFLASH_ERROR_RANGE);
+    /* Four lanes that cannot be switched on in a known way. */
+    FAR(KIND) = PARAMETERS | 7u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_OK);
+    EQUAL(spiflash_fastest(&chip), SPIFLASH_MODE_DUAL_IO);
+    /* In the first status register, and in the second one, written with the first. */
+    FAR(KIND) = PARAMETERS | 2u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_OK);
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_QUAD_IO, enough), SPIFLASH_OK);
+    EQUAL(FAR(BOTH_STATUS), 0x4000u);
+    read_all(0x777u, 0u);
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_FAST, enough), SPIFLASH_OK);
+    FAR(KIND) = PARAMETERS | 5u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_OK);
+    FAR(STATUS) = 0x20u;
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_QUAD_OUT, enough), SPIFLASH_OK);
+    EQUAL(FAR(BOTH_STATUS), 0x2002u);
+    read_all(0x777u, 0u);
+    /* Alone in the second one; refused first. */
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_SINGLE, enough), SPIFLASH_OK);
+    FAR(KIND) = PARAMETERS | 6u;
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_OK);
+    EQUAL(chip.id[0], 0xD1u);
+    EQUAL(chip.size, 0x20000000u);
+    EQUAL(spiflash_fastest(&chip), SPIFLASH_MODE_QUAD_IO);
+    FAR(REFUSE) = 1u;
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_QUAD_IO, enough),
+          SPIFLASH_ERROR_PROTECTED);
+    FAR(REFUSE) = 0u;
+    read_all(0x333u, 0u);
+    FAR(WORK) = 3u;
+    for (mode = 0; mode < (int)SPIFLASH_MODES; ++mode) {
+        EQUAL(spiflash_set_mode(SPIFLASH, &chip, (spiflash_mode)mode, enough), SPIFLASH_OK);
+        EQUAL(FAR(BOTH_STATUS), mode < (int)SPIFLASH_MODE_QUAD_OUT ? 0u : 2u);
+        opcodes = FAR(OPCODES);
+        read_all(0x1001u + 0x100u * (uint32_t)mode, 0u);
+        EQUAL(FAR(OPCODES) - opcodes, 1u);
+        read_all(0x20u, 0u);
+        EQUAL(FAR(OPCODES) - opcodes, 2u);
+    }
+    EQUAL(FAR(BUSY_LEFT), 0u);
+    EQUAL(spiflash_set_continuous(SPIFLASH, true), SPIFLASH_OK);
+    read_all(0x40u, 0u);
+    opcodes = FAR(OPCODES);
+    read_all(0x9000u, 0u);
+    read_all(0x41u, 0u);
+    EQUAL(FAR(OPCODES), opcodes);
+    EQUAL(FAR(STATE), CONTINUES);
+    EQUAL(spiflash_status(SPIFLASH), 0u); /* other commands end them */
+    EQUAL(FAR(STATE), 0u);
+    read_all(0x42u, 0u);
+    /* Further up. */
+    spiflash_set_bank(SPIFLASH, 0x12u);
+    EQUAL(FAR(STATE), LONG);
+    read_all(0x43u, 0x12000000u);
+    EQUAL(spiflash_erase_sector(SPIFLASH, 0x7000u, enough), SPIFLASH_OK);
+    EQUAL(FAR(WHERE), 0x12007000u);
+    EQUAL(spiflash_program(SPIFLASH, 0x7004u, &chip, 4u, enough), SPIFLASH_OK);
+    EQUAL(FAR(WHERE), 0x12007004u);
+    spiflash_set_bank(SPIFLASH, 0x34u);
+    read_all(0x44u, 0x34000000u);
+    spiflash_set_bank(SPIFLASH, 0u);
+    EQUAL(FAR(STATE), 0u);
+    read_all(0x45u, 0u);
+    EQUAL(spiflash_set_continuous(SPIFLASH, false), SPIFLASH_OK);
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_FAST, enough), SPIFLASH_OK);
+    EQUAL(spiflash_set_continuous(SPIFLASH, true), SPIFLASH_ERROR_RANGE);
+    EQUAL(spiflash_set_continuous(SPIFLASH, false), SPIFLASH_OK);
+    read_all(0x46u, 0u);
+    /* All of it, last. */
+    EQUAL(spiflash_erase_block(SPIFLASH, 0x8000u, enough), SPIFLASH_ERROR_RANGE);
+    EQUAL(in_flash(0u), at_first(0u));
+    EQUAL(spiflash_erase_block(SPIFLASH, 0x30000u, enough), SPIFLASH_OK);
+    EQUAL(FAR(WHERE), 0x30000u);
+    EQUAL(in_flash(0u), 0xFFu);
+    EQUAL(spiflash_program(SPIFLASH, 0u, &chip, 4u, enough), SPIFLASH_OK);
+    EQUAL(in_flash(0u), 0xD1u);
+    EQUAL(spiflash_erase_chip(SPIFLASH, enough), SPIFLASH_OK);
+    EQUAL(in_flash(0u), 0xFFu);
+    EQUAL(FAR(WRONG), 0u);
+    EQUAL(SPIFLASH->STATUS, 0u);
+}
+
+/* A command that waits for ever does not keep the driver. */
+static void leftovers(void)
+{
+    SPIFLASH->POLL = 0xFFFFu;
+    SPIFLASH->COMMAND = 5u | SPIFLASH_COMMAND_POLL_Msk |
+                        SPIFLASH_COMMAND_ADLANES_NONE << SPIFLASH_COMMAND_ADLANES_Pos;
+    EQUAL(SPIFLASH->STATUS, SPIFLASH_STATUS_BUSY_Msk);
+    EQUAL(spiflash_init(SPIFLASH, 50000000u, 25000000u), SPIFLASH_OK);
+    EQUAL(SPIFLASH->STATUS, 0u);
+    EQUAL(SPIFLASH->DIV, 0u);
+}
+
 void test(void)
 {
     reading();
     writing();
     failures();
+    modes();
+    leftovers();
 }
