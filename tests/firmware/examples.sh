@@ -152,8 +152,10 @@ clock apb_rtc.v s/(wire \[31:0\] next = )(seconds [+] 32'd1)/\1(\2) \& 32'hFFFFF
 clock apb_rtc.v s/part [+] 24'd1/(part + 24'd1) | 24'h000004/
 watchdog apb_watchdog.v s/reset_req <= expire/reset_req <= 1'b0/
 watchdog apb_watchdog.v s/(assign nmi += )pend/\11'b0/
-loopback apb_spi.v s/\{24'd0, rx_data\}/{24'd0, rx_data | 8'h10}/
-loopback spi_engine.v s/\{shift_in\[6:0\], miso\}/{shift_in[6:0], 1'b0}/
+loopback apb_spi.v s/= rx_oldest/= rx_oldest | 8'h10/
+loopback apb_spi.v s/top_bit <= top_written/top_bit <= top_written \& 6'h3E/
+loopback spi_word_shifter.v s/(loop \? mosi : )miso/\11'b0/
+loopback spi_word_shifter.v s/(loop \? )mosi/\11'b1/
 timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
 timers apb_dual_timer.v s/oneshot, ie, en\} <= PWDATA\[2:0\]/oneshot, ie, en} <= PWDATA[2:0] \& 3'b011/
 i2c-eeprom apb_i2c.v s/rxdata <= shift_in/rxdata <= shift_in | 8'h08/
