@@ -261,6 +261,28 @@ static void use_gpio(void)
     wait_for(&rises, 0x8000u);
     check("interrupt of its fall", rises, 0x8000u);
     gpio_disable_interrupts(GPIO, 0x8000u);
+    /* Both edges, through a filter, and a pulse that it drops. */
+    check("gpio_set_filter_interval", gpio_set_filter_interval(GPIO, 40u), 1u);
+    gpio_set_filters(GPIO, 0x8000u, true);
+    check("a filter's pin", gpio_read(GPIO) & 0x8000u, 0u);
+    rises = 0u;
+    gpio_enable_interrupts(GPIO, 0x8000u, GPIO_CHANGING);
+    gpio_toggle(GPIO, 0x0080u);
+    gpio_toggle(GPIO, 0x0080u);
+    for (volatile int i = 0; i < 20; ++i) {
+    }
+    check("a short pulse", rises, 0u);
+    gpio_toggle(GPIO, 0x0080u);
+    check("a driven pin at once", gpio_read_unfiltered(GPIO) & 0x8080u, 0x8080u);
+    wait_for(&rises, 0x8000u);
+    check("interrupt of a filtered rise", rises, 0x8000u);
+    rises = 0u;
+    gpio_toggle(GPIO, 0x0080u);
+    wait_for(&rises, 0x8000u);
+    check("interrupt of a filtered fall", rises, 0x8000u);
+    check("nobody else drives", gpio_disputed(GPIO), 0u);
+    gpio_disable_interrupts(GPIO, 0x8000u);
+    gpio_set_filters(GPIO, 0x8000u, false);
     gpio_clear(GPIO, 0x00FFu);
 }
 
