@@ -104,7 +104,12 @@ module tb;
                 ahb_expect(PEND, (32'd1 << n) & 32'hFF3C, "a falling edge alone");
                 ahb_write(PEND, 32'hFFFF);
             end
-            // Levels know nothing of edges.
+            // Levels know nothing of edges, and leave none behind.
+            ahb_write(INTEDGE, 0);
+            pins = 16'hFFFF; cycles(4);
+            pins = 16'h0000; cycles(4);
+            ahb_write(INTEDGE, 32'hFFFF);
+            ahb_expect(PEND, 0, "no edges from before");
             ahb_write(INTEDGE, 0);
             ahb_expect(PEND, 32'hFF00, "low pins by level");
             ahb_transfer(INTBOTH + 1, 1'b1, 3'd0, 32'h55555555);

@@ -173,16 +173,20 @@ module tb;
     reg  [31:0] sent [0:63];
     reg  [31:0] form;
     time        last_rise;
-    integer     short_idles = 0, late_first = 0, late_end = 0;
+    integer     short_idles = 0, late_first = 0, late_end = 0, early_ends = 0, ends = 0;
     reg         watching = 1'b0;
     always @(negedge nss) if (watching && rose > last_rise && ($time - rose) / 10 < idle_time + 2) short_idles = short_idles + 1;
     always @(posedge nss) if (watching) begin
         if ((first_edge - fell) / 10 != setup_time + 1 + half) late_first = late_first + 1;
         if (($time - last_edge) / 10 != half + hold_time + 1) late_end = late_end + 1;
     end
+    always @(posedge irq) begin
+        ends = ends + 1;
+        if (taken != words * bits) early_ends = early_ends + 1;
+    end
     task words_of_any_form;
         begin
-            form = pick(0, 7) | FIFO;
+            form = pick(0, 7) | FIFO | IE;
             half = pick(0, 3) == 3 ? pick(3, 6) : pick(0, 2) + 1;
             kind = pick(0, 2);
             words = pick(1, DEPTH);
@@ -196,12 +200,15 @@ module tb;
             selections = kind == 0 ? 1 : 0;
             last_rise = $time; rose = 0;
             watching = kind != 0;
+            ends = 0; early_ends = 0;
             for (w = 0; w < words; w = w + 1) begin
                 sent[w] = $random(seed);
                 apb_write(DATA, sent[w]);
             end
             until_rest;
             check32(rd, DONE, "words are sent");
+            check(ends > 0 && irq, "the end interrupts");
+            check(kind == 0 || (ends == 1 && early_ends == 0), "no end between words");
             apb_write(STATUS, DONE);
             if (kind == 0)
                 apb_write(SELECT, 0);
@@ -311,7 +318,13 @@ module tb;
             apb_write(DATA, 32'h89ABCDEF);
             until_rest;
             check32(taken, WIDTH, "the longest word");
-            apb_expect(DATA, low_bits(reply[0], WIDTH), "the longest word from MISO");
+            apb_write(FORMAT, WIDTH);
+            apb_write(DATA, 32'h89ABCDEF);
+            until_rest;
+            check32(taken, 2 * WIDTH, "the longest word by a bit");
+            apb_read(DATA);
+            check32(rd, low_bits(reply[0], WIDTH), "the longest word from MISO");
+            apb_expect(DATA, low_bits(reply[1], WIDTH), "the other one");
             apb_write(STATUS, DONE);
             // A word that is written in parts has zeros elsewhere; the upper part alone sends none.
             slave_from(0, WIDTH);
@@ -414,6 +427,60 @@ module tb;
         end
     endtask
 
+    // Samples that come after the last edge: the end waits for them, and so does a word that follows at any time.
+    integer later;
+    task late_ends;
+        for (later = 0; later < 30; later = later + 1) begin
+            form = FIFO | IE | 2;
+            apb_write(CTRL, form);
+            apb_write(DIV, 0);
+            apb_write(SELECT, 1);
+            apb_write(FORMAT, 32'h307);
+            slave_from(form, 8);
+            answers_after = 34;
+            apb_write(DATA, 8'h35);
+            cycles(later);
+            apb_write(DATA, 8'hCA);
+            paddr = LEVEL;
+            cycles(4);
+            while (taken < 16) cycles(1);
+            while (!irq) cycles(1);
+            check32(prdata, 32'h200 | TXLOW | RXREADY, "both words are there at the end");
+            apb_expect(DATA, reply[0] & 32'hFF, "the first late word");
+            apb_expect(DATA, reply[1] & 32'hFF, "the second late word");
+            check32({heard[0][7:0], heard[1][7:0]}, 32'h35CA, "both were heard");
+            apb_write(SELECT, 0);
+            apb_write(STATUS, DONE);
+            answers_after = 2;
+            // Ended at any time, nothing comes any more.
+            apb_write(FORMAT, 7);
+            apb_write(SELECT, 2);
+            apb_write(CTRL, FIFO);
+            slave_from(0, 8);
+            apb_write(DATA, 8'h11);
+            cycles(later);
+            apb_write(CLEAR, 1);
+            paddr = LEVEL;
+            #1 value = prdata[15:8];
+            cycles(10);
+            check32(prdata[15:8], value, "nothing comes after the end");
+            apb_write(CLEAR, 2);
+            apb_write(STATUS, DONE);
+            // Read at any time while a word comes that has no room: it is either kept or told of.
+            for (w = 0; w < DEPTH; w = w + 1) begin apb_write(DATA, w); cycles(24); end
+            until_rest;
+            apb_write(STATUS, DONE);
+            apb_write(DATA, 8'h99);
+            cycles(later);
+            apb_read(DATA);
+            until_rest;
+            value = rd[3];
+            apb_expect(LEVEL, ((DEPTH - value) << 8) | TXLOW | RXREADY, "kept, or told to be lost");
+            apb_write(CLEAR, 2);
+            apb_write(STATUS, DONE | OVERRUN);
+        end
+    endtask
+
     task back_to_itself;
         for (round = 0; round < 8; round = round + 1) begin
             form = FIFO | LOOP | round;
@@ -458,6 +525,7 @@ module tb;
         levels_and_flags;
         ends_at_once;
         late_answers;
+        late_ends;
         back_to_itself;
         finish;
     end

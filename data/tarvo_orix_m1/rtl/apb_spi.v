@@ -123,7 +123,7 @@ module apb_spi #(
                 lost <= 1'b1;
             if (push)
                 complete <= 1'b0;
-            else if (was_busy & ~running & ~stop)
+            else if (was_busy & ~running)
                 complete <= 1'b1;
             if (arrived & rx_full & ~read_data)
                 overrun <= 1'b1;
