@@ -518,7 +518,7 @@ module tb;
         apb_expect(ID, (`LOG_WIDTH << 24) | (`LOG_DEPTH << 16) | 32'h208, "ID");
         check(nss === 1'b1 && sclk === 1'b0 && irq === 1'b0, "idle pins");
         bytes_one_by_one;
-        for (round = 0; round < 100; round = round + 1) words_of_any_form;
+        for (round = 0; round < 64; round = round + 1) words_of_any_form;
         check(short_idles == 0, "time between selections");
         check(late_first == 0, "time before the first edge");
         check(late_end == 0, "time behind the last edge");
