@@ -31,6 +31,27 @@ static bool spi_works(spi_mode mode, bool lowest_bit_first)
     return true;
 }
 
+/* Words of 12 bits through the FIFOs at half the clock, in one selection; on the board, and within
+ * the block, where nobody is selected. */
+static bool spi_bursts_work(bool inside)
+{
+    static const uint32_t sent[] = {0x801u, 0x7FEu, 0x555u, 0xAAAu, 0x0F0u, 0xC3Cu};
+    uint32_t received[sizeof sent / sizeof *sent];
+    uint32_t i;
+
+    if (spi_init(SPI, SystemCoreClock, SystemCoreClock / 2u, SPI_MODE_1, false) != SPI_OK ||
+        spi_set_format(SPI, 12u, 0u) != SPI_OK || spi_set_loopback(SPI, inside) != SPI_OK ||
+        spi_set_select(SPI, SPI_SELECT_BURST, 2u, 2u, 0u) != SPI_OK)
+        return false;
+    if (spi_transfer_words(SPI, sent, received, sizeof sent / sizeof *sent, 1000u) != SPI_OK)
+        return false;
+    for (i = 0; i < sizeof sent / sizeof *sent; ++i) {
+        if (received[i] != sent[i])
+            return false;
+    }
+    return spi_take_errors(SPI) == 0u;
+}
+
 static bool uart_works(void)
 {
     uint8_t byte;
@@ -91,7 +112,8 @@ int main(void)
 {
     if (uart_init(UART0, SystemCoreClock, 3125000u) != UART_OK)
         return 1;
-    if (!spi_works(SPI_MODE_0, false) || !spi_works(SPI_MODE_3, true))
+    if (!spi_works(SPI_MODE_0, false) || !spi_works(SPI_MODE_3, true) || !spi_bursts_work(false) ||
+        !spi_bursts_work(true))
         return 2;
     print("SPI\n");
     if (!uart_works() || !uart_hears_itself())

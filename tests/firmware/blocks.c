@@ -1,6 +1,7 @@
-/* Reads and writes each block of the sensor node by the exported header and drivers, on the board of board.v. It runs three
- * times: after power-on, after a reset that it requests itself, and after one by the watchdog. What differs from what is
- * expected is said by semihosting, and how many did is the exit status. */
+/* Reads and writes each block of the sensor node by the exported header and drivers, on the board
+ * of board.v. It runs three times: after power-on, after a reset that it requests itself, and after
+ * one by the watchdog. What differs from what is expected is said by semihosting, and how many did
+ * is the exit status. */
 #include "tarvo_orix_m1.h"
 
 #include "gpio.h"
@@ -172,8 +173,16 @@ static volatile uint32_t spi_bytes;
 void SPI_IRQHandler(void)
 {
     uint8_t byte = 0u;
-    if (spi_take(SPI, &byte))
-        spi_bytes = spi_bytes << 8 | byte;
+    uint32_t word = 0u;
+    uint32_t words = 0u;
+    if ((SPI->CTRL & SPI_CTRL_FIFO_Msk) == 0u) {
+        if (spi_take(SPI, &byte))
+            spi_bytes = spi_bytes << 8 | byte;
+        return;
+    }
+    while (spi_get(SPI, &word))
+        words = words << 8 | word;
+    spi_bytes = words;
 }
 
 /* The board's inputs show pins 0 to 3; a handler takes its one back. */
@@ -252,6 +261,28 @@ static void use_gpio(void)
     wait_for(&rises, 0x8000u);
     check("interrupt of its fall", rises, 0x8000u);
     gpio_disable_interrupts(GPIO, 0x8000u);
+    /* Both edges, through a filter, and a pulse that it drops. */
+    check("gpio_set_filter_interval", gpio_set_filter_interval(GPIO, 40u), 1u);
+    gpio_set_filters(GPIO, 0x8000u, true);
+    check("a filter's pin", gpio_read(GPIO) & 0x8000u, 0u);
+    rises = 0u;
+    gpio_enable_interrupts(GPIO, 0x8000u, GPIO_CHANGING);
+    gpio_toggle(GPIO, 0x0080u);
+    gpio_toggle(GPIO, 0x0080u);
+    for (volatile int i = 0; i < 20; ++i) {
+    }
+    check("a short pulse", rises, 0u);
+    gpio_toggle(GPIO, 0x0080u);
+    check("a driven pin at once", gpio_read_unfiltered(GPIO) & 0x8080u, 0x8080u);
+    wait_for(&rises, 0x8000u);
+    check("interrupt of a filtered rise", rises, 0x8000u);
+    rises = 0u;
+    gpio_toggle(GPIO, 0x0080u);
+    wait_for(&rises, 0x8000u);
+    check("interrupt of a filtered fall", rises, 0x8000u);
+    check("nobody else drives", gpio_disputed(GPIO), 0u);
+    gpio_disable_interrupts(GPIO, 0x8000u);
+    gpio_set_filters(GPIO, 0x8000u, false);
     gpio_clear(GPIO, 0x00FFu);
 }
 
@@ -412,6 +443,27 @@ static void use_spi(void)
     wait_for(&spi_bytes, 0xC3u);
     check("byte by interrupt", spi_bytes, 0xC3u);
     spi_select(SPI, false);
+    /* Five words of 32 bits through the FIFOs, selected on their own, more than a register has. */
+    static const uint32_t sent_words[5] = {0x80000001u, 0x12345678u, 0u, 0xFFFFFFFFu, 0xCAFEF00Du};
+    static uint32_t received_words[5];
+    spi_enable_interrupt(SPI, false);
+    check("spi_set_format", spi_set_format(SPI, 32u, 0u), SPI_OK);
+    check("spi_set_select", spi_set_select(SPI, SPI_SELECT_WORD, 4u, 4u, 4u), SPI_OK);
+    check("spi_transfer_words", spi_transfer_words(SPI, sent_words, received_words, 5u, POLLS),
+          SPI_OK);
+    for (uint32_t i = 0u; i < 5u; ++i)
+        check("inverted word", received_words[i], ~sent_words[i]);
+    /* The FIFO asks for more by its interrupt, at half the clock. */
+    check("spi_init, fast", spi_init(SPI, CLOCK, CLOCK / 2u, SPI_MODE_0, false), SPI_OK);
+    check("spi_set_select, burst", spi_set_select(SPI, SPI_SELECT_BURST, 0u, 0u, 0u), SPI_OK);
+    check("spi_set_thresholds", spi_set_thresholds(SPI, 0u, 3u), SPI_OK);
+    check("spi_use_fifos", spi_use_fifos(SPI, true), SPI_OK);
+    spi_enable_interrupts(SPI, SPI_INTEN_RXREADY_Msk);
+    check("spi_put", spi_put(SPI, 0x11u) && spi_put(SPI, 0x22u) && spi_put(SPI, 0x33u), 1u);
+    wait_for(&spi_bytes, 0xEEDDCCu);
+    check("words by interrupt", spi_bytes, 0xEEDDCCu);
+    check("errors of SPI", spi_take_errors(SPI), 0u);
+    check("spi_use_fifos, off", spi_use_fifos(SPI, false), SPI_OK);
 }
 
 static void use_i2c(void)

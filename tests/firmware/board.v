@@ -120,14 +120,17 @@ module board;
     end
 
     // ---- SPI: bits at rising edges while it is selected
-    reg [31:0] spi_bits = 32'd0;
-    integer    spi_count = 0, spi_slow = 0;
+    reg [215:0] spi_bits = 216'd0;
+    integer    spi_count = 0, spi_slow = 0, spi_selections = 0;
     time       spi_edge = 0;
+    always @(negedge nss) if (power_good) spi_selections = spi_selections + 1;
     always @(posedge sclk)
         if (nss === 1'b0) begin
-            if (spi_count % 8 != 0 && $time - spi_edge != 160) spi_slow = spi_slow + 1;
+            if (spi_count < 32 ? spi_count % 8 != 0 && $time - spi_edge != 160 :
+                spi_count < 192 ? spi_count % 32 != 0 && $time - spi_edge != 160 :
+                spi_count % 8 != 0 && $time - spi_edge != 40) spi_slow = spi_slow + 1;
             spi_edge = $time;
-            spi_bits = {spi_bits[30:0], mosi}; spi_count = spi_count + 1;
+            spi_bits = {spi_bits[214:0], mosi}; spi_count = spi_count + 1;
         end
 
     // ---- I2C: sixteen bytes at 0x2D; the first byte that is written is the place
@@ -202,8 +205,10 @@ module board;
         expect_that(line0 == "sensor" && bytes0 == 6, "the six bytes of UART0");
         expect_that(words0 == {9'h155, 9'h0AA, 9'h101} && wide0 == 3 && breaks0 == 1, "nine bits and the break of UART0");
         expect_that(line1[7:0] == 8'h5A && bytes1 == 1, "the byte of UART1");
-        expect_that(spi_bits == 32'h960F313C && spi_count == 32, "the four bytes of SPI");
-        expect_that(spi_slow == 0, "eight clock cycles a bit of SPI");
+        expect_that(spi_bits == {32'h960F313C, 160'h80000001_12345678_00000000_FFFFFFFF_CAFEF00D, 24'h112233} && spi_count == 216,
+                    "the four bytes, five words and three bytes of SPI");
+        expect_that(spi_slow == 0, "eight clock cycles a bit of SPI, and then two");
+        expect_that(spi_selections >= 7 && spi_selections <= 9, "a selection of the bytes, one of each word, and further ones");
         expect_that(nss === 1'b1, "a device on SPI that is left");
         expect_that(i2c_memory[4] === 8'hE7 && i2c_memory[5] === 8'h18, "the bytes of the I2C memory");
         expect_that(i2c_stops == 4, "four stops on I2C");

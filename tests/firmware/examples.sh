@@ -147,16 +147,19 @@ echo apb_uart.v s/\(ctrl\[3\] & rx_reached\)/1'b0/
 echo apb_uart.v s/(assign timed_out = ).*;/\11'b0;/
 loopback apb_uart.v s/(wire rx +=) loop \? tx_line :/\1/
 loopback apb_uart.v s/PWDATA\[8\] \& PSTRB\[1\]/1'b0/
-blink ahb_gpio.v s/(4'd0: +r = level)/\1 | 16'h0800/
-blink ahb_gpio.v s/gpio_out +<= gpio_out \| w/gpio_out <= gpio_out | (w \& 16'hFFBF)/
+blink ahb_gpio.v s/(4'd0: +r = \{4'd0, level)/\1 | 16'h0800/
+blink ahb_gpio.v s/\(HWDATA\[15:0\] \& HWDATA\[31:16\]\)/(HWDATA[15:0] \& HWDATA[31:16] \& 16'hFFBF)/
+blink ahb_gpio.v s/(steady\[k\] <= pin\[k\])/\1 | (k == 10)/
 blink apb_timer.v s/(assign irq += )pend/\11'b0/
 clock apb_timer.v s/value - 24'd1/(value - 24'd1) \& 24'hFFFFDF/
 clock apb_rtc.v s/(wire \[31:0\] next = )(seconds [+] 32'd1)/\1(\2) \& 32'hFFFFFFFD/
 clock apb_rtc.v s/part [+] 24'd1/(part + 24'd1) | 24'h000004/
 watchdog apb_watchdog.v s/reset_req <= expire/reset_req <= 1'b0/
 watchdog apb_watchdog.v s/(assign nmi += )pend/\11'b0/
-loopback apb_spi.v s/\{24'd0, rx_data\}/{24'd0, rx_data | 8'h10}/
-loopback spi_engine.v s/\{shift_in\[6:0\], miso\}/{shift_in[6:0], 1'b0}/
+loopback apb_spi.v s/= rx_oldest/= rx_oldest | 8'h10/
+loopback apb_spi.v s/top_bit <= top_written/top_bit <= top_written \& 6'h3E/
+loopback spi_word_shifter.v s/(loop \? mosi : )miso/\11'b0/
+loopback spi_word_shifter.v s/(loop \? )mosi/\11'b1/
 timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
 timers apb_dual_timer.v s/oneshot, ie, en\} <= PWDATA\[2:0\]/oneshot, ie, en} <= PWDATA[2:0] \& 3'b011/
 i2c-eeprom apb_i2c.v s/rxdata <= shift_in/rxdata <= shift_in | 8'h08/

@@ -325,7 +325,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
 {
     QTest::addColumn<QString>("sources");
     QTest::newRow("uart") << "apb_uart sync_fifo cdc_synchronizer";
-    QTest::newRow("spi") << "apb_spi spi_engine";
+    QTest::newRow("spi") << "apb_spi spi_word_shifter sync_fifo";
     QTest::newRow("i2c") << "apb_i2c";
     QTest::newRow("spiflash") << "ahb_spi_flash spi_flash_shifter sync_fifo";
     QTest::newRow("sd") << "apb_sdcard sd_sequencer sd_shifter cdc_synchronizer";
@@ -333,7 +333,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::newRow("dtimer") << "apb_dual_timer";
     QTest::newRow("wdog") << "apb_watchdog";
     QTest::newRow("rtc") << "apb_rtc";
-    QTest::newRow("gpio") << "ahb_gpio";
+    QTest::newRow("gpio") << "ahb_gpio cdc_synchronizer";
 }
 
 void tst_DriversOnRtl::worksOnItsBlock()

@@ -2,8 +2,8 @@
 
 #include "far.h"
 
-enum { INPUTS };
-enum { IRQ, OUT, OUTEN, RAISED };
+enum { INPUTS, PULSE, HELD };
+enum { IRQ, OUT, OUTEN, RAISED, CHANGES };
 
 static void outputs(void)
 {
@@ -20,7 +20,16 @@ static void outputs(void)
     EQUAL(FAR(OUT), 0x0031u);
     gpio_write(GPIO, 0x00F0u, 0xFFFFFF5Fu);
     EQUAL(FAR(OUT), 0x0051u);
-    gpio_toggle(GPIO, 0x00F1u);
+    {
+        const uint32_t changes = FAR(CHANGES);
+        gpio_write(GPIO, 0x00F0u, 0x00A0u);
+        EQUAL(FAR(CHANGES), changes + 1u); /* all at the same time */
+        EQUAL(FAR(OUT), 0x00A1u);
+        gpio_write(GPIO, 0xFFFF00F0u, 0xFFFFFF5Fu);
+        EQUAL(FAR(CHANGES), changes + 2u);
+        EQUAL(FAR(OUT), 0x0051u);
+    }
+    gpio_toggle(GPIO, 0xFFFF00F1u);
     EQUAL(FAR(OUT), 0x00A0u);
     EQUAL(gpio_outputs(GPIO), 0x00A0u);
     gpio_set_direction(GPIO, 0x0011u, false);
@@ -77,8 +86,77 @@ static void interrupts(void)
     EQUAL(GPIO->INTEN, 0u);
 }
 
+static void edges(void)
+{
+    FAR(INPUTS) = 0u;
+    gpio_enable_interrupts(GPIO, 0x0040u, GPIO_CHANGING);
+    EQUAL(FAR(IRQ), 0u);
+    FAR(INPUTS) = 0x0040u;
+    EQUAL(gpio_pending(GPIO), 0x0040u);
+    gpio_acknowledge(GPIO, 0x0040u);
+    EQUAL(FAR(IRQ), 0u);
+    FAR(INPUTS) = 0u;
+    EQUAL(gpio_pending(GPIO), 0x0040u);
+    gpio_enable_interrupts(GPIO, 0x0040u, GPIO_RISING); /* one of them alone again */
+    EQUAL(FAR(IRQ), 0u);
+    FAR(INPUTS) = 0x0040u;
+    EQUAL(gpio_pending(GPIO), 0x0040u);
+    gpio_acknowledge(GPIO, 0x0040u);
+    FAR(INPUTS) = 0u;
+    EQUAL(gpio_pending(GPIO), 0u);
+    gpio_disable_interrupts(GPIO, 0xFFFFu);
+}
+
+static void filters(void)
+{
+    EQUAL(gpio_set_filter_interval(GPIO, 0u), false);
+    EQUAL(gpio_set_filter_interval(GPIO, 0x100001u), false);
+    EQUAL(GPIO->FILTERLEN, GPIO_FILTERLEN_RESET);
+    EQUAL(gpio_set_filter_interval(GPIO, 0x100000u), true);
+    EQUAL(GPIO->FILTERLEN, 0xFFFFFu);
+    EQUAL(gpio_set_filter_interval(GPIO, 10u), true);
+    gpio_set_filters(GPIO, 0xFFFF0300u, true);
+    gpio_set_filters(GPIO, 0x0200u, false);
+    EQUAL(GPIO->FILTER, 0x0100u);
+    IDLE(40u);
+    gpio_enable_interrupts(GPIO, 0x0300u, GPIO_RISING);
+    FAR(PULSE) = 20u; /* at all pins */
+    IDLE(40u);
+    EQUAL(gpio_pending(GPIO), 0x0200u);
+    gpio_acknowledge(GPIO, 0x0300u);
+    FAR(PULSE) = 30u;
+    IDLE(40u);
+    EQUAL(gpio_pending(GPIO), 0x0300u);
+    gpio_disable_interrupts(GPIO, 0x0300u);
+    FAR(INPUTS) = 0xFFFFu;
+    EQUAL(gpio_read(GPIO), 0xFEFFu);
+    EQUAL(gpio_read_unfiltered(GPIO), 0xFFFFu);
+    IDLE(40u);
+    EQUAL(gpio_read(GPIO), 0xFFFFu);
+    gpio_set_filters(GPIO, 0xFFFFu, false);
+    FAR(INPUTS) = 0u;
+}
+
+static void disputes(void)
+{
+    gpio_write(GPIO, 0xFFFFu, 0x00FFu);
+    gpio_set_direction(GPIO, 0x0FFFu, true);
+    IDLE(4u);
+    EQUAL(gpio_disputed(GPIO), 0u);
+    FAR(HELD) = 0x8180u; /* high from outside, whatever drives */
+    EQUAL(gpio_read_unfiltered(GPIO), 0x81FFu);
+    EQUAL(gpio_read(GPIO), 0x81FFu);
+    EQUAL(gpio_disputed(GPIO), 0x0100u);
+    FAR(HELD) = 0u;
+    EQUAL(gpio_disputed(GPIO), 0u);
+    gpio_set_direction(GPIO, 0xFFFFu, false);
+}
+
 void test(void)
 {
     outputs();
     interrupts();
+    edges();
+    filters();
+    disputes();
 }
