@@ -634,6 +634,7 @@ QString simulate(const QString &bench, const QStringList &sources)
                               QStringLiteral("-I" RTL_TESTS_DIR), QStringLiteral("-I" RTL_DIR),
                               QStringLiteral("-o"), QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
+                              QStringLiteral("-y" RTL_DIR),
     if (!process.waitForFinished(120000) || process.exitCode() != 0)
         return process.errorString() + u'\n' + QString::fromUtf8(process.readAll());
     process.start(QStringLiteral("vvp"), {QStringLiteral("-n"), QStringLiteral("bench")});

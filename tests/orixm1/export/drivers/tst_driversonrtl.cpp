@@ -329,7 +329,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::newRow("i2c") << "apb_i2c";
     QTest::newRow("spiflash") << "ahb_spi_flash spi_engine";
     QTest::newRow("sd") << "apb_sdcard spi_engine";
-    QTest::newRow("timer") << "apb_timer";
+    QTest::newRow("timer") << "apb_timer cdc_synchronizer";
     QTest::newRow("dtimer") << "apb_dual_timer";
     QTest::newRow("wdog") << "apb_watchdog";
     QTest::newRow("rtc") << "apb_rtc";
