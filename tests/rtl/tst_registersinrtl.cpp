@@ -45,7 +45,8 @@ OuterPins outerPins(const QString &module)
          {QStringLiteral(".sd_spiclk(1'b0), .sd_datain(1'b0), .sd_checkin(1'b1)"),
           QStringLiteral(".sd_spiclk(act[2]), .sd_datain(act[4]), .sd_checkin(1'b0)")}},
         {QStringLiteral("apb_dual_timer"), {}},
-        {QStringLiteral("apb_watchdog"), {}}};
+        {QStringLiteral("apb_watchdog"),
+         {QStringLiteral(".halted(1'b0)"), QStringLiteral(".halted(1'b0)")}}};
     const QString unknown = QStringLiteral("unknown module");
     return pins.value(module, {unknown, unknown});
 }
