@@ -146,7 +146,7 @@ module tb;
         endcase
     endfunction
 
-    integer n;
+    integer n, before;
     reg [31:0] seen_addr, seen_data;
     reg [16:1] seen_psel;
     reg [6:1]  seen_hsel;
@@ -320,6 +320,8 @@ module tb;
         extint = 4'd0;
         cycles(3);
         // Watchdog: interrupt, then a reset that clears the peripherals but not the power-on domain.
+        ahb_write(RTC + 8, 1);
+        ahb_transfer(RTC, 1'b0, 3'd2, 32'd0); before = rd;
         ahb_write(WDOG, 50); ahb_write(WDOG + 8, 3);
         cycles(70);
         check(dut.u_core.NMI === 1'b1 && dut.u_core.SYSRESETn === 1'b1, "watchdog interrupt");
@@ -329,6 +331,8 @@ module tb;
         cycles(2);
         check(dut.u_core.NMI === 1'b0, "watchdog is off again");
         ahb_expect(GPIO + 8, 0, "GPIO was reset");
+        ahb_transfer(RTC, 1'b0, 3'd2, 32'd0);
+        check(rd > before && rd < before + 20, "the time has gone on");
         check(gpio[7:0] === 8'hzz, "and its pins are released");
         ahb_write(GPIO + 8, 1);
         dut.u_core.SYSRESETREQ = 1'b1; cycles(1); dut.u_core.SYSRESETREQ = 1'b0;

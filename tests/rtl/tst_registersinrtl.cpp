@@ -35,7 +35,8 @@ OuterPins outerPins(const QString &module)
         {QStringLiteral("apb_timer"),
          {QStringLiteral(".extin(1'b0)"), QStringLiteral(".extin(act[2])")}},
         {QStringLiteral("apb_rtc"),
-         {QStringLiteral(".rtc_clk(1'b0)"), QStringLiteral(".rtc_clk(act[2])")}},
+         {QStringLiteral(".PORESETn(rstn), .rtc_clk(1'b0)"),
+          QStringLiteral(".PORESETn(rstn), .rtc_clk(act[2])")}},
         {QStringLiteral("apb_i2c"),
          {QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)"),
           QStringLiteral(".scl_in(1'b1), .sda_in(act[4])")}},
@@ -630,12 +631,13 @@ QString simulate(const QString &bench, const QStringList &sources)
     QProcess process;
     process.setWorkingDirectory(dir.path());
     process.setProcessChannelMode(QProcess::MergedChannels);
+    // What the modules are made of is found by its name.
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
+                              QStringLiteral("-y" RTL_DIR),
                               QStringLiteral("-I" RTL_TESTS_DIR), QStringLiteral("-I" RTL_DIR),
                               QStringLiteral("-o"), QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
-                              QStringLiteral("-y" RTL_DIR),
     if (!process.waitForFinished(120000) || process.exitCode() != 0)
         return process.errorString() + u'\n' + QString::fromUtf8(process.readAll());
     process.start(QStringLiteral("vvp"), {QStringLiteral("-n"), QStringLiteral("bench")});

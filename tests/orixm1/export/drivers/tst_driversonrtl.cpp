@@ -332,7 +332,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::newRow("timer") << "apb_timer cdc_synchronizer";
     QTest::newRow("dtimer") << "apb_dual_timer";
     QTest::newRow("wdog") << "apb_watchdog";
-    QTest::newRow("rtc") << "apb_rtc";
+    QTest::newRow("rtc") << "apb_rtc cdc_synchronizer";
     QTest::newRow("gpio") << "ahb_gpio";
 }
 
