@@ -634,9 +634,9 @@ QString simulate(const QString &bench, const QStringList &sources)
     // What the modules are made of is found by its name.
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
-                              QStringLiteral("-y" RTL_DIR),
-                              QStringLiteral("-I" RTL_TESTS_DIR), QStringLiteral("-I" RTL_DIR),
-                              QStringLiteral("-o"), QStringLiteral("bench")} +
+                              QStringLiteral("-y" RTL_DIR), QStringLiteral("-I" RTL_TESTS_DIR),
+                              QStringLiteral("-I" RTL_DIR), QStringLiteral("-o"),
+                              QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
     if (!process.waitForFinished(120000) || process.exitCode() != 0)
         return process.errorString() + u'\n' + QString::fromUtf8(process.readAll());
