@@ -146,7 +146,7 @@ echo apb_uart.v s/rx_buffer <= rx_shift/rx_buffer <= rx_shift | 8'h20/
 echo apb_uart.v s/\(ctrl\[3\] & rx_full\)/1'b0/
 blink ahb_gpio.v s/(4'd0: +r = level)/\1 | 16'h0800/
 blink ahb_gpio.v s/gpio_out +<= gpio_out \| w/gpio_out <= gpio_out | (w \& 16'hFFBF)/
-blink apb_timer.v s/(assign irq += )pend/\11'b0/
+blink apb_timer.v s/(assign irq += )\(pend\[0\]/\1(1'b0/
 clock apb_timer.v s/value - 24'd1/(value - 24'd1) \& 24'hFFFFDF/
 clock apb_rtc.v s/(wire \[31:0\] next = )(seconds [+] 32'd1)/\1(\2) \& 32'hFFFFFFFD/
 clock apb_rtc.v s/part [+] 24'd1/(part + 24'd1) | 24'h000004/
