@@ -196,6 +196,15 @@ module tb;
 `endif
         reset;
         comparing = 1'b1;
+        // A write in each clock cycle around the end of a single period.
+        for (n = 0; n < 64; n = n + 1) begin
+            apb_write(CTRL, 0); apb_write(VALUE, 9); apb_write(RELOAD, 6); apb_write(PEND, 3);
+            apb_write(COMPARE, n[4] ? 0 : 4); apb_write(CTRL, 32'h0F);
+            cycles(n & 15);
+            if (n[5]) apb_write(CTRL, 32'h0F); else if (n[4]) apb_write(PEND, 3); else apb_write(VALUE, 4);
+            compare_with_model(VALUE); cycles(2);
+            compare_with_model(PEND); compare_with_model(CTRL);
+        end
         for (n = 0; n < 6000; n = n + 1) begin
             random_settings;
             compare_with_model((($random & 1) * 32) + (($random & 7) * 4));

@@ -252,6 +252,17 @@ module tb;
         // Random settings.
         reset;
         comparing = 1'b1; toggling = 1'b1;
+        // A write in each clock cycle around the end of a single period.
+        toggling = 1'b0; extin = 1'b0;
+        for (n = 0; n < 64; n = n + 1) begin
+            apb_write(CTRL, 0); apb_write(VALUE, 9); apb_write(RELOAD, 6); apb_write(PEND, 15);
+            apb_write(COMPARE, n[4] ? 0 : 4); apb_write(CTRL, 32'h33);
+            cycles(n & 15);
+            if (n[5]) apb_write(CTRL, 32'h33); else if (n[4]) apb_write(PEND, 15); else apb_write(VALUE, 4);
+            compare_with_model(VALUE); cycles(2);
+            compare_with_model(PEND); compare_with_model(CTRL);
+        end
+        toggling = 1'b1;
         for (n = 0; n < 6000; n = n + 1) begin
             random_settings;
             compare_with_model(($random & 7) * 4);
