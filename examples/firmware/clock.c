@@ -9,14 +9,15 @@
 enum { source_hz = 128, second = 16 * source_hz /* clock cycles */, tolerance = 64 };
 
 static const uint32_t noon = 12u * 3600u - 2u;
-static volatile uint32_t seconds, measured;
+static volatile uint32_t seconds, measured, left;
 static volatile bool is_over;
 
 void RTC_IRQHandler(void)
 {
     if (rtc_take_second(RTC)) {
-        measured = TIMER_COUNTS_MAX - 1u - timer_left(TIMER0);
-        (void)timer_start(TIMER0, TIMER_COUNTS_MAX, TIMER_CLOCK, false);
+        const uint32_t now = timer_left(TIMER0);
+        measured = (left - now) % TIMER_COUNTS_MAX;
+        left = now;
         ++seconds;
     }
     if (rtc_take_alarm(RTC))

@@ -409,6 +409,31 @@ static void use_timer(void)
     check("counts while it is high", timer_left(TIMER0) < start, 1u);
     gpio_clear(GPIO, 0x10u);
     timer_stop(TIMER0);
+    /* A compare value, and a single period with a prescaler. */
+    check("timer_set_compare", timer_set_compare(TIMER0, 20u, false), true);
+    check("timer_start_scaled", timer_start_scaled(TIMER0, 60u, 2u, TIMER_CLOCK, TIMER_ONCE, false),
+          true);
+    check("no match yet", timer_take_match(TIMER0), false);
+    check("a single period", timer_wait(TIMER0, POLLS), true);
+    check("is over", timer_is_running(TIMER0), false);
+    check("match", timer_take_match(TIMER0), true);
+    /* The length of a pulse of pin 4. */
+    uint32_t rise = 0u, fall = 0u;
+    bool is_lost = true;
+    timer_stop(TIMER0);
+    timer_set_capture(TIMER0, TIMER_BOTH, false);
+    check("timer_start, capture", timer_start(TIMER0, TIMER_COUNTS_MAX, TIMER_CLOCK, false), true);
+    gpio_set(GPIO, 0x10u);
+    (void)gpio_read(GPIO);
+    check("rise", timer_take_capture(TIMER0, &rise, &is_lost), true);
+    check("nothing lost", is_lost, false);
+    for (volatile uint32_t i = 0u; i < 20u; ++i) {
+    }
+    gpio_clear(GPIO, 0x10u);
+    (void)gpio_read(GPIO);
+    check("fall", timer_take_capture(TIMER0, &fall, &is_lost), true);
+    check("length of the pulse", rise - fall > 60u && rise - fall < 2000u, 1u);
+    timer_stop(TIMER0);
 }
 
 static void use_rtc(void)
@@ -426,6 +451,30 @@ static void use_rtc(void)
     check("another second", rtc_wait_second(RTC, POLLS) && rtc_wait_second(RTC, POLLS), 1u);
     check("no other alarm", rtc_take_alarm(RTC), false);
     rtc_stop(RTC);
+    /* Ticks between the seconds, and an alarm each third second. */
+    uint32_t cycles = 9u;
+    check("rtc_start, ticks", rtc_start(RTC, 8u), true);
+    rtc_set_fine(RTC, 2000u, 7u);
+    check("begins late in a second", rtc_wait_second(RTC, POLLS), true);
+    check("the next one", rtc_get_fine(RTC, &cycles), 2001u);
+    check("has begun", cycles < 8u, 1u);
+    check("rtc_set_tick", rtc_set_tick(RTC, 2u, false), true);
+    for (uint32_t i = 0u; i < POLLS && !rtc_take_tick(RTC); ++i) {
+    }
+    for (uint32_t i = 0u; i < POLLS && !rtc_take_tick(RTC); ++i) {
+    }
+    check("ticks", rtc_get(RTC) <= 2002u, 1u);
+    check("rtc_calibrate", rtc_calibrate(RTC, 1000), true);
+    check("rtc_set_alarm_every", rtc_set_alarm_every(RTC, 2000u, 3u, false), true);
+    check("one that is past", rtc_take_alarm(RTC), true);
+    const uint32_t next = RTC->ALARM;
+    check("the next one", (next - 2000u) % 3u, 0u);
+    for (uint32_t i = 0u; i < POLLS && !rtc_take_alarm(RTC); ++i) {
+    }
+    check("at its time", rtc_get(RTC), next);
+    /* The clock goes on through the resets that follow. */
+    check("rtc_start, resets", rtc_start(RTC, 3u), true);
+    rtc_set(RTC, 3000u);
 }
 
 static void use_spi(void)
@@ -536,7 +585,12 @@ static void use_watchdog(void)
     check("watchdog's interrupt", warnings, 1u);
     check("kicked", wdog_is_pending(WDOG), false);
     check("counts", wdog_left(WDOG) <= 200u, 1u);
-    wdog_stop(WDOG);
+    check("wdog_start_window", wdog_start_window(WDOG, 60000u, 100u, false), true);
+    wdog_kick(WDOG); /* too early; the handler answers with one that is in time */
+    wait_for(&warnings, 2u);
+    check("sign of life too early", warnings, 2u);
+    check("answered", wdog_is_pending(WDOG), false);
+    check("wdog_stop", wdog_stop(WDOG), true);
     wdog_lock(WDOG);
     check("locked", wdog_is_locked(WDOG), true);
     wdog_unlock(WDOG);
@@ -570,9 +624,18 @@ int main(void)
     check("reset of GPIO", GPIO->OUT, GPIO_OUT_RESET);
     check("reset of UART0", UART0->CTRL, UART_CTRL_RESET);
     check("variables", warnings + faults, 0u);
+    check("the time was set before", rtc_is_set(RTC), true);
+    check("the time has gone on", rtc_get(RTC) > 3000u && rtc_get(RTC) < 3100u, 1u);
+    check("no interrupt of the RTC", RTC->CTRL, RTC_CTRL_EN_Msk);
+    if (run == 2u)
+        check("after the other reset", rtc_get(RTC) > AHB1_MEMORY[14], 1u);
+    AHB1_MEMORY[14] = rtc_get(RTC);
+    check("seal of the watchdog", wdog_is_sealed(WDOG), false);
     if (run == 1u) {
         RUNS = 2u;
         check("wdog_start, reset", wdog_start(WDOG, 100u, true), true);
+        wdog_seal(WDOG);
+        check("sealed", wdog_stop(WDOG), false);
         for (uint32_t i = 0u; i < POLLS; ++i)
             __NOP();
         check("reset by the watchdog", 0u, 1u);

@@ -150,7 +150,7 @@ loopback apb_uart.v s/PWDATA\[8\] \& PSTRB\[1\]/1'b0/
 blink ahb_gpio.v s/(4'd0: +r = \{4'd0, level)/\1 | 16'h0800/
 blink ahb_gpio.v s/\(HWDATA\[15:0\] \& HWDATA\[31:16\]\)/(HWDATA[15:0] \& HWDATA[31:16] \& 16'hFFBF)/
 blink ahb_gpio.v s/(steady\[k\] <= pin\[k\])/\1 | (k == 10)/
-blink apb_timer.v s/(assign irq += )pend/\11'b0/
+blink apb_timer.v s/(assign irq += )\(pend\[0\]/\1(1'b0/
 clock apb_timer.v s/value - 24'd1/(value - 24'd1) \& 24'hFFFFDF/
 clock apb_rtc.v s/(wire \[31:0\] next = )(seconds [+] 32'd1)/\1(\2) \& 32'hFFFFFFFD/
 clock apb_rtc.v s/part [+] 24'd1/(part + 24'd1) | 24'h000004/

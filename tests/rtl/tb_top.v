@@ -146,7 +146,7 @@ module tb;
         endcase
     endfunction
 
-    integer n;
+    integer n, before;
     reg [31:0] seen_addr, seen_data;
     reg [16:1] seen_psel;
     reg [6:1]  seen_hsel;
@@ -181,6 +181,11 @@ module tb;
         check(lockup === 1'b1 && halted === 1'b0, "LOCKUP");
         dut.u_core.LOCKUP = 1'b0; dut.u_core.HALTED = 1'b1; #1;
         check(lockup === 1'b0 && halted === 1'b1, "HALTED");
+        ahb_write(WDOG, 20); ahb_write(WDOG + 8, 1);
+        cycles(50);
+        check(dut.u_core.NMI === 1'b0, "the watchdog stands while halted");
+        ahb_write(WDOG + 8, 0);
+        dut.u_core.HALTED = 1'b0;
         dut.u_core.TDO = 1'b1; dut.u_core.TDOEN = 1'b1; dut.u_core.SWDO = 1'b0; dut.u_core.SWDOEN = 1'b1; #1;
         check(j13 === 1'b1 && j7 === 1'b0, "TDO and SWDIO are driven");
         dut.u_core.TDOEN = 1'b0; dut.u_core.SWDOEN = 1'b0;
@@ -315,6 +320,8 @@ module tb;
         extint = 4'd0;
         cycles(3);
         // Watchdog: interrupt, then a reset that clears the peripherals but not the power-on domain.
+        ahb_write(RTC + 8, 1);
+        ahb_transfer(RTC, 1'b0, 3'd2, 32'd0); before = rd;
         ahb_write(WDOG, 50); ahb_write(WDOG + 8, 3);
         cycles(70);
         check(dut.u_core.NMI === 1'b1 && dut.u_core.SYSRESETn === 1'b1, "watchdog interrupt");
@@ -324,6 +331,8 @@ module tb;
         cycles(2);
         check(dut.u_core.NMI === 1'b0, "watchdog is off again");
         ahb_expect(GPIO + 8, 0, "GPIO was reset");
+        ahb_transfer(RTC, 1'b0, 3'd2, 32'd0);
+        check(rd > before && rd < before + 20, "the time has gone on");
         check(gpio[7:0] === 8'hzz, "and its pins are released");
         ahb_write(GPIO + 8, 1);
         dut.u_core.SYSRESETREQ = 1'b1; cycles(1); dut.u_core.SYSRESETREQ = 1'b0;

@@ -36,7 +36,8 @@ OuterPins outerPins(const QString &module)
         {QStringLiteral("apb_timer"),
          {QStringLiteral(".extin(1'b0)"), QStringLiteral(".extin(act[2])")}},
         {QStringLiteral("apb_rtc"),
-         {QStringLiteral(".rtc_clk(1'b0)"), QStringLiteral(".rtc_clk(act[2])")}},
+         {QStringLiteral(".PORESETn(rstn), .rtc_clk(1'b0)"),
+          QStringLiteral(".PORESETn(rstn), .rtc_clk(act[2])")}},
         {QStringLiteral("apb_i2c"),
          {QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)"),
           QStringLiteral(".scl_in(1'b1), .sda_in(act[4])")}},
@@ -46,7 +47,8 @@ OuterPins outerPins(const QString &module)
          {QStringLiteral(".sd_spiclk(1'b0), .sd_datain(1'b0), .sd_checkin(1'b1)"),
           QStringLiteral(".sd_spiclk(act[2]), .sd_datain(act[4]), .sd_checkin(1'b0)")}},
         {QStringLiteral("apb_dual_timer"), {}},
-        {QStringLiteral("apb_watchdog"), {}}};
+        {QStringLiteral("apb_watchdog"),
+         {QStringLiteral(".halted(1'b0)"), QStringLiteral(".halted(1'b0)")}}};
     const QString unknown = QStringLiteral("unknown module");
     return pins.value(module, {unknown, unknown});
 }
@@ -627,10 +629,11 @@ QString simulate(const QString &bench, const QStringList &sources)
     QProcess process;
     process.setWorkingDirectory(dir.path());
     process.setProcessChannelMode(QProcess::MergedChannels);
+    // What the modules are made of is found by its name.
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
-                              QStringLiteral("-I" RTL_TESTS_DIR), QStringLiteral("-I" RTL_DIR),
-                              QStringLiteral("-y" RTL_DIR), QStringLiteral("-o"),
+                              QStringLiteral("-y" RTL_DIR), QStringLiteral("-I" RTL_TESTS_DIR),
+                              QStringLiteral("-I" RTL_DIR), QStringLiteral("-o"),
                               QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
     if (!process.waitForFinished(120000) || process.exitCode() != 0)

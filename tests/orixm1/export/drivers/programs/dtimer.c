@@ -55,8 +55,40 @@ static void all(dtimer_counter counter)
     EQUAL(FAR(IRQ), 0u);
 }
 
+static void compare(dtimer_counter counter)
+{
+    dtimer_stop(DTIMER, counter);
+    EQUAL(dtimer_move_compare(DTIMER, counter, 5u), false);
+    EQUAL(dtimer_set_compare(DTIMER, counter, 25u, true), true);
+    EQUAL(dtimer_start(DTIMER, counter, 100u, 3u, DTIMER_PERIODIC, false), true);
+    EQUAL(dtimer_set_compare(DTIMER, counter, 5u, true), false);
+    IDLE(200u);
+    EQUAL(dtimer_take_match(DTIMER, counter), false);
+    EQUAL(FAR(IRQ), 0u);
+    IDLE(40u);
+    EQUAL(FAR(IRQ), 1u);
+    EQUAL(dtimer_take_match(DTIMER, counter), true);
+    EQUAL(FAR(IRQ), 0u);
+    EQUAL(dtimer_take(DTIMER, counter), false);
+    IDLE(300u);
+    EQUAL(dtimer_take_match(DTIMER, counter), true);
+    EQUAL(dtimer_take(DTIMER, counter), true);
+    EQUAL(dtimer_move_compare(DTIMER, counter, 99u), true);
+    IDLE(30u);
+    EQUAL(dtimer_take_match(DTIMER, counter), false);
+    IDLE(300u);
+    EQUAL(dtimer_take_match(DTIMER, counter), true); /* where a period begins */
+    EQUAL(dtimer_take(DTIMER, counter), true);
+    dtimer_stop(DTIMER, counter);
+    EQUAL(dtimer_start(DTIMER, counter, 100u, 1u, DTIMER_PERIODIC, false), true);
+    IDLE(300u);
+    EQUAL(dtimer_take_match(DTIMER, counter), false); /* stopping switched it off */
+    dtimer_stop(DTIMER, counter);
+}
+
 void test(void)
 {
+    EQUAL((DTIMER->ID & DTIMER_ID_BLOCK_Msk) >> DTIMER_ID_BLOCK_Pos, 4u);
     all(DTIMER_COUNTER_1);
     all(DTIMER_COUNTER_2);
     /* One leaves the other alone. */
@@ -68,4 +100,6 @@ void test(void)
     EQUAL(FAR(PERIOD_1), 90u);
     EQUAL(FAR(PERIOD_2), 70u);
     EQUAL(dtimer_take(DTIMER, DTIMER_COUNTER_2), false);
+    compare(DTIMER_COUNTER_1);
+    compare(DTIMER_COUNTER_2);
 }

@@ -1,11 +1,12 @@
-// When the interrupt and the reset come after the count was begun.
+// When the interrupt and the reset come after the count was begun; a debugger, and a system reset.
 module tb;
 `include "bench.vh"
 `include "apb_bus.vh"
     wire nmi, reset_req;
+    reg  halted = 1'b0;
     apb_watchdog dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
                       .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
-                      .nmi(nmi), .reset_req(reset_req));
+                      .halted(halted), .nmi(nmi), .reset_req(reset_req));
     time    begun = 0, after_nmi = 0, after_reset = 0;
     integer resets = 0;
     always @(posedge dut.ctrl[0]) begun = $time;
@@ -14,7 +15,10 @@ module tb;
     always @(posedge reset_req) begin after_reset = $time - begun; resets = resets + 1; end
 
     task far_write(input [31:0] index, input [31:0] value);
-        check(1'b0, "nothing to write");
+        case (index)
+            0: halted = value[0];
+            1: reset;
+        endcase
     endtask
     task far_read(input [31:0] index);
         case (index)
