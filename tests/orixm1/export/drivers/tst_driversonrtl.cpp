@@ -326,7 +326,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::addColumn<QString>("sources");
     QTest::newRow("uart") << "apb_uart";
     QTest::newRow("spi") << "apb_spi spi_engine";
-    QTest::newRow("i2c") << "apb_i2c";
+    QTest::newRow("i2c") << "apb_i2c sync_fifo cdc_synchronizer";
     QTest::newRow("spiflash") << "ahb_spi_flash spi_engine";
     QTest::newRow("sd") << "apb_sdcard spi_engine";
     QTest::newRow("timer") << "apb_timer";
