@@ -290,6 +290,7 @@ module tb;
     endtask
 
     integer k, m;
+    reg [31:0] kept;
     // ---- arbitration, in every kind of bit
     task arbitration;
         begin
@@ -346,6 +347,14 @@ module tb;
                 ended(32'h18, 0, "repeated start: arbitration lost");
                 rival_ends; settle;
             end
+            // Both make it, the other one somewhat earlier.
+            write_byte(8'h5A, START);
+            ended(32'hC, 0, "address before both repeated starts");
+            write_byte(8'h5A, START);
+            @(posedge scl); #50 other_sda = 1'b0; #130 other_scl = 1'b0;
+            #20 other_sda = 1'b1; #80 other_scl = 1'b1;
+            ended(32'hC, 0, "goes on behind the common start");
+            apb_write(COMMAND, STOP); ended(32'h8, 0, "its stop");
             // The other one makes its repeated start, or a stop, within a bit that is 1.
             for (k = 0; k < 2; k = k + 1) begin
                 write_byte(8'h5A, START);
@@ -484,6 +493,18 @@ module tb;
                 check(scl === 1'b1 && sda === 1'b1, "a free bus");
                 measures = 1'b0;
             end
+            // Also in the middle of a read, and nothing of it is taken for a byte.
+            write_byte(8'h5B, START); ended(32'hC, 0, "address, read");
+            apb_write(COMMAND, READ); ended(32'hC, 0, "a byte, read");
+            apb_read(RX); kept = rd;
+            other_sda = 1'b0;
+            measure;
+            apb_write(COMMAND, RECOVER);
+            repeat (9) @(negedge scl);
+            #12 other_sda = 1'b1;
+            ended(32'h8, 0, "recovered within a read");
+            measures = 1'b0;
+            apb_expect(RX, kept, "the byte before");
             // Abort in each phase of a transfer leaves a block that works.
             for (k = 1; k < 500; k = k + 7) begin
                 write_byte(8'h5A, START | STOP);
@@ -642,6 +663,16 @@ module tb;
             for (k = 0; k < 4; k = k + 1) begin apb_expect(FIFO, 32'h8000 | (8'h10 + m), "last bytes"); m = m + 1; end
             apb_expect(FIFO, 0, "no byte is left");
             check(irqs == 3 && stops == 1 && master_ack === 1'b0, "three interrupts for 40 bytes");
+            // A command that waits for room is one: nothing else begins.
+            stops = 0;
+            apb_write(FIFO, F_START | 8'h5B); apb_write(FIFO, F_READ | 15); apb_write(FIFO, F_READ | F_NACK | F_STOP);
+            cycles(12000);
+            apb_expect(LEVEL, 32'h1001, "waits for room"); apb_expect(STATUS, 32'h5, "and is busy");
+            apb_write(COMMAND, STOP); cycles(500); check(stops == 0, "no stop between");
+            apb_read(FIFO); check(rd[15] === 1'b1, "a byte makes room");
+            ended(32'h8, 0, "the byte behind it");
+            for (k = 0; k < 16; k = k + 1) apb_read(FIFO);
+            apb_expect(LEVEL, 0, "all taken");
             // Refill by threshold.
             nbytes = 0; m = 0; irqs = 0; stops = 0;
             apb_write(CTRL, 1); apb_write(THRESHOLD, 4); apb_write(INTEN, 1);
@@ -743,6 +774,7 @@ module tb;
             apb_write(INTEN, 32'h8);
             fork
                 begin o_get(1'b0); check(o_data === 8'h99, "the byte that was waited for"); o_stop; end
+                begin @(posedge scl); check($time - at_sda >= 250, "set-up time of a bit that was waited for"); end
                 begin
                     wait_irq(2000, "a byte is wanted");
                     cycles(500); check(scl === 1'b0, "stretches");
