@@ -519,6 +519,9 @@ static void use_i2c(void)
 {
     static const uint8_t sent[3] = {0x04u, 0xE7u, 0x18u}; /* a place and what is to stand there */
     static uint8_t received[2];
+    const uint16_t own = I2C_TEN_BITS(0x2A5u);
+    uint8_t taken = 0u;
+    uint32_t what = 0u;
     check("I2C_PRESCALE after reset", I2C->PRESCALE, I2C_PRESCALE_RESET);
     check("i2c_init", i2c_init(I2C, CLOCK, CLOCK / 80u), I2C_OK);
     NVIC_EnableIRQ(I2C_IRQn);
@@ -530,6 +533,16 @@ static void use_i2c(void)
     check("interrupt of the first command", i2c_commands, 1u);
     check("first byte", received[0], 0xE7u);
     check("second byte", received[1], 0x18u);
+    check("i2c_recover", i2c_recover(I2C, POLLS), I2C_OK);
+    /* It calls itself by ten bits. */
+    check("i2c_target_start", i2c_target_start(I2C, own, 0u, 0u), I2C_OK);
+    check("i2c_target_put", i2c_target_put(I2C, 0x6Bu), true);
+    check("to itself", i2c_write_read(I2C, own, sent, 1u, received, 1u, POLLS), I2C_OK);
+    check("i2c_target_get", i2c_target_get(I2C, &taken, &what), true);
+    check("byte to itself", taken, 0x04u);
+    check("first byte to itself", what, I2C_BYTE_FIRST);
+    check("byte from itself", received[0], 0x6Bu);
+    i2c_target_stop(I2C);
 }
 
 static void use_memory(const char *what, volatile uint32_t *words)

@@ -211,7 +211,7 @@ module board;
         expect_that(spi_selections >= 7 && spi_selections <= 9, "a selection of the bytes, one of each word, and further ones");
         expect_that(nss === 1'b1, "a device on SPI that is left");
         expect_that(i2c_memory[4] === 8'hE7 && i2c_memory[5] === 8'h18, "the bytes of the I2C memory");
-        expect_that(i2c_stops == 4, "four stops on I2C");
+        expect_that(i2c_stops == 6, "six stops on I2C");
         expect_that(seen_a0 && seen_50 && seen_c3, "the values of the pins");
         expect_that(gpio[7:0] === 8'd0, "pins that are released by the reset");
         expect_that(ahb_memory[2] == 32'h1234AB78 && ahb_memory[3] == 32'hBEEFF00D, "the words of AHB1");

@@ -162,8 +162,8 @@ loopback spi_word_shifter.v s/(loop \? mosi : )miso/\11'b0/
 loopback spi_word_shifter.v s/(loop \? )mosi/\11'b1/
 timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
 timers apb_dual_timer.v s/oneshot, ie, en\} <= PWDATA\[2:0\]/oneshot, ie, en} <= PWDATA[2:0] \& 3'b011/
-i2c-eeprom apb_i2c.v s/rxdata <= shift_in/rxdata <= shift_in | 8'h08/
-i2c-eeprom apb_i2c.v s/shift_out <= PWDATA\[2\] \? \{8'hFF, PWDATA\[4\]\} : \{txdata/shift_out <= PWDATA[2] ? {8'hFF, PWDATA[4]} : {txdata \& 8'hFD/
+i2c-eeprom apb_i2c.v s/wdata\(shift_in\)/wdata(shift_in | 8'h08)/
+i2c-eeprom apb_i2c.v s/txdata : q_byte, 1'b1/txdata : q_byte \& 8'hFD, 1'b1/
 flash-reader ahb_spi_flash.v s/(2'd1: assembled\[15:8\] +<= )rx/\1rx \& 8'hBF/
 flash-reader ahb_spi_flash.v s/(2'd2: assembled\[23:16\] +<= )rx/\1rx | 8'h01/
 sd-files apb_sdcard.v s/card +<= ~card/card <= 1'b0/

@@ -165,7 +165,7 @@ mistake tarvo_orix_m1.h 's/^(#define AHB1_BASE +)0x80000000u/\10x80000040u/'
 # Interrupts of other numbers.
 mistake tarvo_orix_m1.h 's/EXTINT1_IRQn = 13/EXTINT1_IRQn = 11/'
 # Another place of a field.
-mistake tarvo_orix_m1.h 's/^(#define I2C_COMMAND_STOP_Msk +).*/\10x4u/'
+mistake tarvo_orix_m1.h 's/^(#define I2C_FIFO_STOP_Msk +).*/\10x40000u/'
 # A driver that forgets to wait.
 mistake drivers/spi.c 's/SPI_STATUS_DONE_Msk/SPI_STATUS_BUSY_Msk/'
 # Two handlers in each other's place.

@@ -20,6 +20,7 @@ namespace
 struct OuterPins {
     QString resting;
     QString moving;
+    QVector<quint32> patterns = {}; // that bring it to life, beside those for all
 };
 
 OuterPins outerPins(const QString &module)
@@ -39,8 +40,11 @@ OuterPins outerPins(const QString &module)
          {QStringLiteral(".PORESETn(rstn), .rtc_clk(1'b0)"),
           QStringLiteral(".PORESETn(rstn), .rtc_clk(act[2])")}},
         {QStringLiteral("apb_i2c"),
+         // A general call with bytes that are 0, of sixteen clock cycles a bit. The pattern has the
+         // master read two bytes before.
          {QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)"),
-          QStringLiteral(".scl_in(1'b1), .sda_in(act[4])")}},
+          QStringLiteral(".scl_in(act < 16'd528 || !act[3]), .sda_in(act < 16'd512)"),
+          {0x00020001u}}},
         {QStringLiteral("apb_spi"),
          {QStringLiteral(".miso(1'b0)"), QStringLiteral(".miso(act[2])")}},
         {QStringLiteral("apb_sdcard"),
@@ -411,15 +415,20 @@ private:
     }
 
     // Timers that count and wrap, serial lines that are on, and what the others make of it.
-    static QVector<quint32> livelyPatterns() { return {0xFFFFFFFFu, 0x00000101u, 0x00000013u}; }
+    QVector<quint32> livelyPatterns() const
+    {
+        return QVector<quint32>{0xFFFFFFFFu, 0x00000101u, 0x00000013u} +
+               outerPins(m_peripheral.module).patterns;
+    }
 
     void readEffects(const Register &entry)
     {
         const auto read = [this](quint32 offset) {
             return QStringLiteral("see(255, %1);").arg(word(address(offset)));
         };
+        const QVector<quint32> lively = livelyPatterns();
         forget();
-        for (const quint32 pattern : livelyPatterns())
+        for (const quint32 pattern : lively)
             compare(pattern, read(nowhere()) + read(nowhere()),
                     read(entry.offset) + read(entry.offset), entry);
         if (!hasReadEffect(entry)) {
@@ -433,7 +442,7 @@ private:
             if (field.readEffect != ReadEffect::Clear && field.readEffect != ReadEffect::Set)
                 continue;
             const quint32 left = field.readEffect == ReadEffect::Set ? field.mask() : 0;
-            for (const quint32 pattern : livelyPatterns()) {
+            for (const quint32 pattern : lively) {
                 live(pattern, read(entry.offset), entry);
                 expect(entry.offset, {left, field.mask()},
                        QLatin1String("after it was read: ") + field.name);
@@ -459,9 +468,10 @@ private:
         const auto write = [this](quint32 offset, quint32 value) {
             return QStringLiteral("write_word(%1, %2);").arg(word(address(offset)), word(value));
         };
+        const QVector<quint32> lively = livelyPatterns();
         const auto tryOut = [&](quint32 value) {
             forget();
-            for (const quint32 pattern : livelyPatterns())
+            for (const quint32 pattern : lively)
                 compare(pattern, write(nowhere(), value), write(entry.offset, value), entry);
         };
         if (!hasStored) {

@@ -69,8 +69,8 @@ constexpr PortRow rows[] = {
      "interrupts 12 (bit 0) to 15 (bit 3), requested while high"_l1, none, Plain,
      "u_sync_extint"_l1},
 
-    {"GPIO"_l1, Peripheral, "pins"_l1, none, Plain, "u_gpio.u_sync_in"_l1},
-    {"GPIOIN"_l1, Peripheral, "levels of the pins"_l1, none, Plain, "u_gpio.u_sync_in"_l1},
+    {"GPIO"_l1, Peripheral, "pins"_l1, none, Plain, "u_gpio.u_sync_gpio_in"_l1},
+    {"GPIOIN"_l1, Peripheral, "levels of the pins"_l1, none, Plain, "u_gpio.u_sync_gpio_in"_l1},
     {"GPIOOUT"_l1, Peripheral, "values for the pins"_l1, hclk},
     {"GPIOOUTEN"_l1, Peripheral, "1 drives the pin"_l1, hclk},
     {"CAN_RX"_l1, Peripheral, "from the transceiver"_l1},

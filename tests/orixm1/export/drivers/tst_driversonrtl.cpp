@@ -326,7 +326,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::addColumn<QString>("sources");
     QTest::newRow("uart") << "apb_uart sync_fifo cdc_synchronizer";
     QTest::newRow("spi") << "apb_spi spi_word_shifter sync_fifo";
-    QTest::newRow("i2c") << "apb_i2c";
+    QTest::newRow("i2c") << "apb_i2c sync_fifo cdc_synchronizer";
     QTest::newRow("spiflash") << "ahb_spi_flash spi_flash_shifter sync_fifo";
     QTest::newRow("sd") << "apb_sdcard sd_sequencer sd_shifter cdc_synchronizer";
     QTest::newRow("timer") << "apb_timer cdc_synchronizer";

@@ -70,8 +70,53 @@ module tb;
         else if (hold > 0) begin hold = hold - 1; if (hold == 0) other_sda = #12 1'b1; end
     end
 
+    // Another master, which calls an address: how many bytes were acknowledged, and what it has read.
+    integer   acks = 0, later = 0, i;
+    reg [7:0] called = 8'd0, byte_read;
+    reg [7:0] got [0:15];
+    reg       level;
+    task o_bit(input value, output seen);
+        begin
+            other_sda = value; #100 other_scl = 1'b1; wait (scl === 1'b1);
+            #100 seen = sda; #100 other_scl = 1'b0; #100;
+        end
+    endtask
+    task o_byte(input [7:0] value, input ack);
+        integer k;
+        begin
+            for (k = 7; k >= 0; k = k - 1) o_bit(value[k], byte_read[k]);
+            o_bit(ack, level);
+            if (!level && ack) acks = acks + 1;
+        end
+    endtask
+    task o_begin;
+        begin acks = 0; other_sda = 1'b0; #200 other_scl = 1'b0; #100 o_byte(called, 1'b1); end
+    endtask
+    task o_stop;
+        begin other_sda = 1'b0; #100 other_scl = 1'b1; #300 other_sda = 1'b1; #300; end
+    endtask
+    task o_send(input integer count);
+        begin
+            o_begin;
+            for (i = 0; i < count; i = i + 1) o_byte(8'h60 + i, 1'b1);
+            o_stop;
+        end
+    endtask
+    task o_get(input integer count);
+        begin
+            o_begin;
+            for (i = 0; i < count; i = i + 1) begin o_byte(8'hFF, i == count - 1); got[i] = byte_read; end
+            o_stop;
+        end
+    endtask
+    always @(later) if (later > 0) o_get(1);
+
     task far_write(input [31:0] index, input [31:0] value);
         case (index)
+            5: called = value;
+            6: o_send(value);
+            7: o_get(value);
+            8: later = later + 1;               // a byte is read beside what else happens
             0: stretch = 10 * value;            // in clock cycles
             1: refuse = value;                  // data bytes that are acknowledged
             2: attack = value;
@@ -88,7 +133,8 @@ module tb;
             4: rd = irq;
             5: rd = clocks;
             6: rd = master_ack;
-            default: rd = memory[index[3:0]];   // from 16
+            7: rd = acks;
+            default: rd = index < 32 ? memory[index[3:0]] : got[index[3:0]];   // from 16 and 32
         endcase
     endtask
 `include "serve.vh"
