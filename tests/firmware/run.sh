@@ -13,6 +13,9 @@ tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
+# The rules of the buses are held in every run: what breaks one is printed.
+checkers=$here/../rtl/checkers
+watch=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
 
 "$orixm1" export "$examples/sensor-node.ipc" --out exported > log 2>&1 || { cat log; fail "export"; }
 
@@ -33,8 +36,8 @@ build() { # [FOLDER]: the example's RTL, or that of another sensor-node.ipc, in 
         sed 's/^ *\.JTAG_3.*JTAG_15(srst),$//' "$here/board.v" > no-debug.v
         board=no-debug.v
     fi
-    iverilog -g2012 -s board "-I${1:-.}/temp/tv_orix_m1" "-I$data/data/debug" -o board "${sources[@]}" \
-        "$model/cortex_m1_core_isa.v" "$board"
+    iverilog -g2012 -s board "${watch[@]}" "-I${1:-.}/temp/tv_orix_m1" "-I$data/data/debug" -o board "${sources[@]}" \
+        "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$board"
 }
 
 compile() { # FOLDER: the program from the files of an export
@@ -118,8 +121,8 @@ if [[ $case == memory-mistakes ]]; then
         done
         sed -E "$2" "${sources[i]}" > broken.v
         ! cmp -s broken.v "${sources[i]}" || fail "$2 changes nothing in $1"
-        iverilog -g2012 -s board -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
-            "${sources[@]:i+1}" "$model/cortex_m1_core_isa.v" "$here/board.v"
+        iverilog -g2012 -s board "${watch[@]}" -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
+            "${sources[@]:i+1}" "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$here/board.v"
         result=$(play +tcm=rtl)
         [[ $result != *"BOARD PASS"* ]] || fail "$2 is not noticed in $1"
         result=$(play +firmware=program.elf)

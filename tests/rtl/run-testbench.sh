@@ -10,6 +10,7 @@ tmp=$(mktemp -d) || exit 2
 trap 'rm -rf "$tmp"' EXIT
 bench=
 words=()
+roots=(-s tb)
 while read -r entry file rest; do
     [[ $entry == "$name" ]] || continue
     bench=$file
@@ -21,7 +22,9 @@ while read -r entry file rest; do
                 words+=("-I$generated_dir")
                 for file in "${sources[@]}"; do
                     [[ $file == */cortex_m1_core.v ]] || words+=("$file")
-                done ;;
+                done
+                roots+=(-s bus_watch)
+                words+=("$here/checkers/bus_watch.v") ;;
             *) # in one of the variants, or the same in all
                 files=("$variants"/*/"$word")
                 words+=("${files[0]}") ;;
@@ -29,8 +32,8 @@ while read -r entry file rest; do
     done
 done < "$here/benches.txt"
 [[ -n $bench ]] || { echo "no testbench named $name"; exit 2; }
-iverilog -g2005 -Wall -s tb -I "$here" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" -o "$tmp/bench" \
-    "${words[@]}" "$here/$bench" || exit 1
+iverilog -g2005 -Wall "${roots[@]}" -I "$here" -I "$here/checkers" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" -o "$tmp/bench" \
+    "${words[@]}" "$here"/checkers/*_checker.v "$here/$bench" || exit 1
 (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
 status=$?
 cat "$tmp/log"

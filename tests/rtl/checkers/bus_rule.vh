@@ -1,0 +1,22 @@
+// How the rules of the bus checkers are stated.
+//   `RULE(BOUND, ASSUMED, NAME, HOLDS) inside `BUS_RULES … `END_BUS_RULES: HOLDS in each clock cycle out of reset in which BOUND is
+//   true. A simulation says "failed: bus rule: NAME" where it does not. A proof (Yosys: read_verilog -formal) asserts the rule, or
+//   takes it for granted where ASSUMED is not 0.
+//   `KNOWN(BITS): none of them is x or z. A proof knows only 0 and 1.
+`ifdef FORMAL
+`define BUS_RULES(CLOCK, RESET_N) always @* if (RESET_N) begin
+`define RULE(BOUND, ASSUMED, NAME, HOLDS) \
+    if (ASSUMED != 0) assume (!(BOUND) || (HOLDS)); else assert (!(BOUND) || (HOLDS));
+`define KNOWN(BITS) 1'b1
+`else
+`define BUS_RULES(CLOCK, RESET_N) \
+    integer violations = 0; \
+    always @(posedge CLOCK) if (RESET_N === 1'b1) begin
+`define RULE(BOUND, ASSUMED, NAME, HOLDS) \
+    if ((BOUND) && (HOLDS) !== 1'b1) begin \
+        violations = violations + 1; \
+        if (violations <= 100) $display("%0t: failed: bus rule: %0s (%m)", $time, NAME); \
+    end
+`define KNOWN(BITS) (^(BITS) !== 1'bx)
+`endif
+`define END_BUS_RULES end
