@@ -48,7 +48,7 @@ module ahb_lite_checker #(
     reg  [3:0]  lanes;
     reg         began;         // it is not the first cycle
     reg         half;          // the slave has said the first cycle of an error response
-    integer     waits;
+    reg  [15:0] waits;
     wire [31:0] bits = {{8{lanes[3]}}, {8{lanes[2]}}, {8{lanes[1]}}, {8{lanes[0]}}};
 
     // The burst that the last transfer belongs to.
@@ -86,7 +86,7 @@ module ahb_lite_checker #(
             lanes         <= 4'd0;
             began         <= 1'b0;
             half          <= 1'b0;
-            waits         <= 0;
+            waits         <= 16'd0;
             goes_on       <= 1'b0;
             excused       <= 1'b0;
             left          <= 4'd0;
@@ -105,9 +105,9 @@ module ahb_lite_checker #(
                 owns   <= HSEL & active;
                 writes <= HWRITE;
                 lanes  <= reached;
-                waits  <= 0;
-            end else if (owns & (MOST_WAITS < 0 || waits <= MOST_WAITS))
-                waits <= waits + 1;
+                waits  <= 16'd0;
+            end else if (owns & waits != 16'hFFFF && (MOST_WAITS < 0 || waits <= MOST_WAITS))
+                waits <= waits + 16'd1;
             excused <= HRESP | (excused & ~(HREADY & (HTRANS == NONSEQ || HTRANS == IDLE)));
             if (HREADY)
                 case (HTRANS)

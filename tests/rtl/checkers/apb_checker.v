@@ -34,21 +34,21 @@ module apb_checker #(
     reg               running;    // a transfer had begun and did not end
     reg [SLOTS+41:0]  was_control;
     reg [31:0]        was_wdata;
-    integer           waits;
+    reg [15:0]        waits;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             running     <= 1'b0;
             was_control <= {(SLOTS + 42){1'b0}};
             was_wdata   <= 32'd0;
-            waits       <= 0;
+            waits       <= 16'd0;
         end else begin
             running     <= selected & ~last;
             was_control <= control;
             was_wdata   <= PWDATA;
-            if (access & ~PREADY & (MOST_WAITS < 0 || waits <= MOST_WAITS))
-                waits <= waits + 1;
+            if (access & ~PREADY & waits != 16'hFFFF && (MOST_WAITS < 0 || waits <= MOST_WAITS))
+                waits <= waits + 16'd1;
             else if (!access | PREADY)
-                waits <= 0;
+                waits <= 16'd0;
         end
 
     `BUS_RULES(PCLK, PRESETn)
