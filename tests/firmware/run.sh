@@ -173,3 +173,20 @@ mistake tarvo_orix_m1.h 's/^(#define I2C_COMMAND_STOP_Msk +).*/\10x4u/'
 mistake drivers/spi.c 's/SPI_STATUS_DONE_Msk/SPI_STATUS_BUSY_Msk/'
 # Two handlers in each other's place.
 mistake startup_tarvo_orix_m1.c 's/SVC_Handler, /@/; s/PendSV_Handler, /SVC_Handler, /; s/@/PendSV_Handler, /'
+
+breaks() { # RULE FILE EXPRESSION: a change of the RTL that breaks a rule of a bus, which the run names
+    local i
+    for i in "${!sources[@]}"; do
+        [[ $(basename "${sources[i]}") != "$2" ]] || break
+    done
+    sed -E "$3" "${sources[i]}" > broken.v
+    ! cmp -s broken.v "${sources[i]}" || fail "$3 changes nothing in $2"
+    iverilog -g2012 -s board "${watch[@]}" -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
+        "${sources[@]:i+1}" "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$here/board.v"
+    result=$(play +firmware=program.elf)
+    [[ $result == *"failed: bus rule: $1 ("* ]] || fail "$3 in $2 does not break \"$1\""
+}
+compile exported
+breaks "PSTRB is 0 in reads" ahb_to_apb.v "s/HWRITE [?] lanes : 4'd0/lanes/"
+breaks "PSLVERR is known with PREADY" apb_uart.v "s/(PSLVERR +=) 1'b0/\1 1'bx/"
+breaks "a slave that is not asked says ready and OKAY" ahb_gpio.v "s/(HRESP +=) 1'b0/\1 active/"
