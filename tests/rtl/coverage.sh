@@ -14,7 +14,9 @@ tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cache=$(command -v ccache || true)
 
-rows() { grep -vE '^#|cases/|^$|[id]tcm' "$here/benches.txt"; }
+# Left out are the memories, and bridge and interconnect, which are proven: of the one Verilator 5.006 counts nothing, and it runs the
+# testbench of the other in another order of events.
+rows() { grep -vE '^#|cases/|^$|[id]tcm|^interconnect |^apb-bridge ' "$here/benches.txt"; }
 (($#)) || mapfile -t all < <(rows | awk '{ print $3 }' | sort -u)
 (($#)) || set -- "${all[@]}"
 
