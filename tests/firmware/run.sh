@@ -13,6 +13,11 @@ tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
+# The rules of the buses are held: what breaks one is printed. The runs that are about memories have the same transfers, and are spared
+# the time.
+checkers=$here/../rtl/checkers
+watch=()
+[[ $case == memor* ]] || watch=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
 
 "$orixm1" export "$examples/sensor-node.ipc" --out exported > log 2>&1 || { cat log; fail "export"; }
 
@@ -33,8 +38,8 @@ build() { # [FOLDER]: the example's RTL, or that of another sensor-node.ipc, in 
         sed 's/^ *\.JTAG_3.*JTAG_15(srst),$//' "$here/board.v" > no-debug.v
         board=no-debug.v
     fi
-    iverilog -g2012 -s board "-I${1:-.}/temp/tv_orix_m1" "-I$data/data/debug" -o board "${sources[@]}" \
-        "$model/cortex_m1_core_isa.v" "$board"
+    iverilog -g2012 -s board "${watch[@]}" "-I${1:-.}/temp/tv_orix_m1" "-I$data/data/debug" -o board "${sources[@]}" \
+        "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$board"
 }
 
 compile() { # FOLDER: the program from the files of an export
@@ -116,8 +121,8 @@ if [[ $case == memory-mistakes ]]; then
         done
         sed -E "$2" "${sources[i]}" > broken.v
         ! cmp -s broken.v "${sources[i]}" || fail "$2 changes nothing in $1"
-        iverilog -g2012 -s board -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
-            "${sources[@]:i+1}" "$model/cortex_m1_core_isa.v" "$here/board.v"
+        iverilog -g2012 -s board "${watch[@]}" -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
+            "${sources[@]:i+1}" "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$here/board.v"
         result=$(play +tcm=rtl)
         [[ $result != *"BOARD PASS"* ]] || fail "$2 is not noticed in $1"
         result=$(play +firmware=program.elf)
@@ -170,3 +175,20 @@ mistake tarvo_orix_m1.h 's/^(#define I2C_FIFO_STOP_Msk +).*/\10x40000u/'
 mistake drivers/spi.c 's/SPI_STATUS_DONE_Msk/SPI_STATUS_BUSY_Msk/'
 # Two handlers in each other's place.
 mistake startup_tarvo_orix_m1.c 's/SVC_Handler, /@/; s/PendSV_Handler, /SVC_Handler, /; s/@/PendSV_Handler, /'
+
+breaks() { # RULE FILE EXPRESSION: a change of the RTL that breaks a rule of a bus, which the run names
+    local i
+    for i in "${!sources[@]}"; do
+        [[ $(basename "${sources[i]}") != "$2" ]] || break
+    done
+    sed -E "$3" "${sources[i]}" > broken.v
+    ! cmp -s broken.v "${sources[i]}" || fail "$3 changes nothing in $2"
+    iverilog -g2012 -s board "${watch[@]}" -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
+        "${sources[@]:i+1}" "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$here/board.v"
+    result=$(play +firmware=program.elf)
+    [[ $result == *"failed: bus rule: $1 ("* ]] || fail "$3 in $2 does not break \"$1\""
+}
+compile exported
+breaks "PSTRB is 0 in reads" ahb_to_apb.v "s/HWRITE [?] lanes : 4'd0/lanes/"
+breaks "PSLVERR is known with PREADY" apb_uart.v "s/(PSLVERR +=) 1'b0/\1 1'bx/"
+breaks "an error response has a first cycle" ahb_gpio.v "s/(HRESP +=) 1'b0/\1 active/"

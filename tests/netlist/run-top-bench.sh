@@ -12,7 +12,7 @@ awk '/^\(\* blackbox \*\)$/ { held = $0; next }
      held != "" { skip = /^module CortexM1Core/; if (!skip) print held; held = "" }
      !skip { print }
      /^endmodule/ { skip = 0 }' "$tmp/ip/tarvo_orix_m1.vo" > "$tmp/model.v"
-iverilog -g2005 -s tb -I "$tests" -I "$rtl" "-DPROGRAM_DIR=\"$tests/program\"" -o "$tmp/bench" \
+iverilog -g2005 -s tb -I "$tests" -I "$tests/checkers" -y "$tests/checkers" -I "$rtl" "-DPROGRAM_DIR=\"$tests/program\"" -o "$tmp/bench" \
     "$tmp/model.v" "$tests/tb_top.v" || exit 1
 (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
 status=$?

@@ -11,6 +11,13 @@
     reg         failed;       // the last transfer got an error response
     integer     waits;        // wait states of the last transfer
 
+    // What the master sees of the bus. A testbench of the whole subsystem leaves rstn at 0: bus_watch.v looks at all of its buses.
+    ahb_lite_checker bus_rules (
+        .HCLK(clk), .HRESETn(rstn), .HADDR(haddr), .HTRANS(htrans), .HBURST(3'd0), .HSIZE(hsize), .HPROT(4'b0011),
+        .HWRITE(hwrite), .HWDATA(hwdata), .HSEL(1'b1), .HREADY(hready), .HRESP(hresp),
+        .HRDATA(hrdata), .HREADYOUT(hready), .HRESPOUT(hresp)
+    );
+
     task ahb_transfer(input [31:0] address, input write, input [2:0] size, input [31:0] data);
         begin
             haddr = address; htrans = 2'b10; hsize = size; hwrite = write;

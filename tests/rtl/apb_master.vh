@@ -7,6 +7,11 @@
     wire        pready, pslverr;
     reg  [31:0] rd;
 
+    apb_checker #(.MOST_WAITS(0)) bus_rules (
+        .PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR({20'd0, paddr}), .PWDATA(pwdata),
+        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)
+    );
+
     // The bytes of `data` that `lanes` names.
     task apb_write_lanes(input [11:0] address, input [31:0] data, input [3:0] lanes);
         begin

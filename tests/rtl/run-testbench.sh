@@ -1,36 +1,66 @@
 #!/usr/bin/env bash
 # Builds and runs one testbench of benches.txt in a temporary folder.  Success is a line "PASS" and nothing that failed.
-#   run-testbench.sh ORIXM1 RTL NAME
-# RTL is the folder of the variants.
+#   run-testbench.sh ORIXM1 RTL NAME [rtl|verilog|vhdl]
+# RTL is the folder of the variants.  With "verilog" or "vhdl" the module of the row, which is the first source and has no parameters
+# set, is replaced by its netlist in that language, as the synthesis of configurations makes it (synthesizemodule, in the build
+# folder of ORIXM1).
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/configure.sh"
-orixm1=$1 variants=$2 name=${3:?name of a testbench}
+orixm1=$1 variants=$2 name=${3:?name of a testbench} model=${4:-rtl}
 tmp=$(mktemp -d) || exit 2
 trap 'rm -rf "$tmp"' EXIT
 bench=
-words=()
+words=() files=()
+roots=(-s tb)
+rtl_only=false
 while read -r entry file rest; do
     [[ $entry == "$name" ]] || continue
     bench=$file
     for word in $rest; do
         case $word in
             -*) words+=("$word") ;;
+            rtl-only) rtl_only=true ;;
             cases/*) # all of the design but the processor
                 configure "$orixm1" "${word#cases/}" "$tmp" || exit 2
                 words+=("-I$generated_dir")
                 for file in "${sources[@]}"; do
-                    [[ $file == */cortex_m1_core.v ]] || words+=("$file")
-                done ;;
+                    [[ $file == */cortex_m1_core.v ]] || files+=("$file")
+                done
+                roots+=(-s bus_watch)
+                files+=("$here/checkers/bus_watch.v") ;;
             *) # in one of the variants, or the same in all
-                files=("$variants"/*/"$word")
-                words+=("${files[0]}") ;;
+                found=("$variants"/*/"$word")
+                files+=("${found[0]}") ;;
         esac
     done
 done < "$here/benches.txt"
 [[ -n $bench ]] || { echo "no testbench named $name"; exit 2; }
-iverilog -g2005 -Wall -s tb -I "$here" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" -o "$tmp/bench" \
-    "${words[@]}" "$here/$bench" || exit 1
+
+if [[ $model != rtl ]]; then
+    [[ $rtl_only == false && ${#words[@]} -eq 0 && ${#files[@]} -gt 0 ]] || { echo "$name has no netlist of its own"; exit 2; }
+    library=$here/../../src/host/synthesis/library
+    module=$(basename "${files[0]}" .v)
+    "$(dirname "$orixm1")/../tests/bin/synthesizemodule" "$module" "$tmp/netlist" "${files[@]}" > "$tmp/log" 2>&1 \
+        || { cat "$tmp/log"; exit 1; }
+    netlist=$tmp/netlist.v
+    case $model in
+        verilog) cp "$tmp/netlist/$module.vg" "$netlist" ;;
+        vhdl) # as GHDL reads it, over the same primitives
+            cp "$tmp/netlist/$module.vhg" "$tmp/netlist.vhd"
+            (cd "$tmp" && ghdl --synth --std=93c -Wno-binding --out=verilog netlist.vhd -e "$module") > "$tmp/ghdl.v" 2> "$tmp/log" \
+                || { cat "$tmp/log"; exit 1; }
+            sed -nE 's/^  (TV_[A-Z0-9_]+|[)]) (_[0-9]+_) [(]$/\2/p' "$tmp/netlist/$module.vg" > "$tmp/cells"
+            awk -v top="$module" -f "$here/../netlist/proof/ghdl-verilog.awk" "$tmp/cells" "$tmp/ghdl.v" > "$netlist" || exit 1 ;;
+        *) echo "no such model: $model"; exit 2 ;;
+    esac
+    grep -q "^module $module\b" "$netlist" || { echo "no module $module in its netlist"; exit 1; }
+    # The testbench's other modules stay what they are.
+    files=("$netlist" "${files[@]:1}" "$library/primitives.v")
+    words+=(-DTARVO_NO_TIMESCALE)
+fi
+iverilog -g2005 -Wall "${roots[@]}" -I "$here" -I "$here/checkers" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" \
+    -o "$tmp/bench" "${words[@]}" "${files[@]}" "$here"/checkers/*_checker.v "$here/$bench" || exit 1
 (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
 status=$?
 cat "$tmp/log"

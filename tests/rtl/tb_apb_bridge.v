@@ -11,7 +11,7 @@ module tb;
     wire [511:0] prdata_s;
     reg  [3:0]   hprot = 4'b0011;
 
-    ahb_to_apb #(.ADDR_WIDTH(24)) dut (
+    ahb_to_apb dut (
         .HCLK(clk), .HRESETn(rstn), .HSEL(haddr[31:24] == 8'h60), .HADDR(haddr[23:0]), .HTRANS(htrans), .HSIZE(hsize),
         .HPROT(hprot), .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready),
         .HRESP(hresp), .PADDR(paddr), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PSTRB(pstrb), .PPROT(pprot),

@@ -34,7 +34,9 @@ module tb;
     wire [31:0]  p_pwdata [1:16];
     wire [16:1]  p_psel, p_penable, p_pwrite, p_preset;
     wire [3:0]   p_pstrb [1:16];
-    reg  [1:0]   a_hresp = 2'b00;
+    reg          a_refuse = 1'b0;
+    reg  [6:1]   a_first = 6'd0, a_second = 6'd0;   // cycles of the answer RETRY
+    wire [6:1]   a_error = a_first | a_second;
     reg          p_slverr = 1'b0;
 
     Tarvo_ORIX_M1_Top dut (
@@ -49,22 +51,22 @@ module tb;
         .SD_CARD_INIT(sd_init), .SD_CHECKIN(1'b0), .SD_CHECKOUT(sd_check),
         .FLASH_SPI_CLK(f_clk), .FLASH_SPI_CSN(f_csn), .FLASH_SPI_MOSI(f_mosi), .FLASH_SPI_MISO(f_mosi),
         .FLASH_SPI_WPN(f_wpn), .FLASH_SPI_HOLDN(f_hold),
-        .AHB1HRDATA(32'hA0000001), .AHB1HREADYOUT(1'b1), .AHB1HRESP(a_hresp), .AHB1HADDR(a_haddr[1]), .AHB1HWDATA(a_hwdata[1]),
+        .AHB1HRDATA(32'hA0000001), .AHB1HREADYOUT(!a_first[1]), .AHB1HRESP({a_error[1], 1'b0}), .AHB1HADDR(a_haddr[1]), .AHB1HWDATA(a_hwdata[1]),
         .AHB1HSEL(a_hsel[1]), .AHB1HTRANS(a_htrans[1]), .AHB1HWRITE(a_hwrite[1]), .AHB1HREADYMUX(a_hready[1]),
         .AHB1HCLK(a_hclk[1]), .AHB1HRESET(a_hreset[1]),
-        .AHB2HRDATA(32'hA0000002), .AHB2HREADYOUT(1'b1), .AHB2HRESP(a_hresp), .AHB2HADDR(a_haddr[2]), .AHB2HWDATA(a_hwdata[2]),
+        .AHB2HRDATA(32'hA0000002), .AHB2HREADYOUT(!a_first[2]), .AHB2HRESP({a_error[2], 1'b0}), .AHB2HADDR(a_haddr[2]), .AHB2HWDATA(a_hwdata[2]),
         .AHB2HSEL(a_hsel[2]), .AHB2HTRANS(a_htrans[2]), .AHB2HWRITE(a_hwrite[2]), .AHB2HREADYMUX(a_hready[2]),
         .AHB2HCLK(a_hclk[2]), .AHB2HRESET(a_hreset[2]),
-        .AHB3HRDATA(32'hA0000003), .AHB3HREADYOUT(1'b1), .AHB3HRESP(a_hresp), .AHB3HADDR(a_haddr[3]), .AHB3HWDATA(a_hwdata[3]),
+        .AHB3HRDATA(32'hA0000003), .AHB3HREADYOUT(!a_first[3]), .AHB3HRESP({a_error[3], 1'b0}), .AHB3HADDR(a_haddr[3]), .AHB3HWDATA(a_hwdata[3]),
         .AHB3HSEL(a_hsel[3]), .AHB3HTRANS(a_htrans[3]), .AHB3HWRITE(a_hwrite[3]), .AHB3HREADYMUX(a_hready[3]),
         .AHB3HCLK(a_hclk[3]), .AHB3HRESET(a_hreset[3]),
-        .AHB4HRDATA(32'hA0000004), .AHB4HREADYOUT(1'b1), .AHB4HRESP(a_hresp), .AHB4HADDR(a_haddr[4]), .AHB4HWDATA(a_hwdata[4]),
+        .AHB4HRDATA(32'hA0000004), .AHB4HREADYOUT(!a_first[4]), .AHB4HRESP({a_error[4], 1'b0}), .AHB4HADDR(a_haddr[4]), .AHB4HWDATA(a_hwdata[4]),
         .AHB4HSEL(a_hsel[4]), .AHB4HTRANS(a_htrans[4]), .AHB4HWRITE(a_hwrite[4]), .AHB4HREADYMUX(a_hready[4]),
         .AHB4HCLK(a_hclk[4]), .AHB4HRESET(a_hreset[4]),
-        .AHB5HRDATA(32'hA0000005), .AHB5HREADYOUT(1'b1), .AHB5HRESP(a_hresp), .AHB5HADDR(a_haddr[5]), .AHB5HWDATA(a_hwdata[5]),
+        .AHB5HRDATA(32'hA0000005), .AHB5HREADYOUT(!a_first[5]), .AHB5HRESP({a_error[5], 1'b0}), .AHB5HADDR(a_haddr[5]), .AHB5HWDATA(a_hwdata[5]),
         .AHB5HSEL(a_hsel[5]), .AHB5HTRANS(a_htrans[5]), .AHB5HWRITE(a_hwrite[5]), .AHB5HREADYMUX(a_hready[5]),
         .AHB5HCLK(a_hclk[5]), .AHB5HRESET(a_hreset[5]),
-        .AHB6HRDATA(32'hA0000006), .AHB6HREADYOUT(1'b1), .AHB6HRESP(a_hresp), .AHB6HADDR(a_haddr[6]), .AHB6HWDATA(a_hwdata[6]),
+        .AHB6HRDATA(32'hA0000006), .AHB6HREADYOUT(!a_first[6]), .AHB6HRESP({a_error[6], 1'b0}), .AHB6HADDR(a_haddr[6]), .AHB6HWDATA(a_hwdata[6]),
         .AHB6HSEL(a_hsel[6]), .AHB6HTRANS(a_htrans[6]), .AHB6HWRITE(a_hwrite[6]), .AHB6HREADYMUX(a_hready[6]),
         .AHB6HCLK(a_hclk[6]), .AHB6HRESET(a_hreset[6]),
         .APB1PRDATA(32'hB0000001), .APB1PREDADY(1'b1), .APB1PSLVERR(p_slverr), .APB1PADDR(p_paddr[1]), .APB1PWDATA(p_pwdata[1]),
@@ -153,6 +155,8 @@ module tb;
     reg [3:0]  seen_strb;
     integer    k;
     always @(posedge clk) begin
+        a_first <= {6{a_refuse & htrans[1]}} & a_hsel & a_hready;
+        a_second <= a_first;
         if (htrans[1] && hready) begin seen_hsel <= a_hsel; for (k = 1; k <= 6; k = k + 1) if (a_hsel[k]) seen_addr <= a_haddr[k]; end
         if (|(p_psel & p_penable)) begin
             seen_psel <= p_psel;
@@ -217,13 +221,10 @@ module tb;
             check32(seen_hsel, 1 << (n - 1), "HSEL of the port");
             check32(seen_addr, ahb_base(n) + 32'hABC0, "whole address");
             check(!failed && waits == 0, "no error");
-            a_hresp = 2'b10;
-            haddr = ahb_base(n); htrans = 2'b10;
-            cycles(1);
-            htrans = 2'b00;
-            #1 check(hresp === 1'b1, "RETRY is an error too");
-            a_hresp = 2'b00;
-            cycles(1);
+            a_refuse = 1'b1;
+            ahb_transfer(ahb_base(n), 1'b0, 3'd2, 32'd0);
+            check(failed && waits == 1, "RETRY is an error too");
+            a_refuse = 1'b0;
         end
         // APB extension ports.
         for (n = 1; n <= 16; n = n + 1) begin

@@ -184,8 +184,11 @@ private:
         m_text += QLatin1String(
             "    task expect_bits(input [31:0] address, input [31:0] mask, input [31:0] value, "
             "input [8*48-1:0] what);\n        begin\n");
-        m_text += m_isAhb ? QLatin1String("            ahb_transfer(address, 1'b0, 3'd2, 32'd0);\n")
-                          : QLatin1String("            apb_read(address[11:0]);\n");
+        // As wide as a transfer that begins there may be.
+        m_text += m_isAhb
+                      ? QLatin1String("            ahb_transfer(address, 1'b0, address[0] ? 3'd0 "
+                                      ": address[1] ? 3'd1 : 3'd2, 32'd0);\n")
+                      : QLatin1String("            apb_read(address[11:0]);\n");
         m_text += QLatin1String(
             "            check32(rd & mask, value & mask, what);\n        end\n    endtask\n"
             "    task write_word(input [31:0] address, input [31:0] value);\n");
@@ -493,6 +496,16 @@ private:
     QString m_text;
 };
 
+// Slaves on the AHB extension ports that are always ready.
+QString idlePorts()
+{
+    QString text;
+    for (int n = 1; n <= 6; ++n)
+        text += QStringLiteral(", .AHB%1HRDATA(32'd0), .AHB%1HREADYOUT(1'b1), .AHB%1HRESP(2'b00)")
+                    .arg(n);
+    return text;
+}
+
 // The subsystem with everything on: each register at its address.
 QString subsystemBench(const QVector<Peripheral> &peripherals)
 {
@@ -500,12 +513,16 @@ QString subsystemBench(const QVector<Peripheral> &peripherals)
         "`include \"core_model.v\"\nmodule tb;\n`include \"bench.vh\"\n`include \"ahb_master.vh\"\n"
         "    reg hwRstn = 1'b0;\n"
         "    tri0 flash;\n"
+        "    tri0 [15:0] pins;\n"
         "    tri1 srst;\n"
         "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .JTAG_15(srst), .UART0RXD(1'b1), "
         ".UART1RXD(1'b1), "
         ".TIMER0EXTIN(1'b0), .TIMER1EXTIN(1'b0), .RTCSRCCLK(1'b0), .MISO(1'b0), .SD_SPICLK(1'b0), "
         ".SD_DATAIN(1'b0), "
-        ".SD_CHECKIN(1'b1), .FLASH_SPI_MISO(flash));\n"
+        ".SD_CHECKIN(1'b1), .FLASH_SPI_MISO(flash), .GPIO(pins)");
+    text += idlePorts();
+    text += QLatin1String(
+        ");\n"
         "    assign hready = dut.u_core.HREADY;\n"
         "    assign hresp  = dut.u_core.HRESP;\n"
         "    assign hrdata = dut.u_core.HRDATA;\n"
@@ -631,7 +648,7 @@ QVector<QPair<QString, QString>> notesOfTop()
     return notes;
 }
 
-// Compiles and runs; the text that is wrong about it, or nothing.
+// Compiles and runs under the rules of the buses; the text that is wrong about it, or nothing.
 QString simulate(const QString &bench, const QStringList &sources)
 {
     const QTemporaryDir dir;
@@ -643,6 +660,8 @@ QString simulate(const QString &bench, const QStringList &sources)
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
                               QStringLiteral("-y" RTL_DIR), QStringLiteral("-I" RTL_TESTS_DIR),
+                              QStringLiteral("-I" RTL_TESTS_DIR "/checkers"),
+                              QStringLiteral("-y" RTL_TESTS_DIR "/checkers"),
                               QStringLiteral("-I" RTL_DIR), QStringLiteral("-o"),
                               QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
@@ -734,7 +753,8 @@ static QStringList subsystemSources(const QTemporaryDir &folder)
         if (!file.startsWith(folder.path()) && !file.endsWith(QLatin1String("/cortex_m1_core.v")))
             sources.append(file);
     }
-    return sources;
+    return sources + QStringList{QStringLiteral("-s"), QStringLiteral("bus_watch"),
+                                 QStringLiteral(RTL_TESTS_DIR "/checkers/bus_watch.v")};
 }
 
 void tst_RegistersInRtl::instancesStandAtTheirAddresses()
@@ -782,9 +802,12 @@ void tst_RegistersInRtl::theGuidesMapIsTheSubsystems()
         "`include \"core_model.v\"\n`include \"define.vh\"\nmodule tb;\n`include \"bench.vh\"\n"
         "`include \"ahb_master.vh\"\n    reg hwRstn = 1'b0;\n    reg [15:0] psel = 16'd0;\n"
         "    tri1 srst;\n    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .JTAG_15(srst), "
-        ".EXTFLASH0HREADYOUT(1'b1), .EXTFLASH0HRESP(2'b00)");
+        ".EXTFLASH0HRDATA(32'd0), .EXTFLASH0HREADYOUT(1'b1), .EXTFLASH0HRESP(2'b00), "
+        ".EXTSRAM0HRDATA(32'd0), .EXTSRAM0HREADYOUT(1'b1), .EXTSRAM0HRESP(2'b00)");
+    text += idlePorts();
     for (int n = 1; n <= 16; ++n)
-        text += QStringLiteral(", .APB%1PREDADY(1'b1), .APB%1PSLVERR(1'b0)").arg(n);
+        text += QStringLiteral(", .APB%1PRDATA(32'd0), .APB%1PREDADY(1'b1), .APB%1PSLVERR(1'b0)")
+                    .arg(n);
     text += QLatin1String(
         ");\n"
         "    assign hready = dut.u_core.HREADY;\n"
