@@ -33,6 +33,7 @@
 //   I2C                         0x5000C000    6
 //   SPI                         0x5000D000    8
 //   SD                          0x5000E000    11
+//   SYS                         0x5000F000    17 (there whenever any other is)
 //
 //   Other interrupts: GPIO 4, CAN 9, Ethernet 10, EXTINT[3:0] 15 to 12.
 `ifndef ORIX_DEFINE
@@ -87,6 +88,7 @@
 `define ORIX_P_I2C    12
 `define ORIX_P_SPI    13
 `define ORIX_P_SD     14
+`define ORIX_P_SYS    15
 
 // Interrupt inputs of the processor.
 `define ORIX_IRQ_UART0  0
@@ -103,5 +105,9 @@
 `define ORIX_IRQ_SD     11
 `define ORIX_IRQ_EXTINT 12
 `define ORIX_IRQ_TRNG   16
+`define ORIX_IRQ_SYS    17
+
+// Wait states of a bus transfer that end it with an error response, after a reset and without SYS; 0 for no limit.
+`define ORIX_BUS_TIMEOUT 16'hFFFF
 
 `endif
