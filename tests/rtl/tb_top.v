@@ -255,7 +255,8 @@ module tb;
         // System control: what there is, and what failed.
         ahb_expect(SYS + 32'hFFC, 32'h0000020B, "ID of SYS");
         ahb_expect(SYS + 24, 32'hF5773FFF, "blocks of the configuration");
-        ahb_expect(SYS + 28, 32'hFFFF6620, "ports, memories and interrupts of it");
+        ahb_expect(SYS + 28, 32'h00060620, "memories and interrupts of it");
+        ahb_expect(SYS + 32, 32'h0000FFFF, "APB extension ports of it");
         ahb_expect(SYS, 32'h00000001, "power-on is the cause of the reset");
         expect_error(32'h50010000, 32'h00000103, "beyond the APB peripherals: unmapped");
         ahb_transfer(32'h50003004, 1'b1, 3'd0, 32'd0);

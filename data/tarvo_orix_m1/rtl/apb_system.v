@@ -2,7 +2,8 @@
 // Registers: registers/sys.json.
 //   TIMEOUT  BUSTIMEOUT after a reset
 //   BLOCKS   register BLOCKS: a bit for each block that the configuration has
-//   CONFIG   register CONFIG: further constants of the configuration
+//   CONFIG   register CONFIG: interrupts and sizes of memories of the configuration
+//   PORTS    register PORTS: a bit for each APB extension port
 //
 // What tells of the past lives in the power-on domain, so that a program can read it after the reset that it led to.
 // The pin hwRstn makes every power-on reset.  The first one since the device was configured is told from the others by a
@@ -10,7 +11,8 @@
 module apb_system #(
     parameter [15:0] TIMEOUT = 16'hFFFF,
     parameter [31:0] BLOCKS  = 32'd0,
-    parameter [31:0] CONFIG  = 32'd0
+    parameter [31:0] CONFIG  = 32'd0,
+    parameter [15:0] PORTS   = 16'd0
 ) (
     input  wire        PCLK,
     input  wire        PRESETn,
@@ -125,6 +127,7 @@ module apb_system #(
             12'h014: PRDATA = scratch;
             12'h018: PRDATA = BLOCKS;
             12'h01C: PRDATA = CONFIG;
+            12'h020: PRDATA = {16'd0, PORTS};
             12'hFFC: PRDATA = ID;
             default: PRDATA = 32'd0;
         endcase

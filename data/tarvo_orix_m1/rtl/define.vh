@@ -19,7 +19,7 @@
 //   0xA0000000 - 0xBFFFFFFF     512 MB    DDR3                      AHB
 //   everything else                       error response
 //
-// A block that is not configured answers like an unmapped address.
+// A block that is not configured answers like an unmapped address.  SYS is there with any other on its bus.
 //
 //   Internal APB peripheral     Base          Interrupt
 //   TIMER0                      0x50000000    2
@@ -33,7 +33,7 @@
 //   I2C                         0x5000C000    6
 //   SPI                         0x5000D000    8
 //   SD                          0x5000E000    11
-//   SYS                         0x5000F000    17 (there whenever any other is)
+//   SYS                         0x5000F000    17
 //
 //   Other interrupts: GPIO 4, CAN 9, Ethernet 10, EXTINT[3:0] 15 to 12.
 `ifndef ORIX_DEFINE
