@@ -152,6 +152,8 @@ clock apb_rtc.v s/(wire \[31:0\] next = )(seconds [+] 32'd1)/\1(\2) \& 32'hFFFFF
 clock apb_rtc.v s/part [+] 24'd1/(part + 24'd1) | 24'h000004/
 watchdog apb_watchdog.v s/reset_req <= expire/reset_req <= 1'b0/
 watchdog apb_watchdog.v s/(assign nmi += )pend/\11'b0/
+watchdog apb_system.v s/[{]reset_cause, /{4'd0, /
+watchdog apb_system.v s/scratch <= [(]scratch & ~mask[)]/scratch <= 32'd0;\/\/ /
 loopback apb_spi.v s/\{24'd0, rx_data\}/{24'd0, rx_data | 8'h10}/
 loopback spi_engine.v s/\{shift_in\[6:0\], miso\}/{shift_in[6:0], 1'b0}/
 timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
