@@ -107,6 +107,29 @@
 `define ORIX_IRQ_TRNG   16
 `define ORIX_IRQ_SYS    17
 
+// What the stand-ins of licensed blocks answer: the first word (of every 16 MB) reads as "NONE" in ASCII, and all other
+// accesses get an error response; here the logic of those with an AHB-Lite port.
+`define ORIX_ABSENT 32'h4E4F4E45
+`define ORIX_AHB_ABSENT                                                                           \
+    reg absent_first;                                                                             \
+    reg absent_second;                                                                            \
+    reg absent_word;                                                                              \
+    wire absent_access = HREADY & HSEL & HTRANS[1];                                               \
+    wire absent_known  = ~HWRITE & (HADDR[23:2] == 22'd0);                                        \
+    always @(posedge HCLK or negedge HRESETn)                                                     \
+        if (!HRESETn) begin                                                                       \
+            absent_first  <= 1'b0;                                                                \
+            absent_second <= 1'b0;                                                                \
+            absent_word   <= 1'b0;                                                                \
+        end else begin                                                                            \
+            absent_first  <= absent_access & ~absent_known;                                       \
+            absent_second <= absent_first;                                                        \
+            absent_word   <= absent_access & absent_known;                                        \
+        end                                                                                       \
+    assign HRDATA    = absent_word ? `ORIX_ABSENT : 32'd0;                                        \
+    assign HREADYOUT = ~absent_first;                                                             \
+    assign HRESP     = absent_first | absent_second;
+
 // Wait states of a bus transfer that end it with an error response, after a reset and without SYS; 0 for no limit.
 `define ORIX_BUS_TIMEOUT 16'hFFFF
 
