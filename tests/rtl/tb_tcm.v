@@ -19,6 +19,11 @@ module tb;
     `TCM_MODULE #(.SIZE(4'd1), .INIT_EN(1), .INIT_PATH(`PROGRAM_DIR)) loaded (
         .HCLK(clk), .en(en), .we(we), .addr(addr), .wdata(wdata), .rdata(program_rdata)
     );
+    // A size from which on each lane is a memory of its own; the program fills its start.
+    wire [31:0] large_rdata;
+    `TCM_MODULE #(.SIZE(4'd4), .INIT_EN(1), .INIT_PATH(`PROGRAM_DIR)) loaded_large (
+        .HCLK(clk), .en(en), .we(we), .addr(addr), .wdata(wdata), .rdata(large_rdata)
+    );
 `endif
 
     task write(input [17:0] a, input [3:0] lanes, input [31:0] d);
@@ -43,10 +48,15 @@ module tb;
         for (n = 0; n < 4; n = n + 1) begin
             read(n);
             check32(program_rdata, {8'h30 + n[7:0], 8'h20 + n[7:0], 8'h10 + n[7:0], 8'h00 + n[7:0]}, "program word");
+            check32(large_rdata, program_rdata, "the same in a larger memory");
         end
         write(18'd1, 4'b0100, 32'h00EE0000);
         read(18'd1);
         check32(program_rdata, 32'h31EE1101, "a program can be overwritten");
+        check32(large_rdata, 32'h31EE1101, "in a larger memory too");
+        write(18'd255, 4'hF, 32'hC3D2E1F0);
+        read(18'd1);
+        check32(program_rdata, 32'h31EE1101, "the ends of the lanes do not touch");
 `endif
         check32(rdata[0], 32'd0, "size 0 reads as zero");
         // Address bits beyond the size must not matter, all others must: write the highest word of each size last.
@@ -72,6 +82,10 @@ module tb;
             read(18'd7);
             check32(rdata[6], {n[3] ? 8'hDD : 8'h44, n[2] ? 8'hCC : 8'h33, n[1] ? 8'hBB : 8'h22, n[0] ? 8'hAA : 8'h11},
                     "byte enables");
+`ifdef TCM_HAS_PROGRAM
+            check32(program_rdata, rdata[6], "byte enables of a memory with a program");
+            check32(large_rdata, rdata[6], "byte enables of a larger memory with a program");
+`endif
         end
         // Without enable nothing is read or written, and a write leaves the read data alone.
         write(18'd8, 4'hF, 32'h12345678);

@@ -1,5 +1,4 @@
 // Tightly coupled data memory of the 1- and 2-series devices, for a processor without debug.
-// The block RAM of this family has no byte enables in its wide modes, so each byte lane is a memory of its own.
 //
 // SIZE is the 4-bit size code: 1 is 1 KB, and every step doubles it up to 10, 512 KB; 0 (no memory) reads as zero.
 module dtcm #(
@@ -19,20 +18,8 @@ module dtcm #(
             assign rdata = 32'd0;
         end else begin : g_ram
             wire [AW-1:0] word = addr[AW-1:0];
-            wire [31:0]   ram_rdata;
-            assign rdata = ram_rdata;
-
-            tcm_ram #(.LANES(1), .ADDR_WIDTH(AW)) u_lane0 (
-                .clk(HCLK), .en(en), .we(we[0]), .addr(word), .wdata(wdata[7:0]), .rdata(ram_rdata[7:0])
-            );
-            tcm_ram #(.LANES(1), .ADDR_WIDTH(AW)) u_lane1 (
-                .clk(HCLK), .en(en), .we(we[1]), .addr(word), .wdata(wdata[15:8]), .rdata(ram_rdata[15:8])
-            );
-            tcm_ram #(.LANES(1), .ADDR_WIDTH(AW)) u_lane2 (
-                .clk(HCLK), .en(en), .we(we[2]), .addr(word), .wdata(wdata[23:16]), .rdata(ram_rdata[23:16])
-            );
-            tcm_ram #(.LANES(1), .ADDR_WIDTH(AW)) u_lane3 (
-                .clk(HCLK), .en(en), .we(we[3]), .addr(word), .wdata(wdata[31:24]), .rdata(ram_rdata[31:24])
+            tcm_ram #(.ADDR_WIDTH(AW)) u_ram (
+                .clk(HCLK), .en(en), .we(we), .addr(word), .wdata(wdata), .rdata(rdata)
             );
         end
     endgenerate

@@ -1,5 +1,4 @@
 // Tightly coupled data memory of the 3-series devices, for a processor without debug.
-// The block RAM of this family has byte enables up to 16 bits, so the word is two half-word banks.
 //
 // SIZE is the 4-bit size code: 1 is 1 KB, and every step doubles it up to 10, 512 KB; 0 (no memory) reads as zero.
 module dtcm #(
@@ -19,14 +18,8 @@ module dtcm #(
             assign rdata = 32'd0;
         end else begin : g_ram
             wire [AW-1:0] word = addr[AW-1:0];
-            wire [31:0]   ram_rdata;
-            assign rdata = ram_rdata;
-
-            tcm_ram #(.LANES(2), .ADDR_WIDTH(AW)) u_bank0 (
-                .clk(HCLK), .en(en), .we(we[1:0]), .addr(word), .wdata(wdata[15:0]), .rdata(ram_rdata[15:0])
-            );
-            tcm_ram #(.LANES(2), .ADDR_WIDTH(AW)) u_bank1 (
-                .clk(HCLK), .en(en), .we(we[3:2]), .addr(word), .wdata(wdata[31:16]), .rdata(ram_rdata[31:16])
+            tcm_ram #(.ADDR_WIDTH(AW)) u_ram (
+                .clk(HCLK), .en(en), .we(we), .addr(word), .wdata(wdata), .rdata(rdata)
             );
         end
     endgenerate

@@ -1,5 +1,4 @@
 // Tightly coupled data memory of the 5-series devices, for a processor without debug.
-// The block RAM of this family has byte enables in its 32-bit mode, so the word is one bank.
 //
 // SIZE is the 4-bit size code: 1 is 1 KB, and every step doubles it up to 10, 512 KB; 0 (no memory) reads as zero.
 module dtcm #(
@@ -19,11 +18,8 @@ module dtcm #(
             assign rdata = 32'd0;
         end else begin : g_ram
             wire [AW-1:0] word = addr[AW-1:0];
-            wire [31:0]   ram_rdata;
-            assign rdata = ram_rdata;
-
-            tcm_ram #(.LANES(4), .ADDR_WIDTH(AW)) u_bank0 (
-                .clk(HCLK), .en(en), .we(we[3:0]), .addr(word), .wdata(wdata[31:0]), .rdata(ram_rdata[31:0])
+            tcm_ram #(.ADDR_WIDTH(AW)) u_ram (
+                .clk(HCLK), .en(en), .we(we), .addr(word), .wdata(wdata), .rdata(rdata)
             );
         end
     endgenerate

@@ -1,5 +1,4 @@
 // Tightly coupled data memory for a processor with debug.
-// The word is one memory with byte enables.
 //
 // The debugger's port shares the one memory port with the processor, which always comes first: a debug access is taken
 // in the first cycle without a processor access, and dbg_ready is 1 in that cycle; its read data follows after the
@@ -36,11 +35,8 @@ module dtcmdbg #(
             wire [3:0]    we    = core_en ? core_we : dbg_we;
             wire [AW-1:0] word  = core_en ? core_addr[AW-1:0] : dbg_addr[AW-1:0];
             wire [31:0]   wdata = core_en ? core_wdata : dbg_wdata;
-            wire [31:0]   ram_rdata;
-            assign rdata = ram_rdata;
-
-            tcm_ram #(.LANES(4), .ADDR_WIDTH(AW)) u_bank0 (
-                .clk(HCLK), .en(en), .we(we[3:0]), .addr(word), .wdata(wdata[31:0]), .rdata(ram_rdata[31:0])
+            tcm_ram #(.ADDR_WIDTH(AW)) u_ram (
+                .clk(HCLK), .en(en), .we(we), .addr(word), .wdata(wdata), .rdata(rdata)
             );
         end
     endgenerate

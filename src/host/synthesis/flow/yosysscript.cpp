@@ -1,5 +1,6 @@
 #include "yosysscript.h"
 
+#include "netlist/design.h"
 #include "netlist/library.h"
 #include "run/scratchfolder.h"
 #include "run/sourcestage.h"
@@ -99,10 +100,15 @@ QByteArray YosysScript::reading(const SourceStage &sources, const QString &top)
            readSources(sources, top)
            // One module: no name depends on how a parameter is spelled, and tri-states meet their
            // pins.
-           + "setattr -mod -unset keep_hierarchy\n"
-             // Before anything takes "not driven" for "does not matter".
-             "proc -noopt\n"
-             "techmap -map " +
+           +
+           "setattr -mod -unset keep_hierarchy\n"
+           // Before anything takes "not driven" for "does not matter".
+           "proc -noopt\n"
+           // The flip-flops themselves, since a wire of the same net may come to stand for theirs.
+           "setattr -set " +
+           QByteArray(crossingAttribute) + " \"true\" a:" + crossingAttribute +
+           " %ci1 t:$*dff* %i\n"
+           "techmap -map " +
            scratch("map_tristate.v") +
            "\n"
            "tribuf\n"
@@ -166,7 +172,10 @@ QByteArray YosysScript::mapping(const QString &top, Language language)
            "hierarchy -top " +
            topName +
            " -purge_lib\n"
-           "write_verilog -noattr " +
+           "rename -wire -suffix _reg a:" +
+           crossingAttribute +
+           "\nsetattr -unset src -unset hdlname -unset module_not_derived\n"
+           "write_verilog " +
            scratch(netlist) + "\n" + furtherNetlist(language) + "delete" + primitives +
            "\n"
            "write_json " +

@@ -123,6 +123,8 @@ QString readThing(const QByteArray &name, const QJsonObject &json, Design::Cell 
 {
     cell->name = name;
     cell->isHidden = entry(json, "hide_name").toInt() != 0;
+    cell->isCrossing =
+        entry(json, "attributes").toObject().contains(QLatin1String(crossingAttribute));
     cell->type = entry(json, "type").toString().toUtf8();
     cell->parameters = readParameters(entry(json, "parameters"));
     const QJsonObject directions = entry(json, "port_directions").toObject();

@@ -8,6 +8,10 @@
 namespace Synthesis
 {
 
+// The attribute of flip-flops that take a signal from another clock or from a pin, which sources
+// set and netlists keep: what places and routes a netlist keeps such flip-flops close together.
+constexpr char crossingAttribute[] = "async_reg";
+
 // A port of a module.
 struct Port {
     QByteArray name;
@@ -57,7 +61,8 @@ struct Design {
     };
     struct Cell {
         QByteArray name;
-        bool isHidden = false; // the tool has made the name up
+        bool isHidden = false;   // the tool has made the name up
+        bool isCrossing = false; // has crossingAttribute
         QByteArray type;
         QVector<Parameter> parameters;
         QVector<CellPort> ports;

@@ -95,6 +95,25 @@ QByteArray oneLine(QByteArray text)
     return text.replace('\n', ' ').replace('\r', ' ');
 }
 
+// Of the lines with an attribute of the tool's text, those that matter behind it.
+QByteArray withCrossingsOnly(const QByteArray &netlist)
+{
+    QByteArray result;
+    result.reserve(netlist.size());
+    for (int from = 0; from < netlist.size();) {
+        int end = netlist.indexOf('\n', from);
+        end = end < 0 ? netlist.size() : end + 1;
+        const char *at = netlist.constData() + from;
+        while (*at == ' ')
+            ++at;
+        const bool isAttribute = qstrncmp(at, "(* ", 3) == 0;
+        if (!isAttribute || qstrncmp(at + 3, crossingAttribute, qstrlen(crossingAttribute)) == 0)
+            result.append(netlist.constData() + from, end - from);
+        from = end;
+    }
+    return result;
+}
+
 } // namespace
 
 QByteArray verilogNetlist(const QByteArray &title, const QByteArray &body,
@@ -106,7 +125,7 @@ QByteArray verilogNetlist(const QByteArray &title, const QByteArray &body,
     QByteArray text = "// " + oneLine(title) + "\n\n" + verilogTimeScale() +
                       "// Bits of a vector may depend on each other without being a loop.\n"
                       "/* verilator lint_off UNOPTFLAT */\n\n" +
-                      netlist.trimmed() + '\n';
+                      withCrossingsOnly(netlist.trimmed()) + '\n';
     for (const BlackBox &box : blackBoxes)
         text += '\n' + declaration(box);
     return text;

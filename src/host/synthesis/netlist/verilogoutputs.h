@@ -11,8 +11,9 @@ namespace Synthesis
 // The Verilog texts that a run leaves. Another output language is a file like this one beside it.
 
 // `body` is the netlist as the tool wrote it; its leading comment, which names the tool's build, is
-// replaced by one that says `title`. Black boxes follow as modules without contents, marked by an
-// attribute, each unless the macro HAVE_ and its name says that it is there.
+// replaced by one that says `title`, and of its attributes only crossingAttribute stays. Black
+// boxes follow as modules without contents, marked by an attribute, each unless the macro HAVE_ and
+// its name says that it is there.
 QByteArray verilogNetlist(const QByteArray &title, const QByteArray &body,
                           const QVector<BlackBox> &blackBoxes);
 

@@ -145,12 +145,14 @@ CellPorts cellPorts(const QVector<Design::Cell> &cells, const QVector<BlackBox> 
 }
 
 QByteArray vhdlInstances(const QVector<Design::Cell> &cells, const CellPorts &ports,
-                         const VhdlGenerics &generics, VhdlSignals *nets)
+                         const VhdlGenerics &generics, VhdlSignals *nets, QByteArrayList *crossings)
 {
     QByteArray text;
     for (const Design::Cell &cell : cells) {
         VhdlNames &names = nets->names();
         const QByteArray label = cell.isHidden ? names.addNumbered("u") : names.add(cell.name);
+        if (cell.isCrossing)
+            *crossings << label;
         text += "    " + label + " : " + vhdlName(cell.type) + '\n' + genericMap(cell, generics) +
                 portMap(cell, ports.value(cell.type), nets);
         if (text.endsWith(")\n"))

@@ -3,6 +3,8 @@
 #include "vhdlgenerics.h"
 #include "vhdlsignals.h"
 
+#include <QByteArrayList>
+
 namespace Synthesis
 {
 
@@ -10,8 +12,10 @@ namespace Synthesis
 // primitives with the widths of their connections.
 CellPorts cellPorts(const QVector<Design::Cell> &cells, const QVector<BlackBox> &blackBoxes);
 
-// The instances of an architecture. Adds signals for what is connected to a constant.
+// The instances of an architecture. Adds signals for what is connected to a constant, and to
+// `crossings` the labels of the flip-flops that have crossingAttribute.
 QByteArray vhdlInstances(const QVector<Design::Cell> &cells, const CellPorts &ports,
-                         const VhdlGenerics &generics, VhdlSignals *nets);
+                         const VhdlGenerics &generics, VhdlSignals *nets,
+                         QByteArrayList *crossings);
 
 } // namespace Synthesis

@@ -209,8 +209,8 @@ QByteArray VhdlNames::addNumbered(const QByteArray &stem)
 const QByteArrayList &vhdlPredefined()
 {
     static const QByteArrayList names{
-        "ieee",    "std",    "work",      "std_logic_1164", "std_logic", "std_logic_vector",
-        "integer", "string", "character", "netlist"};
+        "ieee",    "std",    "work",      "std_logic_1164", "std_logic",      "std_logic_vector",
+        "integer", "string", "character", "netlist",        crossingAttribute};
     return names;
 }
 

@@ -88,6 +88,18 @@ QByteArray entityOf(const BlackBox &box, const VhdlGenerics &generics)
            vhdlStandIn(name, box.ports, vhdlPortNames(box.ports));
 }
 
+// Of an architecture: what marks the instances with these labels as crossings.
+QByteArray attributesOf(const QByteArrayList &crossings)
+{
+    if (crossings.isEmpty())
+        return {};
+    const QByteArray name = crossingAttribute;
+    QByteArray text = "    attribute " + name + " : string;\n";
+    for (const QByteArray &label : crossings)
+        text += "    attribute " + name + " of " + label + " : label is \"true\";\n";
+    return text;
+}
+
 QByteArray oneLine(QByteArray text)
 {
     return text.replace('\n', ' ').replace('\r', ' ');
@@ -117,7 +129,9 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
     const CellPorts portsOfCells = cellPorts(module->cells, blackBoxes);
     const VhdlGenerics generics(module->cells, blackBoxes);
     VhdlSignals nets(*module, ports, portsOfCells, names);
-    const QByteArray instances = vhdlInstances(module->cells, portsOfCells, generics, &nets);
+    QByteArrayList crossings;
+    const QByteArray instances =
+        vhdlInstances(module->cells, portsOfCells, generics, &nets, &crossings);
 
     const QByteArray comment = "-- " + oneLine(title) + "\n\n";
     QByteArray components;
@@ -133,11 +147,11 @@ QString vhdlNetlist(const QByteArray &title, const QByteArray &design, const QBy
     }
     const QByteArray name = vhdlName(top);
     // Editions before 2008 bind a component to an entity that is directly visible only.
-    const QByteArray body = QByteArray(VhdlText::context) + "use work.all;\n\nentity " + name +
-                            " is\n" + VhdlText::portClause(ports) +
-                            "end entity;\n\narchitecture netlist of " + name + " is\n" +
-                            VhdlText::indented(components, "    ") + nets.declarations() +
-                            "begin\n" + nets.assignments() + instances + "end architecture;\n";
+    const QByteArray body =
+        QByteArray(VhdlText::context) + "use work.all;\n\nentity " + name + " is\n" +
+        VhdlText::portClause(ports) + "end entity;\n\narchitecture netlist of " + name + " is\n" +
+        VhdlText::indented(components, "    ") + nets.declarations() + attributesOf(crossings) +
+        "begin\n" + nets.assignments() + instances + "end architecture;\n";
     result->netlist = comment + body;
     result->model = comment + models + '\n' + body;
     return {};

@@ -41,6 +41,29 @@ const QByteArray namesDesign =
     "    analog #(.TRIM(4'b0110)) other (.clk_(clk), .level__o(nothing[0]));\n"
     "endmodule\n";
 
+// Signals that come from elsewhere: two flip-flops each, in a module that stands twice, of which
+// one is followed by the same signal under other names; a port is called as the attribute is.
+const QByteArray crossingsDesign =
+    "module sync #(parameter WIDTH = 1) (input clk, input rstn, input [WIDTH-1:0] d, output "
+    "[WIDTH-1:0] q);\n"
+    "    (* async_reg = \"true\" *) reg [WIDTH-1:0] meta;\n"
+    "    (* async_reg = \"true\" *) reg [WIDTH-1:0] stable;\n"
+    "    always @(posedge clk or negedge rstn)\n"
+    "        if (!rstn) begin meta <= 0; stable <= 0; end\n"
+    "        else begin meta <= d; stable <= meta; end\n"
+    "    assign q = stable;\n"
+    "endmodule\n"
+    "module top (input clk, input rstn, input pin, input [2:0] pins, (* note = \"a pin\" *) output "
+    "level,\n"
+    "    output [2:0] levels, output reg risen, output async_reg);\n"
+    "    (* keep *) wire inner;\n"
+    "    sync u_pin (.clk(clk), .rstn(rstn), .d(pin), .q(inner));\n"
+    "    sync #(.WIDTH(3)) u_pins (.clk(clk), .rstn(rstn), .d(pins), .q(levels));\n"
+    "    assign level = inner;\n"
+    "    assign async_reg = !inner;\n"
+    "    always @(posedge clk or negedge rstn) if (!rstn) risen <= 0; else risen <= inner;\n"
+    "endmodule\n";
+
 void useVhdl(SynthesisRun &run)
 {
     run.job.options[QStringLiteral("write_vhdl")] = true;
@@ -118,12 +141,40 @@ private Q_SLOTS:
         }
     }
 
+    void namesAndMarksTheFlipFlopsOfCrossings()
+    {
+        SynthesisRun run;
+        useVhdl(run);
+        run.addSource(QStringLiteral("top.v"), crossingsDesign);
+        RUN_SUCCEEDS(run);
+        const QByteArray verilog = run.netlist();
+        const QByteArray vhdl = TestSupport::contentsOf(run.path(QStringLiteral(".vhg")));
+        const QByteArrayList names{"u_pin.meta",       "u_pin.stable",    "u_pins.meta[0]",
+                                   "u_pins.meta[1]",   "u_pins.meta[2]",  "u_pins.stable[0]",
+                                   "u_pins.stable[1]", "u_pins.stable[2]"};
+        for (const QByteArray &name : names) {
+            const QByteArray cell =
+                "  (* async_reg = \"true\" *)\n  TV_DFFC \\" + name + "_reg  (\n";
+            QVERIFY2(verilog.count(cell) == 1, QByteArray(cell + "in\n" + verilog).constData());
+            const QByteArray label = "\\" + name + "_reg\\";
+            QVERIFY2(vhdl.count("    " + label + " : TV_DFFC\n") == 1,
+                     QByteArray(label + "in\n" + vhdl).constData());
+            QCOMPARE(vhdl.count("    attribute async_reg of " + label + " : label is \"true\";\n"),
+                     1);
+        }
+        QCOMPARE(verilog.count("_reg  ("), names.size()); // that of "risen" is none of them
+        QCOMPARE(vhdl.count("attribute async_reg of "), names.size());
+        // No other attribute gets through.
+        QCOMPARE(verilog.count("(*"), verilog.count("(* async_reg = \"true\" *)"));
+    }
+
     void isTakenByEveryEdition_data()
     {
         QTest::addColumn<QByteArray>("source");
         QTest::newRow("a little of everything")
             << TestSupport::contentsOf(QStringLiteral(DESIGNS_DIR "/small.v"));
         QTest::newRow("odd names") << namesDesign;
+        QTest::newRow("clock crossings") << crossingsDesign;
         QTest::newRow("no instances") << QByteArray(
             "module top (input a, output [3:0] y);\n    assign y[2] = a;\nendmodule\n");
     }
