@@ -829,10 +829,11 @@ private Q_SLOTS:
         QFETCH(QString, block);
         TestSupport::write(path("x.ipc"),
                            plain + "Enable%20CAN=true\nCAN_BUFFER_DEPTH=256\nEnable%20TRNG=true\n");
-        TestSupport::write(path("main.c"),
-                           "void HardFault_Handler(void) { __asm__ volatile(\"bkpt 9\"); }\n"
-                           "int main(void) { return *(volatile int *)" +
-                               address + " & 0; }\n");
+        TestSupport::write(
+            path("main.c"),
+            "void HardFault_Handler(void) { __asm__ volatile(\"bkpt 9\"); }\n"
+            "int main(void)\n{\n    volatile unsigned *block = (volatile unsigned *)" +
+                address + ";\n    return block[0] == 0x4E4F4E45u ? (int)(block[1] & 0u) : 3;\n}\n");
         const Run run = simulate(words({"x.ipc", "--c", "main.c", "--timeout", "5000"}));
         QVERIFY2(run.status == 1, qPrintable(run.err));
         QVERIFY2(run.err.contains(QLatin1String("BKPT 9")), qPrintable(run.err));

@@ -8,6 +8,7 @@
 #include "i2c.h"
 #include "rtc.h"
 #include "spi.h"
+#include "sys.h"
 #include "timer.h"
 #include "uart.h"
 #include "wdog.h"
@@ -580,15 +581,65 @@ static void expect_fault(const char *what, uint32_t address)
     check(what, fault_address, (uint32_t)(uintptr_t)read_word_here);
 }
 
+static volatile uint32_t bus_errors;
+static sys_error_t bus_error;
+
+void SYS_IRQHandler(void)
+{
+    bus_errors += sys_take_error(SYS, &bus_error);
+}
+
+/* Reads a word of an address, which faults, and is told afterwards. */
+static void expect_error(const char *what, uint32_t address, sys_cause_t cause)
+{
+    sys_error_t error;
+    expect_fault(what, address);
+    check(what, sys_take_error(SYS, &error), true);
+    check(what, error.address, address);
+    check(what, error.cause, cause);
+    check(what, error.bytes, 4u);
+    check(what, error.is_write, false);
+    check(what, error.is_fetch, false);
+    check(what, error.more, false);
+}
+
 static void use_errors(void)
 {
     const uint32_t before = faults;
     (void)read_word(AHB1_BASE);
     check("no fault", faults - before, 0u);
-    expect_fault("nothing between blocks", 0x50003000u);
-    expect_fault("nothing above DTCM", DTCM_BASE + DTCM_SIZE);
-    expect_fault("error of an extension port", APB2_BASE + 0x100u);
+    check("no error", sys_has_error(SYS), false);
+    expect_error("nothing between blocks", 0x50003000u, SYS_CAUSE_UNMAPPED);
+    expect_error("nothing above DTCM", DTCM_BASE + DTCM_SIZE, SYS_CAUSE_UNMAPPED);
+    expect_error("error of an extension port", APB2_BASE + 0x100u, SYS_CAUSE_SLAVE);
     expect_fault("not aligned", AHB1_BASE + 2u);
+    check("the bus does not see it", sys_has_error(SYS), false);
+    /* The port does not answer there at all; elsewhere it does, as before. */
+    sys_set_bus_timeout(SYS, 100u);
+    expect_error("no answer", APB2_BASE + 0x200u, SYS_CAUSE_TIMEOUT);
+    expect_error("no answer again", APB2_BASE + 0x200u, SYS_CAUSE_TIMEOUT);
+    check("answer", APB2_MEMORY[2], 0x1234AB78u);
+    sys_set_bus_timeout(SYS, 65535u);
+    sys_enable_error_interrupt(SYS, true);
+    NVIC_EnableIRQ(SYS_IRQn);
+    expect_fault("told by an interrupt", APB2_BASE + 0x100u);
+    wait_for(&bus_errors, 1u);
+    check("interrupt of an error", bus_errors, 1u);
+    check("address of the error", bus_error.address, APB2_BASE + 0x100u);
+    sys_enable_error_interrupt(SYS, false);
+}
+
+static void use_system(uint32_t causes)
+{
+    check("cause of the reset", sys_take_reset_causes(SYS), causes);
+    check("taken", sys_reset_causes(SYS), 0u);
+    check("UART0 is there", SYS->BLOCKS & SYS_BLOCKS_UART0_Msk, SYS_BLOCKS_UART0_Msk);
+    check("UART1 is there", SYS->BLOCKS & SYS_BLOCKS_UART1_Msk, SYS_BLOCKS_UART1_Msk);
+    check("TIMER1 is not", SYS->BLOCKS & SYS_BLOCKS_TIMER1_Msk, 0u);
+    check("APB extension ports", SYS->PORTS, 3u);
+    check("interrupts", (SYS->CONFIG & SYS_CONFIG_IRQS_Msk) >> SYS_CONFIG_IRQS_Pos, 32u);
+    check("kept", sys_kept(SYS), 0x5A000000u * RUNS);
+    sys_keep(SYS, 0x5A000000u * (RUNS + 1u));
 }
 
 static void use_watchdog(void)
@@ -614,6 +665,7 @@ int main(void)
 {
     const uint32_t run = RUNS;
     if (run == 0u) {
+        use_system(SYS_RESETCAUSE_POWERON_Msk);
         use_processor();
         use_gpio();
         use_external_interrupts();
@@ -631,8 +683,9 @@ int main(void)
             finish();
         gpio_write(GPIO, 0x00FFu, 0x00C3u);
         RUNS = 1u;
-        NVIC_SystemReset();
+        sys_reset();
     }
+    use_system(run == 1u ? SYS_RESETCAUSE_SOFTWARE_Msk : SYS_RESETCAUSE_WATCHDOG_Msk);
     check("reset of GPIO", GPIO->OUTEN, GPIO_OUTEN_RESET);
     check("reset of GPIO", GPIO->OUT, GPIO_OUT_RESET);
     check("reset of UART0", UART0->CTRL, UART_CTRL_RESET);

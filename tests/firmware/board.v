@@ -67,7 +67,7 @@ module board;
             ahb_rdata <= 32'hx;
     end
 
-    // The first APB port makes the bus wait, the second one answers with an error from 0x100 on.
+    // The first APB port makes the bus wait, the second one answers with an error at 0x100, and at 0x200 not at all.
     reg [1:0] apb1_wait = 2'd0;
     wire      apb1_ready = apb1_wait == 2'd3;
     always @(posedge clk) begin
@@ -77,7 +77,7 @@ module board;
             if (apb1_write)
                 apb1_memory[apb1_addr[5:2]] <= merged(apb1_memory[apb1_addr[5:2]], apb1_wdata, apb1_strb);
         end
-        if (apb2_sel && apb2_enable && apb2_addr[19:6] != 14'd0 && apb2_addr[19:0] != 20'h100) strays = strays + 1;
+        if (apb2_sel && apb2_enable && apb2_addr[19:6] != 14'd0 && apb2_addr[19:0] != 20'h100 && apb2_addr[19:0] != 20'h200) strays = strays + 1;
         if (apb2_sel && apb2_enable && apb2_write)
             apb2_memory[apb2_addr[5:2]] <= merged(apb2_memory[apb2_addr[5:2]], apb2_wdata, apb2_strb);
     end
@@ -193,7 +193,7 @@ module board;
         .APB1PADDR(apb1_addr), .APB1PSEL(apb1_sel), .APB1PENABLE(apb1_enable), .APB1PWRITE(apb1_write), .APB1PSTRB(apb1_strb),
         .APB1PWDATA(apb1_wdata), .APB1PRDATA(apb1_rdata), .APB1PREDADY(apb1_ready), .APB1PSLVERR(1'b0),
         .APB2PADDR(apb2_addr), .APB2PSEL(apb2_sel), .APB2PENABLE(apb2_enable), .APB2PWRITE(apb2_write), .APB2PSTRB(apb2_strb),
-        .APB2PWDATA(apb2_wdata), .APB2PRDATA(apb2_rdata), .APB2PREDADY(1'b1), .APB2PSLVERR(apb2_addr[8])
+        .APB2PWDATA(apb2_wdata), .APB2PRDATA(apb2_rdata), .APB2PREDADY(~apb2_addr[9]), .APB2PSLVERR(apb2_addr[8])
     );
     wire lockup;
 

@@ -156,6 +156,8 @@ clock apb_rtc.v s/(wire \[31:0\] next = )(seconds [+] 32'd1)/\1(\2) \& 32'hFFFFF
 clock apb_rtc.v s/part [+] 24'd1/(part + 24'd1) | 24'h000004/
 watchdog apb_watchdog.v s/reset_req <= expire/reset_req <= 1'b0/
 watchdog apb_watchdog.v s/(assign nmi += )pend/\11'b0/
+watchdog apb_system.v s/[{]reset_cause, /{4'd0, /
+watchdog apb_system.v s/scratch <= [(]scratch & ~mask[)]/scratch <= 32'd0;\/\/ /
 loopback apb_spi.v s/= rx_oldest/= rx_oldest | 8'h10/
 loopback apb_spi.v s/top_bit <= top_written/top_bit <= top_written \& 6'h3E/
 loopback spi_word_shifter.v s/(loop \? mosi : )miso/\11'b0/

@@ -173,6 +173,9 @@ mistake tarvo_orix_m1.h 's/EXTINT1_IRQn = 13/EXTINT1_IRQn = 11/'
 mistake tarvo_orix_m1.h 's/^(#define I2C_FIFO_STOP_Msk +).*/\10x40000u/'
 # A driver that forgets to wait.
 mistake drivers/spi.c 's/SPI_STATUS_DONE_Msk/SPI_STATUS_BUSY_Msk/'
+# A driver that forgets to clear.
+mistake drivers/sys.c 's/sys->RESETCAUSE = causes;//'
+mistake drivers/sys.c 's/sys->ERRINFO = SYS_ERRINFO_VALID_Msk \| /sys->ERRINFO = /'
 # Two handlers in each other's place.
 mistake startup_tarvo_orix_m1.c 's/SVC_Handler, /@/; s/PendSV_Handler, /SVC_Handler, /; s/@/PendSV_Handler, /'
 

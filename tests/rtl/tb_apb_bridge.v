@@ -1,4 +1,5 @@
-// AHB-to-APB bridge with the APB multiplexer: protocol order, strobes, wait states, errors, slots.
+// AHB-to-APB bridge with the APB multiplexer: protocol order, strobes, wait states, errors, slots, peripherals that do
+// not answer.
 module tb;
 `include "bench.vh"
 `include "ahb_master.vh"
@@ -11,27 +12,38 @@ module tb;
     wire [511:0] prdata_s;
     reg  [3:0]   hprot = 4'b0011;
 
+    // What the interconnect does: wait states of a transfer are counted.
+    integer      limit = 0, waited = 0;
+    reg          late = 1'b0;
+    always @(posedge clk) begin
+        waited <= hready === 1'b1 ? 0 : waited + 1;
+        late <= hready !== 1'b1 && waited == limit - 1;
+    end
+    wire         vacant, expired;
+
     ahb_to_apb dut (
         .HCLK(clk), .HRESETn(rstn), .HSEL(haddr[31:24] == 8'h60), .HADDR(haddr[23:0]), .HTRANS(htrans), .HSIZE(hsize),
         .HPROT(hprot), .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready),
-        .HRESP(hresp), .PADDR(paddr), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PSTRB(pstrb), .PPROT(pprot),
+        .HRESP(hresp), .late(late), .expired(expired), .PADDR(paddr), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PSTRB(pstrb), .PPROT(pprot),
         .PWDATA(pwdata), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)
     );
 
     // Sixteen slots, slot 9 disabled; each is a register that waits "delay" cycles and fails at offset 0xFC.
     reg [31:0] store [0:15];
     integer delay = 0, count = 0;
-    wire slave_ready = count >= delay;
+    reg  silent = 1'b0;   // answers nothing: `floating` for ever
+    reg  floating = 1'b0;
+    wire slave_ready = silent ? floating : count >= delay;
     wire slave_error = paddr[7:0] == 8'hFC;
     apb_mux #(.ADDR_WIDTH(24), .SLOT_LSB(20), .ENABLE(16'hFDFF)) mux (
-        .PADDR(paddr), .PSEL(psel), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
+        .PADDR(paddr), .PSEL(psel), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .vacant(vacant),
         .psel_s(psel_s), .prdata_s(prdata_s), .pready_s({16{slave_ready}}), .pslverr_s({16{slave_error}})
     );
     wire [15:0]  low_psel_s;
     wire         low_pslverr, low_pready;
     wire [31:0]  low_prdata;
     apb_mux #(.ADDR_WIDTH(24), .SLOT_LSB(12)) low (
-        .PADDR(paddr), .PSEL(psel), .PRDATA(low_prdata), .PREADY(low_pready), .PSLVERR(low_pslverr),
+        .PADDR(paddr), .PSEL(psel), .PRDATA(low_prdata), .PREADY(low_pready), .PSLVERR(low_pslverr), .vacant(),
         .psel_s(low_psel_s), .prdata_s(512'd0), .pready_s(16'hFFFF), .pslverr_s(16'h0000)
     );
     genvar g;
@@ -70,7 +82,8 @@ module tb;
         end
     end
 
-    integer n;
+    integer    n, slot, k_access, seed = 7;
+    reg [31:0] value, old;
     initial begin
         for (n = 0; n < 16; n = n + 1) store[n] = 32'd0;
         reset;
@@ -143,6 +156,36 @@ module tb;
         haddr = 32'h60000000; htrans = 2'b00;
         cycles(3);
         check(n_access == n + 2 && psel === 1'b0, "not selected, not active");
+        // Peripherals that do not answer in time, among others that do.
+        haddr = 32'd0;
+        for (n = 0; n < 600; n = n + 1) begin
+            limit = 1 + $unsigned($random(seed)) % 20;
+            delay = $unsigned($random(seed)) % 24;
+            silent = $unsigned($random(seed)) % 4 == 0;
+            case ($unsigned($random(seed)) % 3)
+                0: floating = 1'bx;
+                1: floating = 1'bz;
+                default: floating = 1'b0;
+            endcase
+            value = $random(seed);
+            slot = n % 16;
+            old = store[slot];
+            k_access = n_access;
+            ahb_transfer(32'h60000000 + (slot << 20), n[4], 3'd2, value);
+            check(psel === 1'b0 && penable === 1'b0, "the peripheral is released");
+            if (slot == 9) check(failed && waits == 2 && expired === 1'b0, "disabled slot");
+            else if (silent || delay >= limit) begin
+                check(failed && waits == limit + 1, "error after the limit");
+                check(n_access == k_access && store[slot] === old, "the access has not happened");
+                check(expired === 1'b1, "late is the reason");
+            end else begin
+                check(!failed && waits == delay + 1, "in time");
+                check32(store[slot], n[4] ? value : old, "the access has happened");
+                check(n_access == k_access + 1, "once");
+            end
+            check(vacant === (slot == 9), "vacant slot");
+            silent = 1'b0;
+        end
         finish;
     end
 endmodule

@@ -1,5 +1,5 @@
 // The whole subsystem with everything on, around a model of the processor: address of every block, wiring of pins,
-// interrupts, memories, extension ports, resets and debug connector.
+// interrupts, memories, extension ports, bus errors, resets and debug connector.
 `include "core_model.v"
 
 module tb;
@@ -38,6 +38,7 @@ module tb;
     reg  [6:1]   a_first = 6'd0, a_second = 6'd0;   // cycles of the answer RETRY
     wire [6:1]   a_error = a_first | a_second;
     reg          p_slverr = 1'b0;
+    reg          a_ready = 1'b1, p_ready = 1'b1;   // of AHB extension port 6 and APB extension port 16
 
     Tarvo_ORIX_M1_Top dut (
         .HCLK(clk), .hwRstn(hwRstn), .LOCKUP(lockup), .HALTED(halted), .EXTINT(extint),
@@ -66,7 +67,7 @@ module tb;
         .AHB5HRDATA(32'hA0000005), .AHB5HREADYOUT(!a_first[5]), .AHB5HRESP({a_error[5], 1'b0}), .AHB5HADDR(a_haddr[5]), .AHB5HWDATA(a_hwdata[5]),
         .AHB5HSEL(a_hsel[5]), .AHB5HTRANS(a_htrans[5]), .AHB5HWRITE(a_hwrite[5]), .AHB5HREADYMUX(a_hready[5]),
         .AHB5HCLK(a_hclk[5]), .AHB5HRESET(a_hreset[5]),
-        .AHB6HRDATA(32'hA0000006), .AHB6HREADYOUT(!a_first[6]), .AHB6HRESP({a_error[6], 1'b0}), .AHB6HADDR(a_haddr[6]), .AHB6HWDATA(a_hwdata[6]),
+        .AHB6HRDATA(32'hA0000006), .AHB6HREADYOUT(a_first[6] ? 1'b0 : a_ready), .AHB6HRESP({a_error[6], 1'b0}), .AHB6HADDR(a_haddr[6]), .AHB6HWDATA(a_hwdata[6]),
         .AHB6HSEL(a_hsel[6]), .AHB6HTRANS(a_htrans[6]), .AHB6HWRITE(a_hwrite[6]), .AHB6HREADYMUX(a_hready[6]),
         .AHB6HCLK(a_hclk[6]), .AHB6HRESET(a_hreset[6]),
         .APB1PRDATA(32'hB0000001), .APB1PREDADY(1'b1), .APB1PSLVERR(p_slverr), .APB1PADDR(p_paddr[1]), .APB1PWDATA(p_pwdata[1]),
@@ -99,7 +100,7 @@ module tb;
         .APB14PSEL(p_psel[14]), .APB14PENABLE(p_penable[14]), .APB14PWRITE(p_pwrite[14]), .APB14PSTRB(p_pstrb[14]), .APB14PRESET(p_preset[14]),
         .APB15PRDATA(32'hB000000F), .APB15PREDADY(1'b1), .APB15PSLVERR(p_slverr), .APB15PADDR(p_paddr[15]), .APB15PWDATA(p_pwdata[15]),
         .APB15PSEL(p_psel[15]), .APB15PENABLE(p_penable[15]), .APB15PWRITE(p_pwrite[15]), .APB15PSTRB(p_pstrb[15]), .APB15PRESET(p_preset[15]),
-        .APB16PRDATA(32'hB0000010), .APB16PREDADY(1'b1), .APB16PSLVERR(p_slverr), .APB16PADDR(p_paddr[16]), .APB16PWDATA(p_pwdata[16]),
+        .APB16PRDATA(32'hB0000010), .APB16PREDADY(p_ready), .APB16PSLVERR(p_slverr), .APB16PADDR(p_paddr[16]), .APB16PWDATA(p_pwdata[16]),
         .APB16PSEL(p_psel[16]), .APB16PENABLE(p_penable[16]), .APB16PWRITE(p_pwrite[16]), .APB16PSTRB(p_pstrb[16]), .APB16PRESET(p_preset[16]),
         .CAN_RX(1'b1), .GTX_CLK(1'b0), .RGMII_RXC(1'b0), .RGMII_RX_CTL(1'b0), .RGMII_RXD(4'd0),
         .psram_ref_clk(1'b0), .psram_memory_clk(1'b0),
@@ -120,10 +121,7 @@ module tb;
 
     localparam [31:0] GPIO = 32'h40000000, TIMER0 = 32'h50000000, TIMER1 = 32'h50001000, DTIMER = 32'h50002000,
                       UART0 = 32'h50004000, UART1 = 32'h50005000, RTC = 32'h50006000, WDOG = 32'h50008000,
-                      I2C = 32'h5000C000, SPI = 32'h5000D000, SD = 32'h5000E000, FLASH = 32'h68000000;
-
-    // Interrupts of the black boxes (CAN, Ethernet, TRNG) are undriven here and left out.
-    localparam [31:0] KNOWN_IRQS = ~((32'd1 << 9) | (32'd1 << 10) | (32'd1 << 16));
+                      I2C = 32'h5000C000, SPI = 32'h5000D000, SD = 32'h5000E000, SYS = 32'h5000F000, FLASH = 32'h68000000;
 
     // Waits for an interrupt, checks that no other is there, and removes its cause.
     task interrupt(input integer line, input [31:0] address, input [31:0] value, input [8*48-1:0] what);
@@ -131,9 +129,9 @@ module tb;
         begin
             limit = 0;
             while (dut.u_core.IRQ[line] !== 1'b1 && limit < 5000) begin cycles(1); limit = limit + 1; end
-            check32(dut.u_core.IRQ & KNOWN_IRQS, 32'd1 << line, what);
+            check32(dut.u_core.IRQ, 32'd1 << line, what);
             ahb_write(address, value);
-            check32(dut.u_core.IRQ & KNOWN_IRQS, 32'd0, "interrupt removed");
+            check32(dut.u_core.IRQ, 32'd0, "interrupt removed");
         end
     endtask
 
@@ -145,6 +143,25 @@ module tb;
             4: ahb_base = 32'h89000000;
             5: ahb_base = 32'h8A000000;
             default: ahb_base = 32'h8B000000;
+        endcase
+    endfunction
+
+    // The last error, which is cleared, and nothing behind it.
+    task expect_error(input [31:0] address, input [31:0] info, input [8*48-1:0] what);
+        begin
+            ahb_expect(SYS + 12, address, what);
+            ahb_expect(SYS + 16, info, what);
+            ahb_write(SYS + 16, 32'd3);
+        end
+    endtask
+
+    function [31:0] stand_in(input integer n);
+        case (n)
+            0: stand_in = 32'h41000000;
+            1: stand_in = 32'h42000000;
+            2: stand_in = 32'h5000A000;
+            3: stand_in = 32'h70000000;
+            default: stand_in = 32'hA0000000;
         endcase
     endfunction
 
@@ -248,6 +265,66 @@ module tb;
         check(failed, "free slot of the APB");
         ahb_transfer(32'h50010000, 1'b0, 3'd2, 32'd0);
         check(failed, "beyond the APB peripherals");
+        // System control: what there is, and what failed.
+        ahb_expect(SYS + 32'hFFC, 32'h0000020B, "ID of SYS");
+        ahb_expect(SYS + 24, 32'hF5773FFF, "blocks of the configuration");
+        ahb_expect(SYS + 28, 32'h00060620, "memories and interrupts of it");
+        ahb_expect(SYS + 32, 32'h0000FFFF, "APB extension ports of it");
+        ahb_expect(SYS, 32'h00000001, "power-on is the cause of the reset");
+        expect_error(32'h50010000, 32'h00000103, "beyond the APB peripherals: unmapped");
+        ahb_transfer(32'h50003004, 1'b1, 3'd0, 32'd0);
+        expect_error(32'h50003004, 32'h00000041, "free slot of the APB: unmapped");
+        ahb_transfer(32'hF0000002, 1'b0, 3'd1, 32'd0);
+        expect_error(32'hF0000002, 32'h00000081, "no slave: unmapped");
+        p_slverr = 1'b1;
+        ahb_write(32'h60500010, 32'd0);
+        p_slverr = 1'b0;
+        ahb_write(SYS + 4, 32'd2);
+        check32(dut.u_core.IRQ, 32'h00020000, "interrupt of SYS");
+        expect_error(32'h60500010, 32'h00000151, "error of an extension port");
+        check32(dut.u_core.IRQ, 32'd0, "interrupt removed");
+        ahb_write(SYS + 4, 32'd0);
+        // Slaves that do not answer in time: nothing, unknown values, no connection.  Gates make everything unknown of an
+        // unknown value.
+        ahb_write(SYS + 8, 32'd50);
+        for (n = 0; n < 4; n = n + 1) begin
+            p_ready = (n == 0) ? 1'b0 : (n == 1) ? 1'bx : 1'bz;
+`ifdef GATES
+            p_ready = 1'b0;
+`endif
+            a_ready = p_ready;
+            ahb_transfer(32'h60F00000, n[0], 3'd2, 32'd0);
+            check(failed && waits == 51, "APB extension port does not answer");
+            expect_error(32'h60F00000, n[0] ? 32'h161 : 32'h121, "time-out of an APB port");
+            ahb_transfer(32'h60E00000, 1'b0, 3'd2, 32'd0);
+            check(!failed && rd == 32'hB000000F, "its neighbour does");
+            ahb_transfer(32'h8B000004, n[0], 3'd2, 32'd0);
+            check(failed && waits == 51, "AHB extension port does not answer");
+            expect_error(32'h8B000004, n[0] ? 32'h161 : 32'h121, "time-out of an AHB port");
+            ahb_transfer(32'h8B000008, 1'b0, 3'd2, 32'd0);
+            check(failed && waits == 1, "and is abandoned");
+            expect_error(32'h8B000008, 32'h131, "access to an abandoned port");
+            ahb_transfer(32'h8A000000, 1'b0, 3'd2, 32'd0);
+            check(!failed && rd == 32'hA0000005, "its neighbour is not");
+            p_ready = 1'b1; a_ready = 1'b1;
+            cycles(1);
+            ahb_expect(32'h60F00000, 32'hB0000010, "APB port answers again");
+            ahb_expect(32'h8B000000, 32'hA0000006, "AHB port answers again");
+        end
+        // The shortest limit leaves SYS within reach.
+        ahb_write(SYS + 8, 32'd1);
+        ahb_expect(SYS + 8, 32'd1, "SYS needs no wait states");
+        ahb_write(SYS + 8, 32'hFFFF);
+        // Stand-ins of licensed blocks say that they are none, and fail everywhere else.
+        for (n = 0; n < 5; n = n + 1) begin
+            ahb_expect(stand_in(n), 32'h4E4F4E45, "first word of a stand-in");
+            ahb_transfer(stand_in(n), 1'b1, 3'd2, 32'd0);
+            check(failed, "a write to a stand-in");
+            expect_error(stand_in(n), 32'h151, "error of a stand-in");
+            ahb_transfer(stand_in(n) + 4, 1'b0, 3'd2, 32'd0);
+            check(failed, "another word of a stand-in");
+            expect_error(stand_in(n) + 4, 32'h111, "error of a stand-in");
+        end
         // GPIO.
         ahb_write(GPIO + 8, 32'h00FF);
         ahb_write(GPIO + 4, 32'h5AA5);
@@ -255,7 +332,7 @@ module tb;
         cycles(4);
         check(gpio === 16'h3CA5, "GPIO pins");
         ahb_expect(GPIO, 32'h3CA5, "GPIO data");
-        check32(dut.u_core.IRQ & KNOWN_IRQS, 0, "no interrupt so far");
+        check32(dut.u_core.IRQ, 0, "no interrupt so far");
         ahb_write(GPIO + 28, 32'h8000);
         ahb_write(GPIO + 20, 32'h8000);
         gpio_drive[15] = 1'b1;
@@ -316,7 +393,7 @@ module tb;
         for (n = 0; n < 4; n = n + 1) begin
             extint = 4'd1 << n;
             cycles(3);
-            check32(dut.u_core.IRQ & KNOWN_IRQS, 32'h1000 << n, "external interrupt");
+            check32(dut.u_core.IRQ, 32'h1000 << n, "external interrupt");
         end
         extint = 4'd0;
         cycles(3);
@@ -331,6 +408,9 @@ module tb;
         @(posedge dut.u_core.SYSRESETn);
         cycles(2);
         check(dut.u_core.NMI === 1'b0, "watchdog is off again");
+        ahb_expect(SYS, 32'h00000005, "the watchdog is a cause of a reset");
+        ahb_write(SYS, 32'h0000003F);
+        ahb_write(SYS + 20, 32'h600DCAFE);
         ahb_expect(GPIO + 8, 0, "GPIO was reset");
         ahb_transfer(RTC, 1'b0, 3'd2, 32'd0);
         check(rd > before && rd < before + 20, "the time has gone on");
@@ -339,10 +419,28 @@ module tb;
         dut.u_core.SYSRESETREQ = 1'b1; cycles(1); dut.u_core.SYSRESETREQ = 1'b0;
         cycles(12);
         ahb_expect(GPIO + 8, 0, "reset on request of the processor");
+        ahb_expect(SYS, 32'h00000008, "the software is the cause");
+        ahb_write(SYS, 32'h0000003F);
+        dut.u_core.LOCKUP = 1'b1; cycles(20);
+        check(dut.u_core.SYSRESETn === 1'b1, "a lock-up is let be");
+        dut.u_core.LOCKUP = 1'b0;
+        ahb_write(SYS + 4, 32'd1);
+        dut.u_core.LOCKUP = 1'b1;
+        @(negedge dut.u_core.SYSRESETn) dut.u_core.LOCKUP = 1'b0;
+        cycles(12);
+        ahb_expect(SYS, 32'h00000010, "or it is the cause of a reset");
+        ahb_expect(SYS + 4, 32'd0, "which switches that off again");
+        ahb_write(SYS, 32'h0000003F);
         ahb_write(GPIO + 8, 1);
         jtag15 = 1'b0; cycles(4); jtag15 = 1'b1;
         cycles(12);
         ahb_expect(GPIO + 8, 0, "reset from the debug connector");
+        ahb_expect(SYS, 32'h00000020, "the connector is the cause");
+        ahb_expect(SYS + 20, 32'h600DCAFE, "SCRATCH has lived through all of them");
+        hwRstn = 1'b0; cycles(3); hwRstn = 1'b1;
+        cycles(20);
+        ahb_expect(SYS, 32'h00000002, "the pin is the cause");
+        ahb_expect(SYS + 20, 32'd0, "SCRATCH is clear");
         finish;
     end
 endmodule

@@ -1,50 +1,81 @@
-// AHB-Lite interconnect of one master and sixteen slaves: decoder, default slave and the multiplexer of the responses.
+// AHB-Lite interconnect of one master and sixteen slaves: decoder, default slave, the multiplexer of the responses, and
+// the end of what does not end.
 // Slave n uses bit n of the one-bit vectors and bits 32n+31 to 32n of hrdata_s.  Slaves see the master's address and
 // control signals directly, together with HREADY from here.
+//   ENABLE   slaves that are there; the others answer like an unmapped address
+//   BRIDGES  slaves that end an access by themselves when `late` is high
+//
+// A transfer that has waited for `timeout` cycles (0: no limit) and is not ready in the next one either gets the two-cycle
+// error response.  `late` is high in that next cycle.  The slave is abandoned then, unless it is a bridge: it is not
+// selected any more, and accesses to it get the error response at once, until its HREADYOUT is 1 again.  The same becomes
+// of a slave that begins an error response and does not end it in the second cycle.
+//
+// In simulation a ready or error signal that is unknown or floats counts as 0, so that the bus goes on.
+`include "static_macro_define.vh"
+
 module ahb_interconnect #(
-    parameter [15:0] ENABLE = 16'hFFFF
+    parameter [15:0] ENABLE  = 16'hFFFF,
+    parameter [15:0] BRIDGES = 16'h0000
 ) (
     input  wire         HCLK,
     input  wire         HRESETn,
+    input  wire [15:0]  timeout,
     // master
     input  wire [7:0]   HADDR_REGION,   // HADDR[31:24]
     input  wire [1:0]   HTRANS,
     output wire [31:0]  HRDATA,
     output wire         HREADY,
     output wire         HRESP,
+    output wire [1:0]   cause,          // of an error, while HREADY and HRESP are 1: see registers/sys.json
     // slaves
+    output reg          late,
     output wire [15:0]  hsel_s,
     input  wire [511:0] hrdata_s,
     input  wire [15:0]  hreadyout_s,
-    input  wire [15:0]  hresp_s
+    input  wire [15:0]  hresp_s,
+    input  wire [15:0]  vacant_s,       // of a bridge, in the data phase: nobody is at the address
+    input  wire [15:0]  expired_s       // of a bridge, with an error: because of `late`
 );
-    wire hsel_default;
-    wire default_ready;
-    wire default_resp;
+    localparam [1:0] UNMAPPED  = 2'd0;
+    localparam [1:0] SLAVE     = 2'd1;
+    localparam [1:0] TIMEOUT   = 2'd2;
+    localparam [1:0] ABANDONED = 2'd3;
+
+    wire [15:0] decoded;
+    wire        unmapped;
+    wire        default_ready;
+    wire        default_resp;
+    reg  [15:0] abandoned;
 
     ahb_decoder #(.ENABLE(ENABLE)) u_decoder (
         .region(HADDR_REGION),
-        .hsel(hsel_s),
-        .hsel_default(hsel_default)
+        .hsel(decoded),
+        .hsel_default(unmapped)
     );
+    assign hsel_s = decoded & ~abandoned;
+    wire refused = |(decoded & abandoned);
 
     ahb_default_slave u_default_slave (
         .HCLK(HCLK),
         .HRESETn(HRESETn),
-        .HSEL(hsel_default),
+        .HSEL(unmapped | refused),
         .HTRANS(HTRANS),
         .HREADY(HREADY),
         .HREADYOUT(default_ready),
         .HRESP(default_resp)
     );
 
-    // Slave that owns the data phase.
+    // Slave that owns the data phase; none does while nothing is transferred, so that nothing waits then.
     reg [15:0] data_sel;
+    reg        data_refused;
     always @(posedge HCLK or negedge HRESETn)
-        if (!HRESETn)
-            data_sel <= 16'd0;
-        else if (HREADY)
-            data_sel <= hsel_s;
+        if (!HRESETn) begin
+            data_sel     <= 16'd0;
+            data_refused <= 1'b0;
+        end else if (HREADY) begin
+            data_sel     <= HTRANS[`ORIX_HTRANS_ACTIVE] ? hsel_s : 16'd0;
+            data_refused <= refused;
+        end
 
     reg [31:0] rdata;
     integer n;
@@ -54,8 +85,52 @@ module ahb_interconnect #(
             rdata = rdata | (hrdata_s[32*n +: 32] & {32{data_sel[n]}});
     end
 
+    reg slave_ready;
+    reg slave_error;
+    always @* begin
+        if (|(hreadyout_s & data_sel))
+            slave_ready = 1'b1;
+        else
+            slave_ready = 1'b0;
+        if (|(hresp_s & data_sel))
+            slave_error = 1'b1;
+        else
+            slave_error = 1'b0;
+    end
+
+    // The second cycle of an error response comes whatever the slave does.
     wire none = data_sel == 16'd0;
+    wire over = late & ~slave_ready & ~slave_error;
+    reg  second;
+    reg  timed_out;   // the reason of it
     assign HRDATA = rdata;
-    assign HREADY = none ? default_ready : |(hreadyout_s & data_sel);
-    assign HRESP  = none ? default_resp : |(hresp_s & data_sel);
+    assign HREADY = (none ? default_ready : slave_ready) | second;
+    assign HRESP  = (none ? default_resp : slave_error | over) | second;
+    assign cause  = none ? (data_refused ? ABANDONED : UNMAPPED)
+                         : timed_out | (|(expired_s & data_sel)) ? TIMEOUT : |(vacant_s & data_sel) ? UNMAPPED : SLAVE;
+
+    reg [15:0] left;
+    always @(posedge HCLK or negedge HRESETn)
+        if (!HRESETn) begin
+            left      <= 16'd0;
+            late      <= 1'b0;
+            second    <= 1'b0;
+            timed_out <= 1'b0;
+        end else begin
+            left      <= HREADY ? timeout : left - {15'd0, |left};
+            late      <= ~HREADY & (left == 16'd1);
+            second    <= ~none & ~HREADY & HRESP;
+            timed_out <= ~none & over;
+        end
+
+    integer s;
+    always @(posedge HCLK or negedge HRESETn)
+        if (!HRESETn)
+            abandoned <= 16'd0;
+        else
+            for (s = 0; s < 16; s = s + 1)
+                if (hreadyout_s[s])
+                    abandoned[s] <= 1'b0;
+                else if (data_sel[s] & ~BRIDGES[s] & (over | second))
+                    abandoned[s] <= 1'b1;
 endmodule

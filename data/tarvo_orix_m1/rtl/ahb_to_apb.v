@@ -1,6 +1,7 @@
 // AHB-Lite slave that drives one APB bus (APB with strobes, protection and error response).
 // A transfer takes two APB cycles and the wait states of the addressed peripheral; PSLVERR becomes the two-cycle AHB
-// error response.  Both buses run on HCLK.
+// error response.  So does a peripheral that is not ready while `late` is high: the interconnect counts the wait states.
+// Both buses run on HCLK.  In simulation a ready or error signal that is unknown or floats counts as 0.
 `include "static_macro_define.vh"
 
 module ahb_to_apb #(
@@ -19,6 +20,8 @@ module ahb_to_apb #(
     output wire [31:0]           HRDATA,
     output wire                  HREADYOUT,
     output wire                  HRESP,
+    input  wire                  late,
+    output reg                   expired,   // reason of the last error response
 
     output reg  [ADDR_WIDTH-1:0] PADDR,
     output wire                  PSEL,
@@ -38,8 +41,22 @@ module ahb_to_apb #(
 
     reg [1:0] state;
 
+    reg ready;
+    reg error;
+    always @* begin
+        if (PREADY)
+            ready = 1'b1;
+        else
+            ready = 1'b0;
+        if (PSLVERR)
+            error = 1'b1;
+        else
+            error = 1'b0;
+    end
+
     wire accept = HSEL & HREADY & HTRANS[`ORIX_HTRANS_ACTIVE];
-    wire done   = (state == ACCESS) & PREADY;
+    wire done   = (state == ACCESS) & ready;
+    wire failed = (state == ACCESS) & (ready ? error : late);
 
     reg [3:0] lanes;
     always @*
@@ -51,15 +68,19 @@ module ahb_to_apb #(
 
     always @(posedge HCLK or negedge HRESETn)
         if (!HRESETn) begin
-            state  <= IDLE;
-            PADDR  <= {ADDR_WIDTH{1'b0}};
-            PWRITE <= 1'b0;
-            PSTRB  <= 4'd0;
-            PPROT  <= 3'd0;
+            state   <= IDLE;
+            PADDR   <= {ADDR_WIDTH{1'b0}};
+            PWRITE  <= 1'b0;
+            PSTRB   <= 4'd0;
+            PPROT   <= 3'd0;
+            expired <= 1'b0;
         end else begin
+            if (failed)
+                expired <= ~ready;
             case (state)
                 SETUP:   state <= ACCESS;
-                ACCESS:  if (PREADY) state <= PSLVERR ? FAILED : accept ? SETUP : IDLE;
+                ACCESS:  if (failed) state <= FAILED;
+                         else if (ready) state <= accept ? SETUP : IDLE;
                 default: state <= accept ? SETUP : IDLE;
             endcase
             if (accept) begin
@@ -74,6 +95,6 @@ module ahb_to_apb #(
     assign PENABLE   = state == ACCESS;
     assign PWDATA    = HWDATA;   // the master holds it until HREADY
     assign HRDATA    = PRDATA;
-    assign HREADYOUT = (state == IDLE) | (state == FAILED) | (done & ~PSLVERR);
-    assign HRESP     = (state == FAILED) | (done & PSLVERR);
+    assign HREADYOUT = (state == IDLE) | (state == FAILED) | (done & ~error);
+    assign HRESP     = (state == FAILED) | failed;
 endmodule

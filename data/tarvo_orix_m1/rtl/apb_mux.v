@@ -11,6 +11,7 @@ module apb_mux #(
     output wire [31:0]           PRDATA,
     output wire                  PREADY,
     output wire                  PSLVERR,
+    output wire                  vacant,    // no slot that is there has this address
 
     output wire [15:0]           psel_s,
     input  wire [511:0]          prdata_s,
@@ -30,6 +31,7 @@ module apb_mux #(
             rdata = rdata | (prdata_s[32*n +: 32] & {32{hit[n]}});
     end
 
+    assign vacant  = none;
     assign psel_s  = hit & {16{PSEL}};
     assign PRDATA  = rdata;
     assign PREADY  = none | (|(pready_s & hit));

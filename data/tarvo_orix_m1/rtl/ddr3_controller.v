@@ -1,9 +1,11 @@
-// DDR3 controller and physical interface with an AHB-Lite slave port: declaration only, a black box of the netlist.
+// DDR3 controller and physical interface with an AHB-Lite slave port: a stand-in, since the block is licensed
+// separately.  It is a black box of the netlist; in a simulation it answers that it is not there, and its pins are quiet.
 //   PHY_MC       1: the physical interface has a memory clock control of its own
 //   EBR_BASED    1: data buffers in block RAM, 0: in distributed RAM
 //   DQ_WIDTH, DQS_WIDTH, BURST_BITS, ADDR_WIDTH   geometry of the memory
 `include "DDR3_define.v"
 `include "ddr3_name.v"
+`include "define.vh"
 
 (* blackbox *)
 module `ORIX_DDR3_NAME #(
@@ -49,4 +51,23 @@ module `ORIX_DDR3_NAME #(
     inout  wire [1:0]  ddr_dqs,
     inout  wire [1:0]  ddr_dqs_n
 );
+    `ORIX_AHB_ABSENT
+
+    assign pll_stop      = 1'b0;
+    assign init_complete = 1'b0;
+    assign ddr_addr      = 16'd0;
+    assign ddr_ba        = 3'd0;
+    assign ddr_cs_n      = 1'b1;
+    assign ddr_ras_n     = 1'b1;
+    assign ddr_cas_n     = 1'b1;
+    assign ddr_we_n      = 1'b1;
+    assign ddr_ck        = 1'b0;
+    assign ddr_ck_n      = 1'b1;
+    assign ddr_cke       = 1'b0;
+    assign ddr_odt       = 1'b0;
+    assign ddr_reset_n   = 1'b0;
+    assign ddr_dqm       = 2'd0;
+    assign ddr_dq        = 16'hzzzz;
+    assign ddr_dqs       = 2'bzz;
+    assign ddr_dqs_n     = 2'bzz;
 endmodule

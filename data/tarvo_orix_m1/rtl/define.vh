@@ -19,7 +19,7 @@
 //   0xA0000000 - 0xBFFFFFFF     512 MB    DDR3                      AHB
 //   everything else                       error response
 //
-// A block that is not configured answers like an unmapped address.
+// A block that is not configured answers like an unmapped address.  SYS is there with any other on its bus.
 //
 //   Internal APB peripheral     Base          Interrupt
 //   TIMER0                      0x50000000    2
@@ -33,6 +33,7 @@
 //   I2C                         0x5000C000    6
 //   SPI                         0x5000D000    8
 //   SD                          0x5000E000    11
+//   SYS                         0x5000F000    17
 //
 //   Other interrupts: GPIO 4, CAN 9, Ethernet 10, EXTINT[3:0] 15 to 12.
 `ifndef ORIX_DEFINE
@@ -87,6 +88,7 @@
 `define ORIX_P_I2C    12
 `define ORIX_P_SPI    13
 `define ORIX_P_SD     14
+`define ORIX_P_SYS    15
 
 // Interrupt inputs of the processor.
 `define ORIX_IRQ_UART0  0
@@ -103,5 +105,32 @@
 `define ORIX_IRQ_SD     11
 `define ORIX_IRQ_EXTINT 12
 `define ORIX_IRQ_TRNG   16
+`define ORIX_IRQ_SYS    17
+
+// What the stand-ins of licensed blocks answer: the first word (of every 16 MB) reads as "NONE" in ASCII, and all other
+// accesses get an error response; here the logic of those with an AHB-Lite port.
+`define ORIX_ABSENT 32'h4E4F4E45
+`define ORIX_AHB_ABSENT                                                                           \
+    reg absent_first;                                                                             \
+    reg absent_second;                                                                            \
+    reg absent_word;                                                                              \
+    wire absent_access = HREADY & HSEL & HTRANS[1];                                               \
+    wire absent_known  = ~HWRITE & (HADDR[23:2] == 22'd0);                                        \
+    always @(posedge HCLK or negedge HRESETn)                                                     \
+        if (!HRESETn) begin                                                                       \
+            absent_first  <= 1'b0;                                                                \
+            absent_second <= 1'b0;                                                                \
+            absent_word   <= 1'b0;                                                                \
+        end else begin                                                                            \
+            absent_first  <= absent_access & ~absent_known;                                       \
+            absent_second <= absent_first;                                                        \
+            absent_word   <= absent_access & absent_known;                                        \
+        end                                                                                       \
+    assign HRDATA    = absent_word ? `ORIX_ABSENT : 32'd0;                                        \
+    assign HREADYOUT = ~absent_first;                                                             \
+    assign HRESP     = absent_first | absent_second;
+
+// Wait states of a bus transfer that end it with an error response, after a reset and without SYS; 0 for no limit.
+`define ORIX_BUS_TIMEOUT 16'hFFFF
 
 `endif

@@ -1,10 +1,12 @@
-// Ethernet MAC for 10, 100 and 1000 Mbit/s with an AHB-Lite slave port: declaration only, a black box of the netlist.
+// Ethernet MAC for 10, 100 and 1000 Mbit/s with an AHB-Lite slave port: a stand-in, since the block is licensed
+// separately.  It is a black box of the netlist; in a simulation it answers that it is not there, and its pins are quiet.
 //   DEVICE                   device family of the input and output cells
 //   USE_RGMII, USE_GMII, USE_MII   the PHY interfaces in use; the pins of the others are idle
 //   RGMII_INPUT_DELAY_VALUE  steps of the receive input delay, with RGMII
 //   MIIM_CLK_DIVIDER         HCLK cycles of one MDC period
 `include "triple_speed_mac_define.v"
 `include "triple_speed_mac_name.v"
+`include "define.vh"
 
 (* blackbox *)
 module `ORIX_MAC_NAME #(
@@ -64,4 +66,20 @@ module `ORIX_MAC_NAME #(
     input  wire        mii_col,
     input  wire        mii_crs
 );
+    `ORIX_AHB_ABSENT
+
+    assign irq          = 1'b0;
+    assign mdc          = 1'b0;
+    assign mdio_out     = 1'b0;
+    assign mdio_outen   = 1'b0;
+    assign rgmii_txc    = 1'b0;
+    assign rgmii_tx_ctl = 1'b0;
+    assign rgmii_txd    = 4'd0;
+    assign gmii_gtx_clk = 1'b0;
+    assign gmii_txd     = 8'd0;
+    assign gmii_tx_en   = 1'b0;
+    assign gmii_tx_er   = 1'b0;
+    assign mii_txd      = 4'd0;
+    assign mii_tx_en    = 1'b0;
+    assign mii_tx_er    = 1'b0;
 endmodule

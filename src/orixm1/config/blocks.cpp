@@ -2,6 +2,8 @@
 
 #include "latin1literal.h"
 #include "optionkeys.h"
+#include "optiontable.h"
+#include "optionvalue.h"
 #include "pintables.h"
 
 #include <algorithm>
@@ -323,6 +325,25 @@ const Block *blockOfBox(const QString &label)
         }
     }
     return nullptr;
+}
+
+bool isSwitch(const QString &name)
+{
+    const Option *option = findOption(name);
+    return name == anyApbPeripheral || (option && option->type == OptionType::Bool);
+}
+
+bool isSwitchedOn(const OptionMap &options, const QString &name)
+{
+    if (name != anyApbPeripheral)
+        return isSwitch(name) && isOn(options, name);
+    return std::any_of(std::begin(rows), std::end(rows), [&options](const Block &block) {
+        return block.isApbPeripheral() && std::any_of(block.switches.begin(), block.switches.end(),
+                                                      [&options](const SwitchRow &entry) {
+                                                          return !entry.isInterface &&
+                                                                 isOn(options, entry.key());
+                                                      });
+    });
 }
 
 } // namespace TARVOORIXM1

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "latin1literal.h"
+#include "optionmap.h"
 #include "rows.h"
 
 #include <QLatin1String>
@@ -59,6 +61,8 @@ struct Block {
     QLatin1String module() const;
     // Whether the block leads its bus out: all its switches are ports then.
     bool hasPorts() const { return switches[0].port > 0; }
+    // Whether it hangs on the bus of the APB peripherals, which is there with the first of them.
+    bool isApbPeripheral() const { return bus == Bus::Apb && !hasPorts(); }
 };
 
 // All blocks from left to right as the diagram shows them, those on the AHB bus first.
@@ -69,5 +73,12 @@ Rows<Block> generatedBlocks();
 const Block &block(QLatin1String dialog);
 // The one that a box of the diagram stands for; null if there is none of this label.
 const Block *blockOfBox(const QString &label);
+
+// What the register files and the interrupts name as a switch: the key of a bool option, or this
+// name for all that switch a block of the internal APB bus on.
+inline constexpr QLatin1String anyApbPeripheral = "any APB peripheral"_l1;
+bool isSwitch(const QString &name);
+// Of a name that is none: false.
+bool isSwitchedOn(const OptionMap &options, const QString &name);
 
 } // namespace TARVOORIXM1

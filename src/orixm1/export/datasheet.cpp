@@ -422,7 +422,7 @@ private:
                 registers.rows.append(
                     {Text(), Text(), Text(bounds(field.high, field.low)), code(field.name),
                      Text(accessName(field.access)),
-                     Text(field.hasReset ? number(field.reset) : QStringLiteral("pins")),
+                     Text(field.hasReset ? number(field.reset) : QStringLiteral("varies")),
                      Text(effects(field)), Text(field.text)});
                 addValues(entry.name + u'.' + field.name, field.values);
             }

@@ -252,6 +252,17 @@ private:
             bridge.isBridge = true;
             boxes.append(bridge);
         }
+        // What is there with the bus has no switch of its own.
+        for (const Region &region : m_map.regions) {
+            if (bus != Bus::Apb || region.option != anyApbPeripheral)
+                continue;
+            Box box;
+            box.labels = wrapped(region.name, label, boxWidth - 8);
+            box.details = QStringList{hexAddress(region.base)};
+            box.fill = inkOf(region.kind);
+            box.isOn = true;
+            boxes.append(box);
+        }
         return boxes;
     }
 

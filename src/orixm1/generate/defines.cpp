@@ -235,18 +235,16 @@ void buildPeripheralDefines(const OptionMap &options, const DEV::DeviceArg &devi
                             PeripheralDefines &defines)
 {
     const QString name = device.device();
-    bool anyInternal = false;
     bool anyExternal = false;
     for (const Block &block : generatedBlocks()) {
         if (!appendSwitches(options, block, defines.busLines))
             continue;
         appendFurther(options, block, name, defines.busLines);
-        if (block.bus == Bus::Apb)
-            (block.hasPorts() ? anyExternal : anyInternal) = true;
+        anyExternal |= block.bus == Bus::Apb && block.hasPorts();
     }
     if (anyExternal)
         defines.busLines.append(define("TARVO_APBEXT_SUPPORT"_l1));
-    if (anyInternal)
+    if (isSwitchedOn(options, anyApbPeripheral))
         defines.busLines.append(define("TARVO_APBINT_SUPPORT"_l1));
 
     const QString canDepth = isOn(options, Key::enableCan) ? textOf(options, Key::canBufferDepth)

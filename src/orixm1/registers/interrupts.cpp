@@ -1,5 +1,6 @@
 #include "interrupts.h"
 
+#include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
@@ -31,7 +32,6 @@ QString nameOf(const QString &path)
 // A failure is a clause.
 Utils::Result<void> checkEntry(const QJsonObject &entry, const InterruptSource &source)
 {
-    const Option *option = findOption(source.option);
     if (source.name.isEmpty())
         return Utils::Failure{QStringLiteral("an entry has no name")};
     const auto fail = [&source](const QString &reason) {
@@ -40,7 +40,7 @@ Utils::Result<void> checkEntry(const QJsonObject &entry, const InterruptSource &
     if (!entry.value("number"_l1).isDouble() || source.number < 0 || source.count < 1 ||
         source.number > inputCount - source.count)
         return fail("the number is none from 0 to "_l1 + QString::number(inputCount - 1));
-    if (!option || option->type != OptionType::Bool)
+    if (!isSwitch(source.option))
         return fail(u'"' + source.option + "\" is no switch of the configuration"_l1);
     for (auto it = entry.begin(); it != entry.end(); ++it) {
         const QStringList known = {QStringLiteral("name"), QStringLiteral("number"),
@@ -110,7 +110,7 @@ QVector<InterruptSource> interruptSources(const QVector<Peripheral> &peripherals
             bool isNumber = false;
             const int number = instance.interrupt.toInt(&isNumber);
             if (isNumber)
-                sources.append({instance.name, number, 1, instance.option});
+                sources.append({instance.name, number, 1, instance.option, instance.isPolled});
         }
     }
     std::sort(
@@ -124,7 +124,7 @@ QVector<InterruptSource> enabledInterrupts(const QVector<InterruptSource> &sourc
 {
     QVector<InterruptSource> enabled;
     for (const InterruptSource &source : sources) {
-        if (findOption(source.option) && isOn(options, source.option))
+        if (isSwitchedOn(options, source.option))
             enabled.append(source);
     }
     return enabled;
@@ -151,7 +151,7 @@ QVector<Finding> interruptFindings(const QVector<InterruptSource> &sources,
     const QVector<InterruptSource> enabled = enabledInterrupts(sources, options);
     for (const InterruptSource &source : enabled) {
         const QString masked = maskedInterrupt(source, options);
-        if (!masked.isEmpty())
+        if (!masked.isEmpty() && !source.isPolled)
             findings.append(
                 {Finding::Warning, source.option, source.name + " never interrupts: "_l1 + masked});
     }

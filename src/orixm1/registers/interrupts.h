@@ -11,7 +11,8 @@ struct InterruptSource {
     QString name;   // "UART0"
     int number = 0; // of the first input
     int count = 1;
-    QString option; // key of the bool option that switches it on
+    QString option;        // what switches it on: see isSwitch()
+    bool isPolled = false; // what it interrupts for can wait
 };
 
 // Reads "interrupts.json" of a data folder: the sources without register descriptions. A folder
@@ -32,7 +33,8 @@ QVector<InterruptSource> enabledInterrupts(const QVector<InterruptSource> &sourc
 // of a sentence ("its interrupt 9 is masked: …"); empty if it does.
 QString maskedInterrupt(const InterruptSource &source, const OptionMap &options);
 
-// A warning for each source that is on and whose interrupt the configuration masks.
+// A warning for each source that is on and whose interrupt the configuration masks, except those
+// that can be polled.
 QVector<Finding> interruptFindings(const QVector<InterruptSource> &sources,
                                    const OptionMap &options);
 

@@ -23,7 +23,7 @@ QString bitsText(const RegisterField &field)
 QString resetText(const RegisterField &field)
 {
     if (!field.hasReset)
-        return QStringLiteral("pins");
+        return QStringLiteral("varies");
     return field.reset < 10 ? QString::number(field.reset) : hex(field.reset, 0);
 }
 

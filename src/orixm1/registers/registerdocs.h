@@ -28,7 +28,7 @@ QString registersHeader(const QVector<Peripheral> &peripherals,
 // "0x50004000"
 QString hexAddress(quint32 address);
 
-// The register's value after reset, without the fields whose value depends on pins.
+// The register's value after reset, without the fields of which it is not known.
 quint32 resetValue(const Register &entry);
 
 } // namespace TARVOORIXM1

@@ -1,8 +1,7 @@
 #include "registermap.h"
 
+#include "config/blocks.h"
 #include "config/latin1literal.h"
-#include "config/optiontable.h"
-#include "config/optionvalue.h"
 #include "interrupts.h"
 
 #include <reading/jsontext.h>
@@ -184,7 +183,8 @@ private:
 
     PeripheralInstance readInstance(const QJsonObject &object)
     {
-        checkKeys(object, {"name"_l1, "text"_l1, "base"_l1, "interrupt"_l1, "option"_l1});
+        checkKeys(object,
+                  {"name"_l1, "text"_l1, "base"_l1, "interrupt"_l1, "polled"_l1, "option"_l1});
         PeripheralInstance instance;
         instance.name = identifier(object, "name"_l1);
         m_place = instance.name + ": "_l1;
@@ -193,9 +193,12 @@ private:
             fail(QStringLiteral("\"text\" is empty"));
         instance.base = number(object, "base"_l1);
         instance.interrupt = text(object, "interrupt"_l1, false);
+        const QJsonValue polled = object.value("polled"_l1);
+        instance.isPolled = polled.toBool();
+        if (!polled.isUndefined() && (!polled.isBool() || instance.interrupt.isEmpty()))
+            fail(QStringLiteral("\"polled\" is neither true nor false, or of no interrupt"));
         instance.option = text(object, "option"_l1);
-        const Option *option = findOption(instance.option);
-        if (!option || option->type != OptionType::Bool)
+        if (!isSwitch(instance.option))
             fail(u'"' + instance.option + "\" is no switch of the configuration"_l1);
         m_place.clear();
         return instance;
@@ -401,7 +404,7 @@ QVector<Peripheral> enabledPeripherals(const QVector<Peripheral> &peripherals,
                                        const OptionMap &options)
 {
     const auto isEnabled = [&options](const PeripheralInstance &instance) {
-        return isOn(options, instance.option);
+        return isSwitchedOn(options, instance.option);
     };
     QVector<Peripheral> enabled;
     for (const Peripheral &peripheral : peripherals) {

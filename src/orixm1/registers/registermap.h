@@ -54,7 +54,7 @@ struct RegisterField {
     int high = 0;
     int low = 0;
     RegisterAccess access = RegisterAccess::ReadWrite;
-    bool hasReset = true; // false: the value after reset depends on pins
+    bool hasReset = true; // false: it depends on pins or on the configuration
     quint32 reset = 0;    // of the field alone, not shifted
     quint32 minimum = 0;  // smaller values are stored as this one
     ReadEffect readEffect = ReadEffect::None;
@@ -84,7 +84,8 @@ struct PeripheralInstance {
     QString interrupt;       // number of the processor's interrupt, "NMI", or empty
     QString maskedInterrupt; // why a configuration has no such interrupt although the block drives
                              // one: a part of a sentence, and `interrupt` is empty
-    QString option;          // key of the bool option that switches it on
+    bool isPolled = false;   // what it interrupts for can wait: no warning without the interrupt
+    QString option;          // what switches it on: see isSwitch()
 };
 
 // What software sees of a peripheral of the sample subsystem.

@@ -36,8 +36,8 @@ namespace TARVOORIXM1
 //   MARK end RESULT CYCLES   last of all; RESULT is passed, failed or timeout
 QByteArray boardOf(const SystemMap &map);
 
-// A source of the subsystem in which a licensed block, of which there is only the declaration,
-// answers each access with an error, on a board; any other source as it is.
+// The stand-in of a licensed block so that it tells the first access to it, on a board; any other
+// source as it is.
 QByteArray withAnswers(const QByteArray &source);
 
 } // namespace TARVOORIXM1

@@ -485,7 +485,7 @@ void tst_Datasheet::tellsWhatReadingAndWritingDo()
                           QStringLiteral("R, W|0x2A|reading sets; ones set or start"),
                           QStringLiteral("W|0x2A|reading changes it; ones clear"),
                           QStringLiteral("R/W1C|0x2A|reading acts elsewhere"),
-                          QStringLiteral("R/W|pins|at least 4")}));
+                          QStringLiteral("R/W|varies|at least 4")}));
 }
 
 void tst_Datasheet::tellsResourcesOfARun()

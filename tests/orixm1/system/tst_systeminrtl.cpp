@@ -422,6 +422,8 @@ QString withBody(QString text, quint32 word)
                                "    assign PSLVERR = 1'b0;\n")
                     .arg(verilogWord(word));
     text.remove(QLatin1String("(* blackbox *)"));
+    const int begin = text.indexOf(QLatin1String("\n);\n")) + 4; // of what the stand-in does
+    text.remove(begin, text.indexOf(QLatin1String("endmodule")) - begin);
     return text.replace(QLatin1String("endmodule"), body + QLatin1String("endmodule"));
 }
 

@@ -332,6 +332,7 @@ void tst_DriversOnRtl::worksOnItsBlock_data()
     QTest::newRow("timer") << "apb_timer cdc_synchronizer";
     QTest::newRow("dtimer") << "apb_dual_timer";
     QTest::newRow("wdog") << "apb_watchdog";
+    QTest::newRow("sys") << "apb_system";
     QTest::newRow("rtc") << "apb_rtc cdc_synchronizer";
     QTest::newRow("gpio") << "ahb_gpio cdc_synchronizer";
 }
