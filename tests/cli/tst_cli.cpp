@@ -1243,7 +1243,8 @@ void tst_Cli::registersOfAConfiguration()
     const QString file = config("Enable%20UART1=true\nEnable%20GPIO=true\n");
     const Run table = run({QStringLiteral("registers"), file});
     QCOMPARE(table.status, 0);
-    QVERIFY(table.out.contains(QLatin1String("0x5000500C  UART1.BAUDDIV  0x00000010  Bit time.")));
+    QVERIFY(
+        table.out.contains(QLatin1String("0x5000500C  UART1.BAUDDIV    0x00000010  Bit time.")));
     QVERIFY(!table.out.contains(QLatin1String("UART0")));
     QVERIFY(!table.out.contains(QLatin1String("WDOG")));
 
