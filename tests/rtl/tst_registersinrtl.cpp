@@ -236,8 +236,7 @@ private:
                     ".HADDR(%2), .HTRANS(htrans), %3.HWRITE(hwrite), .HWDATA(hwdata), "
                     ".HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp)%4);\n")
                     .arg(m_peripheral.module, QStringLiteral("haddr[%1:0]").arg(addressBits() - 1),
-                         QStringLiteral(".HSIZE(hsize), "),
-                         more);
+                         QStringLiteral(".HSIZE(hsize), "), more);
             return;
         }
         m_text +=
@@ -693,7 +692,8 @@ void tst_RegistersInRtl::modulesAreAsDescribed()
     QFETCH(int, index);
     const Peripheral &peripheral = m_peripherals.at(index);
     const QStringList sources = {QStringLiteral(RTL_DIR "/%1.v").arg(peripheral.module),
-                                 rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")};
+                                 rtl("spi_engine.v"), rtl("spi_flash_shifter.v"),
+                                 rtl("sync_fifo.v")};
     for (const QString &bench : {Bench(peripheral).text(), Bench(peripheral).effects()}) {
         const QString wrong = simulate(bench, sources);
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
@@ -969,7 +969,8 @@ void tst_RegistersInRtl::effectsAreFound()
     QCOMPARE(count, 1);
     const QString told =
         simulate(Bench(changed).effects(),
-                 {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module), rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")});
+                 {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module), rtl("spi_engine.v"),
+                  rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")});
     QVERIFY2(told.contains(QLatin1String("failed: ") + wrong), qPrintable(told));
 }
 
@@ -1032,7 +1033,9 @@ void tst_RegistersInRtl::faultsOfModulesAreFound()
     const QTemporaryDir dir;
     const QString changed = dir.filePath(QStringLiteral("changed.v"));
     TestSupport::write(changed, text.replace(from, to).toUtf8());
-    const QString wrong = simulate(Bench(*found).text(), {changed, rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")});
+    const QString wrong =
+        simulate(Bench(*found).text(),
+                 {changed, rtl("spi_engine.v"), rtl("spi_flash_shifter.v"), rtl("sync_fifo.v")});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 
