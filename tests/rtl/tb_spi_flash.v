@@ -32,7 +32,7 @@ module tb;
     localparam [31:0] SINGLE = 32'h00000003, FAST = 32'h0008000B, DUAL_OUT = 32'h0008103B, QUAD_OUT = 32'h0008206B,
                       DUAL_IO = 32'hFF0094BB, QUAD_IO = 32'hFF04A8EB, LONG = 32'h00004000;
     localparam [31:0] PREFETCH = 1, CONTINUOUS = 2, QUAD = 4;
-    localparam [31:0] ALONE = 32'h00003C00, SENDS = 32'h00200C00, ANSWERS = 32'h00000C00, PLACED = 32'h00003000;
+    localparam [31:0] ALONE = 32'h00003C00, SENDS = 32'h00400C00, ANSWERS = 32'h00000C00, PLACED = 32'h00003000;
 
     integer n, m, took, clocks, first, opcodes, stall;
     reg [31:0] a, got;
@@ -124,7 +124,7 @@ module tb;
         ahb_expect(READ, 3, "reset READ");
         ahb_expect(RECOVER, 32'h2003, "reset RECOVER");
 `ifndef BARE
-        ahb_expect(ID, 32'h0013020A, "reset ID");
+        ahb_expect(ID, 32'h0103020A, "reset ID");
 `endif
         // The first read resets the flash.
         expect_word(0, 0, "first word");
@@ -355,7 +355,7 @@ module tb;
         check(chip.erases == 1 && chip.busy == 50, "erase");
         ahb_write(POLL, 32'h00000001);
         clocks = chip.clocks;
-        ahb_write(COMMAND, 8'h05 | ANSWERS | 32'h00400000);
+        ahb_write(COMMAND, 8'h05 | ANSWERS | 32'h00800000);
         ahb_transfer(BASE, 1'b0, 3'd2, 0);
         check(failed, "no window while a command runs");
         ahb_write(DIV, 9);
@@ -377,7 +377,7 @@ module tb;
         ahb_write(ADDRESS, 32'h00003004);
         ahb_write(LENGTH, 70);
         ahb_write(FIFO, 32'h03020100);
-        ahb_write(COMMAND, 8'h02 | 32'h00200000);
+        ahb_write(COMMAND, 8'h02 | 32'h00400000);
         for (m = 1; m < 18; m = m + 1) begin
             ahb_transfer(STATUS, 1'b0, 3'd2, 0);
             while (rd[12:8] >= 2) ahb_transfer(STATUS, 1'b0, 3'd2, 0);
@@ -400,7 +400,7 @@ module tb;
         ahb_write(LENGTH, 6);
         ahb_write(FIFO, 32'h44332211);
         ahb_write(FIFO, 32'h99996655);
-        run(8'h32 | 32'h00202000);
+        run(8'h32 | 32'h00402000);
         expect_word(32'h3100, 32'h3100, "programmed over four lanes");
         check32(rd, 32'h44332211, "its bytes");
         ahb_transfer(BASE + 32'h3104, 1'b0, 3'd2, 0);
@@ -441,7 +441,7 @@ module tb;
         ahb_write(STATUS, 2);
         // A command is ended: one that would wait for ever, and one whose data never come.
         ahb_write(POLL, 32'h0000FFFF);
-        ahb_write(COMMAND, 8'h05 | ANSWERS | 32'h00400000);
+        ahb_write(COMMAND, 8'h05 | ANSWERS | 32'h00800000);
         cycles(500);
         ahb_expect(STATUS, 1, "still waits");
         ahb_write(STATUS, 16);
@@ -457,7 +457,7 @@ module tb;
         ahb_expect(FIFO, word(32'h20), "word of a command that was ended");
         check(csn === 1'b1, "deselected at the end");
         ahb_write(LENGTH, 40);
-        ahb_write(COMMAND, 8'h02 | 32'h00200000);
+        ahb_write(COMMAND, 8'h02 | 32'h00400000);
         cycles(500);
         ahb_write(FIFO, 1);
         ahb_write(STATUS, 16);
@@ -518,14 +518,14 @@ module tb;
         check(chip.resets == m + 2 && chip.writable, "and before a command");
         // The longest waits, with the slowest clock.
         ahb_write(DIV, 255);
-        settings(32'hFF1FC003, PREFETCH | 32'h00000700);
+        settings(32'hFF3FC003, PREFETCH | 32'h00000700);
         ahb_write(RECOVER, 32'hFF03);
         ahb_transfer(BASE, 1'b0, 3'd2, 0);
-        check(waits > 120000 && waits < 145000, "longest wait with a reset of the flash");
+        check(waits > 140000 && waits < 160000, "longest wait with a reset of the flash");
         cycles(700);
         check(csn === 1'b0, "reads ahead");
         ahb_transfer(BASE + 32'h1000, 1'b0, 3'd2, 0);
-        check(waits > 57000 && waits < 64000, "longest wait without one");
+        check(waits > 73000 && waits < 80000, "longest wait without one");
 `else
         ahb_expect(ID, 32'h0003020A, "ID without commands");
         for (m = 0; m < 6; m = m + 1) begin

@@ -107,8 +107,8 @@ module ahb_spi_flash #(
     wire [8:0]  left;         // bytes still to be transferred
     reg         running;
     reg         aborting;
-    wire        polling  = command[22];
-    wire        outwards = command[21] & ~polling;
+    wire        polling  = command[23];
+    wire        outwards = command[22] & ~polling;
     wire        matched;      // the status is as waited for
     wire        begin_command;
     wire        sent_out;     // and it sends what the FIFO holds
@@ -214,13 +214,13 @@ module ahb_spi_flash #(
     reg [2:0]  step;
     reg [13:0] timer;
 
-    wire [28:0] form     = running ? {command[31:24], command[20:0]} : {format[31:24], format[20:0]};
+    wire [29:0] form     = running ? {command[31:24], command[21:0]} : {format[31:24], format[21:0]};
     wire        sends    = running & outwards;
     wire        has_op   = ~&form[9:8];
     wire        has_at   = ~&form[11:10];
     wire        has_mode = has_at & form[15];
     wire        has_data = ~&form[13:12];
-    wire        has_rest = form[20:16] != 5'd0;
+    wire        has_rest = form[21:16] != 6'd0;
     wire        remains  = left != 9'd0;
     wire        room     = ~level[LOG_DEPTH] & ~&level[LOG_DEPTH-1:0];   // for this word and the one that still arrives
     wire        fits     = (ask_byte != 2'd0) | room;
@@ -233,7 +233,7 @@ module ahb_spi_flash #(
     reg       valid;
     reg [7:0] tx;
     reg [1:0] over;
-    reg [4:0] clocks;
+    reg [5:0] clocks;
     always @* begin
         valid  = 1'b0;
         tx     = 8'd0;
@@ -256,7 +256,7 @@ module ahb_spi_flash #(
             end
             MODE: begin
                 valid = has_mode;
-                tx    = form[28:21];
+                tx    = form[29:22];
                 over  = form[11:10];
             end
             DUMMY: begin
@@ -286,11 +286,11 @@ module ahb_spi_flash #(
                 valid = quiet;
         endcase
         case (engine)
-            DUMMY:   clocks = form[20:16] - 5'd1;
-            GAP:     clocks = {2'd0, gap};
+            DUMMY:   clocks = form[21:16] - 6'd1;
+            GAP:     clocks = {3'd0, gap};
             // An address and a mode byte: of 3 and 4 bytes on four lanes, and on two.
-            ONES:    clocks = step[1] ? (step[0] ? 5'd19 : 5'd15) : (step[0] ? 5'd9 : 5'd7);
-            default: clocks = over[1] ? 5'd1 : over[0] ? 5'd3 : 5'd7;
+            ONES:    clocks = step[1] ? (step[0] ? 6'd19 : 6'd15) : (step[0] ? 6'd9 : 6'd7);
+            default: clocks = over[1] ? 6'd1 : over[0] ? 6'd3 : 6'd7;
         endcase
     end
 
@@ -365,6 +365,8 @@ module ahb_spi_flash #(
                         engine    <= continues ? PLACE : OPCODE;
                     end else if (by_hand)
                         engine <= HAND;
+                    else if (select & (begin_command | (store & lanes[0] & (index == R_SELECT) & ~HWDATA[0])))
+                        engine <= GAP;
                 end
                 OPCODE:
                     if (take | ~valid)
@@ -442,16 +444,12 @@ module ahb_spi_flash #(
             if (begin_command) begin
                 running <= 1'b1;
                 select  <= 1'b0;
-                if (select) begin
+                if (select)
                     flash_csn <= 1'b1;
-                    engine    <= GAP;
-                end
             end
             if (store & lanes[0] & (index == R_SELECT)) begin
                 select    <= HWDATA[0];
                 flash_csn <= ~HWDATA[0];
-                if (select & ~HWDATA[0])
-                    engine <= GAP;
             end
             if (store & lanes[0] & (index == R_RECOVER))
                 pending <= HWDATA[0];
@@ -524,7 +522,7 @@ module ahb_spi_flash #(
                     if (lanes[1]) gap <= HWDATA[10:8];
                     if (lanes[2]) patience <= HWDATA[23:16];
                 end
-                R_READ: format <= merged(format, HWDATA, lanes) & 32'hFF1FFFFF;
+                R_READ: format <= merged(format, HWDATA, lanes) & 32'hFF3FFFFF;
                 R_UPPER:
                     if (lanes[0]) upper <= HWDATA[7:0];
                 R_RECOVER: begin
@@ -545,14 +543,14 @@ module ahb_spi_flash #(
         assign left    = left_q;
         assign matched = rx_done & (((rx ^ wanted) & mask) == 8'd0);
 
-        wire [31:0] next  = merged(command_q, HWDATA, lanes) & 32'hFF7FFFFF;
+        wire [31:0] next  = merged(command_q, HWDATA, lanes);
         wire        sets  = store & (index == R_COMMAND);
         wire        legal = quad | ~has_four(next[13:8]);
         wire        filling = (store | (early & outwards)) & (index == R_FIFO) & lanes[0];
         wire        taking  = access & ~write & listed & (index == R_FIFO) & lanes[0];
         wire        idle_fifo = ~streamed & ~sends;
         assign begin_command = sets & lanes[0] & legal;
-        assign sent_out      = next[21] & ~next[22];
+        assign sent_out      = next[22] & ~next[23];
         assign push_by_hand  = filling & ~full;
         assign pop_by_hand   = taking & idle_fifo;
         assign abort         = early & lanes[0] & (index == R_STATUS) & HWDATA[4];
@@ -621,7 +619,7 @@ module ahb_spi_flash #(
     end endgenerate
 
     localparam [31:0] WORDS = LOG_DEPTH;
-    localparam [31:0] ID = {11'd0, (COMMANDS != 0), WORDS[3:0], 8'd2, 8'd10};
+    localparam [31:0] ID = {7'd0, (COMMANDS != 0), 2'd0, WORDS[5:0], 8'd2, 8'd10};
     reg [31:0] value;
     always @*
         case (index)

@@ -15,7 +15,7 @@ module spi_flash_shifter (
     input  wire       drives,    // the lanes are the controller's
     input  wire       samples,   // the unit is a byte that comes in
     input  wire       quiet,     // passes as long, with sclk low and the lanes as they are
-    input  wire [4:0] clocks,    // clocks of the unit, less one
+    input  wire [5:0] clocks,    // clocks of the unit, less one
 
     input  wire       stop,      // ends the unit as soon as sclk is low; nothing more comes in
     input  wire       rest,      // lanes as between transfers
@@ -33,7 +33,7 @@ module spi_flash_shifter (
 );
     reg [7:0] count;
     reg       phase;             // second half of a clock
-    reg [4:0] left;
+    reg [5:0] left;
     reg [7:0] shift;
     reg [1:0] mode;
     reg       driving;
@@ -41,7 +41,7 @@ module spi_flash_shifter (
     reg       silent;
 
     wire tick = count == 8'd0;
-    wire last = left == 5'd0;
+    wire last = left == 6'd0;
     assign take = valid & ~stop & (~busy | (tick & phase & last));
 
     always @(posedge clk or negedge rstn)
@@ -50,7 +50,7 @@ module spi_flash_shifter (
             sclk     <= 1'b0;
             count    <= 8'd0;
             phase    <= 1'b0;
-            left     <= 5'd0;
+            left     <= 6'd0;
             shift    <= 8'd0;
             mode     <= 2'd0;
             driving  <= 1'b1;
@@ -83,7 +83,7 @@ module spi_flash_shifter (
                     phase <= ~phase;
                     sclk  <= ~phase & ~silent;
                     if (phase) begin
-                        left <= left - 5'd1;
+                        left <= left - 6'd1;
                         busy <= ~(last | stop);
                         if (!silent)
                             shift <= mode[1] ? {shift[3:0], 4'hF} : mode[0] ? {shift[5:0], 2'b11} : {shift[6:0], 1'b1};
