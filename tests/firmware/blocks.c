@@ -619,7 +619,7 @@ static void use_errors(void)
     expect_error("no answer", APB2_BASE + 0x200u, SYS_CAUSE_TIMEOUT);
     expect_error("no answer again", APB2_BASE + 0x200u, SYS_CAUSE_TIMEOUT);
     check("answer", APB2_MEMORY[2], 0x1234AB78u);
-    sys_set_bus_timeout(SYS, 65535u);
+    sys_set_bus_timeout(SYS, 262143u);
     sys_enable_error_interrupt(SYS, true);
     NVIC_EnableIRQ(SYS_IRQn);
     expect_fault("told by an interrupt", APB2_BASE + 0x100u);

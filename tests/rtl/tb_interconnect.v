@@ -9,7 +9,7 @@ module tb;
     reg  [15:0]  hreadyout_s = 16'hFFFF;
     reg  [15:0]  hresp_s = 16'h0000;
 
-    reg  [15:0]  timeout = 16'hFFFF;
+    reg  [17:0]  timeout = 18'h3FFFF;
     reg  [15:0]  vacant_s = 16'h0000, expired_s = 16'h0000;
     wire [1:0]   cause;
     wire         late;
@@ -195,7 +195,7 @@ module tb;
         cycles(1);
         // A slave whose signals float from the beginning.
         hreadyout_s[8] = 1'bz; hresp_s[8] = 1'bz; hrdata_s[32*8 +: 32] = 32'hzzzzzzzz;
-        timeout = 16'd20;
+        timeout = 18'd20;
         ahb_transfer(32'h00000000, 1'b0, 3'd2, 32'd0);
         check(!failed && waits == 0, "slave 14 before");
         ahb_transfer(32'h80000000, 1'b0, 3'd2, 32'd0);
@@ -219,14 +219,14 @@ module tb;
         check(cause === 2'd2, "late access of a bridge");
         hresp_s = 16'd0; vacant_s = 16'd0; expired_s = 16'd0;
         // No limit: 70,000 wait states are no error.  The longest limit.
-        timeout = 16'd0;
+        timeout = 18'd0;
         cycles(2);
         haddr = 32'h40000000; htrans = 2'b10;
         cycles(1);
         htrans = 2'b00; hreadyout_s[0] = 1'b0;
         cycles(70000);
         check(hready === 1'b0 && hresp === 1'b0, "no limit");
-        hreadyout_s[0] = 1'b1; timeout = 16'hFFFF; #1;
+        hreadyout_s[0] = 1'b1; timeout = 18'd65535; #1;
         check(hready === 1'b1 && hresp === 1'b0, "the slave ends it");
         cycles(1);
         haddr = 32'h40000000; htrans = 2'b10;

@@ -7,7 +7,7 @@ module tb;
     reg  [1:0]  htrans = 2'd0, hsize = 2'd0;
     reg         hprot = 1'b1, hwrite = 1'b0, hready = 1'b1, hresp = 1'b0;
     reg  [1:0]  error_cause = 2'd0;
-    wire [15:0] bus_timeout;
+    wire [17:0] bus_timeout;
     reg  [3:0]  reset_cause = 4'd0;
     reg         lockup = 1'b0;
     wire        lockup_reset_req, irq;
@@ -80,7 +80,7 @@ module tb;
         apb_expect(ID, 32'h0000020B, "ID");
         apb_expect(BLOCKS, 32'd0, "BLOCKS");
         apb_expect(CONFIG, 32'd0, "CONFIG");
-        check(bus_timeout === 16'hFFFF, "limit after reset");
+        check(bus_timeout === 18'h3FFFF, "limit after reset");
         apb_write(SCRATCH, 32'h12345678);
         for (n = 0; n < 4; n = n + 1) begin
             apb_write(CTRL, 32'd3);
@@ -89,7 +89,7 @@ module tb;
             system_reset(n);
             apb_expect(RESETCAUSE, 32'h01 | ((32'd8 << n) - 32'd4), "causes gather");
             apb_expect(CTRL, 32'd0, "a system reset clears CTRL");
-            apb_expect(BUSTIMEOUT, 32'hFFFF, "and BUSTIMEOUT");
+            apb_expect(BUSTIMEOUT, 32'h3FFFF, "and BUSTIMEOUT");
             apb_expect(SCRATCH, 32'h12345678, "and leaves SCRATCH alone");
         end
         apb_write(RESETCAUSE, 32'd0);

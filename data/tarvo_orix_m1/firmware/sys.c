@@ -33,9 +33,9 @@ void sys_reset_on_lockup(SYS_Type *sys, bool on)
     set(&sys->CTRL, SYS_CTRL_LOCKUPRST_Msk, on);
 }
 
-void sys_set_bus_timeout(SYS_Type *sys, uint16_t cycles)
+void sys_set_bus_timeout(SYS_Type *sys, uint32_t cycles)
 {
-    sys->BUSTIMEOUT = cycles;
+    sys->BUSTIMEOUT = cycles < SYS_BUSTIMEOUT_CYCLES_Msk ? cycles : SYS_BUSTIMEOUT_CYCLES_Msk;
 }
 
 bool sys_has_error(const SYS_Type *sys)

@@ -51,10 +51,10 @@ void sys_reset(void);
 void sys_reset_on_lockup(SYS_Type *sys, bool on);
 
 /*
- * A transfer that is not ready after so many wait states (1 to 65535, in clock cycles of the bus;
- * 0 for no limit) fails. Every reset sets 65535.
+ * A transfer that is not ready after so many wait states (1 to 262143, in clock cycles of the bus;
+ * 0 for no limit) fails. Longer times count as the longest, which every reset sets.
  */
-void sys_set_bus_timeout(SYS_Type *sys, uint16_t cycles);
+void sys_set_bus_timeout(SYS_Type *sys, uint32_t cycles);
 
 /* Whether an access has failed since sys_take_error(). */
 bool sys_has_error(const SYS_Type *sys);

@@ -19,7 +19,7 @@ module ahb_interconnect #(
 ) (
     input  wire         HCLK,
     input  wire         HRESETn,
-    input  wire [15:0]  timeout,
+    input  wire [17:0]  timeout,
     // master
     input  wire [7:0]   HADDR_REGION,   // HADDR[31:24]
     input  wire [1:0]   HTRANS,
@@ -109,16 +109,16 @@ module ahb_interconnect #(
     assign cause  = none ? (data_refused ? ABANDONED : UNMAPPED)
                          : timed_out | (|(expired_s & data_sel)) ? TIMEOUT : |(vacant_s & data_sel) ? UNMAPPED : SLAVE;
 
-    reg [15:0] left;
+    reg [17:0] left;
     always @(posedge HCLK or negedge HRESETn)
         if (!HRESETn) begin
-            left      <= 16'd0;
+            left      <= 18'd0;
             late      <= 1'b0;
             second    <= 1'b0;
             timed_out <= 1'b0;
         end else begin
-            left      <= HREADY ? timeout : left - {15'd0, |left};
-            late      <= ~HREADY & (left == 16'd1);
+            left      <= HREADY ? timeout : left - {17'd0, |left};
+            late      <= ~HREADY & (left == 18'd1);
             second    <= ~none & ~HREADY & HRESP;
             timed_out <= ~none & over;
         end

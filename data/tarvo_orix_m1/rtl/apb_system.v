@@ -9,7 +9,7 @@
 // The pin hwRstn makes every power-on reset.  The first one since the device was configured is told from the others by a
 // flip-flop that no reset reaches and whose initial value is 0.
 module apb_system #(
-    parameter [15:0] TIMEOUT = 16'hFFFF,
+    parameter [17:0] TIMEOUT = 18'h3FFFF,
     parameter [31:0] BLOCKS  = 32'd0,
     parameter [31:0] CONFIG  = 32'd0,
     parameter [15:0] PORTS   = 16'd0
@@ -36,7 +36,7 @@ module apb_system #(
     input  wire        HREADY,
     input  wire        HRESP,
     input  wire [1:0]  error_cause,    // while HREADY and HRESP are 1
-    output wire [15:0] bus_timeout,
+    output wire [17:0] bus_timeout,
 
     input  wire [3:0]  reset_cause,    // requests of a system reset: watchdog, processor, lock-up, debug connector
     input  wire        lockup,
@@ -76,7 +76,7 @@ module apb_system #(
             scratch <= (scratch & ~mask) | data;
 
     reg [1:0]  ctrl;
-    reg [15:0] timeout;
+    reg [17:0] timeout;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             ctrl    <= 2'd0;
@@ -85,7 +85,7 @@ module apb_system #(
             if (store & (offset == 12'h004) & PSTRB[0])
                 ctrl <= PWDATA[1:0];
             if (store & (offset == 12'h008))
-                timeout <= (timeout & ~mask[15:0]) | data[15:0];
+                timeout <= (timeout & ~mask[17:0]) | data[17:0];
         end
 
     // The transfer of the data phase, and the last one that failed.
@@ -121,7 +121,7 @@ module apb_system #(
         case (offset)
             12'h000: PRDATA = {26'd0, causes};
             12'h004: PRDATA = {30'd0, ctrl};
-            12'h008: PRDATA = {16'd0, timeout};
+            12'h008: PRDATA = {14'd0, timeout};
             12'h00C: PRDATA = error_addr;
             12'h010: PRDATA = {22'd0, error_info, 2'd0, more, valid};
             12'h014: PRDATA = scratch;

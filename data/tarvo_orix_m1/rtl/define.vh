@@ -131,6 +131,6 @@
     assign HRESP     = absent_first | absent_second;
 
 // Wait states of a bus transfer that end it with an error response, after a reset and without SYS; 0 for no limit.
-`define ORIX_BUS_TIMEOUT 16'hFFFF
+`define ORIX_BUS_TIMEOUT 18'h3FFFF
 
 `endif
