@@ -120,11 +120,31 @@ private:
         } else if (kind == QLatin1String("html")) {
             add(file, QStringLiteral("xmllint"),
                 words("--html --noout --nonet") + QStringList{file}, own);
+        } else if (kind == QLatin1String("sdc")) {
+            addConstraints(file, own);
         } else if (kind == QLatin1String("svg") || kind == QLatin1String("xml")) {
             add(file, QStringLiteral("xmllint"), words("--noout --nonet") + QStringList{file}, own);
         } else if (kind != QLatin1String("ld") && kind != QLatin1String("x")) {
             m_complaints.append(file + QLatin1String(": nothing here checks such a file"));
         }
+    }
+
+    // Read as Tcl, with the commands that tools have for such files and no others.
+    void addConstraints(const QString &file, const QByteArray &own)
+    {
+        const QString reader = QString(file).replace(u'/', u'_') + QLatin1String(".reader");
+        TestSupport::write(m_folder + u'/' + reader,
+                           "proc get_cells {pattern} { return [list $pattern] }\n"
+                           "proc set_false_path {option cells} {\n"
+                           "    if {$option ne \"-to\"} { error \"set_false_path $option\" }\n"
+                           "}\n"
+                           "proc set_max_delay {from cells to others ns} {\n"
+                           "    if {$from ne \"-from\" || $to ne \"-to\" || $ns <= 0} {\n"
+                           "        error \"set_max_delay $from $to $ns\"\n"
+                           "    }\n"
+                           "}\n"
+                           "source [lindex $argv 0]\n");
+        add(file, QStringLiteral("tclsh"), {reader, file}, own);
     }
 
     static bool isHeader(const QString &path) { return path.endsWith(QLatin1String(".h")); }
