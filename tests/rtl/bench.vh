@@ -1,4 +1,10 @@
 // Common part of every testbench, included inside its module: clock, reset, checks and the end of the run.
+    // How often something is done: in the whole testbench, and in the short form of it.
+`ifdef SHORT
+`define ROUNDS(whole, short) (short)
+`else
+`define ROUNDS(whole, short) (whole)
+`endif
     reg clk = 1'b0;
     reg rstn = 1'b0;
     integer checks = 0;

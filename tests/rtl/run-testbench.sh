@@ -1,26 +1,29 @@
 #!/usr/bin/env bash
 # Builds and runs one testbench of benches.txt in a temporary folder.  Success is a line "PASS" and nothing that failed.
-#   run-testbench.sh ORIXM1 RTL NAME [rtl|verilog|vhdl]
+#   run-testbench.sh ORIXM1 RTL NAME [rtl|netlist|verilog|vhdl [FOLDER [short]]]
 # RTL is the folder of the variants.  With "verilog" or "vhdl" the module of the row, which is the first source and has no parameters
 # set, is replaced by its netlist in that language, as the synthesis of configurations makes it (synthesizemodule, in the build
-# folder of ORIXM1).
+# folder of ORIXM1).  "netlist" leaves the netlists in FOLDER, from where "verilog" and "vhdl" take them; those make them themselves
+# without a FOLDER.  The testbench knows from the macro GATES that what is unknown goes through the module, and from SHORT that it
+# has to be done in seconds: fewer rounds of the same.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/configure.sh"
-orixm1=$1 variants=$2 name=${3:?name of a testbench} model=${4:-rtl}
+orixm1=$1 variants=$2 name=${3:?name of a testbench} model=${4:-rtl} folder=${5:-} length=${6:-whole}
 tmp=$(mktemp -d) || exit 2
 trap 'rm -rf "$tmp"' EXIT
 bench=
 words=() files=()
 roots=(-s tb)
-rtl_only=false
+has_netlist=
 while read -r entry file rest; do
     [[ $entry == "$name" ]] || continue
     bench=$file
     for word in $rest; do
         case $word in
             -*) words+=("$word") ;;
-            rtl-only) rtl_only=true ;;
+            rtl-only) has_netlist=false ;;
+            netlists) has_netlist=true ;;
             cases/*) # all of the design but the processor
                 configure "$orixm1" "${word#cases/}" "$tmp" || exit 2
                 words+=("-I$generated_dir")
@@ -38,27 +41,44 @@ done < "$here/benches.txt"
 [[ -n $bench ]] || { echo "no testbench named $name"; exit 2; }
 
 if [[ $model != rtl ]]; then
-    [[ $rtl_only == false && ${#words[@]} -eq 0 && ${#files[@]} -gt 0 ]] || { echo "$name has no netlist of its own"; exit 2; }
+    [[ ${#words[@]} -eq 0 || $has_netlist == true ]] && [[ $has_netlist != false && ${#files[@]} -gt 0 ]] || { echo "$name has no netlist of its own"; exit 2; }
     library=$here/../../src/host/synthesis/library
     module=$(basename "${files[0]}" .v)
-    "$(dirname "$orixm1")/../tests/bin/synthesizemodule" "$module" "$tmp/netlist" "${files[@]}" > "$tmp/log" 2>&1 \
-        || { cat "$tmp/log"; exit 1; }
+    if [[ -z $folder || $model == netlist ]]; then
+        folder=${folder:-$tmp/netlist}
+        rm -rf "$folder"
+        "$(dirname "$orixm1")/../tests/bin/synthesizemodule" "$module" "$folder" "${files[@]}" > "$tmp/log" 2>&1 \
+            || { cat "$tmp/log"; exit 1; }
+    fi
     netlist=$tmp/netlist.v
     case $model in
-        verilog) cp "$tmp/netlist/$module.vg" "$netlist" ;;
+        netlist) [[ -s $folder/$module.vg && -s $folder/$module.vhg ]]; exit ;;
+        verilog) cp "$folder/$module.vg" "$netlist" ;;
         vhdl) # as GHDL reads it, over the same primitives
-            cp "$tmp/netlist/$module.vhg" "$tmp/netlist.vhd"
+            cp "$folder/$module.vhg" "$tmp/netlist.vhd"
             (cd "$tmp" && ghdl --synth --std=93c -Wno-binding --out=verilog netlist.vhd -e "$module") > "$tmp/ghdl.v" 2> "$tmp/log" \
                 || { cat "$tmp/log"; exit 1; }
-            sed -nE 's/^  (TV_[A-Z0-9_]+|[)]) (_[0-9]+_) [(]$/\2/p' "$tmp/netlist/$module.vg" > "$tmp/cells"
-            awk -v top="$module" -f "$here/../netlist/proof/ghdl-verilog.awk" "$tmp/cells" "$tmp/ghdl.v" > "$netlist" || exit 1 ;;
+            sed -nE 's/^  (TV_[A-Z0-9_]+|[)]) (_[0-9]+_) [(]$/\2/p' "$folder/$module.vg" > "$tmp/cells"
+            awk -v top="$module" -f "$here/../netlist/proof/ghdl-verilog.awk" "$tmp/cells" "$tmp/ghdl.v" > "$tmp/renamed.v" || exit 1
+            # Contents of a block RAM are more digits than Icarus Verilog reads at once.
+            awk '{
+                while (match($0, /16384\047b[01xXzZ]+/)) {
+                    printf "%s{", substr($0, 1, RSTART - 1)
+                    for (i = 0; i < 16; ++i)
+                        printf "%s1024\047b%s", i ? ", " : "", substr($0, RSTART + 7 + 1024 * i, 1024)
+                    printf "}"
+                    $0 = substr($0, RSTART + RLENGTH)
+                }
+                print
+            }' "$tmp/renamed.v" > "$netlist" ;;
         *) echo "no such model: $model"; exit 2 ;;
     esac
     grep -q "^module $module\b" "$netlist" || { echo "no module $module in its netlist"; exit 1; }
     # The testbench's other modules stay what they are.
     files=("$netlist" "${files[@]:1}" "$library/primitives.v")
-    words+=(-DTARVO_NO_TIMESCALE)
+    words+=(-DTARVO_NO_TIMESCALE -DGATES)
 fi
+[[ $length == whole ]] || words+=(-DSHORT)
 iverilog -g2005 -Wall "${roots[@]}" -I "$here" -I "$here/checkers" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" \
     -o "$tmp/bench" "${words[@]}" "${files[@]}" "$here"/checkers/*_checker.v "$here/$bench" || exit 1
 (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1

@@ -163,8 +163,10 @@ module tb;
             delay = $unsigned($random(seed)) % 24;
             silent = $unsigned($random(seed)) % 4 == 0;
             case ($unsigned($random(seed)) % 3)
+`ifndef GATES   // which hand on what is unknown
                 0: floating = 1'bx;
                 1: floating = 1'bz;
+`endif
                 default: floating = 1'b0;
             endcase
             value = $random(seed);

@@ -205,7 +205,7 @@ module tb;
             compare_with_model(VALUE); cycles(2);
             compare_with_model(PEND); compare_with_model(CTRL);
         end
-        for (n = 0; n < 6000; n = n + 1) begin
+        for (n = 0; n < `ROUNDS(6000, 150); n = n + 1) begin
             random_settings;
             compare_with_model((($random & 1) * 32) + (($random & 7) * 4));
         end

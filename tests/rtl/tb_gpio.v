@@ -141,7 +141,7 @@ module tb;
             ahb_write(INTEDGE, 32'hFFFF);
             ahb_write(FILTER, 32'h0008);
             ahb_expect(FILTER, `FILTER ? 32'h0008 : 32'h0, "FILTER reads back");
-            for (length = 0; length < 6; length = length + 1) begin
+            for (length = 0; length < `ROUNDS(6, 3); length = length + 1) begin
                 ahb_write(FILTERLEN, length);
                 cycles(20);
                 for (shift = 0; shift <= length; shift = shift + 1) begin

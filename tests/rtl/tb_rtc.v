@@ -300,7 +300,7 @@ module tb;
         // Random settings.
         power_on; model_power;
         write(PRESCALE, 3);
-        for (n = 0; n < 700; n = n + 1) begin
+        for (n = 0; n < `ROUNDS(700, 20); n = n + 1) begin
             random_settings;
             if (n % 4 == 0) compare_with_model;
         end

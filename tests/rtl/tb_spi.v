@@ -99,7 +99,7 @@ module tb;
     time      first;
     task bytes_one_by_one;
         begin
-            for (mode = 0; mode < 8; mode = mode + 1) begin
+            for (mode = 0; mode < 8; mode = mode + `ROUNDS(1, 3)) begin
                 apb_write(CTRL, 8 + mode);
                 apb_expect(CTRL, 8 + mode, "CTRL reads back");
                 slave_from(mode, 8);
@@ -400,7 +400,7 @@ module tb;
 
     // Devices that answer later than half a period.
     task late_answers;
-        for (round = 0; round < 16; round = round + 1) begin
+        for (round = 0; round < `ROUNDS(16, 2); round = round + 1) begin
             form = FIFO | (round & 7);
             apb_write(CTRL, form);
             apb_write(SELECT, 6);
@@ -430,7 +430,7 @@ module tb;
     // Samples that come after the last edge: the end waits for them, and so does a word that follows at any time.
     integer later;
     task late_ends;
-        for (later = 0; later < 30; later = later + 1) begin
+        for (later = 0; later < 30; later = later + `ROUNDS(1, 6)) begin
             form = FIFO | IE | 2;
             apb_write(CTRL, form);
             apb_write(DIV, 0);
@@ -482,7 +482,7 @@ module tb;
     endtask
 
     task back_to_itself;
-        for (round = 0; round < 8; round = round + 1) begin
+        for (round = 0; round < 8; round = round + `ROUNDS(1, 3)) begin
             form = FIFO | LOOP | round;
             apb_write(SELECT, round[0] ? 1 : 6);
             apb_write(CTRL, form);
@@ -518,7 +518,7 @@ module tb;
         apb_expect(ID, (`LOG_WIDTH << 24) | (`LOG_DEPTH << 16) | 32'h208, "ID");
         check(nss === 1'b1 && sclk === 1'b0 && irq === 1'b0, "idle pins");
         bytes_one_by_one;
-        for (round = 0; round < 64; round = round + 1) words_of_any_form;
+        for (round = 0; round < `ROUNDS(64, 2); round = round + 1) words_of_any_form;
         check(short_idles == 0, "time between selections");
         check(late_first == 0, "time before the first edge");
         check(late_end == 0, "time behind the last edge");

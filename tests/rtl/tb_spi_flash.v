@@ -112,6 +112,7 @@ module tb;
         end
     endtask
 
+    localparam SLOWEST = `ROUNDS(255, 7);
     initial begin
         reset;
         check(csn === 1'b1 && fclk === 1'b0 && io[2] === 1'b0 && io[3] === 1'b1, "idle pins");
@@ -233,7 +234,7 @@ module tb;
         check(failed, "a read without an address");
         check(chip.clocks == clocks && outen === 4'b1101, "nothing is sent by what is refused");
         chip.high = 8'h02;
-        for (stall = 0; stall < 4; stall = stall + 1) begin
+        for (stall = `ROUNDS(0, 3); stall < 4; stall = stall + 1) begin
             // Divider 3, 1, 0 and 0 with a later sample.
             ahb_write(DIV, stall == 0 ? 3 : stall == 1 ? 1 : 0);
             a = stall == 3 ? 32'h10 : stall == 0 ? 32'h30 : 0;
@@ -490,12 +491,12 @@ module tb;
         ahb_write(UPPER, 0);
 
         // ---- resets in the middle of what the flash does
-        for (stall = 1; stall < 30; stall = stall + 7) begin
+        for (stall = 1; stall < 30; stall = stall + `ROUNDS(7, 29)) begin
             reset_within(QUAD_IO & 32'h00FFFFFF | 32'hA0000000, PREFETCH | QUAD | CONTINUOUS, stall, 1'b0);
             reset_within(DUAL_IO & 32'h00FFFFFF | 32'hA0000000, PREFETCH | CONTINUOUS, stall, 1'b0);
             reset_within(QUAD_OUT, PREFETCH | QUAD, stall, 1'b0);
         end
-        for (stall = 2; stall < 24; stall = stall + 17) begin
+        for (stall = 2; stall < 24; stall = stall + `ROUNDS(17, 22)) begin
             reset_within(QUAD_IO & 32'h00FFFFFF | LONG | 32'hA0000000, PREFETCH | QUAD | CONTINUOUS, stall, 1'b1);
             reset_within(DUAL_IO & 32'h00FFFFFF | LONG | 32'hA0000000, PREFETCH | CONTINUOUS, stall, 1'b1);
         end
@@ -516,16 +517,16 @@ module tb;
         ahb_write(RECOVER, 32'h0003);
         run(8'h06 | ALONE);
         check(chip.resets == m + 2 && chip.writable, "and before a command");
-        // The longest waits, with the slowest clock.
-        ahb_write(DIV, 255);
+        // The longest waits, with a slow clock.
+        ahb_write(DIV, SLOWEST);
         settings(32'hFF3FC003, PREFETCH | 32'h00000700);
         ahb_write(RECOVER, 32'hFF03);
         ahb_transfer(BASE, 1'b0, 3'd2, 0);
-        check(waits > 140000 && waits < 160000, "longest wait with a reset of the flash");
+        check(waits > 16320 + 480 * (SLOWEST + 1) && waits < 16320 + 560 * (SLOWEST + 1), "longest wait with a reset of the flash");
         cycles(700);
         check(csn === 1'b0, "reads ahead");
         ahb_transfer(BASE + 32'h1000, 1'b0, 3'd2, 0);
-        check(waits > 73000 && waits < 80000, "longest wait without one");
+        check(waits > 285 * (SLOWEST + 1) && waits < 313 * (SLOWEST + 1), "longest wait without one");
 `else
         ahb_expect(ID, 32'h0003020A, "ID without commands");
         for (m = 0; m < 6; m = m + 1) begin

@@ -263,7 +263,7 @@ module tb;
             compare_with_model(PEND); compare_with_model(CTRL);
         end
         toggling = 1'b1;
-        for (n = 0; n < 6000; n = n + 1) begin
+        for (n = 0; n < `ROUNDS(6000, 500); n = n + 1) begin
             random_settings;
             compare_with_model(($random & 7) * 4);
         end

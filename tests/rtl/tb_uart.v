@@ -487,7 +487,7 @@ module tb;
         apb_write(CTRL, 0);
 
         // Random formats, bit times and rates; both directions at once. Characters with errors are kept or dropped.
-        for (count = 0; count < 60; count = count + 1) begin
+        for (count = 0; count < `ROUNDS(60, 2); count = count + 1) begin
             cyc  = 16 + $urandom(seed) % (count % 12 == 0 ? 100 : 20);
             frac = count % 3 == 0 ? 0 : $urandom(seed) % 64;
             keep = count % 4 > 1;
@@ -558,6 +558,7 @@ module tb;
         apb_write(STATUS, 32'hF8);
         apb_write(CTRL, 0);
         set_format(5, 0, 1, 1);
+`ifndef SHORT
         took = 1'b0;
         for (n = 0; n < 32 && !took; n = n + 1) begin
             apb_write(COMMAND, 2);
@@ -569,7 +570,7 @@ module tb;
             cycles(1);
             penable = 1'b1;
             cycles(1);
-            psel = 1'b0; penable = 1'b0; pwrite = 1'b0;
+            psel = 1'b0; penable = 1'b0; pwrite = 1'b0; pstrb = 4'd0;
             // It was taken, and the FIFO is full again: too early it is lost, too late there was room.
             apb_read(STATUS);
             took = rd === 32'h5;
@@ -583,6 +584,7 @@ module tb;
             wait_sent;
         end
         check(took, "written in the cycle in which one leaves");
+`endif
         apb_write(CTRL, RXEN);
         apb_write(STATUS, 32'hF8);
 
@@ -594,6 +596,7 @@ module tb;
 
         // The FIFO has to hold three characters.
         if (DEPTH > 2) begin
+`ifndef SHORT
             tolerance(16, 0, 8, 0, 2);
             tolerance(16, 0, 8, 1, 2);
             tolerance(16, 0, 9, 3, 2);
@@ -603,6 +606,7 @@ module tb;
             tolerance(26, 0, 9, 1, 2);
             tolerance(48, 0, 8, 0, 0);
             tolerance(48, 33, 9, 1, 0);
+`endif
         end
         finish;
     end

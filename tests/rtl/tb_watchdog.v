@@ -255,7 +255,7 @@ module tb;
         apb_expect(LOCK, 0, "a reset opens it");
         // Random settings.
         comparing = 1'b1;
-        for (n = 0; n < 8000; n = n + 1) begin
+        for (n = 0; n < `ROUNDS(8000, 400); n = n + 1) begin
             if (n % 1000 == 999) begin
                 comparing = 1'b0;
                 apb_write(LOCK, n % 2000 < 1000 ? SEAL_KEY : 0);

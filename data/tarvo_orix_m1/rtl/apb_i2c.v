@@ -490,6 +490,7 @@ module apb_i2c #(
             reg [9:0] met;              // the address that was called
             reg       chosen, by_all, known, fresh;
             reg       holds;            // SCL is held until there is a byte, or room for one
+            reg       holds_scl;        // while `holds`, and `delay` behind it: of its own, so that the pin has no glitch
             reg [4:0] delay;            // and on, until SDA has been at its level long enough
             reg       pulls;
             reg       was_chosen, was_ended, was_late;
@@ -540,6 +541,7 @@ module apb_i2c #(
                     known      <= 1'b0;
                     fresh      <= 1'b0;
                     holds      <= 1'b0;
+                    holds_scl  <= 1'b0;
                     delay      <= 5'd0;
                     pulls      <= 1'b0;
                     was_chosen <= 1'b0;
@@ -562,6 +564,8 @@ module apb_i2c #(
                     end
                     if (delay != 5'd0)
                         delay <= delay - 5'd1;
+                    if (delay == 5'd1 & ~holds)
+                        holds_scl <= 1'b0;
                     if (rise && mode != OFF) begin
                         t_bits <= t_bits + 4'd1;
                         // Beside the acknowledge bit of a byte that is sent, which is kept for the edge behind it.
@@ -615,12 +619,15 @@ module apb_i2c #(
                             mode <= OFF;
                         if (holds)
                             delay <= 5'd31;
-                    end else if (gets)
-                        holds <= 1'b1;
+                    end else if (gets) begin
+                        holds     <= 1'b1;
+                        holds_scl <= 1'b1;
+                    end
                     if (sends) begin
-                        if (tx_empty & stretch)
-                            holds <= 1'b1;
-                        else begin
+                        if (tx_empty & stretch) begin
+                            holds     <= 1'b1;
+                            holds_scl <= 1'b1;
+                        end else begin
                             // A byte that is not there is sent as ones.
                             pulls  <= ~tx_empty & ~tx_byte[7];
                             shift  <= tx_empty ? 8'hFF : {tx_byte[6:0], 1'b0};
@@ -636,6 +643,7 @@ module apb_i2c #(
                         t_bits <= 4'd0;
                         pulls  <= 1'b0;
                         holds  <= 1'b0;
+                        holds_scl <= 1'b0;
                         delay  <= 5'd0;
                         chosen <= 1'b0;
                         if (chosen & (start_seen | stop_seen))
@@ -646,7 +654,7 @@ module apb_i2c #(
                             known <= 1'b0;
                     end
                 end
-            assign t_scl_low      = holds | (delay != 5'd0);
+            assign t_scl_low      = holds_scl;
             assign t_sda_low      = pulls;
             assign t_busy         = chosen & (mode != OFF);
             assign t_pending      = {was_late, was_ended, was_chosen, holds & (mode == SENDS), {1'b0, rx_threshold} < {{(7-T_DEPTH){1'b0}}, rx_level}};

@@ -26,3 +26,10 @@ module RAM (
     parameter [0:0] RD_NEG = 1'b0;
     parameter [0:0] WR_NEG = 1'b0;
 endmodule
+
+// Distributed RAM as TV_RAMD has it.
+(* blackbox *)
+module SMALL_RAM (output [3:0] RDATA, input [3:0] RADDR, input C, input WE, input [3:0] WADDR, input [3:0] WDATA);
+    parameter [63:0] INIT = {64{1'bx}};
+    parameter [0:0] NEG = 1'b0;
+endmodule

@@ -1,4 +1,4 @@
-// From flip-flops, tri-state drivers and block RAMs to the cells of boundary.v.
+// From flip-flops, tri-state drivers and RAMs to the cells of boundary.v.
 //
 // A flip-flop becomes state that moves in steps: in a step in which its clock is high it takes the new value, with the
 // clock low it stays, and for a falling edge the other way round. An asynchronous reset overrides what is seen of it.
@@ -53,4 +53,12 @@ module TV_RAMB_SDP (output [31:0] RDATA, input RC, REN, input [13:0] RADDR, inpu
     RAM #(.INIT(INIT), .RD_INIT(RD_INIT), .RD_WIDTH(RD_WIDTH), .WR_WIDTH(WR_WIDTH), .RD_NEG(RD_NEG), .WR_NEG(WR_NEG))
         _TECHMAP_REPLACE_ (.RDATA(RDATA), .RC(RC), .REN(REN), .RADDR(RADDR), .WC(WC), .WEN(WEN), .WADDR(WADDR),
                            .WDATA(WDATA & written));
+endmodule
+
+module TV_RAMD (output [3:0] RDATA, input [3:0] RADDR, input C, WE, input [3:0] WADDR, WDATA);
+    parameter [63:0] INIT = {64{1'bx}};
+    parameter [0:0] NEG = 1'b0;
+
+    SMALL_RAM #(.INIT(INIT), .NEG(NEG))
+        _TECHMAP_REPLACE_ (.RDATA(RDATA), .RADDR(RADDR), .C(C), .WE(WE), .WADDR(WADDR & {4{WE}}), .WDATA(WDATA & {4{WE}}));
 endmodule
