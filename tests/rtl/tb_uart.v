@@ -569,7 +569,7 @@ module tb;
             cycles(1);
             penable = 1'b1;
             cycles(1);
-            psel = 1'b0; penable = 1'b0; pwrite = 1'b0;
+            psel = 1'b0; penable = 1'b0; pwrite = 1'b0; pstrb = 4'd0;
             // It was taken, and the FIFO is full again: too early it is lost, too late there was room.
             apb_read(STATUS);
             took = rd === 32'h5;
