@@ -16,7 +16,9 @@ pass == 1 {
         rest = substr(rest, RSTART + RLENGTH)
     }
     if (text ~ /^ *task /) { match(text, /task +[a-z_A-Z0-9]+/); task = substr(text, RSTART + 5, RLENGTH - 5) }
-    if (task != "" && within && text ~ /#[0-9a-z(]|@|cycles|a[ph]b_[a-z]+/) waits[task] = 1
+    plain = text
+    gsub(/<= *#/, "", plain)   # takes no time by itself
+    if (task != "" && within && plain ~ /#[0-9a-z(]|@|cycles|a[ph]b_[a-z]+/) waits[task] = 1
     if (task != "" && within) body[task] = body[task] text
     if (text ~ /endtask/) task = ""
     next
