@@ -51,3 +51,31 @@
             check32(rd, expected, what);
         end
     endtask
+
+    // A register in which `bits` keep what is written and the others are `fixed`: random words, bytes and halfwords, each read back.
+    // It keeps the last of them.
+    task ahb_parts(input [31:0] address, input [31:0] bits, input [31:0] fixed);
+        reg [31:0] value, kept, reached;
+        integer    part;
+        begin
+            kept = 32'd0;
+            for (part = 0; part < 21; part = part + 1) begin
+                value = $random;
+                case (part % 7)
+                    0: begin ahb_write(address, value); reached = 32'hFFFFFFFF; end
+                    5, 6: begin
+                        value[31:16] = value[15:0];
+                        ahb_transfer(address + 2 * (part % 7 - 5), 1'b1, 3'd1, value);
+                        reached = 32'h0000FFFF << 16 * (part % 7 - 5);
+                    end
+                    default: begin
+                        value = {4{value[7:0]}};
+                        ahb_transfer(address + part % 7 - 1, 1'b1, 3'd0, value);
+                        reached = 32'h000000FF << 8 * (part % 7 - 1);
+                    end
+                endcase
+                kept = (kept & ~reached) | (value & reached);
+                ahb_expect(address, (kept & bits) | fixed, "a register by its parts");
+            end
+        end
+    endtask

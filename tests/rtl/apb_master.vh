@@ -59,3 +59,31 @@
             check32(rd, expected, what);
         end
     endtask
+
+    // A register in which `bits` keep what is written and the others are `fixed`: random words, bytes and halfwords, each read back.
+    // It keeps the last of them.
+    task apb_parts(input [11:0] address, input [31:0] bits, input [31:0] fixed);
+        reg [31:0] value, kept, reached;
+        integer    part;
+        begin
+            kept = 32'd0;
+            for (part = 0; part < 21; part = part + 1) begin
+                value = $random;
+                case (part % 7)
+                    0: begin apb_write(address, value); reached = 32'hFFFFFFFF; end
+                    5, 6: begin
+                        value[31:16] = value[15:0];
+                        apb_write16(address + 2 * (part % 7 - 5), value[15:0]);
+                        reached = 32'h0000FFFF << 16 * (part % 7 - 5);
+                    end
+                    default: begin
+                        value = {4{value[7:0]}};
+                        apb_write8(address + part % 7 - 1, value[7:0]);
+                        reached = 32'h000000FF << 8 * (part % 7 - 1);
+                    end
+                endcase
+                kept = (kept & ~reached) | (value & reached);
+                apb_expect(address, (kept & bits) | fixed, "a register by its parts");
+            end
+        end
+    endtask

@@ -535,6 +535,13 @@ module tb;
         end
         check(csn === 1'b1, "nothing begins");
 `endif
+        // Registers by their parts.
+        reset;
+        ahb_parts(DIV, 32'h000000FF, 0); ahb_parts(PROTECT, 32'h00000001, 0); ahb_parts(CTRL, 32'h00FF0737, 0);
+        ahb_parts(READ, 32'hFF3FFFFF, 0); ahb_parts(UPPER, 32'h000000FF, 0);
+`ifndef BARE
+        ahb_parts(ADDRESS, 32'hFFFFFFFF, 0); ahb_parts(LENGTH, 32'h000001FF, 0); ahb_parts(POLL, 32'h0000FFFF, 0);
+`endif
         check(chip.wrong == 0, "nothing wrong on the pins at all");
         finish;
     end

@@ -21,7 +21,7 @@ module tb;
     );
 
     localparam [11:0] RESETCAUSE = 12'h000, CTRL = 12'h004, BUSTIMEOUT = 12'h008, ERRADDR = 12'h00C, ERRINFO = 12'h010,
-                      SCRATCH = 12'h014, BLOCKS = 12'h018, CONFIG = 12'h01C, ID = 12'hFFC;
+                      SCRATCH = 12'h014, BLOCKS = 12'h018, CONFIG = 12'h01C, PORTS = 12'h020, ID = 12'hFFC;
 
     task power_on_reset;
         begin
@@ -108,6 +108,14 @@ module tb;
         apb_write8(SCRATCH + 2, 8'hAB);
         apb_write16(SCRATCH, 16'h1357);
         apb_expect(SCRATCH, 32'h00AB1357, "parts of SCRATCH");
+        apb_parts(SCRATCH, 32'hFFFFFFFF, 0);
+        apb_parts(BUSTIMEOUT, 32'h0003FFFF, 0);
+        apb_parts(CTRL, 32'h00000003, 0);
+        apb_parts(BLOCKS, 0, 0);
+        apb_parts(CONFIG, 0, 0);
+        apb_parts(PORTS, 0, 0);
+        apb_parts(PORTS + 4, 0, 0);   // the first that is none
+        apb_parts(ID, 0, 32'h0000020B);
         // Lock-up.
         lockup = 1'b1;
         #1 check(lockup_reset_req === 1'b0, "a lock-up is let be");
