@@ -80,7 +80,7 @@ said() { # LINE…: gdb's output has lines like these patterns, in this order
 }
 
 if [[ $case == session ]]; then
-    # SYS keeps the last address that gdb tried in vain for a back trace; the program wants none.
+    # SYS keeps the last address that gdb tried in vain for a back trace, in ERRINFO; the program wants none.
     start +gdb=0
     debug << 'COMMANDS'
 info symbol $pc
@@ -105,7 +105,7 @@ delete
 tbreak UART0_IRQHandler
 continue
 finish
-set var SYS->ERRINFO = 3
+set var *(unsigned *) 0x5000F010 = 3
 continue
 COMMANDS
     said "Reset_Handler in section *" "Temporary breakpoint 1, main *" "PRIMASK 0 CONTROL 0" '$1 = 0' '$2 = 7' \
@@ -122,7 +122,7 @@ continue
 monitor reset
 maintenance flush register-cache
 info symbol $pc
-set var SYS->ERRINFO = 3
+set var *(unsigned *) 0x5000F010 = 3
 continue
 COMMANDS
     said "Temporary breakpoint 1, PendSV_Handler *" "Reset_Handler in section *" "*exited normally*"
