@@ -672,11 +672,13 @@ static void use_watchdog(void)
     check("unlocked", wdog_is_locked(WDOG), false);
 }
 
+static volatile uint32_t first_causes = SYS_RESETCAUSE_POWERON_Msk; /* a debugger knows others */
+
 int main(void)
 {
     const uint32_t run = RUNS;
     if (run == 0u) {
-        use_system(SYS_RESETCAUSE_POWERON_Msk);
+        use_system(first_causes);
         use_processor();
         use_gpio();
         use_external_interrupts();
