@@ -75,7 +75,7 @@ static bool uart_hears_itself(void)
 
     if (uart_set_format(UART1, 9u, UART_PARITY_ODD, 2u, true) != UART_OK)
         return false;
-    uart_loop_back(UART1, true);
+    uart_set_loopback(UART1, true);
     for (i = 0; i < size; ++i) {
         if (uart_put_character(UART1, 0x1F0u ^ (i * 31u), 1u) != UART_OK)
             return false;
@@ -87,7 +87,7 @@ static bool uart_hears_itself(void)
             character != (0x1F0u ^ (i * 31u)))
             return false;
     }
-    uart_loop_back(UART1, false);
+    uart_set_loopback(UART1, false);
     return uart_take_errors(UART1) == 0u;
 }
 

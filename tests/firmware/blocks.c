@@ -1,7 +1,8 @@
 /* Reads and writes each block of the sensor node by the exported header and drivers, on the board
  * of board.v. It runs three times: after power-on, after a reset that it requests itself, and after
  * one by the watchdog. What differs from what is expected is said by semihosting, and how many did
- * is the exit status. */
+ * is the exit status. With FEW_BLOCKS serial lines, timer and clock are left out, for small
+ * memories. */
 #include "tarvo_orix_m1.h"
 
 #include "gpio.h"
@@ -63,8 +64,12 @@ static void check(const char *what, uint32_t value, uint32_t expected)
     if (value == expected)
         return;
     ++failures;
+#ifdef FEW_BLOCKS
+    (void)what; /* the texts take too much room */
+#else
     say(what);
     say(": ");
+#endif
     say_number(value);
     say(", expected ");
     say_number(expected);
@@ -116,6 +121,7 @@ void NMI_Handler(void)
         wdog_kick(WDOG); /* the last time nobody does */
 }
 
+#ifndef FEW_BLOCKS
 static volatile uint32_t room;
 
 void UART0_IRQHandler(void)
@@ -144,6 +150,7 @@ void TIMER0_IRQHandler(void)
     if (timer_take(TIMER0))
         ++periods;
 }
+#endif
 
 static volatile uint32_t rises;
 
@@ -153,6 +160,7 @@ void GPIO_IRQHandler(void)
     gpio_acknowledge(GPIO, 0xFFFFu);
 }
 
+#ifndef FEW_BLOCKS
 static volatile uint32_t seconds;
 
 void RTC_IRQHandler(void)
@@ -185,6 +193,7 @@ void SPI_IRQHandler(void)
         words = words << 8 | word;
     spi_bytes = words;
 }
+#endif
 
 /* The board's inputs show pins 0 to 3; a handler takes its one back. */
 static volatile uint32_t external;
@@ -311,6 +320,7 @@ static void use_external_interrupts(void)
 
 /* Nine data bits, parity, two stop bits, half a cycle more a bit; a wrong parity, a break, the
  * loop. */
+#ifndef FEW_BLOCKS
 static void use_uart_formats(void)
 {
     uint32_t character = 0u;
@@ -345,12 +355,12 @@ static void use_uart_formats(void)
     check("break", character, UART_DATA_BREAK_Msk | UART_DATA_FRAME_Msk);
     check("errors", uart_take_errors(UART1),
           UART_STATUS_PARITY_Msk | UART_STATUS_FRAME_Msk | UART_STATUS_BREAK_Msk);
-    uart_loop_back(UART0, true);
+    uart_set_loopback(UART0, true);
     check("uart_put", uart_put(UART0, 0x3Cu, POLLS), UART_OK);
     check("uart_get_character", uart_get_character(UART0, &character, POLLS), UART_OK);
     check("heard from itself", character, 0x3Cu);
     check("uart_flush", uart_flush(UART0, POLLS), UART_OK);
-    uart_loop_back(UART0, false);
+    uart_set_loopback(UART0, false);
     check("not by the other one", uart_can_get(UART1), false);
     check("errors", uart_take_errors(UART0) | uart_take_errors(UART1), 0u);
     check("identity", UART0->ID, UART_ID_RESET);
@@ -506,7 +516,7 @@ static void use_spi(void)
     /* The FIFO asks for more by its interrupt, at half the clock. */
     check("spi_init, fast", spi_init(SPI, CLOCK, CLOCK / 2u, SPI_MODE_0, false), SPI_OK);
     check("spi_set_select, burst", spi_set_select(SPI, SPI_SELECT_BURST, 0u, 0u, 0u), SPI_OK);
-    check("spi_set_thresholds", spi_set_thresholds(SPI, 0u, 3u), SPI_OK);
+    check("spi_set_thresholds", spi_set_thresholds(SPI, 3u, 0u), SPI_OK);
     check("spi_use_fifos", spi_use_fifos(SPI, true), SPI_OK);
     spi_enable_interrupts(SPI, SPI_INTEN_RXREADY_Msk);
     check("spi_put", spi_put(SPI, 0x11u) && spi_put(SPI, 0x22u) && spi_put(SPI, 0x33u), 1u);
@@ -545,6 +555,7 @@ static void use_i2c(void)
     check("byte from itself", received[0], 0x6Bu);
     i2c_target_stop(I2C);
 }
+#endif
 
 static void use_memory(const char *what, volatile uint32_t *words)
 {
@@ -582,7 +593,7 @@ static void expect_fault(const char *what, uint32_t address)
 }
 
 static volatile uint32_t bus_errors;
-static sys_error_t bus_error;
+static sys_error bus_error;
 
 void SYS_IRQHandler(void)
 {
@@ -590,9 +601,9 @@ void SYS_IRQHandler(void)
 }
 
 /* Reads a word of an address, which faults, and is told afterwards. */
-static void expect_error(const char *what, uint32_t address, sys_cause_t cause)
+static void expect_error(const char *what, uint32_t address, sys_cause cause)
 {
-    sys_error_t error;
+    sys_error error;
     expect_fault(what, address);
     check(what, sys_take_error(SYS, &error), true);
     check(what, error.address, address);
@@ -615,11 +626,11 @@ static void use_errors(void)
     expect_fault("not aligned", AHB1_BASE + 2u);
     check("the bus does not see it", sys_has_error(SYS), false);
     /* The port does not answer there at all; elsewhere it does, as before. */
-    sys_set_bus_timeout(SYS, 100u);
+    check("sys_set_bus_timeout", sys_set_bus_timeout(SYS, 100u), true);
     expect_error("no answer", APB2_BASE + 0x200u, SYS_CAUSE_TIMEOUT);
     expect_error("no answer again", APB2_BASE + 0x200u, SYS_CAUSE_TIMEOUT);
     check("answer", APB2_MEMORY[2], 0x1234AB78u);
-    sys_set_bus_timeout(SYS, 262143u);
+    check("sys_set_bus_timeout, longest", sys_set_bus_timeout(SYS, SYS_BUS_TIMEOUT_MAX), true);
     sys_enable_error_interrupt(SYS, true);
     NVIC_EnableIRQ(SYS_IRQn);
     expect_fault("told by an interrupt", APB2_BASE + 0x100u);
@@ -661,19 +672,23 @@ static void use_watchdog(void)
     check("unlocked", wdog_is_locked(WDOG), false);
 }
 
+static volatile uint32_t first_causes = SYS_RESETCAUSE_POWERON_Msk; /* a debugger knows others */
+
 int main(void)
 {
     const uint32_t run = RUNS;
     if (run == 0u) {
-        use_system(SYS_RESETCAUSE_POWERON_Msk);
+        use_system(first_causes);
         use_processor();
         use_gpio();
         use_external_interrupts();
+#ifndef FEW_BLOCKS
         use_uarts();
         use_timer();
         use_rtc();
         use_spi();
         use_i2c();
+#endif
         use_memory("AHB1", AHB1_MEMORY);
         use_memory("APB1", APB1_MEMORY);
         use_memory("APB2", APB2_MEMORY);
@@ -690,12 +705,14 @@ int main(void)
     check("reset of GPIO", GPIO->OUT, GPIO_OUT_RESET);
     check("reset of UART0", UART0->CTRL, UART_CTRL_RESET);
     check("variables", warnings + faults, 0u);
+#ifndef FEW_BLOCKS
     check("the time was set before", rtc_is_set(RTC), true);
-    check("the time has gone on", rtc_get(RTC) > 3000u && rtc_get(RTC) < 3100u, 1u);
+    check("the time has gone on", rtc_get(RTC) > 3000u && rtc_get(RTC) < 4000u, 1u);
     check("no interrupt of the RTC", RTC->CTRL, RTC_CTRL_EN_Msk);
     if (run == 2u)
         check("after the other reset", rtc_get(RTC) > AHB1_MEMORY[14], 1u);
     AHB1_MEMORY[14] = rtc_get(RTC);
+#endif
     check("seal of the watchdog", wdog_is_sealed(WDOG), false);
     if (run == 1u) {
         RUNS = 2u;

@@ -14,10 +14,14 @@ trap 'rm -rf "$tmp"' EXIT
 cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
 # The rules of the buses are held: what breaks one is printed. The runs that are about memories have the same transfers, and are spared
-# the time.
+# the time. Their program has to fit into small ones.
 checkers=$here/../rtl/checkers
-watch=()
-[[ $case == memor* ]] || watch=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
+watch=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
+size=()
+if [[ $case == memor* ]]; then
+    watch=(-DFEW_BLOCKS)
+    size=(-DFEW_BLOCKS -ffunction-sections -fdata-sections -Wl,--gc-sections)
+fi
 
 "$orixm1" export "$examples/sensor-node.ipc" --out exported > log 2>&1 || { cat log; fail "export"; }
 
@@ -44,7 +48,7 @@ build() { # [FOLDER]: the example's RTL, or that of another sensor-node.ipc, in 
 
 compile() { # FOLDER: the program from the files of an export
     arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -std=c99 -Os -g -ffreestanding -nostdlib -Wall -Wextra -Werror \
-        "-I$1" "-I$1/drivers" -L "$1" -T tarvo_orix_m1.ld -o program.elf \
+        "${size[@]}" "-I$1" "-I$1/drivers" -L "$1" -T tarvo_orix_m1.ld -o program.elf \
         "$here/blocks.c" "$1"/*.c "$1"/drivers/*.c -lgcc
 }
 

@@ -169,11 +169,14 @@ public:
     }
 
     // What reading changes, and what zeros and ones do, in a module whose pins move and whose
-    // registers all were written: each with what the same clock cycles leave behind without it.
-    QString effects()
+    // registers all were written: each with what the same clock cycles leave behind without it. Of
+    // one register, if it is named.
+    QString effects(const QString &only = QString())
     {
         begin(outerPins(m_peripheral.module).moving);
         for (const Register &entry : m_peripheral.registers) {
+            if (!only.isEmpty() && entry.name != only)
+                continue;
             readEffects(entry);
             writeEffects(entry);
         }
@@ -369,8 +372,14 @@ private:
         }
     }
 
-    // An offset at which nothing is.
-    quint32 nowhere() const { return m_peripheral.span - 4; }
+    // The highest offset at which no register is: nothing happens there.
+    quint32 nowhere() const
+    {
+        quint32 offset = m_peripheral.span - 4;
+        while (at(offset))
+            offset -= 4;
+        return offset;
+    }
 
     static bool hasReadEffect(const Register &entry)
     {
@@ -523,9 +532,9 @@ QString subsystemBench(const QVector<Peripheral> &peripherals)
         "    reg hwRstn = 1'b0;\n"
         "    tri0 flash;\n"
         "    tri0 [15:0] pins;\n"
-        "    tri1 srst;\n"
+        "    tri1 srst, scl, sda;\n"
         "    Tarvo_ORIX_M1_Top dut (.HCLK(clk), .hwRstn(hwRstn), .JTAG_15(srst), .UART0RXD(1'b1), "
-        ".UART1RXD(1'b1), "
+        ".UART1RXD(1'b1), .SCL(scl), .SDA(sda), "
         ".TIMER0EXTIN(1'b0), .TIMER1EXTIN(1'b0), .RTCSRCCLK(1'b0), .MISO(1'b0), .SD_SPICLK(1'b0), "
         ".SD_DATAIN(1'b0), "
         ".SD_CHECKIN(1'b1), .FLASH_SPI_MISO(flash), .GPIO(pins)");
@@ -708,6 +717,7 @@ private Q_SLOTS:
     void effectsAreFound_data();
     void effectsAreFound();
     void aFlagThatReadingClearsIsAsDescribed();
+    void readsOfEveryRegisterAreTried();
     void faultsOfModulesAreFound_data();
     void faultsOfModulesAreFound();
 
@@ -1011,8 +1021,8 @@ void tst_RegistersInRtl::effectsAreFound()
         }
     }
     QCOMPARE(count, 1);
-    const QString told =
-        simulate(Bench(changed).effects(), {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module)});
+    const QString told = simulate(Bench(changed).effects(field.section(u'.', 0, 0)),
+                                  {QStringLiteral(RTL_DIR "/%1.v").arg(changed.module)});
     QVERIFY2(told.contains(QLatin1String("failed: ") + wrong), qPrintable(told));
 }
 
@@ -1032,13 +1042,39 @@ void tst_RegistersInRtl::aFlagThatReadingClearsIsAsDescribed()
     const QTemporaryDir dir;
     const QString changed = dir.filePath(QStringLiteral("changed.v"));
     TestSupport::write(changed, text.toUtf8());
-    const QString unsaid = simulate(Bench(*timer).effects(), {changed});
+    const QString unsaid = simulate(Bench(*timer).effects(QStringLiteral("PEND")), {changed});
     QVERIFY2(unsaid.contains(QLatin1String("failed: reading changes nothing: PEND")),
              qPrintable(unsaid));
     Peripheral described = *timer;
     described.registers[3].fields[0].readEffect = ReadEffect::Clear;
-    const QString wrong = simulate(Bench(described).effects(), {changed});
+    const QString wrong = simulate(Bench(described).effects(QStringLiteral("PEND")), {changed});
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+// A read that loads the counter anew is noticed at whichever register it is.
+void tst_RegistersInRtl::readsOfEveryRegisterAreTried()
+{
+    const auto timer =
+        std::find_if(m_peripherals.cbegin(), m_peripherals.cend(),
+                     [](const Peripheral &p) { return p.name == QLatin1String("TIMER"); });
+    QVERIFY(timer != m_peripherals.cend());
+    const QString text = QString::fromUtf8(TestSupport::contentsOf(rtl("apb_timer.v")));
+    const QString before = QStringLiteral("            if (store)\n");
+    QVERIFY(text.contains(before));
+    const QTemporaryDir dir;
+    const QString changed = dir.filePath(QStringLiteral("changed.v"));
+    for (const Register &entry : timer->registers) {
+        QString faulty = text;
+        faulty.replace(
+            before, QStringLiteral("            if (PSEL & PENABLE & ~PWRITE & (offset == 12'h%1)) "
+                                   "reload <= 24'd5;\n")
+                            .arg(entry.offset, 3, 16, QLatin1Char('0')) +
+                        before);
+        TestSupport::write(changed, faulty.toUtf8());
+        const QString wrong = simulate(Bench(*timer).effects(entry.name), {changed});
+        QVERIFY2(wrong.contains(QLatin1String("failed: reading changes nothing: ") + entry.name),
+                 qPrintable(entry.name + u'\n' + wrong));
+    }
 }
 
 void tst_RegistersInRtl::faultsOfModulesAreFound_data()

@@ -297,5 +297,10 @@ uint32_t i2c_target_events(I2C_Type *i2c)
 
 void i2c_target_enable_interrupts(I2C_Type *i2c, uint32_t events)
 {
-    i2c->INTEN = (i2c->INTEN & ~target_events) | (events & target_events);
+    i2c->INTEN = i2c->INTEN | (events & target_events);
+}
+
+void i2c_target_disable_interrupts(I2C_Type *i2c, uint32_t events)
+{
+    i2c->INTEN = i2c->INTEN & ~(events & target_events);
 }

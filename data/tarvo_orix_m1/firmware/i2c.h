@@ -83,7 +83,8 @@ enum {
     I2C_TARGET_NO_STRETCH = 2    /* do not acknowledge without room, send 0xFF without a byte */
 };
 
-/* What i2c_target_events() tells, and i2c_target_enable_interrupts() takes. */
+/* What i2c_target_events() tells, and i2c_target_enable_interrupts() and
+ * i2c_target_disable_interrupts() take. */
 enum {
     I2C_TARGET_RECEIVED = 0x04,  /* bytes to take */
     I2C_TARGET_WANTED = 0x08,    /* the master waits for a byte */
@@ -120,8 +121,11 @@ uint16_t i2c_target_address(I2C_Type *i2c);
 /* What has happened since it was asked last, and what is to be done now. */
 uint32_t i2c_target_events(I2C_Type *i2c);
 
-/* Has these events, and no others, ask for the interrupt of the block. */
+/* Has these events ask for the interrupt of the block as well. */
 void i2c_target_enable_interrupts(I2C_Type *i2c, uint32_t events);
+
+/* Has these events no longer ask for it. */
+void i2c_target_disable_interrupts(I2C_Type *i2c, uint32_t events);
 
 #ifdef __cplusplus
 }

@@ -119,9 +119,9 @@ bool rtc_take_alarm(RTC_Type *rtc)
     return take(rtc, RTC_PEND_ALARM_Msk);
 }
 
-void rtc_enable_alarm_interrupt(RTC_Type *rtc, bool enabled)
+void rtc_enable_alarm_interrupt(RTC_Type *rtc, bool on)
 {
-    if (enabled)
+    if (on)
         rtc->CTRL = rtc->CTRL | RTC_CTRL_ALARMIE_Msk;
     else
         rtc->CTRL = rtc->CTRL & ~RTC_CTRL_ALARMIE_Msk;
@@ -145,9 +145,9 @@ bool rtc_take_tick(RTC_Type *rtc)
     return take(rtc, RTC_PEND_TICK_Msk);
 }
 
-void rtc_enable_second_interrupt(RTC_Type *rtc, bool enabled)
+void rtc_enable_second_interrupt(RTC_Type *rtc, bool on)
 {
-    if (enabled)
+    if (on)
         rtc->CTRL = rtc->CTRL | RTC_CTRL_SECONDIE_Msk;
     else
         rtc->CTRL = rtc->CTRL & ~RTC_CTRL_SECONDIE_Msk;

@@ -76,7 +76,7 @@ void rtc_set_alarm_matching(RTC_Type *rtc, uint32_t seconds, uint32_t mask, bool
 
 /* Switches the interrupt of the alarm on or off, as after a reset through which an alarm is kept.
  */
-void rtc_enable_alarm_interrupt(RTC_Type *rtc, bool enabled);
+void rtc_enable_alarm_interrupt(RTC_Type *rtc, bool on);
 
 /* Switches the interrupt of the alarm off and forgets an alarm that was kept. */
 void rtc_cancel_alarm(RTC_Type *rtc);
@@ -92,7 +92,7 @@ bool rtc_set_tick(RTC_Type *rtc, uint32_t cycles, bool interrupt);
 bool rtc_take_tick(RTC_Type *rtc);
 
 /* Switches the interrupt of each second on or off. */
-void rtc_enable_second_interrupt(RTC_Type *rtc, bool enabled);
+void rtc_enable_second_interrupt(RTC_Type *rtc, bool on);
 
 /* Whether a second has begun since the last call; also takes its interrupt back. */
 bool rtc_take_second(RTC_Type *rtc);

@@ -228,52 +228,52 @@ sd_result sd_init(SD_Type *sd, sd_card *card, uint32_t polls, uint32_t tries)
 }
 
 /* CLOCK for the highest rate that is not above a wish; false if there is none. */
-static bool clock_for(uint32_t clock, uint32_t rate, uint32_t *value)
+static bool clock_for(uint32_t clock_hz, uint32_t sclk_hz, uint32_t *value)
 {
     uint32_t halves = 1u;
-    if (clock == 0u || rate == 0u)
+    if (clock_hz == 0u || sclk_hz == 0u)
         return false;
-    if (rate <= (clock - 1u) / 2u)
-        halves = (clock - 1u) / (2u * rate) + 1u;
+    if (sclk_hz <= (clock_hz - 1u) / 2u)
+        halves = (clock_hz - 1u) / (2u * sclk_hz) + 1u;
     *value = ((halves - 1u) << SD_CLOCK_DIV_Pos) | (SD_CLOCK_SOURCE_PCLK << SD_CLOCK_SOURCE_Pos);
     return halves - 1u <= SD_CLOCK_DIV_Msk >> SD_CLOCK_DIV_Pos;
 }
 
-uint32_t sd_rate(const SD_Type *sd, uint32_t clock)
+uint32_t sd_rate(const SD_Type *sd, uint32_t clock_hz)
 {
     const uint32_t value = sd->CLOCK;
     if ((value & SD_CLOCK_SOURCE_Msk) == 0u)
         return 0u;
-    return clock / (2u * (((value & SD_CLOCK_DIV_Msk) >> SD_CLOCK_DIV_Pos) + 1u));
+    return clock_hz / (2u * (((value & SD_CLOCK_DIV_Msk) >> SD_CLOCK_DIV_Pos) + 1u));
 }
 
 /* Goes over to a rate, with the limits that belong to it: a byte takes 16 * (DIV + 1) cycles, and a
  * look at the status more than four; the card gets two seconds to answer. */
-static void set_clock(SD_Type *sd, sd_card *card, uint32_t clock, uint32_t value)
+static void set_clock(SD_Type *sd, sd_card *card, uint32_t clock_hz, uint32_t value)
 {
     sd->CLOCK = (sd->CLOCK & SD_CLOCK_FILTER_Msk) | value;
     card->polls = 4u * (((value & SD_CLOCK_DIV_Msk) >> SD_CLOCK_DIV_Pos) + 2u);
-    card->tries = sd_rate(sd, clock) / 4u;
+    card->tries = sd_rate(sd, clock_hz) / 4u;
 }
 
-sd_result sd_open(SD_Type *sd, sd_card *card, uint32_t clock, uint32_t rate)
+sd_result sd_open(SD_Type *sd, sd_card *card, uint32_t clock_hz, uint32_t sclk_hz)
 {
-    const uint32_t tenth = clock / 10240u; /* of a second in units of TIMEOUT */
+    const uint32_t tenth = clock_hz / 10240u; /* of a second in units of TIMEOUT */
     const uint32_t busy = tenth < 65535u / 6u ? 6u * tenth : 65535u;
     uint32_t slow, fast;
     sd_result result;
-    if (!clock_for(clock, slow_rate < rate ? slow_rate : rate, &slow) ||
-        !clock_for(clock, rate, &fast))
+    if (!clock_for(clock_hz, slow_rate < sclk_hz ? slow_rate : sclk_hz, &slow) ||
+        !clock_for(clock_hz, sclk_hz, &fast))
         return SD_ERROR_RANGE;
     result = prepare(sd, card, 0u, 0u);
     if (result != SD_OK)
         return result;
-    set_clock(sd, card, clock, slow);
+    set_clock(sd, card, clock_hz, slow);
     sd->TIMEOUT = ((tenth < 32767u ? 2u * tenth : 65535u) << SD_TIMEOUT_TOKEN_Pos) |
                   (busy << SD_TIMEOUT_BUSY_Pos);
     result = init_card(sd, card, start_attempts);
     if (result == SD_OK)
-        set_clock(sd, card, clock, fast);
+        set_clock(sd, card, clock_hz, fast);
     return initialised(sd, result);
 }
 
@@ -498,9 +498,9 @@ uint32_t sd_take_errors(SD_Type *sd)
     return errors;
 }
 
-void sd_enable_card_interrupt(SD_Type *sd, bool enabled)
+void sd_enable_card_interrupt(SD_Type *sd, bool on)
 {
-    if (enabled)
+    if (on)
         set_ctrl(sd, sd->CTRL | SD_CTRL_CARDIE_Msk);
     else
         set_ctrl(sd, sd->CTRL & ~SD_CTRL_CARDIE_Msk);

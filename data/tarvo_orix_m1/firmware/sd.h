@@ -56,11 +56,11 @@ typedef struct {
 bool sd_is_present(const SD_Type *sd);
 
 /*
- * Initialises the card with a clock made from the bus clock, clock in Hz, and goes on at the
- * highest rate that is not above the wish, in Hz. TIMEOUT becomes 0.2 s for a block to begin and
- * 0.6 s for a busy card. SD_ERROR_RANGE: 400 kHz, or the wish, cannot be made from the bus clock.
+ * Initialises the card with a clock made from the clock of the bus in Hz, and goes on at
+ * the highest SD_CLK in Hz that is not above sclk_hz. TIMEOUT becomes 0.2 s for a block to begin
+ * and 0.6 s for a busy card. SD_ERROR_RANGE: 400 kHz, or sclk_hz, cannot be made from it.
  */
-sd_result sd_open(SD_Type *sd, sd_card *card, uint32_t clock, uint32_t rate);
+sd_result sd_open(SD_Type *sd, sd_card *card, uint32_t clock_hz, uint32_t sclk_hz);
 
 /*
  * Initialises the card with the clock from SD_SPICLK: CMD0, CMD8, ACMD41, CMD58, and CMD16 for a
@@ -69,8 +69,9 @@ sd_result sd_open(SD_Type *sd, sd_card *card, uint32_t clock, uint32_t rate);
  */
 sd_result sd_init(SD_Type *sd, sd_card *card, uint32_t polls, uint32_t tries);
 
-/* The rate of SD_CLK in Hz, for a bus clock in Hz; 0 if it comes from SD_SPICLK. */
-uint32_t sd_rate(const SD_Type *sd, uint32_t clock);
+/* The SD_CLK that the divider gives, in Hz, rounded down; 0 if it comes from SD_SPICLK. The clock
+ * of the bus in Hz. */
+uint32_t sd_rate(const SD_Type *sd, uint32_t clock_hz);
 
 /* Has the card check the CRC of commands and blocks, which it does not after its initialisation. */
 sd_result sd_check_crc(SD_Type *sd, sd_card *card, bool checked);
@@ -108,7 +109,7 @@ sd_result sd_status(SD_Type *sd, sd_card *card, uint32_t *status);
 uint32_t sd_take_errors(SD_Type *sd);
 
 /* Switches the interrupt on or off that stays while SD_STATUS_CHANGED_Msk is noted. */
-void sd_enable_card_interrupt(SD_Type *sd, bool enabled);
+void sd_enable_card_interrupt(SD_Type *sd, bool on);
 
 /* Switches interrupts of events on or off, SD_ENABLE_..._Msk. */
 void sd_enable_interrupts(SD_Type *sd, uint32_t events);

@@ -3,6 +3,7 @@
 #define FLAGS                                                                                      \
     (SPI_STATUS_LOST_Msk | SPI_STATUS_OVERRUN_Msk | SPI_STATUS_UNDERRUN_Msk |                      \
      SPI_STATUS_REFUSED_Msk)
+#define INTERRUPTS (SPI_INTEN_TXLOW_Msk | SPI_INTEN_RXREADY_Msk | SPI_INTEN_ERROR_Msk)
 
 static bool is_busy(const SPI_Type *spi)
 {
@@ -229,10 +230,10 @@ bool spi_get(SPI_Type *spi, uint32_t *word)
     return true;
 }
 
-spi_result spi_set_thresholds(SPI_Type *spi, uint32_t to_send_words, uint32_t received)
+spi_result spi_set_thresholds(SPI_Type *spi, uint32_t received, uint32_t to_send_words)
 {
-    if (to_send_words > (SPI_THRESHOLD_TX_Msk >> SPI_THRESHOLD_TX_Pos) ||
-        received > (SPI_THRESHOLD_RX_Msk >> SPI_THRESHOLD_RX_Pos))
+    if (received > (SPI_THRESHOLD_RX_Msk >> SPI_THRESHOLD_RX_Pos) ||
+        to_send_words > (SPI_THRESHOLD_TX_Msk >> SPI_THRESHOLD_TX_Pos))
         return SPI_ERROR_RANGE;
     spi->THRESHOLD = (to_send_words << SPI_THRESHOLD_TX_Pos) | (received << SPI_THRESHOLD_RX_Pos);
     return SPI_OK;
@@ -240,7 +241,12 @@ spi_result spi_set_thresholds(SPI_Type *spi, uint32_t to_send_words, uint32_t re
 
 void spi_enable_interrupts(SPI_Type *spi, uint32_t interrupts)
 {
-    spi->INTEN = interrupts & (SPI_INTEN_TXLOW_Msk | SPI_INTEN_RXREADY_Msk | SPI_INTEN_ERROR_Msk);
+    spi->INTEN = spi->INTEN | (interrupts & INTERRUPTS);
+}
+
+void spi_disable_interrupts(SPI_Type *spi, uint32_t interrupts)
+{
+    spi->INTEN = spi->INTEN & ~(interrupts & INTERRUPTS);
 }
 
 spi_result spi_wait(SPI_Type *spi, uint32_t polls)
@@ -264,9 +270,9 @@ uint32_t spi_take_errors(SPI_Type *spi)
     return errors;
 }
 
-void spi_enable_interrupt(SPI_Type *spi, bool enabled)
+void spi_enable_interrupt(SPI_Type *spi, bool on)
 {
-    if (enabled)
+    if (on)
         spi->CTRL = spi->CTRL | SPI_CTRL_IE_Msk;
     else
         spi->CTRL = spi->CTRL & ~SPI_CTRL_IE_Msk;

@@ -99,18 +99,21 @@ spi_result spi_transfer_words(SPI_Type *spi, const uint32_t *sent, uint32_t *rec
 /*
  * Words through the FIFOs by an interrupt handler of one's own: spi_use_fifos() switches them on or
  * off, and forgets what was received. spi_put() and spi_get() are false without room or without a
- * word, and nothing is done. spi_set_thresholds() says when SPI_INTEN_TXLOW_Msk is raised, with at
- * most so many words to be sent, and SPI_INTEN_RXREADY_Msk, with at least so many received, each 0
+ * word, and nothing is done. spi_set_thresholds() says when SPI_INTEN_RXREADY_Msk is raised, with
+ * at least so many words received, and SPI_INTEN_TXLOW_Msk, with at most so many to be sent, each 0
  * to 63.
  */
 spi_result spi_use_fifos(SPI_Type *spi, bool on);
 bool spi_put(SPI_Type *spi, uint32_t word);
 bool spi_get(SPI_Type *spi, uint32_t *word);
-spi_result spi_set_thresholds(SPI_Type *spi, uint32_t to_send, uint32_t received);
+spi_result spi_set_thresholds(SPI_Type *spi, uint32_t received, uint32_t to_send);
 
-/* Switches interrupts on and all others off: SPI_INTEN_TXLOW_Msk, SPI_INTEN_RXREADY_Msk,
- * SPI_INTEN_ERROR_Msk; beside that of spi_enable_interrupt(). */
+/* Switches interrupts on: any of SPI_INTEN_TXLOW_Msk, SPI_INTEN_RXREADY_Msk and
+ * SPI_INTEN_ERROR_Msk; others are ignored. Beside that of spi_enable_interrupt(). */
 void spi_enable_interrupts(SPI_Type *spi, uint32_t interrupts);
+
+/* Switches interrupts off; the same values. */
+void spi_disable_interrupts(SPI_Type *spi, uint32_t interrupts);
 
 /* Waits until the line is at rest. */
 spi_result spi_wait(SPI_Type *spi, uint32_t polls);
@@ -123,7 +126,7 @@ void spi_abort(SPI_Type *spi);
 uint32_t spi_take_errors(SPI_Type *spi);
 
 /* Switches the interrupt on or off that stays from the end of a byte until spi_take(). */
-void spi_enable_interrupt(SPI_Type *spi, bool enabled);
+void spi_enable_interrupt(SPI_Type *spi, bool on);
 
 #ifdef __cplusplus
 }

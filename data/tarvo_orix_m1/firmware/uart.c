@@ -208,7 +208,7 @@ uart_result uart_send_break(UART_Type *uart, uint32_t polls)
     return UART_OK;
 }
 
-void uart_loop_back(UART_Type *uart, bool on)
+void uart_set_loopback(UART_Type *uart, bool on)
 {
     const uint32_t control = uart->CTRL;
     uart->CTRL = control & ~UART_CTRL_RXEN_Msk;

@@ -119,7 +119,7 @@ uart_result uart_send_break(UART_Type *uart, uint32_t polls);
  * Connects the receiver to the transmitter instead of the pin, and the pin to nothing, or back.
  * Received characters on their way are dropped.
  */
-void uart_loop_back(UART_Type *uart, bool on);
+void uart_set_loopback(UART_Type *uart, bool on);
 
 /*
  * The errors since the last call, which are thereby forgotten: any of UART_STATUS_RXOVER_Msk (a

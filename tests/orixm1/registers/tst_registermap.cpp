@@ -6,6 +6,7 @@
 
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void saysHowManyInputsAreEnough_data();
     void saysHowManyInputsAreEnough();
     void everyNarrowFieldNamesItsValues();
+    void everyBlockSaysWhatItIs();
     void theDocumentSaysWhatIsUnusual();
     void theDocumentIsTheOneInDocs();
     void theHeaderCompiles();
@@ -494,6 +496,31 @@ void tst_RegisterMap::everyNarrowFieldNamesItsValues()
         }
     }
     QVERIFY(fields >= 50);
+}
+
+// At the same place, in the same words, each with a number of its own.
+void tst_RegisterMap::everyBlockSaysWhatItIs()
+{
+    QSet<quint32> kinds;
+    for (const Peripheral &peripheral : qAsConst(m_all)) {
+        const Register &id = peripheral.registers.last();
+        QCOMPARE(id.name, QStringLiteral("ID"));
+        QCOMPARE(id.offset, 0xFFCu);
+        QCOMPARE(id.text, QStringLiteral("What this block is."));
+        for (const RegisterField &field : id.fields)
+            QVERIFY(field.access == RegisterAccess::Read && field.hasReset);
+        const RegisterField &kind = id.fields.at(0);
+        const RegisterField &revision = id.fields.at(1);
+        QCOMPARE(kind.name, QStringLiteral("BLOCK"));
+        QCOMPARE(kind.mask(), 0xFFu);
+        QCOMPARE(kind.text, QStringLiteral("kind of block"));
+        QVERIFY2(kind.reset != 0 && !kinds.contains(kind.reset), qPrintable(peripheral.name));
+        kinds.insert(kind.reset);
+        QCOMPARE(revision.name, QStringLiteral("REVISION"));
+        QCOMPARE(revision.mask(), 0xFF00u);
+        QCOMPARE(revision.text, QStringLiteral("revision of its registers"));
+    }
+    QCOMPARE(kinds.size(), m_all.size());
 }
 
 void tst_RegisterMap::theDocumentSaysWhatIsUnusual()

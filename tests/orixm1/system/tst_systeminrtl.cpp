@@ -213,8 +213,14 @@ public:
     QString script() const
     {
         QString text;
-        for (const Region &region : m_map.regions)
-            text += accesses(region);
+        // Registers as they are after the reset, before other accesses change them: reading the
+        // window of the serial flash leads the flash back first, and register RECOVER tells.
+        for (const bool isRegisters : {true, false}) {
+            for (const Region &region : m_map.regions) {
+                if ((region.kind == RegionKind::Registers) == isRegisters)
+                    text += accesses(region);
+            }
+        }
         for (const Region &region : m_map.regions) {
             if (region.base != 0)
                 text += refused(region.base - 4);
@@ -688,10 +694,11 @@ void tst_SystemInRtl::mapIsWhatTheRtlDoes()
     const SystemMap map = systemMap(options, device, m_description);
     count(map);
     const QString wrong = wrongAbout(map);
-    QString text = device.id();
+    // What is wrong comes first: long messages are cut.
+    QString text = wrong + device.id();
     for (auto it = options.begin(); it != options.end(); ++it)
         text += QStringLiteral("\n    %1=%2").arg(it.key(), it.value().toString());
-    QVERIFY2(wrong.isEmpty(), qPrintable(text + u'\n' + wrong));
+    QVERIFY2(wrong.isEmpty(), qPrintable(text));
 }
 
 void tst_SystemInRtl::mistakesAreFound_data()
@@ -705,7 +712,7 @@ void tst_SystemInRtl::mistakesAreFound_data()
     row("a region too long", "failed: read 0x60300ffc");
     row("a region too short", "failed: error 0x602ff000");
     row("a region left out", "failed: error 0x50004000");
-    row("a register elsewhere", "failed: read 0x50004010");
+    row("a register elsewhere", "failed: read 0x50004ff8");
     row("another interrupt", "interrupt UART0: 0 0000");
     row("an interrupt that is not lost", "interrupt TRNG: 0 0000");
     row("another direction", "ports: not there: output UART0RXD; not told: input UART0RXD");
@@ -758,7 +765,7 @@ void tst_SystemInRtl::mistakesAreFound()
         {QStringLiteral("a region too short"), [&] { region("APB3")->last -= 0x1000; }},
         {QStringLiteral("a region left out"), [&] { map.regions.erase(region("UART0")); }},
         {QStringLiteral("a register elsewhere"),
-         [&] { map.peripherals[0].registers.last().offset += 4; }},
+         [&] { map.peripherals[0].registers.last().offset -= 4; }},
         {QStringLiteral("another interrupt"), [&] { interrupt("UART0")->number = 1; }},
         {QStringLiteral("an interrupt that is not lost"), [&] { interrupt("TRNG")->lost.clear(); }},
         {QStringLiteral("another direction"),

@@ -43,17 +43,21 @@ module bus_watch;
     );
 `endif
 `ifdef TARVO_APBEXT_SUPPORT
+    // A transfer that the bridge gives up, since the peripheral is not ready within the limit, counts as one that ends with an error.
+    wire given_up = `WATCHED.bus_late & (`WATCHED.apbext_pready !== 1'b1);
+    wire ready    = `WATCHED.apbext_pready | given_up;
+    wire failed   = given_up ? 1'b1 : `WATCHED.apbext_pslverr;
     apb_checker apbext (
         .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbext_psel), .PENABLE(`WATCHED.apbext_penable),
         .PWRITE(`WATCHED.apbext_pwrite), .PADDR({8'd0, `WATCHED.apbext_paddr}), .PWDATA(`WATCHED.apbext_pwdata),
         .PSTRB(`WATCHED.apbext_pstrb), .PPROT(`WATCHED.apbext_pprot), .PRDATA(`WATCHED.apbext_prdata),
-        .PREADY(`WATCHED.apbext_pready), .PSLVERR(`WATCHED.apbext_pslverr)
+        .PREADY(ready), .PSLVERR(failed)
     );
     apb_checker #(.SLOTS(16)) apbext_slots (
         .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbext_psel_s),
         .PENABLE(`WATCHED.apbext_penable & |`WATCHED.apbext_psel_s), .PWRITE(`WATCHED.apbext_pwrite), .PADDR({8'd0, `WATCHED.apbext_paddr}), .PWDATA(`WATCHED.apbext_pwdata),
         .PSTRB(`WATCHED.apbext_pstrb), .PPROT(`WATCHED.apbext_pprot), .PRDATA(`WATCHED.apbext_prdata),
-        .PREADY(`WATCHED.apbext_pready), .PSLVERR(`WATCHED.apbext_pslverr)
+        .PREADY(ready), .PSLVERR(failed)
     );
 `endif
 endmodule

@@ -34,10 +34,10 @@ inline TARVOORIXM1::SystemMap systemMap(const TARVOORIXM1::OptionMap &options,
                                   description);
 }
 
-// Writes header and drivers into a folder.
+// Writes what programs are made of into a folder: header, drivers and start-up code.
 inline bool write(const TARVOORIXM1::SystemMap &map, const QString &folder)
 {
-    for (const char *name : {"header", "drivers"}) {
+    for (const char *name : {"header", "drivers", "startup"}) {
         const TARVOORIXM1::Format *format = TARVOORIXM1::findFormat(QString::fromLatin1(name));
         if (!format)
             return false;

@@ -27,6 +27,28 @@ QStringList functionsOf(const QString &header)
     return names;
 }
 
+// The texts in C of a document, in its order.
+QStringList programTextsOf(const QString &document)
+{
+    static const QRegularExpression fence(QStringLiteral("^```c\\n(.*?)^```$"),
+                                          QRegularExpression::MultilineOption |
+                                              QRegularExpression::DotMatchesEverythingOption);
+    QStringList texts;
+    auto found = fence.globalMatch(
+        QString::fromUtf8(TestSupport::contentsOf(QStringLiteral(DOCS_DIR "/") + document)));
+    while (found.hasNext())
+        texts << found.next().captured(1);
+    return texts;
+}
+
+// What the guide has its lines stand behind: the first text with all the drivers.
+QString beginningOfPrograms()
+{
+    return programTextsOf(QStringLiteral("user-guide.md"))
+        .filter(QStringLiteral("#include \"wdog.h\""))
+        .value(0);
+}
+
 QStringList words(const char *text)
 {
     return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -57,6 +79,10 @@ private Q_SLOTS:
     void needNothingOfALibrary();
     void twoUnitsMayIncludeAllOfThem();
     void theGuideNamesEveryFunction();
+    void allUseTheSameWords();
+    void everyProgramTextOfTheGuidesCompiles_data();
+    void everyProgramTextOfTheGuidesCompiles();
+    void theGuideShowsEveryBlock();
 
 private:
     QString compiled(const QString &command) const;
@@ -242,6 +268,110 @@ void tst_Drivers::theGuideNamesEveryFunction()
     }
     sections.sort();
     QCOMPARE(sections, m_names);
+}
+
+// What a program learns of one driver holds for the others.
+void tst_Drivers::allUseTheSameWords()
+{
+    static const QRegularExpression results(
+        QStringLiteral("typedef enum \\{([^}]*)\\} ([a-z0-9]+)_result;"));
+    static const QRegularExpression type(QStringLiteral("^(?:typedef .*|\\}) (\\w+);"),
+                                         QRegularExpression::MultilineOption);
+    static const QRegularExpression entry(QStringLiteral("^ {4}([A-Z0-9_]+)"),
+                                          QRegularExpression::MultilineOption);
+    static const QRegularExpression enables(
+        QStringLiteral("^void (\\w+)_enable_interrupts(\\([^)]*\\));"),
+        QRegularExpression::MultilineOption);
+    // A rate without its unit, and a switch by another name.
+    static const QRegularExpression unlike(QStringLiteral(
+        "uint32_t (clock|rate|frequency|baudrate|hz)\\b|bool (enable|enabled|active)\\b"));
+    int enabling = 0;
+    int failing = 0;
+    for (const QString &name : qAsConst(m_names)) {
+        const QString header = QString::fromUtf8(TestSupport::contentsOf(
+            m_folder.filePath(QStringLiteral("drivers/") + name + QStringLiteral(".h"))));
+        const QString prefix = name + u'_';
+        for (auto it = type.globalMatch(header); it.hasNext();) {
+            const QString named = it.next().captured(1);
+            QVERIFY2(named.startsWith(prefix) && !named.endsWith(QLatin1String("_t")),
+                     qPrintable(named));
+        }
+        const auto result = results.match(header);
+        if (result.hasMatch()) {
+            ++failing;
+            QCOMPARE(result.captured(2), name);
+            QStringList entries;
+            for (auto it = entry.globalMatch(result.captured(1)); it.hasNext();)
+                entries << it.next().captured(1);
+            QCOMPARE(entries.takeFirst(), QString(prefix.toUpper() + QLatin1String("OK")));
+            QCOMPARE(entries.value(0), QString(prefix.toUpper() + QLatin1String("ERROR_RANGE")));
+            for (const QString &error : qAsConst(entries))
+                QVERIFY2(error.startsWith(prefix.toUpper() + QLatin1String("ERROR_")),
+                         qPrintable(error));
+        }
+        for (auto it = enables.globalMatch(header); it.hasNext();) {
+            const auto match = it.next();
+            if (name == QLatin1String("gpio")) // takes a condition as well
+                continue;
+            ++enabling;
+            const QString other = QStringLiteral("\nvoid ") + match.captured(1) +
+                                  QStringLiteral("_disable_interrupts") + match.captured(2);
+            QVERIFY2(header.contains(other), qPrintable(other));
+        }
+        const auto other = unlike.match(header);
+        QVERIFY2(!other.hasMatch(), qPrintable(name + QLatin1String(": ") + other.captured()));
+    }
+    QCOMPARE(failing, 5);
+    QVERIFY(enabling >= 4);
+}
+
+void tst_Drivers::everyProgramTextOfTheGuidesCompiles_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *document : {"user-guide.md", "drivers.md"}) {
+        int n = 0;
+        for (const QString &text : programTextsOf(QString::fromLatin1(document)))
+            QTest::addRow("%s, %d", document, ++n) << text;
+    }
+}
+
+// As it stands, or behind what the guide says that programs begin with; lines that are no
+// functions stand in one.
+void tst_Drivers::everyProgramTextOfTheGuidesCompiles()
+{
+    QFETCH(QString, text);
+    static const QRegularExpression function(QStringLiteral("^\\w[^;\\n]*\\)\\n\\{"),
+                                             QRegularExpression::MultilineOption);
+    const QString beginning = beginningOfPrograms();
+    QVERIFY(!beginning.isEmpty());
+    QString program = text;
+    if (!text.contains(QLatin1String("#include"))) {
+        if (!function.match(text).hasMatch())
+            program = QStringLiteral("void lines(void);\nvoid lines(void)\n{\n") + text +
+                      QStringLiteral("}\n");
+        program.prepend(beginning);
+    }
+    QVERIFY(TestSupport::write(m_folder.filePath(QStringLiteral("guide.c")), program.toUtf8()));
+    for (const char *compiler : {"arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb",
+                                 "clang --target=armv6m-none-eabi -ffreestanding"})
+        QCOMPARE(DriverFiles::complaints(
+                     m_folder.path(),
+                     words(compiler) + words("-std=c99 -Os -Wall -Wextra -pedantic -Werror "
+                                             "-Wno-unused-function -I. -Idrivers -c guide.c")),
+                 QString());
+}
+
+// Each driver is there at the beginning, and its functions are called.
+void tst_Drivers::theGuideShowsEveryBlock()
+{
+    const QString beginning = beginningOfPrograms();
+    const QString texts = programTextsOf(QStringLiteral("user-guide.md")).join(u'\n');
+    for (const QString &name : qAsConst(m_names)) {
+        QVERIFY2(beginning.contains(QStringLiteral("#include \"%1.h\"").arg(name)),
+                 qPrintable(name));
+        QVERIFY2(texts.contains(QRegularExpression(QStringLiteral("\\b%1_\\w+\\(").arg(name))),
+                 qPrintable(name));
+    }
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Drivers)

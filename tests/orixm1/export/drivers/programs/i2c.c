@@ -221,17 +221,19 @@ static void as_target(void)
     EQUAL(I2C->LEVEL, 0u);
     (void)i2c_target_events(I2C);
     /* The master waits for a byte. */
+    i2c_target_disable_interrupts(I2C, I2C_TARGET_ENDED);
     i2c_target_enable_interrupts(I2C, I2C_TARGET_WANTED);
     FAR(LATER) = 1u;
     for (i = 0u; i < enough && FAR(IRQ) == 0u; ++i)
         IDLE(1u);
     EQUAL(i2c_target_events(I2C), I2C_TARGET_WANTED | I2C_TARGET_ADDRESSED);
     EQUAL(i2c_target_put(I2C, 0x7Eu), true);
+    i2c_target_disable_interrupts(I2C, I2C_TARGET_WANTED);
     i2c_target_enable_interrupts(I2C, I2C_TARGET_ENDED);
     for (i = 0u; i < enough && FAR(IRQ) == 0u; ++i)
         IDLE(1u);
     EQUAL(FAR(GOT), 0x7Eu);
-    i2c_target_enable_interrupts(I2C, 0u);
+    i2c_target_disable_interrupts(I2C, 0xFFFFFFFFu);
     EQUAL(i2c_target_events(I2C), I2C_TARGET_ENDED);
     /* Without waiting: ones. */
     EQUAL(i2c_target_start(I2C, 0x44u, 0u, I2C_TARGET_NO_STRETCH), I2C_OK);

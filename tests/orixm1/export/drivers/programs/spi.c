@@ -201,7 +201,7 @@ static void by_hand(void)
     EQUAL(spi_set_loopback(SPI, true), SPI_OK);
     EQUAL(spi_set_thresholds(SPI, 64u, 0u), SPI_ERROR_RANGE);
     EQUAL(spi_set_thresholds(SPI, 0u, 64u), SPI_ERROR_RANGE);
-    EQUAL(spi_set_thresholds(SPI, 2u, 3u), SPI_OK);
+    EQUAL(spi_set_thresholds(SPI, 3u, 2u), SPI_OK);
     EQUAL(spi_use_fifos(SPI, true), SPI_OK);
     EQUAL(spi_get(SPI, &word), false);
     EQUAL(word, 0x5Au);
@@ -213,7 +213,10 @@ static void by_hand(void)
         EQUAL(spi_put(SPI, 0x30u + i), true);
     EQUAL(spi_put(SPI, 0xFFu), false);
     EQUAL(FAR(IRQ), 0u);
-    spi_enable_interrupts(SPI, SPI_INTEN_RXREADY_Msk | SPI_INTEN_ERROR_Msk);
+    spi_enable_interrupts(SPI, SPI_INTEN_RXREADY_Msk | SPI_INTEN_ERROR_Msk | 0xFFFFFF00u);
+    EQUAL(SPI->INTEN, SPI_INTEN_TXLOW_Msk | SPI_INTEN_RXREADY_Msk | SPI_INTEN_ERROR_Msk);
+    spi_disable_interrupts(SPI, SPI_INTEN_TXLOW_Msk | 0xFFFFFF00u);
+    EQUAL(SPI->INTEN, SPI_INTEN_RXREADY_Msk | SPI_INTEN_ERROR_Msk);
     EQUAL(spi_use_fifos(SPI, false), SPI_ERROR_BUSY);
     EQUAL(spi_set_format(SPI, 9u, 0u), SPI_ERROR_BUSY);
     EQUAL(spi_set_select(SPI, SPI_SELECT_WORD, 0u, 0u, 0u), SPI_ERROR_BUSY);

@@ -9,7 +9,7 @@ enum { ADDRESS, FAIL, RESET, IRQ, LIMIT, LOCKUP_RESET };
 
 void test(void)
 {
-    sys_error_t error;
+    sys_error error;
     uint32_t cause;
     /* Causes of resets. */
     EQUAL(sys_reset_causes(SYS), SYS_RESETCAUSE_POWERON_Msk);
@@ -35,10 +35,14 @@ void test(void)
     sys_reset_on_lockup(SYS, false);
     EQUAL(FAR(LOCKUP_RESET), 0u);
     EQUAL(SYS->CTRL, SYS_CTRL_ERRIE_Msk);
-    EQUAL(FAR(LIMIT), 65535u);
-    sys_set_bus_timeout(SYS, 0u);
+    EQUAL(FAR(LIMIT), 0x3FFFFu);
+    EQUAL(sys_set_bus_timeout(SYS, 0u), true);
     EQUAL(FAR(LIMIT), 0u);
-    sys_set_bus_timeout(SYS, 1234u);
+    EQUAL(sys_set_bus_timeout(SYS, 262143u), true);
+    EQUAL(FAR(LIMIT), 262143u);
+    EQUAL(sys_set_bus_timeout(SYS, 1234u), true);
+    EQUAL(sys_set_bus_timeout(SYS, 262144u), false);
+    EQUAL(sys_set_bus_timeout(SYS, 0xFFFFFFFFu), false);
     EQUAL(FAR(LIMIT), 1234u);
     /* Errors. */
     EQUAL(sys_has_error(SYS), false);
@@ -56,7 +60,7 @@ void test(void)
         EQUAL(error.is_write, true);
         EQUAL(error.is_fetch, false);
         EQUAL(error.more, false);
-        EQUAL(sys_cause_name(error.cause) != sys_cause_name((sys_cause_t)(cause ^ 1u)), true);
+        EQUAL(sys_cause_name(error.cause) != sys_cause_name((sys_cause)(cause ^ 1u)), true);
         EQUAL(sys_cause_name(error.cause)[0] != '\0', true);
         EQUAL(FAR(IRQ), 0u);
         EQUAL(sys_has_error(SYS), false);

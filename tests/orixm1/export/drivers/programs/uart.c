@@ -241,7 +241,7 @@ static void breaks(UART_Type *uart)
     EQUAL(uart_get_character(uart, &character, 1u), UART_OK);
     EQUAL(character, 0x50u | UART_DATA_FRAME_Msk);
     EQUAL(uart_take_errors(uart), UART_STATUS_BREAK_Msk | UART_STATUS_FRAME_Msk);
-    uart_loop_back(uart, true);
+    uart_set_loopback(uart, true);
     EQUAL(uart->CTRL, UART_CTRL_TXEN_Msk | UART_CTRL_RXEN_Msk | UART_CTRL_LOOP_Msk);
     from_far(0x77u);
     EQUAL(uart_put(uart, 0x88u, enough), UART_OK);
@@ -250,7 +250,7 @@ static void breaks(UART_Type *uart)
     EQUAL(uart_can_get(uart), false);
     EQUAL(FAR(HEARD), 0u);
     EQUAL(uart_flush(uart, enough), UART_OK);
-    uart_loop_back(uart, false);
+    uart_set_loopback(uart, false);
     EQUAL(uart->CTRL, UART_CTRL_TXEN_Msk | UART_CTRL_RXEN_Msk);
     from_far(0x78u);
     EQUAL(uart_get_character(uart, &character, 1u), UART_OK);

@@ -6,7 +6,7 @@ module tb;
     reg  [1:0]  htrans = 2'd0, error_cause = 2'd0;
     reg  [3:0]  control = 4'd0, reset_cause = 4'd0;
     reg         hresp = 1'b0;
-    wire [15:0] bus_timeout;
+    wire [17:0] bus_timeout;
     wire        lockup_reset_req, irq;
     reg         porn = 1'b0;
     initial #12 porn = 1'b1;
