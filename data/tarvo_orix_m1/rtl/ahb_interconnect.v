@@ -135,6 +135,6 @@ module ahb_interconnect #(
             for (k = 0; k < 16; k = k + 1)
                 if (hreadyout_s[k])
                     abandoned[k] <= 1'b0;
-                else if (left_behind[k])
+                else if (left_behind[k] | (data_sel[k] & ~BRIDGES[k] & over))
                     abandoned[k] <= 1'b1;
 endmodule

@@ -66,14 +66,15 @@ module proof (
             timed_out <= ~hready & due & owner[n] & ~hresp_s[n];
         end
 
-    // Slave n is left behind: its access has ended, and it has not been ready since.
+    // Slave n is left behind: its access ends, or will in the next cycle, and it has not been ready since.
     wire passed = owner[n] & hready & ~hreadyout_s[n] & ~BRIDGES[n];
+    wire missed = owner[n] & due & ~hreadyout_s[n] & ~hresp_s[n] & ~BRIDGES[n];
     reg  behind;
     always @(posedge clk or negedge rstn)
         if (!rstn)
             behind <= 1'b0;
         else
-            behind <= ~hreadyout_s[n] & (behind | passed);
+            behind <= ~hreadyout_s[n] & (behind | passed | missed);
 
     always @*
         if (rstn) begin
