@@ -22,19 +22,19 @@ module tb;
 
     // ---- APB
     reg  [1:0]  psel = 0;
-    reg         penable = 0, pwrite = 0, pready = 1, pslverr = 0;
+    reg         penable = 0, pwrite = 0, pready = 1, pslverr = 0, late = 0;
     reg  [31:0] paddr = 0, pwdata = 0, prdata = 0;
     reg  [3:0]  pstrb = 0;
     apb_checker #(.SLOTS(2), .MOST_WAITS(2)) apb (
         .PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr), .PWDATA(pwdata),
-        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)
+        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .LATE(late)
     );
 
     task rest; // everything idle, out of a new reset
         begin
             {haddr, hwdata, hrdata, htrans, hburst, hwrite, hresp_other, respout, foreign} = 0;
             hsize = 2; hprot = 3; hsel = 1; hready_other = 1; readyout = 1;
-            {psel, penable, pwrite, pslverr, paddr, pwdata, prdata, pstrb} = 0;
+            {psel, penable, pwrite, pslverr, late, paddr, pwdata, prdata, pstrb} = 0;
             pready = 1;
             rstn = 0; cycle; rstn = 1; cycle;
         end
@@ -72,6 +72,8 @@ module tb;
         pwdata = 32'hxxxx1234; setup(1, 4, 1, 4'b0011); cycle; done; cycle;
         setup(2, 8, 0, 0); pready = 0; prdata = 32'hx; cycle; cycle; pready = 1; prdata = 1; cycle; setup(1, 4, 0, 0); pslverr = 1; prdata = 32'hx; cycle;
         pslverr = 0; done; cycle;
+        prdata = 0; setup(2, 8, 0, 0); pready = 0; late = 1; cycle; done; late = 0; cycle; pready = 1; setup(1, 4, 1, 0); late = 1; cycle; setup(2, 8, 0, 0); late = 0; cycle;
+        done; cycle;
 
         breaks("HTRANS is known"); htrans = 2'b0x; cycle;
         breaks("HADDR, HBURST, HSIZE, HPROT and HWRITE are known"); hprot = 4'bxxxx; address(2, 0, 0); hprot = 3; idle;
@@ -111,6 +113,7 @@ module tb;
         breaks("PENABLE is low while nothing is selected"); penable = 1; cycle; done; cycle;
         breaks("a transfer begins with a setup cycle"); psel = 1; penable = 1; cycle; done; cycle;
         breaks("a transfer begins with a setup cycle"); setup(1, 0, 0, 0); cycle; cycle; done; cycle;
+        breaks("nothing is selected after an access that is given up"); setup(1, 0, 0, 0); pready = 0; late = 1; cycle; late = 0; pready = 1; penable = 0; cycle; penable = 1; cycle; done; cycle;
         breaks("PENABLE follows the setup cycle until PREADY"); psel = 1; cycle; cycle; penable = 1; cycle; done; cycle;
         breaks("PENABLE follows the setup cycle until PREADY"); setup(1, 0, 0, 0); pready = 0; cycle; penable = 0; cycle; pready = 1; penable = 1; cycle; done; cycle;
         breaks("PSEL, PWRITE, PADDR, PSTRB and PPROT stay until PREADY"); setup(1, 0, 0, 0); paddr = 4; cycle; done; cycle;

@@ -98,7 +98,7 @@ module tb;
                 if (hready !== 1'b0 || cycle > 60) begin
                     ended = 1'b1;
                     if (expected_error) check(cause === expected_cause, "cause of an error");
-                    if (who < 16 && !refused && how == HALF_ERROR) leaving[who] = 1'b1;
+                    if (who < 16 && !refused && how == HALF_ERROR) gone[who] = 1'b1;   // in this cycle already
                     if (who < 16 && !refused) check32(hrdata, 32'hA5000000 + who, "data of the slave");
                     check(hsel_s === (next_who < 16 ? (16'd1 << next_who) & ~gone : 16'd0), "abandoned slaves are not selected");
                     gone_at_address = gone;

@@ -52,8 +52,9 @@ module ahb_interconnect #(
         .hsel(decoded),
         .hsel_default(unmapped)
     );
-    assign hsel_s = decoded & ~abandoned;
-    wire refused = |(decoded & abandoned);
+    wire [15:0] shut;
+    assign hsel_s = decoded & ~shut;
+    wire refused = |(decoded & shut);
 
     ahb_default_slave u_default_slave (
         .HCLK(HCLK),
@@ -123,14 +124,17 @@ module ahb_interconnect #(
             timed_out <= ~none & over;
         end
 
-    integer s;
+    // A slave whose access ends without it gets none in that cycle already.
+    wire [15:0] left_behind = data_sel & ~BRIDGES & {16{second & ~slave_ready}};
+    assign shut = abandoned | left_behind;
+    integer k;
     always @(posedge HCLK or negedge HRESETn)
         if (!HRESETn)
             abandoned <= 16'd0;
         else
-            for (s = 0; s < 16; s = s + 1)
-                if (hreadyout_s[s])
-                    abandoned[s] <= 1'b0;
-                else if (data_sel[s] & ~BRIDGES[s] & (over | second))
-                    abandoned[s] <= 1'b1;
+            for (k = 0; k < 16; k = k + 1)
+                if (hreadyout_s[k])
+                    abandoned[k] <= 1'b0;
+                else if (left_behind[k] | (data_sel[k] & ~BRIDGES[k] & over))
+                    abandoned[k] <= 1'b1;
 endmodule

@@ -22,27 +22,33 @@ module apb_checker #(
     input wire [2:0]       PPROT,
     input wire [31:0]      PRDATA,
     input wire             PREADY,
-    input wire             PSLVERR
+    input wire             PSLVERR,
+    // from the master: it gives up an access that is not ready in this cycle
+    input wire             LATE
 );
     wire selected = |PSEL;
     wire access   = selected & PENABLE;
     wire last     = access & PREADY;
+    wire given_up = access & LATE & (PREADY !== 1'b1);
     wire [31:0] lanes   = {{8{PSTRB[3]}}, {8{PSTRB[2]}}, {8{PSTRB[1]}}, {8{PSTRB[0]}}};
     wire [SLOTS+41:0] control = {PSEL, PWRITE, PADDR, PSTRB, PPROT, 2'b00};
 
     // Of the clock cycle before.
     reg               running;    // a transfer had begun and did not end
+    reg               dropped;    // it was given up
     reg [SLOTS+41:0]  was_control;
     reg [31:0]        was_wdata;
     reg [15:0]        waits;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             running     <= 1'b0;
+            dropped     <= 1'b0;
             was_control <= {(SLOTS + 42){1'b0}};
             was_wdata   <= 32'd0;
             waits       <= 16'd0;
         end else begin
-            running     <= selected & ~last;
+            running     <= selected & ~last & ~given_up;
+            dropped     <= given_up;
             was_control <= control;
             was_wdata   <= PWDATA;
             if (access & ~PREADY & waits != 16'hFFFF && (MOST_WAITS < 0 || waits <= MOST_WAITS))
@@ -59,6 +65,7 @@ module apb_checker #(
               `KNOWN({PENABLE, PWRITE, PADDR, PSTRB, PPROT}))
         `RULE(!selected, ASSUME_MASTER, "PENABLE is low while nothing is selected", !PENABLE)
         `RULE(selected && !running, ASSUME_MASTER, "a transfer begins with a setup cycle", !PENABLE)
+        `RULE(dropped, ASSUME_MASTER, "nothing is selected after an access that is given up", !selected)
         `RULE(running, ASSUME_MASTER, "PENABLE follows the setup cycle until PREADY", access)
         `RULE(running && `KNOWN({control, was_control}), ASSUME_MASTER, "PSEL, PWRITE, PADDR, PSTRB and PPROT stay until PREADY",
               control == was_control)

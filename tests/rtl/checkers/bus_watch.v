@@ -13,14 +13,12 @@ module bus_watch;
         .HREADY(`WATCHED.hready), .HRESP(`WATCHED.hresp), .HRDATA(`WATCHED.hrdata), .HREADYOUT(`WATCHED.hready),
         .HRESPOUT(`WATCHED.hresp)
     );
-    // Licensed blocks are empty in simulations and say nothing.
-    localparam [15:0] EMPTY = (16'd1 << `ORIX_S_CAN) | (16'd1 << `ORIX_S_ETH) | (16'd1 << `ORIX_S_PSRAM) | (16'd1 << `ORIX_S_DDR3);
     // The master's rules are those of the checker above.
     // Slaves that the configuration does not have are never selected, and their checkers have no clock.
     wire [15:0] present = `WATCHED.AHB_ENABLE;
     genvar n;
     generate for (n = 0; n < 16; n = n + 1) begin : slave
-        if (!EMPTY[n]) ahb_lite_checker #(.ASSUME_MASTER(2)) rules (
+        ahb_lite_checker #(.ASSUME_MASTER(2)) rules (
             .HCLK(`WATCHED.HCLK & present[n]), .HRESETn(`WATCHED.sys_n), .HADDR({30'd0, `WATCHED.haddr[1:0]}),
             .HTRANS(`WATCHED.htrans), .HBURST(3'd0), .HSIZE(`WATCHED.hsize), .HPROT(4'd0), .HWRITE(`WATCHED.hwrite), .HWDATA(32'd0), .HSEL(`WATCHED.hsel_s[n]), .HREADY(`WATCHED.hready), .HRESP(`WATCHED.hresp),
             .HRDATA(`WATCHED.hrdata_s[32*n +: 32]), .HREADYOUT(`WATCHED.hreadyout_s[n]), .HRESPOUT(`WATCHED.hresp_s[n])
@@ -33,31 +31,27 @@ module bus_watch;
         .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbint_psel), .PENABLE(`WATCHED.apbint_penable),
         .PWRITE(`WATCHED.apbint_pwrite), .PADDR({8'd0, `WATCHED.apbint_paddr}), .PWDATA(`WATCHED.apbint_pwdata),
         .PSTRB(`WATCHED.apbint_pstrb), .PPROT(`WATCHED.apbint_pprot), .PRDATA(`WATCHED.apbint_prdata),
-        .PREADY(`WATCHED.apbint_pready), .PSLVERR(`WATCHED.apbint_pslverr)
+        .PREADY(`WATCHED.apbint_pready), .PSLVERR(`WATCHED.apbint_pslverr), .LATE(`WATCHED.bus_late)
     );
     apb_checker #(.SLOTS(16), .MOST_WAITS(0)) apbint_slots (
         .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbint_psel_s),
         .PENABLE(`WATCHED.apbint_penable & |`WATCHED.apbint_psel_s), .PWRITE(`WATCHED.apbint_pwrite), .PADDR({8'd0, `WATCHED.apbint_paddr}), .PWDATA(`WATCHED.apbint_pwdata),
         .PSTRB(`WATCHED.apbint_pstrb), .PPROT(`WATCHED.apbint_pprot), .PRDATA(`WATCHED.apbint_prdata),
-        .PREADY(`WATCHED.apbint_pready), .PSLVERR(`WATCHED.apbint_pslverr)
+        .PREADY(`WATCHED.apbint_pready), .PSLVERR(`WATCHED.apbint_pslverr), .LATE(`WATCHED.bus_late)
     );
 `endif
 `ifdef TARVO_APBEXT_SUPPORT
-    // A transfer that the bridge gives up, since the peripheral is not ready within the limit, counts as one that ends with an error.
-    wire given_up = `WATCHED.bus_late & (`WATCHED.apbext_pready !== 1'b1);
-    wire ready    = `WATCHED.apbext_pready | given_up;
-    wire failed   = given_up ? 1'b1 : `WATCHED.apbext_pslverr;
     apb_checker apbext (
         .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbext_psel), .PENABLE(`WATCHED.apbext_penable),
         .PWRITE(`WATCHED.apbext_pwrite), .PADDR({8'd0, `WATCHED.apbext_paddr}), .PWDATA(`WATCHED.apbext_pwdata),
         .PSTRB(`WATCHED.apbext_pstrb), .PPROT(`WATCHED.apbext_pprot), .PRDATA(`WATCHED.apbext_prdata),
-        .PREADY(ready), .PSLVERR(failed)
+        .PREADY(`WATCHED.apbext_pready), .PSLVERR(`WATCHED.apbext_pslverr), .LATE(`WATCHED.bus_late)
     );
     apb_checker #(.SLOTS(16)) apbext_slots (
         .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbext_psel_s),
         .PENABLE(`WATCHED.apbext_penable & |`WATCHED.apbext_psel_s), .PWRITE(`WATCHED.apbext_pwrite), .PADDR({8'd0, `WATCHED.apbext_paddr}), .PWDATA(`WATCHED.apbext_pwdata),
         .PSTRB(`WATCHED.apbext_pstrb), .PPROT(`WATCHED.apbext_pprot), .PRDATA(`WATCHED.apbext_prdata),
-        .PREADY(ready), .PSLVERR(failed)
+        .PREADY(`WATCHED.apbext_pready), .PSLVERR(`WATCHED.apbext_pslverr), .LATE(`WATCHED.bus_late)
     );
 `endif
 endmodule

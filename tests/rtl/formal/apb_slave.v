@@ -13,6 +13,6 @@ module proof (
     );
     apb_checker #(.MOST_WAITS(`MOST_WAITS), .ASSUME_MASTER(1)) rules (
         .PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr), .PWDATA(pwdata),
-        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)
+        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .LATE(1'b0)
     );
 endmodule

@@ -15,11 +15,20 @@ module _80_tarvo_alu (A, B, CI, BI, X, Y, CO);
     input CI, BI;
     output [Y_WIDTH-1:0] X, Y, CO;
 
-    wire _TECHMAP_FAIL_ = Y_WIDTH < 4;
+    wire _TECHMAP_FAIL_ = Y_WIDTH < 4 && A_WIDTH > 0 && B_WIDTH > 0;
 
+    // A comparison with a small constant may leave an operand no bits at all: then it is 0.
     wire [Y_WIDTH-1:0] a, b;
-    \$pos #(.A_SIGNED(A_SIGNED), .A_WIDTH(A_WIDTH), .Y_WIDTH(Y_WIDTH)) extended_a (.A(A), .Y(a));
-    \$pos #(.A_SIGNED(B_SIGNED), .A_WIDTH(B_WIDTH), .Y_WIDTH(Y_WIDTH)) extended_b (.A(B), .Y(b));
+    generate
+        if (A_WIDTH > 0)
+            \$pos #(.A_SIGNED(A_SIGNED), .A_WIDTH(A_WIDTH), .Y_WIDTH(Y_WIDTH)) extended_a (.A(A), .Y(a));
+        else
+            assign a = {Y_WIDTH{1'b0}};
+        if (B_WIDTH > 0)
+            \$pos #(.A_SIGNED(B_SIGNED), .A_WIDTH(B_WIDTH), .Y_WIDTH(Y_WIDTH)) extended_b (.A(B), .Y(b));
+        else
+            assign b = {Y_WIDTH{1'b0}};
+    endgenerate
 
     // A difference that is always one needs no inverters.
     localparam INVERTS = _TECHMAP_CONSTMSK_BI_ && _TECHMAP_CONSTVAL_BI_;
