@@ -49,6 +49,7 @@ WEAK_HANDLER(I2C_IRQHandler); /* interrupt 6 */
 WEAK_HANDLER(RTC_IRQHandler); /* interrupt 7 */
 WEAK_HANDLER(SPI_IRQHandler); /* interrupt 8 */
 WEAK_HANDLER(SD_IRQHandler); /* interrupt 11 */
+WEAK_HANDLER(SYS_IRQHandler); /* interrupt 17 */
 
 /* The processor reads the first word as its stack pointer. */
 struct VectorTable {
@@ -93,7 +94,7 @@ const struct VectorTable vector_table __attribute__((used, section(".vectors")))
         Default_Handler, /* interrupt 14 */
         Default_Handler, /* interrupt 15 */
         Default_Handler, /* interrupt 16 */
-        Default_Handler, /* interrupt 17 */
+        SYS_IRQHandler, /* interrupt 17 */
         Default_Handler, /* interrupt 18 */
         Default_Handler, /* interrupt 19 */
         Default_Handler, /* interrupt 20 */

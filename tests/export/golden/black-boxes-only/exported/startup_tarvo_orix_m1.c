@@ -42,6 +42,7 @@ WEAK_HANDLER(SysTick_Handler); /* system timer */
 WEAK_HANDLER(CAN_IRQHandler); /* interrupt 9 */
 WEAK_HANDLER(ETH_IRQHandler); /* interrupt 10 */
 WEAK_HANDLER(TRNG_IRQHandler); /* interrupt 16 */
+WEAK_HANDLER(SYS_IRQHandler); /* interrupt 17 */
 
 /* The processor reads the first word as its stack pointer. */
 struct VectorTable {
@@ -86,7 +87,7 @@ const struct VectorTable vector_table __attribute__((used, section(".vectors")))
         Default_Handler, /* interrupt 14 */
         Default_Handler, /* interrupt 15 */
         TRNG_IRQHandler, /* interrupt 16 */
-        Default_Handler, /* interrupt 17 */
+        SYS_IRQHandler, /* interrupt 17 */
         Default_Handler, /* interrupt 18 */
         Default_Handler, /* interrupt 19 */
         Default_Handler, /* interrupt 20 */

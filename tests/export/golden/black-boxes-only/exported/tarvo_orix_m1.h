@@ -37,12 +37,14 @@ typedef enum {
     SysTick_IRQn = -1, /* system timer */
     CAN_IRQn = 9, /* CAN controller */
     ETH_IRQn = 10, /* Ethernet MAC */
-    TRNG_IRQn = 16 /* true random number generator */
+    TRNG_IRQn = 16, /* true random number generator */
+    SYS_IRQn = 17 /* says why a reset was, and which access failed */
 } IRQn_Type;
 
 #define CAN_IRQ                                  9
 #define ETH_IRQ                                  10
 #define TRNG_IRQ                                 16
+#define SYS_IRQ                                  17
 
 /* What answers where: the first address, and the size in bytes. An access to any other address
  * gives an error. */
@@ -56,6 +58,7 @@ typedef enum {
 #define ETH_SIZE                                 0x01000000u
 #define TRNG_BASE                                0x5000A000u /* black box: true random number generator */
 #define TRNG_SIZE                                0x00001000u
+#define SYS_SIZE                                 0x00001000u
 #define DDR3_BASE                                0xA0000000u /* memory device: DDR3 memory */
 #define DDR3_SIZE                                0x20000000u
 /* The ITCM answers at 0x10000000 too while ITCMUAEN of the register ACTLR is 1. */
@@ -71,6 +74,287 @@ typedef enum {
 #endif
 #define TARVO_ORIX_M1_W volatile
 #define TARVO_ORIX_M1_RW volatile
+
+/* SYS: System control: why the last reset was, which access to the bus failed last, how long a
+ * slave may take, and what the configuration has. RESETCAUSE, ERRADDR, ERRINFO and SCRATCH
+ * keep their values when the system is reset; only the reset pin clears them. */
+#define SYS_BASE                                 0x5000F000u /* says why a reset was, and which access failed */
+
+/* Causes of the resets since the bits were cleared; several may be set. */
+#define SYS_RESETCAUSE_OFFSET                    0x00u
+#define SYS_RESETCAUSE_RESET                     0x00000000u
+#define SYS_RESETCAUSE_RESET_MASK                0xFFFFFFFCu /* the bits of which the value after reset is known */
+#define SYS_RESETCAUSE_POWERON_Pos               0u /* the reset pin, the first time since the device was configured */
+#define SYS_RESETCAUSE_POWERON_Msk               0x00000001u
+#define SYS_RESETCAUSE_POWERON_NO                0u /* not since cleared */
+#define SYS_RESETCAUSE_POWERON_YES               1u /* device configured, then the reset pin; all other bits were 0 */
+#define SYS_RESETCAUSE_PIN_Pos                   1u /* the reset pin, on a device that had been running */
+#define SYS_RESETCAUSE_PIN_Msk                   0x00000002u
+#define SYS_RESETCAUSE_PIN_NO                    0u /* not since cleared */
+#define SYS_RESETCAUSE_PIN_YES                   1u /* reset pin; all other bits were 0 */
+#define SYS_RESETCAUSE_WATCHDOG_Pos              2u /* the watchdog */
+#define SYS_RESETCAUSE_WATCHDOG_Msk              0x00000004u
+#define SYS_RESETCAUSE_WATCHDOG_NO               0u /* not since cleared */
+#define SYS_RESETCAUSE_WATCHDOG_YES              1u /* the watchdog has reset the system */
+#define SYS_RESETCAUSE_SOFTWARE_Pos              3u /* SYSRESETREQ of the processor, by a program or a debugger */
+#define SYS_RESETCAUSE_SOFTWARE_Msk              0x00000008u
+#define SYS_RESETCAUSE_SOFTWARE_NO               0u /* not since cleared */
+#define SYS_RESETCAUSE_SOFTWARE_YES              1u /* SYSRESETREQ has reset the system */
+#define SYS_RESETCAUSE_LOCKUP_Pos                4u /* a lock-up of the processor, with CTRL.LOCKUPRST */
+#define SYS_RESETCAUSE_LOCKUP_Msk                0x00000010u
+#define SYS_RESETCAUSE_LOCKUP_NO                 0u /* not since cleared */
+#define SYS_RESETCAUSE_LOCKUP_YES                1u /* a lock-up has reset the system */
+#define SYS_RESETCAUSE_DEBUG_Pos                 5u /* nSRST of the debug connector */
+#define SYS_RESETCAUSE_DEBUG_Msk                 0x00000020u
+#define SYS_RESETCAUSE_DEBUG_NO                  0u /* not since cleared */
+#define SYS_RESETCAUSE_DEBUG_YES                 1u /* the debug connector has reset the system */
+
+/* Control; every reset of the system clears it. */
+#define SYS_CTRL_OFFSET                          0x04u
+#define SYS_CTRL_RESET                           0x00000000u
+#define SYS_CTRL_LOCKUPRST_Pos                   0u /* a lock-up of the processor resets the system */
+#define SYS_CTRL_LOCKUPRST_Msk                   0x00000001u
+#define SYS_CTRL_LOCKUPRST_OFF                   0u /* a lock-up lasts until another reset */
+#define SYS_CTRL_LOCKUPRST_ON                    1u /* a lock-up resets the system */
+#define SYS_CTRL_ERRIE_Pos                       1u /* interrupt while ERRINFO.VALID is 1 */
+#define SYS_CTRL_ERRIE_Msk                       0x00000002u
+#define SYS_CTRL_ERRIE_OFF                       0u /* no interrupt */
+#define SYS_CTRL_ERRIE_ON                        1u /* a failed access interrupts */
+
+/* Limit of wait states. A transfer that is not ready after so many ends with an error
+ * response. An AHB slave that let it come to that is abandoned: accesses to it get an error
+ * response at once, until it is ready. Every reset of the system sets it to 0x3FFFF, more than
+ * any block of the subsystem takes. An APB transfer has one wait state of its own; an APB
+ * peripheral that needs none is never too late. */
+#define SYS_BUSTIMEOUT_OFFSET                    0x08u
+#define SYS_BUSTIMEOUT_RESET                     0x0003FFFFu
+#define SYS_BUSTIMEOUT_CYCLES_Pos                0u /* clock cycles; 0 for no limit */
+#define SYS_BUSTIMEOUT_CYCLES_Msk                0x0003FFFFu
+
+/* Address of the last access that got an error response. */
+#define SYS_ERRADDR_OFFSET                       0x0Cu
+#define SYS_ERRADDR_RESET                        0x00000000u
+#define SYS_ERRADDR_ADDR_Pos                     0u /* address */
+#define SYS_ERRADDR_ADDR_Msk                     0xFFFFFFFFu
+
+/* The last access that got an error response, by the processor or its debugger. */
+#define SYS_ERRINFO_OFFSET                       0x10u
+#define SYS_ERRINFO_RESET                        0x00000000u
+#define SYS_ERRINFO_VALID_Pos                    0u /* an access has failed; the other fields and ERRADDR keep their values when it is cleared */
+#define SYS_ERRINFO_VALID_Msk                    0x00000001u
+#define SYS_ERRINFO_VALID_NO                     0u /* none since cleared */
+#define SYS_ERRINFO_VALID_YES                    1u /* an access has failed */
+#define SYS_ERRINFO_MORE_Pos                     1u /* an access has failed while VALID was 1: there were others before the last */
+#define SYS_ERRINFO_MORE_Msk                     0x00000002u
+#define SYS_ERRINFO_MORE_NO                      0u /* none since cleared */
+#define SYS_ERRINFO_MORE_YES                     1u /* more than one access has failed */
+#define SYS_ERRINFO_CAUSE_Pos                    4u /* why the access failed */
+#define SYS_ERRINFO_CAUSE_Msk                    0x00000030u
+#define SYS_ERRINFO_CAUSE_UNMAPPED               0u /* nothing stands at the address in this configuration */
+#define SYS_ERRINFO_CAUSE_SLAVE                  1u /* the block at the address answered with an error */
+#define SYS_ERRINFO_CAUSE_TIMEOUT                2u /* the block at the address did not answer in time */
+#define SYS_ERRINFO_CAUSE_ABANDONED              3u /* the block at the address has not been ready since it did not answer in time */
+#define SYS_ERRINFO_WRITE_Pos                    6u /* direction */
+#define SYS_ERRINFO_WRITE_Msk                    0x00000040u
+#define SYS_ERRINFO_WRITE_READ                   0u /* a read */
+#define SYS_ERRINFO_WRITE_WRITE                  1u /* a write */
+#define SYS_ERRINFO_SIZE_Pos                     7u /* size */
+#define SYS_ERRINFO_SIZE_Msk                     0x00000180u
+#define SYS_ERRINFO_SIZE_BYTE                    0u /* a byte */
+#define SYS_ERRINFO_SIZE_HALFWORD                1u /* a halfword */
+#define SYS_ERRINFO_SIZE_WORD                    2u /* a word */
+#define SYS_ERRINFO_SIZE_NONE                    3u /* never */
+#define SYS_ERRINFO_FETCH_Pos                    9u /* what for */
+#define SYS_ERRINFO_FETCH_Msk                    0x00000200u
+#define SYS_ERRINFO_FETCH_DATA                   0u /* data */
+#define SYS_ERRINFO_FETCH_INSTRUCTION            1u /* an instruction */
+
+/* For the program: a word that resets of the system leave alone. */
+#define SYS_SCRATCH_OFFSET                       0x14u
+#define SYS_SCRATCH_RESET                        0x00000000u
+#define SYS_SCRATCH_WORD_Pos                     0u /* any value */
+#define SYS_SCRATCH_WORD_Msk                     0xFFFFFFFFu
+
+/* Blocks of the configuration: 1 where a block is there. */
+#define SYS_BLOCKS_OFFSET                        0x18u
+#define SYS_BLOCKS_RESET                         0x00000000u
+#define SYS_BLOCKS_RESET_MASK                    0x0A880000u /* the bits of which the value after reset is known */
+#define SYS_BLOCKS_GPIO_Pos                      0u /* GPIO */
+#define SYS_BLOCKS_GPIO_Msk                      0x00000001u
+#define SYS_BLOCKS_GPIO_NO                       0u /* not configured */
+#define SYS_BLOCKS_GPIO_YES                      1u /* there */
+#define SYS_BLOCKS_CAN_Pos                       1u /* CAN */
+#define SYS_BLOCKS_CAN_Msk                       0x00000002u
+#define SYS_BLOCKS_CAN_NO                        0u /* not configured */
+#define SYS_BLOCKS_CAN_YES                       1u /* there */
+#define SYS_BLOCKS_ETH_Pos                       2u /* Ethernet MAC */
+#define SYS_BLOCKS_ETH_Msk                       0x00000004u
+#define SYS_BLOCKS_ETH_NO                        0u /* not configured */
+#define SYS_BLOCKS_ETH_YES                       1u /* there */
+#define SYS_BLOCKS_SPIFLASH_Pos                  3u /* SPI-Flash */
+#define SYS_BLOCKS_SPIFLASH_Msk                  0x00000008u
+#define SYS_BLOCKS_SPIFLASH_NO                   0u /* not configured */
+#define SYS_BLOCKS_SPIFLASH_YES                  1u /* there */
+#define SYS_BLOCKS_PSRAM_Pos                     4u /* PSRAM */
+#define SYS_BLOCKS_PSRAM_Msk                     0x00000010u
+#define SYS_BLOCKS_PSRAM_NO                      0u /* not configured */
+#define SYS_BLOCKS_PSRAM_YES                     1u /* there */
+#define SYS_BLOCKS_DDR3_Pos                      5u /* DDR3 */
+#define SYS_BLOCKS_DDR3_Msk                      0x00000020u
+#define SYS_BLOCKS_DDR3_NO                       0u /* not configured */
+#define SYS_BLOCKS_DDR3_YES                      1u /* there */
+#define SYS_BLOCKS_APBINT_Pos                    6u /* internal APB bus */
+#define SYS_BLOCKS_APBINT_Msk                    0x00000040u
+#define SYS_BLOCKS_APBINT_NO                     0u /* not configured */
+#define SYS_BLOCKS_APBINT_YES                    1u /* there */
+#define SYS_BLOCKS_APBEXT_Pos                    7u /* APB extension ports */
+#define SYS_BLOCKS_APBEXT_Msk                    0x00000080u
+#define SYS_BLOCKS_APBEXT_NO                     0u /* not configured */
+#define SYS_BLOCKS_APBEXT_YES                    1u /* there */
+#define SYS_BLOCKS_AHB1_Pos                      8u /* AHB extension port 1 */
+#define SYS_BLOCKS_AHB1_Msk                      0x00000100u
+#define SYS_BLOCKS_AHB1_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB1_YES                      1u /* there */
+#define SYS_BLOCKS_AHB2_Pos                      9u /* AHB extension port 2 */
+#define SYS_BLOCKS_AHB2_Msk                      0x00000200u
+#define SYS_BLOCKS_AHB2_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB2_YES                      1u /* there */
+#define SYS_BLOCKS_AHB3_Pos                      10u /* AHB extension port 3 */
+#define SYS_BLOCKS_AHB3_Msk                      0x00000400u
+#define SYS_BLOCKS_AHB3_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB3_YES                      1u /* there */
+#define SYS_BLOCKS_AHB4_Pos                      11u /* AHB extension port 4 */
+#define SYS_BLOCKS_AHB4_Msk                      0x00000800u
+#define SYS_BLOCKS_AHB4_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB4_YES                      1u /* there */
+#define SYS_BLOCKS_AHB5_Pos                      12u /* AHB extension port 5 */
+#define SYS_BLOCKS_AHB5_Msk                      0x00001000u
+#define SYS_BLOCKS_AHB5_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB5_YES                      1u /* there */
+#define SYS_BLOCKS_AHB6_Pos                      13u /* AHB extension port 6 */
+#define SYS_BLOCKS_AHB6_Msk                      0x00002000u
+#define SYS_BLOCKS_AHB6_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB6_YES                      1u /* there */
+#define SYS_BLOCKS_EXTFLASH_Pos                  14u /* external instruction memory */
+#define SYS_BLOCKS_EXTFLASH_Msk                  0x00004000u
+#define SYS_BLOCKS_EXTFLASH_NO                   0u /* not configured */
+#define SYS_BLOCKS_EXTFLASH_YES                  1u /* there */
+#define SYS_BLOCKS_EXTSRAM_Pos                   15u /* external data memory */
+#define SYS_BLOCKS_EXTSRAM_Msk                   0x00008000u
+#define SYS_BLOCKS_EXTSRAM_NO                    0u /* not configured */
+#define SYS_BLOCKS_EXTSRAM_YES                   1u /* there */
+#define SYS_BLOCKS_TIMER0_Pos                    16u /* TIMER0 */
+#define SYS_BLOCKS_TIMER0_Msk                    0x00010000u
+#define SYS_BLOCKS_TIMER0_NO                     0u /* not configured */
+#define SYS_BLOCKS_TIMER0_YES                    1u /* there */
+#define SYS_BLOCKS_TIMER1_Pos                    17u /* TIMER1 */
+#define SYS_BLOCKS_TIMER1_Msk                    0x00020000u
+#define SYS_BLOCKS_TIMER1_NO                     0u /* not configured */
+#define SYS_BLOCKS_TIMER1_YES                    1u /* there */
+#define SYS_BLOCKS_DTIMER_Pos                    18u /* DTIMER */
+#define SYS_BLOCKS_DTIMER_Msk                    0x00040000u
+#define SYS_BLOCKS_DTIMER_NO                     0u /* not configured */
+#define SYS_BLOCKS_DTIMER_YES                    1u /* there */
+#define SYS_BLOCKS_UART0_Pos                     20u /* UART0 */
+#define SYS_BLOCKS_UART0_Msk                     0x00100000u
+#define SYS_BLOCKS_UART0_NO                      0u /* not configured */
+#define SYS_BLOCKS_UART0_YES                     1u /* there */
+#define SYS_BLOCKS_UART1_Pos                     21u /* UART1 */
+#define SYS_BLOCKS_UART1_Msk                     0x00200000u
+#define SYS_BLOCKS_UART1_NO                      0u /* not configured */
+#define SYS_BLOCKS_UART1_YES                     1u /* there */
+#define SYS_BLOCKS_RTC_Pos                       22u /* RTC */
+#define SYS_BLOCKS_RTC_Msk                       0x00400000u
+#define SYS_BLOCKS_RTC_NO                        0u /* not configured */
+#define SYS_BLOCKS_RTC_YES                       1u /* there */
+#define SYS_BLOCKS_WDOG_Pos                      24u /* WDOG */
+#define SYS_BLOCKS_WDOG_Msk                      0x01000000u
+#define SYS_BLOCKS_WDOG_NO                       0u /* not configured */
+#define SYS_BLOCKS_WDOG_YES                      1u /* there */
+#define SYS_BLOCKS_TRNG_Pos                      26u /* TRNG */
+#define SYS_BLOCKS_TRNG_Msk                      0x04000000u
+#define SYS_BLOCKS_TRNG_NO                       0u /* not configured */
+#define SYS_BLOCKS_TRNG_YES                      1u /* there */
+#define SYS_BLOCKS_I2C_Pos                       28u /* I2C */
+#define SYS_BLOCKS_I2C_Msk                       0x10000000u
+#define SYS_BLOCKS_I2C_NO                        0u /* not configured */
+#define SYS_BLOCKS_I2C_YES                       1u /* there */
+#define SYS_BLOCKS_SPI_Pos                       29u /* SPI */
+#define SYS_BLOCKS_SPI_Msk                       0x20000000u
+#define SYS_BLOCKS_SPI_NO                        0u /* not configured */
+#define SYS_BLOCKS_SPI_YES                       1u /* there */
+#define SYS_BLOCKS_SD_Pos                        30u /* SD */
+#define SYS_BLOCKS_SD_Msk                        0x40000000u
+#define SYS_BLOCKS_SD_NO                         0u /* not configured */
+#define SYS_BLOCKS_SD_YES                        1u /* there */
+#define SYS_BLOCKS_SYS_Pos                       31u /* SYS */
+#define SYS_BLOCKS_SYS_Msk                       0x80000000u
+#define SYS_BLOCKS_SYS_NO                        0u /* not configured */
+#define SYS_BLOCKS_SYS_YES                       1u /* there */
+
+/* Further facts of the configuration. */
+#define SYS_CONFIG_OFFSET                        0x1Cu
+#define SYS_CONFIG_RESET                         0x00000000u
+#define SYS_CONFIG_RESET_MASK                    0xFF000000u /* the bits of which the value after reset is known */
+#define SYS_CONFIG_IRQS_Pos                      0u /* interrupt inputs of the processor */
+#define SYS_CONFIG_IRQS_Msk                      0x000000FFu
+#define SYS_CONFIG_ITCM_Pos                      8u /* size of the instruction memory: 0 for none, 1 for 1 KB, each step doubles it */
+#define SYS_CONFIG_ITCM_Msk                      0x0000FF00u
+#define SYS_CONFIG_DTCM_Pos                      16u /* size of the data memory, in the same way */
+#define SYS_CONFIG_DTCM_Msk                      0x00FF0000u
+
+/* APB extension ports of the configuration. */
+#define SYS_PORTS_OFFSET                         0x20u
+#define SYS_PORTS_RESET                          0x00000000u
+#define SYS_PORTS_RESET_MASK                     0xFFFF0000u /* the bits of which the value after reset is known */
+#define SYS_PORTS_APB_Pos                        0u /* 1 where a port is there: bit 0 for port 1 */
+#define SYS_PORTS_APB_Msk                        0x0000FFFFu
+
+/* What this block is. */
+#define SYS_ID_OFFSET                            0xFFCu
+#define SYS_ID_RESET                             0x0000020Bu
+#define SYS_ID_BLOCK_Pos                         0u /* kind of block */
+#define SYS_ID_BLOCK_Msk                         0x000000FFu
+#define SYS_ID_REVISION_Pos                      8u /* revision of its registers */
+#define SYS_ID_REVISION_Msk                      0x0000FF00u
+
+typedef struct {
+    TARVO_ORIX_M1_RW uint32_t RESETCAUSE; /* 0x00 */
+    TARVO_ORIX_M1_RW uint32_t CTRL; /* 0x04 */
+    TARVO_ORIX_M1_RW uint32_t BUSTIMEOUT; /* 0x08 */
+    TARVO_ORIX_M1_R uint32_t ERRADDR; /* 0x0C */
+    TARVO_ORIX_M1_RW uint32_t ERRINFO; /* 0x10 */
+    TARVO_ORIX_M1_RW uint32_t SCRATCH; /* 0x14 */
+    TARVO_ORIX_M1_R uint32_t BLOCKS; /* 0x18 */
+    TARVO_ORIX_M1_R uint32_t CONFIG; /* 0x1C */
+    TARVO_ORIX_M1_R uint32_t PORTS; /* 0x20 */
+    uint32_t RESERVED0[1014];
+    TARVO_ORIX_M1_R uint32_t ID; /* 0xFFC */
+} SYS_Type;
+
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_RESETCAUSE,
+                     offsetof(SYS_Type, RESETCAUSE) == SYS_RESETCAUSE_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_CTRL,
+                     offsetof(SYS_Type, CTRL) == SYS_CTRL_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_BUSTIMEOUT,
+                     offsetof(SYS_Type, BUSTIMEOUT) == SYS_BUSTIMEOUT_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_ERRADDR,
+                     offsetof(SYS_Type, ERRADDR) == SYS_ERRADDR_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_ERRINFO,
+                     offsetof(SYS_Type, ERRINFO) == SYS_ERRINFO_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_SCRATCH,
+                     offsetof(SYS_Type, SCRATCH) == SYS_SCRATCH_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_BLOCKS,
+                     offsetof(SYS_Type, BLOCKS) == SYS_BLOCKS_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_CONFIG,
+                     offsetof(SYS_Type, CONFIG) == SYS_CONFIG_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_PORTS,
+                     offsetof(SYS_Type, PORTS) == SYS_PORTS_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_ID,
+                     offsetof(SYS_Type, ID) == SYS_ID_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_SYS_Type, sizeof(SYS_Type) == 0x1000u);
+
+#define SYS                                      ((SYS_Type *)(uintptr_t)SYS_BASE)
 
 /* SCS: The processor's own registers: interrupts, exceptions and reset. They are accessed as
  * words. */

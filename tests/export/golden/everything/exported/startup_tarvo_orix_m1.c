@@ -56,6 +56,7 @@ WEAK_HANDLER(EXTINT1_IRQHandler); /* interrupt 13 */
 WEAK_HANDLER(EXTINT2_IRQHandler); /* interrupt 14 */
 WEAK_HANDLER(EXTINT3_IRQHandler); /* interrupt 15 */
 WEAK_HANDLER(TRNG_IRQHandler); /* interrupt 16 */
+WEAK_HANDLER(SYS_IRQHandler); /* interrupt 17 */
 
 /* The processor reads the first word as its stack pointer. */
 struct VectorTable {
@@ -100,7 +101,7 @@ const struct VectorTable vector_table __attribute__((used, section(".vectors")))
         EXTINT2_IRQHandler, /* interrupt 14 */
         EXTINT3_IRQHandler, /* interrupt 15 */
         TRNG_IRQHandler, /* interrupt 16 */
-        Default_Handler, /* interrupt 17 */
+        SYS_IRQHandler, /* interrupt 17 */
         Default_Handler, /* interrupt 18 */
         Default_Handler, /* interrupt 19 */
         Default_Handler, /* interrupt 20 */

@@ -40,6 +40,7 @@ WEAK_HANDLER(SVC_Handler); /* instruction SVC */
 WEAK_HANDLER(PendSV_Handler); /* request of the operating system */
 WEAK_HANDLER(SysTick_Handler); /* system timer */
 WEAK_HANDLER(UART0_IRQHandler); /* interrupt 0 */
+WEAK_HANDLER(SYS_IRQHandler); /* interrupt 17 */
 
 /* The processor reads the first word as its stack pointer. */
 struct VectorTable {
@@ -84,7 +85,7 @@ const struct VectorTable vector_table __attribute__((used, section(".vectors")))
         Default_Handler, /* interrupt 14 */
         Default_Handler, /* interrupt 15 */
         Default_Handler, /* interrupt 16 */
-        Default_Handler, /* interrupt 17 */
+        SYS_IRQHandler, /* interrupt 17 */
         Default_Handler, /* interrupt 18 */
         Default_Handler, /* interrupt 19 */
         Default_Handler, /* interrupt 20 */

@@ -35,10 +35,12 @@ typedef enum {
     SVCall_IRQn = -5, /* supervisor call */
     PendSV_IRQn = -2, /* request of software */
     SysTick_IRQn = -1, /* system timer */
-    UART0_IRQn = 0 /* first serial line */
+    UART0_IRQn = 0, /* first serial line */
+    SYS_IRQn = 17 /* says why a reset was, and which access failed */
 } IRQn_Type;
 
 #define UART0_IRQ                                0
+#define SYS_IRQ                                  17
 
 /* What answers where: the first address, and the size in bytes. An access to any other address
  * gives an error. */
@@ -47,6 +49,7 @@ typedef enum {
 #define EXTSRAM_BASE                             0x20000000u /* port to an external memory: external data memory */
 #define EXTSRAM_SIZE                             0x20000000u
 #define UART0_SIZE                               0x00001000u
+#define SYS_SIZE                                 0x00001000u
 
 /* Registers that are read, written, or both. In C++ a constant member would have to be
  * initialised. */
@@ -60,37 +63,59 @@ typedef enum {
 #define TARVO_ORIX_M1_W volatile
 #define TARVO_ORIX_M1_RW volatile
 
-/* UART: Eight data bits, no parity, one stop bit; one byte of buffer in each direction beside
- * the shift registers. Bytes and halfwords: a byte is sent only by a write that reaches the
- * lowest byte of DATA, and taken only by a read that begins there. BAUDDIV counts as its
- * minimum while the whole of it is smaller. */
+/* UART: Characters of 5 to 9 bits, with or without parity, and one or two stop bits; a FIFO of
+ * 16 characters in each direction beside the shift registers. What was wrong with a received
+ * character stays with it. Bytes and halfwords: a character is sent only by a write that
+ * reaches the lowest byte of DATA, and taken only by a read that begins there. BAUDDIV counts
+ * as its minimum while the whole of it is smaller. */
 #define UART0_BASE                               0x50004000u /* first serial line */
 
-/* Bytes to and from the line. */
+/* Characters to and from the line, and what was wrong with a received one. While nothing waits
+ * it reads as 0. */
 #define UART_DATA_OFFSET                         0x00u
 #define UART_DATA_RESET                          0x00000000u
-#define UART_DATA_BYTE_Pos                       0u /* write: byte to send; read: received byte, which clears RXFULL */
+#define UART_DATA_BYTE_Pos                       0u /* write: bits 7 to 0 of a character to send; read: those of the oldest received character, which is thereby taken. Unused bits of shorter characters count for nothing, and read as 0 */
 #define UART_DATA_BYTE_Msk                       0x000000FFu
+#define UART_DATA_BIT8_Pos                       8u /* bit 8 of characters of nine bits; a write of the lowest byte alone sends 0 */
+#define UART_DATA_BIT8_Msk                       0x00000100u
+#define UART_DATA_BIT8_ZERO                      0u /* the bit is 0 */
+#define UART_DATA_BIT8_ONE                       1u /* the bit is 1 */
+#define UART_DATA_PARITY_Pos                     9u /* wrong parity; a character without a stop bit is not checked */
+#define UART_DATA_PARITY_Msk                     0x00000200u
+#define UART_DATA_PARITY_NO                      0u /* right, or not checked */
+#define UART_DATA_PARITY_YES                     1u /* wrong */
+#define UART_DATA_FRAME_Pos                      10u /* the stop bit was 0 */
+#define UART_DATA_FRAME_Msk                      0x00000400u
+#define UART_DATA_FRAME_NO                       0u /* it was 1 */
+#define UART_DATA_FRAME_YES                      1u /* it was 0 */
+#define UART_DATA_BREAK_Pos                      11u /* a break: all bits were 0, the stop bit too */
+#define UART_DATA_BREAK_Msk                      0x00000800u
+#define UART_DATA_BREAK_NO                       0u /* no break */
+#define UART_DATA_BREAK_YES                      1u /* a break; FRAME is 1, too */
+#define UART_DATA_OVER_Pos                       12u /* characters in front of this one are lost */
+#define UART_DATA_OVER_Msk                       0x00001000u
+#define UART_DATA_OVER_NO                        0u /* none is lost */
+#define UART_DATA_OVER_YES                       1u /* at least one is lost */
 
-/* State of the buffers and errors. */
+/* State of the FIFOs and errors. */
 #define UART_STATUS_OFFSET                       0x04u
 #define UART_STATUS_RESET                        0x00000000u
-#define UART_STATUS_TXFULL_Pos                   0u /* a byte waits to be sent */
+#define UART_STATUS_TXFULL_Pos                   0u /* the transmit FIFO is full */
 #define UART_STATUS_TXFULL_Msk                   0x00000001u
-#define UART_STATUS_TXFULL_EMPTY                 0u /* a byte can be written */
-#define UART_STATUS_TXFULL_FULL                  1u /* a byte waits */
-#define UART_STATUS_RXFULL_Pos                   1u /* a received byte waits to be read */
+#define UART_STATUS_TXFULL_EMPTY                 0u /* a character can be written */
+#define UART_STATUS_TXFULL_FULL                  1u /* none can be written */
+#define UART_STATUS_RXFULL_Pos                   1u /* a received character waits to be read */
 #define UART_STATUS_RXFULL_Msk                   0x00000002u
 #define UART_STATUS_RXFULL_EMPTY                 0u /* nothing to read */
-#define UART_STATUS_RXFULL_FULL                  1u /* a byte waits */
-#define UART_STATUS_TXBUSY_Pos                   2u /* buffer or line busy */
+#define UART_STATUS_RXFULL_FULL                  1u /* at least one waits */
+#define UART_STATUS_TXBUSY_Pos                   2u /* FIFO or line busy, or a break is due */
 #define UART_STATUS_TXBUSY_Msk                   0x00000004u
-#define UART_STATUS_TXBUSY_IDLE                  0u /* everything is sent */
+#define UART_STATUS_TXBUSY_IDLE                  0u /* everything is sent, the stop bits too */
 #define UART_STATUS_TXBUSY_BUSY                  1u /* something is to be sent */
-#define UART_STATUS_RXOVER_Pos                   3u /* a byte arrived while RXFULL and is lost */
+#define UART_STATUS_RXOVER_Pos                   3u /* a character arrived while the receive FIFO was full and is lost; DATA.OVER tells where */
 #define UART_STATUS_RXOVER_Msk                   0x00000008u
 #define UART_STATUS_RXOVER_NO                    0u /* nothing is lost */
-#define UART_STATUS_RXOVER_YES                   1u /* a byte is lost */
+#define UART_STATUS_RXOVER_YES                   1u /* a character is lost */
 #define UART_STATUS_FRAME_Pos                    4u /* a stop bit was 0 */
 #define UART_STATUS_FRAME_Msk                    0x00000010u
 #define UART_STATUS_FRAME_NO                     0u /* no such error */
@@ -98,43 +123,210 @@ typedef enum {
 #define UART_STATUS_TXOVER_Pos                   5u /* DATA was written while TXFULL */
 #define UART_STATUS_TXOVER_Msk                   0x00000020u
 #define UART_STATUS_TXOVER_NO                    0u /* nothing is lost */
-#define UART_STATUS_TXOVER_YES                   1u /* a byte is lost */
+#define UART_STATUS_TXOVER_YES                   1u /* a character is lost */
+#define UART_STATUS_PARITY_Pos                   6u /* a parity was wrong */
+#define UART_STATUS_PARITY_Msk                   0x00000040u
+#define UART_STATUS_PARITY_NO                    0u /* no such error */
+#define UART_STATUS_PARITY_YES                   1u /* a parity was wrong */
+#define UART_STATUS_BREAK_Pos                    7u /* a break has come; it sets FRAME, too */
+#define UART_STATUS_BREAK_Msk                    0x00000080u
+#define UART_STATUS_BREAK_NO                     0u /* none */
+#define UART_STATUS_BREAK_YES                    1u /* a break has come */
+#define UART_STATUS_TIMEOUT_Pos                  8u /* characters wait, and for the bit times of TIMEOUT none has come and none was read; ends with the next one */
+#define UART_STATUS_TIMEOUT_Msk                  0x00000100u
+#define UART_STATUS_TIMEOUT_NO                   0u /* no */
+#define UART_STATUS_TIMEOUT_YES                  1u /* yes */
+#define UART_STATUS_RXBUSY_Pos                   9u /* a character is being received */
+#define UART_STATUS_RXBUSY_Msk                   0x00000200u
+#define UART_STATUS_RXBUSY_IDLE                  0u /* the line is idle */
+#define UART_STATUS_RXBUSY_BUSY                  1u /* from the falling edge of a start bit to the middle of the stop bit */
 
-/* Enables. */
+/* Enables. All interrupts stay until their reason has gone. */
 #define UART_CTRL_OFFSET                         0x08u
 #define UART_CTRL_RESET                          0x00000000u
 #define UART_CTRL_TXEN_Pos                       0u /* transmitter on */
 #define UART_CTRL_TXEN_Msk                       0x00000001u
-#define UART_CTRL_TXEN_OFF                       0u /* off; a byte on its way is sent to its end */
+#define UART_CTRL_TXEN_OFF                       0u /* off; a character on its way is sent to its end */
 #define UART_CTRL_TXEN_ON                        1u /* on */
 #define UART_CTRL_RXEN_Pos                       1u /* receiver on */
 #define UART_CTRL_RXEN_Msk                       0x00000002u
-#define UART_CTRL_RXEN_OFF                       0u /* off; a byte on its way is dropped */
+#define UART_CTRL_RXEN_OFF                       0u /* off; a character on its way is dropped, those in the FIFO stay */
 #define UART_CTRL_RXEN_ON                        1u /* on */
-#define UART_CTRL_TXIE_Pos                       2u /* interrupt while the transmit buffer is empty */
+#define UART_CTRL_TXIE_Pos                       2u /* interrupt while there is room for more characters than THRESHOLD.TX says; after reset, for one */
 #define UART_CTRL_TXIE_Msk                       0x00000004u
 #define UART_CTRL_TXIE_OFF                       0u /* no interrupt */
 #define UART_CTRL_TXIE_ON                        1u /* interrupt */
-#define UART_CTRL_RXIE_Pos                       3u /* interrupt while RXFULL */
+#define UART_CTRL_RXIE_Pos                       3u /* interrupt while more characters wait than THRESHOLD.RX says; after reset, one */
 #define UART_CTRL_RXIE_Msk                       0x00000008u
 #define UART_CTRL_RXIE_OFF                       0u /* no interrupt */
 #define UART_CTRL_RXIE_ON                        1u /* interrupt */
-#define UART_CTRL_ERRIE_Pos                      4u /* interrupt while RXOVER, FRAME or TXOVER */
+#define UART_CTRL_ERRIE_Pos                      4u /* interrupt while RXOVER, FRAME, TXOVER or PARITY */
 #define UART_CTRL_ERRIE_Msk                      0x00000010u
 #define UART_CTRL_ERRIE_OFF                      0u /* no interrupt */
 #define UART_CTRL_ERRIE_ON                       1u /* interrupt */
+#define UART_CTRL_TIMEOUTIE_Pos                  5u /* interrupt while STATUS.TIMEOUT */
+#define UART_CTRL_TIMEOUTIE_Msk                  0x00000020u
+#define UART_CTRL_TIMEOUTIE_OFF                  0u /* no interrupt */
+#define UART_CTRL_TIMEOUTIE_ON                   1u /* interrupt */
+#define UART_CTRL_BREAKIE_Pos                    6u /* interrupt while STATUS.BREAK */
+#define UART_CTRL_BREAKIE_Msk                    0x00000040u
+#define UART_CTRL_BREAKIE_OFF                    0u /* no interrupt */
+#define UART_CTRL_BREAKIE_ON                     1u /* interrupt */
+#define UART_CTRL_IDLEIE_Pos                     7u /* interrupt while TXBUSY is 0 */
+#define UART_CTRL_IDLEIE_Msk                     0x00000080u
+#define UART_CTRL_IDLEIE_OFF                     0u /* no interrupt */
+#define UART_CTRL_IDLEIE_ON                      1u /* interrupt */
+#define UART_CTRL_BREAK_Pos                      8u /* sends a break behind the running character while TXEN: the line is low for 13 bit times and on while this is 1, then high for one bit time. Characters in the FIFO follow. A 1 for however short a time sends one */
+#define UART_CTRL_BREAK_Msk                      0x00000100u
+#define UART_CTRL_BREAK_OFF                      0u /* no break, or its end */
+#define UART_CTRL_BREAK_ON                       1u /* break */
+#define UART_CTRL_LOOP_Pos                       9u /* loop-back; to be changed while RXEN is 0 */
+#define UART_CTRL_LOOP_Msk                       0x00000200u
+#define UART_CTRL_LOOP_OFF                       0u /* the pins are connected */
+#define UART_CTRL_LOOP_ON                        1u /* the receiver hears the transmitter, the pin TXD is high and RXD counts for nothing */
 
 /* Bit time. */
 #define UART_BAUDDIV_OFFSET                      0x0Cu
 #define UART_BAUDDIV_RESET                       0x00000010u
-#define UART_BAUDDIV_CYCLES_Pos                  0u /* clock cycles per bit; smaller values count as the minimum */
+#define UART_BAUDDIV_CYCLES_Pos                  0u /* clock cycles per bit; smaller values count as the minimum. The bit time is CYCLES + FRACTION / 64 clock cycles. The transmitter's edges are off by less than a cycle. The receiver samples each bit three times around its middle, a sixteenth of a bit time apart, and takes the majority; it takes characters whose rate is up to (50 - 100 / D) / (N - 0.5) percent lower or higher, where D is this bit time and N the bits from the start bit to the first stop bit. That is 4 percent and more for all formats from a bit time of 26 cycles on, and up to eight data bits with a parity bit, or nine without, with any; measured at the smallest bit time, 16 cycles: 4.6 percent for eight bits without parity (5.1 at 48 cycles), 3.8 percent for nine with parity (4.2 at 48 cycles) */
 #define UART_BAUDDIV_CYCLES_Msk                  0x000FFFFFu
+#define UART_BAUDDIV_FRACTION_Pos                20u /* further 64ths of a cycle, on the average */
+#define UART_BAUDDIV_FRACTION_Msk                0x03F00000u
+
+/* Form of the characters, in both directions, the lowest bit first. To be changed while
+ * nothing is sent or received. */
+#define UART_FORMAT_OFFSET                       0x10u
+#define UART_FORMAT_RESET                        0x00000003u
+#define UART_FORMAT_BITS_Pos                     0u /* data bits, unless NINE */
+#define UART_FORMAT_BITS_Msk                     0x00000003u
+#define UART_FORMAT_BITS_FIVE                    0u /* five */
+#define UART_FORMAT_BITS_SIX                     1u /* six */
+#define UART_FORMAT_BITS_SEVEN                   2u /* seven */
+#define UART_FORMAT_BITS_EIGHT                   3u /* eight */
+#define UART_FORMAT_NINE_Pos                     2u /* nine data bits */
+#define UART_FORMAT_NINE_Msk                     0x00000004u
+#define UART_FORMAT_NINE_OFF                     0u /* as BITS says */
+#define UART_FORMAT_NINE_ON                      1u /* nine */
+#define UART_FORMAT_PARITY_Pos                   3u /* parity bit behind the data bits */
+#define UART_FORMAT_PARITY_Msk                   0x00000008u
+#define UART_FORMAT_PARITY_OFF                   0u /* none */
+#define UART_FORMAT_PARITY_ON                    1u /* sent, and checked */
+#define UART_FORMAT_ODD_Pos                      4u /* which parity */
+#define UART_FORMAT_ODD_Msk                      0x00000010u
+#define UART_FORMAT_ODD_EVEN                     0u /* an even number of ones, with it; 0 with STICK */
+#define UART_FORMAT_ODD_ODD                      1u /* an odd number of ones, with it; 1 with STICK */
+#define UART_FORMAT_STICK_Pos                    5u /* parity bit without parity */
+#define UART_FORMAT_STICK_Msk                    0x00000020u
+#define UART_FORMAT_STICK_OFF                    0u /* it depends on the data bits */
+#define UART_FORMAT_STICK_ON                     1u /* it is always the value of ODD */
+#define UART_FORMAT_STOP_Pos                     6u /* stop bits that are sent; received characters need one */
+#define UART_FORMAT_STOP_Msk                     0x00000040u
+#define UART_FORMAT_STOP_ONE                     0u /* one */
+#define UART_FORMAT_STOP_TWO                     1u /* two */
+#define UART_FORMAT_KEEP_Pos                     7u /* what becomes of received characters that have PARITY or FRAME; STATUS tells in any case */
+#define UART_FORMAT_KEEP_Msk                     0x00000080u
+#define UART_FORMAT_KEEP_OFF                     0u /* they are dropped */
+#define UART_FORMAT_KEEP_ON                      1u /* they go into the FIFO, and DATA tells what was wrong */
+
+/* What is in the FIFOs, and the line. */
+#define UART_LEVEL_OFFSET                        0x14u
+#define UART_LEVEL_RESET                         0x00000000u
+#define UART_LEVEL_RESET_MASK                    0xFFFEFFFFu /* the bits of which the value after reset is known */
+#define UART_LEVEL_RX_Pos                        0u /* received characters that wait */
+#define UART_LEVEL_RX_Msk                        0x000000FFu
+#define UART_LEVEL_TX_Pos                        8u /* characters that wait to be sent, without the one on its way */
+#define UART_LEVEL_TX_Msk                        0x0000FF00u
+#define UART_LEVEL_LINE_Pos                      16u /* level that the receiver sees */
+#define UART_LEVEL_LINE_Msk                      0x00010000u
+#define UART_LEVEL_LINE_LOW                      0u /* low: a start bit, a zero or a break */
+#define UART_LEVEL_LINE_HIGH                     1u /* high: idle, a one or a stop bit */
+
+/* When TXIE and RXIE ask for an interrupt. */
+#define UART_THRESHOLD_OFFSET                    0x18u
+#define UART_THRESHOLD_RESET                     0x00000000u
+#define UART_THRESHOLD_RX_Pos                    0u /* more characters than this wait */
+#define UART_THRESHOLD_RX_Msk                    0x0000000Fu
+#define UART_THRESHOLD_RX_ONE                    0u /* any */
+#define UART_THRESHOLD_RX_TWO                    1u /* two, or more */
+#define UART_THRESHOLD_RX_THREE                  2u /* three, or more */
+#define UART_THRESHOLD_RX_FOUR                   3u /* four, or more */
+#define UART_THRESHOLD_RX_FIVE                   4u /* five, or more */
+#define UART_THRESHOLD_RX_SIX                    5u /* six, or more */
+#define UART_THRESHOLD_RX_SEVEN                  6u /* seven, or more */
+#define UART_THRESHOLD_RX_EIGHT                  7u /* eight, or more */
+#define UART_THRESHOLD_RX_NINE                   8u /* nine, or more */
+#define UART_THRESHOLD_RX_TEN                    9u /* ten, or more */
+#define UART_THRESHOLD_RX_ELEVEN                 0xAu /* eleven, or more */
+#define UART_THRESHOLD_RX_TWELVE                 0xBu /* twelve, or more */
+#define UART_THRESHOLD_RX_THIRTEEN               0xCu /* thirteen, or more */
+#define UART_THRESHOLD_RX_FOURTEEN               0xDu /* fourteen, or more */
+#define UART_THRESHOLD_RX_FIFTEEN                0xEu /* fifteen, or more */
+#define UART_THRESHOLD_RX_SIXTEEN                0xFu /* sixteen, or more */
+#define UART_THRESHOLD_TX_Pos                    8u /* there is room for more characters than this */
+#define UART_THRESHOLD_TX_Msk                    0x00000F00u
+#define UART_THRESHOLD_TX_ONE                    0u /* for one, or more */
+#define UART_THRESHOLD_TX_TWO                    1u /* for two, or more */
+#define UART_THRESHOLD_TX_THREE                  2u /* for three, or more */
+#define UART_THRESHOLD_TX_FOUR                   3u /* for four, or more */
+#define UART_THRESHOLD_TX_FIVE                   4u /* for five, or more */
+#define UART_THRESHOLD_TX_SIX                    5u /* for six, or more */
+#define UART_THRESHOLD_TX_SEVEN                  6u /* for seven, or more */
+#define UART_THRESHOLD_TX_EIGHT                  7u /* for eight, or more */
+#define UART_THRESHOLD_TX_NINE                   8u /* for nine, or more */
+#define UART_THRESHOLD_TX_TEN                    9u /* for ten, or more */
+#define UART_THRESHOLD_TX_ELEVEN                 0xAu /* for eleven, or more */
+#define UART_THRESHOLD_TX_TWELVE                 0xBu /* for twelve, or more */
+#define UART_THRESHOLD_TX_THIRTEEN               0xCu /* for thirteen, or more */
+#define UART_THRESHOLD_TX_FOURTEEN               0xDu /* for fourteen, or more */
+#define UART_THRESHOLD_TX_FIFTEEN                0xEu /* for fifteen, or more */
+#define UART_THRESHOLD_TX_SIXTEEN                0xFu /* the FIFO is empty */
+
+/* Receive time-out. */
+#define UART_TIMEOUT_OFFSET                      0x1Cu
+#define UART_TIMEOUT_RESET                       0x00000000u
+#define UART_TIMEOUT_BITS_Pos                    0u /* bit times, one more or less, that the line is idle before STATUS.TIMEOUT; 0: never */
+#define UART_TIMEOUT_BITS_Msk                    0x000000FFu
+
+/* Empties FIFOs. */
+#define UART_COMMAND_OFFSET                      0x20u
+#define UART_COMMAND_RESET                       0x00000000u
+#define UART_COMMAND_RXCLEAR_Pos                 0u /* drops the received characters that wait; flags in STATUS stay */
+#define UART_COMMAND_RXCLEAR_Msk                 0x00000001u
+#define UART_COMMAND_RXCLEAR_NONE                0u /* nothing happens */
+#define UART_COMMAND_RXCLEAR_CLEAR               1u /* drop them */
+#define UART_COMMAND_TXCLEAR_Pos                 1u /* drops the characters that wait to be sent; the one on its way leaves */
+#define UART_COMMAND_TXCLEAR_Msk                 0x00000002u
+#define UART_COMMAND_TXCLEAR_NONE                0u /* nothing happens */
+#define UART_COMMAND_TXCLEAR_CLEAR               1u /* drop them */
+
+/* What this block is. */
+#define UART_ID_OFFSET                           0xFFCu
+#define UART_ID_RESET                            0x11840202u
+#define UART_ID_BLOCK_Pos                        0u /* kind of block */
+#define UART_ID_BLOCK_Msk                        0x000000FFu
+#define UART_ID_REVISION_Pos                     8u /* revision of its registers */
+#define UART_ID_REVISION_Msk                     0x0000FF00u
+#define UART_ID_DEPTH_Pos                        16u /* characters in each FIFO, as a power of two */
+#define UART_ID_DEPTH_Msk                        0x003F0000u
+#define UART_ID_FRACTION_Pos                     22u /* bits of BAUDDIV.FRACTION */
+#define UART_ID_FRACTION_Msk                     0x0FC00000u
+#define UART_ID_TIMEOUT_Pos                      28u /* receive time-out */
+#define UART_ID_TIMEOUT_Msk                      0x10000000u
+#define UART_ID_TIMEOUT_ABSENT                   0u /* it is not there */
+#define UART_ID_TIMEOUT_PRESENT                  1u /* it is there */
 
 typedef struct {
     TARVO_ORIX_M1_RW uint32_t DATA; /* 0x00 */
     TARVO_ORIX_M1_RW uint32_t STATUS; /* 0x04 */
     TARVO_ORIX_M1_RW uint32_t CTRL; /* 0x08 */
     TARVO_ORIX_M1_RW uint32_t BAUDDIV; /* 0x0C */
+    TARVO_ORIX_M1_RW uint32_t FORMAT; /* 0x10 */
+    TARVO_ORIX_M1_R uint32_t LEVEL; /* 0x14 */
+    TARVO_ORIX_M1_RW uint32_t THRESHOLD; /* 0x18 */
+    TARVO_ORIX_M1_RW uint32_t TIMEOUT; /* 0x1C */
+    TARVO_ORIX_M1_W uint32_t COMMAND; /* 0x20 */
+    uint32_t RESERVED0[1014];
+    TARVO_ORIX_M1_R uint32_t ID; /* 0xFFC */
 } UART_Type;
 
 TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_DATA,
@@ -145,9 +337,302 @@ TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_CTRL,
                      offsetof(UART_Type, CTRL) == UART_CTRL_OFFSET);
 TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_BAUDDIV,
                      offsetof(UART_Type, BAUDDIV) == UART_BAUDDIV_OFFSET);
-TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_UART_Type, sizeof(UART_Type) == 0x10u);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_FORMAT,
+                     offsetof(UART_Type, FORMAT) == UART_FORMAT_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_LEVEL,
+                     offsetof(UART_Type, LEVEL) == UART_LEVEL_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_THRESHOLD,
+                     offsetof(UART_Type, THRESHOLD) == UART_THRESHOLD_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_TIMEOUT,
+                     offsetof(UART_Type, TIMEOUT) == UART_TIMEOUT_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_COMMAND,
+                     offsetof(UART_Type, COMMAND) == UART_COMMAND_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_UART_Type_ID,
+                     offsetof(UART_Type, ID) == UART_ID_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_UART_Type, sizeof(UART_Type) == 0x1000u);
 
 #define UART0                                    ((UART_Type *)(uintptr_t)UART0_BASE)
+
+/* SYS: System control: why the last reset was, which access to the bus failed last, how long a
+ * slave may take, and what the configuration has. RESETCAUSE, ERRADDR, ERRINFO and SCRATCH
+ * keep their values when the system is reset; only the reset pin clears them. */
+#define SYS_BASE                                 0x5000F000u /* says why a reset was, and which access failed */
+
+/* Causes of the resets since the bits were cleared; several may be set. */
+#define SYS_RESETCAUSE_OFFSET                    0x00u
+#define SYS_RESETCAUSE_RESET                     0x00000000u
+#define SYS_RESETCAUSE_RESET_MASK                0xFFFFFFFCu /* the bits of which the value after reset is known */
+#define SYS_RESETCAUSE_POWERON_Pos               0u /* the reset pin, the first time since the device was configured */
+#define SYS_RESETCAUSE_POWERON_Msk               0x00000001u
+#define SYS_RESETCAUSE_POWERON_NO                0u /* not since cleared */
+#define SYS_RESETCAUSE_POWERON_YES               1u /* device configured, then the reset pin; all other bits were 0 */
+#define SYS_RESETCAUSE_PIN_Pos                   1u /* the reset pin, on a device that had been running */
+#define SYS_RESETCAUSE_PIN_Msk                   0x00000002u
+#define SYS_RESETCAUSE_PIN_NO                    0u /* not since cleared */
+#define SYS_RESETCAUSE_PIN_YES                   1u /* reset pin; all other bits were 0 */
+#define SYS_RESETCAUSE_WATCHDOG_Pos              2u /* the watchdog */
+#define SYS_RESETCAUSE_WATCHDOG_Msk              0x00000004u
+#define SYS_RESETCAUSE_WATCHDOG_NO               0u /* not since cleared */
+#define SYS_RESETCAUSE_WATCHDOG_YES              1u /* the watchdog has reset the system */
+#define SYS_RESETCAUSE_SOFTWARE_Pos              3u /* SYSRESETREQ of the processor, by a program or a debugger */
+#define SYS_RESETCAUSE_SOFTWARE_Msk              0x00000008u
+#define SYS_RESETCAUSE_SOFTWARE_NO               0u /* not since cleared */
+#define SYS_RESETCAUSE_SOFTWARE_YES              1u /* SYSRESETREQ has reset the system */
+#define SYS_RESETCAUSE_LOCKUP_Pos                4u /* a lock-up of the processor, with CTRL.LOCKUPRST */
+#define SYS_RESETCAUSE_LOCKUP_Msk                0x00000010u
+#define SYS_RESETCAUSE_LOCKUP_NO                 0u /* not since cleared */
+#define SYS_RESETCAUSE_LOCKUP_YES                1u /* a lock-up has reset the system */
+#define SYS_RESETCAUSE_DEBUG_Pos                 5u /* nSRST of the debug connector */
+#define SYS_RESETCAUSE_DEBUG_Msk                 0x00000020u
+#define SYS_RESETCAUSE_DEBUG_NO                  0u /* not since cleared */
+#define SYS_RESETCAUSE_DEBUG_YES                 1u /* the debug connector has reset the system */
+
+/* Control; every reset of the system clears it. */
+#define SYS_CTRL_OFFSET                          0x04u
+#define SYS_CTRL_RESET                           0x00000000u
+#define SYS_CTRL_LOCKUPRST_Pos                   0u /* a lock-up of the processor resets the system */
+#define SYS_CTRL_LOCKUPRST_Msk                   0x00000001u
+#define SYS_CTRL_LOCKUPRST_OFF                   0u /* a lock-up lasts until another reset */
+#define SYS_CTRL_LOCKUPRST_ON                    1u /* a lock-up resets the system */
+#define SYS_CTRL_ERRIE_Pos                       1u /* interrupt while ERRINFO.VALID is 1 */
+#define SYS_CTRL_ERRIE_Msk                       0x00000002u
+#define SYS_CTRL_ERRIE_OFF                       0u /* no interrupt */
+#define SYS_CTRL_ERRIE_ON                        1u /* a failed access interrupts */
+
+/* Limit of wait states. A transfer that is not ready after so many ends with an error
+ * response. An AHB slave that let it come to that is abandoned: accesses to it get an error
+ * response at once, until it is ready. Every reset of the system sets it to 0x3FFFF, more than
+ * any block of the subsystem takes. An APB transfer has one wait state of its own; an APB
+ * peripheral that needs none is never too late. */
+#define SYS_BUSTIMEOUT_OFFSET                    0x08u
+#define SYS_BUSTIMEOUT_RESET                     0x0003FFFFu
+#define SYS_BUSTIMEOUT_CYCLES_Pos                0u /* clock cycles; 0 for no limit */
+#define SYS_BUSTIMEOUT_CYCLES_Msk                0x0003FFFFu
+
+/* Address of the last access that got an error response. */
+#define SYS_ERRADDR_OFFSET                       0x0Cu
+#define SYS_ERRADDR_RESET                        0x00000000u
+#define SYS_ERRADDR_ADDR_Pos                     0u /* address */
+#define SYS_ERRADDR_ADDR_Msk                     0xFFFFFFFFu
+
+/* The last access that got an error response, by the processor or its debugger. */
+#define SYS_ERRINFO_OFFSET                       0x10u
+#define SYS_ERRINFO_RESET                        0x00000000u
+#define SYS_ERRINFO_VALID_Pos                    0u /* an access has failed; the other fields and ERRADDR keep their values when it is cleared */
+#define SYS_ERRINFO_VALID_Msk                    0x00000001u
+#define SYS_ERRINFO_VALID_NO                     0u /* none since cleared */
+#define SYS_ERRINFO_VALID_YES                    1u /* an access has failed */
+#define SYS_ERRINFO_MORE_Pos                     1u /* an access has failed while VALID was 1: there were others before the last */
+#define SYS_ERRINFO_MORE_Msk                     0x00000002u
+#define SYS_ERRINFO_MORE_NO                      0u /* none since cleared */
+#define SYS_ERRINFO_MORE_YES                     1u /* more than one access has failed */
+#define SYS_ERRINFO_CAUSE_Pos                    4u /* why the access failed */
+#define SYS_ERRINFO_CAUSE_Msk                    0x00000030u
+#define SYS_ERRINFO_CAUSE_UNMAPPED               0u /* nothing stands at the address in this configuration */
+#define SYS_ERRINFO_CAUSE_SLAVE                  1u /* the block at the address answered with an error */
+#define SYS_ERRINFO_CAUSE_TIMEOUT                2u /* the block at the address did not answer in time */
+#define SYS_ERRINFO_CAUSE_ABANDONED              3u /* the block at the address has not been ready since it did not answer in time */
+#define SYS_ERRINFO_WRITE_Pos                    6u /* direction */
+#define SYS_ERRINFO_WRITE_Msk                    0x00000040u
+#define SYS_ERRINFO_WRITE_READ                   0u /* a read */
+#define SYS_ERRINFO_WRITE_WRITE                  1u /* a write */
+#define SYS_ERRINFO_SIZE_Pos                     7u /* size */
+#define SYS_ERRINFO_SIZE_Msk                     0x00000180u
+#define SYS_ERRINFO_SIZE_BYTE                    0u /* a byte */
+#define SYS_ERRINFO_SIZE_HALFWORD                1u /* a halfword */
+#define SYS_ERRINFO_SIZE_WORD                    2u /* a word */
+#define SYS_ERRINFO_SIZE_NONE                    3u /* never */
+#define SYS_ERRINFO_FETCH_Pos                    9u /* what for */
+#define SYS_ERRINFO_FETCH_Msk                    0x00000200u
+#define SYS_ERRINFO_FETCH_DATA                   0u /* data */
+#define SYS_ERRINFO_FETCH_INSTRUCTION            1u /* an instruction */
+
+/* For the program: a word that resets of the system leave alone. */
+#define SYS_SCRATCH_OFFSET                       0x14u
+#define SYS_SCRATCH_RESET                        0x00000000u
+#define SYS_SCRATCH_WORD_Pos                     0u /* any value */
+#define SYS_SCRATCH_WORD_Msk                     0xFFFFFFFFu
+
+/* Blocks of the configuration: 1 where a block is there. */
+#define SYS_BLOCKS_OFFSET                        0x18u
+#define SYS_BLOCKS_RESET                         0x00000000u
+#define SYS_BLOCKS_RESET_MASK                    0x0A880000u /* the bits of which the value after reset is known */
+#define SYS_BLOCKS_GPIO_Pos                      0u /* GPIO */
+#define SYS_BLOCKS_GPIO_Msk                      0x00000001u
+#define SYS_BLOCKS_GPIO_NO                       0u /* not configured */
+#define SYS_BLOCKS_GPIO_YES                      1u /* there */
+#define SYS_BLOCKS_CAN_Pos                       1u /* CAN */
+#define SYS_BLOCKS_CAN_Msk                       0x00000002u
+#define SYS_BLOCKS_CAN_NO                        0u /* not configured */
+#define SYS_BLOCKS_CAN_YES                       1u /* there */
+#define SYS_BLOCKS_ETH_Pos                       2u /* Ethernet MAC */
+#define SYS_BLOCKS_ETH_Msk                       0x00000004u
+#define SYS_BLOCKS_ETH_NO                        0u /* not configured */
+#define SYS_BLOCKS_ETH_YES                       1u /* there */
+#define SYS_BLOCKS_SPIFLASH_Pos                  3u /* SPI-Flash */
+#define SYS_BLOCKS_SPIFLASH_Msk                  0x00000008u
+#define SYS_BLOCKS_SPIFLASH_NO                   0u /* not configured */
+#define SYS_BLOCKS_SPIFLASH_YES                  1u /* there */
+#define SYS_BLOCKS_PSRAM_Pos                     4u /* PSRAM */
+#define SYS_BLOCKS_PSRAM_Msk                     0x00000010u
+#define SYS_BLOCKS_PSRAM_NO                      0u /* not configured */
+#define SYS_BLOCKS_PSRAM_YES                     1u /* there */
+#define SYS_BLOCKS_DDR3_Pos                      5u /* DDR3 */
+#define SYS_BLOCKS_DDR3_Msk                      0x00000020u
+#define SYS_BLOCKS_DDR3_NO                       0u /* not configured */
+#define SYS_BLOCKS_DDR3_YES                      1u /* there */
+#define SYS_BLOCKS_APBINT_Pos                    6u /* internal APB bus */
+#define SYS_BLOCKS_APBINT_Msk                    0x00000040u
+#define SYS_BLOCKS_APBINT_NO                     0u /* not configured */
+#define SYS_BLOCKS_APBINT_YES                    1u /* there */
+#define SYS_BLOCKS_APBEXT_Pos                    7u /* APB extension ports */
+#define SYS_BLOCKS_APBEXT_Msk                    0x00000080u
+#define SYS_BLOCKS_APBEXT_NO                     0u /* not configured */
+#define SYS_BLOCKS_APBEXT_YES                    1u /* there */
+#define SYS_BLOCKS_AHB1_Pos                      8u /* AHB extension port 1 */
+#define SYS_BLOCKS_AHB1_Msk                      0x00000100u
+#define SYS_BLOCKS_AHB1_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB1_YES                      1u /* there */
+#define SYS_BLOCKS_AHB2_Pos                      9u /* AHB extension port 2 */
+#define SYS_BLOCKS_AHB2_Msk                      0x00000200u
+#define SYS_BLOCKS_AHB2_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB2_YES                      1u /* there */
+#define SYS_BLOCKS_AHB3_Pos                      10u /* AHB extension port 3 */
+#define SYS_BLOCKS_AHB3_Msk                      0x00000400u
+#define SYS_BLOCKS_AHB3_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB3_YES                      1u /* there */
+#define SYS_BLOCKS_AHB4_Pos                      11u /* AHB extension port 4 */
+#define SYS_BLOCKS_AHB4_Msk                      0x00000800u
+#define SYS_BLOCKS_AHB4_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB4_YES                      1u /* there */
+#define SYS_BLOCKS_AHB5_Pos                      12u /* AHB extension port 5 */
+#define SYS_BLOCKS_AHB5_Msk                      0x00001000u
+#define SYS_BLOCKS_AHB5_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB5_YES                      1u /* there */
+#define SYS_BLOCKS_AHB6_Pos                      13u /* AHB extension port 6 */
+#define SYS_BLOCKS_AHB6_Msk                      0x00002000u
+#define SYS_BLOCKS_AHB6_NO                       0u /* not configured */
+#define SYS_BLOCKS_AHB6_YES                      1u /* there */
+#define SYS_BLOCKS_EXTFLASH_Pos                  14u /* external instruction memory */
+#define SYS_BLOCKS_EXTFLASH_Msk                  0x00004000u
+#define SYS_BLOCKS_EXTFLASH_NO                   0u /* not configured */
+#define SYS_BLOCKS_EXTFLASH_YES                  1u /* there */
+#define SYS_BLOCKS_EXTSRAM_Pos                   15u /* external data memory */
+#define SYS_BLOCKS_EXTSRAM_Msk                   0x00008000u
+#define SYS_BLOCKS_EXTSRAM_NO                    0u /* not configured */
+#define SYS_BLOCKS_EXTSRAM_YES                   1u /* there */
+#define SYS_BLOCKS_TIMER0_Pos                    16u /* TIMER0 */
+#define SYS_BLOCKS_TIMER0_Msk                    0x00010000u
+#define SYS_BLOCKS_TIMER0_NO                     0u /* not configured */
+#define SYS_BLOCKS_TIMER0_YES                    1u /* there */
+#define SYS_BLOCKS_TIMER1_Pos                    17u /* TIMER1 */
+#define SYS_BLOCKS_TIMER1_Msk                    0x00020000u
+#define SYS_BLOCKS_TIMER1_NO                     0u /* not configured */
+#define SYS_BLOCKS_TIMER1_YES                    1u /* there */
+#define SYS_BLOCKS_DTIMER_Pos                    18u /* DTIMER */
+#define SYS_BLOCKS_DTIMER_Msk                    0x00040000u
+#define SYS_BLOCKS_DTIMER_NO                     0u /* not configured */
+#define SYS_BLOCKS_DTIMER_YES                    1u /* there */
+#define SYS_BLOCKS_UART0_Pos                     20u /* UART0 */
+#define SYS_BLOCKS_UART0_Msk                     0x00100000u
+#define SYS_BLOCKS_UART0_NO                      0u /* not configured */
+#define SYS_BLOCKS_UART0_YES                     1u /* there */
+#define SYS_BLOCKS_UART1_Pos                     21u /* UART1 */
+#define SYS_BLOCKS_UART1_Msk                     0x00200000u
+#define SYS_BLOCKS_UART1_NO                      0u /* not configured */
+#define SYS_BLOCKS_UART1_YES                     1u /* there */
+#define SYS_BLOCKS_RTC_Pos                       22u /* RTC */
+#define SYS_BLOCKS_RTC_Msk                       0x00400000u
+#define SYS_BLOCKS_RTC_NO                        0u /* not configured */
+#define SYS_BLOCKS_RTC_YES                       1u /* there */
+#define SYS_BLOCKS_WDOG_Pos                      24u /* WDOG */
+#define SYS_BLOCKS_WDOG_Msk                      0x01000000u
+#define SYS_BLOCKS_WDOG_NO                       0u /* not configured */
+#define SYS_BLOCKS_WDOG_YES                      1u /* there */
+#define SYS_BLOCKS_TRNG_Pos                      26u /* TRNG */
+#define SYS_BLOCKS_TRNG_Msk                      0x04000000u
+#define SYS_BLOCKS_TRNG_NO                       0u /* not configured */
+#define SYS_BLOCKS_TRNG_YES                      1u /* there */
+#define SYS_BLOCKS_I2C_Pos                       28u /* I2C */
+#define SYS_BLOCKS_I2C_Msk                       0x10000000u
+#define SYS_BLOCKS_I2C_NO                        0u /* not configured */
+#define SYS_BLOCKS_I2C_YES                       1u /* there */
+#define SYS_BLOCKS_SPI_Pos                       29u /* SPI */
+#define SYS_BLOCKS_SPI_Msk                       0x20000000u
+#define SYS_BLOCKS_SPI_NO                        0u /* not configured */
+#define SYS_BLOCKS_SPI_YES                       1u /* there */
+#define SYS_BLOCKS_SD_Pos                        30u /* SD */
+#define SYS_BLOCKS_SD_Msk                        0x40000000u
+#define SYS_BLOCKS_SD_NO                         0u /* not configured */
+#define SYS_BLOCKS_SD_YES                        1u /* there */
+#define SYS_BLOCKS_SYS_Pos                       31u /* SYS */
+#define SYS_BLOCKS_SYS_Msk                       0x80000000u
+#define SYS_BLOCKS_SYS_NO                        0u /* not configured */
+#define SYS_BLOCKS_SYS_YES                       1u /* there */
+
+/* Further facts of the configuration. */
+#define SYS_CONFIG_OFFSET                        0x1Cu
+#define SYS_CONFIG_RESET                         0x00000000u
+#define SYS_CONFIG_RESET_MASK                    0xFF000000u /* the bits of which the value after reset is known */
+#define SYS_CONFIG_IRQS_Pos                      0u /* interrupt inputs of the processor */
+#define SYS_CONFIG_IRQS_Msk                      0x000000FFu
+#define SYS_CONFIG_ITCM_Pos                      8u /* size of the instruction memory: 0 for none, 1 for 1 KB, each step doubles it */
+#define SYS_CONFIG_ITCM_Msk                      0x0000FF00u
+#define SYS_CONFIG_DTCM_Pos                      16u /* size of the data memory, in the same way */
+#define SYS_CONFIG_DTCM_Msk                      0x00FF0000u
+
+/* APB extension ports of the configuration. */
+#define SYS_PORTS_OFFSET                         0x20u
+#define SYS_PORTS_RESET                          0x00000000u
+#define SYS_PORTS_RESET_MASK                     0xFFFF0000u /* the bits of which the value after reset is known */
+#define SYS_PORTS_APB_Pos                        0u /* 1 where a port is there: bit 0 for port 1 */
+#define SYS_PORTS_APB_Msk                        0x0000FFFFu
+
+/* What this block is. */
+#define SYS_ID_OFFSET                            0xFFCu
+#define SYS_ID_RESET                             0x0000020Bu
+#define SYS_ID_BLOCK_Pos                         0u /* kind of block */
+#define SYS_ID_BLOCK_Msk                         0x000000FFu
+#define SYS_ID_REVISION_Pos                      8u /* revision of its registers */
+#define SYS_ID_REVISION_Msk                      0x0000FF00u
+
+typedef struct {
+    TARVO_ORIX_M1_RW uint32_t RESETCAUSE; /* 0x00 */
+    TARVO_ORIX_M1_RW uint32_t CTRL; /* 0x04 */
+    TARVO_ORIX_M1_RW uint32_t BUSTIMEOUT; /* 0x08 */
+    TARVO_ORIX_M1_R uint32_t ERRADDR; /* 0x0C */
+    TARVO_ORIX_M1_RW uint32_t ERRINFO; /* 0x10 */
+    TARVO_ORIX_M1_RW uint32_t SCRATCH; /* 0x14 */
+    TARVO_ORIX_M1_R uint32_t BLOCKS; /* 0x18 */
+    TARVO_ORIX_M1_R uint32_t CONFIG; /* 0x1C */
+    TARVO_ORIX_M1_R uint32_t PORTS; /* 0x20 */
+    uint32_t RESERVED0[1014];
+    TARVO_ORIX_M1_R uint32_t ID; /* 0xFFC */
+} SYS_Type;
+
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_RESETCAUSE,
+                     offsetof(SYS_Type, RESETCAUSE) == SYS_RESETCAUSE_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_CTRL,
+                     offsetof(SYS_Type, CTRL) == SYS_CTRL_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_BUSTIMEOUT,
+                     offsetof(SYS_Type, BUSTIMEOUT) == SYS_BUSTIMEOUT_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_ERRADDR,
+                     offsetof(SYS_Type, ERRADDR) == SYS_ERRADDR_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_ERRINFO,
+                     offsetof(SYS_Type, ERRINFO) == SYS_ERRINFO_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_SCRATCH,
+                     offsetof(SYS_Type, SCRATCH) == SYS_SCRATCH_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_BLOCKS,
+                     offsetof(SYS_Type, BLOCKS) == SYS_BLOCKS_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_CONFIG,
+                     offsetof(SYS_Type, CONFIG) == SYS_CONFIG_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_PORTS,
+                     offsetof(SYS_Type, PORTS) == SYS_PORTS_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SYS_Type_ID,
+                     offsetof(SYS_Type, ID) == SYS_ID_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_SYS_Type, sizeof(SYS_Type) == 0x1000u);
+
+#define SYS                                      ((SYS_Type *)(uintptr_t)SYS_BASE)
 
 /* SCS: The processor's own registers: interrupts, exceptions and reset. They are accessed as
  * words. */

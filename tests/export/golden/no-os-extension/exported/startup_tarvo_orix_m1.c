@@ -37,6 +37,7 @@ void _fini(void);
 WEAK_HANDLER(NMI_Handler); /* non-maskable interrupt */
 WEAK_HANDLER(HardFault_Handler); /* every fault */
 WEAK_HANDLER(TIMER0_IRQHandler); /* interrupt 2 */
+WEAK_HANDLER(SYS_IRQHandler); /* interrupt 17 */
 
 /* The processor reads the first word as its stack pointer. */
 struct VectorTable {
@@ -81,7 +82,7 @@ const struct VectorTable vector_table __attribute__((used, section(".vectors")))
         Default_Handler, /* interrupt 14 */
         Default_Handler, /* interrupt 15 */
         Default_Handler, /* interrupt 16 */
-        Default_Handler, /* interrupt 17 */
+        SYS_IRQHandler, /* interrupt 17 */
         Default_Handler, /* interrupt 18 */
         Default_Handler, /* interrupt 19 */
         Default_Handler, /* interrupt 20 */

@@ -64,24 +64,31 @@ typedef enum {
 #define TARVO_ORIX_M1_RW volatile
 
 /* SPIFLASH: Registers beside the read window of 16 MB at 0x68000000, in which a read fetches
- * four bytes from the serial flash with command 0x03, the byte at the lowest address in bits 7
- * to 0. A write in the window, and a read while SELECT is 1, get the error response. The
- * serial clock idles low (mode 0). Bytes and halfwords: a byte is sent only by a write that
- * reaches the lowest byte of DATA. */
+ * four bytes from the serial flash as READ says, the byte at the lowest address in bits 7 to
+ * 0. A write in the window gets the error response, and so does a read while SELECT is 1,
+ * while a command runs, or when READ has no address, no data or four lanes without CTRL.QUAD.
+ * A write of a register first ends what is read ahead and a continuous read; the bus waits
+ * meanwhile. While a command runs, only FIFO and STATUS take writes. The longest wait of the
+ * bus is 80000 clock cycles, with RECOVER 160000; as after a reset, a read takes 290 and the
+ * first one 3000. The serial clock idles low (mode 0). Lanes: 0 MOSI, 1 MISO, 2 WPN, 3 HOLDN;
+ * of 8 bits that use several lanes, the highest are on the highest lane. Bytes and halfwords:
+ * a byte is sent only by a write that reaches the lowest byte of DATA, a command only by one
+ * that reaches the lowest byte of COMMAND. FIFO takes a word from a write that reaches its
+ * lowest byte, with 0 in the bytes beside it, and gives one to a read that begins there. */
 #define SPIFLASH_BASE                            0x69000000u /* commands to the serial flash, such as erasing and programming */
 
 /* Bytes to and from the flash. */
 #define SPIFLASH_DATA_OFFSET                     0x00u
 #define SPIFLASH_DATA_RESET                      0x00000000u
-#define SPIFLASH_DATA_BYTE_Pos                   0u /* write: sends the byte, the bus waits until it is sent; read: the byte received with it */
+#define SPIFLASH_DATA_BYTE_Pos                   0u /* write: sends the byte on lane 0, the bus waits until it is sent; read: the byte received last, on lane 1 together with it, or by the window or a command */
 #define SPIFLASH_DATA_BYTE_Msk                   0x000000FFu
 
-/* Chip select. */
+/* Chip select. A write brings the flash into its first state where RECOVER asks for it. */
 #define SPIFLASH_SELECT_OFFSET                   0x04u
 #define SPIFLASH_SELECT_RESET                    0x00000000u
 #define SPIFLASH_SELECT_CS_Pos                   0u /* 1 holds the chip select low for bytes sent through DATA */
 #define SPIFLASH_SELECT_CS_Msk                   0x00000001u
-#define SPIFLASH_SELECT_CS_HIGH                  0u /* the chip select follows the read window */
+#define SPIFLASH_SELECT_CS_HIGH                  0u /* the chip select follows the read window and commands */
 #define SPIFLASH_SELECT_CS_LOW                   1u /* the chip select is held low */
 
 /* Bit time. */
@@ -93,16 +100,240 @@ typedef enum {
 /* Write protection. */
 #define SPIFLASH_PROTECT_OFFSET                  0x0Cu
 #define SPIFLASH_PROTECT_RESET                   0x00000001u
-#define SPIFLASH_PROTECT_WP_Pos                  0u /* 1 drives the write-protect pin low */
+#define SPIFLASH_PROTECT_WP_Pos                  0u /* 1 drives the write-protect pin low, except while it is a lane */
 #define SPIFLASH_PROTECT_WP_Msk                  0x00000001u
 #define SPIFLASH_PROTECT_WP_OFF                  0u /* the write-protect pin is high */
 #define SPIFLASH_PROTECT_WP_ON                   1u /* the write-protect pin is low */
+
+/* How the window and the pins work. */
+#define SPIFLASH_CTRL_OFFSET                     0x10u
+#define SPIFLASH_CTRL_RESET                      0x00000000u
+#define SPIFLASH_CTRL_PREFETCH_Pos               0u /* 1: the chip select stays low behind a read of the window and following words are read ahead, until the FIFO is full */
+#define SPIFLASH_CTRL_PREFETCH_Msk               0x00000001u
+#define SPIFLASH_CTRL_PREFETCH_OFF               0u /* each read asks the flash */
+#define SPIFLASH_CTRL_PREFETCH_ON                1u /* sequential words come without opcode and address */
+#define SPIFLASH_CTRL_CONTINUOUS_Pos             1u /* 1: reads behind the first one have no opcode; READ needs a mode byte that the flash takes as that, and an address on two or four lanes */
+#define SPIFLASH_CTRL_CONTINUOUS_Msk             0x00000002u
+#define SPIFLASH_CTRL_CONTINUOUS_OFF             0u /* each read begins with the opcode */
+#define SPIFLASH_CTRL_CONTINUOUS_ON              1u /* reads begin with the address */
+#define SPIFLASH_CTRL_QUAD_Pos                   2u /* 1: WPN and HOLDN are lanes where READ or COMMAND says four; the flash must have its quad mode enabled */
+#define SPIFLASH_CTRL_QUAD_Msk                   0x00000004u
+#define SPIFLASH_CTRL_QUAD_OFF                   0u /* four lanes are refused */
+#define SPIFLASH_CTRL_QUAD_ON                    1u /* four lanes are used */
+#define SPIFLASH_CTRL_DELAY_Pos                  4u /* clock cycles between the rising edge of the serial clock and the sample; at most DIV.CYCLES + 1 */
+#define SPIFLASH_CTRL_DELAY_Msk                  0x00000030u
+#define SPIFLASH_CTRL_DELAY_NONE                 0u /* at the edge */
+#define SPIFLASH_CTRL_DELAY_ONE                  1u /* one cycle later */
+#define SPIFLASH_CTRL_DELAY_TWO                  2u /* two cycles later */
+#define SPIFLASH_CTRL_DELAY_THREE                3u /* three cycles later */
+#define SPIFLASH_CTRL_GAP_Pos                    8u /* the chip select is high for at least GAP + 1 periods of the serial clock */
+#define SPIFLASH_CTRL_GAP_Msk                    0x00000700u
+#define SPIFLASH_CTRL_GAP_PERIODS_1              0u /* one period */
+#define SPIFLASH_CTRL_GAP_PERIODS_2              1u /* two periods */
+#define SPIFLASH_CTRL_GAP_PERIODS_3              2u /* three periods */
+#define SPIFLASH_CTRL_GAP_PERIODS_4              3u /* four periods */
+#define SPIFLASH_CTRL_GAP_PERIODS_5              4u /* five periods */
+#define SPIFLASH_CTRL_GAP_PERIODS_6              5u /* six periods */
+#define SPIFLASH_CTRL_GAP_PERIODS_7              6u /* seven periods */
+#define SPIFLASH_CTRL_GAP_PERIODS_8              7u /* eight periods */
+#define SPIFLASH_CTRL_IDLE_Pos                   16u /* with PREFETCH the chip select rises when the FIFO has been full for IDLE times 64 clock cycles; 0: it stays low */
+#define SPIFLASH_CTRL_IDLE_Msk                   0x00FF0000u
+
+/* What a read of the window sends. */
+#define SPIFLASH_READ_OFFSET                     0x14u
+#define SPIFLASH_READ_RESET                      0x00000003u
+#define SPIFLASH_READ_OPCODE_Pos                 0u /* opcode */
+#define SPIFLASH_READ_OPCODE_Msk                 0x000000FFu
+#define SPIFLASH_READ_OPLANES_Pos                8u /* lanes of the opcode */
+#define SPIFLASH_READ_OPLANES_Msk                0x00000300u
+#define SPIFLASH_READ_OPLANES_ONE                0u /* one lane */
+#define SPIFLASH_READ_OPLANES_TWO                1u /* two lanes */
+#define SPIFLASH_READ_OPLANES_FOUR               2u /* four lanes */
+#define SPIFLASH_READ_OPLANES_NONE               3u /* there is none */
+#define SPIFLASH_READ_ADLANES_Pos                10u /* lanes of address and mode byte */
+#define SPIFLASH_READ_ADLANES_Msk                0x00000C00u
+#define SPIFLASH_READ_ADLANES_ONE                0u /* one lane */
+#define SPIFLASH_READ_ADLANES_TWO                1u /* two lanes */
+#define SPIFLASH_READ_ADLANES_FOUR               2u /* four lanes */
+#define SPIFLASH_READ_ADLANES_NONE               3u /* there is none */
+#define SPIFLASH_READ_DALANES_Pos                12u /* lanes of the data */
+#define SPIFLASH_READ_DALANES_Msk                0x00003000u
+#define SPIFLASH_READ_DALANES_ONE                0u /* one lane */
+#define SPIFLASH_READ_DALANES_TWO                1u /* two lanes */
+#define SPIFLASH_READ_DALANES_FOUR               2u /* four lanes */
+#define SPIFLASH_READ_DALANES_NONE               3u /* there are none */
+#define SPIFLASH_READ_ADDR4_Pos                  14u /* bytes of the address */
+#define SPIFLASH_READ_ADDR4_Msk                  0x00004000u
+#define SPIFLASH_READ_ADDR4_THREE                0u /* three bytes */
+#define SPIFLASH_READ_ADDR4_FOUR                 1u /* four bytes, the highest from UPPER */
+#define SPIFLASH_READ_MODEON_Pos                 15u /* whether a mode byte follows the address */
+#define SPIFLASH_READ_MODEON_Msk                 0x00008000u
+#define SPIFLASH_READ_MODEON_OFF                 0u /* none */
+#define SPIFLASH_READ_MODEON_ON                  1u /* MODE */
+#define SPIFLASH_READ_DUMMY_Pos                  16u /* clocks between them and the data */
+#define SPIFLASH_READ_DUMMY_Msk                  0x003F0000u
+#define SPIFLASH_READ_MODE_Pos                   24u /* mode byte */
+#define SPIFLASH_READ_MODE_Msk                   0xFF000000u
+
+/* What lies above the window. */
+#define SPIFLASH_UPPER_OFFSET                    0x18u
+#define SPIFLASH_UPPER_RESET                     0x00000000u
+#define SPIFLASH_UPPER_ADDRESS_Pos               0u /* bits 31 to 24 of addresses of four bytes */
+#define SPIFLASH_UPPER_ADDRESS_Msk               0x000000FFu
+
+/* Address of a command. */
+#define SPIFLASH_ADDRESS_OFFSET                  0x20u
+#define SPIFLASH_ADDRESS_RESET                   0x00000000u
+#define SPIFLASH_ADDRESS_ADDRESS_Pos             0u /* address; the lowest 24 bits without COMMAND.ADDR4 */
+#define SPIFLASH_ADDRESS_ADDRESS_Msk             0xFFFFFFFFu
+
+/* Data of a command. */
+#define SPIFLASH_LENGTH_OFFSET                   0x24u
+#define SPIFLASH_LENGTH_RESET                    0x00000000u
+#define SPIFLASH_LENGTH_BYTES_Pos                0u /* bytes; counts down while they are transferred */
+#define SPIFLASH_LENGTH_BYTES_Msk                0x000001FFu
+
+/* What a command with POLL waits for. */
+#define SPIFLASH_POLL_OFFSET                     0x28u
+#define SPIFLASH_POLL_RESET                      0x00000001u
+#define SPIFLASH_POLL_MASK_Pos                   0u /* bits of a received byte that count */
+#define SPIFLASH_POLL_MASK_Msk                   0x000000FFu
+#define SPIFLASH_POLL_VALUE_Pos                  8u /* how they must be */
+#define SPIFLASH_POLL_VALUE_Msk                  0x0000FF00u
+
+/* What a command does. */
+#define SPIFLASH_STATUS_OFFSET                   0x2Cu
+#define SPIFLASH_STATUS_RESET                    0x00000000u
+#define SPIFLASH_STATUS_BUSY_Pos                 0u /* a command runs */
+#define SPIFLASH_STATUS_BUSY_Msk                 0x00000001u
+#define SPIFLASH_STATUS_BUSY_NO                  0u /* none runs */
+#define SPIFLASH_STATUS_BUSY_YES                 1u /* the flash is selected for one */
+#define SPIFLASH_STATUS_REFUSED_Pos              1u /* a register was written while a command ran, or a command had four lanes without CTRL.QUAD; nothing was done */
+#define SPIFLASH_STATUS_REFUSED_Msk              0x00000002u
+#define SPIFLASH_STATUS_REFUSED_NO               0u /* nothing was refused */
+#define SPIFLASH_STATUS_REFUSED_YES              1u /* something was refused */
+#define SPIFLASH_STATUS_OVERFLOW_Pos             2u /* FIFO was written while it was full; the word is lost */
+#define SPIFLASH_STATUS_OVERFLOW_Msk             0x00000004u
+#define SPIFLASH_STATUS_OVERFLOW_NO              0u /* no word was lost */
+#define SPIFLASH_STATUS_OVERFLOW_YES             1u /* a word was lost */
+#define SPIFLASH_STATUS_UNDERFLOW_Pos            3u /* FIFO was read while it had nothing to give, or while a command sends */
+#define SPIFLASH_STATUS_UNDERFLOW_Msk            0x00000008u
+#define SPIFLASH_STATUS_UNDERFLOW_NO             0u /* all reads got a word */
+#define SPIFLASH_STATUS_UNDERFLOW_YES            1u /* a read got 0 */
+#define SPIFLASH_STATUS_ABORT_Pos                4u /* 1 ends the command at once; what it has received stays in FIFO, what it has not sent is thrown away */
+#define SPIFLASH_STATUS_ABORT_Msk                0x00000010u
+#define SPIFLASH_STATUS_ABORT_NO                 0u /* nothing happens */
+#define SPIFLASH_STATUS_ABORT_END                1u /* ends the command */
+#define SPIFLASH_STATUS_CONTINUES_Pos            5u /* whether the flash is in a continuous read */
+#define SPIFLASH_STATUS_CONTINUES_Msk            0x00000020u
+#define SPIFLASH_STATUS_CONTINUES_NO             0u /* it waits for an opcode */
+#define SPIFLASH_STATUS_CONTINUES_YES            1u /* it waits for an address */
+#define SPIFLASH_STATUS_LEVEL_Pos                8u /* words in FIFO */
+#define SPIFLASH_STATUS_LEVEL_Msk                0x00003F00u
+#define SPIFLASH_STATUS_LEVEL_EMPTY              0u /* no word */
+#define SPIFLASH_STATUS_LEVEL_FULL               8u /* eight words, as many as find room */
+
+/* A write sends opcode, address, mode byte, dummy clocks and data; SELECT becomes 0. Its clock
+ * stops while FIFO has no data or no room. */
+#define SPIFLASH_COMMAND_OFFSET                  0x30u
+#define SPIFLASH_COMMAND_RESET                   0x00000000u
+#define SPIFLASH_COMMAND_OPCODE_Pos              0u /* opcode */
+#define SPIFLASH_COMMAND_OPCODE_Msk              0x000000FFu
+#define SPIFLASH_COMMAND_OPLANES_Pos             8u /* lanes of the opcode */
+#define SPIFLASH_COMMAND_OPLANES_Msk             0x00000300u
+#define SPIFLASH_COMMAND_OPLANES_ONE             0u /* one lane */
+#define SPIFLASH_COMMAND_OPLANES_TWO             1u /* two lanes */
+#define SPIFLASH_COMMAND_OPLANES_FOUR            2u /* four lanes */
+#define SPIFLASH_COMMAND_OPLANES_NONE            3u /* there is none */
+#define SPIFLASH_COMMAND_ADLANES_Pos             10u /* lanes of address and mode byte */
+#define SPIFLASH_COMMAND_ADLANES_Msk             0x00000C00u
+#define SPIFLASH_COMMAND_ADLANES_ONE             0u /* one lane */
+#define SPIFLASH_COMMAND_ADLANES_TWO             1u /* two lanes */
+#define SPIFLASH_COMMAND_ADLANES_FOUR            2u /* four lanes */
+#define SPIFLASH_COMMAND_ADLANES_NONE            3u /* there is none */
+#define SPIFLASH_COMMAND_DALANES_Pos             12u /* lanes of the data */
+#define SPIFLASH_COMMAND_DALANES_Msk             0x00003000u
+#define SPIFLASH_COMMAND_DALANES_ONE             0u /* one lane */
+#define SPIFLASH_COMMAND_DALANES_TWO             1u /* two lanes */
+#define SPIFLASH_COMMAND_DALANES_FOUR            2u /* four lanes */
+#define SPIFLASH_COMMAND_DALANES_NONE            3u /* there are none */
+#define SPIFLASH_COMMAND_ADDR4_Pos               14u /* bytes of the address */
+#define SPIFLASH_COMMAND_ADDR4_Msk               0x00004000u
+#define SPIFLASH_COMMAND_ADDR4_THREE             0u /* three bytes */
+#define SPIFLASH_COMMAND_ADDR4_FOUR              1u /* four bytes */
+#define SPIFLASH_COMMAND_MODEON_Pos              15u /* whether a mode byte follows the address */
+#define SPIFLASH_COMMAND_MODEON_Msk              0x00008000u
+#define SPIFLASH_COMMAND_MODEON_OFF              0u /* none */
+#define SPIFLASH_COMMAND_MODEON_ON               1u /* MODE */
+#define SPIFLASH_COMMAND_DUMMY_Pos               16u /* clocks between them and the data */
+#define SPIFLASH_COMMAND_DUMMY_Msk               0x003F0000u
+#define SPIFLASH_COMMAND_WRITE_Pos               22u /* direction of the data */
+#define SPIFLASH_COMMAND_WRITE_Msk               0x00400000u
+#define SPIFLASH_COMMAND_WRITE_RECEIVE           0u /* from the flash */
+#define SPIFLASH_COMMAND_WRITE_SEND              1u /* to the flash */
+#define SPIFLASH_COMMAND_POLL_Pos                23u /* 1: bytes are received until one is as POLL says; it then stands in DATA, and LENGTH does not count */
+#define SPIFLASH_COMMAND_POLL_Msk                0x00800000u
+#define SPIFLASH_COMMAND_POLL_OFF                0u /* LENGTH bytes */
+#define SPIFLASH_COMMAND_POLL_ON                 1u /* until the status is as wanted */
+#define SPIFLASH_COMMAND_MODE_Pos                24u /* mode byte */
+#define SPIFLASH_COMMAND_MODE_Msk                0xFF000000u
+
+/* Data of a command, four bytes a word, the first one in bits 7 to 0. A read of the window
+ * empties it, and so does the begin of a command that receives. */
+#define SPIFLASH_FIFO_OFFSET                     0x34u
+#define SPIFLASH_FIFO_RESET                      0x00000000u
+#define SPIFLASH_FIFO_WORD_Pos                   0u /* write: appends a word to be sent; read: takes a word that was received */
+#define SPIFLASH_FIFO_WORD_Msk                   0xFFFFFFFFu
+
+/* Brings the flash from whatever it was in before a reset into the state after power-on:
+ * before it is selected for the first time, clocks with all lanes high end continuous reads on
+ * four and on two lanes with addresses of three and of four bytes, and the opcodes 66h and 99h
+ * reset it. That takes 2850 clock cycles as after a reset. */
+#define SPIFLASH_RECOVER_OFFSET                  0x38u
+#define SPIFLASH_RECOVER_RESET                   0x00002003u
+#define SPIFLASH_RECOVER_PENDING_Pos             0u /* 1: done before the next read of the window, command or write of SELECT; becomes 0 then */
+#define SPIFLASH_RECOVER_PENDING_Msk             0x00000001u
+#define SPIFLASH_RECOVER_PENDING_NO              0u /* done, or not wanted */
+#define SPIFLASH_RECOVER_PENDING_YES             1u /* to be done */
+#define SPIFLASH_RECOVER_RESET_Pos               1u /* whether the opcodes are sent, too */
+#define SPIFLASH_RECOVER_RESET_Msk               0x00000002u
+#define SPIFLASH_RECOVER_RESET_OFF               0u /* nothing but clocks */
+#define SPIFLASH_RECOVER_RESET_ON                1u /* 66h and 99h */
+#define SPIFLASH_RECOVER_WAIT_Pos                8u /* what the flash needs for its reset, in 64 clock cycles */
+#define SPIFLASH_RECOVER_WAIT_Msk                0x0000FF00u
+
+/* What this block is. */
+#define SPIFLASH_ID_OFFSET                       0xFFCu
+#define SPIFLASH_ID_RESET                        0x0103020Au
+#define SPIFLASH_ID_BLOCK_Pos                    0u /* kind of block */
+#define SPIFLASH_ID_BLOCK_Msk                    0x000000FFu
+#define SPIFLASH_ID_REVISION_Pos                 8u /* revision of its registers */
+#define SPIFLASH_ID_REVISION_Msk                 0x0000FF00u
+#define SPIFLASH_ID_LOG_DEPTH_Pos                16u /* binary logarithm of the words that FIFO holds */
+#define SPIFLASH_ID_LOG_DEPTH_Msk                0x003F0000u
+#define SPIFLASH_ID_COMMANDS_Pos                 24u /* whether there are commands */
+#define SPIFLASH_ID_COMMANDS_Msk                 0x01000000u
+#define SPIFLASH_ID_COMMANDS_NO                  0u /* the registers from ADDRESS to FIFO read as 0 */
+#define SPIFLASH_ID_COMMANDS_YES                 1u /* as described */
 
 typedef struct {
     TARVO_ORIX_M1_RW uint32_t DATA; /* 0x00 */
     TARVO_ORIX_M1_RW uint32_t SELECT; /* 0x04 */
     TARVO_ORIX_M1_RW uint32_t DIV; /* 0x08 */
     TARVO_ORIX_M1_RW uint32_t PROTECT; /* 0x0C */
+    TARVO_ORIX_M1_RW uint32_t CTRL; /* 0x10 */
+    TARVO_ORIX_M1_RW uint32_t READ; /* 0x14 */
+    TARVO_ORIX_M1_RW uint32_t UPPER; /* 0x18 */
+    uint32_t RESERVED0[1];
+    TARVO_ORIX_M1_RW uint32_t ADDRESS; /* 0x20 */
+    TARVO_ORIX_M1_RW uint32_t LENGTH; /* 0x24 */
+    TARVO_ORIX_M1_RW uint32_t POLL; /* 0x28 */
+    TARVO_ORIX_M1_RW uint32_t STATUS; /* 0x2C */
+    TARVO_ORIX_M1_RW uint32_t COMMAND; /* 0x30 */
+    TARVO_ORIX_M1_RW uint32_t FIFO; /* 0x34 */
+    TARVO_ORIX_M1_RW uint32_t RECOVER; /* 0x38 */
+    uint32_t RESERVED1[1008];
+    TARVO_ORIX_M1_R uint32_t ID; /* 0xFFC */
 } SPIFLASH_Type;
 
 TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_DATA,
@@ -113,7 +344,29 @@ TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_DIV,
                      offsetof(SPIFLASH_Type, DIV) == SPIFLASH_DIV_OFFSET);
 TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_PROTECT,
                      offsetof(SPIFLASH_Type, PROTECT) == SPIFLASH_PROTECT_OFFSET);
-TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_SPIFLASH_Type, sizeof(SPIFLASH_Type) == 0x10u);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_CTRL,
+                     offsetof(SPIFLASH_Type, CTRL) == SPIFLASH_CTRL_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_READ,
+                     offsetof(SPIFLASH_Type, READ) == SPIFLASH_READ_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_UPPER,
+                     offsetof(SPIFLASH_Type, UPPER) == SPIFLASH_UPPER_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_ADDRESS,
+                     offsetof(SPIFLASH_Type, ADDRESS) == SPIFLASH_ADDRESS_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_LENGTH,
+                     offsetof(SPIFLASH_Type, LENGTH) == SPIFLASH_LENGTH_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_POLL,
+                     offsetof(SPIFLASH_Type, POLL) == SPIFLASH_POLL_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_STATUS,
+                     offsetof(SPIFLASH_Type, STATUS) == SPIFLASH_STATUS_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_COMMAND,
+                     offsetof(SPIFLASH_Type, COMMAND) == SPIFLASH_COMMAND_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_FIFO,
+                     offsetof(SPIFLASH_Type, FIFO) == SPIFLASH_FIFO_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_RECOVER,
+                     offsetof(SPIFLASH_Type, RECOVER) == SPIFLASH_RECOVER_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_SPIFLASH_Type_ID,
+                     offsetof(SPIFLASH_Type, ID) == SPIFLASH_ID_OFFSET);
+TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_SPIFLASH_Type, sizeof(SPIFLASH_Type) == 0x1000u);
 
 #define SPIFLASH                                 ((SPIFLASH_Type *)(uintptr_t)SPIFLASH_BASE)
 

@@ -25,8 +25,8 @@ typedef enum {
 
 /*
  * Begins a period of counts (1 to 0xFFFFFFFF) of prescale (1 to DTIMER_PRESCALE_MAX) clock cycles
- * each, with or without an interrupt at its end, and forgets an end that was kept. False, with
- * nothing done: no such period.
+ * each, with or without an interrupt at its end, and forgets what was kept. A compare value that is
+ * set stays. False, with nothing done: no such period.
  */
 bool dtimer_start(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t counts, uint32_t prescale,
                   dtimer_kind kind, bool interrupt);
@@ -34,7 +34,7 @@ bool dtimer_start(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t counts, 
 /* Sets a periodic counter's period from the next end on; counts as for dtimer_start(). */
 bool dtimer_set_period(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t counts);
 
-/* Stops counting and switches the counter's interrupt off; the count stays. */
+/* Stops counting and switches the counter's interrupts and compare value off; the count stays. */
 void dtimer_stop(DTIMER_Type *dtimer, dtimer_counter counter);
 
 /* Whether the counter counts: false after dtimer_stop(), and after the period of DTIMER_ONCE. */
@@ -49,6 +49,20 @@ bool dtimer_take(DTIMER_Type *dtimer, dtimer_counter counter);
 /* Waits for dtimer_take(), looking at most polls times (0 counts as 1); false: the limit was
  * reached. */
 bool dtimer_wait(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t polls);
+
+/*
+ * Has dtimer_take_match() told, with or without an interrupt, each time that left counts are left
+ * before the last one of the period, from the next dtimer_start() on. False, with nothing done: the
+ * counter is running.
+ */
+bool dtimer_set_compare(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t left, bool interrupt);
+
+/* Moves the compare value, also while the counter counts. False, with nothing done: none is set. */
+bool dtimer_move_compare(DTIMER_Type *dtimer, dtimer_counter counter, uint32_t left);
+
+/* Whether the counter has got to the compare value since the last call; also takes its interrupt
+ * back. */
+bool dtimer_take_match(DTIMER_Type *dtimer, dtimer_counter counter);
 
 #ifdef __cplusplus
 }

@@ -1,20 +1,28 @@
 #include "sd.h"
 
-static const uint8_t idle = 0xFFu; /* what the lines hold while nothing is said */
-
-/* Bits of the first byte of an answer. */
-static const uint8_t answer_idle = 0x01u;
-static const uint8_t answer_illegal = 0x04u;
-static const uint8_t answer_none = 0x80u;
+/* Bits of R1. */
+static const uint32_t answer_idle = 0x01u;
 
 static const uint32_t voltage_and_pattern = 0x1AAu; /* 2.7 V to 3.6 V */
 static const uint32_t takes_high_capacity = 0x40000000u;
 static const uint32_t ocr_block_addresses = 0x40000000u;
 static const uint32_t blocks_by_byte = 0x00800000u; /* 4 GB in blocks */
-static const uint8_t block_token = 0xFEu;
+static const uint32_t slow_rate = 400000u;          /* Hz, until the card is initialised */
 
 static const int reset_attempts = 10;
-static const int answer_bytes = 9; /* an answer comes within eight bytes */
+static const uint32_t start_attempts = 2000u; /* more than a second at the slow rate */
+static const uint32_t frame_bytes = 32u;      /* a command with what is around it */
+static const uint32_t most_blocks = 65535u;   /* of one command */
+
+enum { block_words = 128, register_words = 4 };
+
+/* What COMMAND holds beside the number. */
+static const uint32_t answer_1 = SD_COMMAND_RESPONSE_R1 << SD_COMMAND_RESPONSE_Pos;
+static const uint32_t answer_1b = SD_COMMAND_RESPONSE_R1B << SD_COMMAND_RESPONSE_Pos;
+static const uint32_t answer_2 = SD_COMMAND_RESPONSE_R2 << SD_COMMAND_RESPONSE_Pos;
+static const uint32_t answer_more = SD_COMMAND_RESPONSE_R3_R7 << SD_COMMAND_RESPONSE_Pos;
+static const uint32_t reads = SD_COMMAND_DATA_READ << SD_COMMAND_DATA_Pos;
+static const uint32_t writes = SD_COMMAND_DATA_WRITE << SD_COMMAND_DATA_Pos;
 
 static bool has_same_card(const SD_Type *sd)
 {
@@ -30,151 +38,94 @@ static void set_ctrl(SD_Type *sd, uint32_t value)
         sd->CTRL = value & ~SD_CTRL_INIT_Msk;
 }
 
-static bool wait_while_busy(const SD_Type *sd, uint32_t polls)
+/* How often the status may be looked at until so many bytes have passed, and what the card is given
+ * to answer. */
+static uint32_t limit_of(const sd_card *card, uint32_t bytes)
 {
-    do {
-        if ((sd->STATUS & SD_STATUS_BUSY_Msk) == 0u)
-            return true;
-    } while (polls-- > 1u);
-    return false;
+    const uint32_t all = card->tries > 0xFFFF0000u ? card->tries : card->tries + bytes;
+    const uint32_t polls = card->polls == 0u ? 1u : card->polls;
+    return polls > 0xFFFFFFFFu / all ? 0xFFFFFFFFu : polls * all;
 }
 
-static sd_result exchange(SD_Type *sd, const sd_card *card, uint8_t byte, uint8_t *received)
+static sd_result meaning_of(uint32_t errors)
 {
-    if (!wait_while_busy(sd, card->polls)) /* one that an earlier call gave up on */
-        return SD_ERROR_TIMEOUT;
-    sd->DATA = byte;
-    if (!wait_while_busy(sd, card->polls))
-        return SD_ERROR_TIMEOUT;
-    *received = (uint8_t)(sd->DATA & SD_DATA_BYTE_Msk);
-    return SD_OK;
-}
-
-static sd_result send(SD_Type *sd, const sd_card *card, uint8_t byte)
-{
-    uint8_t dropped;
-    return exchange(sd, card, byte, &dropped);
-}
-
-static sd_result receive(SD_Type *sd, const sd_card *card, uint8_t *data, size_t size)
-{
-    sd_result result = SD_OK;
+    static const struct {
+        uint32_t errors;
+        sd_result result;
+    } meanings[] = {
+        {SD_ERRORS_NOCARD_Msk, SD_ERROR_NO_CARD},
+        {SD_ERRORS_NOCLOCK_Msk, SD_ERROR_NO_CLOCK},
+        {SD_ERRORS_REFUSED_Msk | SD_ERRORS_ABORTED_Msk, SD_ERROR_TIMEOUT},
+        {SD_ERRORS_CMDCRC_Msk | SD_ERRORS_DATACRC_Msk | SD_ERRORS_REJECTED_Msk, SD_ERROR_CHECKSUM},
+        {SD_ERRORS_ILLEGAL_Msk | SD_ERRORS_R1ERROR_Msk, SD_ERROR_REFUSED},
+        {SD_ERRORS_ERRORTOKEN_Msk | SD_ERRORS_NOTWRITTEN_Msk, SD_ERROR_DATA},
+        {SD_ERRORS_NOTOKEN_Msk, SD_ERROR_NO_BLOCK},
+        {SD_ERRORS_STAYSBUSY_Msk, SD_ERROR_BUSY},
+        {SD_ERRORS_NORESPONSE_Msk | SD_ERRORS_BADVERDICT_Msk, SD_ERROR_NO_RESPONSE},
+    };
     size_t i;
-    for (i = 0u; i < size && result == SD_OK; ++i)
-        result = exchange(sd, card, idle, &data[i]);
-    return result;
-}
-
-/* The card lets the line go one byte after it is no longer selected. */
-static sd_result release(SD_Type *sd, const sd_card *card, sd_result result)
-{
-    sd_result released;
-    set_ctrl(sd, sd->CTRL & ~SD_CTRL_SELECT_Msk);
-    released = send(sd, card, idle);
-    return result != SD_OK ? result : released;
-}
-
-/* The card's byte other than idle (or, with busy, than 0), within the limit. */
-static sd_result wait_for_card(SD_Type *sd, const sd_card *card, bool busy, uint8_t *byte)
-{
-    uint32_t tries = card->tries;
-    do {
-        const sd_result result = exchange(sd, card, idle, byte);
-        if (result != SD_OK)
-            return result;
-        if (busy ? *byte == idle : *byte != idle)
-            return SD_OK;
-    } while (tries-- > 1u);
-    return SD_ERROR_TIMEOUT;
-}
-
-/* Selects the card and sends a command; *answer is the first byte of the card's answer. The card
- * stays selected. */
-static sd_result command(SD_Type *sd, const sd_card *card, uint8_t number, uint32_t argument,
-                         uint8_t *answer)
-{
-    uint8_t frame[6];
-    sd_result result;
-    int i;
-    frame[0] = (uint8_t)(0x40u | number);
-    frame[1] = (uint8_t)((argument >> 24) & 0xFFu);
-    frame[2] = (uint8_t)((argument >> 16) & 0xFFu);
-    frame[3] = (uint8_t)((argument >> 8) & 0xFFu);
-    frame[4] = (uint8_t)(argument & 0xFFu);
-    frame[5] = (uint8_t)(((uint32_t)sd_crc7(frame, 5u) << 1) | 1u);
-    if (!wait_while_busy(sd, card->polls)) /* within a byte the card would lose its place */
-        return SD_ERROR_TIMEOUT;
-    set_ctrl(sd, sd->CTRL | SD_CTRL_SELECT_Msk);
-    result = wait_for_card(sd, card, true, answer);
-    if (result != SD_OK && number == 0u) /* a reset is for a card in any state */
-        result = SD_OK;
-    for (i = 0; i < 6 && result == SD_OK; ++i)
-        result = send(sd, card, frame[i]);
-    if (result != SD_OK)
-        return result;
-    for (i = 0; i < answer_bytes; ++i) {
-        result = exchange(sd, card, idle, answer);
-        if (result != SD_OK)
-            return result;
-        if ((*answer & answer_none) == 0u)
-            return SD_OK;
+    for (i = 0u; i < sizeof meanings / sizeof meanings[0]; ++i) {
+        if ((errors & meanings[i].errors) != 0u)
+            return meanings[i].result;
     }
-    return SD_ERROR_TIMEOUT;
-}
-
-/* The same with the four bytes that follow some answers, and the card released. */
-static sd_result whole_command(SD_Type *sd, const sd_card *card, uint8_t number, uint32_t argument,
-                               uint8_t *answer, uint8_t *more, size_t more_size)
-{
-    sd_result result = command(sd, card, number, argument, answer);
-    if (result == SD_OK && (*answer & answer_illegal) == 0u)
-        result = receive(sd, card, more, more_size);
-    return release(sd, card, result);
-}
-
-/* CMD0 until the card is idle: a card that was in the middle of something needs more than one. */
-static sd_result reset(SD_Type *sd, const sd_card *card)
-{
-    sd_result result = SD_ERROR_TIMEOUT;
-    uint8_t answer = 0u;
-    int i;
-    for (i = 0; i < reset_attempts; ++i) {
-        result = whole_command(sd, card, 0u, 0u, &answer, NULL, 0u);
-        if (result == SD_OK && answer == answer_idle)
-            return SD_OK;
-    }
-    return result == SD_OK ? SD_ERROR_REFUSED : result;
-}
-
-/* ACMD41 until the card is no longer idle. */
-static sd_result start(SD_Type *sd, const sd_card *card, uint32_t argument)
-{
-    uint32_t tries = card->tries;
-    uint8_t answer;
-    do {
-        sd_result result = whole_command(sd, card, 55u, 0u, &answer, NULL, 0u);
-        if (result == SD_OK && (answer & (uint8_t)~answer_idle) == 0u)
-            result = whole_command(sd, card, 41u, argument, &answer, NULL, 0u);
-        if (result != SD_OK)
-            return result;
-        if (answer == 0u)
-            return SD_OK;
-        if (answer != answer_idle)
-            return SD_ERROR_REFUSED;
-    } while (tries-- > 1u);
-    return SD_ERROR_TIMEOUT;
-}
-
-/* Where a block lies, as the card counts. */
-static sd_result address_of(const SD_Type *sd, const sd_card *card, uint32_t block,
-                            uint32_t *address)
-{
-    if (!has_same_card(sd) || (sd->CTRL & SD_CTRL_INIT_Msk) == 0u)
-        return SD_ERROR_NO_CARD;
-    if (!card->is_addressed_by_block && block >= blocks_by_byte)
-        return SD_ERROR_RANGE;
-    *address = card->is_addressed_by_block ? block : block * SD_BLOCK_SIZE;
     return SD_OK;
+}
+
+/* Ends what runs, and forgets its words. */
+static void give_up(SD_Type *sd)
+{
+    sd->ACTION = SD_ACTION_ABORT_Msk | SD_ACTION_CLEAR_Msk;
+}
+
+static sd_result begin(SD_Type *sd, const sd_card *card, uint32_t command, uint32_t argument)
+{
+    uint32_t limit = limit_of(card, frame_bytes);
+    while ((sd->STATUS & SD_STATUS_BUSY_Msk) != 0u) { /* of somebody else */
+        if (limit-- <= 1u)
+            return SD_ERROR_TIMEOUT;
+    }
+    sd->ERRORS = 0xFFFFFFFFu;
+    sd->EVENTS = SD_EVENTS_DONE_Msk | SD_EVENTS_BLOCK_Msk;
+    sd->ARGUMENT = argument;
+    sd->COMMAND = command;
+    return SD_OK;
+}
+
+static sd_result end(SD_Type *sd, sd_card *card, uint32_t bytes)
+{
+    uint32_t limit = limit_of(card, bytes);
+    uint32_t errors;
+    bool gave_up = false;
+    while ((sd->EVENTS & SD_EVENTS_DONE_Msk) == 0u) {
+        if (limit-- <= 1u) {
+            give_up(sd);
+            gave_up = true;
+            break;
+        }
+    }
+    card->response = sd->RESPONSE;
+    errors = sd->ERRORS & ~(SD_ERRORS_UNDER_Msk | SD_ERRORS_OVER_Msk);
+    if (errors != 0u)
+        card->errors = errors;
+    return gave_up ? SD_ERROR_TIMEOUT : meaning_of(errors);
+}
+
+/* A command without blocks. */
+static sd_result command(SD_Type *sd, sd_card *card, uint32_t number, uint32_t argument)
+{
+    const sd_result result = begin(sd, card, number, argument);
+    return result != SD_OK ? result : end(sd, card, frame_bytes);
+}
+
+/* R1 of the last command. */
+static uint32_t answer_of(const sd_card *card)
+{
+    return card->response & SD_RESPONSE_R1_Msk;
+}
+
+static bool is_illegal(const sd_card *card)
+{
+    return (card->errors & SD_ERRORS_ILLEGAL_Msk) != 0u;
 }
 
 /* An error of a card that is gone is no error of the card. */
@@ -183,58 +134,82 @@ static sd_result judged(const SD_Type *sd, sd_result result)
     return result != SD_OK && !has_same_card(sd) ? SD_ERROR_NO_CARD : result;
 }
 
-bool sd_is_present(const SD_Type *sd)
+/* ---- initialisation */
+
+/* CMD0 until the card is idle: a card that was in the middle of something needs more than one. */
+static sd_result reset(SD_Type *sd, sd_card *card)
 {
-    return (sd->STATUS & SD_STATUS_CARD_Msk) != 0u;
+    sd_result result = SD_ERROR_TIMEOUT;
+    int i;
+    for (i = 0; i < reset_attempts; ++i) {
+        result = command(sd, card, answer_1 | 0u, 0u);
+        if (result == SD_OK && answer_of(card) == answer_idle)
+            return SD_OK;
+        if (result == SD_ERROR_NO_CARD || result == SD_ERROR_NO_CLOCK)
+            return result;
+    }
+    return result == SD_OK ? SD_ERROR_REFUSED : result;
 }
 
-static sd_result init_card(SD_Type *sd, sd_card *card)
+/* ACMD41 until the card is no longer idle. */
+static sd_result start(SD_Type *sd, sd_card *card, uint32_t argument, uint32_t attempts)
 {
-    uint8_t answer = 0u;
-    uint8_t more[4] = {0u, 0u, 0u, 0u};
+    do {
+        sd_result result = command(sd, card, answer_1 | 55u, 0u);
+        if (result == SD_OK)
+            result = command(sd, card, answer_1 | 41u, argument);
+        if (result != SD_OK)
+            return result;
+        if ((answer_of(card) & answer_idle) == 0u)
+            return SD_OK;
+    } while (attempts-- > 1u);
+    return SD_ERROR_TIMEOUT;
+}
+
+static sd_result init_card(SD_Type *sd, sd_card *card, uint32_t attempts)
+{
     bool is_version_2;
-    sd_result result = SD_OK;
-    int i;
-    for (i = 0; i < 10 && result == SD_OK; ++i) /* at least 74 periods, not selected */
-        result = send(sd, card, idle);
+    sd_result result = command(sd, card, SD_COMMAND_WAKE_Msk, 0u);
     if (result == SD_OK)
         result = reset(sd, card);
-    if (result == SD_OK)
-        result = whole_command(sd, card, 8u, voltage_and_pattern, &answer, more, sizeof more);
     if (result != SD_OK)
         return result;
-    is_version_2 = (answer & answer_illegal) == 0u;
-    if (is_version_2 && ((more[2] & 0x0Fu) != (voltage_and_pattern >> 8) ||
-                         more[3] != (voltage_and_pattern & 0xFFu)))
+    card->errors = 0u;
+    result = command(sd, card, answer_more | 8u, voltage_and_pattern);
+    is_version_2 = result == SD_OK;
+    if (!is_version_2 && !is_illegal(card))
+        return result;
+    card->errors = 0u;
+    if (is_version_2 && (sd->VALUE & 0xFFFu) != voltage_and_pattern)
         return SD_ERROR_REFUSED;
-    result = start(sd, card, is_version_2 ? takes_high_capacity : 0u);
+    result = start(sd, card, is_version_2 ? takes_high_capacity : 0u, attempts);
     if (result == SD_OK)
-        result = whole_command(sd, card, 58u, 0u, &answer, more, sizeof more);
+        result = command(sd, card, answer_more | 58u, 0u);
     if (result != SD_OK)
         return result;
-    if (answer != 0u)
-        return SD_ERROR_REFUSED;
-    card->is_addressed_by_block =
-        is_version_2 && (((uint32_t)more[0] << 24) & ocr_block_addresses) != 0u;
-    if (!card->is_addressed_by_block) {
-        result = whole_command(sd, card, 16u, SD_BLOCK_SIZE, &answer, NULL, 0u);
-        if (result == SD_OK && answer != 0u)
-            return SD_ERROR_REFUSED;
-    }
+    card->is_addressed_by_block = is_version_2 && (sd->VALUE & ocr_block_addresses) != 0u;
+    if (!card->is_addressed_by_block)
+        result = command(sd, card, answer_1 | 16u, SD_BLOCK_SIZE);
     return result;
 }
 
-sd_result sd_init(SD_Type *sd, sd_card *card, uint32_t polls, uint32_t tries)
+/* Makes a card's record, and the block ready for its first command. */
+static sd_result prepare(SD_Type *sd, sd_card *card, uint32_t polls, uint32_t tries)
 {
-    sd_result result;
     card->polls = polls;
     card->tries = tries;
     card->is_addressed_by_block = false;
+    card->errors = 0u;
+    card->response = 0u;
+    card->moved = 0u;
+    give_up(sd);
     sd->CTRL = sd->CTRL & SD_CTRL_CARDIE_Msk;
     sd->STATUS = SD_STATUS_DONE_Msk | SD_STATUS_LOST_Msk | SD_STATUS_CHANGED_Msk;
-    if (!sd_is_present(sd))
-        return SD_ERROR_NO_CARD;
-    result = init_card(sd, card);
+    return sd_is_present(sd) ? SD_OK : SD_ERROR_NO_CARD;
+}
+
+static sd_result initialised(SD_Type *sd, sd_result result)
+{
     if (result == SD_OK) {
         set_ctrl(sd, sd->CTRL | SD_CTRL_INIT_Msk);
         if (!has_same_card(sd))
@@ -243,88 +218,275 @@ sd_result sd_init(SD_Type *sd, sd_card *card, uint32_t polls, uint32_t tries)
     return judged(sd, result);
 }
 
-sd_result sd_check_crc(SD_Type *sd, const sd_card *card, bool checked)
+sd_result sd_init(SD_Type *sd, sd_card *card, uint32_t polls, uint32_t tries)
 {
-    uint8_t answer;
-    uint32_t address;
-    sd_result result = address_of(sd, card, 0u, &address);
+    sd_result result = prepare(sd, card, polls, tries);
     if (result != SD_OK)
         return result;
-    result = whole_command(sd, card, 59u, checked ? 1u : 0u, &answer, NULL, 0u);
-    if (result == SD_OK && answer != 0u)
-        result = SD_ERROR_REFUSED;
-    return judged(sd, result);
+    sd->CLOCK = sd->CLOCK & SD_CLOCK_FILTER_Msk;
+    return initialised(sd, init_card(sd, card, tries));
 }
 
-static sd_result read_selected(SD_Type *sd, const sd_card *card, uint32_t address, uint8_t *data)
+/* CLOCK for the highest rate that is not above a wish; false if there is none. */
+static bool clock_for(uint32_t clock_hz, uint32_t sclk_hz, uint32_t *value)
 {
-    uint8_t byte;
-    uint8_t crc[2];
-    sd_result result = command(sd, card, 17u, address, &byte);
-    if (result == SD_OK && byte != 0u)
-        result = SD_ERROR_REFUSED;
-    if (result == SD_OK)
-        result = wait_for_card(sd, card, false, &byte);
-    if (result == SD_OK && byte != block_token)
-        result = SD_ERROR_DATA;
-    if (result == SD_OK)
-        result = receive(sd, card, data, SD_BLOCK_SIZE);
-    if (result == SD_OK)
-        result = receive(sd, card, crc, sizeof crc);
-    if (result == SD_OK && sd_crc16(data, SD_BLOCK_SIZE) != (((uint32_t)crc[0] << 8) | crc[1]))
-        result = SD_ERROR_CHECKSUM;
-    return result;
+    uint32_t halves = 1u;
+    if (clock_hz == 0u || sclk_hz == 0u)
+        return false;
+    if (sclk_hz <= (clock_hz - 1u) / 2u)
+        halves = (clock_hz - 1u) / (2u * sclk_hz) + 1u;
+    *value = ((halves - 1u) << SD_CLOCK_DIV_Pos) | (SD_CLOCK_SOURCE_PCLK << SD_CLOCK_SOURCE_Pos);
+    return halves - 1u <= SD_CLOCK_DIV_Msk >> SD_CLOCK_DIV_Pos;
 }
 
-sd_result sd_read_block(SD_Type *sd, const sd_card *card, uint32_t block, uint8_t *data)
+uint32_t sd_rate(const SD_Type *sd, uint32_t clock_hz)
 {
-    uint32_t address;
-    const sd_result result = address_of(sd, card, block, &address);
+    const uint32_t value = sd->CLOCK;
+    if ((value & SD_CLOCK_SOURCE_Msk) == 0u)
+        return 0u;
+    return clock_hz / (2u * (((value & SD_CLOCK_DIV_Msk) >> SD_CLOCK_DIV_Pos) + 1u));
+}
+
+/* Goes over to a rate, with the limits that belong to it: a byte takes 16 * (DIV + 1) cycles, and a
+ * look at the status more than four; the card gets two seconds to answer. */
+static void set_clock(SD_Type *sd, sd_card *card, uint32_t clock_hz, uint32_t value)
+{
+    sd->CLOCK = (sd->CLOCK & SD_CLOCK_FILTER_Msk) | value;
+    card->polls = 4u * (((value & SD_CLOCK_DIV_Msk) >> SD_CLOCK_DIV_Pos) + 2u);
+    card->tries = sd_rate(sd, clock_hz) / 4u;
+}
+
+sd_result sd_open(SD_Type *sd, sd_card *card, uint32_t clock_hz, uint32_t sclk_hz)
+{
+    const uint32_t tenth = clock_hz / 10240u; /* of a second in units of TIMEOUT */
+    const uint32_t busy = tenth < 65535u / 6u ? 6u * tenth : 65535u;
+    uint32_t slow, fast;
+    sd_result result;
+    if (!clock_for(clock_hz, slow_rate < sclk_hz ? slow_rate : sclk_hz, &slow) ||
+        !clock_for(clock_hz, sclk_hz, &fast))
+        return SD_ERROR_RANGE;
+    result = prepare(sd, card, 0u, 0u);
     if (result != SD_OK)
         return result;
-    return judged(sd, release(sd, card, read_selected(sd, card, address, data)));
+    set_clock(sd, card, clock_hz, slow);
+    sd->TIMEOUT = ((tenth < 32767u ? 2u * tenth : 65535u) << SD_TIMEOUT_TOKEN_Pos) |
+                  (busy << SD_TIMEOUT_BUSY_Pos);
+    result = init_card(sd, card, start_attempts);
+    if (result == SD_OK)
+        set_clock(sd, card, clock_hz, fast);
+    return initialised(sd, result);
 }
 
-static sd_result write_selected(SD_Type *sd, const sd_card *card, uint32_t address,
-                                const uint8_t *data)
+bool sd_is_present(const SD_Type *sd)
 {
-    const uint32_t crc = sd_crc16(data, SD_BLOCK_SIZE);
-    uint8_t byte;
-    size_t i;
-    sd_result result = command(sd, card, 24u, address, &byte);
-    if (result == SD_OK && byte != 0u)
-        result = SD_ERROR_REFUSED;
-    if (result == SD_OK)
-        result = send(sd, card, idle);
-    if (result == SD_OK)
-        result = send(sd, card, block_token);
-    for (i = 0u; i < SD_BLOCK_SIZE && result == SD_OK; ++i)
-        result = send(sd, card, data[i]);
-    if (result == SD_OK)
-        result = send(sd, card, (uint8_t)(crc >> 8));
-    if (result == SD_OK)
-        result = send(sd, card, (uint8_t)(crc & 0xFFu));
-    if (result == SD_OK)
-        result = wait_for_card(sd, card, false, &byte);
-    if (result != SD_OK)
-        return result;
-    switch (byte & 0x1Fu) { /* the card says what it makes of the block */
-    case 0x05u:
-        return wait_for_card(sd, card, true, &byte);
-    case 0x0Bu:
-        return SD_ERROR_CHECKSUM;
-    default:
-        return SD_ERROR_DATA;
+    return (sd->STATUS & SD_STATUS_CARD_Msk) != 0u;
+}
+
+/* ---- blocks */
+
+static bool is_initialised(const SD_Type *sd)
+{
+    return has_same_card(sd) && (sd->CTRL & SD_CTRL_INIT_Msk) != 0u;
+}
+
+/* Where blocks lie, as the card counts. */
+static sd_result address_of(const SD_Type *sd, const sd_card *card, uint32_t block, uint32_t count,
+                            uint32_t *address)
+{
+    const uint32_t end_of_card = card->is_addressed_by_block ? 0xFFFFFFFFu : blocks_by_byte;
+    if (!is_initialised(sd))
+        return SD_ERROR_NO_CARD;
+    if (block >= end_of_card || count > end_of_card - block)
+        return SD_ERROR_RANGE;
+    *address = card->is_addressed_by_block ? block : block * SD_BLOCK_SIZE;
+    return SD_OK;
+}
+
+/* Waits until the bits of EVENTS are there, or the command has ended. */
+static bool wait_for_event(const SD_Type *sd, uint32_t events, uint32_t limit)
+{
+    uint32_t now;
+    do {
+        now = sd->EVENTS;
+        if ((now & (events | SD_EVENTS_DONE_Msk)) != 0u)
+            return (now & events) != 0u;
+    } while (limit-- > 1u);
+    return false;
+}
+
+/* Waits until more blocks than so many have come, or the command has ended. */
+static bool wait_for_block(const SD_Type *sd, uint32_t before, uint32_t limit)
+{
+    bool has_ended;
+    do {
+        has_ended = (sd->EVENTS & SD_EVENTS_DONE_Msk) != 0u;
+        if ((sd->PROGRESS & SD_PROGRESS_MOVED_Msk) > before)
+            return true;
+    } while (!has_ended && limit-- > 1u);
+    return false;
+}
+
+static void take_words(SD_Type *sd, uint8_t *data, int words)
+{
+    for (; words > 0; --words, data += 4) {
+        const uint32_t word = sd->BUFFER;
+        data[0] = (uint8_t)(word & 0xFFu);
+        data[1] = (uint8_t)((word >> 8) & 0xFFu);
+        data[2] = (uint8_t)((word >> 16) & 0xFFu);
+        data[3] = (uint8_t)(word >> 24);
     }
 }
 
-sd_result sd_write_block(SD_Type *sd, const sd_card *card, uint32_t block, const uint8_t *data)
+static void give_words(SD_Type *sd, const uint8_t *data, int words)
 {
-    uint32_t address;
-    const sd_result result = address_of(sd, card, block, &address);
+    for (; words > 0; --words, data += 4)
+        sd->BUFFER =
+            data[0] | (uint32_t)data[1] << 8 | (uint32_t)data[2] << 16 | (uint32_t)data[3] << 24;
+}
+
+/* Reads blocks with one command. */
+static sd_result read_some(SD_Type *sd, sd_card *card, uint32_t number, uint32_t argument,
+                           uint32_t count, int words, uint8_t *data)
+{
+    const uint32_t bytes = frame_bytes + 4u * (uint32_t)words;
+    uint32_t i;
+    sd_result result;
+    sd->ACTION = SD_ACTION_CLEAR_Msk;
+    sd->BLOCKS = (count << SD_BLOCKS_COUNT_Pos) | ((uint32_t)words << SD_BLOCKS_WORDS_Pos);
+    result = begin(sd, card, answer_1 | reads | SD_COMMAND_WAIT_Msk | number, argument);
     if (result != SD_OK)
         return result;
-    return judged(sd, release(sd, card, write_selected(sd, card, address, data)));
+    for (i = 0u; i < count && wait_for_block(sd, i, limit_of(card, bytes)); ++i)
+        take_words(sd, &data[i * 4u * (uint32_t)words], words);
+    card->moved += i;
+    if (i < count && (sd->EVENTS & SD_EVENTS_DONE_Msk) == 0u)
+        give_up(sd);
+    result = end(sd, card, bytes);
+    if (result == SD_ERROR_TIMEOUT && count > 1u)
+        (void)command(sd, card, answer_1b | 12u, 0u); /* the card goes on sending else */
+    return result;
+}
+
+static sd_result write_some(SD_Type *sd, sd_card *card, uint32_t number, uint32_t argument,
+                            uint32_t count, const uint8_t *data)
+{
+    uint32_t i;
+    sd_result result;
+    sd->ACTION = SD_ACTION_CLEAR_Msk;
+    sd->BLOCKS = (count << SD_BLOCKS_COUNT_Pos) | ((uint32_t)block_words << SD_BLOCKS_WORDS_Pos);
+    give_words(sd, data, block_words);
+    result = begin(sd, card, answer_1 | writes | SD_COMMAND_WAIT_Msk | number, argument);
+    if (result != SD_OK)
+        return result;
+    for (i = 1u; i < count; ++i) {
+        if (!wait_for_event(sd, SD_EVENTS_WRITABLE_Msk,
+                            limit_of(card, frame_bytes + SD_BLOCK_SIZE)))
+            break;
+        give_words(sd, &data[i * SD_BLOCK_SIZE], block_words);
+    }
+    if (i < count && (sd->EVENTS & SD_EVENTS_DONE_Msk) == 0u)
+        give_up(sd);
+    result = end(sd, card, frame_bytes + 2u * SD_BLOCK_SIZE);
+    card->moved += (sd->PROGRESS & SD_PROGRESS_MOVED_Msk) >> SD_PROGRESS_MOVED_Pos;
+    sd->ACTION = SD_ACTION_CLEAR_Msk; /* of what the card did not take */
+    return result;
+}
+
+/* Blocks in as many commands as it takes, to `into` or from `from`. */
+static sd_result move(SD_Type *sd, sd_card *card, uint32_t block, uint32_t count, uint8_t *into,
+                      const uint8_t *from)
+{
+    uint32_t address;
+    sd_result result = address_of(sd, card, block, count, &address);
+    card->moved = 0u;
+    while (result == SD_OK && count > 0u) {
+        const uint32_t some = count < most_blocks ? count : most_blocks;
+        const uint32_t several = some > 1u ? SD_COMMAND_MULTI_Msk | 1u : 0u; /* the next number */
+        if (into != NULL) {
+            result = read_some(sd, card, 17u + several, address, some, block_words, into);
+            into += some * SD_BLOCK_SIZE;
+        } else {
+            result = write_some(sd, card, 24u + several, address, some, from);
+            from += some * SD_BLOCK_SIZE;
+        }
+        address += card->is_addressed_by_block ? some : some * SD_BLOCK_SIZE;
+        count -= some;
+    }
+    return judged(sd, result);
+}
+
+sd_result sd_read_block(SD_Type *sd, sd_card *card, uint32_t block, uint8_t *data)
+{
+    return move(sd, card, block, 1u, data, NULL);
+}
+
+sd_result sd_write_block(SD_Type *sd, sd_card *card, uint32_t block, const uint8_t *data)
+{
+    return move(sd, card, block, 1u, NULL, data);
+}
+
+sd_result sd_read_blocks(SD_Type *sd, sd_card *card, uint32_t block, uint32_t count, uint8_t *data)
+{
+    return move(sd, card, block, count, data, NULL);
+}
+
+sd_result sd_write_blocks(SD_Type *sd, sd_card *card, uint32_t block, uint32_t count,
+                          const uint8_t *data)
+{
+    return move(sd, card, block, count, NULL, data);
+}
+
+static sd_result read_register(SD_Type *sd, sd_card *card, uint32_t number, uint8_t *data)
+{
+    card->moved = 0u;
+    if (!is_initialised(sd))
+        return SD_ERROR_NO_CARD;
+    return judged(sd, read_some(sd, card, number, 0u, 1u, register_words, data));
+}
+
+sd_result sd_read_csd(SD_Type *sd, sd_card *card, uint8_t *csd)
+{
+    return read_register(sd, card, 9u, csd);
+}
+
+sd_result sd_read_cid(SD_Type *sd, sd_card *card, uint8_t *cid)
+{
+    return read_register(sd, card, 10u, cid);
+}
+
+uint32_t sd_blocks(const uint8_t *csd)
+{
+    switch (csd[0] >> 6) {
+    case 0: { /* (C_SIZE + 1) * 2^(C_SIZE_MULT + 2) blocks of 2^READ_BL_LEN bytes */
+        const uint32_t size = (csd[6] & 3u) << 10 | (uint32_t)csd[7] << 2 | csd[8] >> 6;
+        const uint32_t factor = (csd[9] & 3u) << 1 | csd[10] >> 7;
+        const uint32_t length = csd[5] & 15u;
+        return length < 9u ? 0u : (size + 1u) << (factor + 2u + length - 9u);
+    }
+    case 1: /* units of 512 KB */
+        return (((csd[7] & 0x3Fu) << 16 | (uint32_t)csd[8] << 8 | csd[9]) + 1u) << 10;
+    default:
+        return 0u;
+    }
+}
+
+/* ---- the rest */
+
+sd_result sd_check_crc(SD_Type *sd, sd_card *card, bool checked)
+{
+    if (!is_initialised(sd))
+        return SD_ERROR_NO_CARD;
+    return judged(sd, command(sd, card, answer_1 | SD_COMMAND_WAIT_Msk | 59u, checked ? 1u : 0u));
+}
+
+sd_result sd_status(SD_Type *sd, sd_card *card, uint32_t *status)
+{
+    sd_result result;
+    if (!is_initialised(sd))
+        return SD_ERROR_NO_CARD;
+    result = command(sd, card, answer_2 | SD_COMMAND_WAIT_Msk | 13u, 0u);
+    *status = answer_of(card) << 8 | (sd->VALUE & 0xFFu);
+    return judged(sd, result);
 }
 
 uint32_t sd_take_errors(SD_Type *sd)
@@ -336,12 +498,29 @@ uint32_t sd_take_errors(SD_Type *sd)
     return errors;
 }
 
-void sd_enable_card_interrupt(SD_Type *sd, bool enabled)
+void sd_enable_card_interrupt(SD_Type *sd, bool on)
 {
-    if (enabled)
+    if (on)
         set_ctrl(sd, sd->CTRL | SD_CTRL_CARDIE_Msk);
     else
         set_ctrl(sd, sd->CTRL & ~SD_CTRL_CARDIE_Msk);
+}
+
+void sd_enable_interrupts(SD_Type *sd, uint32_t events)
+{
+    sd->ENABLE = sd->ENABLE | events;
+}
+
+void sd_disable_interrupts(SD_Type *sd, uint32_t events)
+{
+    sd->ENABLE = sd->ENABLE & ~events;
+}
+
+uint32_t sd_take_events(SD_Type *sd)
+{
+    const uint32_t events = sd->EVENTS & (SD_EVENTS_INSERTED_Msk | SD_EVENTS_REMOVED_Msk);
+    sd->EVENTS = events;
+    return events;
 }
 
 uint8_t sd_crc7(const uint8_t *data, size_t size)

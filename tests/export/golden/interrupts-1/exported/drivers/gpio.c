@@ -25,18 +25,45 @@ void gpio_clear(GPIO_Type *gpio, uint32_t pins)
 
 void gpio_write(GPIO_Type *gpio, uint32_t pins, uint32_t values)
 {
-    gpio_set(gpio, pins & values);
-    gpio_clear(gpio, pins & ~values);
+    gpio->OUTMASK = ((pins << GPIO_OUTMASK_MASK_Pos) & GPIO_OUTMASK_MASK_Msk) |
+                    (values & GPIO_OUTMASK_VALUE_Msk);
 }
 
 void gpio_toggle(GPIO_Type *gpio, uint32_t pins)
 {
-    gpio_write(gpio, pins, ~gpio->OUT);
+    gpio->OUTTGL = pins & GPIO_OUTTGL_TOGGLE_Msk;
 }
 
 uint32_t gpio_read(const GPIO_Type *gpio)
 {
     return gpio->DATA & GPIO_DATA_PINS_Msk;
+}
+
+uint32_t gpio_read_unfiltered(const GPIO_Type *gpio)
+{
+    return gpio->PIN & GPIO_PIN_PINS_Msk;
+}
+
+uint32_t gpio_disputed(const GPIO_Type *gpio)
+{
+    return (gpio->PIN ^ gpio->OUT) & gpio->OUTEN & GPIO_PIN_PINS_Msk;
+}
+
+bool gpio_set_filter_interval(GPIO_Type *gpio, uint32_t cycles)
+{
+    if ((gpio->ID & GPIO_ID_FILTERS_Msk) == 0u || cycles == 0u ||
+        cycles - 1u > (GPIO_FILTERLEN_CYCLES_Msk >> GPIO_FILTERLEN_CYCLES_Pos))
+        return false;
+    gpio->FILTERLEN = (cycles - 1u) << GPIO_FILTERLEN_CYCLES_Pos;
+    return true;
+}
+
+void gpio_set_filters(GPIO_Type *gpio, uint32_t pins, bool on)
+{
+    if (on)
+        gpio->FILTER = gpio->FILTER | (pins & GPIO_FILTER_ENABLE_Msk);
+    else
+        gpio->FILTER = gpio->FILTER & ~pins;
 }
 
 uint32_t gpio_outputs(const GPIO_Type *gpio)
@@ -48,7 +75,11 @@ void gpio_enable_interrupts(GPIO_Type *gpio, uint32_t pins, gpio_condition condi
 {
     const uint32_t used = pins & GPIO_INTEN_ENABLE_Msk;
     gpio_disable_interrupts(gpio, used); /* nothing is raised halfway */
-    if (condition == GPIO_FALLING || condition == GPIO_RISING)
+    if (condition == GPIO_CHANGING)
+        gpio->INTBOTH = gpio->INTBOTH | used;
+    else
+        gpio->INTBOTH = gpio->INTBOTH & ~used;
+    if (condition == GPIO_FALLING || condition == GPIO_RISING || condition == GPIO_CHANGING)
         gpio->INTEDGE = gpio->INTEDGE | used;
     else
         gpio->INTEDGE = gpio->INTEDGE & ~used;

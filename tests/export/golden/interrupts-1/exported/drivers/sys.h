@@ -17,23 +17,25 @@
 extern "C" {
 #endif
 
+#define SYS_BUS_TIMEOUT_MAX SYS_BUSTIMEOUT_CYCLES_Msk /* longest limit, in wait states */
+
 /* Why an access failed. */
 typedef enum {
-    SYS_CAUSE_UNMAPPED,  /* nothing stands at the address in this configuration */
-    SYS_CAUSE_SLAVE,     /* the block at the address answered with an error */
-    SYS_CAUSE_TIMEOUT,   /* the block at the address did not answer in time */
-    SYS_CAUSE_ABANDONED, /* it has not been ready since it did not answer in time */
-} sys_cause_t;
+    SYS_CAUSE_UNMAPPED, /* nothing stands at the address in this configuration */
+    SYS_CAUSE_SLAVE,    /* the block at the address answered with an error */
+    SYS_CAUSE_TIMEOUT,  /* the block at the address did not answer in time */
+    SYS_CAUSE_ABANDONED /* it has not been ready since it did not answer in time */
+} sys_cause;
 
 /* An access that failed. */
 typedef struct {
     uint32_t address;
     uint32_t bytes; /* 1, 2 or 4 */
-    sys_cause_t cause;
+    sys_cause cause;
     bool is_write;
     bool is_fetch; /* of an instruction */
     bool more;     /* others failed before it, of which nothing is known */
-} sys_error_t;
+} sys_error;
 
 /*
  * The causes of resets since they were taken, a mask of SYS_RESETCAUSE_POWERON_Msk, _PIN_Msk,
@@ -51,19 +53,20 @@ void sys_reset(void);
 void sys_reset_on_lockup(SYS_Type *sys, bool on);
 
 /*
- * A transfer that is not ready after so many wait states (1 to 262143, in clock cycles of the bus;
- * 0 for no limit) fails. Longer times count as the longest, which every reset sets.
+ * Has a transfer fail that is not ready after so many wait states: 1 to SYS_BUS_TIMEOUT_MAX clock
+ * cycles of the bus, 0 for no limit. Every reset sets the longest one. False, with nothing done: no
+ * such limit.
  */
-void sys_set_bus_timeout(SYS_Type *sys, uint32_t cycles);
+bool sys_set_bus_timeout(SYS_Type *sys, uint32_t cycles);
 
 /* Whether an access has failed since sys_take_error(). */
 bool sys_has_error(const SYS_Type *sys);
 
 /* The last access that failed, which is forgotten then. False, with nothing done: none has. */
-bool sys_take_error(SYS_Type *sys, sys_error_t *error);
+bool sys_take_error(SYS_Type *sys, sys_error *error);
 
 /* A few words of English, in lower case; never null. */
-const char *sys_cause_name(sys_cause_t cause);
+const char *sys_cause_name(sys_cause cause);
 
 /* The interrupt is there from an access that fails until sys_take_error(). Reset switches it off.
  */

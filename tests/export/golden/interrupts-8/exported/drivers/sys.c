@@ -33,9 +33,12 @@ void sys_reset_on_lockup(SYS_Type *sys, bool on)
     set(&sys->CTRL, SYS_CTRL_LOCKUPRST_Msk, on);
 }
 
-void sys_set_bus_timeout(SYS_Type *sys, uint32_t cycles)
+bool sys_set_bus_timeout(SYS_Type *sys, uint32_t cycles)
 {
-    sys->BUSTIMEOUT = cycles < SYS_BUSTIMEOUT_CYCLES_Msk ? cycles : SYS_BUSTIMEOUT_CYCLES_Msk;
+    if (cycles > SYS_BUS_TIMEOUT_MAX)
+        return false;
+    sys->BUSTIMEOUT = cycles;
+    return true;
 }
 
 bool sys_has_error(const SYS_Type *sys)
@@ -43,14 +46,14 @@ bool sys_has_error(const SYS_Type *sys)
     return (sys->ERRINFO & SYS_ERRINFO_VALID_Msk) != 0u;
 }
 
-bool sys_take_error(SYS_Type *sys, sys_error_t *error)
+bool sys_take_error(SYS_Type *sys, sys_error *error)
 {
     const uint32_t info = sys->ERRINFO;
     if ((info & SYS_ERRINFO_VALID_Msk) == 0u)
         return false;
     error->address = sys->ERRADDR;
     error->bytes = 1u << ((info & SYS_ERRINFO_SIZE_Msk) >> SYS_ERRINFO_SIZE_Pos);
-    error->cause = (sys_cause_t)((info & SYS_ERRINFO_CAUSE_Msk) >> SYS_ERRINFO_CAUSE_Pos);
+    error->cause = (sys_cause)((info & SYS_ERRINFO_CAUSE_Msk) >> SYS_ERRINFO_CAUSE_Pos);
     error->is_write = (info & SYS_ERRINFO_WRITE_Msk) != 0u;
     error->is_fetch = (info & SYS_ERRINFO_FETCH_Msk) != 0u;
     error->more = (info & SYS_ERRINFO_MORE_Msk) != 0u;
@@ -58,7 +61,7 @@ bool sys_take_error(SYS_Type *sys, sys_error_t *error)
     return true;
 }
 
-const char *sys_cause_name(sys_cause_t cause)
+const char *sys_cause_name(sys_cause cause)
 {
     switch (cause) {
     case SYS_CAUSE_UNMAPPED:
