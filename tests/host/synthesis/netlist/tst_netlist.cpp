@@ -144,7 +144,7 @@ void TestNetlist::behavesLikeItsSource_data()
     };
     row("tables of one to four inputs", "tables", "TV_LUT1 TV_LUT2 TV_LUT3 TV_LUT4");
     row("sums, differences and comparisons", "arithmetic", "TV_CARRY TV_LUT2 TV_DFFR TV_DFFS");
-    row("comparisons with constants", "comparisons", "TV_CARRY TV_LUT4 TV_DFF");
+    row("comparisons with constants", "comparisons", "TV_CARRY TV_LUT4 TV_DFFR");
     row("flip-flops with enable and synchronous reset", "flip_flops",
         "TV_DFF TV_DFFE TV_DFFR TV_DFFRE TV_DFFS TV_DFFSE");
     row("flip-flops with clear and preset", "async_flip_flops",
