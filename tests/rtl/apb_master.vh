@@ -9,7 +9,7 @@
 
     apb_checker #(.MOST_WAITS(0)) bus_rules (
         .PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR({20'd0, paddr}), .PWDATA(pwdata),
-        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr)
+        .PSTRB(pstrb), .PPROT(3'd0), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr), .LATE(1'b0)
     );
 
     // The bytes of `data` that `lanes` names.
