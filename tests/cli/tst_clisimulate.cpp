@@ -150,7 +150,7 @@ private Q_SLOTS:
         TestSupport::write(path("x.ipc"), plain + "Enable%20TRNG=true\n");
         TestSupport::write(path("main.c"),
                            "void HardFault_Handler(void) { __asm__ volatile(\"bkpt 9\"); }\n"
-                           "int main(void) { return *(volatile int *)0x5000A000u & 0; }\n");
+                           "int main(void) { return *(volatile int *)0x5000A004u & 0; }\n");
         QStringList told;
         for (const char *engine : {"icarus", "verilator"}) {
             const Run run =
@@ -314,7 +314,9 @@ private Q_SLOTS:
         QVERIFY(report.value(QLatin1String("cyclesAsleep")).toInt() <
                 report.value(QLatin1String("clockCycles")).toInt());
         const QJsonArray exceptions = report.value(QLatin1String("exceptions")).toArray();
-        QCOMPARE(exceptions.size(), 1);
+        QCOMPARE(exceptions.size(), 2);
+        QCOMPARE(exceptions.at(1).toObject().value(QLatin1String("name")).toString(),
+                 QStringLiteral("GPIO"));
         QCOMPARE(exceptions.first().toObject().value(QLatin1String("name")).toString(),
                  QStringLiteral("TIMER0"));
         QCOMPARE(exceptions.first().toObject().value(QLatin1String("count")).toInt(), 16);
@@ -352,8 +354,8 @@ private Q_SLOTS:
         QTest::newRow("interrupt by name")
             << words({"--waves-at", "interrupt:TIMER0"}) << qint64(23000) << qint64(400000);
         QTest::newRow("interrupt by number")
-            << words({"--waves-at", "interrupt:2", "--waves-to", "1500"}) << qint64(23000)
-            << qint64(30300);
+            << words({"--waves-at", "interrupt:2", "--waves-to", "5000"}) << qint64(23000)
+            << qint64(100300);
         QTest::newRow("from a cycle on an address, by the other engine")
             << words({"--waves-at", "address:0x40000000-0x40000FFF", "--waves-from", "2500",
                       "--waves-to", "4000", "--engine", "verilator"})

@@ -67,7 +67,7 @@ private Q_SLOTS:
     {
         write("x.ipc", plain + "Enable%20CAN=true\nCAN_BUFFER_DEPTH=256\nLANG=1\n");
         write("main.c", "void HardFault_Handler(void) { __asm__ volatile(\"bkpt 9\"); }\n"
-                        "int main(void) { return *(volatile int *)0x41000000u & 0; }\n");
+                        "int main(void) { return *(volatile int *)0x41000004u & 0; }\n");
         const auto run = m_process->simulate(
             words({"x.ipc", "--model", "netlist", "--c", "main.c", "--timeout", "5000"}));
         QVERIFY2(run.status == 1, qPrintable(run.err));

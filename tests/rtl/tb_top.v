@@ -287,6 +287,9 @@ module tb;
         // Slaves that do not answer in time: nothing, unknown values, no connection.  Gates make everything unknown of an
         // unknown value.
         ahb_write(SYS + 8, 32'd50);
+`ifndef GATES
+        bus_watch.misbehaving = 1'b1;
+`endif
         for (n = 0; n < 4; n = n + 1) begin
             p_ready = (n == 0) ? 1'b0 : (n == 1) ? 1'bx : 1'bz;
 `ifdef GATES
@@ -311,6 +314,10 @@ module tb;
             ahb_expect(32'h60F00000, 32'hB0000010, "APB port answers again");
             ahb_expect(32'h8B000000, 32'hA0000006, "AHB port answers again");
         end
+`ifndef GATES
+        cycles(2);
+        bus_watch.misbehaving = 1'b0;
+`endif
         // The shortest limit leaves SYS within reach.
         ahb_write(SYS + 8, 32'd1);
         ahb_expect(SYS + 8, 32'd1, "SYS needs no wait states");

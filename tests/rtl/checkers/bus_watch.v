@@ -6,6 +6,10 @@
 `endif
 
 module bus_watch;
+    // A testbench whose slaves leave the rules on purpose says so: those at the ports are not watched meanwhile.
+    reg  misbehaving = 1'b0;
+    wire watched_n   = `WATCHED.sys_n & ~misbehaving;
+
     // The processor's side, and that of each slave.
     ahb_lite_checker master (
         .HCLK(`WATCHED.HCLK), .HRESETn(`WATCHED.sys_n), .HADDR(`WATCHED.haddr), .HTRANS(`WATCHED.htrans), .HBURST(`WATCHED.hburst),
@@ -19,7 +23,7 @@ module bus_watch;
     genvar n;
     generate for (n = 0; n < 16; n = n + 1) begin : slave
         ahb_lite_checker #(.ASSUME_MASTER(2)) rules (
-            .HCLK(`WATCHED.HCLK & present[n]), .HRESETn(`WATCHED.sys_n), .HADDR({30'd0, `WATCHED.haddr[1:0]}),
+            .HCLK(`WATCHED.HCLK & present[n]), .HRESETn(watched_n), .HADDR({30'd0, `WATCHED.haddr[1:0]}),
             .HTRANS(`WATCHED.htrans), .HBURST(3'd0), .HSIZE(`WATCHED.hsize), .HPROT(4'd0), .HWRITE(`WATCHED.hwrite), .HWDATA(32'd0), .HSEL(`WATCHED.hsel_s[n]), .HREADY(`WATCHED.hready), .HRESP(`WATCHED.hresp),
             .HRDATA(`WATCHED.hrdata_s[32*n +: 32]), .HREADYOUT(`WATCHED.hreadyout_s[n]), .HRESPOUT(`WATCHED.hresp_s[n])
         );
@@ -42,13 +46,13 @@ module bus_watch;
 `endif
 `ifdef TARVO_APBEXT_SUPPORT
     apb_checker apbext (
-        .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbext_psel), .PENABLE(`WATCHED.apbext_penable),
+        .PCLK(`WATCHED.HCLK), .PRESETn(watched_n), .PSEL(`WATCHED.apbext_psel), .PENABLE(`WATCHED.apbext_penable),
         .PWRITE(`WATCHED.apbext_pwrite), .PADDR({8'd0, `WATCHED.apbext_paddr}), .PWDATA(`WATCHED.apbext_pwdata),
         .PSTRB(`WATCHED.apbext_pstrb), .PPROT(`WATCHED.apbext_pprot), .PRDATA(`WATCHED.apbext_prdata),
         .PREADY(`WATCHED.apbext_pready), .PSLVERR(`WATCHED.apbext_pslverr), .LATE(`WATCHED.bus_late)
     );
     apb_checker #(.SLOTS(16)) apbext_slots (
-        .PCLK(`WATCHED.HCLK), .PRESETn(`WATCHED.sys_n), .PSEL(`WATCHED.apbext_psel_s),
+        .PCLK(`WATCHED.HCLK), .PRESETn(watched_n), .PSEL(`WATCHED.apbext_psel_s),
         .PENABLE(`WATCHED.apbext_penable & |`WATCHED.apbext_psel_s), .PWRITE(`WATCHED.apbext_pwrite), .PADDR({8'd0, `WATCHED.apbext_paddr}), .PWDATA(`WATCHED.apbext_pwdata),
         .PSTRB(`WATCHED.apbext_pstrb), .PPROT(`WATCHED.apbext_pprot), .PRDATA(`WATCHED.apbext_prdata),
         .PREADY(`WATCHED.apbext_pready), .PSLVERR(`WATCHED.apbext_pslverr), .LATE(`WATCHED.bus_late)
