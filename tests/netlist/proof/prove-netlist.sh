@@ -174,7 +174,7 @@ EOF
     # The second of each is said where no state is left on one side only.
     if grep -Eq '^(Networks are equivalent\.|UNSATISFIABLE)' abc.log; then
         verdict=equal
-    elif ! grep -E '^(Networks are not equivalent\.|SATISFIABLE)' abc.log; then
+    elif ! grep -E '^(Networks are (not equivalent|NOT EQUIVALENT)\.|SATISFIABLE)' abc.log; then
         fail "ABC decided nothing: $(tail -n 3 abc.log)"
     fi
 }
