@@ -429,40 +429,70 @@ private Q_SLOTS:
         QVERIFY(!window()->help()->isVisible());
     }
 
+    // Of the guide and of every document that it leads to.
     void everyLinkAndPictureOfTheGuideLeadsSomewhere()
     {
         window()->showGuide();
         HelpBrowser *browser = window()->help()->browser();
-        const QUrl guide = browser->source();
-        QSet<QString> links;
-        QSet<QString> pictures;
-        for (QTextBlock block = browser->document()->begin(); block.isValid();
-             block = block.next()) {
-            for (auto it = block.begin(); !it.atEnd(); ++it) {
-                const QTextCharFormat format = it.fragment().charFormat();
-                if (format.isAnchor())
-                    links.insert(format.anchorHref());
-                if (format.isImageFormat())
-                    pictures.insert(format.toImageFormat().name());
+        QList<QUrl> documents{browser->source()};
+        int linkCount = 0;
+        int pictureCount = 0;
+        for (int i = 0; i < documents.size(); ++i) {
+            const QUrl from = documents[i]; // the list grows below
+            browser->setSource(from);
+            QVERIFY2(browser->document()->characterCount() > 100, qPrintable(from.path()));
+            QSet<QString> links;
+            QSet<QString> pictures;
+            for (QTextBlock block = browser->document()->begin(); block.isValid();
+                 block = block.next()) {
+                for (auto it = block.begin(); !it.atEnd(); ++it) {
+                    const QTextCharFormat format = it.fragment().charFormat();
+                    if (format.isAnchor())
+                        links.insert(format.anchorHref());
+                    if (format.isImageFormat())
+                        pictures.insert(format.toImageFormat().name());
+                }
+            }
+            linkCount += links.size();
+            pictureCount += pictures.size();
+            for (const QString &picture : qAsConst(pictures)) {
+                const QVariant loaded =
+                    browser->loadResource(QTextDocument::ImageResource, QUrl(picture));
+                QVERIFY2(!loaded.value<QImage>().isNull(), qPrintable(picture));
+                QVERIFY(loaded.value<QImage>().width() <= browser->viewport()->width());
+            }
+            for (const QString &link : qAsConst(links)) {
+                browser->setSource(from);
+                browser->verticalScrollBar()->setValue(0);
+                browser->setSource(QUrl(link));
+                const QString told = from.fileName() + QStringLiteral(": ") + link;
+                if (link.contains(u'#'))
+                    QVERIFY2(browser->verticalScrollBar()->value() > 0, qPrintable(told));
+                const QUrl to = browser->source().adjusted(QUrl::RemoveFragment);
+                if (!documents.contains(to))
+                    documents.append(to);
             }
         }
-        QVERIFY(links.size() >= 3);
-        QVERIFY(pictures.size() >= 4);
-        for (const QString &picture : qAsConst(pictures)) {
-            const QVariant loaded =
-                browser->loadResource(QTextDocument::ImageResource, QUrl(picture));
-            QVERIFY2(!loaded.value<QImage>().isNull(), qPrintable(picture));
-            QVERIFY(loaded.value<QImage>().width() <= browser->viewport()->width());
-        }
-        for (const QString &link : qAsConst(links)) {
-            browser->setSource(guide);
-            browser->verticalScrollBar()->setValue(0);
-            browser->setSource(QUrl(link));
-            if (link.startsWith(u'#'))
-                QVERIFY2(browser->verticalScrollBar()->value() > 0, qPrintable(link));
-            else
-                QVERIFY2(browser->document()->characterCount() > 100, qPrintable(link));
-        }
+        QVERIFY(documents.size() >= 4);
+        QVERIFY(linkCount >= 3);
+        QVERIFY(pictureCount >= 4);
+    }
+
+    // Back and Forward take a way of their own through the library.
+    void theWayBackShowsTheDocumentAsItWas()
+    {
+        window()->showGuide();
+        HelpBrowser *browser = window()->help()->browser();
+        const int length = browser->document()->characterCount();
+        browser->verticalScrollBar()->setValue(700);
+        browser->setSource(QUrl(QStringLiteral("drivers.md")));
+        const int other = browser->document()->characterCount();
+        QVERIFY(other > 100 && other != length);
+        browser->backward();
+        QCOMPARE(browser->document()->characterCount(), length);
+        QCOMPARE(browser->verticalScrollBar()->value(), 700);
+        browser->forward();
+        QCOMPARE(browser->document()->characterCount(), other);
     }
 
     void theDocumentOfAnIpIsReachable()

@@ -56,13 +56,19 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     setAccessibleName(tr("Help"));
     setOpenExternalLinks(false);
     document()->setDocumentMargin(fontMetrics().height());
+    // A bar that comes and goes while one document takes the place of another changes the width, and
+    // with it the pictures.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::finishSource);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
 {
     const QUrl url = name.isRelative() ? source().resolved(name) : name;
-    if (type != QTextDocument::ImageResource)
-        return QString::fromUtf8(contents(url));
+    if (type != QTextDocument::ImageResource) {
+        m_loaded = QString::fromUtf8(contents(url));
+        return QStringLiteral(" "); // finishSource() has the rest
+    }
     const QImage image = QImage::fromData(contents(url));
     const int room = viewport()->width() - 3 * int(document()->documentMargin());
     return image.width() > room && room > 0 ? image.scaledToWidth(room, Qt::SmoothTransformation)
@@ -74,9 +80,23 @@ void HelpBrowser::setSource(const QUrl &name)
     const QUrl url = name.isRelative() ? source().resolved(name) : name;
     if (!url.isLocalFile())
         return;
-    m_pictureWidth = viewport()->width();
     QTextBrowser::setSource(url);
-    colourLinks();
+}
+
+void HelpBrowser::finishSource(const QUrl &url)
+{
+    if (!m_loaded.isNull()) {
+        m_pictureWidth = viewport()->width();
+        QTextCursor edit(document());
+        edit.beginEditBlock();
+        if (url.path().endsWith(QLatin1String(".md"), Qt::CaseInsensitive))
+            document()->setMarkdown(m_loaded);
+        else
+            document()->setHtml(m_loaded);
+        colourLinks();
+        edit.endEditBlock();
+        m_loaded.clear();
+    }
     if (url.hasFragment() && !goToHeading(url.fragment()))
         scrollToAnchor(url.fragment());
 }

@@ -21,9 +21,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    // Called however a document was come by: a link, a way back, a reload. The text is put in as
+    // one change: otherwise the document, which is on display, is laid out anew for each cell of a
+    // table, in a time that grows with the square of its length (minutes for a long one).
+    void finishSource(const QUrl &url);
     bool goToHeading(const QString &name);
     void colourLinks();
 
+    QString m_loaded; // not shown yet
     int m_pictureWidth = 0; // that pictures were made for, in pixels
 };
 
