@@ -217,7 +217,7 @@ _orixm1() {
     return text + QLatin1String("    esac\n}\ncomplete -F _orixm1 orixm1\n");
 }
 
-// Within a specification of zsh's _arguments.
+// Within an argument of zsh's _arguments.
 QString zshText(QString text)
 {
     for (const QChar special : {QChar(u'\\'), QChar(u'['), QChar(u']'), QChar(u':')})
@@ -249,24 +249,23 @@ QString zshAction(const Value &value)
                                   : u'(' + listed(zshTexts(value.offers)) + u')';
 }
 
-QStringList zshSpecifications(const CommandShape &shape)
+QStringList zshArguments(const CommandShape &shape)
 {
-    QStringList specifications;
+    QStringList words;
     for (const OptionShape &option : shape.options) {
         const QStringList names = dashed(option);
         for (const QString &name : names) {
-            QString specification = (option.isRepeated ? QStringLiteral("*") : QString()) + name +
-                                    u'[' + zshText(option.help) + u']';
+            QString word = (option.isRepeated ? QStringLiteral("*") : QString()) + name + u'[' +
+                           zshText(option.help) + u']';
             if (option.value.kind != Value::None)
-                specification += u':' + zshText(option.value.type) + u':' + zshAction(option.value);
-            specifications.append(quoted(specification));
+                word += u':' + zshText(option.value.type) + u':' + zshAction(option.value);
+            words.append(quoted(word));
         }
     }
     for (const ArgumentShape &argument : shape.arguments)
-        specifications.append(
-            quoted((argument.isRepeated ? QStringLiteral("*:") : QStringLiteral(":")) +
-                   zshText(argument.name) + u':' + zshAction(argument.value)));
-    return specifications;
+        words.append(quoted((argument.isRepeated ? QStringLiteral("*:") : QStringLiteral(":")) +
+                            zshText(argument.name) + u':' + zshAction(argument.value)));
+    return words;
 }
 
 QString zshScript(const QVector<CommandShape> &shapes)
@@ -293,10 +292,10 @@ _orixm1() {
         case $line[1] in
 )")
                        .arg(descriptions.join(QLatin1String("\n        ")),
-                            zshSpecifications(shapes.first()).join(QLatin1String(" \\\n        ")));
+                            zshArguments(shapes.first()).join(QLatin1String(" \\\n        ")));
     for (const CommandShape &shape : shapes.mid(1))
         text += QStringLiteral("        %1)\n            _arguments%2%3\n            ;;\n")
-                    .arg(shape.name, next, zshSpecifications(shape).join(next));
+                    .arg(shape.name, next, zshArguments(shape).join(next));
     return text + QLatin1String("        esac\n        ;;\n    esac\n}\n"
                                 "if [[ $zsh_eval_context[-1] == loadautofunc ]]; then\n"
                                 "    _orixm1 \"$@\"\nelse\n    compdef _orixm1 orixm1\nfi\n");
