@@ -245,6 +245,11 @@ module tb;
         apb_expect(CTRL, 0, "no bits of what is not there");
         apb_expect(COMPARE, 0, "no compare value");
 `endif
+        // Every byte of every register that stands still.
+        reset;
+        apb_parts(VALUE, 32'hFFFFFF, 0); apb_parts(RELOAD, 32'hFFFFFF, 0); apb_parts(PRESCALE, 32'hFFFF, 0);
+        apb_parts(COMPARE, CTRL_BITS[5] ? 32'hFFFFFF : 0, 0); apb_parts(CTRL, {CTRL_BITS, 22'd0} >> 22, 0);
+        apb_parts(ID, 0, CTRL_BITS[5] ? 32'h03180203 : 32'h00180203);
         // Random settings.
         reset;
         comparing = 1'b1; toggling = 1'b1;
