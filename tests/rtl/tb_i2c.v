@@ -7,10 +7,10 @@ module tb;
     wire scl_out, scl_outen, sda_out, sda_outen, irq;
     tri1 scl, sda;
     reg  glitch_scl = 1'b0, glitch_sda = 1'b0;    // spikes that only the block sees
-    reg  slave_sda = 1'b1, slave_scl = 1'b1, other_sda = 1'b1, other_scl = 1'b1;
+    reg  slave_sda = 1'b1, slave_scl = 1'b1, other_sda = 1'b1, other_scl = 1'b1, sync_scl = 1'b1;
     assign scl = scl_outen ? scl_out : 1'bz;
     assign sda = sda_outen ? sda_out : 1'bz;
-    assign scl = (slave_scl & other_scl) ? 1'bz : 1'b0;
+    assign scl = (slave_scl & other_scl & sync_scl) ? 1'bz : 1'b0;
     assign sda = (slave_sda & other_sda) ? 1'bz : 1'b0;
     apb_i2c
 `ifdef I2C_SMALL
@@ -561,7 +561,7 @@ module tb;
 
     // ---- two clocks on one line: low as long as the slower one, high as long as the faster one
     reg  sync_on = 1'b0;
-    always @(posedge scl) if (sync_on) begin #120 other_scl = 1'b0; #450 other_scl = 1'b1; end
+    always @(posedge scl) if (sync_on) begin sync_scl <= #120 1'b0; sync_scl <= #570 1'b1; end
     task synchronized;
         begin
             write_byte(8'h5A, START); ended(32'hC, 0, "address before the other clock");
@@ -921,7 +921,9 @@ module tb;
                 if (k != INTEN) begin apb_write(k, ~0); apb_expect(k, 0, "not there"); end
         end
     endtask
-    task target; begin end endtask
+    task target;
+        begin end
+    endtask
 `endif
 
     task program_of_now;
