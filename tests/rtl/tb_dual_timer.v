@@ -82,13 +82,9 @@ module tb;
     endfunction
     task compare_with_model(input [11:0] address);
         begin
-            psel = 1'b1; penable = 1'b0; pwrite = 1'b0; paddr = address;
-            cycles(1);
-            penable = 1'b1;
-            #1;
-            check32(prdata, model(address), "a register is that of the model");
-            cycles(1);
-            psel = 1'b0; penable = 1'b0;
+            apb_look(address);
+            check32(rd, model(address), "a register is that of the model");
+            apb_leave;
         end
     endtask
     reg [31:0] word;

@@ -11,8 +11,11 @@ module tb;
     reg  [15:0] pins = 16'h0000;
     wire [15:0] out, outen;
     wire        irq;
+    reg         others_ready = 1'b1;    // another slave's wait states
+    wire        own_ready;
+    assign hready = own_ready & others_ready;
     `DUT (.HCLK(clk), .HRESETn(rstn), .HSEL(haddr[31:24] == 8'h40), .HADDR(haddr[23:0]), .HTRANS(htrans), .HSIZE(hsize),
-                  .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata), .HREADYOUT(hready), .HRESP(hresp),
+                  .HWRITE(hwrite), .HWDATA(hwdata), .HREADY(hready), .HRDATA(hrdata), .HREADYOUT(own_ready), .HRESP(hresp),
                   .gpio_in(pins), .gpio_out(out), .gpio_outen(outen), .irq(irq));
     localparam [31:0] DATA = 32'h40000000, OUT = DATA + 4, OUTEN = DATA + 8, OUTSET = DATA + 12, OUTCLR = DATA + 16,
                       INTEN = DATA + 20, INTEDGE = DATA + 24, INTPOL = DATA + 28, PEND = DATA + 32,
@@ -49,6 +52,17 @@ module tb;
                 check(out[n] === 1'b1, "a pin set");
             end
             check(out === 16'hFFFF, "each on its own");
+            // While another slave has wait states a write stands on the bus, and is done once, behind them.
+            haddr = 32'h41000000; htrans = 2'b10; hwrite = 1'b0; hsize = 3'd2;
+            cycles(1);
+            others_ready = 1'b0; haddr = OUTTGL; hwrite = 1'b1; hwdata = 32'hFFFF;
+            cycles(3);
+            check(out === 16'hFFFF, "not before the bus is ready");
+            others_ready = 1'b1;
+            cycles(1);
+            htrans = 2'b00; hwrite = 1'b0; hwdata = 32'h0001;
+            cycles(2);
+            check(out === 16'hFFFE, "done once");
         end
     endtask
 

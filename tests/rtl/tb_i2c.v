@@ -7,10 +7,10 @@ module tb;
     wire scl_out, scl_outen, sda_out, sda_outen, irq;
     tri1 scl, sda;
     reg  glitch_scl = 1'b0, glitch_sda = 1'b0;    // spikes that only the block sees
-    reg  slave_sda = 1'b1, slave_scl = 1'b1, other_sda = 1'b1, other_scl = 1'b1;
+    reg  slave_sda = 1'b1, slave_scl = 1'b1, other_sda = 1'b1, other_scl = 1'b1, sync_scl = 1'b1;
     assign scl = scl_outen ? scl_out : 1'bz;
     assign sda = sda_outen ? sda_out : 1'bz;
-    assign scl = (slave_scl & other_scl) ? 1'bz : 1'b0;
+    assign scl = (slave_scl & other_scl & sync_scl) ? 1'bz : 1'b0;
     assign sda = (slave_sda & other_sda) ? 1'bz : 1'b0;
     apb_i2c
 `ifdef I2C_SMALL
@@ -178,16 +178,24 @@ module tb;
     integer o_quarter = 100;
     reg     o_ack;
     reg [7:0] o_data;
+    // SCL is let go; it has been high for so many quarters at the end.
+    task o_high(input integer quarters);
+        begin
+            other_scl = 1'b1; #1;
+            if (scl === 1'b1) #(quarters * o_quarter - 1);
+            else begin @(posedge scl); #(quarters * o_quarter + 1); end
+        end
+    endtask
     task o_start;
         begin
-            other_sda = 1'b1; #(o_quarter) other_scl = 1'b1; wait (scl === 1'b1);
-            #(2 * o_quarter) other_sda = 1'b0; #(2 * o_quarter) other_scl = 1'b0; #(o_quarter);
+            other_sda = 1'b1; #(o_quarter) o_high(2);
+            other_sda = 1'b0; #(2 * o_quarter) other_scl = 1'b0; #(o_quarter);
         end
     endtask
     task o_bit(input value, output level);
         begin
-            other_sda = value; #(o_quarter) other_scl = 1'b1; wait (scl === 1'b1);
-            #(o_quarter) level = sda; #(o_quarter) other_scl = 1'b0; #(o_quarter);
+            other_sda = value; #(o_quarter) o_high(1);
+            level = sda; #(o_quarter) other_scl = 1'b0; #(o_quarter);
         end
     endtask
     task o_put(input [7:0] value);
@@ -209,8 +217,8 @@ module tb;
     endtask
     task o_stop;
         begin
-            other_sda = 1'b0; #(o_quarter) other_scl = 1'b1; wait (scl === 1'b1);
-            #(2 * o_quarter) other_sda = 1'b1; #(2 * o_quarter);
+            other_sda = 1'b0; #(o_quarter) o_high(2);
+            other_sda = 1'b1; #(2 * o_quarter);
         end
     endtask
 
@@ -553,13 +561,13 @@ module tb;
 
     // ---- two clocks on one line: low as long as the slower one, high as long as the faster one
     reg  sync_on = 1'b0;
-    always @(posedge scl) if (sync_on) begin #120 other_scl = 1'b0; #450 other_scl = 1'b1; end
+    always @(posedge scl) if (sync_on) begin sync_scl <= #120 1'b0; sync_scl <= #570 1'b1; end
     task synchronized;
         begin
             write_byte(8'h5A, START); ended(32'hC, 0, "address before the other clock");
             nbytes = 0; sync_on = 1'b1;
             write_byte(8'h3C, 0);
-            @(posedge scl) measure;
+            @(posedge scl) #1 measure;
             ended(32'hC, 0, "a byte on two clocks");
             check(high_min >= 120 && high_min <= 130, "high as the faster one");
             check(low_min >= 450 && low_min <= 460, "low as the slower one");
@@ -862,7 +870,8 @@ module tb;
             // A limit of the target's own stretching.
             apb_write(TADDR, 32'h0000_0043); apb_write(TCTRL, 1); apb_write(TIMEOUT, 4); apb_write(PEND, 32'h70);
             o_start; o_put(8'h87);
-            wait (scl_outen === 1'b1); cycles(1000);
+            while (scl_outen !== 1'b1) cycles(1);
+            cycles(1000);
             check(scl_outen === 1'b1, "still holds"); cycles(40); released("gives up");
             apb_expect(PEND, 32'h51, "has given up"); apb_expect(ERROR, 0, "no error of the master");
             o_stop; apb_write(PEND, 32'h70); apb_write(TIMEOUT, 0);
@@ -912,7 +921,9 @@ module tb;
                 if (k != INTEN) begin apb_write(k, ~0); apb_expect(k, 0, "not there"); end
         end
     endtask
-    task target; begin end endtask
+    task target;
+        begin end
+    endtask
 `endif
 
     task program_of_now;
@@ -929,6 +940,21 @@ module tb;
             synchronized;
             queue;
             target;
+            registers_by_their_parts;
+        end
+    endtask
+
+    task registers_by_their_parts;
+        begin
+            reset;
+            apb_parts(PRESCALE, 32'hFFFF, 0); apb_parts(CTRL, 32'h7, 0); apb_parts(TX, 32'hFF, 0);
+            apb_parts(TIMEOUT, 32'hFFFF, 0); apb_parts(FILTER, 32'hF, 0);
+`ifndef I2C_SMALL
+            apb_parts(THRESHOLD, 32'h0F0F, 0); apb_parts(INTEN, 32'h7F, 0); apb_parts(TCTRL, 32'h2F, 0);
+            apb_parts(TADDR, 32'h03FF03FF, 0);
+`endif
+            apb_parts(12'h04C, 0, 0);
+            released("no command among it");
         end
     endtask
 endmodule

@@ -297,6 +297,13 @@ module tb;
             write(PEND, 7);
         end
 `endif
+        // Every byte of every register, the time standing still.
+        power_on;
+        apb_parts(SECONDS, 32'hFFFFFFFF, 0); apb_parts(SUBSECOND, 32'h00FFFFFF, 0); apb_parts(ALARM, 32'hFFFFFFFF, 0);
+        apb_parts(PRESCALE, 32'h00FFFFFF, 0); apb_parts(CALIB, IS_WHOLE ? 32'h0FFF : 0, 0); apb_parts(TICK, 32'hFFFF, 0);
+        apb_parts(ALARMMASK, IS_WHOLE ? 32'hFFFFFFFF : 0, IS_WHOLE ? 0 : 32'hFFFFFFFF);
+        apb_parts(ALARMSTEP, IS_WHOLE ? 32'h000FFFFF : 0, 0); apb_parts(STATUS, 0, 32'h3); apb_parts(STATUS + 4, 0, 0);
+        apb_parts(ID, 0, IS_WHOLE ? 32'h00940205 : 32'h00000205); apb_parts(CTRL, 32'h1F, 0);
         // Random settings.
         power_on; model_power;
         write(PRESCALE, 3);

@@ -765,6 +765,26 @@ module tb;
         end
     endtask
 
+    // Without a card, so that nothing begins.
+    task registers_by_their_parts;
+        begin
+            checkin = 1'b1;
+            reset;
+            apb_parts(CTRL, 32'hF, 0); apb_parts(CLOCK, 32'h03FF03FF, 0); apb_parts(TIMEOUT, 32'hFFFFFFFF, 0);
+            apb_parts(ARGUMENT, 32'hFFFFFFFF, 0); apb_parts(COMMAND, 32'hBF3F, 0); apb_parts(ENABLE, 32'h7F, 0);
+            // The words of a block are never none.
+            apb_write8(BLOCKS, 8'h34); apb_write8(BLOCKS + 1, 8'h12);
+            apb_expect(BLOCKS, 32'h0080_1234, "bytes of the number of blocks");
+            apb_write16(BLOCKS + 2, 16'hFF00);
+            apb_expect(BLOCKS, 32'h0001_1234, "at least a word");
+            apb_write8(BLOCKS + 2, 8'hFE); apb_write8(BLOCKS + 3, 8'hFF);
+            apb_expect(BLOCKS, 32'h00FE_1234, "a byte of the words of a block");
+            apb_parts(12'h040, 0, 0);
+            apb_expect(STATUS, 0, "nothing began");
+            failed_with(NOCARD, "for want of a card");
+        end
+    endtask
+
     initial begin
         reset;
 `ifdef LOG_WORDS
@@ -788,6 +808,7 @@ module tb;
         late_sampling;
         bytes_by_the_divider;
 `endif
+        registers_by_their_parts;
         finish;
     end
 endmodule

@@ -503,6 +503,23 @@ module tb;
         end
     endtask
 
+    // What words look like has bits of its own: no word is shorter than four bits.
+    task registers_by_their_parts;
+        begin
+            reset;
+            apb_parts(CTRL, 32'h7F, 0); apb_parts(DIV, 32'hFFFF, 0); apb_parts(SELECT, 32'h7, 0);
+            apb_parts(TIMING, 32'hFFFFFF, 0); apb_parts(THRESHOLD, 32'h3F3F, 0); apb_parts(INTEN, 32'h7, 0);
+            apb_parts(ID, 0, (`LOG_WIDTH << 24) | (`LOG_DEPTH << 16) | 32'h208);
+            apb_write8(FORMAT + 1, 8'hFE);
+            apb_expect(FORMAT, 32'h207, "a byte of FORMAT");
+            apb_write8(FORMAT, 8'h00);
+            apb_expect(FORMAT, 32'h203, "at least four bits");
+            apb_write16(FORMAT + 2, 16'hFFFF); apb_write16(FORMAT, 16'h011E);
+            apb_expect(FORMAT, 32'h11E, "a halfword of FORMAT");
+            apb_expect(STATUS, 0, "nothing was sent");
+        end
+    endtask
+
     initial begin
         reset;
         apb_expect(DATA, 0, "reset DATA");
@@ -527,6 +544,7 @@ module tb;
         late_answers;
         late_ends;
         back_to_itself;
+        registers_by_their_parts;
         finish;
     end
 endmodule

@@ -472,6 +472,19 @@ module tb;
         run(8'h9F | ANSWERS);
         ahb_expect(SELECT, 0, "no longer held");
         ahb_expect(FIFO, 32'h00D3D2D1, "identification behind a selection");
+        // A command is ended before it begins, in the time behind a selection by hand.
+        ahb_transfer(DIV, 1'b0, 3'd2, 0); got = rd;
+        ahb_write(DIV, 10);
+        ahb_write(CTRL, 32'h700);
+        ahb_write(SELECT, 1);
+        clocks = chip.clocks;
+        ahb_write(COMMAND, 8'h9F | ANSWERS);
+        ahb_write(STATUS, 16);
+        for (m = 0; m < 300; m = m + 1) begin cycles(1); check(csn === 1'b1, "not selected for it"); end
+        ahb_expect(STATUS, 0, "ended before it began");
+        check(chip.clocks == clocks, "without a clock");
+        ahb_write(DIV, got);
+        ahb_write(CTRL, 0);
         // Four bytes of address, and what lies above the window.
         run(8'hB7 | ALONE);
         check(chip.long, "addresses of four bytes");
@@ -539,6 +552,7 @@ module tb;
         reset;
         ahb_parts(DIV, 32'h000000FF, 0); ahb_parts(PROTECT, 32'h00000001, 0); ahb_parts(CTRL, 32'h00FF0737, 0);
         ahb_parts(READ, 32'hFF3FFFFF, 0); ahb_parts(UPPER, 32'h000000FF, 0);
+        ahb_parts(RECOVER, 32'h0000FF03, 0);
 `ifndef BARE
         ahb_parts(ADDRESS, 32'hFFFFFFFF, 0); ahb_parts(LENGTH, 32'h000001FF, 0); ahb_parts(POLL, 32'h0000FFFF, 0);
 `endif

@@ -116,6 +116,7 @@ module tb;
         apb_parts(PORTS, 0, 0);
         apb_parts(PORTS + 4, 0, 0);   // the first that is none
         apb_parts(ID, 0, 32'h0000020B);
+        apb_write(CTRL, 32'd0);
         // Lock-up.
         lockup = 1'b1;
         #1 check(lockup_reset_req === 1'b0, "a lock-up is let be");

@@ -608,6 +608,13 @@ module tb;
             tolerance(48, 33, 9, 1, 0);
 `endif
         end
+
+        // Every byte of the registers that keep what is written. BREAK is among it, so that the line comes last.
+        reset;
+        apb_parts(FORMAT, 32'hFF, 0);
+        apb_parts(THRESHOLD, (DEPTH - 1) * 32'h101, 0);
+        apb_parts(TIMEOUT, HAS_TIMEOUT ? 32'hFF : 0, 0);
+        apb_parts(CTRL, 32'h3FF, 0);
         finish;
     end
 endmodule
