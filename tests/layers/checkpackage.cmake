@@ -1,7 +1,7 @@
 # Installs the host platform by itself, builds the plug-in against the installed package and looks at what the
 # plug-in exports.
 #
-# -DSOURCE=…  -DBUILD=…  -DBINARY=…  -DGENERATOR=…  -DCOMPILER=…  -DLAUNCHER=…  -DCONFIG=…  -DSANITIZE=…  -DNM=…
+# -DSOURCE=…  -DBUILD=…  -DBINARY=…  -DGENERATOR=…  -DCOMPILER=…  -DLAUNCHER=…  -DSANITIZE=…  -DNM=…
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(NOT status EQUAL 0)
@@ -22,8 +22,9 @@ if(NOT installed OR strange)
     message(FATAL_ERROR "the host component holds other files or none: ${strange}")
 endif()
 
+# Nothing of this is run: what optimising takes is saved.
 run(${CMAKE_COMMAND} -S ${SOURCE} -B ${build} -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${COMPILER}
-    -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER} -DCMAKE_BUILD_TYPE=${CONFIG} -DTARVO_SANITIZE=${SANITIZE}
+    -DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER} -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DTARVO_SANITIZE=${SANITIZE}
     -DTARVO_HOST_DIR=${prefix} -DBUILD_TESTING=OFF -DTARVO_BENCH=OFF
     -DCMAKE_EXPORT_COMPILE_COMMANDS=ON)
 run(${CMAKE_COMMAND} --build ${build} --target TarvoOrixM1 --parallel 2)

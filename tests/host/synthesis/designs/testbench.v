@@ -1,6 +1,7 @@
 // Drives the design "dut" with the same pseudo-random values in every run and prints what it answers. The pins "io"
 // are driven from outside where a[31:24] says so. The file "stimulus" gets the values, so that other simulators can be driven with them.
 module testbench;
+    parameter cycles = 3000;
     reg clk = 0;
     reg rst = 1;
     reg [31:0] a = 0, b = 0;
@@ -38,15 +39,15 @@ module testbench;
 
     initial begin
         stimulus = $fopen("stimulus");
-        for (cycle = 0; cycle < 3000; cycle = cycle + 1) begin
+        for (cycle = 0; cycle < cycles; cycle = cycle + 1) begin
             if (cycle == 4) rst = 0;
-            if (cycle > 1500) rst = ($random(seed) & 15) == 0;
+            if (cycle > cycles / 2) rst = ($random(seed) & 15) == 0;
             show;
             change;
             clk = 1;
             show;
             change;
-            if (cycle > 1500) rst = ($random(seed) & 15) == 0;
+            if (cycle > cycles / 2) rst = ($random(seed) & 15) == 0;
             show;
             clk = 0;
             show;

@@ -6,5 +6,5 @@ module dut (input clk, input rst, input [31:0] a, input [31:0] b, output [31:0] 
     assign y[3] = (a[0] & ~a[1]) | (a[2] & a[1] & ~a[3]);
     assign y[4] = {a[3], a[2], a[1], a[0]} > 4'd10;
     assign y[5] = {a[2], a[1], a[0]} < 3'd3;
-    assign y[31:6] = a[25:0] * b[7:0] + (a[15:0] - b[15:0]);
+    assign y[31:6] = (a[25:0] & b[25:0]) ^ (a[31:6] | ~b[31:6]);
 endmodule
