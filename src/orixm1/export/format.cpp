@@ -7,6 +7,7 @@
 #include "drivers.h"
 #include "header.h"
 #include "linker.h"
+#include "rtl.h"
 #include "startup.h"
 #include "svd.h"
 
@@ -46,6 +47,10 @@ constexpr Format rows[] = {
     {"sdc"_l1, "tarvo_orix_m1.sdc"_l1, "Timing constraints"_l1,
      "What tools that place and route must know of signals from pins and from other clocks."_l1,
      "SDC (Tcl)"_l1, "tclsh"_l1, constraintFiles},
+    {"rtl"_l1, "rtl"_l1, "RTL sources"_l1,
+     "The sources of the subsystem with what they include, for tools that compile them "
+     "themselves."_l1,
+     "Verilog 2005"_l1, "iverilog, verilator, yosys"_l1, rtlFiles},
 };
 
 } // namespace
