@@ -139,7 +139,8 @@ private:
         } else if (kind == QLatin1String("cmake")) {
             add(file, QStringLiteral("cmake"), {QStringLiteral("-P"), file}, own);
         } else if (kind == QLatin1String("mk")) {
-            add(file, QStringLiteral("make"), words("-s -f") + QStringList{file}, own);
+            add(file, QStringLiteral("make"),
+                words("-s tarvo_orix_m1_sources -f") + QStringList{file}, own);
         } else if (kind == QLatin1String("sv") || file.endsWith(QLatin1String("_bb.v"))) {
             add(file, QStringLiteral("verilator"), words("--lint-only -Wall") + QStringList{file},
                 own);

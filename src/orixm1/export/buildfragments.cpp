@@ -106,6 +106,8 @@ ORIXM1 ?= orixm1
 @PREFIX@_NETLIST := $(addprefix $(@PREFIX@_NETLIST_DIR)/, \
 @netlist@)
 
+# The first goal stays that of the including makefile.
+@PREFIX@_GOAL := $(.DEFAULT_GOAL)
 .PHONY: @name@_sources @name@_netlist
 # What was exported is that of the configuration.
 @name@_sources: $(@PREFIX@_DIR)/@file@
@@ -114,7 +116,7 @@ ORIXM1 ?= orixm1
 ifneq ($(wildcard $(@PREFIX@_IPC)),)
 ifneq ($(shell command -v $(ORIXM1)),)
 $(@PREFIX@_DIR)/@file@: $(@PREFIX@_IPC)
-	$(ORIXM1) export "$<" $(@PREFIX@_FORMATS) --out "$(@PREFIX@_DIR)"
+	$(ORIXM1) export "$<" $(@PREFIX@_FORMATS) --out "$(@PREFIX@_DIR)" > /dev/null
 	touch "$@"
 
 # One run makes them all.
@@ -123,6 +125,7 @@ $(@PREFIX@_NETLIST) &: $(@PREFIX@_IPC)
 	touch $(@PREFIX@_NETLIST)
 endif
 endif
+.DEFAULT_GOAL := $(@PREFIX@_GOAL)
 )make";
 
 QString lines(const QStringList &paths, const QString &before, const QString &after,
