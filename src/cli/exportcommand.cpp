@@ -8,6 +8,7 @@
 #include <config/nearest.h>
 #include <export/format.h>
 #include <generate/synthesisrequest.h>
+#include <rules/generationfolder.h>
 #include <synthesis/resources.h>
 #include <system/description.h>
 #include <system/systemmap.h>
@@ -155,10 +156,9 @@ QString resultOf(const Utils::BundleEntry &entry)
 }
 
 QJsonObject objectOf(const Utils::Bundle &bundle, const Utils::Result<Utils::BundleReport> &report,
-                     bool check)
+                     QStringList warnings, bool check)
 {
     QJsonArray files;
-    QStringList warnings;
     if (report) {
         for (const Utils::BundleEntry &entry : report->entries) {
             QJsonObject file{{QStringLiteral("path"), entry.path},
@@ -170,7 +170,7 @@ QJsonObject objectOf(const Utils::Bundle &bundle, const Utils::Result<Utils::Bun
                 file.insert(QStringLiteral("keptAs"), entry.keptAs);
             files.append(file);
         }
-        warnings = report->messages;
+        warnings += report->messages;
     } else {
         printProblem({report.reason()});
     }
@@ -288,11 +288,19 @@ int runExport(Environment &environment, const ExportArguments &arguments)
         map.resources = *figures;
     }
     const QString folder = outputFolder(document, arguments.outDir);
-    const Utils::Bundle bundle =
-        bundleOf(map, folder, chosenFormats(arguments, folder), !arguments.formats.isEmpty());
+    const QStringList chosen = chosenFormats(arguments, folder);
+    QStringList warnings;
+    if (const auto contents =
+            readInitialContents(document.options, generationFolder(document.folder())))
+        map.initialContents = *contents;
+    else if (chosen.contains(QLatin1String("rtl")))
+        warnings.append(contents.reason() +
+                        QLatin1String("; the RTL waits for its memory's contents in ") +
+                        initialContentsFolder + u'.');
+    const Utils::Bundle bundle = bundleOf(map, folder, chosen, !arguments.formats.isEmpty());
     const Utils::Result<Utils::BundleReport> report =
         arguments.check ? Utils::checkBundle(bundle) : Utils::writeBundle(bundle);
-    const QJsonObject object = objectOf(bundle, report, arguments.check);
+    const QJsonObject object = objectOf(bundle, report, warnings, arguments.check);
     if (arguments.json)
         printJson(object);
     tellObject(object);

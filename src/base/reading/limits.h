@@ -19,6 +19,7 @@ constexpr qint64 deviceFile = 4 * mebibyte;
 constexpr qint64 registerFile = 4 * mebibyte;
 constexpr qint64 memoryFile = 16 * mebibyte;  // contents of one byte lane of the ITCM
 constexpr qint64 firmwareFile = 1 * mebibyte; // a source that is handed on
+constexpr qint64 rtlFile = 4 * mebibyte;      // a source of hardware that is handed on
 constexpr qint64 firmwareImage = 64 * mebibyte;
 constexpr qint64 script = 16 * mebibyte;        // of transfers
 constexpr qint64 bundleManifest = 4 * mebibyte; // of an exported set of files

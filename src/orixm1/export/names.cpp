@@ -1,6 +1,7 @@
 #include "names.h"
 
 #include "config/latin1literal.h"
+#include "generate/synthesisrequest.h"
 
 #include <QChar>
 
@@ -143,6 +144,26 @@ bool isFormatMacro(const QString &word)
 }
 
 } // namespace
+
+QString topModuleName(const SystemMap & /*map*/)
+{
+    return topModule;
+}
+
+QString fileName(const SystemMap & /*map*/, QLatin1String suffix)
+{
+    return "tarvo_orix_m1"_l1 + suffix;
+}
+
+QString symbolName(const SystemMap & /*map*/, QLatin1String suffix)
+{
+    return "tarvo_orix_m1"_l1 + suffix;
+}
+
+QString macroName(const SystemMap & /*map*/, QLatin1String suffix)
+{
+    return "TARVO_ORIX_M1"_l1 + suffix;
+}
 
 bool isKnownWord(const QString &word)
 {

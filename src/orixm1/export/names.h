@@ -1,11 +1,25 @@
 #pragma once
 
+#include <QLatin1String>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 
 namespace TARVOORIXM1
 {
+
+struct SystemMap;
+
+// What an export calls things after the subsystem. The names of its own modules, ports and macros
+// stay as they are.
+
+// The module, and in VHDL the entity, that a design has an instance of.
+QString topModuleName(const SystemMap &map);
+// "tarvo_orix_m1" and the suffix: ".sdc" of a file, "_tb" of a module or a name in a language.
+QString fileName(const SystemMap &map, QLatin1String suffix);
+QString symbolName(const SystemMap &map, QLatin1String suffix);
+// "TARVO_ORIX_M1" and the suffix: of a macro, or a variable of a build.
+QString macroName(const SystemMap &map, QLatin1String suffix);
 
 // Whether programs in C or C++ may know the word as something else than a function or a variable: a
 // keyword, a macro or a type of the standard library, or a macro that compilers define. Counts

@@ -38,19 +38,37 @@ bool isSupportFile(const QString &name)
 
 } // namespace
 
+QStringList rtlNames(const QString &folder)
+{
+    // An empty name would list the current folder.
+    return folder.isEmpty() ? QStringList()
+                            : QDir(folder).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+}
+
+RtlUse rtlUse(const QString &name, const OptionMap &options, const QString &device)
+{
+    if (isSupportFile(name))
+        return RtlUse::Included;
+    return isInDeviceList(name, excludedSources(device, isOn(options, Key::enableDebug)))
+               ? RtlUse::Left
+               : RtlUse::Compiled;
+}
+
+bool isIncludeCompiled(const QString &name)
+{
+    return std::any_of(std::begin(compiledIncludeFiles), std::end(compiledIncludeFiles),
+                       [&name](QLatin1String compiled) { return name == compiled; });
+}
+
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir)
 {
     const bool debug = isOn(options, Key::enableDebug);
     const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
-    const QLatin1String excluded = excludedSources(device, debug);
     QStringList sourceFiles;
-    // An empty name would list the current folder.
-    const QStringList names =
-        dataDir.isEmpty() ? QStringList()
-                          : QDir(dataDir).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+    const QStringList names = rtlNames(dataDir);
     for (const QString &name : names) {
-        if (!isInDeviceList(name, excluded) && !isSupportFile(name))
+        if (rtlUse(name, options, device) == RtlUse::Compiled)
             sourceFiles.append(dataDir + u'/' + name);
     }
     for (const QLatin1String name : compiledIncludeFiles)

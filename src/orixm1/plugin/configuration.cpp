@@ -2,6 +2,7 @@
 
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
+#include "rules/generationfolder.h"
 #include "system/description.h"
 
 #include <dev/devicedb.h>
@@ -73,7 +74,11 @@ Utils::Result<SystemMap> readSystem(const QString &ipcFile, const QString &ipId,
     const Utils::Result<SystemDescription> description = readSystemDescription(dataPath);
     if (!description)
         return Utils::Failure{description.reason()};
-    return systemMap(read->options, read->device, *description);
+    SystemMap map = systemMap(read->options, read->device, *description);
+    if (const auto contents =
+            readInitialContents(read->options, generationFolder(QFileInfo(ipcFile).absolutePath())))
+        map.initialContents = *contents;
+    return map;
 }
 
 } // namespace TARVOORIXM1

@@ -1,6 +1,9 @@
 #include "description.h"
 
+#include "config/descriptor.h"
 #include "config/latin1literal.h"
+#include "config/optionkeys.h"
+#include "generate/sourcefiles.h"
 
 #include <reading/limits.h>
 #include <reading/plainfile.h>
@@ -23,6 +26,30 @@ QString peripheralOf(const QString &file, const QVector<Peripheral> &peripherals
         std::find_if(peripherals.begin(), peripherals.end(),
                      [&base](const Peripheral &entry) { return entry.name.toLower() == base; });
     return served == peripherals.end() ? QString() : served->name;
+}
+
+// Appends the files with these names; returns why one cannot be read, empty if all can.
+QString readFiles(const QString &folder, const QStringList &names, QVector<DataFile> *files)
+{
+    for (const QString &name : names) {
+        DataFile file{name, {}};
+        QString reason;
+        const QString path = folder + u'/' + name;
+        if (!Reading::readPlainFile(path, Reading::Limits::rtlFile, &file.bytes, &reason))
+            return u'"' + QDir::toNativeSeparators(path) + "\": cannot be read: "_l1 + reason;
+        files->append(file);
+    }
+    return {};
+}
+
+// What stands in for the processor: the bus-functional model in both languages.
+QStringList processorModelNames(const QString &folder)
+{
+    QStringList names = QDir(folder).entryList(
+        {QStringLiteral("cortex_m1_core_bfm.v"), QStringLiteral("cortex_m1_core_bfm.vhd")},
+        QDir::Files | QDir::System, QDir::Unsorted);
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 } // namespace
@@ -52,6 +79,18 @@ Utils::Result<SystemDescription> readSystemDescription(const QString &dataPath)
                                   "\": cannot be read: "_l1 + reason};
         description.firmware.append(entry);
     }
+    QVariantMap folders;
+    addDataFolders(folders, dataPath);
+    const QString debug = folders.value(InfoKey::debug).toString();
+    const QString noDebug = folders.value(InfoKey::noDebug).toString();
+    const QString models = dataPath + "/simulation"_l1;
+    QString problem = readFiles(debug, rtlNames(debug), &description.debugRtl);
+    if (problem.isEmpty())
+        problem = readFiles(noDebug, rtlNames(noDebug), &description.noDebugRtl);
+    if (problem.isEmpty())
+        problem = readFiles(models, processorModelNames(models), &description.processorModels);
+    if (!problem.isEmpty())
+        return Utils::Failure{problem};
     return description;
 }
 

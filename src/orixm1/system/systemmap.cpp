@@ -3,6 +3,13 @@
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
+#include "generate/defines.h"
+#include "generate/sourcefiles.h"
+
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+
+#include <QDir>
 
 #include <algorithm>
 
@@ -93,7 +100,63 @@ QVector<FirmwareFile> firmwareFor(const QVector<Peripheral> &enabled,
     return wanted;
 }
 
+bool hasInitialContents(const OptionMap &options)
+{
+    return isOn(options, Key::internalInstructionMemory) && isOn(options, Key::initializeItcm);
+}
+
+QVector<HardwareFile> rtlOf(const OptionMap &options, const DEV::DeviceArg &device,
+                            const SystemDescription &description)
+{
+    using Use = HardwareFile::Use;
+    QVector<HardwareFile> compiled;
+    QVector<HardwareFile> included;
+    for (const DataFile &file :
+         isOn(options, Key::enableDebug) ? description.debugRtl : description.noDebugRtl) {
+        switch (rtlUse(file.name, options, device.device())) {
+        case RtlUse::Compiled:
+            compiled.append({file.name, Use::Compiled, file.bytes});
+            break;
+        case RtlUse::Included:
+            included.append({file.name, Use::Included, file.bytes});
+            break;
+        case RtlUse::Left:
+            break;
+        }
+    }
+    if (compiled.isEmpty())
+        return {};
+    OptionMap portable = options;
+    if (hasInitialContents(options))
+        portable.insert(Key::itcmInitializationAbsolutePath, QString(initialContentsFolder));
+    const QVector<IncludeFile> generated = buildIncludeFiles(portable, device);
+    for (const IncludeFile &file : generated)
+        included.append({file.name, Use::Generated,
+                         (file.lines + QStringList(QString())).join(u'\n').toUtf8()});
+    return compiled + included;
+}
+
 } // namespace
+
+Utils::Result<QVector<DataFile>> readInitialContents(const OptionMap &options,
+                                                     const QString &generationFolder)
+{
+    QVector<DataFile> files;
+    if (!hasInitialContents(options))
+        return files;
+    const QString named = QDir::cleanPath(textOf(options, Key::itcmInitializationAbsolutePath));
+    const QDir folder(QDir(generationFolder).absoluteFilePath(named));
+    for (int lane = 0; lane < 4; ++lane) {
+        DataFile file{"itcm"_l1 + QString::number(lane), {}};
+        QString reason;
+        const QString path = folder.filePath(file.name);
+        if (!Reading::readPlainFile(path, Reading::Limits::memoryFile, &file.bytes, &reason))
+            return Utils::Failure{u'"' + QDir::toNativeSeparators(path) +
+                                  "\": cannot be read: "_l1 + reason};
+        files.append(file);
+    }
+    return files;
+}
 
 SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,
                     const SystemDescription &description)
@@ -113,6 +176,8 @@ SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,
     map.resets = resetsAmong(map.ports);
     map.blackBoxes = blackBoxesOf(options, device.device());
     map.firmware = firmwareFor(map.peripherals, description.firmware);
+    map.rtl = rtlOf(options, device, description);
+    map.processorModels = description.processorModels;
     return map;
 }
 

@@ -6,6 +6,8 @@
 
 #include <dev/devicearg.h>
 
+#include <QLatin1String>
+
 #include <optional>
 
 namespace TARVOORIXM1
@@ -51,6 +53,19 @@ struct ResourceFigures {
     QString notCounted; // a sentence of what the lines leave out; empty: nothing
 };
 
+// A text that tools read which compile or simulate the subsystem.
+struct HardwareFile {
+    enum class Use {
+        Compiled,  // in the order of compilation
+        Included,  // by others
+        Generated, // included; made of the configuration
+    };
+
+    QString name; // without a folder
+    Use use = Use::Compiled;
+    QByteArray bytes;
+};
+
 // Everything that software and integration need to know of one configured subsystem. A plain value
 // that is made once; every document and hand-off file is a function of it.
 struct SystemMap {
@@ -65,9 +80,28 @@ struct SystemMap {
     QVector<ExternalSource> resets;
     QVector<BlackBox> blackBoxes;
     QVector<FirmwareFile> firmware; // for the peripherals that are on, by name
+    // The RTL of the subsystem: what synthesis compiles in the order of compilation, then what that
+    // includes, by name, with what a generation writes last. A memory with first contents reads
+    // them from the folder initialContentsFolder; otherwise no byte differs from a generation's.
+    QVector<HardwareFile> rtl;
+    // Stand-ins of the processor for simulation, by name.
+    QVector<DataFile> processorModels;
+    // The first contents of the instruction memory: whoever can read them sets them
+    // (readInitialContents()), systemMap() knows none.
+    QVector<DataFile> initialContents;
     // Of a netlist of this configuration: whoever has one sets them, systemMap() knows none.
     std::optional<ResourceFigures> resources;
 };
+
+// Where the RTL of a map looks for the first contents of a memory, from the folder in which its
+// tools run.
+inline constexpr QLatin1String initialContentsFolder("rtl/itcm");
+
+// The files that a configuration gives the instruction memory as its first contents; none where it
+// gives none. `generationFolder` is where a relative folder starts from. A failure is a sentence
+// with the file and the reason.
+Utils::Result<QVector<DataFile>> readInitialContents(const OptionMap &options,
+                                                     const QString &generationFolder);
 
 // Reads nothing and never fails: values that no option may have are taken as generation takes them.
 SystemMap systemMap(const OptionMap &options, const DEV::DeviceArg &device,

@@ -1,0 +1,132 @@
+// A first test bench of Tarvo_ORIX_M1_Top: clock, reset, pull-ups, every input at rest. The model of the processor plays the script of
+// transfers +script=sim/tarvo_orix_m1_tb.play and prints what fails; without an end after 100000 cycles the bench stops.
+// With COCOTB_SIM defined, clock and reset are left to Python (sim/test_tarvo_orix_m1.py).
+`timescale 1ns / 1ps
+
+// verilator lint_off UNUSEDSIGNAL
+// verilator lint_off UNDRIVEN
+module tarvo_orix_m1_tb;
+    // Connect what your design has; these are the levels at rest.
+    reg         HCLK; // clocks processor, buses and blocks
+    reg         hwRstn; // resets everything, debug included, active low
+    wire        LOCKUP; // the processor has stopped after a second fault
+    wire        HALTED; // the debugger has stopped the processor
+    tri0        JTAG_7; // TMS or SWDIO
+    tri0        JTAG_9; // TCK or SWCLK, clocks the debug port
+    tri1        JTAG_3; // nTRST, resets the debug port, active low, to be pulled up
+    tri0        JTAG_4; // driven low
+    tri0        JTAG_5; // TDI
+    tri0        JTAG_6; // driven low
+    tri0        JTAG_8; // driven low
+    tri0        JTAG_10; // driven low
+    tri0        JTAG_11; // driven low
+    tri0        JTAG_12; // driven low
+    tri0        JTAG_13; // TDO
+    tri0        JTAG_14; // driven low
+    tri1        JTAG_15; // nSRST, resets everything but debug; left open, it can hold the subsystem in reset for ever, active low, to be pulled up
+    tri0        JTAG_16; // driven low
+    tri0        JTAG_17; // not connected
+    tri0        JTAG_18; // driven low
+    tri0 [15:0] GPIO; // pins
+    tri0        FLASH_SPI_HOLDN; // hold of the flash, always released, active low
+    tri0        FLASH_SPI_CSN; // chip select of the flash, active low
+    tri0        FLASH_SPI_MISO; // data from the flash
+    tri0        FLASH_SPI_MOSI; // data to the flash
+    tri0        FLASH_SPI_WPN; // write protection of the flash, active low
+    tri0        FLASH_SPI_CLK; // clock of the flash
+    wire        UART0RXD = 1'b1; // serial data to receive
+    wire        UART0TXD; // serial data sent
+    wire        UART1RXD = 1'b1; // serial data to receive
+    wire        UART1TXD; // serial data sent
+    wire        TIMER0EXTIN = 1'b0; // gate or events of the timer
+    wire        TIMER1EXTIN = 1'b0; // gate or events of the timer
+    wire        RTCSRCCLK = 1'b0; // source clock of the seconds, sampled with HCLK and slower than HCLK / 4
+    tri1        SCL; // clock of the bus, to be pulled up
+    tri1        SDA; // data of the bus, to be pulled up
+    wire        MOSI; // data to the slave
+    wire        MISO = 1'b0; // data from the slave
+    wire        SCLK; // clock of the slave
+    wire        NSS; // slave select, active low
+    wire        SD_CLK; // clock of the card
+    wire        SD_SPICLK = 1'b0; // source clock of SD_CLK, sampled with HCLK and slower than HCLK / 4
+    wire        SD_CS; // chip select of the card, active low
+    wire        SD_DATAIN = 1'b1; // data from the card
+    wire        SD_DATAOUT; // data to the card
+    wire        SD_CARD_INIT; // software has initialised the card
+    wire        SD_CHECKIN = 1'b1; // switch of the card's socket, low with a card, active low
+    wire        SD_CHECKOUT; // a card is present
+
+    Tarvo_ORIX_M1_Top u_dut (
+        .HCLK(HCLK),
+        .hwRstn(hwRstn),
+        .LOCKUP(LOCKUP),
+        .HALTED(HALTED),
+        .JTAG_7(JTAG_7),
+        .JTAG_9(JTAG_9),
+        .JTAG_3(JTAG_3),
+        .JTAG_4(JTAG_4),
+        .JTAG_5(JTAG_5),
+        .JTAG_6(JTAG_6),
+        .JTAG_8(JTAG_8),
+        .JTAG_10(JTAG_10),
+        .JTAG_11(JTAG_11),
+        .JTAG_12(JTAG_12),
+        .JTAG_13(JTAG_13),
+        .JTAG_14(JTAG_14),
+        .JTAG_15(JTAG_15),
+        .JTAG_16(JTAG_16),
+        .JTAG_17(JTAG_17),
+        .JTAG_18(JTAG_18),
+        .GPIO(GPIO),
+        .FLASH_SPI_HOLDN(FLASH_SPI_HOLDN),
+        .FLASH_SPI_CSN(FLASH_SPI_CSN),
+        .FLASH_SPI_MISO(FLASH_SPI_MISO),
+        .FLASH_SPI_MOSI(FLASH_SPI_MOSI),
+        .FLASH_SPI_WPN(FLASH_SPI_WPN),
+        .FLASH_SPI_CLK(FLASH_SPI_CLK),
+        .UART0RXD(UART0RXD),
+        .UART0TXD(UART0TXD),
+        .UART1RXD(UART1RXD),
+        .UART1TXD(UART1TXD),
+        .TIMER0EXTIN(TIMER0EXTIN),
+        .TIMER1EXTIN(TIMER1EXTIN),
+        .RTCSRCCLK(RTCSRCCLK),
+        .SCL(SCL),
+        .SDA(SDA),
+        .MOSI(MOSI),
+        .MISO(MISO),
+        .SCLK(SCLK),
+        .NSS(NSS),
+        .SD_CLK(SD_CLK),
+        .SD_SPICLK(SD_SPICLK),
+        .SD_CS(SD_CS),
+        .SD_DATAIN(SD_DATAIN),
+        .SD_DATAOUT(SD_DATAOUT),
+        .SD_CARD_INIT(SD_CARD_INIT),
+        .SD_CHECKIN(SD_CHECKIN),
+        .SD_CHECKOUT(SD_CHECKOUT)
+    );
+    wire done = u_dut.u_core.done;
+
+`ifndef COCOTB_SIM
+    initial HCLK = 1'b0;
+    always #10 HCLK = ~HCLK;
+
+    initial begin
+        hwRstn = 1'b0;
+        repeat (10) @(negedge HCLK);
+        hwRstn = 1'b1;
+    end
+
+    integer cycle = 0;
+    always @(negedge HCLK) begin
+        cycle = cycle + 1;
+        if (done === 1'b1) begin
+            if (u_dut.u_core.checks == 0 || u_dut.u_core.failures != 0 || LOCKUP !== 1'b0)
+                $fatal(1, "%m: the first accesses failed");
+            $finish;
+        end else if (cycle == 100000)
+            $fatal(1, "%m: no end of the script after %0d cycles", cycle);
+    end
+`endif
+endmodule

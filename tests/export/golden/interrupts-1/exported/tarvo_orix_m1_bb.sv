@@ -1,0 +1,40 @@
+// Tarvo_ORIX_M1_Top without its contents, in SystemVerilog: for synthesis and lint of a design that takes the netlist later.
+// Compile this file or the subsystem itself, never both.
+// verilator lint_off DECLFILENAME
+// verilator lint_off UNUSEDSIGNAL
+// verilator lint_off UNDRIVEN
+(* blackbox *)
+module Tarvo_ORIX_M1_Top (
+    input  logic         HCLK, // clocks processor, buses and blocks
+    input  logic         hwRstn, // resets everything, debug included, active low
+    output logic         LOCKUP, // the processor has stopped after a second fault
+    output logic         HALTED, // the debugger has stopped the processor
+    inout  wire          JTAG_7, // TMS or SWDIO
+    inout  wire          JTAG_9, // TCK or SWCLK, clocks the debug port
+    inout  wire          JTAG_3, // nTRST, resets the debug port, active low, to be pulled up
+    inout  wire          JTAG_4, // driven low
+    inout  wire          JTAG_5, // TDI
+    inout  wire          JTAG_6, // driven low
+    inout  wire          JTAG_8, // driven low
+    inout  wire          JTAG_10, // driven low
+    inout  wire          JTAG_11, // driven low
+    inout  wire          JTAG_12, // driven low
+    inout  wire          JTAG_13, // TDO
+    inout  wire          JTAG_14, // driven low
+    inout  wire          JTAG_15, // nSRST, resets everything but debug; left open, it can hold the subsystem in reset for ever, active low, to be pulled up
+    inout  wire          JTAG_16, // driven low
+    inout  wire          JTAG_17, // not connected
+    inout  wire          JTAG_18, // driven low
+    input  logic [3:0]   EXTINT, // interrupts 12 (bit 0) to 15 (bit 3), requested while high
+    input  logic [15:0]  GPIOIN, // levels of the pins
+    output logic [15:0]  GPIOOUT, // values for the pins
+    output logic [15:0]  GPIOOUTEN, // 1 drives the pin
+    input  logic         UART0RXD, // serial data to receive
+    output logic         UART0TXD, // serial data sent
+    input  logic         TIMER1EXTIN, // gate or events of the timer
+    output logic         MOSI, // data to the slave
+    input  logic         MISO, // data from the slave
+    output logic         SCLK, // clock of the slave
+    output logic         NSS  // slave select, active low
+);
+endmodule

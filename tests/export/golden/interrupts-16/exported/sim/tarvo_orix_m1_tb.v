@@ -1,0 +1,98 @@
+// A first test bench of Tarvo_ORIX_M1_Top: clock, reset, pull-ups, every input at rest. The model of the processor plays the script of
+// transfers +script=sim/tarvo_orix_m1_tb.play and prints what fails; without an end after 100000 cycles the bench stops.
+// With COCOTB_SIM defined, clock and reset are left to Python (sim/test_tarvo_orix_m1.py).
+`timescale 1ns / 1ps
+
+// verilator lint_off UNUSEDSIGNAL
+// verilator lint_off UNDRIVEN
+module tarvo_orix_m1_tb;
+    // Connect what your design has; these are the levels at rest.
+    reg         HCLK; // clocks processor, buses and blocks
+    reg         hwRstn; // resets everything, debug included, active low
+    wire        LOCKUP; // the processor has stopped after a second fault
+    wire        HALTED; // the debugger has stopped the processor
+    tri0        JTAG_7; // TMS or SWDIO
+    tri0        JTAG_9; // TCK or SWCLK, clocks the debug port
+    tri1        JTAG_3; // nTRST, resets the debug port, active low, to be pulled up
+    tri0        JTAG_4; // driven low
+    tri0        JTAG_5; // TDI
+    tri0        JTAG_6; // driven low
+    tri0        JTAG_8; // driven low
+    tri0        JTAG_10; // driven low
+    tri0        JTAG_11; // driven low
+    tri0        JTAG_12; // driven low
+    tri0        JTAG_13; // TDO
+    tri0        JTAG_14; // driven low
+    tri1        JTAG_15; // nSRST, resets everything but debug; left open, it can hold the subsystem in reset for ever, active low, to be pulled up
+    tri0        JTAG_16; // driven low
+    tri0        JTAG_17; // not connected
+    tri0        JTAG_18; // driven low
+    wire [3:0]  EXTINT = {4{1'b0}}; // interrupts 12 (bit 0) to 15 (bit 3), requested while high
+    wire [15:0] GPIOIN = {16{1'b0}}; // levels of the pins
+    wire [15:0] GPIOOUT; // values for the pins
+    wire [15:0] GPIOOUTEN; // 1 drives the pin
+    wire        UART0RXD = 1'b1; // serial data to receive
+    wire        UART0TXD; // serial data sent
+    wire        TIMER1EXTIN = 1'b0; // gate or events of the timer
+    wire        MOSI; // data to the slave
+    wire        MISO = 1'b0; // data from the slave
+    wire        SCLK; // clock of the slave
+    wire        NSS; // slave select, active low
+
+    Tarvo_ORIX_M1_Top u_dut (
+        .HCLK(HCLK),
+        .hwRstn(hwRstn),
+        .LOCKUP(LOCKUP),
+        .HALTED(HALTED),
+        .JTAG_7(JTAG_7),
+        .JTAG_9(JTAG_9),
+        .JTAG_3(JTAG_3),
+        .JTAG_4(JTAG_4),
+        .JTAG_5(JTAG_5),
+        .JTAG_6(JTAG_6),
+        .JTAG_8(JTAG_8),
+        .JTAG_10(JTAG_10),
+        .JTAG_11(JTAG_11),
+        .JTAG_12(JTAG_12),
+        .JTAG_13(JTAG_13),
+        .JTAG_14(JTAG_14),
+        .JTAG_15(JTAG_15),
+        .JTAG_16(JTAG_16),
+        .JTAG_17(JTAG_17),
+        .JTAG_18(JTAG_18),
+        .EXTINT(EXTINT),
+        .GPIOIN(GPIOIN),
+        .GPIOOUT(GPIOOUT),
+        .GPIOOUTEN(GPIOOUTEN),
+        .UART0RXD(UART0RXD),
+        .UART0TXD(UART0TXD),
+        .TIMER1EXTIN(TIMER1EXTIN),
+        .MOSI(MOSI),
+        .MISO(MISO),
+        .SCLK(SCLK),
+        .NSS(NSS)
+    );
+    wire done = u_dut.u_core.done;
+
+`ifndef COCOTB_SIM
+    initial HCLK = 1'b0;
+    always #10 HCLK = ~HCLK;
+
+    initial begin
+        hwRstn = 1'b0;
+        repeat (10) @(negedge HCLK);
+        hwRstn = 1'b1;
+    end
+
+    integer cycle = 0;
+    always @(negedge HCLK) begin
+        cycle = cycle + 1;
+        if (done === 1'b1) begin
+            if (u_dut.u_core.checks == 0 || u_dut.u_core.failures != 0 || LOCKUP !== 1'b0)
+                $fatal(1, "%m: the first accesses failed");
+            $finish;
+        end else if (cycle == 100000)
+            $fatal(1, "%m: no end of the script after %0d cycles", cycle);
+    end
+`endif
+endmodule

@@ -1,0 +1,44 @@
+// Tarvo_ORIX_M1_Top without its contents, in Verilog: for synthesis and lint of a design that takes the netlist later.
+// Compile this file or the subsystem itself, never both.
+// verilator lint_off DECLFILENAME
+// verilator lint_off UNUSEDSIGNAL
+// verilator lint_off UNDRIVEN
+(* blackbox *)
+module Tarvo_ORIX_M1_Top (
+    input  wire          HCLK, // clocks processor, buses and blocks
+    input  wire          hwRstn, // resets everything, debug included, active low
+    output wire          LOCKUP, // the processor has stopped after a second fault
+    output wire          HALTED, // the debugger has stopped the processor
+    inout  wire          JTAG_7, // TMS or SWDIO
+    inout  wire          JTAG_9, // TCK or SWCLK, clocks the debug port
+    inout  wire          JTAG_3, // nTRST, resets the debug port, active low, to be pulled up
+    inout  wire          JTAG_4, // driven low
+    inout  wire          JTAG_5, // TDI
+    inout  wire          JTAG_6, // driven low
+    inout  wire          JTAG_8, // driven low
+    inout  wire          JTAG_10, // driven low
+    inout  wire          JTAG_11, // driven low
+    inout  wire          JTAG_12, // driven low
+    inout  wire          JTAG_13, // TDO
+    inout  wire          JTAG_14, // driven low
+    inout  wire          JTAG_15, // nSRST, resets everything but debug; left open, it can hold the subsystem in reset for ever, active low, to be pulled up
+    inout  wire          JTAG_16, // driven low
+    inout  wire          JTAG_17, // not connected
+    inout  wire          JTAG_18, // driven low
+    inout  wire          FLASH_SPI_HOLDN, // hold of the flash, always released, active low
+    inout  wire          FLASH_SPI_CSN, // chip select of the flash, active low
+    inout  wire          FLASH_SPI_MISO, // data from the flash
+    inout  wire          FLASH_SPI_MOSI, // data to the flash
+    inout  wire          FLASH_SPI_WPN, // write protection of the flash, active low
+    inout  wire          FLASH_SPI_CLK, // clock of the flash
+    output wire  [1:0]   O_psram_ck, // clocks of the memory
+    output wire  [1:0]   O_psram_ck_n, // the same, inverted
+    inout  wire  [1:0]   IO_psram_rwds, // strobes of the memory
+    inout  wire  [15:0]  IO_psram_dq, // data of the memory
+    output wire  [1:0]   O_psram_reset_n, // resets the memory, active low
+    output wire  [1:0]   O_psram_cs_n, // chip selects of the memory, active low
+    output wire          init_calib, // the PSRAM is calibrated
+    input  wire          psram_ref_clk, // reference clock of the PSRAM interface
+    input  wire          psram_memory_clk  // clock of the PSRAM
+);
+endmodule
