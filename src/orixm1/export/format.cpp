@@ -6,6 +6,7 @@
 #include "devicetree.h"
 #include "drivers.h"
 #include "header.h"
+#include "ipxact.h"
 #include "linker.h"
 #include "rtl.h"
 #include "startup.h"
@@ -51,6 +52,16 @@ constexpr Format rows[] = {
      "The sources of the subsystem with what they include, for tools that compile them "
      "themselves."_l1,
      "Verilog 2005"_l1, "iverilog, verilator, yosys"_l1, rtlFiles},
+    {"ipxact"_l1, "ipxact/tarvo_orix_m1.xml, ipxact/tarvo_orix_m1_catalog.xml"_l1,
+     "IP-XACT component"_l1,
+     "Ports, buses, clocks, resets, memory map, registers and interrupts for tools that put "
+     "designs "
+     "together; it names the files of rtl and of what is made for software."_l1,
+     "IEEE 1685-2014"_l1, "xmllint"_l1, ipxact2014Files},
+    {"ipxact-2022"_l1, "ipxact-2022/tarvo_orix_m1.xml, ipxact-2022/tarvo_orix_m1_catalog.xml"_l1,
+     "IP-XACT component, edition of 2022"_l1,
+     "The same for tools that read the later edition of the standard."_l1, "IEEE 1685-2022"_l1,
+     "xmllint"_l1, ipxact2022Files},
 };
 
 } // namespace
