@@ -59,6 +59,8 @@ int run(int argc, char *argv[])
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.set_help_all_flag("--help-all", "Print the help of every command and exit");
     app.fallthrough();
+    // Behind a command its name is a word like others: a format or a file may have it.
+    app.require_subcommand(0, 1);
     app.footer(footer);
     std::string dataFolder;
     std::string deviceFolder;

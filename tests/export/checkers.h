@@ -38,8 +38,10 @@ public:
             TestSupport::write(dir.filePath(it.key()), it.value());
         for (auto it = files.begin(); it != files.end(); ++it)
             addTasksFor(it.key());
+        addHardware();
         runTasks();
         addLink();
+        addSimulation();
         runTasks();
         return m_complaints;
     }
@@ -57,6 +59,9 @@ private:
         QString silence;    // what it may say, as a regular expression
         QString mayFailFor; // with this text in its output a failure is as it should be
     };
+
+    // Kinds of files that no tool is asked about one by one.
+    const QStringList togetherOnly = words("ld x v vhd f play vlt");
 
     static QStringList words(const char *text)
     {
@@ -98,6 +103,9 @@ private:
 
     void addTasksFor(const QString &file)
     {
+        // What is compiled or simulated is looked at together.
+        if (file.startsWith(QLatin1String("rtl/")))
+            return;
         const QString kind = file.section(u'.', -1);
         const QByteArray own = sumOf([&file](const QString &path) { return path == file; });
         if (kind == QLatin1String("svd")) {
@@ -124,26 +132,159 @@ private:
             addConstraints(file, own);
         } else if (kind == QLatin1String("svg") || kind == QLatin1String("xml")) {
             add(file, QStringLiteral("xmllint"), words("--noout --nonet") + QStringList{file}, own);
-        } else if (kind != QLatin1String("ld") && kind != QLatin1String("x")) {
+        } else if (kind == QLatin1String("py")) {
+            add(file, QStringLiteral("python3"), words("-m py_compile") + QStringList{file}, own);
+        } else if (kind == QLatin1String("tcl")) {
+            addPins(file, own);
+        } else if (kind == QLatin1String("cmake")) {
+            add(file, QStringLiteral("cmake"), {QStringLiteral("-P"), file}, own);
+        } else if (kind == QLatin1String("mk")) {
+            add(file, QStringLiteral("make"), words("-s -f") + QStringList{file}, own);
+        } else if (kind == QLatin1String("sv") || file.endsWith(QLatin1String("_bb.v"))) {
+            add(file, QStringLiteral("verilator"), words("--lint-only -Wall") + QStringList{file},
+                own);
+            add(file, QStringLiteral("iverilog"), words("-g2012 -Wall -tnull") + QStringList{file},
+                own);
+            add(file, QStringLiteral("yosys"),
+                {QStringLiteral("-q"), QStringLiteral("-p"),
+                 QLatin1String("read_verilog -sv ") + file},
+                own);
+        } else if (!togetherOnly.contains(kind)) {
             m_complaints.append(file + QLatin1String(": nothing here checks such a file"));
         }
+    }
+
+    // Each line that waits for a pin is a command, and the file is none as long as all wait.
+    void addPins(const QString &file, const QByteArray &own)
+    {
+        const QString reader = QString(file).replace(u'/', u'_') + QLatin1String(".reader");
+        TestSupport::write(m_folder + u'/' + reader,
+                           "source [lindex $argv 0]\n"
+                           "proc tarvo_orix_m1_pin {port pin direction pull} {\n"
+                           "    if {$pin ne \"PIN\"} { error $port }\n"
+                           "    incr ::lines\n"
+                           "}\n"
+                           "set lines 0\n"
+                           "set file [open [lindex $argv 0]]\n"
+                           "while {[gets $file line] >= 0} {\n"
+                           "    if {[string match {# tarvo_orix_m1_pin {*} *} $line]} {\n"
+                           "        eval [string range $line 2 end]\n"
+                           "    }\n"
+                           "}\n"
+                           "if {$lines < 3} { error \"no ports\" }\n");
+        add(file, QStringLiteral("tclsh"), {reader, file}, own);
+    }
+
+    QStringList listed(const QString &list) const
+    {
+        return QString::fromUtf8(m_files->value(list))
+            .split(u'\n')
+            .filter(QRegularExpression(QStringLiteral("^[a-z].*\\.v$")));
+    }
+
+    // The subsystem as tools for synthesis, lint and simulation take it.
+    void addHardware()
+    {
+        const QString synthesis = QStringLiteral("tarvo_orix_m1_synthesis.f");
+        const QString simulation = QStringLiteral("tarvo_orix_m1_simulation.f");
+        const QByteArray input = sumOf([](const QString &path) {
+            return path.startsWith(QLatin1String("rtl/")) ||
+                   path.startsWith(QLatin1String("sim/")) || path.endsWith(QLatin1String(".f")) ||
+                   path.endsWith(QLatin1String(".vlt")) || path.endsWith(QLatin1String("_pkg.vhd"));
+        });
+        if (m_files->contains(synthesis)) {
+            add(synthesis, QStringLiteral("verilator"),
+                words("--lint-only -Wall --top-module Tarvo_ORIX_M1_Top tarvo_orix_m1.vlt -f") +
+                    QStringList{synthesis},
+                input);
+            add(synthesis, QStringLiteral("iverilog"),
+                words("-g2005 -Wall -tnull -s Tarvo_ORIX_M1_Top -c") + QStringList{synthesis},
+                input);
+            add(synthesis, QStringLiteral("yosys"),
+                {QStringLiteral("-q"), QStringLiteral("-p"),
+                 QLatin1String("read_verilog -Irtl ") + listed(synthesis).join(u' ') +
+                     QLatin1String("; hierarchy -check -top Tarvo_ORIX_M1_Top")},
+                input,
+                QStringLiteral("(Warning: Yosys has only limited support for tri-state.*\\n)*"));
+        }
+        if (m_files->contains(simulation)) {
+            add(simulation, QStringLiteral("verilator"),
+                words(
+                    "--lint-only --timing -Wno-lint -Wno-style --top-module tarvo_orix_m1_tb -f") +
+                    QStringList{simulation},
+                input);
+            add(simulation, QStringLiteral("iverilog"),
+                words("-g2005-sv -Wall -Wno-timescale -s tarvo_orix_m1_tb -o simulation.vvp -c") +
+                    QStringList{simulation},
+                {});
+        }
+        const QString bench = QStringLiteral("sim/tarvo_orix_m1_tb.vhd");
+        if (!m_files->contains(bench))
+            return;
+        // In place of the processor's model, which needs the netlist's.
+        TestSupport::write(m_folder + QLatin1String("/model.vhd"),
+                           "library ieee;\nuse ieee.std_logic_1164.all;\n"
+                           "package cortex_m1_core_bfm is\n"
+                           "    subtype script_name is string(1 to 1024);\n"
+                           "    function script_of(name : string) return script_name;\n"
+                           "    signal script : script_name;\n"
+                           "    signal done : std_logic := '0';\n"
+                           "end package;\n"
+                           "package body cortex_m1_core_bfm is\n"
+                           "    function script_of(name : string) return script_name is\n"
+                           "        variable result : script_name := (others => NUL);\n"
+                           "    begin\n"
+                           "        return result;\n"
+                           "    end function;\n"
+                           "end package body;\n");
+        add(bench, QStringLiteral("sh"),
+            {QStringLiteral("-ec"),
+             QStringLiteral("ghdl -a --std=93 model.vhd tarvo_orix_m1_pkg.vhd %1; "
+                            "ghdl -e --std=93 -Wno-binding tarvo_orix_m1_tb")
+                 .arg(bench)},
+            input);
+    }
+
+    // The script's accesses to the RTL.
+    void addSimulation()
+    {
+        if (m_files->contains(QStringLiteral("tarvo_orix_m1_simulation.f")) &&
+            m_complaints.isEmpty())
+            add(QStringLiteral("sim/tarvo_orix_m1_tb.play"), QStringLiteral("vvp"),
+                words("-n simulation.vvp +script=sim/tarvo_orix_m1_tb.play"), {},
+                QStringLiteral("PASS\\n([^\\n]*\\$finish called[^\\n]*\\n)?"));
     }
 
     // Read as Tcl, with the commands that tools have for such files and no others.
     void addConstraints(const QString &file, const QByteArray &own)
     {
         const QString reader = QString(file).replace(u'/', u'_') + QLatin1String(".reader");
-        TestSupport::write(m_folder + u'/' + reader,
-                           "proc get_cells {pattern} { return [list $pattern] }\n"
-                           "proc set_false_path {option cells} {\n"
-                           "    if {$option ne \"-to\"} { error \"set_false_path $option\" }\n"
-                           "}\n"
-                           "proc set_max_delay {from cells to others ns} {\n"
-                           "    if {$from ne \"-from\" || $to ne \"-to\" || $ns <= 0} {\n"
-                           "        error \"set_max_delay $from $to $ns\"\n"
-                           "    }\n"
-                           "}\n"
-                           "source [lindex $argv 0]\n");
+        TestSupport::write(
+            m_folder + u'/' + reader,
+            "proc get_cells {pattern} { return [list $pattern] }\n"
+            "proc get_ports {port} { return [list $port] }\n"
+            "proc create_clock {name clock of ns ports} {\n"
+            "    if {\"$name $of\" ne \"-name -period\" || $ns <= 0} { error $clock }\n"
+            "}\n"
+            "proc set_clock_groups {kind args} {\n"
+            "    if {$kind ne \"-asynchronous\" || [llength $args] % 2} { error $kind }\n"
+            "}\n"
+            "proc set_false_path {option cells} {\n"
+            "    if {$option ne \"-to\" && $option ne \"-from\"} { error $option }\n"
+            "}\n"
+            "proc set_max_delay {from cells to others ns} {\n"
+            "    if {$from ne \"-from\" || $to ne \"-to\" || $ns <= 0} {\n"
+            "        error \"set_max_delay $from $to $ns\"\n"
+            "    }\n"
+            "}\n"
+            // as it is, and with all that a user may set
+            "source [lindex $argv 0]\n"
+            "set text [read [open [lindex $argv 0]]]\n"
+            "foreach {line set} [regexp -all -line -inline {^#   (set .*)$} $text] {\n"
+            "    eval $set\n"
+            "}\n"
+            "set tarvo_orix_m1_are_ports 1\n"
+            "source [lindex $argv 0]\n");
         add(file, QStringLiteral("tclsh"), {reader, file}, own);
     }
 

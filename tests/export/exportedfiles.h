@@ -23,6 +23,14 @@ inline Files filesOf(const TARVOORIXM1::SystemMap &map, QStringList *complaints)
     return files;
 }
 
+// Whether it is a copy of what stands in the data folder, or a part of a generation: no golden file
+// repeats it.
+inline bool isCopy(const QString &path)
+{
+    return path.startsWith(QLatin1String("rtl/")) ||
+           path.startsWith(QLatin1String("sim/cortex_m1_core_bfm."));
+}
+
 // What holds for the bytes of every file.
 inline QStringList textComplaints(const Files &files)
 {
@@ -32,6 +40,10 @@ inline QStringList textComplaints(const Files &files)
         const auto complain = [&](const char *what) {
             complaints.append(it.key() + QLatin1String(": ") + QLatin1String(what));
         };
+        // The include files of a generation may be empty.
+        const bool isRtl = it.key().startsWith(QLatin1String("rtl/"));
+        if (bytes.isEmpty() && isRtl)
+            continue;
         if (bytes.isEmpty())
             complain("empty");
         if (!bytes.endsWith('\n') || bytes.endsWith("\n\n"))

@@ -88,14 +88,16 @@ void tst_ExportGolden::exportsTheSameFiles()
     const Exported::Files files = Exported::filesOf(*map, &complaints);
     complaints += Exported::textComplaints(files);
     QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(u'\n')));
+    QStringList own = files.keys();
+    own.erase(std::remove_if(own.begin(), own.end(), Exported::isCopy), own.end());
     if (TestSupport::acceptsGoldens())
         QVERIFY(QDir(exportedFolder(name)).removeRecursively());
     QString differences;
-    for (auto it = files.begin(); it != files.end(); ++it)
-        differences +=
-            TestSupport::differenceFromGolden(exportedFolder(name) + u'/' + it.key(), it.value());
+    for (const QString &path : qAsConst(own))
+        differences += TestSupport::differenceFromGolden(exportedFolder(name) + u'/' + path,
+                                                         files.value(path));
     QVERIFY2(differences.isEmpty(), qPrintable(u'\n' + differences));
-    QCOMPARE(goldenOf(name).keys(), files.keys());
+    QCOMPARE(goldenOf(name).keys(), own);
 }
 
 void tst_ExportGolden::toolsTakeEachFileWithoutAWord()
@@ -103,8 +105,14 @@ void tst_ExportGolden::toolsTakeEachFileWithoutAWord()
     QFETCH(QString, name);
     const auto map = mapOf(name);
     QVERIFY2(map, qPrintable(map.reason()));
-    const QStringList complaints =
-        m_checkers.complaints(goldenOf(name), map->processor.isBigEndian);
+    QStringList complaints;
+    Exported::Files files = goldenOf(name);
+    const Exported::Files all = Exported::filesOf(*map, &complaints);
+    for (auto it = all.begin(); it != all.end(); ++it) {
+        if (Exported::isCopy(it.key()))
+            files.insert(it.key(), it.value());
+    }
+    complaints += m_checkers.complaints(files, map->processor.isBigEndian);
     QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(u'\n')));
 }
 

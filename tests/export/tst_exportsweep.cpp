@@ -7,7 +7,10 @@
 #include <drawnoptions.h>
 
 #include <config/optionkeys.h>
+#include <config/optionvalue.h>
 #include <dev/devicedb.h>
+#include <rules/dialogdefaults.h>
+#include <rules/itcmcontents.h>
 #include <rules/tcmsizes.h>
 #include <system/description.h>
 
@@ -43,6 +46,24 @@ OptionMap anyOptions(const DEV::DeviceArg &device, TestSupport::Random &random)
     if (TestSupport::below(4, random) != 0) {
         map.insert(Key::itcmSize, itcm);
         map.insert(Key::dtcmSize, dtcm);
+    }
+    if (TestSupport::below(3, random) == 0) {
+        map.insert(Key::initializeItcm, true);
+        map.insert(Key::itcmInitializationAbsolutePath, QStringLiteral("/nowhere/itcm"));
+    }
+    return map;
+}
+
+// With first contents for the memory that wants some.
+SystemMap wholeMap(const OptionMap &options, const DEV::DeviceArg &device,
+                   const SystemDescription &description)
+{
+    SystemMap map = systemMap(options, device, description);
+    if (isOn(options, Key::internalInstructionMemory) && isOn(options, Key::initializeItcm)) {
+        const int index = generatedValue(options, Key::itcmSize, device.device()).toInt();
+        for (int lane = 0; lane < 4; ++lane)
+            map.initialContents.append({QStringLiteral("itcm%1").arg(lane),
+                                        QByteArray("5A\n").repeated(itcmLaneSize(index))});
     }
     return map;
 }
@@ -107,7 +128,7 @@ private Q_SLOTS:
         TestSupport::Random random(m_arguments.seed * 100003u + unsigned(device) * 1009u +
                                    unsigned(draw));
         const OptionMap options = anyOptions(arg, random);
-        const SystemMap map = systemMap(options, arg, m_description);
+        const SystemMap map = wholeMap(options, arg, m_description);
         QStringList complaints;
         QElapsedTimer timer;
         timer.start();
@@ -151,7 +172,7 @@ private:
         const auto description = readSystemDescription(QStringLiteral(TARVO_IP_DATA_DIR));
         QStringList complaints;
         const Exported::Files files =
-            description ? Exported::filesOf(systemMap(options, device, *description), &complaints)
+            description ? Exported::filesOf(wholeMap(options, device, *description), &complaints)
                         : Exported::Files();
         std::setlocale(LC_ALL, "C");
         QLocale::setDefault(locale);

@@ -5,8 +5,9 @@
 namespace TARVOORIXM1
 {
 
-// Timing constraints "tarvo_orix_m1.sdc" of the ports that come without a clock: for each one the
-// flip-flops of its synchronizer, as the netlist names them. No file without such a port.
+// Timing constraints "tarvo_orix_m1.sdc": the clocks, whose periods the user sets, the ports that
+// no clock times, and for those that are sampled the flip-flops of the synchronizer, as the netlist
+// names them.
 QVector<ExportedFile> constraintFiles(const SystemMap &map);
 
 } // namespace TARVOORIXM1

@@ -1,16 +1,22 @@
 #include "format.h"
 
+#include "blackbox.h"
+#include "buildfragments.h"
 #include "config/latin1literal.h"
 #include "constraints.h"
 #include "datasheet.h"
 #include "devicetree.h"
 #include "drivers.h"
+#include "filelist.h"
 #include "header.h"
 #include "ipxact.h"
 #include "linker.h"
+#include "lint.h"
+#include "pins.h"
 #include "rtl.h"
 #include "startup.h"
 #include "svd.h"
+#include "testbench.h"
 
 #include <algorithm>
 
@@ -46,17 +52,44 @@ constexpr Format rows[] = {
      "Diagram, memory and interrupt maps, ports, clocks and registers for people."_l1,
      "CommonMark with GFM tables, HTML, SVG"_l1, "cmark-gfm, xmllint"_l1, datasheetFiles},
     {"sdc"_l1, "tarvo_orix_m1.sdc"_l1, "Timing constraints"_l1,
-     "What tools that place and route must know of signals from pins and from other clocks."_l1,
+     "What tools that place and route must know of clocks, and of signals from pins and from other "
+     "clocks."_l1,
      "SDC (Tcl)"_l1, "tclsh"_l1, constraintFiles},
     {"rtl"_l1, "rtl"_l1, "RTL sources"_l1,
      "The sources of the subsystem with what they include, for tools that compile them "
      "themselves."_l1,
      "Verilog 2005"_l1, "iverilog, verilator, yosys"_l1, rtlFiles},
+    {"blackbox"_l1, "tarvo_orix_m1_bb.v, tarvo_orix_m1_bb.sv, tarvo_orix_m1_pkg.vhd"_l1,
+     "Black box"_l1, "The top module without contents, for designs that take the netlist later."_l1,
+     "Verilog 2005, SystemVerilog 2012, VHDL-93"_l1, "iverilog, verilator, yosys, ghdl"_l1,
+     blackboxFiles},
+    {"filelist"_l1, "tarvo_orix_m1_synthesis.f, tarvo_orix_m1_simulation.f"_l1, "File lists"_l1,
+     "The sources for synthesis and for simulation in order, for tools that take a list; they name "
+     "files of rtl and testbench."_l1,
+     QLatin1String(), "iverilog, verilator"_l1, fileListFiles},
+    {"pins"_l1, "tarvo_orix_m1_pins.tcl"_l1, "Pins"_l1,
+     "A stub with a line for each port, for the pins of a board."_l1, "Tcl"_l1, "tclsh"_l1,
+     pinFiles},
+    {"testbench"_l1, "sim"_l1, "Test benches"_l1,
+     "Clock, reset and a script of first accesses that is checked, in Verilog, VHDL and for "
+     "cocotb."_l1,
+     "SystemVerilog 2012, VHDL-93, Python 3"_l1, "iverilog, vvp, verilator, ghdl, python3"_l1,
+     testbenchFiles},
+    {"lint"_l1, "tarvo_orix_m1.vlt"_l1, "Lint waivers"_l1,
+     "Waivers for Verilator by rule and file, with the reason of each: with them -Wall says "
+     "nothing "
+     "of rtl."_l1,
+     "Verilator configuration"_l1, "verilator"_l1, lintFiles},
+    {"cmake"_l1, "tarvo_orix_m1.cmake"_l1, "CMake fragment"_l1,
+     "Lists of sources, and rules that export and generate anew when the configuration has "
+     "changed."_l1,
+     "CMake 3.18"_l1, "cmake"_l1, cmakeFiles},
+    {"make"_l1, "tarvo_orix_m1.mk"_l1, "make fragment"_l1,
+     "The same lists and rules for builds with make."_l1, "GNU make 4.3"_l1, "make"_l1, makeFiles},
     {"ipxact"_l1, "ipxact/tarvo_orix_m1.xml, ipxact/tarvo_orix_m1_catalog.xml"_l1,
      "IP-XACT component"_l1,
-     "Ports, buses, clocks, resets, memory map, registers and interrupts for tools that put "
-     "designs "
-     "together; it names the files of rtl and of what is made for software."_l1,
+     "Ports, buses, clocks, resets, memory map, registers and interrupts for tools that assemble "
+     "designs; it names the files of rtl and of what is made for software."_l1,
      "IEEE 1685-2014"_l1, "xmllint"_l1, ipxact2014Files},
     {"ipxact-2022"_l1, "ipxact-2022/tarvo_orix_m1.xml, ipxact-2022/tarvo_orix_m1_catalog.xml"_l1,
      "IP-XACT component, edition of 2022"_l1,

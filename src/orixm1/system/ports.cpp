@@ -21,6 +21,7 @@ enum Trait : unsigned {
     PullUp = 2,
     ClockSource = 4, // one of the map's clocks
     ResetSource = 8, // one of its resets
+    IdleHigh = 16,
 };
 
 struct PortRow {
@@ -73,7 +74,7 @@ constexpr PortRow rows[] = {
     {"GPIOIN"_l1, Peripheral, "levels of the pins"_l1, none, Plain, "u_gpio.u_sync_gpio_in"_l1},
     {"GPIOOUT"_l1, Peripheral, "values for the pins"_l1, hclk},
     {"GPIOOUTEN"_l1, Peripheral, "1 drives the pin"_l1, hclk},
-    {"CAN_RX"_l1, Peripheral, "from the transceiver"_l1},
+    {"CAN_RX"_l1, Peripheral, "from the transceiver"_l1, none, IdleHigh},
     {"CAN_TX"_l1, Peripheral, "to the transceiver"_l1, hclk},
     {"MDC"_l1, Peripheral, "management clock of the PHY"_l1, hclk},
     {"MDIO"_l1, Peripheral, "management data of the PHY"_l1, "MDC"_l1, PullUp},
@@ -141,9 +142,11 @@ constexpr PortRow rows[] = {
     {"DDR_DQS_IO"_l1, Peripheral, "strobes of the data"_l1},
     {"DDR_DQS_N_IO"_l1, Peripheral, "the same, inverted"_l1},
 
-    {"UART0RXD"_l1, Peripheral, "serial data to receive"_l1, none, Plain, "u_uart0.u_sync_rxd"_l1},
+    {"UART0RXD"_l1, Peripheral, "serial data to receive"_l1, none, IdleHigh,
+     "u_uart0.u_sync_rxd"_l1},
     {"UART0TXD"_l1, Peripheral, "serial data sent"_l1, hclk},
-    {"UART1RXD"_l1, Peripheral, "serial data to receive"_l1, none, Plain, "u_uart1.u_sync_rxd"_l1},
+    {"UART1RXD"_l1, Peripheral, "serial data to receive"_l1, none, IdleHigh,
+     "u_uart1.u_sync_rxd"_l1},
     {"UART1TXD"_l1, Peripheral, "serial data sent"_l1, hclk},
     {"TIMER0EXTIN"_l1, Peripheral, "gate or events of the timer"_l1, none, Plain,
      "u_timer0.u_sync_extin"_l1},
@@ -169,7 +172,7 @@ constexpr PortRow rows[] = {
      "source clock of SD_CLK, sampled with HCLK and slower than HCLK / 4"_l1, none, ClockSource,
      "u_sd.u_sync_spiclk"_l1},
     {"SD_CS"_l1, Peripheral, "chip select of the card"_l1, hclk, ActiveLow},
-    {"SD_DATAIN"_l1, Peripheral, "data from the card"_l1, hclk},
+    {"SD_DATAIN"_l1, Peripheral, "data from the card"_l1, hclk, IdleHigh},
     {"SD_DATAOUT"_l1, Peripheral, "data to the card"_l1, hclk},
     {"SD_CARD_INIT"_l1, Status, "software has initialised the card"_l1, hclk},
     {"SD_CHECKIN"_l1, Peripheral, "switch of the card's socket, low with a card"_l1, none,
@@ -264,6 +267,7 @@ void describe(Port *port, const QVector<Region> &regions)
         port->clock = row->clock;
         port->synchronizer = row->synchronizer;
         port->isActiveLow = (row->traits & ActiveLow) != 0;
+        port->idlesHigh = (row->traits & IdleHigh) != 0;
         port->needsPullUp = (row->traits & PullUp) != 0;
         return;
     }

@@ -34,6 +34,7 @@ struct Port {
     QString signal; // the bus's own name of the signal: "HADDR"; empty: none
     bool isActiveLow = false;
     bool needsPullUp = false; // outside of the device, or of the user's logic
+    bool idlesHigh = false;   // an input that is 1 where nothing happens, active low or not
     QString clock; // name of the clock's or strobe's port that it belongs to; empty: asynchronous
     QString text;  // a phrase
     // Path of the synchronizer that takes the port's signal to HCLK, "u_uart0.u_sync_rxd"; empty:
