@@ -8,6 +8,7 @@
 #include "devicetree.h"
 #include "drivers.h"
 #include "filelist.h"
+#include "fusesoc.h"
 #include "header.h"
 #include "ipxact.h"
 #include "linker.h"
@@ -95,6 +96,10 @@ constexpr Format rows[] = {
      "IP-XACT component, edition of 2022"_l1,
      "The same for tools that read the later edition of the standard."_l1, "IEEE 1685-2022"_l1,
      "xmllint"_l1, ipxact2022Files},
+    {"fusesoc"_l1, "tarvo_orix_m1.core, fusesoc"_l1, "FuseSoC core"_l1,
+     "Files of rtl, testbench, lint and sdc with targets for synthesis, simulation and lint, and a "
+     "generator that makes such a core of a configuration."_l1,
+     "CAPI2"_l1, "python3-jsonschema"_l1, fusesocFiles},
 };
 
 } // namespace

@@ -26,18 +26,12 @@ using Ipxact::Bus;
 using Ipxact::Document;
 using Ipxact::Edition;
 using Ipxact::Element;
-using Ipxact::Vlnv;
 
 // Of the whole address space: names of the map and of the space in which the processor sees it.
 constexpr QLatin1String mapName = "processor"_l1;
 constexpr quint64 addressSpaceSize = 0x100000000;
 
 constexpr QLatin1String yes = "true"_l1;
-
-Vlnv componentVlnv(const SystemMap &map)
-{
-    return {QStringLiteral("orixm1"), fileName(map, QLatin1String())};
-}
 
 // What reading does, of the three effects that the standard has.
 QLatin1String readActionText(ReadEffect effect)
@@ -209,7 +203,7 @@ class Component
 public:
     Component(const SystemMap &map, Edition edition)
         : m_map(map)
-        , m_xml(edition, "component"_l1, componentVlnv(map), description(map))
+        , m_xml(edition, "component"_l1, subsystemVlnv(map), description(map))
         , m_sets(fileSetsOf(map))
     {
     }
@@ -548,7 +542,9 @@ private:
         if (written && writes.size() > 0)
             m_xml.text("modifiedWriteValue"_l1, writes);
         const WrittenValues allowed = written ? writtenValues(field) : WrittenValues::Any;
-        if (allowed != WrittenValues::Any) {
+        // Without a constraint any value may be written.
+        if (allowed == WrittenValues::Named ||
+            (allowed == WrittenValues::Range && field.minimum > 0)) {
             const Element constraint(m_xml, "writeValueConstraint"_l1);
             if (allowed == WrittenValues::Named) {
                 m_xml.text("useEnumeratedValues"_l1, yes);
@@ -710,7 +706,7 @@ void writeEntries(Document &document, QLatin1String element, const QVector<Catal
 
 QByteArray catalog(const SystemMap &map, Edition edition)
 {
-    Vlnv vlnv = componentVlnv(map);
+    Vlnv vlnv = subsystemVlnv(map);
     vlnv.name += "_catalog"_l1;
     Document document(edition, "catalog"_l1, vlnv,
                       QStringLiteral("The subsystem and the definitions of its buses."));
@@ -722,7 +718,7 @@ QByteArray catalog(const SystemMap &map, Edition edition)
     }
     writeEntries(document, "busDefinitions"_l1, definitions);
     writeEntries(document, "abstractionDefinitions"_l1, abstractions);
-    writeEntries(document, "components"_l1, {{componentVlnv(map), fileName(map, ".xml"_l1)}});
+    writeEntries(document, "components"_l1, {{subsystemVlnv(map), fileName(map, ".xml"_l1)}});
     return document.bytes();
 }
 

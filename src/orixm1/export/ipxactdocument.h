@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/latin1literal.h"
+#include "vlnv.h"
 
 #include <QByteArray>
 #include <QString>
@@ -10,14 +10,6 @@ namespace TARVOORIXM1::Ipxact
 {
 
 enum class Edition { Year2014, Year2022 };
-
-// The name that a document has among all of them.
-struct Vlnv {
-    QString library;
-    QString name;
-    QLatin1String vendor = "tarvo"_l1;
-    QLatin1String version = "1.0"_l1;
-};
 
 // An IP-XACT document that is being written.
 class Document
