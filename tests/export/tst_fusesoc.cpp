@@ -176,7 +176,7 @@ void tst_Fusesoc::coreIsValid()
              QStringLiteral("tarvo:orixm1:tarvo_orix_m1:1.0"));
     const QJsonObject sets = core.value(QLatin1String("filesets")).toObject();
     const QJsonObject targets = core.value(QLatin1String("targets")).toObject();
-    for (const char *target : {"default", "synth", "sim", "sim_verilator", "lint"})
+    for (const char *target : {"default", "synth", "sim", "lint"})
         QVERIFY2(targets.contains(QLatin1String(target)), target);
     QStringList unused = sets.keys();
     for (const QString &target : targets.keys()) {
@@ -271,13 +271,8 @@ void tst_Fusesoc::toolsTakeTheFilesOfEachTarget_data()
 {
     QTest::addColumn<QString>("target");
     QTest::addColumn<QString>("configuration");
-    for (const char *target : {"default", "synth", "sim", "sim_verilator", "lint"}) {
+    for (const char *target : {"default", "synth", "sim", "lint"}) {
         for (const char *configuration : {"sensor-node", "everything"}) {
-            // Compiling all of it takes long and says nothing new.
-            if (qstrcmp(target, "sim_verilator") == 0 &&
-                qstrcmp(configuration, "everything") == 0 &&
-                !qEnvironmentVariableIsSet("TARVO_LONG_TESTS"))
-                continue;
             QTest::addRow("%s, %s", target, configuration)
                 << QString::fromLatin1(target) << QString::fromLatin1(configuration);
         }
@@ -300,7 +295,6 @@ void tst_Fusesoc::toolsTakeTheFilesOfEachTarget()
     const QTemporaryDir dir;
     const QString exported = dir.filePath(QStringLiteral("a copy/core"));
     const QString work = dir.filePath(QStringLiteral("a copy/build/work"));
-    const QString objects = dir.filePath(QStringLiteral("objects"));
     QVERIFY(QDir().mkpath(work));
     for (const Format &format : formats())
         QVERIFY(HandedOn::writeFiles(format.files(map), exported));
@@ -346,22 +340,11 @@ void tst_Fusesoc::toolsTakeTheFilesOfEachTarget()
     };
     if (tool == QLatin1String("verilator")) {
         QStringList arguments = texts(choice.value(QLatin1String("verilator_options")));
-        if (target == QLatin1String("lint"))
-            arguments.append(QStringLiteral("--lint-only"));
-        else
-            // make, with which Verilator builds, takes no blank in a name.
-            arguments += {QStringLiteral("--binary"), QStringLiteral("-CFLAGS"),
-                          QStringLiteral("-O0"), QStringLiteral("--Mdir"), objects};
+        arguments.append(QStringLiteral("--lint-only"));
         for (const QString &folder : qAsConst(folders))
             arguments.append(QLatin1String("+incdir+") + folder);
         arguments += QStringList{QStringLiteral("--top-module"), top} + waivers + sources;
-        const QString said = run(QStringLiteral("verilator"), arguments);
-        QVERIFY2(!said.contains(QLatin1String("exit ")) && !said.contains(QLatin1String("%")),
-                 qPrintable(said));
-        if (target == QLatin1String("lint"))
-            return;
-        const QString played = run(objects + QLatin1String("/V") + top, plusArguments);
-        QVERIFY2(hasPassed(played), qPrintable(played));
+        QCOMPARE(run(QStringLiteral("verilator"), arguments), QString());
         return;
     }
     QStringList arguments = texts(choice.value(QLatin1String("iverilog_options")));

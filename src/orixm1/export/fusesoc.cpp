@@ -283,14 +283,6 @@ const char simulationOptions[] = R"(    parameters: [script]
       iverilog_options: [-g2005-sv]
 )";
 
-const char fastSimulationOptions[] = R"(    parameters: [script]
-    flow: sim
-    flow_options:
-      tool: verilator
-      mode: binary
-      verilator_options: [--timing, -Wno-lint]
-)";
-
 const char lintOptions[] = R"(    flow: lint
     flow_options:
       tool: verilator
@@ -326,9 +318,6 @@ QByteArray coreOf(const SystemMap &map)
         const QString bench = BenchName::verilogModule(map);
         targets.append({"sim"_l1, "first accesses, with Icarus Verilog"_l1,
                         chosen("include testbench rtl contents script"), bench, simulationOptions});
-        targets.append({"sim_verilator"_l1, "first accesses, with Verilator"_l1,
-                        chosen("include testbench rtl contents script"), bench,
-                        fastSimulationOptions});
     }
     const Vlnv vlnv = subsystemVlnv(map);
     QString text =
