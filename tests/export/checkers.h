@@ -115,6 +115,8 @@ private:
                 add(file, QStringLiteral("xmllint"),
                     words("--noout --nonet --relaxng") + QStringList{schema, file}, own,
                     QRegularExpression::escape(file) + QLatin1String(" validates\\n"));
+        } else if (kind == QLatin1String("core")) {
+            addCore(file, own);
         } else if (kind == QLatin1String("h")) {
             addHeader(file);
         } else if (kind == QLatin1String("c")) {
@@ -254,6 +256,44 @@ private:
             add(QStringLiteral("sim/tarvo_orix_m1_tb.play"), QStringLiteral("vvp"),
                 words("-n simulation.vvp +script=sim/tarvo_orix_m1_tb.play"), {},
                 QStringLiteral("PASS\\n([^\\n]*\\$finish called[^\\n]*\\n)?"));
+    }
+
+    // Public schemas, where a folder has them.
+    static QString schemaPath(const QString &name)
+    {
+        const QString path = qEnvironmentVariable("TARVO_SCHEMAS_DIR") + u'/' + name;
+        return QFileInfo(path).isFile() ? path : QString();
+    }
+
+    void addIpxactSchema(const QString &file, const QByteArray &own)
+    {
+        static const QRegularExpression root(
+            QStringLiteral("<ipxact:(\\w+) xmlns:ipxact=\"[^\"]*/1685-(2014|2022)\""));
+        const auto found = root.match(QString::fromUtf8(m_files->value(file)));
+        const QString schema = schemaPath(QLatin1String("ieee-1685-") + found.captured(2) + u'/' +
+                                          found.captured(1) + QLatin1String(".xsd"));
+        if (found.hasMatch() && !schema.isEmpty())
+            add(file, QStringLiteral("xmllint"),
+                words("--noout --nonet --schema") + QStringList{schema, file}, own,
+                QRegularExpression::escape(file) + QLatin1String(" validates\\n"));
+    }
+
+    // A core is YAML behind its first line.
+    void addCore(const QString &file, const QByteArray &own)
+    {
+        static const char reader[] =
+            "import json, sys, yaml\n"
+            "line, text = open(sys.argv[1], encoding='utf-8').read().split('\\n', 1)\n"
+            "core = yaml.safe_load(text)\n"
+            "assert line == 'CAPI=2:' and core['name'].count(':') == 3\n"
+            "if len(sys.argv) > 2:\n"
+            "    import jsonschema\n"
+            "    jsonschema.validate(core, json.load(open(sys.argv[2])))\n";
+        QStringList arguments = {QStringLiteral("-c"), QString::fromLatin1(reader), file};
+        if (const QString schema = schemaPath(QStringLiteral("capi2.schema.json"));
+            !schema.isEmpty())
+            arguments.append(schema);
+        add(file, QStringLiteral("python3"), arguments, own);
     }
 
     // Read as Tcl, with the commands that tools have for such files and no others.

@@ -8,7 +8,9 @@
 #include "devicetree.h"
 #include "drivers.h"
 #include "filelist.h"
+#include "fusesoc.h"
 #include "header.h"
+#include "ipxact.h"
 #include "linker.h"
 #include "lint.h"
 #include "pins.h"
@@ -85,6 +87,19 @@ constexpr Format rows[] = {
      "CMake 3.18"_l1, "cmake"_l1, cmakeFiles},
     {"make"_l1, "tarvo_orix_m1.mk"_l1, "make fragment"_l1,
      "The same lists and rules for builds with make."_l1, "GNU make 4.3"_l1, "make"_l1, makeFiles},
+    {"ipxact"_l1, "ipxact/tarvo_orix_m1.xml, ipxact/tarvo_orix_m1_catalog.xml"_l1,
+     "IP-XACT component"_l1,
+     "Ports, buses, clocks, resets, memory map, registers and interrupts for tools that assemble "
+     "designs; it names the files of rtl and of what is made for software."_l1,
+     "IEEE 1685-2014"_l1, "xmllint"_l1, ipxact2014Files},
+    {"ipxact-2022"_l1, "ipxact-2022/tarvo_orix_m1.xml, ipxact-2022/tarvo_orix_m1_catalog.xml"_l1,
+     "IP-XACT component, edition of 2022"_l1,
+     "The same for tools that read the later edition of the standard."_l1, "IEEE 1685-2022"_l1,
+     "xmllint"_l1, ipxact2022Files},
+    {"fusesoc"_l1, "tarvo_orix_m1.core, fusesoc"_l1, "FuseSoC core"_l1,
+     "Files of rtl, testbench, lint and sdc with targets for synthesis, simulation and lint, and a "
+     "generator that makes such a core of a configuration."_l1,
+     "CAPI2"_l1, "python3-jsonschema"_l1, fusesocFiles},
 };
 
 } // namespace

@@ -3,11 +3,10 @@
 #include "config/latin1literal.h"
 #include "names.h"
 #include "registers/registerdocs.h"
+#include "registerview.h"
 #include "systemcontrol.h"
 
 #include <QXmlStreamWriter>
-
-#include <algorithm>
 
 namespace TARVOORIXM1
 {
@@ -19,41 +18,6 @@ namespace
 QLatin1String yesOrNo(bool value)
 {
     return value ? "true"_l1 : "false"_l1;
-}
-
-bool isRead(const RegisterField &field)
-{
-    return field.access != RegisterAccess::Write;
-}
-
-// A register of whole words is written by them, and its fields are what is read.
-bool isWritten(const Register &entry, const RegisterField &field)
-{
-    return field.access != RegisterAccess::Read &&
-           (field.access != RegisterAccess::Separate || entry.words.isEmpty());
-}
-
-QLatin1String accessText(bool read, bool write)
-{
-    if (!write)
-        return "read-only"_l1;
-    return read ? "read-write"_l1 : "write-only"_l1;
-}
-
-// Empty where what is written is stored.
-QLatin1String writeEffectText(const RegisterField &field)
-{
-    if (field.access == RegisterAccess::WriteOneToClear)
-        return "oneToClear"_l1;
-    switch (field.writeEffect) {
-    case WriteEffect::Store:
-        return {};
-    case WriteEffect::OneToClear:
-        return "oneToClear"_l1;
-    case WriteEffect::OneToSet:
-        return "oneToSet"_l1;
-    }
-    return {};
 }
 
 // Empty where reading changes nothing.
@@ -100,11 +64,6 @@ quint32 resetMask(const Register &entry)
     return mask;
 }
 
-quint32 largest(const RegisterField &field)
-{
-    return field.mask() >> field.low;
-}
-
 // "CAN at 0x41000000 to 0x41FFFFFF (black box: CAN controller)"
 QString placeText(const Region &region)
 {
@@ -114,15 +73,6 @@ QString placeText(const Region &region)
         what = kind + ": "_l1 + region.text;
     return region.name + " at "_l1 + hexAddress(region.base) + " to "_l1 + hexAddress(region.last) +
            " ("_l1 + what + u')';
-}
-
-QString registerText(const Register &entry)
-{
-    QString text = entry.text;
-    for (const FieldValue &word : entry.words)
-        text += " The word "_l1 + hexAddress(word.value) + " ("_l1 + word.name + "): "_l1 +
-                word.text + u'.';
-    return text;
 }
 
 class Writer
@@ -248,14 +198,6 @@ private:
     }
 
     bool hasInterrupts(int instance) const { return m_owners.contains(instance); }
-    bool hasNmi(const PeripheralInstance &instance) const
-    {
-        return std::any_of(m_map.interrupts.begin(), m_map.interrupts.end(),
-                           [&instance](const InterruptLine &line) {
-                               return line.number == InterruptLine::nonMaskable &&
-                                      line.source == instance.name;
-                           });
-    }
 
     void writePeripheral(int index)
     {
@@ -270,7 +212,7 @@ private:
             m_xml.writeStartElement("peripheral"_l1);
             if (isDerived)
                 m_xml.writeAttribute("derivedFrom"_l1, m_instanceNames.at(first));
-            nameAndDescription(name, instance.name, instanceText(peripheral, instance));
+            nameAndDescription(name, instance.name, instanceText(m_map, peripheral, instance));
             if (!isDerived && peripheral.name.compare(name, Qt::CaseInsensitive) != 0)
                 element("groupName"_l1, peripheral.name);
             element("baseAddress"_l1, hexAddress(instance.base));
@@ -281,18 +223,6 @@ private:
                 writeRegisters(peripheral);
             m_xml.writeEndElement();
         }
-    }
-
-    QString instanceText(const Peripheral &peripheral, const PeripheralInstance &instance) const
-    {
-        QString text = peripheral.text;
-        if (!instance.text.isEmpty())
-            text = instance.name + ", "_l1 + instance.text + ". "_l1 + peripheral.text;
-        if (!peripheral.parts.isEmpty())
-            text += " Bytes and halfwords: "_l1 + peripheral.parts;
-        if (hasNmi(instance))
-            text += " Its interrupt is the non-maskable one, which has no number."_l1;
-        return text;
     }
 
     void writeAddressBlock(const Peripheral &peripheral)
@@ -333,16 +263,11 @@ private:
 
     void writeRegister(const QString &name, const Register &entry)
     {
-        const auto written = [&entry](const RegisterField &field) {
-            return field.access != RegisterAccess::Read;
-        };
         m_xml.writeStartElement("register"_l1);
         nameAndDescription(name, entry.name, registerText(entry));
         element("addressOffset"_l1, hexAddress(entry.offset));
         number("size"_l1, 32);
-        element("access"_l1,
-                accessText(std::any_of(entry.fields.begin(), entry.fields.end(), isRead),
-                           std::any_of(entry.fields.begin(), entry.fields.end(), written)));
+        element("access"_l1, accessText(entry));
         element("resetValue"_l1, hexAddress(resetValue(entry)));
         element("resetMask"_l1, hexAddress(resetMask(entry)));
         const QLatin1String effect = readEffectText(commonReadEffect(entry));
@@ -384,18 +309,16 @@ private:
     // Without one, any value could be written or none.
     void writeConstraint(const RegisterField &field)
     {
-        const bool isFlag = writeEffectText(field).size() > 0 ||
-                            (field.access == RegisterAccess::Separate && !field.values.isEmpty());
-        const bool isNamed = field.minimum == 0 && !field.values.isEmpty();
-        if ((isFlag && isNamed) || (field.width() == 1 && !isNamed && field.minimum == 0))
+        const WrittenValues values = writtenValues(field);
+        if (values == WrittenValues::Any)
             return;
         m_xml.writeStartElement("writeConstraint"_l1);
-        if (isNamed) {
+        if (values == WrittenValues::Named) {
             element("useEnumeratedValues"_l1, yesOrNo(true));
         } else {
             m_xml.writeStartElement("range"_l1);
             number("minimum"_l1, field.minimum);
-            number("maximum"_l1, largest(field));
+            number("maximum"_l1, largestValue(field));
             m_xml.writeEndElement();
         }
         m_xml.writeEndElement();
@@ -403,16 +326,9 @@ private:
 
     void writeValues(const RegisterField &field, bool written)
     {
-        const bool differs =
-            field.access == RegisterAccess::WriteOneToClear ||
-            field.access == RegisterAccess::Separate ||
-            (field.access == RegisterAccess::ReadWrite && field.writeEffect != WriteEffect::Store);
-        if (!field.values.isEmpty()) {
-            const QLatin1String usage = !isRead(field)        ? "write"_l1
-                                        : differs || !written ? "read"_l1
-                                                              : QLatin1String();
-            writeValueList(usage, field.values);
-        }
+        const bool differs = readsDifferently(field);
+        if (!field.values.isEmpty())
+            writeValueList(valuesUsage(field, written), field.values);
         // What the file says of such a flag is what it reads as.
         if (written && field.width() == 1 && differs && writeEffectText(field) == "oneToClear"_l1)
             writeValueList("write"_l1, {{QStringLiteral("CLEAR"), 1,
