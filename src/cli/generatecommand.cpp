@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
@@ -21,6 +22,14 @@ using namespace TARVOORIXM1;
 
 namespace
 {
+
+struct GenerateArguments {
+    QString file;
+    QString outDir; // empty: the file's folder
+    bool synthesise = true;
+    bool json = false;
+    bool verbose = false;
+};
 
 // What a generation has made so far.
 struct Report {
@@ -99,12 +108,11 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
         !sentence.isEmpty())
         printError(sentence);
     for (const QString &error : report.errors)
-        printError(error);
+        printProblem({error});
     if (arguments.json) {
         QJsonObject object{{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
                            {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
                            {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
-                           {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
                            {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
                            {QStringLiteral("cells"), jsonOf(report.run.cells)},
                            {QStringLiteral("notCounted"), notCounted(report.run.cells)},
@@ -184,8 +192,6 @@ int synthesise(Synthesis::Runner &runner, bool verbose)
     return exitCode;
 }
 
-} // namespace
-
 int runGenerate(Environment &environment, const GenerateArguments &arguments)
 {
     const QVariantMap ipInfo = environment.ipInfo();
@@ -247,6 +253,24 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     report.outputs = result.files;
     report.library = libraryFor(*input.tool, namingLanguage(input.language));
     return finish(report, arguments, Done);
+}
+
+} // namespace
+
+void declareGenerate(CommandLine &line)
+{
+    auto arguments = std::make_shared<GenerateArguments>();
+    CLI::App *command = line.command(
+        "generate", "Write include files, synthesise and collect the outputs",
+        "orixm1 generate tarvo_orix_m1.ipc --out build",
+        [arguments](Environment &environment) { return runGenerate(environment, *arguments); });
+    line.file(command, arguments->file);
+    line.outDir(command, arguments->outDir);
+    command->add_flag(
+        "--no-synth", [arguments](qint64) { arguments->synthesise = false; },
+        "Stop after include files and source list");
+    command->add_flag("-v,--verbose", arguments->verbose, "Print the tool's log to standard error");
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

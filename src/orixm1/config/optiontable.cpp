@@ -3,7 +3,7 @@
 #include "blocks.h"
 #include "choices.h"
 #include "latin1literal.h"
-#include "spelling.h"
+#include "nearest.h"
 
 #include <QHash>
 
@@ -213,7 +213,7 @@ QString nearestOptionKey(const QString &key)
     QStringList keys;
     for (const Option &row : optionTable())
         keys.append(row.key);
-    return nearestTexts(key, keys).value(0);
+    return nearestText(key, keys);
 }
 
 QVariant optionValueFromText(const Option &option, const QString &value)

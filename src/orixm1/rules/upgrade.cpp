@@ -3,10 +3,10 @@
 #include "config/choices.h"
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
+#include "config/nearest.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
 #include "config/optionvalue.h"
-#include "config/spelling.h"
 #include "optionmeaning.h"
 #include "retarget.h"
 #include "tcmsizes.h"
@@ -311,7 +311,7 @@ private:
         const QList<DEV::DeviceArg> all = m_devices.devices();
         for (const DEV::DeviceArg &device : all)
             ids.append(device.id());
-        const QString nearest = nearestTexts(text, ids).value(0);
+        const QString nearest = nearestText(text, ids);
         return nearest.isEmpty()
                    ? option
                    : QString(option + "; the nearest known one is "_l1 + quoted(nearest));

@@ -1,7 +1,7 @@
 #include "testsupport.h"
 
 #include <config/ipctext.h>
-#include <config/spelling.h>
+#include <config/nearest.h>
 
 #include <QtTest>
 

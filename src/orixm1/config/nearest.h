@@ -10,8 +10,8 @@ namespace TARVOORIXM1
 // neighbours exchanged.
 int slips(const QString &a, const QString &b);
 
-// Those of `known` that are spelled most alike, if no more than a third of `text` differs; none for
-// a text of more than 100 characters, which resembles nothing.
-QStringList nearestTexts(const QString &text, const QStringList &known);
+// The one of `known` that is spelled most alike, letter case apart, for "did you mean"; the first
+// of several, and an empty text if none is near (more than a third of `text` differs).
+QString nearestText(const QString &text, const QStringList &known);
 
 } // namespace TARVOORIXM1

@@ -1,4 +1,4 @@
-#include "spelling.h"
+#include "nearest.h"
 
 #include <QVector>
 
@@ -31,21 +31,19 @@ int slips(const QString &a, const QString &b)
     return row[b.size()];
 }
 
-QStringList nearestTexts(const QString &text, const QStringList &known)
+QString nearestText(const QString &text, const QStringList &known)
 {
-    constexpr int longest = 100;
-    QStringList nearest;
-    if (text.size() > longest)
+    QString nearest;
+    // A text far longer than any known one resembles none; comparing it would only take time.
+    if (text.size() > 100)
         return nearest;
-    int best = text.size() / 3;
-    for (const QString &candidate : known) {
-        const int distance = slips(text, candidate);
-        if (distance > best)
-            continue;
-        if (distance < best)
-            nearest.clear();
-        best = distance;
-        nearest.append(candidate);
+    int best = text.size() / 3 + 1;
+    for (const QString &entry : known) {
+        const int distance = slips(text, entry);
+        if (distance < best) {
+            best = distance;
+            nearest = entry;
+        }
     }
     return nearest;
 }
