@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace Cli
 {
@@ -100,6 +101,9 @@ bool flushOutput()
     if (std::fflush(stdout) == 0 && !std::ferror(stdout))
         return true;
     const int reason = firstWriteError != 0 ? firstWriteError : errno;
+    static bool isTold = false;
+    if (std::exchange(isTold, true))
+        return false;
     printError(QLatin1String("The output could not be written") +
                (reason == 0 ? QString()
                             : QString(QLatin1String(": ") +

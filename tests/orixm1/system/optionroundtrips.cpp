@@ -221,19 +221,23 @@ private:
         const QVector<OptionDifference> back = differences(other, subject);
         if (there.size() != back.size())
             return QStringLiteral("the differences depend on the direction");
-        Subject moved = subject;
-        moved.device = other.device;
-        for (const OptionDifference &difference : there) {
-            const QString &key = difference.before.key;
-            if (other.options.contains(key))
-                moved.options.insert(key, valueOf(other.options, key));
-            else
-                moved.options.remove(key);
+        QMap<QString, OptionMeaning> moved;
+        const QVector<OptionMeaning> own = meaningsOf(subject.options, subject.device);
+        for (const OptionMeaning &meaning : own)
+            moved.insert(meaning.key, meaning);
+        for (const OptionDifference &difference : there)
+            moved.insert(difference.after.key, difference.after);
+        const QVector<OptionMeaning> wanted = meaningsOf(other.options, other.device);
+        for (const OptionMeaning &meaning : wanted) {
+            const bool namesDevice = meaning.key == Key::ipDevice || meaning.key == Key::ipDeviceId;
+            if (!moved.take(meaning.key).isSameAs(meaning) && !namesDevice)
+                return QStringLiteral("the differences do not lead from one to the other: ") +
+                       meaning.key;
         }
-        // What is the same on both devices stays as it is.
-        if (!differences(moved, other).isEmpty())
-            return QStringLiteral("the differences do not lead from one to the other: ") +
-                   differences(moved, other).first().before.key;
+        for (const OptionMeaning &meaning : qAsConst(moved)) {
+            if (meaning.origin != OptionMeaning::Unknown)
+                return QStringLiteral("a key that only one has is not told: ") + meaning.key;
+        }
         return comparedFacts(factsOf(mapOf(subject)), factsOf(mapOf(other)));
     }
 
