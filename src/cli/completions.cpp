@@ -123,6 +123,14 @@ QString quoted(QString text)
     return u'\'' + text.replace(u'\'', QLatin1String("'\\''")) + u'\'';
 }
 
+// Words of a list, in which a space ends one.
+QString listed(QStringList words)
+{
+    for (QString &word : words)
+        word.replace(u' ', QLatin1String("\\ "));
+    return words.join(u' ');
+}
+
 QString bashAnswer(const Value &value)
 {
     switch (value.kind) {
@@ -138,7 +146,7 @@ QString bashAnswer(const Value &value)
     }
     return value.offers.isEmpty()
                ? QStringLiteral(":")
-               : QLatin1String("_orixm1_words ") + quoted(value.offers.join(u' '));
+               : QLatin1String("_orixm1_words ") + quoted(value.offers.join(u'\n'));
 }
 
 QString bashScript(const QVector<CommandShape> &shapes)
@@ -146,16 +154,16 @@ QString bashScript(const QVector<CommandShape> &shapes)
     QString text =
         QStringLiteral(R"(# Completions of orixm1 for bash: source <(orixm1 completions bash)
 _orixm1_words() {
-    local found
-    mapfile -t found < <(compgen -W "$1" -- "$cur")
-    COMPREPLY+=("${found[@]}")
-    [[ ${COMPREPLY[0]} != *= ]] || compopt -o nospace 2>/dev/null
+    local IFS=$'\n' found
+    mapfile -t found < <(compgen -W "$1" -- "${cur//[\\\"\']/}")
+    ((${#found[@]} == 0)) || mapfile -t -O ${#COMPREPLY[@]} COMPREPLY < <(printf '%q\n' "${found[@]}")
+    [[ ${COMPREPLY[0]} != *= ]] || compopt -o nospace 2>/dev/null || :
 }
 _orixm1_files() {
     local found
     mapfile -t found < <(compgen "$@" -- "$cur")
     COMPREPLY+=("${found[@]}")
-    compopt -o filenames 2>/dev/null
+    compopt -o filenames 2>/dev/null || :
 }
 _orixm1() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]} command= word
@@ -196,9 +204,9 @@ _orixm1() {
             options += common;
         options.removeDuplicates();
         text += QStringLiteral("    %1,-*)\n        _orixm1_words %2\n        ;;\n")
-                    .arg(shape.name, quoted(options.join(u' ')));
+                    .arg(shape.name, quoted(options.join(u'\n')));
         QString answers = shape.name.isEmpty() ? QLatin1String("_orixm1_words ") +
-                                                     quoted(commandNames(shapes).join(u' '))
+                                                     quoted(commandNames(shapes).join(u'\n'))
                                                : QString();
         for (const ArgumentShape &argument : shape.arguments)
             answers +=
@@ -209,12 +217,19 @@ _orixm1() {
     return text + QLatin1String("    esac\n}\ncomplete -F _orixm1 orixm1\n");
 }
 
-// Within a specification of zsh's _arguments.
+// Within an argument of zsh's _arguments.
 QString zshText(QString text)
 {
     for (const QChar special : {QChar(u'\\'), QChar(u'['), QChar(u']'), QChar(u':')})
         text.replace(special, QString(u'\\') + special);
     return text;
+}
+
+QStringList zshTexts(QStringList texts)
+{
+    for (QString &text : texts)
+        text = zshText(text);
+    return texts;
 }
 
 QString zshAction(const Value &value)
@@ -231,27 +246,26 @@ QString zshAction(const Value &value)
         break;
     }
     return value.offers.isEmpty() ? QStringLiteral(" ")
-                                  : u'(' + zshText(value.offers.join(u' ')) + u')';
+                                  : u'(' + listed(zshTexts(value.offers)) + u')';
 }
 
-QStringList zshSpecifications(const CommandShape &shape)
+QStringList zshArguments(const CommandShape &shape)
 {
-    QStringList specifications;
+    QStringList words;
     for (const OptionShape &option : shape.options) {
         const QStringList names = dashed(option);
         for (const QString &name : names) {
-            QString specification = (option.isRepeated ? QStringLiteral("*") : QString()) + name +
-                                    u'[' + zshText(option.help) + u']';
+            QString word = (option.isRepeated ? QStringLiteral("*") : QString()) + name + u'[' +
+                           zshText(option.help) + u']';
             if (option.value.kind != Value::None)
-                specification += u':' + zshText(option.value.type) + u':' + zshAction(option.value);
-            specifications.append(quoted(specification));
+                word += u':' + zshText(option.value.type) + u':' + zshAction(option.value);
+            words.append(quoted(word));
         }
     }
     for (const ArgumentShape &argument : shape.arguments)
-        specifications.append(
-            quoted((argument.isRepeated ? QStringLiteral("*:") : QStringLiteral(":")) +
-                   zshText(argument.name) + u':' + zshAction(argument.value)));
-    return specifications;
+        words.append(quoted((argument.isRepeated ? QStringLiteral("*:") : QStringLiteral(":")) +
+                            zshText(argument.name) + u':' + zshAction(argument.value)));
+    return words;
 }
 
 QString zshScript(const QVector<CommandShape> &shapes)
@@ -278,10 +292,10 @@ _orixm1() {
         case $line[1] in
 )")
                        .arg(descriptions.join(QLatin1String("\n        ")),
-                            zshSpecifications(shapes.first()).join(QLatin1String(" \\\n        ")));
+                            zshArguments(shapes.first()).join(QLatin1String(" \\\n        ")));
     for (const CommandShape &shape : shapes.mid(1))
         text += QStringLiteral("        %1)\n            _arguments%2%3\n            ;;\n")
-                    .arg(shape.name, next, zshSpecifications(shape).join(next));
+                    .arg(shape.name, next, zshArguments(shape).join(next));
     return text + QLatin1String("        esac\n        ;;\n    esac\n}\n"
                                 "if [[ $zsh_eval_context[-1] == loadautofunc ]]; then\n"
                                 "    _orixm1 \"$@\"\nelse\n    compdef _orixm1 orixm1\nfi\n");
@@ -309,7 +323,7 @@ QString fishAnswer(const Value &value)
         return {};
     }
     return value.offers.isEmpty() ? QStringLiteral("-x")
-                                  : QLatin1String("-x -a ") + fishQuoted(value.offers.join(u' '));
+                                  : QLatin1String("-x -a ") + fishQuoted(listed(value.offers));
 }
 
 QString fishScript(const QVector<CommandShape> &shapes)

@@ -179,7 +179,7 @@ int synthesise(Synthesis::Runner &runner, bool verbose)
     Utils::Interrupt interrupt;
     QObject::connect(&interrupt, &Utils::Interrupt::received, &runner, &Synthesis::Runner::cancel);
     QObject::connect(&runner, &Synthesis::Runner::stageChanged,
-                     [](const QString &stage) { printError(stage); });
+                     [progress = Progress()](const QString &stage) { progress.tell(stage); });
     if (verbose)
         QObject::connect(&runner, &Synthesis::Runner::logReceived,
                          [](const QString &text) { printError(text); });

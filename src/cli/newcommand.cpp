@@ -137,7 +137,7 @@ void declareNew(CommandLine &line)
     auto arguments = std::make_shared<NewArguments>();
     CLI::App *command = line.command(
         "new", "Write a configuration file",
-        "orixm1 new --device TV3K-50A-BGA256 --set EnableUART0=true --out soc",
+        "orixm1 new --device TV3K-50A-PBGA256-C8/I7 --set \"Enable UART0=true\" --out soc",
         [arguments](Environment &environment) { return runNew(environment, *arguments); });
     line.device(command, arguments->device);
     line.offer(CommandLine::text(command, "--preset", arguments->preset,

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <unistd.h>
 #include <utility>
 
 namespace Cli
@@ -55,6 +56,14 @@ void printError(const QString &line)
 QString sentenceOf(const Problem &problem)
 {
     return problem.fix.isEmpty() ? problem.text : problem.text + u' ' + problem.fix;
+}
+
+void Progress::tell(const QString &stage) const
+{
+    if (::isatty(STDERR_FILENO))
+        printError(QStringLiteral("[%1 s] %2")
+                       .arg(double(m_timer.elapsed()) / 1000.0, 6, 'f', 1)
+                       .arg(stage));
 }
 
 QString didYouMean(const QString &nearest)

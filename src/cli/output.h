@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
@@ -47,6 +48,18 @@ void recordProblem(const Problem &problem);
 void divertErrors(const std::function<void(const QString &)> &taker);
 // As it is, to standard output or standard error.
 void printText(FILE *stream, const std::string &text);
+// What a long job is at, on standard error with the time that has passed, for somebody who sits at
+// a terminal; a pipe or a file gets nothing.
+class Progress
+{
+public:
+    Progress() { m_timer.start(); }
+    void tell(const QString &stage) const;
+
+private:
+    QElapsedTimer m_timer;
+};
+
 // One object, indented, with its keys in alphabetical order; "errors", a list of objects, has the
 // problems so far.
 void printJson(QJsonObject object);

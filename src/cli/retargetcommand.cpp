@@ -120,7 +120,7 @@ void declareRetarget(CommandLine &line)
     auto arguments = std::make_shared<RetargetArguments>();
     CLI::App *command = line.command(
         "retarget", "Move a configuration to another device and tell what it loses",
-        "orixm1 retarget tarvo_orix_m1.ipc --device TV1KL-5A --dry-run",
+        "orixm1 retarget tarvo_orix_m1.ipc --device TV1KL-5A --package QFN32 --dry-run",
         [arguments](Environment &environment) { return runRetarget(environment, *arguments); });
     line.file(command, arguments->file);
     line.device(command, arguments->device);

@@ -247,11 +247,12 @@ QVector<FactChanges> factChanges(const QVector<FactGroup> &before, const QVector
             }
         };
         for (const Fact &fact : now) {
-            const int place = oldPlaces.value(fact.name, -1);
-            if (place < 0) {
+            const auto found = oldPlaces.constFind(fact.name);
+            if (found == oldPlaces.cend()) {
                 group.changes.append({FactChange::Added, {fact.name, {}}, fact});
                 continue;
             }
+            const int place = *found;
             tellRemoved(place);
             if (!(old.at(place) == fact))
                 group.changes.append({FactChange::Changed, old.at(place), fact});
