@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 namespace Cli
 {
 
@@ -18,6 +20,19 @@ void declareExport(CommandLine &line);
 void declareSimulate(CommandLine &line);
 void declareOptions(CommandLine &line);
 void declareDevices(CommandLine &line);
+void declarePresets(CommandLine &line);
+void declareGet(CommandLine &line);
+void declareSet(CommandLine &line);
+void declareUnset(CommandLine &line);
+void declareMinimize(CommandLine &line);
+void declareUpgrade(CommandLine &line);
+void declareShow(CommandLine &line);
+void declareDiff(CommandLine &line);
+void declareRandom(CommandLine &line);
+void declareSchema(CommandLine &line);
 void declareCompletions(CommandLine &line);
+
+// The keys of all options, for completions.
+QStringList knownKeys();
 
 } // namespace Cli

@@ -4,6 +4,7 @@
 #include "output.h"
 
 #include <config/ipcfile.h>
+#include <config/ipctext.h>
 #include <config/optionkeys.h>
 #include <config/optionvalue.h>
 #include <utils/boundedfile.h>
@@ -47,45 +48,66 @@ QString outputFolder(const IpcDocument &document, const QString &outDir)
     return outDir.isEmpty() ? document.folder() : QDir(QFileInfo(outDir).absoluteFilePath()).path();
 }
 
-Utils::Result<IpcDocument> IpcDocument::read(const QString &path, const DEV::DeviceDb &devices)
+namespace
 {
-    const auto fail = [&path](const QString &reason) {
-        return Utils::Failure{QLatin1String("\"") + path + QLatin1String("\" ") + reason};
-    };
+
+Utils::Failure failureOf(const QString &path, const QString &reason)
+{
+    return Utils::Failure{QLatin1String("\"") + path + QLatin1String("\" ") + reason};
+}
+
+// Opens a file that has been looked at; `*text` is what it holds.
+Utils::Result<void> openSettings(const QString &path, QByteArray *text,
+                                 std::unique_ptr<QSettings> *reader)
+{
     const Utils::Result<QByteArray> bytes = Utils::readConfigurationFile(path);
     if (!bytes)
         return Utils::Failure{bytes.reason()};
     if (const Utils::Result<void> checked = Utils::checkConfigurationText(*bytes); !checked)
-        return fail(QLatin1String("is no IP configuration file: ") + checked.reason() + u'.');
+        return failureOf(path,
+                         QLatin1String("is no IP configuration file: ") + checked.reason() + u'.');
     // It opens the file once more, and does not tell why it could not. What fails once may succeed
     // the next time; if it does not, reading has a reason.
-    auto reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    if (reader->status() == QSettings::AccessError) {
-        reader.reset();
-        reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    *reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
+    if ((*reader)->status() == QSettings::AccessError) {
+        reader->reset();
+        *reader = std::make_unique<QSettings>(path, QSettings::IniFormat);
     }
-    QSettings &settings = *reader;
-    if (settings.status() != QSettings::NoError) {
+    if ((*reader)->status() != QSettings::NoError) {
         QByteArray again;
         QString error;
         if (!Utils::FileUtils::readFile(path, &again, &error))
             return Utils::Failure{error};
-        return fail(QStringLiteral("is no IP configuration file."));
+        return failureOf(path, QStringLiteral("is no IP configuration file."));
     }
+    *text = *bytes;
+    return {};
+}
+
+} // namespace
+
+Utils::Result<IpcDocument> IpcDocument::read(const QString &path, const DEV::DeviceDb &devices)
+{
+    IpcDocument document;
+    std::unique_ptr<QSettings> reader;
+    if (const auto opened = openSettings(path, &document.text, &reader); !opened)
+        return Utils::Failure{opened.reason()};
+    QSettings &settings = *reader;
     if (!IpcFile::isVersionAccepted(settings)) {
         const QString version = settings.value(QStringLiteral("version")).toString();
-        return fail(QLatin1String("cannot be used: its version is \"") + version +
-                    QLatin1String("\", not \"") + IpcFile::acceptedVersion + QLatin1String("\"."));
+        return failureOf(path, QLatin1String("cannot be used: its version is \"") + version +
+                                   QLatin1String("\", not \"") + IpcFile::acceptedVersion +
+                                   QLatin1String("\"."));
     }
-    IpcDocument document;
     document.path = QFileInfo(path).absoluteFilePath();
     document.type = IpcFile::type(settings);
     document.device = IpcFile::readDevice(settings, devices);
     document.deviceText = IpcFile::deviceText(settings);
     document.others = IpcFile::otherEntries(settings);
+    document.frame = IpcFile::frame(settings);
     IpcFile::readOptions(settings, document.options);
 
-    const QVector<Reading::IniEntry> entries = Reading::iniEntries(*bytes);
+    const QVector<Reading::IniEntry> entries = Reading::iniEntries(document.text);
     for (const Reading::IniEntry &entry : entries) {
         if (entry.bytes != Reading::IniEntry::Ascii)
             document.oddEntries.append(entry);
@@ -118,6 +140,30 @@ Utils::Result<void> writeConfiguration(const QString &path, const QVariantMap &h
     if (!Utils::FileUtils::makePath(QFileInfo(path).absolutePath(), &error))
         return Utils::Failure{error};
     return Utils::writeIniFile(path, header, IpcFile::configGroup, options);
+}
+
+Utils::Result<void> writeEdited(const IpcDocument &document, const QVariantMap &frame,
+                                const OptionMap &options)
+{
+    const Utils::Result<QByteArray> text = editedIpcText(document.text, frame, options);
+    if (!text)
+        return Utils::Failure{QLatin1String("Cannot write \"") + document.path +
+                              QLatin1String("\": ") + text.reason() + u'.'};
+    QString error;
+    return Utils::FileUtils::writeFile(document.path, *text, &error) ? Utils::Result<void>()
+                                                                     : Utils::Failure{error};
+}
+
+Utils::Result<QVariantMap> readEntries(const QString &path, QByteArray *text)
+{
+    std::unique_ptr<QSettings> reader;
+    if (const auto opened = openSettings(path, text, &reader); !opened)
+        return Utils::Failure{opened.reason()};
+    QVariantMap entries;
+    const QStringList keys = reader->allKeys();
+    for (const QString &key : keys)
+        entries.insert(key, reader->value(key));
+    return entries;
 }
 
 GenerationInput generationInput(const IpcDocument &document, const QVariantMap &ipInfo,

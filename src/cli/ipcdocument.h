@@ -6,7 +6,9 @@
 #include <reading/inientries.h>
 #include <utils/result.h>
 
+#include <QByteArray>
 #include <QString>
+#include <QVariantMap>
 
 namespace DEV
 {
@@ -24,6 +26,8 @@ struct IpcDocument {
     QString type;          // the id of the IP
     QString deviceText;    // what the file says of its device, for messages
     QVariantMap others;    // entries that belong to neither identity nor options
+    QVariantMap frame;     // every entry outside of the options, identity included
+    QByteArray text;       // the file as it is
     DEV::DeviceArg device; // null when the file names none or an unknown one
     TARVOORIXM1::OptionMap options;
     QStringList unknownEntries;            // outside of what the file format knows
@@ -48,6 +52,15 @@ QString outputFolder(const IpcDocument &document, const QString &outDir);
 // reason.
 Utils::Result<void> writeConfiguration(const QString &path, const QVariantMap &header,
                                        const TARVOORIXM1::OptionMap &options);
+
+// Writes the file of a document with other entries; its comments stay. A failure is a sentence with
+// path and reason.
+Utils::Result<void> writeEdited(const IpcDocument &document, const QVariantMap &frame,
+                                const TARVOORIXM1::OptionMap &options);
+
+// Every entry of a configuration file by its full key, whatever its version; `*text`: the file as
+// it is. A failure is a sentence with path and reason.
+Utils::Result<QVariantMap> readEntries(const QString &path, QByteArray *text);
 
 // What a generation of the file is made from; `outDir` as above.
 TARVOORIXM1::GenerationInput generationInput(const IpcDocument &document, const QVariantMap &ipInfo,

@@ -22,10 +22,12 @@ using Declare = void (*)(Cli::CommandLine &);
 
 // In the order in which the help lists them.
 constexpr Declare commandTable[] = {
-    Cli::declareNew,         Cli::declareGenerate, Cli::declareCheck,     Cli::declareSources,
-    Cli::declareRetarget,    Cli::declarePins,     Cli::declareRegisters, Cli::declareFirmware,
-    Cli::declareExport,      Cli::declareSimulate, Cli::declareOptions,   Cli::declareDevices,
-    Cli::declareCompletions,
+    Cli::declareNew,      Cli::declareGenerate, Cli::declareCheck,       Cli::declareSources,
+    Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters,   Cli::declareFirmware,
+    Cli::declareExport,   Cli::declareSimulate, Cli::declareOptions,     Cli::declareDevices,
+    Cli::declarePresets,  Cli::declareGet,      Cli::declareSet,         Cli::declareUnset,
+    Cli::declareMinimize, Cli::declareUpgrade,  Cli::declareShow,        Cli::declareDiff,
+    Cli::declareRandom,   Cli::declareSchema,   Cli::declareCompletions,
 };
 
 bool isAsked(const char *option, int argc, char *argv[])

@@ -8,8 +8,11 @@
 
 #include <config/choices.h>
 #include <config/ipcfile.h>
+#include <config/nearest.h>
 #include <config/optiontable.h>
 #include <rules/newoptions.h>
+#include <rules/presets.h>
+#include <rules/settings.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,6 +27,7 @@ namespace
 
 struct NewArguments {
     DeviceChoice device;
+    QString preset; // empty: none
     QString language;
     QStringList settings; // "KEY=VALUE"
     QString outDir;
@@ -31,33 +35,24 @@ struct NewArguments {
     bool json = false;
 };
 
-// Puts "KEY=VALUE" into the map as the key's type.
-Utils::Result<void> applySetting(const QString &setting, OptionMap *options)
+Problem presetProblem(const QString &preset, const DEV::DeviceArg &device)
 {
-    const int equals = setting.indexOf(u'=');
-    if (equals < 1) {
-        return Utils::Failure{QLatin1String("\"") + setting +
-                              QLatin1String("\" is not of the form KEY=VALUE.")};
+    if (!presetNames().contains(preset))
+        return {QLatin1String("Unknown preset \"") + preset + QLatin1String("\"; there are ") +
+                    presetNames().join(QLatin1String(", ")) + u'.',
+                QStringLiteral("--preset"),
+                {},
+                0,
+                didYouMean(nearestText(preset, presetNames()))};
+    QStringList offered;
+    for (const QString &name : presetNames()) {
+        if (isPresetOffered(name, device))
+            offered.append(name);
     }
-    const QString key = setting.left(equals);
-    const QString text = setting.mid(equals + 1);
-    const Option *option = findOption(key);
-    if (!option) {
-        const QString nearest = nearestOptionKey(key);
-        return Utils::Failure{
-            QLatin1String("Unknown key \"") + key + u'"' +
-            (nearest.isEmpty()
-                 ? QString()
-                 : QString(QLatin1String("; the nearest known one is \"") + nearest + u'"')) +
-            u'.'};
-    }
-    const QVariant value = optionValueFromText(*option, text);
-    if (!value.isValid() || !isInDomain(*option, value)) {
-        return Utils::Failure{QLatin1String("\"") + text + QLatin1String("\" is no value of \"") +
-                              key + QLatin1String("\": ") + domainText(*option) + u'.'};
-    }
-    options->insert(key, value);
-    return {};
+    return {QLatin1String("The preset \"") + preset + QLatin1String("\" has what ") + device.id() +
+                QLatin1String(" cannot have; there are ") + offered.join(QLatin1String(", ")) +
+                u'.',
+            QStringLiteral("--preset")};
 }
 
 int runNew(Environment &environment, const NewArguments &arguments)
@@ -72,6 +67,13 @@ int runNew(Environment &environment, const NewArguments &arguments)
     }
     const DEV::DeviceArg device = *found;
     OptionMap options;
+    if (!arguments.preset.isEmpty()) {
+        if (!isPresetOffered(arguments.preset, device)) {
+            printProblem(presetProblem(arguments.preset, device));
+            return WrongUsage;
+        }
+        options = presetChoices(arguments.preset, device);
+    }
     if (!arguments.language.isEmpty()) {
         const QStringList names = languageNames().join(u' ').toLower().split(u' ');
         const int index = names.indexOf(arguments.language.toLower());
@@ -85,10 +87,12 @@ int runNew(Environment &environment, const NewArguments &arguments)
         options.insert(Key::lang, index);
     }
     for (const QString &setting : arguments.settings) {
-        if (const Utils::Result<void> applied = applySetting(setting, &options); !applied) {
-            printProblem({applied.reason(), setting.section(u'=', 0, 0)});
+        const Utils::Result<Setting> read = settingFromText(setting);
+        if (!read) {
+            printProblem({read.reason(), setting.section(u'=', 0, 0)});
             return WrongUsage;
         }
+        options.insert(read->key, read->value);
     }
 
     const QString folder = QDir(QFileInfo(arguments.outDir).absoluteFilePath()).path();
@@ -136,6 +140,9 @@ void declareNew(CommandLine &line)
         "orixm1 new --device TV3K-50A-PBGA256-C8/I7 --set \"Enable UART0=true\" --out soc",
         [arguments](Environment &environment) { return runNew(environment, *arguments); });
     line.device(command, arguments->device);
+    line.offer(CommandLine::text(command, "--preset", arguments->preset,
+                                 "Begin with one of \"orixm1 presets\"", "NAME"),
+               presetNames);
     line.offer(CommandLine::text(command, "--language", arguments->language,
                                  "Language of the outputs: verilog or vhdl", "LANGUAGE"),
                [] { return languageNames().join(u' ').toLower().split(u' '); });

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <unistd.h>
+#include <utility>
 
 namespace Cli
 {
@@ -109,6 +110,9 @@ bool flushOutput()
     if (std::fflush(stdout) == 0 && !std::ferror(stdout))
         return true;
     const int reason = firstWriteError != 0 ? firstWriteError : errno;
+    static bool isTold = false;
+    if (std::exchange(isTold, true))
+        return false;
     printError(QLatin1String("The output could not be written") +
                (reason == 0 ? QString()
                             : QString(QLatin1String(": ") +

@@ -60,11 +60,37 @@ public:
     QVector<IniEntry> scan()
     {
         QVector<IniEntry> entries;
+        walk([&entries](const IniEntry &entry) { entries.append(entry); }, [](const IniPart &) {});
+        return entries;
+    }
+
+    QVector<IniPart> parts()
+    {
+        QVector<IniPart> parts;
+        walk(
+            [&parts](const IniEntry &entry) {
+                parts.append({IniPart::Entry, entry.line, entry.name(), {}});
+            },
+            [&parts](const IniPart &part) { parts.append(part); });
+        return parts;
+    }
+
+private:
+    template <class TakeEntry, class TakePart>
+    void walk(const TakeEntry &takeEntry, const TakePart &takePart)
+    {
         QString section;
         Line line;
-        while (next(&line)) {
+        const auto takeComment = [this, &takePart](int first, int last) {
+            takePart({IniPart::Comment,
+                      lineNumber(first),
+                      {},
+                      m_text.mid(first, last - first).trimmed()});
+        };
+        while (next(&line, takeComment)) {
             if (m_text.at(line.span.first) == '[') {
                 section = sectionName(line.span);
+                takePart({IniPart::Section, lineNumber(line.span.first), section, {}});
             } else if (line.equals >= 0) {
                 IniEntry entry;
                 entry.line = lineNumber(line.span.first);
@@ -72,14 +98,15 @@ public:
                 entry.key = name({line.span.first, line.equals});
                 entry.values = values({line.equals + 1, line.span.last});
                 entry.bytes = bytesOf(line.span);
-                entries.append(entry);
+                takeEntry(entry);
+            } else if (m_text.at(line.span.first) == '#') {
+                takeComment(line.span.first, line.span.last);
             }
         }
-        return entries;
     }
 
-private:
-    bool next(Line *line)
+    template <class TakeComment>
+    bool next(Line *line, const TakeComment &takeComment)
     {
         for (;;) {
             while (m_at < m_text.size() && (isBlank(m_text.at(m_at)) || isNewline(m_text.at(m_at))))
@@ -88,8 +115,10 @@ private:
                 return false;
             if (m_text.at(m_at) != ';')
                 break;
+            const int first = m_at;
             while (m_at < m_text.size() && !isNewline(m_text.at(m_at)))
                 ++m_at;
+            takeComment(first, m_at);
         }
         *line = Line();
         line->span.first = m_at;
@@ -304,6 +333,11 @@ QString IniEntry::name() const
 QVector<IniEntry> iniEntries(const QByteArray &text)
 {
     return Scanner(text).scan();
+}
+
+QVector<IniPart> iniParts(const QByteArray &text)
+{
+    return Scanner(text).parts();
 }
 
 QString foreignIniValue(const QByteArray &text)

@@ -28,6 +28,18 @@ struct IniEntry {
 // Latin-1, as QSettings does, or as UTF-8 in a text with a byte order mark.
 QVector<IniEntry> iniEntries(const QByteArray &text);
 
+// A piece of an INI file that a rewritten file may have, too.
+struct IniPart {
+    enum Kind { Section, Entry, Comment } kind = Entry;
+    int line = 0;    // from 1
+    QString name;    // of a section as written, of an entry as IniEntry::name() gives it
+    QByteArray text; // of a comment: from its semicolon or number sign to the end of the line
+};
+
+// The parts in order. A comment that stands behind an entry has the entry's line. What is neither
+// section nor entry nor comment is left out.
+QVector<IniPart> iniParts(const QByteArray &text);
+
 // QSettings also stores objects of other kinds than text, and decodes them while it opens a file:
 // "@Variant(…)" may nest as deeply as the file is long. The first entry with a value of such a
 // kind, as a clause with line, entry and kind; empty if there is none. A file is safe for QSettings

@@ -156,12 +156,13 @@ Result<QByteArray> draftText(const QVariantMap &header, const QString &group,
         for (auto it = values.cbegin(); it != values.cend(); ++it)
             settings.setValue(it.key(), it.value());
         settings.endGroup();
-        settings.setValue(QStringLiteral("EndOfDraft/whole"), true);
+        // Behind whatever else there is: the sections come in the order of their names.
+        settings.setValue(QChar(0xffff) + QStringLiteral("/whole"), true);
         settings.sync();
         written = settings.status() == QSettings::NoError;
     }
     // QSettings takes a full disk for a success: only a draft with its end is whole.
-    const QByteArray mark = "[EndOfDraft]\nwhole=true\n";
+    const QByteArray mark = "[%UFFFF]\nwhole=true\n";
     QByteArray bytes;
     if (!written || !FileUtils::readFile(draft, &bytes, nullptr) || !bytes.endsWith(mark)) {
         // It does not tell why it could not.

@@ -87,6 +87,17 @@ QVariantMap otherEntries(QSettings &settings)
     return entries;
 }
 
+QVariantMap frame(QSettings &settings)
+{
+    QVariantMap entries;
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        if (key.section(u'/', 0, -2) != configGroup)
+            entries.insert(key, settings.value(key));
+    }
+    return entries;
+}
+
 QString type(const QSettings &settings)
 {
     return settings.value(typeEntry).toString();

@@ -47,6 +47,9 @@ void readOptions(QSettings &settings, OptionMap &options);
 // else has put into the file.
 QVariantMap otherEntries(QSettings &settings);
 
+// Every entry outside of the options, by its full key: what stays when only options are edited.
+QVariantMap frame(QSettings &settings);
+
 // The id of the IP that the file belongs to.
 QString type(const QSettings &settings);
 

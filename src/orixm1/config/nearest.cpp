@@ -7,29 +7,29 @@
 namespace TARVOORIXM1
 {
 
-namespace
+int slips(const QString &a, const QString &b)
 {
-
-// Number of single-letter changes between two texts (Levenshtein), letter case apart.
-int editDistance(const QString &a, const QString &b)
-{
+    const auto letter = [](const QString &text, int i) { return text.at(i - 1).toCaseFolded(); };
+    // Row i of the table of distances between beginnings, and the two before it.
+    QVector<int> beforeLast;
+    QVector<int> last;
     QVector<int> row(b.size() + 1);
     for (int j = 0; j <= b.size(); ++j)
         row[j] = j;
     for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0];
+        beforeLast = last;
+        last = row;
         row[0] = i;
         for (int j = 1; j <= b.size(); ++j) {
-            const int change =
-                diagonal + (a.at(i - 1).toCaseFolded() == b.at(j - 1).toCaseFolded() ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({row[j] + 1, row[j - 1] + 1, change});
+            const int change = last[j - 1] + (letter(a, i) == letter(b, j) ? 0 : 1);
+            row[j] = std::min({last[j] + 1, row[j - 1] + 1, change});
+            if (i > 1 && j > 1 && letter(a, i) == letter(b, j - 1) &&
+                letter(a, i - 1) == letter(b, j))
+                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
         }
     }
     return row[b.size()];
 }
-
-} // namespace
 
 QString nearestText(const QString &text, const QStringList &known)
 {
@@ -39,7 +39,7 @@ QString nearestText(const QString &text, const QStringList &known)
         return nearest;
     int best = text.size() / 3 + 1;
     for (const QString &entry : known) {
-        const int distance = editDistance(text, entry);
+        const int distance = slips(text, entry);
         if (distance < best) {
             best = distance;
             nearest = entry;

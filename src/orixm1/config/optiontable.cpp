@@ -5,7 +5,7 @@
 #include "latin1literal.h"
 #include "nearest.h"
 
-#include <algorithm>
+#include <QHash>
 
 namespace TARVOORIXM1
 {
@@ -199,10 +199,13 @@ const QVector<Option> &optionTable()
 
 const Option *findOption(const QString &key)
 {
-    const QVector<Option> &table = optionTable();
-    const auto it = std::find_if(table.begin(), table.end(),
-                                 [&key](const Option &row) { return row.key == key; });
-    return it == table.end() ? nullptr : &*it;
+    static const QHash<QString, const Option *> rows = [] {
+        QHash<QString, const Option *> result;
+        for (const Option &row : optionTable())
+            result.insert(row.key, &row);
+        return result;
+    }();
+    return rows[key];
 }
 
 QString nearestOptionKey(const QString &key)

@@ -247,6 +247,23 @@ private Q_SLOTS:
                  QByteArray("[General]\nversion=\"1.0 \"\n\n[Config]\na=32\nb=true\n"));
     }
 
+    void keepsSectionsOfEveryName()
+    {
+        QVariantMap header = {{QStringLiteral("version"), QStringLiteral("1.0")}};
+        for (const char *section : {"ABC", "Zz", "a", "zzz", "EndOfDraft", "_"})
+            header.insert(QString::fromLatin1(section) + QStringLiteral("/key"),
+                          QString::fromLatin1(section));
+        const QString path = m_dir.filePath(QStringLiteral("sections.ini"));
+        QString error;
+        QVERIFY2(writeIniFile(path, header, QStringLiteral("Config"),
+                              {{QStringLiteral("a"), QStringLiteral("1")}}, &error),
+                 qPrintable(error));
+        QSettings settings(path, QSettings::IniFormat);
+        QCOMPARE(settings.allKeys().size(), header.size() + 1);
+        for (auto it = header.cbegin(); it != header.cend(); ++it)
+            QCOMPARE(settings.value(it.key()), it.value());
+    }
+
     void replacesWhatStoodInTheFile()
     {
         QVERIFY(TestSupport::write(path(), "[General]\nold=1\n[Config]\nkey=0\ngone=1\n[x]\ny=z"));
