@@ -38,6 +38,9 @@ struct GenerateArguments {
     bool synthesise = true;
     bool json = false;
     bool verbose = false;
+    bool check = false; // only tell how the files stand
+    bool force = false; // run, whatever stands there
+    bool cache = true;
 };
 
 struct FirmwareArguments {
@@ -99,6 +102,8 @@ struct SimulateArguments {
 int runNew(Environment &environment, const NewArguments &arguments);
 int runRetarget(Environment &environment, const RetargetArguments &arguments);
 int runGenerate(Environment &environment, const GenerateArguments &arguments);
+// The same with `check`.
+int runGenerateCheck(Environment &environment, const GenerateArguments &arguments);
 int runCheck(Environment &environment, const QString &file, bool json);
 // An empty `outDir` means the file's folder.
 int runSources(Environment &environment, const QString &file, const QString &outDir, bool json);

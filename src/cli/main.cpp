@@ -127,12 +127,27 @@ int run(int argc, char *argv[])
     };
     addOutDir(generateCommand);
     generateCommand->add_flag("--no-synth", noSynth, "Stop after include files and source list");
-    generateCommand->add_flag("-v,--verbose", verbose, "Print the tool's log to standard error");
+    generateCommand->add_flag(
+        "-v,--verbose", verbose,
+        "Print the tool's log to standard error; with --check, the differences");
+    bool checkFiles = false;
+    bool noCache = false;
+    CLI::Option *checkFilesFlag = generateCommand->add_flag(
+        "--check", checkFiles,
+        "Only tell whether the files are fresh, stale, edited, missing or foreign, with exit "
+        "status 1 unless all are fresh; writes nothing");
+    generateCommand
+        ->add_flag("--force", force, "Run the tool even if everything is fresh, or in the cache")
+        ->excludes(checkFilesFlag);
+    generateCommand->add_flag("--no-cache", noCache,
+                              "Neither take results from the user's cache nor put them there");
     addJson(generateCommand);
     generateCommand->callback([&] {
         command = [&] {
-            return Cli::runGenerate(environment,
-                                    {text(file), text(outDir), !noSynth, json, verbose});
+            const Cli::GenerateArguments arguments = {text(file), text(outDir), !noSynth, json,
+                                                      verbose,    checkFiles,   force,    !noCache};
+            return checkFiles ? Cli::runGenerateCheck(environment, arguments)
+                              : Cli::runGenerate(environment, arguments);
         };
     });
 

@@ -36,19 +36,29 @@ bool isSupportFile(const QString &name)
                        [&name](QLatin1String support) { return name == support; });
 }
 
+QString dataFolder(const OptionMap &options, const QVariantMap &ipInfo)
+{
+    const bool debug = isOn(options, Key::enableDebug);
+    return ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
+}
+
+QStringList namesIn(const QString &dataDir)
+{
+    // An empty name would list the current folder.
+    return dataDir.isEmpty() ? QStringList()
+                             : QDir(dataDir).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+}
+
 } // namespace
 
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir)
 {
     const bool debug = isOn(options, Key::enableDebug);
-    const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
+    const QString dataDir = dataFolder(options, ipInfo);
     const QLatin1String excluded = excludedSources(device, debug);
     QStringList sourceFiles;
-    // An empty name would list the current folder.
-    const QStringList names =
-        dataDir.isEmpty() ? QStringList()
-                          : QDir(dataDir).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+    const QStringList names = namesIn(dataDir);
     for (const QString &name : names) {
         if (!isInDeviceList(name, excluded) && !isSupportFile(name))
             sourceFiles.append(dataDir + u'/' + name);
@@ -56,6 +66,18 @@ QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo
     for (const QLatin1String name : compiledIncludeFiles)
         sourceFiles.append(tempDir + u'/' + name);
     return sourceFiles;
+}
+
+QStringList buildSupportFiles(const OptionMap &options, const QVariantMap &ipInfo)
+{
+    const QString dataDir = dataFolder(options, ipInfo);
+    QStringList files;
+    const QStringList names = namesIn(dataDir);
+    for (const QString &name : names) {
+        if (isSupportFile(name))
+            files.append(dataDir + u'/' + name);
+    }
+    return files;
 }
 
 } // namespace TARVOORIXM1

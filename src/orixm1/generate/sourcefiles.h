@@ -15,4 +15,7 @@ namespace TARVOORIXM1
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir);
 
+// The full paths of the files beside them that are only included, sorted likewise.
+QStringList buildSupportFiles(const OptionMap &options, const QVariantMap &ipInfo);
+
 } // namespace TARVOORIXM1
