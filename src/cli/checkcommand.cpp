@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "findings.h"
 #include "ipcdocument.h"
@@ -71,8 +72,6 @@ QVector<Finding> withInterrupts(QVector<Finding> findings, const QVector<Finding
     return findings;
 }
 
-} // namespace
-
 int runCheck(Environment &environment, const QString &file, bool json)
 {
     const QVariantMap ipInfo = environment.ipInfo();
@@ -83,7 +82,7 @@ int runCheck(Environment &environment, const QString &file, bool json)
         return BadInput;
     const auto interrupts = readInterrupts(environment.dataFolder());
     if (!interrupts) {
-        printError(interrupts.reason());
+        printProblem({interrupts.reason()});
         return BadInput;
     }
     const QVector<Finding> findings =
@@ -96,6 +95,8 @@ int runCheck(Environment &environment, const QString &file, bool json)
     for (const Finding &finding : findings) {
         const bool isError = finding.severity == Finding::Error;
         anyError |= isError;
+        if (isError)
+            recordProblem({finding.message, finding.key, file});
         if (json)
             list.append(jsonOf(finding));
         else
@@ -105,6 +106,24 @@ int runCheck(Environment &environment, const QString &file, bool json)
     if (json)
         printJson({{QStringLiteral("file"), file}, {QStringLiteral("findings"), list}});
     return anyError ? Failed : Done;
+}
+
+} // namespace
+
+void declareCheck(CommandLine &line)
+{
+    struct Arguments {
+        QString file;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App *command =
+        line.command("check", "List what is wrong or doubtful in a configuration; changes nothing",
+                     "orixm1 check tarvo_orix_m1.ipc", [arguments](Environment &environment) {
+                         return runCheck(environment, arguments->file, arguments->json);
+                     });
+    line.file(command, arguments->file);
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

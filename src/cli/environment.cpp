@@ -3,6 +3,7 @@
 #include "output.h"
 
 #include <config/descriptor.h>
+#include <config/nearest.h>
 #include <config/optionkeys.h>
 #include <utils/descriptor.h>
 
@@ -41,7 +42,7 @@ QVariantMap Environment::ipInfo()
         error = QLatin1String("The descriptor \"") + path + QLatin1String("\" lacks \"") +
                 InfoKey::target + QLatin1String("\".");
     if (!error.isEmpty()) {
-        printError(error);
+        printProblem({error});
         return {};
     }
     addDataFolders(info, folder);
@@ -59,7 +60,7 @@ const DEV::DeviceDb *Environment::devices()
     }
     const Utils::Result<DEV::DeviceDb> read = DEV::DeviceDb::fromFolder(m_deviceFolder);
     if (!read) {
-        printError(read.reason());
+        printProblem({read.reason()});
         return nullptr;
     }
     m_ownDevices = *read;
@@ -72,6 +73,10 @@ namespace
 
 using Devices = QList<DEV::DeviceArg>;
 using Field = QString (DEV::DeviceArg::*)() const;
+
+// What a device can be named by.
+constexpr std::initializer_list<Field> deviceFields = {&DEV::DeviceArg::id, &DEV::DeviceArg::device,
+                                                       &DEV::DeviceArg::partNumber};
 
 // Those with this text in one of the fields; without regard to letter case only if none has it
 // exactly. An empty text matches all.
@@ -128,9 +133,11 @@ QString listed(const Devices &devices)
 
 } // namespace
 
-Utils::Result<DEV::DeviceArg> Environment::findDevice(const QString &device, const QString &package,
-                                                      const QString &speed) const
+Utils::Result<DEV::DeviceArg> Environment::findDevice(const DeviceChoice &choice) const
 {
+    const QString &device = choice.device;
+    const QString &package = choice.package;
+    const QString &speed = choice.speed;
     using DEV::DeviceArg;
     const Devices all = m_devices->devices();
     if (device.isEmpty()) {
@@ -139,8 +146,7 @@ Utils::Result<DEV::DeviceArg> Environment::findDevice(const QString &device, con
             distinct(all, &DeviceArg::device).join(QLatin1String(", ")) +
             QLatin1String(", or an id or a part number, as \"orixm1 devices\" lists them.")};
     }
-    const Devices named =
-        matching(all, device, {&DeviceArg::id, &DeviceArg::device, &DeviceArg::partNumber});
+    const Devices named = matching(all, device, deviceFields);
     if (named.isEmpty()) {
         return Utils::Failure{QLatin1String("Unknown device \"") + device +
                               QLatin1String("\"; \"orixm1 devices\" lists the known ones.")};
@@ -169,10 +175,21 @@ Utils::Result<DEV::DeviceArg> Environment::findDevice(const QString &device, con
     return found.first();
 }
 
-QString Environment::chosenSpeed(const DEV::DeviceArg &found, const QString &device,
-                                 const QString &speed) const
+Problem Environment::problemOf(const QString &reason, const DeviceChoice &choice) const
 {
-    if (!speed.isEmpty() || device.compare(found.device(), Qt::CaseInsensitive) != 0)
+    using DEV::DeviceArg;
+    Problem problem{reason, choice.device};
+    const Devices all = m_devices->devices();
+    if (matching(all, choice.device, deviceFields).isEmpty())
+        problem.fix = didYouMean(nearestText(
+            choice.device, distinct(all, &DeviceArg::device) + distinct(all, &DeviceArg::id) +
+                               distinct(all, &DeviceArg::partNumber)));
+    return problem;
+}
+
+QString Environment::chosenSpeed(const DEV::DeviceArg &found, const DeviceChoice &choice) const
+{
+    if (!choice.speed.isEmpty() || choice.device.compare(found.device(), Qt::CaseInsensitive) != 0)
         return {};
     DEV::ChipFilter filter;
     filter.device = found.device();

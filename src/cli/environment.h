@@ -1,5 +1,7 @@
 #pragma once
 
+#include "output.h"
+
 #include <dev/devicedb.h>
 
 #include <QString>
@@ -7,6 +9,13 @@
 
 namespace Cli
 {
+
+// How a user names a device.
+struct DeviceChoice {
+    QString device; // id, name or part number
+    QString package;
+    QString speed;
+};
 
 // The data that the commands work with.
 class Environment
@@ -27,12 +36,12 @@ public:
     // speed grade (both may be empty); letter case counts only where it decides. Without a speed
     // grade it is the first of a package's. A failure if there is none or a choice is left, with
     // the choices. Needs devices().
-    Utils::Result<DEV::DeviceArg> findDevice(const QString &device, const QString &package,
-                                             const QString &speed) const;
+    Utils::Result<DEV::DeviceArg> findDevice(const DeviceChoice &choice) const;
+    // Why it found none, with the name that `choice` resembles if nobody knows it.
+    Problem problemOf(const QString &reason, const DeviceChoice &choice) const;
     // What findDevice() has chosen for the user, in a sentence; empty if the text and the speed
     // grade left no choice.
-    QString chosenSpeed(const DEV::DeviceArg &found, const QString &device,
-                        const QString &speed) const;
+    QString chosenSpeed(const DEV::DeviceArg &found, const DeviceChoice &choice) const;
 
 private:
     QString m_dataFolder;

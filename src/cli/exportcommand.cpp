@@ -1,9 +1,11 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
 
+#include <config/nearest.h>
 #include <export/format.h>
 #include <generate/synthesisrequest.h>
 #include <synthesis/resources.h>
@@ -22,6 +24,16 @@ using namespace TARVOORIXM1;
 
 namespace
 {
+
+struct ExportArguments {
+    QString file;        // needed unless `list`
+    QStringList formats; // names; none: all
+    QString outDir;      // likewise
+    bool list = false;
+    bool check = false;
+    bool json = false;
+    QString netlist; // of a run, for the figures of resources; empty: none
+};
 
 QStringList formatNames()
 {
@@ -74,22 +86,26 @@ void printFormatTable(const QJsonObject &list)
     }
 }
 
-// Why the arguments cannot be meant; empty if they can.
-QString usageMistake(const ExportArguments &arguments)
+// Why the arguments cannot be meant; without a text if they can.
+Problem usageMistake(const ExportArguments &arguments)
 {
     const QStringList known = formatNames();
     for (const QString &name : arguments.formats) {
         if (!known.contains(name))
-            return QLatin1String("Unknown format \"") + name + QLatin1String("\"; there are: ") +
-                   known.join(QLatin1String(", "));
+            return {QLatin1String("Unknown format \"") + name + QLatin1String("\"; there are: ") +
+                        known.join(QLatin1String(", ")) + u'.',
+                    name,
+                    {},
+                    0,
+                    didYouMean(nearestText(name, known))};
     }
     if (arguments.list)
         return {};
     if (arguments.file.isEmpty())
-        return QStringLiteral("A configuration FILE is required; \"orixm1 export --list\" lists "
-                              "the formats without one.");
+        return {QStringLiteral("A configuration FILE is required; \"orixm1 export --list\" lists "
+                               "the formats without one.")};
     if (arguments.outDir.isEmpty())
-        return QStringLiteral("--out DIR is required: the folder that the files are written to.");
+        return {QStringLiteral("--out DIR is required: the folder that the files are written to.")};
     return {};
 }
 
@@ -143,7 +159,6 @@ QJsonObject objectOf(const Utils::Bundle &bundle, const Utils::Result<Utils::Bun
 {
     QJsonArray files;
     QStringList warnings;
-    QStringList errors;
     if (report) {
         for (const Utils::BundleEntry &entry : report->entries) {
             QJsonObject file{{QStringLiteral("path"), entry.path},
@@ -157,7 +172,7 @@ QJsonObject objectOf(const Utils::Bundle &bundle, const Utils::Result<Utils::Bun
         }
         warnings = report->messages;
     } else {
-        errors.append(report.reason());
+        printProblem({report.reason()});
     }
     QStringList empty;
     for (const QString &name : bundle.groups) {
@@ -169,8 +184,7 @@ QJsonObject objectOf(const Utils::Bundle &bundle, const Utils::Result<Utils::Bun
             {QStringLiteral("formats"), QJsonArray::fromStringList(bundle.groups)},
             {QStringLiteral("emptyFormats"), QJsonArray::fromStringList(empty)},
             {QStringLiteral("files"), files},
-            {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
-            {QStringLiteral("errors"), QJsonArray::fromStringList(errors)}};
+            {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)}};
 }
 
 // What the object says beside its files.
@@ -184,7 +198,6 @@ void tellObject(const QJsonObject &object)
     tellEach(QLatin1String("emptyFormats"),
              QStringLiteral("The format \"%1\" has nothing for this configuration."));
     tellEach(QLatin1String("warnings"), QStringLiteral("%1"));
-    tellEach(QLatin1String("errors"), QStringLiteral("%1"));
 }
 
 // The files that are there now; of a check, those that should be otherwise.
@@ -240,12 +253,10 @@ Utils::Result<ResourceFigures> figuresOf(const QString &netlist, const SystemMap
     return figures;
 }
 
-} // namespace
-
 int runExport(Environment &environment, const ExportArguments &arguments)
 {
-    if (const QString mistake = usageMistake(arguments); !mistake.isEmpty()) {
-        printError(mistake);
+    if (const Problem mistake = usageMistake(arguments); !mistake.text.isEmpty()) {
+        printProblem(mistake);
         return WrongUsage;
     }
     if (arguments.list) {
@@ -260,7 +271,7 @@ int runExport(Environment &environment, const ExportArguments &arguments)
         return BadInput;
     const auto description = readSystemDescription(environment.dataFolder());
     if (!description) {
-        printError(description.reason());
+        printProblem({description.reason()});
         return BadInput;
     }
     IpcDocument document;
@@ -271,7 +282,7 @@ int runExport(Environment &environment, const ExportArguments &arguments)
     if (!arguments.netlist.isEmpty()) {
         const Utils::Result<ResourceFigures> figures = figuresOf(arguments.netlist, map);
         if (!figures) {
-            printError(figures.reason());
+            printProblem({figures.reason(), {}, arguments.netlist});
             return BadInput;
         }
         map.resources = *figures;
@@ -289,6 +300,38 @@ int runExport(Environment &environment, const ExportArguments &arguments)
         printFiles(object, arguments.check);
     const bool isDone = report && (!arguments.check || report->isFresh());
     return isDone ? Done : Failed;
+}
+
+} // namespace
+
+void declareExport(CommandLine &line)
+{
+    auto arguments = std::make_shared<ExportArguments>();
+    CLI::App *command = line.command(
+        "export",
+        "Write what others need of a configuration: a set of files, whole or not at all; a file "
+        "that somebody has edited is kept",
+        "orixm1 export tarvo_orix_m1.ipc svd header linker --out firmware",
+        [arguments](Environment &environment) { return runExport(environment, *arguments); });
+    line.path(command, "FILE", arguments->file, "Configuration file (.ipc)", "");
+    line.offer(CommandLine::texts(command, "FORMAT", arguments->formats,
+                                  "What to write, as \"orixm1 export --list\" names it (default: "
+                                  "everything; with --check, what was written last)",
+                                  ""),
+               formatNames);
+    line.path(command, "--out", arguments->outDir, "Folder that the files are written to", "DIR");
+    line.path(command, "--netlist", arguments->netlist,
+              "Netlist or simulation model in Verilog that a run of this configuration has left: "
+              "the datasheet tells what it uses of the device",
+              "FILE");
+    CLI::Option *list =
+        command->add_flag("--list", arguments->list, "List the formats; needs no FILE");
+    command
+        ->add_flag("--check", arguments->check,
+                   "Only tell which files are missing, stale, edited or left over, with exit "
+                   "status 1 if any is; writes nothing")
+        ->excludes(list);
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

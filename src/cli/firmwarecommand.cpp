@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
@@ -21,6 +22,16 @@ using namespace TARVOORIXM1;
 
 namespace
 {
+
+struct FirmwareArguments {
+    QString image;
+    QString file;
+    QString outDir;   // empty: see the command's help
+    QString form;     // "elf", "hex", "bin"; empty: found from the image
+    quint32 base = 0; // address of the first byte of a binary image
+    bool initialise = false;
+    bool json = false;
+};
 
 QString quoted(const QString &path)
 {
@@ -63,12 +74,10 @@ Utils::Result<bool> initialise(const IpcDocument &document, const QString &folde
     return true;
 }
 
-} // namespace
-
 int runFirmware(Environment &environment, const FirmwareArguments &arguments)
 {
     const auto refuse = [](const QString &reason, int status) {
-        printError(reason);
+        printProblem({reason});
         return status;
     };
     if (!arguments.form.isEmpty() && !imageFormNamed(arguments.form))
@@ -136,6 +145,34 @@ int runFirmware(Environment &environment, const FirmwareArguments &arguments)
         printError(QStringLiteral("The configuration does not start the memory from them yet; "
                                   "--initialize sets the options for it."));
     return Done;
+}
+
+} // namespace
+
+void declareFirmware(CommandLine &line)
+{
+    auto arguments = std::make_shared<FirmwareArguments>();
+    CLI::App *command = line.command(
+        "firmware", "Turn a program into the files that initialise the instruction memory",
+        "orixm1 firmware app.elf tarvo_orix_m1.ipc --initialize",
+        [arguments](Environment &environment) { return runFirmware(environment, *arguments); });
+    line.path(command, "IMAGE", arguments->image, "Program: ELF, Intel HEX or binary", "")
+        ->required();
+    line.file(command, arguments->file);
+    line.path(command, "--out", arguments->outDir,
+              "Folder of itcm0 to itcm3 (default: the one that FILE initialises the memory "
+              "from, else \"itcm\" beside FILE)",
+              "DIR");
+    line.offer(CommandLine::text(command, "--format", arguments->form,
+                                 "elf, hex or bin (default: found out)", "FORMAT"),
+               imageFormNames);
+    command
+        ->add_option("--base", arguments->base,
+                     "Address of the first byte of a binary image (default: 0)")
+        ->type_name("ADDRESS");
+    command->add_flag("--initialize", arguments->initialise,
+                      "Set the \"Initialize ITCM\" options of FILE to these files");
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

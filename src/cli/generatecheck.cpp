@@ -1,4 +1,4 @@
-#include "commands.h"
+#include "generatecheck.h"
 
 #include "digest.h"
 #include "environment.h"
@@ -85,8 +85,7 @@ int runGenerateCheck(Environment &environment, const GenerateArguments &argument
                    {QStringLiteral("state"), overall},
                    {QStringLiteral("files"), files},
                    {QStringLiteral("changes"), changes},
-                   {QStringLiteral("warnings"), QJsonArray::fromStringList(state.messages)},
-                   {QStringLiteral("errors"), QJsonArray()}});
+                   {QStringLiteral("warnings"), QJsonArray::fromStringList(state.messages)}});
     } else {
         printLine(input.createInPath + QLatin1String(": ") + overall);
         for (const Change &change : state.changes)

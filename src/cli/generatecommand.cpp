@@ -1,7 +1,9 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "digest.h"
 #include "environment.h"
+#include "generatecheck.h"
 #include "ipcdocument.h"
 #include "output.h"
 #include "resultcache.h"
@@ -107,12 +109,11 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
         !sentence.isEmpty())
         printError(sentence);
     for (const QString &error : report.errors)
-        printError(error);
+        printProblem({error});
     if (arguments.json) {
         QJsonObject object{{QStringLiteral("files"), QJsonArray::fromStringList(report.files)},
                            {QStringLiteral("sources"), QJsonArray::fromStringList(report.sources)},
                            {QStringLiteral("outputs"), QJsonArray::fromStringList(report.outputs)},
-                           {QStringLiteral("errors"), QJsonArray::fromStringList(report.errors)},
                            {QStringLiteral("warnings"), QJsonArray::fromStringList(warnings)},
                            {QStringLiteral("cells"), jsonOf(report.run.cells)},
                            {QStringLiteral("notCounted"), notCounted(report.run.cells)},
@@ -168,7 +169,7 @@ int synthesise(Synthesis::Runner &runner, bool verbose)
     Utils::Interrupt interrupt;
     QObject::connect(&interrupt, &Utils::Interrupt::received, &runner, &Synthesis::Runner::cancel);
     QObject::connect(&runner, &Synthesis::Runner::stageChanged,
-                     [](const QString &stage) { printError(stage); });
+                     [progress = Progress()](const QString &stage) { progress.tell(stage); });
     if (verbose)
         QObject::connect(&runner, &Synthesis::Runner::logReceived,
                          [](const QString &text) { printError(text); });
@@ -371,8 +372,6 @@ private:
     Report m_report;
 };
 
-} // namespace
-
 int runGenerate(Environment &environment, const GenerateArguments &arguments)
 {
     const QVariantMap ipInfo = environment.ipInfo();
@@ -383,6 +382,38 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
         return BadInput;
     return Generation(document, generationInput(document, ipInfo, arguments.outDir), arguments)
         .run();
+}
+
+} // namespace
+
+void declareGenerate(CommandLine &line)
+{
+    auto arguments = std::make_shared<GenerateArguments>();
+    CLI::App *command = line.command(
+        "generate", "Write include files, synthesise and collect the outputs",
+        "orixm1 generate tarvo_orix_m1.ipc --out build", [arguments](Environment &environment) {
+            return arguments->check ? runGenerateCheck(environment, *arguments)
+                                    : runGenerate(environment, *arguments);
+        });
+    line.file(command, arguments->file);
+    line.outDir(command, arguments->outDir);
+    command->add_flag(
+        "--no-synth", [arguments](qint64) { arguments->synthesise = false; },
+        "Stop after include files and source list");
+    command->add_flag("-v,--verbose", arguments->verbose,
+                      "Print the tool's log to standard error; with --check, the differences");
+    CLI::Option *check =
+        command->add_flag("--check", arguments->check,
+                          "Only tell whether the files are fresh, stale, edited, missing or "
+                          "foreign, with exit status 1 unless all are fresh; writes nothing");
+    command
+        ->add_flag("--force", arguments->force,
+                   "Run the tool even if everything is fresh, or in the cache")
+        ->excludes(check);
+    command->add_flag(
+        "--no-cache", [arguments](qint64) { arguments->cache = false; },
+        "Neither take results from the user's cache nor put them there");
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

@@ -138,7 +138,7 @@ bool openDocument(Environment &environment, const QString &path, IpcDocument *do
         return false;
     const Utils::Result<IpcDocument> read = IpcDocument::read(path, *devices);
     if (!read) {
-        printError(read.reason());
+        printProblem({read.reason(), {}, path});
         return false;
     }
     *document = *read;
@@ -151,7 +151,8 @@ bool openForDevice(Environment &environment, const QString &path, IpcDocument *d
         return false;
     const QString problem = document->deviceProblem();
     if (!problem.isEmpty())
-        printError(QLatin1String("\"") + document->path + QLatin1String("\" ") + problem + u'.');
+        printProblem({QLatin1String("\"") + document->path + QLatin1String("\" ") + problem + u'.',
+                      QStringLiteral("target_device"), path});
     return problem.isEmpty();
 }
 

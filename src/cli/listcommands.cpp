@@ -1,9 +1,11 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
 
+#include <config/nearest.h>
 #include <config/optiontable.h>
 
 namespace Cli
@@ -19,6 +21,17 @@ QString padded(const QString &text, int width)
     return text.leftJustified(width, u' ');
 }
 
+QStringList seriesOf(const DEV::DeviceDb &devices)
+{
+    QStringList series;
+    const QList<DEV::DeviceArg> all = devices.devices();
+    for (const DEV::DeviceArg &device : all) {
+        if (!series.contains(device.series()))
+            series.append(device.series());
+    }
+    return series;
+}
+
 QString defaultText(const Option &option)
 {
     if (!option.defaultValue.isValid())
@@ -26,8 +39,6 @@ QString defaultText(const Option &option)
     const QString text = option.defaultValue.toString();
     return text.isEmpty() ? QStringLiteral("\"\"") : text;
 }
-
-} // namespace
 
 int runOptions(bool json)
 {
@@ -85,14 +96,13 @@ int runDevices(Environment &environment, const QString &series, bool json)
     filter.series = series;
     const QList<DEV::DeviceArg> devices = environment.devices()->filterDevice(filter);
     if (devices.isEmpty()) {
-        QStringList known;
-        const QList<DEV::DeviceArg> all = environment.devices()->devices();
-        for (const DEV::DeviceArg &device : all) {
-            if (!known.contains(device.series()))
-                known.append(device.series());
-        }
-        printError(QLatin1String("Unknown series \"") + series + QLatin1String("\"; there are: ") +
-                   known.join(QLatin1String(", ")));
+        const QStringList known = seriesOf(*environment.devices());
+        printProblem({QLatin1String("Unknown series \"") + series +
+                          QLatin1String("\"; there are: ") + known.join(QLatin1String(", ")) + u'.',
+                      series,
+                      {},
+                      0,
+                      didYouMean(nearestText(series, known))});
         return WrongUsage;
     }
     if (json) {
@@ -135,6 +145,53 @@ int runSources(Environment &environment, const QString &file, const QString &out
     for (const QString &source : sources)
         printLine(source);
     return Done;
+}
+
+} // namespace
+
+void declareOptions(CommandLine &line)
+{
+    auto json = std::make_shared<bool>(false);
+    CLI::App *command =
+        line.command("options", "List all option keys with type, default and domain",
+                     "orixm1 options --json", [json](Environment &) { return runOptions(*json); });
+    CommandLine::json(command, *json);
+}
+
+void declareDevices(CommandLine &line)
+{
+    struct Arguments {
+        QString series;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App *command =
+        line.command("devices", "List the known devices", "orixm1 devices --series TV2KR",
+                     [arguments](Environment &environment) {
+                         return runDevices(environment, arguments->series, arguments->json);
+                     });
+    line.offer(CommandLine::text(command, "--series", arguments->series,
+                                 "Only this series, such as TV2KR", "S"),
+               [] { return seriesOf(DEV::DeviceDb::bundled()); });
+    CommandLine::json(command, arguments->json);
+}
+
+void declareSources(CommandLine &line)
+{
+    struct Arguments {
+        QString file;
+        QString outDir;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App *command = line.command(
+        "sources", "List the files that synthesis compiles, in order",
+        "orixm1 sources tarvo_orix_m1.ipc", [arguments](Environment &environment) {
+            return runSources(environment, arguments->file, arguments->outDir, arguments->json);
+        });
+    line.file(command, arguments->file);
+    line.outDir(command, arguments->outDir);
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

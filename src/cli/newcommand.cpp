@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "findings.h"
 #include "ipcdocument.h"
@@ -20,6 +21,15 @@ using namespace TARVOORIXM1;
 
 namespace
 {
+
+struct NewArguments {
+    DeviceChoice device;
+    QString language;
+    QStringList settings; // "KEY=VALUE"
+    QString outDir;
+    bool force = false;
+    bool json = false;
+};
 
 // Puts "KEY=VALUE" into the map as the key's type.
 Utils::Result<void> applySetting(const QString &setting, OptionMap *options)
@@ -50,17 +60,14 @@ Utils::Result<void> applySetting(const QString &setting, OptionMap *options)
     return {};
 }
 
-} // namespace
-
 int runNew(Environment &environment, const NewArguments &arguments)
 {
     const QVariantMap ipInfo = environment.ipInfo();
     if (ipInfo.isEmpty() || !environment.devices())
         return BadInput;
-    const Utils::Result<DEV::DeviceArg> found =
-        environment.findDevice(arguments.device, arguments.package, arguments.speed);
+    const Utils::Result<DEV::DeviceArg> found = environment.findDevice(arguments.device);
     if (!found) {
-        printError(found.reason());
+        printProblem(environment.problemOf(found.reason(), arguments.device));
         return WrongUsage;
     }
     const DEV::DeviceArg device = *found;
@@ -69,15 +76,17 @@ int runNew(Environment &environment, const NewArguments &arguments)
         const QStringList names = languageNames().join(u' ').toLower().split(u' ');
         const int index = names.indexOf(arguments.language.toLower());
         if (index < 0) {
-            printError(QLatin1String("Unknown language \"") + arguments.language +
-                       QLatin1String("\"; there are ") + names.join(QLatin1String(" and ")) + u'.');
+            printProblem({QLatin1String("Unknown language \"") + arguments.language +
+                              QLatin1String("\"; there are ") + names.join(QLatin1String(" and ")) +
+                              u'.',
+                          QStringLiteral("--language")});
             return WrongUsage;
         }
         options.insert(Key::lang, index);
     }
     for (const QString &setting : arguments.settings) {
         if (const Utils::Result<void> applied = applySetting(setting, &options); !applied) {
-            printError(applied.reason());
+            printProblem({applied.reason(), setting.section(u'=', 0, 0)});
             return WrongUsage;
         }
     }
@@ -86,18 +95,19 @@ int runNew(Environment &environment, const NewArguments &arguments)
     const QString path = IpcFile::path(folder, ipInfo);
     const OptionMap whole = optionsForChoices(options, device.device(), folder);
     if (QFileInfo::exists(path) && !arguments.force) {
-        printError(QLatin1String("\"") + path +
-                   QLatin1String("\" exists already; --force replaces it."));
+        printProblem(
+            {QLatin1String("\"") + path + QLatin1String("\" exists already; --force replaces it."),
+             {},
+             path});
         return Failed;
     }
     const Utils::Result<void> written =
         writeConfiguration(path, IpcFile::header(device.id(), ipInfo), whole);
     if (!written) {
-        printError(written.reason());
+        printProblem({written.reason(), {}, path});
         return Failed;
     }
-    if (const QString note = environment.chosenSpeed(device, arguments.device, arguments.speed);
-        !note.isEmpty())
+    if (const QString note = environment.chosenSpeed(device, arguments.device); !note.isEmpty())
         printError(note);
     // Choices are written as they were given; what does not fit is told at once.
     QJsonArray findings;
@@ -114,6 +124,34 @@ int runNew(Environment &environment, const NewArguments &arguments)
     }
     printLine(path);
     return Done;
+}
+
+} // namespace
+
+void declareNew(CommandLine &line)
+{
+    auto arguments = std::make_shared<NewArguments>();
+    CLI::App *command = line.command(
+        "new", "Write a configuration file",
+        "orixm1 new --device TV3K-50A-PBGA256-C8/I7 --set \"Enable UART0=true\" --out soc",
+        [arguments](Environment &environment) { return runNew(environment, *arguments); });
+    line.device(command, arguments->device);
+    line.offer(CommandLine::text(command, "--language", arguments->language,
+                                 "Language of the outputs: verilog or vhdl", "LANGUAGE"),
+               [] { return languageNames().join(u' ').toLower().split(u' '); });
+    line.offer(CommandLine::texts(command, "--set", arguments->settings,
+                                  "Set an option, as listed by \"orixm1 options\"; may be repeated",
+                                  "KEY=VALUE"),
+               [] {
+                   QStringList settings;
+                   for (const Option &option : optionTable())
+                       settings.append(option.key + u'=');
+                   return settings;
+               });
+    line.path(command, "--out", arguments->outDir, "Folder that the file is written to", "DIR")
+        ->required();
+    CommandLine::force(command, arguments->force);
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <unistd.h>
 
 namespace Cli
 {
@@ -14,6 +15,8 @@ namespace
 
 int firstWriteError = 0;
 std::function<void(const QString &)> errorTaker;
+QJsonArray problems;
+bool hasPrintedJson = false;
 
 void put(FILE *stream, const QByteArray &bytes)
 {
@@ -49,9 +52,53 @@ void printError(const QString &line)
     put(stderr, QByteArray("orixm1: ") + line.toUtf8() + '\n');
 }
 
-void printJson(const QJsonObject &object)
+QString sentenceOf(const Problem &problem)
 {
+    return problem.fix.isEmpty() ? problem.text : problem.text + u' ' + problem.fix;
+}
+
+void Progress::tell(const QString &stage) const
+{
+    if (::isatty(STDERR_FILENO))
+        printError(QStringLiteral("[%1 s] %2")
+                       .arg(double(m_timer.elapsed()) / 1000.0, 6, 'f', 1)
+                       .arg(stage));
+}
+
+QString didYouMean(const QString &nearest)
+{
+    return nearest.isEmpty()
+               ? QString()
+               : QString(QLatin1String("Did you mean \"") + nearest + QLatin1String("\"?"));
+}
+
+void printProblem(const Problem &problem)
+{
+    printError(sentenceOf(problem));
+    recordProblem(problem);
+}
+
+void recordProblem(const Problem &problem)
+{
+    problems.append(QJsonObject{
+        {QStringLiteral("key"), problem.key},
+        {QStringLiteral("file"), problem.file},
+        {QStringLiteral("line"), problem.line > 0 ? QJsonValue(problem.line) : QJsonValue()},
+        {QStringLiteral("text"), problem.text},
+        {QStringLiteral("fix"), problem.fix}});
+}
+
+void printJson(QJsonObject object)
+{
+    object.insert(QStringLiteral("errors"), problems);
     put(stdout, QJsonDocument(object).toJson(QJsonDocument::Indented));
+    hasPrintedJson = true;
+}
+
+void printJsonOfProblems()
+{
+    if (!hasPrintedJson)
+        printJson({});
 }
 
 bool flushOutput()

@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
@@ -41,8 +42,6 @@ QString directionName(const Utils::PinFigure &pin)
     return names[pin.direction()];
 }
 
-} // namespace
-
 int runPins(Environment &environment, const QString &file, bool json)
 {
     IpcDocument document;
@@ -72,6 +71,24 @@ int runPins(Environment &environment, const QString &file, bool json)
     for (const BlockPin &entry : pins)
         print(entry.pin.name(), directionName(entry.pin), entry.block);
     return Done;
+}
+
+} // namespace
+
+void declarePins(CommandLine &line)
+{
+    struct Arguments {
+        QString file;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App *command =
+        line.command("pins", "List the pins that the core has in a configuration",
+                     "orixm1 pins tarvo_orix_m1.ipc", [arguments](Environment &environment) {
+                         return runPins(environment, arguments->file, arguments->json);
+                     });
+    line.file(command, arguments->file);
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
@@ -13,6 +14,8 @@ using namespace TARVOORIXM1;
 
 namespace
 {
+
+enum class RegistersForm { Table, Json, Markdown, CHeader };
 
 QJsonArray valuesArray(const QVector<FieldValue> &values)
 {
@@ -139,20 +142,19 @@ void printTable(const QVector<Peripheral> &peripherals)
     }
 }
 
-} // namespace
-
+// An empty `file` means all peripherals.
 int runRegisters(Environment &environment, const QString &file, RegistersForm form)
 {
     if (environment.ipInfo().isEmpty())
         return BadInput;
     const auto read = readRegisterMap(environment.dataFolder());
     if (!read) {
-        printError(read.reason());
+        printProblem({read.reason()});
         return BadInput;
     }
     const auto sources = readOtherInterrupts(environment.dataFolder());
     if (!sources) {
-        printError(sources.reason());
+        printProblem({sources.reason()});
         return BadInput;
     }
     QVector<Peripheral> peripherals = *read;
@@ -185,6 +187,35 @@ int runRegisters(Environment &environment, const QString &file, RegistersForm fo
         break;
     }
     return Done;
+}
+
+} // namespace
+
+void declareRegisters(CommandLine &line)
+{
+    struct Arguments {
+        QString file;
+        bool json = false;
+        bool markdown = false;
+        bool cHeader = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App *command = line.command(
+        "registers", "List the registers of the sample subsystem's peripherals",
+        "orixm1 registers tarvo_orix_m1.ipc --markdown", [arguments](Environment &environment) {
+            return runRegisters(environment, arguments->file,
+                                arguments->json       ? RegistersForm::Json
+                                : arguments->markdown ? RegistersForm::Markdown
+                                : arguments->cHeader  ? RegistersForm::CHeader
+                                                      : RegistersForm::Table);
+        });
+    line.path(command, "FILE", arguments->file, "Only what this configuration (.ipc) switches on",
+              "");
+    CLI::Option_group *form = command->add_option_group("Form");
+    CommandLine::json(form, arguments->json);
+    form->add_flag("--markdown", arguments->markdown, "Print a document with all fields");
+    form->add_flag("--c-header", arguments->cHeader, "Print a C header for firmware");
+    form->require_option(0, 1);
 }
 
 } // namespace Cli

@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
@@ -20,6 +21,15 @@ using namespace TARVOORIXM1;
 namespace
 {
 
+struct RetargetArguments {
+    QString file;
+    DeviceChoice device;
+    QString out; // file; empty: in place
+    bool force = false;
+    bool dryRun = false;
+    bool json = false;
+};
+
 QJsonArray jsonOf(const Retargeted &moved, const DEV::DeviceArg &device)
 {
     QJsonArray losses;
@@ -39,8 +49,6 @@ void keepInitialisationFolder(OptionMap &options, const QString &from, const QSt
         options.insert(Key::itcmInitializationPath, QDir::cleanPath(absoluteItcmPath(path, from)));
 }
 
-} // namespace
-
 int runRetarget(Environment &environment, const RetargetArguments &arguments)
 {
     const QVariantMap ipInfo = environment.ipInfo();
@@ -51,15 +59,15 @@ int runRetarget(Environment &environment, const RetargetArguments &arguments)
         return BadInput;
     const QString id = ipInfo.value(InfoKey::id).toString();
     if (!document.type.isEmpty() && document.type != id) {
-        printError(QLatin1String("\"") + document.path +
-                   QLatin1String("\" is a configuration of \"") + document.type +
-                   QLatin1String("\", not of \"") + id + QLatin1String("\"."));
+        printProblem({QLatin1String("\"") + document.path +
+                          QLatin1String("\" is a configuration of \"") + document.type +
+                          QLatin1String("\", not of \"") + id + QLatin1String("\"."),
+                      QStringLiteral("type"), document.path});
         return BadInput;
     }
-    const Utils::Result<DEV::DeviceArg> found =
-        environment.findDevice(arguments.device, arguments.package, arguments.speed);
+    const Utils::Result<DEV::DeviceArg> found = environment.findDevice(arguments.device);
     if (!found) {
-        printError(found.reason());
+        printProblem(environment.problemOf(found.reason(), arguments.device));
         return WrongUsage;
     }
     const DEV::DeviceArg device = *found;
@@ -67,23 +75,24 @@ int runRetarget(Environment &environment, const RetargetArguments &arguments)
         arguments.out.isEmpty() ? document.path : QFileInfo(arguments.out).absoluteFilePath();
     const bool inPlace = target == document.path;
     if (!inPlace && !arguments.force && !arguments.dryRun && QFileInfo::exists(target)) {
-        printError(QLatin1String("\"") + target +
-                   QLatin1String("\" exists already; --force replaces it."));
+        printProblem({QLatin1String("\"") + target +
+                          QLatin1String("\" exists already; --force replaces it."),
+                      {},
+                      target});
         return Failed;
     }
 
     Retargeted moved = retarget(document.options, document.device, device);
     keepInitialisationFolder(moved.options, document.folder(), QFileInfo(target).absolutePath());
     const bool changed = document.deviceText != device.id() || moved.options != document.options;
-    if (const QString note = environment.chosenSpeed(device, arguments.device, arguments.speed);
-        !note.isEmpty())
+    if (const QString note = environment.chosenSpeed(device, arguments.device); !note.isEmpty())
         printError(note);
     const bool writes = !arguments.dryRun && (changed || !inPlace);
     const Utils::Result<void> written =
         writes ? writeConfiguration(target, document.movedHeader(device.id()), moved.options)
                : Utils::Result<void>();
     if (!written) {
-        printError(written.reason());
+        printProblem({written.reason(), {}, target});
         return Failed;
     }
     if (arguments.json) {
@@ -102,6 +111,24 @@ int runRetarget(Environment &environment, const RetargetArguments &arguments)
     if (writes)
         printLine(target);
     return Done;
+}
+
+} // namespace
+
+void declareRetarget(CommandLine &line)
+{
+    auto arguments = std::make_shared<RetargetArguments>();
+    CLI::App *command = line.command(
+        "retarget", "Move a configuration to another device and tell what it loses",
+        "orixm1 retarget tarvo_orix_m1.ipc --device TV1KL-5A --package QFN32 --dry-run",
+        [arguments](Environment &environment) { return runRetarget(environment, *arguments); });
+    line.file(command, arguments->file);
+    line.device(command, arguments->device);
+    line.path(command, "--out", arguments->out,
+              "Write this file (default: the configuration itself)", "FILE");
+    CommandLine::force(command, arguments->force);
+    command->add_flag("--dry-run", arguments->dryRun, "Only tell; write nothing");
+    CommandLine::json(command, arguments->json);
 }
 
 } // namespace Cli

@@ -356,7 +356,7 @@ void tst_Cli::newPrintsOneObject()
                                   "--set", "Enable PSRAM=true"}));
     QCOMPARE(result.status, 0);
     const QJsonObject object = result.json();
-    QCOMPARE(object.keys(), words({"device", "file", "findings"}));
+    QCOMPARE(object.keys(), words({"device", "errors", "file", "findings"}));
     QCOMPARE(object.value(QLatin1String("file")).toString(), path("x/tarvo_orix_m1.ipc"));
     QCOMPARE(object.value(QLatin1String("device")).toString(),
              QStringLiteral("TV2K-18-QFN88-C8/I7"));
@@ -811,7 +811,8 @@ void tst_Cli::movesAConfigurationToAnotherDevice()
                             QStringLiteral("QFN32"), QStringLiteral("--json")});
     QCOMPARE(result.status, 0);
     const QJsonObject object = result.json();
-    QCOMPARE(object.keys(), words({"before", "changed", "device", "file", "losses", "written"}));
+    QCOMPARE(object.keys(),
+             words({"before", "changed", "device", "errors", "file", "losses", "written"}));
     QCOMPARE(object.value(QLatin1String("file")).toString(), file);
     QCOMPARE(object.value(QLatin1String("before")).toString(),
              QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));

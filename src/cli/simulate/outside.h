@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../commands.h"
+#include "simulatearguments.h"
 #include "byteinput.h"
 #include "hostpipe.h"
 #include "pseudoterminal.h"

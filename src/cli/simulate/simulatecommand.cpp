@@ -1,4 +1,4 @@
-#include "../commands.h"
+#include "simulatearguments.h"
 
 #include "../environment.h"
 #include "../ipcdocument.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../commands.h"
+#include "simulatearguments.h"
 #include "simulationend.h"
 
 #include <simulation/rundetails.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../commands.h"
+#include "simulatearguments.h"
 
 #include <system/systemmap.h>
 #include <utils/result.h>

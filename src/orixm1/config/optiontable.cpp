@@ -3,6 +3,7 @@
 #include "blocks.h"
 #include "choices.h"
 #include "latin1literal.h"
+#include "nearest.h"
 
 #include <algorithm>
 
@@ -188,25 +189,6 @@ QVector<Option> buildTable()
     return table;
 }
 
-// Number of single-letter changes between two texts (Levenshtein), letter case apart.
-int editDistance(const QString &a, const QString &b)
-{
-    QVector<int> row(b.size() + 1);
-    for (int j = 0; j <= b.size(); ++j)
-        row[j] = j;
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int change =
-                diagonal + (a.at(i - 1).toCaseFolded() == b.at(j - 1).toCaseFolded() ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({row[j] + 1, row[j - 1] + 1, change});
-        }
-    }
-    return row[b.size()];
-}
-
 } // namespace
 
 const QVector<Option> &optionTable()
@@ -225,19 +207,10 @@ const Option *findOption(const QString &key)
 
 QString nearestOptionKey(const QString &key)
 {
-    QString nearest;
-    // A key far longer than any known one resembles none; comparing it would only take time.
-    if (key.size() > 100)
-        return nearest;
-    int best = key.size() / 3 + 1;
-    for (const Option &row : optionTable()) {
-        const int distance = editDistance(key, row.key);
-        if (distance < best) {
-            best = distance;
-            nearest = row.key;
-        }
-    }
-    return nearest;
+    QStringList keys;
+    for (const Option &row : optionTable())
+        keys.append(row.key);
+    return nearestText(key, keys);
 }
 
 QVariant optionValueFromText(const Option &option, const QString &value)
