@@ -476,8 +476,8 @@ QVector<Change> changesBetween(const Origin &before, const Origin &after)
     QStringList keys = before.options.keys() + after.options.keys();
     keys.removeDuplicates();
     for (const QString &key : qAsConst(keys)) {
-        compare(QStringLiteral("option"), key, before.options.value(key).toVariant().toString(),
-                after.options.value(key).toVariant().toString());
+        compare(QStringLiteral("option"), key, before.options[key].toVariant().toString(),
+                after.options[key].toVariant().toString());
     }
     // The others follow from something, which is told if it is known.
     QVector<Change> following;
