@@ -224,6 +224,8 @@ public:
     {
         if (!m_arguments.force) {
             if (const std::optional<Report> last = freshReport()) {
+                // Its end tidies what a run that was killed has left of its own.
+                Utils::FolderLock::take(m_plan.folder, nullptr);
                 printError(QLatin1String(m_arguments.synthesise ? "Everything is fresh"
                                                                 : "The include files are fresh") +
                            QLatin1String(", so nothing was done; --force runs it again."));
