@@ -12,8 +12,8 @@
 
 #include <algorithm>
 #include <fcntl.h>
-#include <sstream>
 #include <unistd.h>
+#include <sstream>
 
 namespace
 {
