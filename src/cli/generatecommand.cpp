@@ -22,6 +22,7 @@
 #include <utils/interrupt.h>
 
 #include <QEventLoop>
+#include <QFileInfo>
 
 namespace Cli
 {
@@ -251,8 +252,13 @@ public:
     }
 
 private:
+    // Whether a killed run has left what only a run of the tool tidies.
+    bool isLeft() const { return QFileInfo::exists(m_plan.folder + QLatin1String("/.tarvo-run")); }
+
     std::optional<Report> freshReport() const
     {
+        if (isLeft())
+            return std::nullopt;
         std::function<ToolFacts()> tool;
         if (m_arguments.synthesise)
             tool = [this] { return m_cache.toolFacts(); };
@@ -291,7 +297,7 @@ private:
         QStringList details;
         int exitCode = 0;
         const bool isCached =
-            mistakes.isEmpty() && !m_arguments.force && takeFromCache(origin, &error);
+            mistakes.isEmpty() && !m_arguments.force && !isLeft() && takeFromCache(origin, &error);
         if (!error.isEmpty())
             return fail(error);
         if (!isCached) {
