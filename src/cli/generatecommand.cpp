@@ -1,19 +1,28 @@
 #include "commands.h"
 
 #include "commandline.h"
+#include "digest.h"
 #include "environment.h"
+#include "generatecheck.h"
 #include "ipcdocument.h"
 #include "output.h"
+#include "resultcache.h"
+#include "toolofrunner.h"
 
+#include <generate/record.h>
+#include <generate/state.h>
 #include <rules/itcmcontents.h>
+#include <synthesis/reportjson.h>
 #include <synthesis/resources.h>
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>
+#include <utils/fileplacement.h>
 #include <utils/fileutils.h>
 #include <utils/folderlock.h>
 #include <utils/interrupt.h>
 
 #include <QEventLoop>
+#include <QFileInfo>
 
 namespace Cli
 {
@@ -23,14 +32,6 @@ using namespace TARVOORIXM1;
 namespace
 {
 
-struct GenerateArguments {
-    QString file;
-    QString outDir; // empty: the file's folder
-    bool synthesise = true;
-    bool json = false;
-    bool verbose = false;
-};
-
 // What a generation has made so far.
 struct Report {
     QStringList files;
@@ -38,6 +39,7 @@ struct Report {
     QStringList outputs;
     QString library; // without which no tool reads the netlist; not written by the generation
     QStringList errors;
+    QStringList notices; // on files that were edited
     Synthesis::RunReport run;
 };
 
@@ -99,7 +101,7 @@ void printUse(const Synthesis::ResourceUse &use)
 
 int finish(const Report &report, const GenerateArguments &arguments, int status)
 {
-    const QStringList warnings = warningsOf(report.run);
+    const QStringList warnings = report.notices + warningsOf(report.run);
     for (const QString &warning : warnings)
         printError(QLatin1String("warning: ") + warning);
     for (const Synthesis::ResourceUse &use : report.run.resources)
@@ -135,17 +137,6 @@ int finish(const Report &report, const GenerateArguments &arguments, int status)
 Synthesis::Job jobFrom(const SynthesisRequest &request)
 {
     return {request.outputDir, request.ipName, request.targetName, request.device, request.options};
-}
-
-Synthesis::Tool toolOfRunner(Tool tool)
-{
-    switch (tool) {
-    case Tool::TarvoSynthesis:
-        return Synthesis::Tool::TarvoSynthesis;
-    case Tool::SynplifyPro:
-        break;
-    }
-    return Synthesis::Tool::SynplifyPro;
 }
 
 Synthesis::Language languageOfRunner(Language language)
@@ -192,6 +183,203 @@ int synthesise(Synthesis::Runner &runner, bool verbose)
     return exitCode;
 }
 
+// What a run that has nothing to do tells: what the last one has made and told.
+std::optional<Report> reportOfLastRun(const GenerationInput &input, const GenerationPlan &plan,
+                                      const GenerationState &state, bool synthesised)
+{
+    Report report;
+    for (const IncludeFile &file : plan.includeFiles)
+        report.files.append(plan.pathOf(file));
+    report.sources = plan.sources;
+    if (!synthesised)
+        return report;
+    const SynthesisRecord &record = *state.manifest->synthesis;
+    if (!Synthesis::fromJson(withPaths(record.report, input), &report.run))
+        return std::nullopt;
+    for (const Output &output : plan.outputs.copied) {
+        if (state.manifest->find(belowOutput(output.file, input.createInPath)))
+            report.outputs.append(output.file);
+    }
+    report.outputs.append(plan.outputs.decoded);
+    report.library = libraryFor(*input.tool, namingLanguage(input.language));
+    return report;
+}
+
+// One generation, from the first file to the last.
+class Generation
+{
+public:
+    Generation(const IpcDocument &document, const GenerationInput &input,
+               const GenerateArguments &arguments)
+        : m_document(document)
+        , m_input(input)
+        , m_arguments(arguments)
+        , m_plan(generationPlan(input))
+        , m_cache(arguments.cache, toolOfRunner(*input.tool))
+        , m_record(input, m_plan, fastSha256, Utils::FileUtils::writeLines)
+    {
+    }
+
+    // Returns the exit status; what there is to tell has been told then.
+    int run()
+    {
+        if (!m_arguments.force) {
+            if (const std::optional<Report> last = freshReport()) {
+                // Its end tidies what a run that was killed has left of its own.
+                Utils::FolderLock::take(m_plan.folder, nullptr);
+                printError(QLatin1String(m_arguments.synthesise ? "Everything is fresh"
+                                                                : "The include files are fresh") +
+                           QLatin1String(", so nothing was done; --force runs it again."));
+                return finish(*last, m_arguments, Done);
+            }
+        }
+        QString error;
+        if (!Utils::FileUtils::makePath(m_plan.folder, &error))
+            return fail(error);
+        m_lock = Utils::FolderLock::take(m_plan.folder, &error);
+        if (!m_lock || !m_record.begin(&error))
+            return fail(error);
+        for (const IncludeFile &file : m_plan.includeFiles) {
+            const QString path = m_plan.pathOf(file);
+            if (!Utils::FileUtils::writeLines(path, file.lines, &error))
+                return fail(error);
+            m_report.files.append(path);
+        }
+        m_report.sources = m_plan.sources;
+        if (!m_arguments.synthesise)
+            return end(nullptr, Done);
+        return synthesiseAndCollect();
+    }
+
+private:
+    // Whether a killed run has left what only a run of the tool tidies.
+    bool isLeft() const { return QFileInfo::exists(m_plan.folder + QLatin1String("/.tarvo-run")); }
+
+    std::optional<Report> freshReport() const
+    {
+        if (isLeft())
+            return std::nullopt;
+        std::function<ToolFacts()> tool;
+        if (m_arguments.synthesise)
+            tool = [this] { return m_cache.toolFacts(); };
+        const GenerationState state = generationState(m_input, m_plan, tool, fastSha256, false);
+        if (!state.isFresh() || (m_arguments.synthesise && !state.manifest->synthesis))
+            return std::nullopt;
+        return reportOfLastRun(m_input, m_plan, state, m_arguments.synthesise);
+    }
+
+    int fail(const QString &reason)
+    {
+        m_report.errors.append(reason);
+        m_report.notices = m_record.messages();
+        return finish(m_report, m_arguments, Failed);
+    }
+
+    // `record` as in GenerationRecord::finish().
+    int end(const GenerationRecord::Run *record, int status)
+    {
+        QString error;
+        if (!m_record.finish(record, &error))
+            return fail(error);
+        m_report.notices = m_record.messages();
+        return finish(m_report, m_arguments, status);
+    }
+
+    int synthesiseAndCollect()
+    {
+        QStringList mistakes;
+        const QVector<ItcmMistake> found =
+            itcmMistakes(m_document.options, m_document.device.device(), m_plan.folder);
+        for (const ItcmMistake &mistake : found)
+            mistakes.append(mistake.text());
+        const Origin &origin = m_record.origin();
+        QString error;
+        QStringList details;
+        int exitCode = 0;
+        const bool isCached =
+            mistakes.isEmpty() && !m_arguments.force && !isLeft() && takeFromCache(origin, &error);
+        if (!error.isEmpty())
+            return fail(error);
+        if (!isCached) {
+            Synthesis::Runner runner;
+            runner.setTool(toolOfRunner(*m_input.tool));
+            runner.setJob(jobFrom(m_plan.request));
+            runner.setInputMistakes(mistakes);
+            runner.setFolderLock(m_lock);
+            exitCode = synthesise(runner, m_arguments.verbose);
+            m_report.run = runner.report();
+            details = runner.detailErrorMsgs();
+            if (exitCode != 0) {
+                m_report.errors = details;
+                m_report.errors.removeAll(QString());
+                if (!runner.errorMsg().isEmpty())
+                    m_report.errors.prepend(runner.errorMsg());
+                return end(nullptr, runner.wasCancelled() ? Cancelled : Failed);
+            }
+        }
+        const QJsonObject told = Synthesis::toJson(m_report.run);
+        // Only what was made from what was read before it is worth keeping.
+        const bool isTrue = originOf(m_input, m_plan, fastSha256) == origin;
+        if (!isCached && isTrue)
+            m_cache.keep(m_input, m_plan, origin, told);
+        if (!m_record.keepEditedOutputs(&error))
+            return fail(error);
+        const Collection result = collectOutputs(
+            exitCode, details, m_plan.outputs, m_input.createInPath,
+            [](const QString &, const QString &netlist, const QString &destination,
+               QString &message) {
+                return Synthesis::writeSimulationModel(netlist, destination, &message);
+            });
+        m_report.errors = result.errors;
+        m_report.errors.removeAll(QString());
+        if (result.status != 0) {
+            m_report.notices = m_record.messages();
+            return finish(m_report, m_arguments, Failed);
+        }
+        m_report.outputs = result.files;
+        m_report.library = libraryFor(*m_input.tool, namingLanguage(m_input.language));
+        const ToolFacts facts = m_cache.toolFacts();
+        const GenerationRecord::Run record{facts.name, facts.version, told};
+        return end(&record, Done);
+    }
+
+    // Puts results of an earlier run where the tool would leave them. False with a sentence if they
+    // cannot be put there, without if there are none.
+    bool takeFromCache(const Origin &origin, QString *error)
+    {
+        QString note;
+        const auto results = m_cache.find(m_input, m_plan, origin, &note);
+        if (!note.isEmpty())
+            printError(note);
+        Synthesis::RunReport report;
+        if (!results || !Synthesis::fromJson(results->report, &report))
+            return false;
+        QVector<Utils::PlacedFile> files;
+        for (const auto &file : results->files)
+            files.append({file.first, file.second});
+        files.append({m_plan.request.targetName + QLatin1String(".log"),
+                      "The results were taken from the cache; the tool did not run.\n"});
+        Utils::FilePlacement placement;
+        if (const Utils::Result<void> placed = placement.place(m_plan.folder, files); !placed) {
+            *error = placed.reason();
+            return false;
+        }
+        m_report.run = report;
+        printError(QStringLiteral("The results are those of an earlier run with the same inputs, "
+                                  "from the cache; --force runs the tool."));
+        return true;
+    }
+
+    const IpcDocument &m_document;
+    const GenerationInput m_input;
+    const GenerateArguments &m_arguments;
+    const GenerationPlan m_plan;
+    const ResultCache m_cache;
+    GenerationRecord m_record;
+    std::shared_ptr<Utils::FolderLock> m_lock;
+    Report m_report;
+};
+
 int runGenerate(Environment &environment, const GenerateArguments &arguments)
 {
     const QVariantMap ipInfo = environment.ipInfo();
@@ -200,59 +388,8 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     IpcDocument document;
     if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
-
-    const GenerationInput input = generationInput(document, ipInfo, arguments.outDir);
-    const GenerationPlan plan = generationPlan(input);
-    Report report;
-    const auto fail = [&](const QString &reason) {
-        report.errors.append(reason);
-        return finish(report, arguments, Failed);
-    };
-    QString error;
-    if (!Utils::FileUtils::makePath(plan.folder, &error))
-        return fail(error);
-    // From the first file to the last.
-    const std::shared_ptr<Utils::FolderLock> lock = Utils::FolderLock::take(plan.folder, &error);
-    if (!lock)
-        return fail(error);
-    for (const IncludeFile &file : plan.includeFiles) {
-        const QString path = plan.pathOf(file);
-        if (!Utils::FileUtils::writeLines(path, file.lines, &error))
-            return fail(error);
-        report.files.append(path);
-    }
-    report.sources = plan.sources;
-    if (!arguments.synthesise)
-        return finish(report, arguments, Done);
-
-    Synthesis::Runner runner;
-    runner.setTool(toolOfRunner(*input.tool));
-    runner.setJob(jobFrom(plan.request));
-    QStringList inputMistakes;
-    const QVector<ItcmMistake> mistakes =
-        itcmMistakes(document.options, document.device.device(), plan.folder);
-    for (const ItcmMistake &mistake : mistakes)
-        inputMistakes.append(mistake.text());
-    runner.setInputMistakes(inputMistakes);
-    runner.setFolderLock(lock);
-    const int exitCode = synthesise(runner, arguments.verbose);
-    report.run = runner.report();
-
-    const Collection result = collectOutputs(
-        exitCode, runner.detailErrorMsgs(), plan.outputs, input.createInPath,
-        [](const QString &, const QString &netlist, const QString &destination, QString &message) {
-            return Synthesis::writeSimulationModel(netlist, destination, &message);
-        });
-    report.errors = result.errors;
-    report.errors.removeAll(QString());
-    if (result.status != 0) {
-        if (!runner.errorMsg().isEmpty())
-            report.errors.prepend(runner.errorMsg());
-        return finish(report, arguments, runner.wasCancelled() ? Cancelled : Failed);
-    }
-    report.outputs = result.files;
-    report.library = libraryFor(*input.tool, namingLanguage(input.language));
-    return finish(report, arguments, Done);
+    return Generation(document, generationInput(document, ipInfo, arguments.outDir), arguments)
+        .run();
 }
 
 } // namespace
@@ -262,14 +399,28 @@ void declareGenerate(CommandLine &line)
     auto arguments = std::make_shared<GenerateArguments>();
     CLI::App *command = line.command(
         "generate", "Write include files, synthesise and collect the outputs",
-        "orixm1 generate tarvo_orix_m1.ipc --out build",
-        [arguments](Environment &environment) { return runGenerate(environment, *arguments); });
+        "orixm1 generate tarvo_orix_m1.ipc --out build", [arguments](Environment &environment) {
+            return arguments->check ? runGenerateCheck(environment, *arguments)
+                                    : runGenerate(environment, *arguments);
+        });
     line.file(command, arguments->file);
     line.outDir(command, arguments->outDir);
     command->add_flag(
         "--no-synth", [arguments](qint64) { arguments->synthesise = false; },
         "Stop after include files and source list");
-    command->add_flag("-v,--verbose", arguments->verbose, "Print the tool's log to standard error");
+    command->add_flag("-v,--verbose", arguments->verbose,
+                      "Print the tool's log to standard error; with --check, the differences");
+    CLI::Option *check =
+        command->add_flag("--check", arguments->check,
+                          "Only tell whether the files are fresh, stale, edited, missing or "
+                          "foreign, with exit status 1 unless all are fresh; writes nothing");
+    command
+        ->add_flag("--force", arguments->force,
+                   "Run the tool even if everything is fresh, or in the cache")
+        ->excludes(check);
+    command->add_flag(
+        "--no-cache", [arguments](qint64) { arguments->cache = false; },
+        "Neither take results from the user's cache nor put them there");
     CommandLine::json(command, arguments->json);
 }
 

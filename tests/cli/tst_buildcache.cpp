@@ -141,6 +141,36 @@ private Q_SLOTS:
         QVERIFY(!cache.find("new").isEmpty());
     }
 
+    void hasTheLimitsThatItIsGiven()
+    {
+        const BuildCache cache(m_folder, 3, 1000);
+        for (int i = 0; i < 5; ++i)
+            cache.keep(QByteArray::number(i), "program");
+        QCOMPARE(entriesOf(m_folder).size(), 3);
+        cache.keep("large", QByteArray(900, 'x'));
+        QCOMPARE(entriesOf(m_folder).size(), 1);
+        QVERIFY(!cache.find("large").isEmpty());
+    }
+
+    void anEntryUnderAnotherNameIsDroppedWithANote()
+    {
+        const BuildCache cache(m_folder);
+        cache.keep("a", "program");
+        const QString a = m_folder + u'/' + entriesOf(m_folder).constFirst();
+        const QByteArray entry = contentsOf(a);
+        QVERIFY(QFile::remove(a));
+        cache.keep("b", "other");
+        const QString b = m_folder + u'/' + entriesOf(m_folder).constFirst();
+        setContents(b, entry);
+        QString note;
+        QCOMPARE(cache.find("b", &note), QByteArray());
+        QVERIFY2(note.contains(b), qPrintable(note));
+        QVERIFY(!QFileInfo::exists(b));
+        note.clear();
+        QCOMPARE(cache.find("b", &note), QByteArray());
+        QCOMPARE(note, QString());
+    }
+
     void whereNothingCanBeKeptNothingIs()
     {
         setContents(m_dir->filePath(QStringLiteral("file")), {});

@@ -22,6 +22,12 @@ QByteArray digest(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
 }
 
+// With the key, so that an entry under the name of another is none.
+QByteArray digest(const QByteArray &key, const QByteArray &program)
+{
+    return digest(digest(key) + digest(program));
+}
+
 } // namespace
 
 QString BuildCache::usersFolder()
@@ -42,27 +48,39 @@ QString BuildCache::pathOf(const QByteArray &key) const
     return m_folder + u'/' + QString::fromLatin1(digest(key));
 }
 
-// An entry is the digest of the program, a line feed and the program.
-QByteArray BuildCache::find(const QByteArray &key) const
+// An entry is the digest of key and program, a line feed and the program.
+QByteArray BuildCache::find(const QByteArray &key, QString *note) const
 {
     const QString path = pathOf(key);
-    const auto entry = Utils::readBoundedFile(path, mostBytes);
-    if (!entry)
+    if (const QFileInfo info(path); !info.exists() && !info.isSymLink())
         return {};
-    const int end = entry->indexOf('\n');
-    const QByteArray program = entry->mid(end + 1);
-    if (end < 0 || entry->left(end) != digest(program))
+    const auto entry = Utils::readBoundedFile(path, m_mostBytes);
+    const int end = entry ? entry->indexOf('\n') : -1;
+    const QByteArray program = end >= 0 ? entry->mid(end + 1) : QByteArray();
+    if (end < 0 || entry->left(end) != digest(key, program)) {
+        drop(key, note);
         return {};
+    }
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime);
     return program;
 }
 
+void BuildCache::drop(const QByteArray &key, QString *note) const
+{
+    const QString path = pathOf(key);
+    const bool isGone = QFile::remove(path);
+    if (note)
+        *note = QLatin1String("The cache's entry \"") + path +
+                QLatin1String("\" is not what was kept there; it is not used") +
+                QLatin1String(isGone ? " and removed." : ".");
+}
+
 void BuildCache::keep(const QByteArray &key, const QByteArray &program) const
 {
     if (Utils::FileUtils::makePath(m_folder, nullptr) &&
-        Utils::FileUtils::writeFile(pathOf(key), digest(program) + '\n' + program, nullptr))
+        Utils::FileUtils::writeFile(pathOf(key), digest(key, program) + '\n' + program, nullptr))
         trim();
 }
 
@@ -75,7 +93,7 @@ void BuildCache::trim() const
     for (const QFileInfo &entry : entries) {
         ++count;
         bytes += entry.size();
-        if (count > mostEntries || bytes > mostBytes)
+        if (count > m_mostEntries || bytes > m_mostBytes)
             QFile::remove(entry.filePath());
     }
 }

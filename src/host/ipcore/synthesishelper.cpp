@@ -5,7 +5,9 @@
 #include "usermessages.h"
 #include "writinglocks.h"
 
+#include <synthesis/reportjson.h>
 #include <synthesis/runner.h>
+#include <synthesis/toolversion.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -169,6 +171,14 @@ Synthesis::RunReport SynthesisHelper::report() const
     Synthesis::RunReport report = d->runner.report();
     report.messages = userFilesFirst(report.messages);
     return report;
+}
+
+QVariantMap SynthesisHelper::runRecord() const
+{
+    const Synthesis::Tool tool = d->runner.tool();
+    return {{QStringLiteral("tool"), Synthesis::toolName(tool)},
+            {QStringLiteral("version"), Synthesis::toolVersion(tool)},
+            {QStringLiteral("report"), Synthesis::toJson(d->runner.report()).toVariantMap()}};
 }
 
 } // namespace IPCore

@@ -65,6 +65,10 @@ public:
     // For an application, not for plug-ins. All of the last run; while one is active, what is known
     // of it so far. Messages about the user's files come first.
     Synthesis::RunReport report() const;
+    // What a plug-in may keep of the last run, found by its name, since not every host has it:
+    // "tool" and "version" as people call them, and "report", the report as JSON has it. Asks the
+    // tool for its version.
+    Q_INVOKABLE QVariantMap runRecord() const;
 
 Q_SIGNALS:
     // A short phrase for people ("Reading sources").

@@ -36,6 +36,12 @@ bool isSupportFile(const QString &name)
                        [&name](QLatin1String support) { return name == support; });
 }
 
+QString dataFolder(const OptionMap &options, const QVariantMap &ipInfo)
+{
+    const bool debug = isOn(options, Key::enableDebug);
+    return ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
+}
+
 } // namespace
 
 QStringList rtlNames(const QString &folder)
@@ -64,7 +70,7 @@ QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo
                              const QString &device, const QString &tempDir)
 {
     const bool debug = isOn(options, Key::enableDebug);
-    const QString dataDir = ipInfo.value(debug ? InfoKey::debug : InfoKey::noDebug).toString();
+    const QString dataDir = dataFolder(options, ipInfo);
     QStringList sourceFiles;
     const QStringList names = rtlNames(dataDir);
     for (const QString &name : names) {
@@ -74,6 +80,18 @@ QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo
     for (const QLatin1String name : compiledIncludeFiles)
         sourceFiles.append(tempDir + u'/' + name);
     return sourceFiles;
+}
+
+QStringList buildSupportFiles(const OptionMap &options, const QVariantMap &ipInfo)
+{
+    const QString dataDir = dataFolder(options, ipInfo);
+    QStringList files;
+    const QStringList names = rtlNames(dataDir);
+    for (const QString &name : names) {
+        if (isSupportFile(name))
+            files.append(dataDir + u'/' + name);
+    }
+    return files;
 }
 
 } // namespace TARVOORIXM1

@@ -30,4 +30,7 @@ bool isIncludeCompiled(const QString &name);
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir);
 
+// The full paths of the files beside them that are only included, sorted likewise.
+QStringList buildSupportFiles(const OptionMap &options, const QVariantMap &ipInfo);
+
 } // namespace TARVOORIXM1

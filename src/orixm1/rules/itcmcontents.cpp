@@ -63,8 +63,7 @@ int itcmLaneSize(int sizeIndex)
     return (1024 / lanes) << (known ? sizeIndex : otherIndex);
 }
 
-QVector<ItcmMistake> itcmMistakes(const OptionMap &options, const QString &device,
-                                  const QString &generationFolder)
+QStringList itcmFiles(const OptionMap &options, const QString &generationFolder)
 {
     if (!isOn(options, Key::internalInstructionMemory) || !isOn(options, Key::initializeItcm))
         return {};
@@ -73,10 +72,22 @@ QVector<ItcmMistake> itcmMistakes(const OptionMap &options, const QString &devic
         QDir::isRelativePath(named) ? QDir(generationFolder).absoluteFilePath(named) : named;
     if (named.isEmpty() || (QDir::isRelativePath(named) && !QFileInfo(folder).isDir()))
         return {};
+    QStringList files;
+    for (int lane = 0; lane < lanes; ++lane)
+        files.append(folder + "/itcm"_l1 + QString::number(lane));
+    return files;
+}
+
+QVector<ItcmMistake> itcmMistakes(const OptionMap &options, const QString &device,
+                                  const QString &generationFolder)
+{
+    const QStringList files = itcmFiles(options, generationFolder);
+    if (files.isEmpty())
+        return {};
     const int size = itcmLaneSize(generatedValue(options, Key::itcmSize, device).toInt());
     QVector<ItcmMistake> mistakes;
-    for (int lane = 0; lane < lanes; ++lane)
-        mistakes += mistakesOf(folder + "/itcm"_l1 + QString::number(lane), size);
+    for (const QString &file : files)
+        mistakes += mistakesOf(file, size);
     return mistakes;
 }
 

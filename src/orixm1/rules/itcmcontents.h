@@ -27,6 +27,10 @@ struct ItcmMistake {
 QVector<ItcmMistake> itcmMistakes(const OptionMap &options, const QString &device,
                                   const QString &generationFolder);
 
+// The four files, full paths; empty if the memory is not initialised or the folder is left to the
+// tool.
+QStringList itcmFiles(const OptionMap &options, const QString &generationFolder);
+
 // Bytes in each lane of a memory of 2^index KB; of 32 KB, as in generation, for an index that is
 // none.
 int itcmLaneSize(int sizeIndex);

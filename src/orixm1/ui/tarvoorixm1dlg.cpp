@@ -9,6 +9,7 @@
 #include "diagram/ipview.h"
 #include "dialogs/messagebox.h"
 #include "generate/plan.h"
+#include "generate/record.h"
 #include "rules/devicerules.h"
 #include "rules/generationfolder.h"
 #include "rules/itcmcontents.h"
@@ -173,6 +174,18 @@ void TarvoOrixM1Dlg::generateCore()
 {
     const GenerationInput input = generationInput();
     const GenerationPlan plan = generationPlan(input);
+    // A host tells by itself why a file could not be written.
+    record = std::make_unique<GenerationRecord>(
+        input, plan, sha256, [this](const QString &path, const QStringList &lines, QString *) {
+            return IPCore::generateFile(path, lines, this, QString());
+        });
+    QString error;
+    if (!record->begin(&error)) {
+        UpdateCreatinPath();
+        if (!error.isEmpty())
+            showErrorBox(this, error);
+        return;
+    }
     for (const IncludeFile &file : plan.includeFiles) {
         if (!IPCore::generateFile(plan.pathOf(file), file.lines, this, QString())) {
             // Saving took the output folder out of the map; the blocks' dialogs need it for as long
@@ -203,11 +216,39 @@ void TarvoOrixM1Dlg::generateCore()
     synthesis->start();
 }
 
+void TarvoOrixM1Dlg::finishRecord(int exitCode, int status)
+{
+    // Results that are there in part only are those of a run that has not finished.
+    if (!record || (exitCode == 0 && status != 0))
+        return;
+    QString error;
+    if (exitCode != 0) {
+        record->finish(nullptr, &error);
+        return;
+    }
+    // Of a host that cannot tell, the tool stays unknown.
+    QVariantMap told;
+    if (synthesis->metaObject()->indexOfMethod("runRecord()") >= 0)
+        QMetaObject::invokeMethod(synthesis, "runRecord", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QVariantMap, told));
+    const GenerationRecord::Run run{told["tool"_l1].toString(), told["version"_l1].toString(),
+                                    QJsonObject::fromVariantMap(told["report"_l1].toMap())};
+    record->finish(&run, &error);
+}
+
 void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
 {
     const Outputs outputs = plannedOutputs(generationInput());
-    const Collection result = collectOutputs(exitCode, synthesis->detailErrorMsgs(), outputs,
-                                             createInPath(), IPCore::decode);
+    Collection result;
+    QString error;
+    if (exitCode == 0 && record && !record->keepEditedOutputs(&error)) {
+        result.status = -1;
+        result.errors.append(error);
+    } else {
+        result = collectOutputs(exitCode, synthesis->detailErrorMsgs(), outputs, createInPath(),
+                                IPCore::decode);
+    }
+    finishRecord(exitCode, result.status);
     synthesis->hideProgressDlg();
     if (result.status != 0) {
         UpdateCreatinPath();

@@ -3,6 +3,8 @@
 #include "config/optionmap.h"
 #include "microsysipgendlg.h"
 
+#include <memory>
+
 namespace IPCore
 {
 class SynthesisHelper;
@@ -11,6 +13,7 @@ class SynthesisHelper;
 namespace TARVOORIXM1
 {
 
+class GenerationRecord;
 class IPView;
 struct GenerationInput;
 
@@ -53,13 +56,17 @@ private:
     void generateCore();
     // From what the widgets select now.
     GenerationInput generationInput() const;
+    // Ends the record of a generation after a run that ended with `exitCode` and whose results were
+    // collected with `status`.
+    void finishRecord(int exitCode, int status);
     QString tempDir() const;
 
     const OptionMap ipInfo;
     IPView *view = nullptr;
     OptionMap options;
     IPCore::SynthesisHelper *synthesis =
-        nullptr; // child of this dialog, made by the first generation
+        nullptr;                              // child of this dialog, made by the first generation
+    std::unique_ptr<GenerationRecord> record; // of the last generation
 };
 
 } // namespace TARVOORIXM1

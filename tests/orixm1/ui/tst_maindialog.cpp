@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -604,6 +605,20 @@ void tst_MainDialog::generatesAndCloses()
     // Intermediate files stay.
     QVERIFY(TestSupport::entriesOf(folder + QLatin1String("/temp/tv_orix_m1"))
                 .contains(QStringLiteral("tarvo_orix_m1.vg")));
+
+    // The command line finds what it would have made itself.
+    for (const QStringList &further : {QStringList{QStringLiteral("--check")}, QStringList()}) {
+        QProcess command;
+        command.setProcessChannelMode(QProcess::MergedChannels);
+        command.start(
+            QStringLiteral(TARVO_COMMAND),
+            QStringList{QStringLiteral("generate"), folder + QLatin1String("/tarvo_orix_m1.ipc")} +
+                further);
+        QVERIFY(command.waitForFinished(runTimeout));
+        const QByteArray told = command.readAll();
+        QVERIFY2(command.exitCode() == 0, told.constData());
+        QVERIFY2(told.contains("fresh"), told.constData());
+    }
 }
 
 void tst_MainDialog::aMissingToolLeavesTheDialogOpenAndASecondTryWorks()

@@ -20,9 +20,9 @@ std::unique_ptr<Flow> make(const ToolRow &row, const Job &job)
 const ToolRow &toolRow(Tool tool)
 {
     static constexpr ToolRow synplifyPro{"Synplify Pro", "synplify_pro", true,   make<ProjectFlow>,
-                                         ".vm",          ".vhm",         nullptr};
-    static constexpr ToolRow tarvoSynthesis{"Yosys", "yosys", false, make<YosysFlow>,
-                                            ".vg",   ".vhg",  ".vho"};
+                                         nullptr,        ".vm",          ".vhm", nullptr};
+    static constexpr ToolRow tarvoSynthesis{"Yosys", "yosys", false,  make<YosysFlow>,
+                                            "-V",    ".vg",   ".vhg", ".vho"};
     switch (tool) {
     case Tool::SynplifyPro:
         return synplifyPro;

@@ -15,7 +15,8 @@ struct ToolRow {
     const char *program; // found on PATH
     bool usersHome; // has settings and licences in the user's home; else it gets one of its own
     std::unique_ptr<Flow> (*makeFlow)(const ToolRow &row, const Job &job);
-    const char *netlist; // Verilog
+    const char *versionArgument; // makes the program tell its version and end; null: there is none
+    const char *netlist;         // Verilog
     const char *vhdlNetlist;
     const char *vhdlModel;
 };

@@ -1,0 +1,109 @@
+#include "generatecheck.h"
+
+#include "digest.h"
+#include "environment.h"
+#include "ipcdocument.h"
+#include "output.h"
+#include "resultcache.h"
+#include "toolofrunner.h"
+#include "unifieddiff.h"
+
+#include <QDir>
+
+namespace Cli
+{
+
+using namespace TARVOORIXM1;
+
+namespace
+{
+
+// What would change in a file, for people.
+QStringList differenceOf(const FileState &file)
+{
+    if (file.state == FileState::Fresh)
+        return {};
+    if (file.isInclude && file.present != "unreadable")
+        return unifiedDiff(file.contents, file.expected, file.path,
+                           QStringLiteral("what would be generated"));
+    if (file.recorded == file.present)
+        return {};
+    const auto shown = [](const QByteArray &sum) {
+        return sum.isEmpty() ? QStringLiteral("nothing") : QString::fromLatin1(sum);
+    };
+    return {QLatin1String("SHA-256 of the last run: ") + shown(file.recorded),
+            QLatin1String("SHA-256 now:             ") + shown(file.present)};
+}
+
+QJsonObject objectOf(const FileState &file, const QString &folder, bool verbose)
+{
+    QJsonObject object{{QStringLiteral("path"), belowOutput(file.path, folder)},
+                       {QStringLiteral("state"), stateName(file.state)}};
+    if (verbose) {
+        if (const QStringList lines = differenceOf(file); !lines.isEmpty())
+            object.insert(QStringLiteral("difference"), QJsonArray::fromStringList(lines));
+    }
+    return object;
+}
+
+QJsonObject objectOf(const Change &change)
+{
+    return {{QStringLiteral("kind"), change.kind},
+            {QStringLiteral("name"), change.name},
+            {QStringLiteral("before"), change.before},
+            {QStringLiteral("after"), change.after},
+            {QStringLiteral("text"), change.text()}};
+}
+
+} // namespace
+
+int runGenerateCheck(Environment &environment, const GenerateArguments &arguments)
+{
+    const QVariantMap ipInfo = environment.ipInfo();
+    if (ipInfo.isEmpty())
+        return BadInput;
+    IpcDocument document;
+    if (!openForDevice(environment, arguments.file, &document))
+        return BadInput;
+    const GenerationInput input = generationInput(document, ipInfo, arguments.outDir);
+    const ResultCache cache(arguments.cache, toolOfRunner(*input.tool));
+    std::function<ToolFacts()> tool;
+    if (arguments.synthesise)
+        tool = [&cache] { return cache.toolFacts(); };
+    const GenerationState state =
+        generationState(input, generationPlan(input), tool, fastSha256, true);
+
+    const QString overall = stateName(state.state());
+    if (arguments.json) {
+        QJsonArray files;
+        for (const FileState &file : state.files)
+            files.append(objectOf(file, input.createInPath, arguments.verbose));
+        QJsonArray changes;
+        for (const Change &change : state.changes)
+            changes.append(objectOf(change));
+        printJson({{QStringLiteral("folder"), input.createInPath},
+                   {QStringLiteral("state"), overall},
+                   {QStringLiteral("files"), files},
+                   {QStringLiteral("changes"), changes},
+                   {QStringLiteral("warnings"), QJsonArray::fromStringList(state.messages)}});
+    } else {
+        printLine(input.createInPath + QLatin1String(": ") + overall);
+        for (const Change &change : state.changes)
+            printLine(QLatin1String("changed: ") + change.text());
+        for (const FileState &file : state.files) {
+            if (file.state == FileState::Fresh)
+                continue;
+            printLine(file.path + QLatin1String(": ") + stateName(file.state));
+            if (!arguments.verbose)
+                continue;
+            const QStringList lines = differenceOf(file);
+            for (const QString &line : lines)
+                printLine(line);
+        }
+        for (const QString &message : state.messages)
+            printError(message);
+    }
+    return state.isFresh() ? Done : Failed;
+}
+
+} // namespace Cli

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+namespace Cli
+{
+
+class Environment;
+
+struct GenerateArguments {
+    QString file;
+    QString outDir; // empty: the file's folder
+    bool synthesise = true;
+    bool json = false;
+    bool verbose = false;
+    bool check = false; // only tell how the files stand
+    bool force = false; // run, whatever stands there
+    bool cache = true;
+};
+
+// Tells how the files of a generation stand and returns the exit status; writes nothing.
+int runGenerateCheck(Environment &environment, const GenerateArguments &arguments);
+
+} // namespace Cli

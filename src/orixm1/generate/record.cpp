@@ -1,0 +1,157 @@
+#include "record.h"
+
+#include "config/latin1literal.h"
+#include "config/tr.h"
+#include "state.h"
+
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+#include <utils/fileutils.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace TARVOORIXM1
+{
+
+GenerationRecord::GenerationRecord(const GenerationInput &input, const GenerationPlan &plan,
+                                   Digest digest, Write write)
+    : m_input(input)
+    , m_plan(plan)
+    , m_digest(digest)
+    , m_write(std::move(write))
+{
+}
+
+bool GenerationRecord::write(const GenerationManifest &manifest, QString *error) const
+{
+    return m_write(m_plan.folder + u'/' + manifestName, manifest.toLines(), error);
+}
+
+QByteArray GenerationRecord::digestOf(const QString &path) const
+{
+    QByteArray bytes;
+    QString reason;
+    return Reading::readPlainFile(path, Reading::Limits::anyFile, &bytes, &reason) ? m_digest(bytes)
+                                                                                   : QByteArray();
+}
+
+bool GenerationRecord::keep(const QString &path, QString *error)
+{
+    const QByteArray sum = digestOf(path);
+    QString copy = path + ".edited"_l1;
+    for (int number = 2; QFileInfo::exists(copy) && digestOf(copy) != sum; ++number)
+        copy = path + ".edited-"_l1 + QString::number(number);
+    if (!QFileInfo::exists(copy)) {
+        if (!Utils::FileUtils::copyFile(path, copy, error))
+            return false;
+        m_kept.append({path, copy});
+    }
+    m_messages.append(Tr::tr("\"%1\" was changed since the last run; what stood there is in \"%2\" "
+                             "now.")
+                          .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
+    return true;
+}
+
+bool GenerationRecord::begin(QString *error)
+{
+    m_origin = originOf(m_input, m_plan, m_digest);
+    for (const IncludeFile &file : m_plan.includeFiles)
+        m_includeFiles.append({QString(), belowOutput(m_plan.pathOf(file), m_input.createInPath),
+                               m_digest(bytesOf(file))});
+    const auto read = readManifest(m_plan);
+    if (!read) {
+        m_messages.append(Tr::tr("%1 So nothing is known of earlier runs.").arg(read.reason()));
+        return true;
+    }
+    m_before = *read;
+    if (!m_before)
+        return true;
+    for (const DigestedFile &file : qAsConst(m_includeFiles)) {
+        const QString path = m_input.createInPath + u'/' + file.name;
+        const QByteArray present = digestOf(path);
+        if (present.isEmpty() || present == file.sha256 || m_before->knows(file.name, present))
+            continue;
+        if (!keep(path, error))
+            return false;
+    }
+    // The tool replaces its own results, the project tool's too.
+    if (m_before->isFinished && m_before->synthesis) {
+        for (const DigestedFile &file : m_before->synthesis->files) {
+            const QString path = m_input.createInPath + u'/' + file.name;
+            if (!path.startsWith(m_plan.folder + u'/'))
+                continue;
+            const QByteArray present = digestOf(path);
+            if (!present.isEmpty() && present != file.sha256 && !keep(path, error))
+                return false;
+        }
+    }
+    GenerationManifest running = *m_before;
+    running.isFinished = false;
+    running.pendingFiles = m_includeFiles;
+    return write(running, error);
+}
+
+bool GenerationRecord::keepEditedOutputs(QString *error)
+{
+    if (!m_before)
+        return true;
+    const auto keepUnless = [&](const QString &path, const QByteArray &next) {
+        const QByteArray present = digestOf(path);
+        const QString name = belowOutput(path, m_input.createInPath);
+        return present.isEmpty() || present == next || m_before->knows(name, present) ||
+               keep(path, error);
+    };
+    for (const Output &output : qAsConst(m_plan.outputs.copied)) {
+        if (output.isOptional && !QFileInfo::exists(output.source))
+            continue;
+        if (!keepUnless(output.file, digestOf(output.source)))
+            return false;
+    }
+    return keepUnless(m_plan.outputs.decoded, QByteArray());
+}
+
+bool GenerationRecord::finish(const Run *run, QString *error)
+{
+    GenerationManifest manifest;
+    manifest.origin = m_origin;
+    manifest.includeFiles = m_includeFiles;
+    if (!run) {
+        if (m_before)
+            manifest.synthesis = m_before->synthesis;
+        return write(manifest, error);
+    }
+    SynthesisRecord record;
+    record.origin = m_origin;
+    record.tool = run->tool;
+    record.toolVersion = run->toolVersion;
+    record.report = withoutPaths(run->report, m_input);
+    const ResultPaths paths = resultPaths(m_plan.outputs);
+    const QStringList all = paths.always + paths.sometimes;
+    for (const QString &path : all) {
+        const QByteArray sum = digestOf(path);
+        if (!sum.isEmpty())
+            record.files.append({QString(), belowOutput(path, m_input.createInPath), sum});
+    }
+    manifest.synthesis = record;
+    // What a run that did not end had made already was no edit.
+    for (const Kept &kept : qAsConst(m_kept)) {
+        if (digestOf(kept.path) == digestOf(kept.copy)) {
+            QFile::remove(kept.copy);
+            m_messages.erase(std::remove_if(m_messages.begin(), m_messages.end(),
+                                            [&kept](const QString &text) {
+                                                return text.contains(
+                                                    QDir::toNativeSeparators(kept.copy));
+                                            }),
+                             m_messages.end());
+        }
+    }
+    m_kept.clear();
+    return write(manifest, error);
+}
+
+} // namespace TARVOORIXM1

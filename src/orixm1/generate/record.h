@@ -1,0 +1,67 @@
+#pragma once
+
+#include "manifest.h"
+
+#include <functional>
+
+namespace TARVOORIXM1
+{
+
+// Keeps the manifest of a folder true while a generation changes its files, and what somebody has
+// changed by hand from being lost. Whoever carries out a generation, dialog or command line, calls
+// it in the order of its functions; they return false with a sentence in `*error` on failure.
+class GenerationRecord
+{
+public:
+    // Writes a text file line by line, whole or not at all.
+    using Write =
+        std::function<bool(const QString &path, const QStringList &lines, QString *error)>;
+
+    GenerationRecord(const GenerationInput &input, const GenerationPlan &plan, Digest digest,
+                     Write write);
+
+    // Before the first include file: from now on an earlier manifest says that a run has not
+    // finished. Contents of files that were edited since the last run stand in NAME.edited (or
+    // NAME.edited-2, …) beside them afterwards.
+    bool begin(QString *error);
+    // After a run of the tool that succeeded, before its results are collected: the same for
+    // outputs.
+    bool keepEditedOutputs(QString *error);
+
+    // What a run of the tool was.
+    struct Run {
+        QString tool;
+        QString toolVersion;
+        QJsonObject report; // with paths
+    };
+    // The end: everything is in its place. Null: the include files only, since no tool has run to
+    // its end; the results are those of before.
+    bool finish(const Run *run, QString *error);
+
+    // As it was at the beginning.
+    const Origin &origin() const { return m_origin; }
+    // On files that were edited and where their contents are.
+    QStringList messages() const { return m_messages; }
+
+private:
+    bool keep(const QString &path, QString *error);
+    QByteArray digestOf(const QString &path) const;
+    bool write(const GenerationManifest &manifest, QString *error) const;
+
+    struct Kept {
+        QString path;
+        QString copy;
+    };
+
+    GenerationInput m_input;
+    GenerationPlan m_plan;
+    Digest m_digest;
+    Write m_write;
+    Origin m_origin;
+    QVector<DigestedFile> m_includeFiles;
+    std::optional<GenerationManifest> m_before;
+    QVector<Kept> m_kept; // and made by this object
+    QStringList m_messages;
+};
+
+} // namespace TARVOORIXM1
