@@ -4,6 +4,7 @@
 #include "output.h"
 #include "simulate/livelistener.h"
 #include "suggestion.h"
+#include "sweep/sweepcommand.h"
 
 #include <utils/utf8names.h>
 
@@ -24,8 +25,8 @@ using Declare = void (*)(Cli::CommandLine &);
 constexpr Declare commandTable[] = {
     Cli::declareNew,         Cli::declareGenerate, Cli::declareCheck,     Cli::declareSources,
     Cli::declareRetarget,    Cli::declarePins,     Cli::declareRegisters, Cli::declareFirmware,
-    Cli::declareExport,      Cli::declareSimulate, Cli::declareOptions,   Cli::declareDevices,
-    Cli::declareCompletions,
+    Cli::declareExport,      Cli::declareSimulate, Cli::declareSweep,     Cli::declareOptions,
+    Cli::declareDevices,     Cli::declareCompletions,
 };
 
 bool isAsked(const char *option, int argc, char *argv[])
