@@ -66,16 +66,16 @@ private Q_SLOTS:
 
     void aMistakeStartsNothing()
     {
-        TestSupport::write(path("plan.json"), "{\"devices\": [\"TV2KR-18C\"],\n\"grdi\": {}}");
+        TestSupport::write(path("plan.json"), "{\"devices\": [\"TV2KR-18C\"],\n\"grids\": {}}");
         const Run told = run({"sweep", "plan.json", "--out", "out", "--json"});
         QCOMPARE(told.status, 3);
-        QVERIFY2(told.err.contains("plan.json:2:9: grdi: Unknown key \"grdi\". Did you mean "
+        QVERIFY2(told.err.contains("plan.json:2:10: grids: Unknown key \"grids\". Did you mean "
                                    "\"grid\"?"),
                  told.err.constData());
         const QJsonObject error =
             told.json().value(QLatin1String("errors")).toArray().first().toObject();
         QCOMPARE(error.value(QLatin1String("line")).toInt(), 2);
-        QCOMPARE(error.value(QLatin1String("key")).toString(), QStringLiteral("grdi"));
+        QCOMPARE(error.value(QLatin1String("key")).toString(), QStringLiteral("grids"));
         QCOMPARE(error.value(QLatin1String("file")).toString(), QStringLiteral("plan.json"));
         QVERIFY(!QFileInfo::exists(path("out")));
     }

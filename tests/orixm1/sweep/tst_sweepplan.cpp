@@ -5,6 +5,7 @@
 #include <sweep/configure.h>
 #include <sweep/plan.h>
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
@@ -81,14 +82,14 @@ void tst_SweepPlan::tellsEachMistakeWithItsPlace_data()
     };
     row("no JSON", "{\n\"devices\": [,]}", "", 2, "is no JSON: ");
     row("a list", "[]", "", 1, "no JSON object");
-    row("an unknown member", "{\"devices\": [\"TV2KR-18C\"],\n\"gird\": {}}", "gird", 2,
-        "Unknown key \"gird\". Did you mean \"grid\"?");
+    row("an unknown member", "{\"devices\": [\"TV2KR-18C\"],\n\"grids\": {}}", "grids", 2,
+        "Unknown key \"grids\". Did you mean \"grid\"?");
     row("no device", "{\"grid\": {}}", "", 1, "no device. Name some in \"devices\"");
     row("a device as a text", "{\"devices\": \"TV2KR-18C\"}", "devices", 1, "a text, not a list");
     row("no device in the list", "{\"devices\": []}", "devices", 1, "The list is empty");
     row("a number for a device", "{\"devices\": [7]}", "devices[0]", 1, "a number, not a text");
     row("an unknown device", "{\"devices\": [\"TV2KR-18C\",\n \"TV2KR-18D\"]}", "devices[1]", 2,
-        "Unknown device \"TV2KR-18D\". Did you mean \"TV2KR-18C\"?");
+        "Unknown device \"TV2KR-18D\". Did you mean \"TV2KR-18\"?");
     row("a pattern without a device", "{\"devices\": [\"XY*\"]}", "devices[0]", 1,
         "No device matches \"XY*\". \"orixm1 devices\"");
     row("an unknown option", "{\"devices\": [\"TV2KR-18C\"], \"grid\": {\n\"ITCM Size\": [1]}}",
