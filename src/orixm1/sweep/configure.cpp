@@ -37,7 +37,7 @@ OptionMap movedWhole(const OptionMap &options, const DEV::DeviceArg &from, const
     OptionMap result = moved.options;
     for (const Loss &loss : moved.losses) {
         losses->append(lossSentence(loss, moved, to));
-        result.insert(loss.key, options.value(loss.key, loss.before));
+        result.insert(loss.key, loss.before);
     }
     return result;
 }
