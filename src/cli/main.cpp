@@ -4,6 +4,7 @@
 #include "output.h"
 #include "simulate/livelistener.h"
 #include "suggestion.h"
+#include "sweep/sweepcommand.h"
 
 #include <utils/utf8names.h>
 
@@ -24,10 +25,10 @@ using Declare = void (*)(Cli::CommandLine &);
 constexpr Declare commandTable[] = {
     Cli::declareNew,      Cli::declareGenerate, Cli::declareCheck,       Cli::declareSources,
     Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters,   Cli::declareFirmware,
-    Cli::declareExport,   Cli::declareSimulate, Cli::declareOptions,     Cli::declareDevices,
-    Cli::declarePresets,  Cli::declareGet,      Cli::declareSet,         Cli::declareUnset,
-    Cli::declareMinimize, Cli::declareUpgrade,  Cli::declareShow,        Cli::declareDiff,
-    Cli::declareRandom,   Cli::declareSchema,   Cli::declareCompletions,
+    Cli::declareExport,   Cli::declareSimulate, Cli::declareSweep,     Cli::declareOptions,
+    Cli::declareDevices,  Cli::declarePresets,  Cli::declareGet,       Cli::declareSet,
+    Cli::declareUnset,    Cli::declareMinimize, Cli::declareUpgrade,   Cli::declareShow,
+    Cli::declareDiff,     Cli::declareRandom,   Cli::declareSchema,    Cli::declareCompletions,
 };
 
 bool isAsked(const char *option, int argc, char *argv[])

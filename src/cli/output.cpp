@@ -1,5 +1,7 @@
 #include "output.h"
 
+#include "diversion.h"
+
 #include <QJsonDocument>
 
 #include <cerrno>
@@ -16,6 +18,7 @@ namespace
 
 int firstWriteError = 0;
 std::function<void(const QString &)> errorTaker;
+std::function<void(const QJsonObject &)> jsonTaker;
 QJsonArray problems;
 bool hasPrintedJson = false;
 
@@ -92,8 +95,17 @@ void recordProblem(const Problem &problem)
 void printJson(QJsonObject object)
 {
     object.insert(QStringLiteral("errors"), problems);
+    if (jsonTaker) {
+        jsonTaker(object);
+        return;
+    }
     put(stdout, QJsonDocument(object).toJson(QJsonDocument::Indented));
     hasPrintedJson = true;
+}
+
+void divertJson(const std::function<void(const QJsonObject &)> &taker)
+{
+    jsonTaker = taker;
 }
 
 void printJsonOfProblems()

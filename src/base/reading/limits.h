@@ -22,6 +22,7 @@ constexpr qint64 firmwareFile = 1 * mebibyte; // a source that is handed on
 constexpr qint64 rtlFile = 4 * mebibyte;      // a source of hardware that is handed on
 constexpr qint64 firmwareImage = 64 * mebibyte;
 constexpr qint64 script = 16 * mebibyte;        // of transfers
+constexpr qint64 sweepPlan = 4 * mebibyte;
 constexpr qint64 bundleManifest = 4 * mebibyte; // of an exported set of files
 constexpr qint64 toolLog = 64 * mebibyte;
 constexpr qint64 anyFile = 1024 * mebibyte; // netlists, and whatever has no limit of its own

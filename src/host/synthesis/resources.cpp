@@ -72,6 +72,14 @@ QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances,
     return result;
 }
 
+QStringList resourceNames()
+{
+    QStringList names;
+    for (const Kind &kind : kinds)
+        names << QLatin1String(kind.name);
+    return names;
+}
+
 QString usedSentence(const QList<ResourceUse> &resources)
 {
     QStringList parts;

@@ -15,6 +15,9 @@ namespace Synthesis
 QList<ResourceUse> resourceUse(const QMap<QByteArray, int> &instances,
                                const DEV::DeviceResources &totals);
 
+// The names of these resources, in their order.
+TARVO_SYNTHESIS_EXPORT QStringList resourceNames();
+
 // "Used 120 LUT4, 64 Flip-flops." with the percentages where totals are known; resources that are
 // not used are left out.
 QString usedSentence(const QList<ResourceUse> &resources);

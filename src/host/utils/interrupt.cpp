@@ -1,7 +1,9 @@
 #include "interrupt.h"
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace Utils
@@ -58,6 +60,12 @@ Interrupt::~Interrupt()
     m_notifier.reset();
     ::close(wakePipe[0]);
     ::close(wakePipe[1]);
+}
+
+bool Interrupt::followParent(qint64 owner)
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    return owner > 1 && (::kill(pid_t(owner), 0) == 0 || errno == EPERM);
 }
 
 void Interrupt::onWoken()

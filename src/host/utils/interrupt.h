@@ -20,6 +20,10 @@ public:
     explicit Interrupt(QObject *parent = nullptr);
     ~Interrupt() override;
 
+    // From now on the end of this process's parent is a SIGTERM. False if the process with the
+    // number `owner`, on whose behalf the parent works, is gone already.
+    static bool followParent(qint64 owner);
+
 Q_SIGNALS:
     void received();
 

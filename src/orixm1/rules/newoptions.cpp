@@ -52,4 +52,18 @@ OptionMap optionsForChoices(const OptionMap &choices, const QString &device,
     return options;
 }
 
+OptionMap withChoices(const OptionMap &options, const OptionMap &choices)
+{
+    OptionMap result = options;
+    for (auto it = choices.begin(); it != choices.end(); ++it)
+        result.insert(it.key(), it.value());
+    for (const MemoryPair &pair : memoryPairs) {
+        if (choices.contains(pair.internal) && !choices.contains(pair.external))
+            result.insert(pair.external, !isOn(choices, pair.internal));
+        else if (choices.contains(pair.external) && !choices.contains(pair.internal))
+            result.insert(pair.internal, !isOn(choices, pair.external));
+    }
+    return result;
+}
+
 } // namespace TARVOORIXM1

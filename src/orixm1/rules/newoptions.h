@@ -15,4 +15,8 @@ namespace TARVOORIXM1
 OptionMap optionsForChoices(const OptionMap &choices, const QString &device,
                             const QString &createIn);
 
+// A configuration with further choices. A memory is inside or outside: choosing one is giving up
+// the other, unless the choices name both.
+OptionMap withChoices(const OptionMap &options, const OptionMap &choices);
+
 } // namespace TARVOORIXM1

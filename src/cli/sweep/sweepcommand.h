@@ -1,0 +1,10 @@
+#pragma once
+
+namespace Cli
+{
+
+class CommandLine;
+
+void declareSweep(CommandLine &line);
+
+} // namespace Cli
