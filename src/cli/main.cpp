@@ -13,8 +13,8 @@
 
 #include <algorithm>
 #include <fcntl.h>
-#include <unistd.h>
 #include <sstream>
+#include <unistd.h>
 
 namespace
 {
@@ -23,8 +23,8 @@ using Declare = void (*)(Cli::CommandLine &);
 
 // In the order in which the help lists them.
 constexpr Declare commandTable[] = {
-    Cli::declareNew,      Cli::declareGenerate, Cli::declareCheck,       Cli::declareSources,
-    Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters,   Cli::declareFirmware,
+    Cli::declareNew,      Cli::declareGenerate, Cli::declareCheck,     Cli::declareSources,
+    Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters, Cli::declareFirmware,
     Cli::declareExport,   Cli::declareSimulate, Cli::declareSweep,     Cli::declareOptions,
     Cli::declareDevices,  Cli::declarePresets,  Cli::declareGet,       Cli::declareSet,
     Cli::declareUnset,    Cli::declareMinimize, Cli::declareUpgrade,   Cli::declareShow,

@@ -120,6 +120,7 @@ module CortexM1Core #(
     localparam MOST_FILES = 9, MOST_LOOPS = 8;
     integer          depth = 0;
     integer          files[0:MOST_FILES-1];
+    integer          current;    // file, out of the table: Verilator 5 takes no handle from an array
     integer          lines[0:MOST_FILES-1];
     reg [8*1024-1:0] names[0:MOST_FILES-1];
     integer          line = 0;   // that failures are told with
@@ -475,7 +476,7 @@ module CortexM1Core #(
                 loops = loops + 1;
                 loop_file[loops] = depth;
                 loop_line[loops] = line;
-                loop_position[loops] = $ftell(files[depth]);
+                loop_position[loops] = $ftell(current);
                 loop_left[loops] = number[1];
             end
         end
@@ -488,7 +489,7 @@ module CortexM1Core #(
         else if (loop_left[loops] > 32'd1) begin
             loop_left[loops] = loop_left[loops] - 32'd1;
             lines[depth] = loop_line[loops];
-            unused = $fseek(files[depth], loop_position[loops], 0);
+            unused = $fseek(current, loop_position[loops], 0);
         end else
             loops = loops - 1;
     endtask
@@ -625,7 +626,7 @@ module CortexM1Core #(
                 fail("repeat without end");
                 loops = loops - 1;
             end
-            $fclose(files[depth]);
+            $fclose(current);
             depth = depth - 1;
             if (depth >= 0 && lines[depth+1] == 0) begin
                 line = lines[depth];
@@ -639,7 +640,8 @@ module CortexM1Core #(
         integer         got, more;
         reg [8*256-1:0] rest;
         begin
-            got = $fgets(text, files[depth]);
+            current = files[depth];
+            got = $fgets(text, current);
             if (got == 0)
                 leave;
             else begin
@@ -650,7 +652,7 @@ module CortexM1Core #(
                     more = 256;
                     rest = text;
                     while (more != 0 && rest[7:0] != "\n")
-                        more = $fgets(rest, files[depth]);
+                        more = $fgets(rest, current);
                     fail("a line of more than 255 characters");
                 end else if (words > 0) begin
                     if (skipping == 0)
