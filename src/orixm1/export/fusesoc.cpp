@@ -283,6 +283,15 @@ const char simulationOptions[] = R"(    parameters: [script]
       iverilog_options: [-g2005-sv]
 )";
 
+// The widths are those of the models, which are Verilog-2005 and not for synthesis.
+const char compiledSimulationOptions[] = R"(    parameters: [script]
+    flow: sim
+    flow_options:
+      tool: verilator
+      mode: binary
+      verilator_options: [--timing, -Wno-WIDTH]
+)";
+
 const char lintOptions[] = R"(    flow: lint
     flow_options:
       tool: verilator
@@ -318,6 +327,9 @@ QByteArray coreOf(const SystemMap &map)
         const QString bench = BenchName::verilogModule(map);
         targets.append({"sim"_l1, "first accesses, with Icarus Verilog"_l1,
                         chosen("include testbench rtl contents script"), bench, simulationOptions});
+        targets.append({"sim_verilator"_l1, "the same with Verilator"_l1,
+                        chosen("include testbench rtl contents script"), bench,
+                        compiledSimulationOptions});
     }
     const Vlnv vlnv = subsystemVlnv(map);
     QString text =

@@ -69,7 +69,6 @@ bool isIncludeCompiled(const QString &name)
 QStringList buildSourceFiles(const OptionMap &options, const QVariantMap &ipInfo,
                              const QString &device, const QString &tempDir)
 {
-    const bool debug = isOn(options, Key::enableDebug);
     const QString dataDir = dataFolder(options, ipInfo);
     QStringList sourceFiles;
     const QStringList names = rtlNames(dataDir);
