@@ -8,9 +8,11 @@ namespace TARVOORIXM1::Ipxact
 namespace
 {
 
-QString tagged(QLatin1String element)
+// Definitions of buses have the namespace as the default one: there are readers that look at files
+// with the usual prefix only, and take each of those for a component, a catalogue or a design.
+QLatin1String prefixFor(QLatin1String root)
 {
-    return QString("ipxact:"_l1) + element;
+    return root.endsWith("Definition"_l1) ? QLatin1String() : "ipxact:"_l1;
 }
 
 // Whether the description of a document stands at its beginning.
@@ -24,6 +26,7 @@ bool isFirst(Edition edition, QLatin1String root)
 Document::Document(Edition edition, QLatin1String root, const Vlnv &vlnv,
                    const QString &description)
     : m_edition(edition)
+    , m_prefix(prefixFor(root))
     , m_lastDescription(isFirst(edition, root) ? QString() : description)
     , m_xml(&m_bytes)
 {
@@ -33,7 +36,7 @@ Document::Document(Edition edition, QLatin1String root, const Vlnv &vlnv,
     m_xml.setAutoFormattingIndent(2);
     m_xml.writeStartDocument();
     open(root);
-    m_xml.writeAttribute("xmlns:ipxact"_l1, space);
+    m_xml.writeAttribute(m_prefix.isEmpty() ? "xmlns"_l1 : "xmlns:ipxact"_l1, space);
     text("vendor"_l1, vlnv.vendor);
     text("library"_l1, vlnv.library);
     text("name"_l1, vlnv.name);

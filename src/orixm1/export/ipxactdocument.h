@@ -49,7 +49,10 @@ public:
     static QString hexText(quint64 value);
 
 private:
+    QString tagged(QLatin1String element) const { return QString(m_prefix) + element; }
+
     const Edition m_edition;
+    const QLatin1String m_prefix;    // of its elements
     const QString m_lastDescription; // what the edition has at the end
     QByteArray m_bytes;
     QXmlStreamWriter m_xml;
