@@ -561,6 +561,7 @@ void tst_Datasheet::showsAnyTextAsItIs()
                        text,
                        false,
                        false,
+                       false,
                        text,
                        text,
                        {}});
