@@ -278,7 +278,7 @@ void declareDiff(CommandLine &line)
         ->required();
     CommandLine::json(command, arguments->json);
     command->footer(command->get_footer() +
-                    "\nExit status:\n  0  no difference\n  1  a difference\n  2  wrong usage\n"
+                    "\n\nExit status:\n  0  no difference\n  1  a difference\n  2  wrong usage\n"
                     "  3  a file that cannot be used, or output that cannot be written");
 }
 

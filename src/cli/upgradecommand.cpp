@@ -144,7 +144,7 @@ void declareUpgrade(CommandLine &line)
         ->description("Device instead of one that is not known");
     CommandLine::json(command, arguments->json);
     command->footer(command->get_footer() +
-                    "\nExit status:\n  0  there is nothing to mend any more\n"
+                    "\n\nExit status:\n  0  there is nothing to mend any more\n"
                     "  1  something is left to mend, or the file cannot be written\n"
                     "  2  wrong usage\n  3  a file that cannot be read");
 }

@@ -68,7 +68,7 @@ QString helpOf(const QString &command)
 
 QString exampleOf(const QString &command)
 {
-    return helpOf(command).section(QLatin1String("Example:\n  "), 1).trimmed();
+    return helpOf(command).section(QLatin1String("Example:\n  "), 1).section(u'\n', 0, 0);
 }
 
 } // namespace

@@ -78,8 +78,13 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(dir.filePath(QStringLiteral("my-ip/tarvo_orix_m1.v"))).size() > 100000);
         for (const char *line :
              {"./run check my-ip/tarvo_orix_m1.ipc",
-              "./run export my-ip/tarvo_orix_m1.ipc --out my-ip/software --check"})
+              "./run export my-ip/tarvo_orix_m1.ipc svd header linker startup drivers --out "
+              "my-ip/software --check"})
             QCOMPARE(run(QString::fromUtf8(line)), QString());
+        // What the memory begins with is part of the sources, so these are told as stale.
+        QVERIFY(run(QStringLiteral("./run export my-ip/tarvo_orix_m1.ipc rtl --out my-ip/software "
+                                   "--check"))
+                    .contains(QLatin1String("rtl/itcm/itcm0: missing")));
     }
 
 private:

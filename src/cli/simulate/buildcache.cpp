@@ -81,16 +81,21 @@ void BuildCache::keep(const QByteArray &key, const QByteArray &program) const
 {
     if (Utils::FileUtils::makePath(m_folder, nullptr) &&
         Utils::FileUtils::writeFile(pathOf(key), digest(key, program) + '\n' + program, nullptr))
-        trim();
+        trim(pathOf(key));
 }
 
-void BuildCache::trim() const
+void BuildCache::trim(const QString &newest) const
 {
     const QFileInfoList entries =
         QDir(m_folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Time);
-    int count = 0;
-    qint64 bytes = 0;
+    // Several may have come within the disk's unit of time.
+    int count = 1;
+    qint64 bytes = QFileInfo(newest).size();
+    if (bytes > m_mostBytes)
+        QFile::remove(newest);
     for (const QFileInfo &entry : entries) {
+        if (entry.fileName() == QFileInfo(newest).fileName())
+            continue;
         ++count;
         bytes += entry.size();
         if (count > m_mostEntries || bytes > m_mostBytes)

@@ -38,7 +38,7 @@ public:
 
 private:
     QString pathOf(const QByteArray &key) const;
-    void trim() const;
+    void trim(const QString &newest) const;
 
     const QString m_folder;
     const int m_mostEntries;
