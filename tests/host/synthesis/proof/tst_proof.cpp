@@ -8,6 +8,7 @@
 #include <synthesis/prover.h>
 
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTimer>
 
 using namespace Synthesis;
@@ -234,6 +235,24 @@ private Q_SLOTS:
             QCOMPARE(part->result, ProofPart::NotTried);
             QVERIFY2(part->reason.contains(QLatin1String("\"yosys\"")), told(report));
         }
+        QVERIFY(!report.isProven());
+    }
+
+    void withoutGhdlTheVerilogNetlistIsProven()
+    {
+        QTemporaryDir tools;
+        for (const char *name : {"yosys", "yosys-abc"})
+            QVERIFY(QFile::link(QStandardPaths::findExecutable(QLatin1String(name)),
+                                tools.filePath(QLatin1String(name))));
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", tools.path().toUtf8());
+        const ProofReport report = reportOf(jobOf(m_verilog, m_vhdl));
+        qputenv("PATH", path);
+        QVERIFY2(partOf(report, QStringLiteral("logic"))->result == ProofPart::Proven,
+                 told(report));
+        const ProofPart *vhdl = partOf(report, QStringLiteral("vhdl-logic"));
+        QCOMPARE(vhdl->result, ProofPart::NotTried);
+        QVERIFY2(vhdl->reason.contains(QLatin1String("\"ghdl\"")), told(report));
         QVERIFY(!report.isProven());
     }
 
