@@ -10,6 +10,7 @@ class CommandLine;
 // Each declares one command: its arguments, its help and what runs it.
 void declareNew(CommandLine &line);
 void declareGenerate(CommandLine &line);
+void declareProve(CommandLine &line);
 void declareCheck(CommandLine &line);
 void declareSources(CommandLine &line);
 void declareRetarget(CommandLine &line);

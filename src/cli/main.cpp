@@ -23,12 +23,13 @@ using Declare = void (*)(Cli::CommandLine &);
 
 // In the order in which the help lists them.
 constexpr Declare commandTable[] = {
-    Cli::declareNew,      Cli::declareGenerate, Cli::declareCheck,     Cli::declareSources,
-    Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters, Cli::declareFirmware,
-    Cli::declareExport,   Cli::declareSimulate, Cli::declareSweep,     Cli::declareOptions,
-    Cli::declareDevices,  Cli::declarePresets,  Cli::declareGet,       Cli::declareSet,
-    Cli::declareUnset,    Cli::declareMinimize, Cli::declareUpgrade,   Cli::declareShow,
-    Cli::declareDiff,     Cli::declareRandom,   Cli::declareSchema,    Cli::declareCompletions,
+    Cli::declareNew,         Cli::declareGenerate, Cli::declareProve,    Cli::declareCheck,
+    Cli::declareSources,     Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters,
+    Cli::declareFirmware,    Cli::declareExport,   Cli::declareSimulate, Cli::declareSweep,
+    Cli::declareOptions,     Cli::declareDevices,  Cli::declarePresets,  Cli::declareGet,
+    Cli::declareSet,         Cli::declareUnset,    Cli::declareMinimize, Cli::declareUpgrade,
+    Cli::declareShow,        Cli::declareDiff,     Cli::declareRandom,   Cli::declareSchema,
+    Cli::declareCompletions,
 };
 
 bool isAsked(const char *option, int argc, char *argv[])
@@ -38,7 +39,7 @@ bool isAsked(const char *option, int argc, char *argv[])
 
 constexpr const char *footer = R"(Exit status:
   0  done
-  1  the job failed, or check found an error
+  1  the job failed, check found an error, or prove could not prove everything
   2  wrong usage
   3  unreadable or incompatible input
   124  the time limit of simulate

@@ -27,23 +27,6 @@ QByteArray scratch(const char *file)
     return ScratchFolder::relative(QLatin1String(file)).toLatin1();
 }
 
-// The sources are one compilation unit: macros and file-level parameters of a file are known in all
-// later ones.
-QByteArray readSources(const SourceStage &sources, const QString &top)
-{
-    QByteArray includes;
-    for (const QString &dir : sources.includeDirs())
-        includes += " -I" + dir.toLatin1();
-    QByteArray text;
-    for (const QString &file : sources.staged()) {
-        const bool system = file.endsWith(QLatin1String(".sv"), Qt::CaseInsensitive) ||
-                            file.endsWith(QLatin1String(".svh"), Qt::CaseInsensitive);
-        text += QByteArray("read_verilog") + (system ? " -sv" : "") + includes + ' ' +
-                file.toLatin1() + '\n';
-    }
-    return text + "hierarchy -check -top " + top.toLatin1() + '\n';
-}
-
 // What the outputs in a language are made from, beside the Verilog netlist.
 QByteArray furtherNetlist(Language language)
 {
@@ -86,6 +69,21 @@ QStringList YosysScript::arguments(const char *file)
         QStringLiteral("-w"), QStringLiteral("limited support for tri-state logic"),
         QStringLiteral("-s"), ScratchFolder::relative(QLatin1String(file)),
     };
+}
+
+QByteArray YosysScript::readSources(const SourceStage &sources, const QString &top)
+{
+    QByteArray includes;
+    for (const QString &dir : sources.includeDirs())
+        includes += " -I" + dir.toLatin1();
+    QByteArray text;
+    for (const QString &file : sources.staged()) {
+        const bool system = file.endsWith(QLatin1String(".sv"), Qt::CaseInsensitive) ||
+                            file.endsWith(QLatin1String(".svh"), Qt::CaseInsensitive);
+        text += QByteArray("read_verilog") + (system ? " -sv" : "") + includes + ' ' +
+                file.toLatin1() + '\n';
+    }
+    return text + "hierarchy -check -top " + top.toLatin1() + '\n';
 }
 
 QByteArray YosysScript::elaboration(const SourceStage &sources, const QString &top)

@@ -27,6 +27,10 @@ inline constexpr char cells[] = "cells.json";
 // are shown.
 QStringList arguments(const char *file);
 
+// Reads the sources and elaborates `top`. They are one compilation unit: macros and file-level
+// parameters of a file are known in all later ones.
+QByteArray readSources(const SourceStage &sources, const QString &top);
+
 // Reads the sources and writes the ports of `top` and of the black boxes to `outline`.
 QByteArray elaboration(const SourceStage &sources, const QString &top);
 

@@ -1,4 +1,4 @@
-// From flip-flops, tri-state drivers and RAMs to the cells of boundary.v.
+// From flip-flops, tri-state drivers and RAMs to the cells of proof_boundary.v.
 //
 // A flip-flop becomes state that moves in steps: in a step in which its clock is high it takes the new value, with the
 // clock low it stays, and for a falling edge the other way round. An asynchronous reset overrides what is seen of it.
