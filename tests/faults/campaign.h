@@ -6,6 +6,7 @@
 
 #include <QDirIterator>
 #include <QElapsedTimer>
+#include <QJsonDocument>
 #include <QMap>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -345,6 +346,8 @@ private:
         QStringList list =
             data + QStringList{QStringLiteral("generate"), path(choice == 0 ? "0.ipc" : "1.ipc")} +
             out;
+        // A run that nothing calls for, or whose results are at hand, would meet no fault.
+        list << QStringLiteral("--force") << QStringLiteral("--no-cache");
         if (command == IncludeFiles)
             list << QStringLiteral("--no-synth");
         return list;
@@ -434,6 +437,9 @@ private:
             return true;
         if (!now.contains(name))
             return !m_before.contains(name);
+        // It tells of a run that failed, too; that this is the truth has a test of its own.
+        if (name.endsWith(QLatin1String("/manifest.json")))
+            return QJsonDocument::fromJson(now.value(name)).isObject();
         return now.value(name) == m_expected[command][1].value(name) ||
                (m_before.contains(name) && now.value(name) == m_before.value(name));
     }
