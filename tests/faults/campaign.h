@@ -171,9 +171,19 @@ public:
             return complain(left);
         const Files now = filesOf(path("out"), m_expected[command][1]);
         if (m_status == 0) {
-            if (!sameBut(now, m_expected[command][1]))
+            const QString manifest = QStringLiteral("temp/tv_orix_m1/manifest.json");
+            const Files &wanted = m_expected[command][1];
+            Files there = now;
+            if (there.contains(manifest))
+                there[manifest] = wanted.value(manifest);
+            if (!sameBut(there, wanted))
                 return complain(
                     QStringLiteral("It reports success, but what is there is not right"));
+            // A file that could not be read makes no difference to the results, but nobody knows it
+            // then.
+            if (now.value(manifest) != wanted.value(manifest) && isToldAsFresh(command))
+                return complain(
+                    QStringLiteral("The manifest is another one, and yet all is told as fresh"));
             // Only the log may be lost without a word.
             if (m_state->onFile > 0 && fault.effect > 0 && !inTool &&
                 (command != Generate || (isNewLog(now) && fault.before != Same)))
@@ -353,7 +363,21 @@ private:
         return list;
     }
 
+    bool isToldAsFresh(Command command) const
+    {
+        QStringList list = arguments(command, 1);
+        list.removeAll(QStringLiteral("--force"));
+        list << QStringLiteral("--check");
+        const std::unique_ptr<QProcess> process = start(list, {});
+        return finished(*process) && process->exitCode() == 0;
+    }
+
     std::unique_ptr<QProcess> start(Command command, int choice, const Fault &fault) const
+    {
+        return start(arguments(command, choice), fault);
+    }
+
+    std::unique_ptr<QProcess> start(const QStringList &list, const Fault &fault) const
     {
         auto process = std::make_unique<QProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -374,7 +398,7 @@ private:
         }
         process->setProcessEnvironment(environment);
         process->setProcessChannelMode(QProcess::MergedChannels);
-        process->start(m_program, arguments(command, choice));
+        process->start(m_program, list);
         return process;
     }
 
