@@ -186,9 +186,11 @@ public:
                 return refused("an entry of \""_l1 + member + "\" has no SHA-256 sum"_l1);
             if (haveRoles == role.isEmpty() || (!haveRoles && !isBelow(name)))
                 return refused("an entry of \""_l1 + member + "\" names no file"_l1);
-            if (!haveRoles && paths.contains(name))
+            // Several runs may have been about to write it.
+            const QString key = member == Member::pending ? QString(name + u'/' + hash) : name;
+            if (!haveRoles && paths.contains(key))
                 return refused("\""_l1 + name + "\" is there twice"_l1);
-            paths.insert(name);
+            paths.insert(key);
             files.append({role, name, hash.toLatin1()});
         }
         return files;

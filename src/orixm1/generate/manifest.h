@@ -71,7 +71,8 @@ struct GenerationManifest {
     bool isFinished = true;
     Origin origin; // of the include files
     QVector<DigestedFile> includeFiles;
-    // The same as a run that has not finished is about to leave them.
+    // The same as a run that has not finished is about to leave them, and what such runs before it
+    // have made and no run since has replaced. A file may stand here more than once.
     QVector<DigestedFile> pendingFiles;
     std::optional<SynthesisRecord> synthesis;
 

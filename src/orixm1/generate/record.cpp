@@ -51,9 +51,13 @@ bool GenerationRecord::keep(const QString &path, QString *error)
             return false;
         m_kept.append({path, copy});
     }
-    m_messages.append(Tr::tr("\"%1\" was changed since the last run; what stood there is in \"%2\" "
-                             "now.")
-                          .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
+    const QString text =
+        m_before->isFinished
+            ? Tr::tr("\"%1\" was changed since the last run; what stood there is in \"%2\" now.")
+            : Tr::tr(
+                  "The last run did not end, and \"%1\" is not what one before it has left; what "
+                  "stood there is in \"%2\" now.");
+    m_messages.append(text.arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
     return true;
 }
 
@@ -79,21 +83,55 @@ bool GenerationRecord::begin(QString *error)
         if (!keep(path, error))
             return false;
     }
-    // The tool replaces its own results, the project tool's too.
-    if (m_before->isFinished && m_before->synthesis) {
+    m_left = standing(m_before->pendingFiles);
+    const ResultPaths paths = resultPaths(m_plan.outputs);
+    const QStringList replaced = paths.always + paths.sometimes;
+    QStringList results = replaced;
+    if (m_before->synthesis) {
         for (const DigestedFile &file : m_before->synthesis->files) {
-            const QString path = m_input.createInPath + u'/' + file.name;
-            if (!path.startsWith(m_plan.folder + u'/'))
-                continue;
-            const QByteArray present = digestOf(path);
-            if (!present.isEmpty() && present != file.sha256 && !keep(path, error))
-                return false;
+            if (const QString path = m_input.createInPath + u'/' + file.name;
+                !results.contains(path))
+                results.append(path);
         }
+    }
+    for (const QString &path : qAsConst(results)) {
+        const QByteArray present = digestOf(path);
+        const QString name = belowOutput(path, m_input.createInPath);
+        if (present.isEmpty() || isRecorded(name, present))
+            continue;
+        const DigestedFile left{QString(), name, present};
+        if (!m_before->isFinished && !m_left.contains(left))
+            m_left.append(left);
+        // The tool replaces its own results, the project tool's too.
+        const bool isTools = replaced.contains(path) && path.startsWith(m_plan.folder + u'/');
+        if (isTools && !keep(path, error))
+            return false;
     }
     GenerationManifest running = *m_before;
     running.isFinished = false;
     running.pendingFiles = m_includeFiles;
+    for (const DigestedFile &file : qAsConst(m_left)) {
+        if (!running.pendingFiles.contains(file))
+            running.pendingFiles.append(file);
+    }
     return write(running, error);
+}
+
+bool GenerationRecord::isRecorded(const QString &name, const QByteArray &sha256) const
+{
+    const DigestedFile *file = m_before->find(name);
+    return file && file->sha256 == sha256;
+}
+
+QVector<DigestedFile> GenerationRecord::standing(const QVector<DigestedFile> &files) const
+{
+    QVector<DigestedFile> those;
+    for (const DigestedFile &file : files) {
+        if (digestOf(m_input.createInPath + u'/' + file.name) == file.sha256 &&
+            !those.contains(file))
+            those.append(file);
+    }
+    return those;
 }
 
 bool GenerationRecord::keepEditedOutputs(QString *error)
@@ -103,7 +141,7 @@ bool GenerationRecord::keepEditedOutputs(QString *error)
     const auto keepUnless = [&](const QString &path, const QByteArray &next) {
         const QByteArray present = digestOf(path);
         const QString name = belowOutput(path, m_input.createInPath);
-        return present.isEmpty() || present == next || m_before->knows(name, present) ||
+        return present.isEmpty() || present == next || isRecorded(name, present) ||
                keep(path, error);
     };
     for (const Output &output : qAsConst(m_plan.outputs.copied)) {
@@ -123,6 +161,7 @@ bool GenerationRecord::finish(const Run *run, QString *error)
     if (!run) {
         if (m_before)
             manifest.synthesis = m_before->synthesis;
+        manifest.pendingFiles = standing(m_left);
         return write(manifest, error);
     }
     SynthesisRecord record;

@@ -46,6 +46,9 @@ public:
 private:
     bool keep(const QString &path, QString *error);
     QByteArray digestOf(const QString &path) const;
+    bool isRecorded(const QString &name, const QByteArray &sha256) const; // by a run that ended
+    // Those that hold what is said of them.
+    QVector<DigestedFile> standing(const QVector<DigestedFile> &files) const;
     bool write(const GenerationManifest &manifest, QString *error) const;
 
     struct Kept {
@@ -60,6 +63,7 @@ private:
     Origin m_origin;
     QVector<DigestedFile> m_includeFiles;
     std::optional<GenerationManifest> m_before;
+    QVector<DigestedFile> m_left; // what runs that did not end have made, as far as it stands
     QVector<Kept> m_kept; // and made by this object
     QStringList m_messages;
 };

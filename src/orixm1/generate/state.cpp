@@ -43,11 +43,11 @@ FileState::State stateOf(const FileState &file, bool isKnown, bool isCurrent)
 {
     if (file.present.isEmpty())
         return FileState::Missing;
-    if (file.recorded.isEmpty())
-        return FileState::Foreign;
-    if (isCurrent)
+    if (!file.recorded.isEmpty() && isCurrent)
         return FileState::Fresh;
-    return isKnown ? FileState::Stale : FileState::Edited;
+    if (isKnown)
+        return FileState::Stale;
+    return file.recorded.isEmpty() ? FileState::Foreign : FileState::Edited;
 }
 
 } // namespace
@@ -156,10 +156,11 @@ GenerationState generationState(const GenerationInput &input, const GenerationPl
         look(&file, recorded, digest);
         if (file.present.isEmpty() && (!belongsThere || (isSometimes && !recorded)))
             return;
-        const bool isKnown = recorded && recorded->sha256 == file.present;
+        const bool isLasts = recorded && recorded->sha256 == file.present;
         // A run that did not end may have written it.
-        file.state =
-            stateOf(file, isKnown || !manifest.isFinished, isKnown && isCurrent && belongsThere);
+        const bool isKnown =
+            manifest.knows(name, file.present) || (recorded && !manifest.isFinished);
+        file.state = stateOf(file, isKnown, isLasts && isCurrent && belongsThere);
         state.files.append(file);
     };
     for (const QString &path : paths.always)

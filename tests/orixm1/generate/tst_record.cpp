@@ -1,0 +1,200 @@
+#include "testsupport.h"
+
+#include <config/optionkeys.h>
+#include <config/optiontable.h>
+#include <dev/devicedb.h>
+#include <generate/record.h>
+#include <generate/state.h>
+#include <utils/fileutils.h>
+
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace TARVOORIXM1;
+
+// Generations that end after any of their steps, by turns with somebody who edits the files. The
+// seed is printed when a test fails; TARVO_TEST_SEED repeats it.
+class tst_Record : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tellsTheTruthWhereverRunsEnd();
+
+private:
+    GenerationInput input(bool gpio, Language language) const;
+    void runUpTo(int step, int end, const GenerationInput &input);
+    void put(const QString &path, const QByteArray &bytes);
+    bool isKeptSomewhere(const QString &path, const QByteArray &bytes) const;
+
+    QTemporaryDir m_dir;
+    QSet<QString> m_edited;              // paths; nothing has replaced them since
+    QMap<QString, QByteArray> m_written; // edits that must be found again
+    QStringList m_story;
+};
+
+GenerationInput tst_Record::input(bool gpio, Language language) const
+{
+    GenerationInput input;
+    input.options = {{Key::enableGpio, gpio}};
+    input.ipInfo = {{InfoKey::target, QStringLiteral("name")},
+                    {InfoKey::version, QStringLiteral("2.1")},
+                    {InfoKey::debug, m_dir.filePath(QStringLiteral("data"))}};
+    input.device = DEV::DeviceDb::bundled().findDevice(QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));
+    input.tool = Tool::TarvoSynthesis;
+    input.language = language;
+    input.createInPath = m_dir.filePath(QStringLiteral("out"));
+    return input;
+}
+
+// What a run writes takes the place of what was edited.
+void tst_Record::put(const QString &path, const QByteArray &bytes)
+{
+    QVERIFY(TestSupport::write(path, bytes));
+    m_edited.remove(path);
+}
+
+bool tst_Record::isKeptSomewhere(const QString &path, const QByteArray &bytes) const
+{
+    const QFileInfo info(path);
+    const QStringList names = TestSupport::entriesOf(info.absolutePath());
+    for (const QString &name : names) {
+        const bool isCopy =
+            name == info.fileName() || name.startsWith(info.fileName() + QLatin1String(".edited"));
+        if (isCopy && TestSupport::contentsOf(info.absolutePath() + u'/' + name) == bytes)
+            return true;
+    }
+    return false;
+}
+
+// A run of which only the steps before `step` happen; `end`: 0 the tool succeeds, 1 it fails,
+// 2 none is run.
+void tst_Record::runUpTo(int step, int end, const GenerationInput &input)
+{
+    const GenerationPlan plan = generationPlan(input);
+    GenerationRecord record(input, plan, sha256, Utils::FileUtils::writeLines);
+    QString error;
+    const auto isOver = [&step] { return step-- <= 0; };
+    QVERIFY(QDir().mkpath(plan.folder));
+    if (isOver())
+        return;
+    QVERIFY2(record.begin(&error), qPrintable(error));
+    for (const IncludeFile &file : plan.includeFiles) {
+        if (isOver())
+            return;
+        put(plan.pathOf(file), bytesOf(file));
+    }
+    if (isOver())
+        return;
+    if (end != 0) {
+        QVERIFY2(record.finish(nullptr, &error), qPrintable(error));
+        return;
+    }
+    const QByteArray result =
+        input.options.value(Key::enableGpio).toBool() ? "with GPIO" : "without";
+    for (const Output &output : plan.outputs.copied) {
+        if (!output.isOptional)
+            put(output.source, result + output.source.toUtf8());
+    }
+    put(plan.outputs.verilogNetlist, result + plan.outputs.verilogNetlist.toUtf8());
+    if (isOver())
+        return;
+    QVERIFY2(record.keepEditedOutputs(&error), qPrintable(error));
+    for (const Output &output : plan.outputs.copied) {
+        if (isOver())
+            return;
+        if (!output.isOptional)
+            put(output.file, TestSupport::contentsOf(output.source));
+    }
+    if (isOver())
+        return;
+    put(plan.outputs.decoded, result + "decoded");
+    if (isOver())
+        return;
+    const GenerationRecord::Run run{QStringLiteral("tool"), QStringLiteral("1"), {}};
+    QVERIFY2(record.finish(&run, &error), qPrintable(error));
+}
+
+void tst_Record::tellsTheTruthWhereverRunsEnd()
+{
+    bool given = false;
+    uint seed = uint(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
+    if (!given)
+        seed = QRandomGenerator::global()->generate() & 0x7fffffff;
+    QRandomGenerator random(seed);
+    const auto tell = [&](const QString &more = QString()) {
+        return QStringLiteral("TARVO_TEST_SEED=%1: %2")
+            .arg(seed)
+            .arg(m_story.join(QStringLiteral(", ")) + QStringLiteral(": ") + more)
+            .toUtf8();
+    };
+    QVERIFY(TestSupport::write(m_dir.filePath(QStringLiteral("data/a.v")), "module a;\n"));
+    QVERIFY(TestSupport::write(m_dir.filePath(QStringLiteral("data/define.vh")), "\n"));
+    const int whole = 40; // more steps than there are
+
+    int edits = 0;
+    int states[FileState::Foreign + 1] = {};
+    for (int sequence = 0; sequence < 60; ++sequence) {
+        QDir(m_dir.filePath(QStringLiteral("out"))).removeRecursively();
+        m_edited.clear();
+        m_written.clear();
+        m_story = QStringList{QStringLiteral("run to its end")};
+        runUpTo(whole, 0, input(false, Language::Vhdl));
+        for (int move = 0; move < 12; ++move) {
+            const GenerationInput next =
+                input(random.bounded(2) == 1,
+                      random.bounded(4) == 0 ? Language::Verilog : Language::Vhdl);
+            const GenerationPlan plan = generationPlan(next);
+            const bool isEdit = random.bounded(4) == 0;
+            if (isEdit) {
+                QStringList paths = resultPaths(plan.outputs).always;
+                for (const IncludeFile &file : plan.includeFiles)
+                    paths.append(plan.pathOf(file));
+                const QString path = paths.at(random.bounded(paths.size()));
+                m_story.append(QStringLiteral("edit ") + path);
+                const QByteArray bytes = "edit " + QByteArray::number(++edits);
+                QVERIFY(TestSupport::write(path, bytes));
+                m_edited.insert(path);
+                m_written.insert(path, bytes);
+            } else {
+                const int step = random.bounded(2) == 0 ? whole : random.bounded(24);
+                const int end = random.bounded(3);
+                m_story.append(QStringLiteral("run up to %1 with end %2, GPIO %3")
+                                   .arg(step)
+                                   .arg(end)
+                                   .arg(next.options.value(Key::enableGpio).toString()));
+                runUpTo(step, end, next);
+            }
+            if (QTest::currentTestFailed())
+                qFatal("%s", tell().constData());
+            for (auto edit = m_written.constBegin(); edit != m_written.constEnd(); ++edit)
+                QVERIFY2(isKeptSomewhere(edit.key(), edit.value()), tell(edit.key()));
+
+            const auto tool = [] {
+                return ToolFacts{QStringLiteral("tool"), QStringLiteral("1"), true};
+            };
+            const GenerationState state = generationState(next, plan, tool, sha256, false);
+            QVERIFY2(state.manifest, tell(state.messages.join(u' ')));
+            for (const FileState &file : state.files) {
+                ++states[file.state];
+                if (file.state == FileState::Edited)
+                    QVERIFY2(m_edited.contains(file.path), tell(file.path));
+                if (file.state == FileState::Fresh)
+                    QVERIFY2(!m_edited.contains(file.path), tell(file.path));
+                if (file.state == FileState::Fresh && file.isInclude)
+                    QCOMPARE(TestSupport::contentsOf(file.path), file.expected);
+                // A run that did not end may leave results that nobody can tell from edits.
+                if (m_edited.contains(file.path) && file.isInclude)
+                    QVERIFY2(file.state == FileState::Edited, tell(file.path));
+            }
+        }
+    }
+    QVERIFY(edits > 50);
+    for (const FileState::State state :
+         {FileState::Fresh, FileState::Stale, FileState::Edited, FileState::Missing})
+        QVERIFY2(states[state] > 0, qPrintable(stateName(state)));
+}
+
+TARVO_TEST_MAIN(QCoreApplication, tst_Record)
+#include "tst_record.moc"
