@@ -1,53 +1,12 @@
 // Times "orixm1 sweep --no-synth" as a whole process with a plan of ten points in turn with one of
 // a thousand, and prints medians and their ratio. bench_sweep [RUNS]
 
-#include <QByteArray>
+#include <wholeprocess.h>
+
 #include <QFile>
 #include <QTemporaryDir>
-#include <QVector>
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-namespace
-{
-
-double millisecondsOf(const QByteArray &plan, const QByteArray &folder)
-{
-    const QByteArrayList words = {TARVO_COMMAND, "sweep", plan, "--no-synth", "--out", folder};
-    std::vector<char *> arguments;
-    for (const QByteArray &word : words)
-        arguments.push_back(const_cast<char *>(word.constData()));
-    arguments.push_back(nullptr);
-    const auto before = std::chrono::steady_clock::now();
-    const pid_t child = ::vfork();
-    if (child == 0) {
-        ::execv(arguments.front(), arguments.data());
-        ::_exit(127);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    const std::chrono::duration<double, std::milli> elapsed =
-        std::chrono::steady_clock::now() - before;
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
-        std::fprintf(stderr, "%s failed\n", arguments.front());
-        std::exit(1);
-    }
-    return elapsed.count();
-}
-
-double median(QVector<double> samples)
-{
-    std::sort(samples.begin(), samples.end());
-    return samples.at(samples.size() / 2);
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -71,12 +30,14 @@ int main(int argc, char *argv[])
     const int terminal = ::dup(STDOUT_FILENO);
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
     ::dup2(nowhere, STDOUT_FILENO);
-    QVector<double> few;
-    QVector<double> many;
+    QVector<Sample> few;
+    QVector<Sample> many;
     for (int i = 0; i <= runs; ++i) {
         const QByteArray folder = dir.filePath(QString::number(i)).toUtf8();
-        const double a = millisecondsOf(ten, folder + "a");
-        const double b = millisecondsOf(thousand, folder + "b");
+        const Sample a =
+            runOnce({TARVO_COMMAND, "sweep", ten, "--no-synth", "--out", folder + "a"});
+        const Sample b =
+            runOnce({TARVO_COMMAND, "sweep", thousand, "--no-synth", "--out", folder + "b"});
         if (i == 0)
             continue; // warms the caches
         few.append(a);
@@ -84,7 +45,8 @@ int main(int argc, char *argv[])
     }
     ::dup2(terminal, STDOUT_FILENO);
     std::printf("median of %d runs    10 points  1000 points    ratio\n", runs);
-    std::printf("wall clock, ms     %10.2f %12.2f %8.2f\n", median(few), median(many),
-                median(many) / median(few));
+    std::printf("wall clock, ms     %10.2f %12.2f %8.2f\n", median(few, &Sample::wall),
+                median(many, &Sample::wall),
+                median(many, &Sample::wall) / median(few, &Sample::wall));
     return 0;
 }

@@ -118,8 +118,8 @@ void measure(const char *title, const QByteArray &name, const char *language, in
     QVector<Sample> bare;
     for (int i = 0; i < runs; ++i) {
         whole << runOnce(QStringLiteral(TARVO_COMMAND),
-                         {QStringLiteral("generate"), config, QStringLiteral("--out"),
-                          dir.filePath(QString::number(i))},
+                         {QStringLiteral("generate"), config, QStringLiteral("--no-cache"),
+                          QStringLiteral("--out"), dir.filePath(QString::number(i))},
                          dir.path());
         bare << runOnce(QStringLiteral("yosys"),
                         {QStringLiteral("-q"), QStringLiteral("-p"), script}, dir.path());

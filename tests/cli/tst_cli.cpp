@@ -121,6 +121,8 @@ void tst_Cli::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     m_environment = QProcessEnvironment::systemEnvironment();
+    // Every generation synthesises, none takes the results of another one.
+    m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), QStringLiteral("/dev/null"));
     // No display and no platform plug-in: the command must not miss them.
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         m_environment.remove(QString::fromLatin1(name));
@@ -712,7 +714,8 @@ void tst_Cli::aFullDiskLeavesNothingHalfWritten()
     }
     const Run full = run(arguments);
     QCOMPARE(full.status, 1);
-    QVERIFY2(full.err.contains(QLatin1String("cm1_option_defs.v")) &&
+    // What comes first is the manifest, if there is one already.
+    QVERIFY2(full.err.contains(disk + QLatin1String("/temp/tv_orix_m1/")) &&
                  full.err.contains(QLatin1String("space")),
              qPrintable(full.err));
     QVERIFY(!QFileInfo::exists(disk + QLatin1String("/temp/tv_orix_m1/cm1_option_defs.v")));

@@ -12,7 +12,7 @@ cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
 
 cp "$configuration" config.ipc
-"$orixm1" generate config.ipc > log 2>&1 || { cat log; fail "generation"; }
+"$orixm1" generate config.ipc --no-cache > log 2>&1 || { cat log; fail "generation"; }
 "$orixm1" export config.ipc sdc --out . > log 2>&1 || { cat log; fail "export"; }
 # The cell stands behind its attribute: "TV_DFFC #(", ".INIT(…)" and so on, "\u_uart0.u_sync_rxd.meta_reg  (".
 awk '/^  \(\* async_reg = "true" \*\)$/ { marked = 1; next }

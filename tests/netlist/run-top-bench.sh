@@ -6,7 +6,7 @@ set -u
 orixm1=$1 rtl=$2 tests=$3 config=$4
 tmp=$(mktemp -d) || exit 2
 trap 'rm -rf "$tmp"' EXIT
-"$orixm1" generate "$config" --out "$tmp/ip" > /dev/null || exit 1
+"$orixm1" generate "$config" --no-cache --out "$tmp/ip" > /dev/null || exit 1
 # The testbench brings a processor of its own; the stand-ins of licensed blocks are those of the RTL.
 awk '/^\(\* blackbox \*\)$/ { held = $0; next }
      held != "" { skip = 1; held = "" }

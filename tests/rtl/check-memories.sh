@@ -38,7 +38,7 @@ END
             done
             printf '%s\n' Initialize%20ITCM=true ITCM_Initialization_Path=. "ITCM_Initialization_AbsolutePath=$tmp" >> memories.ipc
         fi
-        "$orixm1" generate --json memories.ipc > report.json 2> log || { cat log; fail "$device $itcm $dtcm initial: $initial"; }
+        "$orixm1" generate --json --no-cache memories.ipc > report.json 2> log || { cat log; fail "$device $itcm $dtcm initial: $initial"; }
         used=$(tr -d ' \n' < report.json | grep -oE '"cell":"TV_RAMB_[A-Z]+","count":[0-9]+' | awk -F: '{ n += $3 } END { print n + 0 }')
         expected=$(($(blocks $((1 << itcm)) $least) + $(blocks $((1 << dtcm)))))
         ((used == expected)) || fail "$device, debug: $debug, ITCM $((1 << itcm)) KB, DTCM $((1 << dtcm)) KB," \

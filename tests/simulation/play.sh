@@ -13,7 +13,7 @@ fail() { echo "FAILED: $*"; exit 1; }
 
 model=$data/simulation/cortex_m1_core_bfm.v
 if [[ $case == netlist ]]; then
-    "$orixm1" generate "$examples/sensor-node.ipc" --out "$tmp" > log 2>&1 || { cat log; fail "generation"; }
+    "$orixm1" generate "$examples/sensor-node.ipc" --no-cache --out "$tmp" > log 2>&1 || { cat log; fail "generation"; }
     iverilog -g2005 -Wall -DHAVE_CortexM1Core -s sensor_node_tb -o sim tarvo_orix_m1.vo "$model" "$examples/sensor-node-tb.v"
 else
     "$orixm1" generate "$examples/sensor-node.ipc" --no-synth --out "$tmp" > log 2>&1 || { cat log; fail "generation"; }

@@ -26,7 +26,7 @@ if [[ $# -eq 0 ]]; then
     exit
 fi
 
-"$orixm1" generate config.ipc --out ip > generate.log 2>&1 || fail "$(cat generate.log)"
+"$orixm1" generate config.ipc --no-cache --out ip > generate.log 2>&1 || fail "$(cat generate.log)"
 verilog=ip/temp/tv_orix_m1/tarvo_orix_m1.vg
 vhdl=ip/temp/tv_orix_m1/tarvo_orix_m1.vhg
 for change in "$@"; do
