@@ -38,42 +38,6 @@ QString number(quint32 value)
     return value < 10 ? QString::number(value) : "0x"_l1 + QString::number(value, 16).toUpper();
 }
 
-QString directionName(PortDirection direction)
-{
-    switch (direction) {
-    case PortDirection::Input:
-        return QStringLiteral("input");
-    case PortDirection::Output:
-        return QStringLiteral("output");
-    case PortDirection::Inout:
-        return QStringLiteral("inout");
-    }
-    return {};
-}
-
-QString roleName(PortRole role)
-{
-    switch (role) {
-    case PortRole::Clock:
-        return QStringLiteral("clock");
-    case PortRole::Reset:
-        return QStringLiteral("reset");
-    case PortRole::BusSignal:
-        return QStringLiteral("bus");
-    case PortRole::Interrupt:
-        return QStringLiteral("interrupt");
-    case PortRole::Debug:
-        return QStringLiteral("debug");
-    case PortRole::Status:
-        return QStringLiteral("status");
-    case PortRole::Peripheral:
-        return QStringLiteral("peripheral");
-    case PortRole::Unused:
-        return QStringLiteral("unused");
-    }
-    return {};
-}
-
 // "reading clears; ones clear": what an access does beside the obvious.
 QString effects(const RegisterField &field)
 {

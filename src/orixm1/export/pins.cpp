@@ -25,19 +25,6 @@ if {[info commands @proc@] eq ""} {
 }
 )";
 
-QLatin1String directionName(PortDirection direction)
-{
-    switch (direction) {
-    case PortDirection::Input:
-        return "input"_l1;
-    case PortDirection::Output:
-        return "output"_l1;
-    case PortDirection::Inout:
-        break;
-    }
-    return "inout"_l1;
-}
-
 } // namespace
 
 QVector<ExportedFile> pinFiles(const SystemMap &map)

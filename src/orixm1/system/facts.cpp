@@ -58,42 +58,6 @@ QVector<Fact> deviceFacts(const DEV::DeviceArg &device)
     return facts;
 }
 
-QString directionName(PortDirection direction)
-{
-    switch (direction) {
-    case PortDirection::Input:
-        return QStringLiteral("input");
-    case PortDirection::Output:
-        return QStringLiteral("output");
-    case PortDirection::Inout:
-        break;
-    }
-    return QStringLiteral("inout");
-}
-
-QString roleName(PortRole role)
-{
-    switch (role) {
-    case PortRole::Clock:
-        return QStringLiteral("clock");
-    case PortRole::Reset:
-        return QStringLiteral("reset");
-    case PortRole::BusSignal:
-        return QStringLiteral("bus signal");
-    case PortRole::Interrupt:
-        return QStringLiteral("interrupt");
-    case PortRole::Debug:
-        return QStringLiteral("debug");
-    case PortRole::Status:
-        return QStringLiteral("status");
-    case PortRole::Peripheral:
-        return QStringLiteral("peripheral");
-    case PortRole::Unused:
-        break;
-    }
-    return QStringLiteral("unused");
-}
-
 QVector<Fact> portFacts(const QVector<Port> &ports)
 {
     QVector<Fact> facts;

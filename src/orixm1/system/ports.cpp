@@ -337,6 +337,42 @@ QLatin1String ddr3Module(const QString &device)
 
 } // namespace
 
+QString directionName(PortDirection direction)
+{
+    switch (direction) {
+    case PortDirection::Input:
+        return QStringLiteral("input");
+    case PortDirection::Output:
+        return QStringLiteral("output");
+    case PortDirection::Inout:
+        return QStringLiteral("inout");
+    }
+    return {};
+}
+
+QString roleName(PortRole role)
+{
+    switch (role) {
+    case PortRole::Clock:
+        return QStringLiteral("clock");
+    case PortRole::Reset:
+        return QStringLiteral("reset");
+    case PortRole::BusSignal:
+        return QStringLiteral("bus");
+    case PortRole::Interrupt:
+        return QStringLiteral("interrupt");
+    case PortRole::Debug:
+        return QStringLiteral("debug");
+    case PortRole::Status:
+        return QStringLiteral("status");
+    case PortRole::Peripheral:
+        return QStringLiteral("peripheral");
+    case PortRole::Unused:
+        return QStringLiteral("unused");
+    }
+    return {};
+}
+
 QVector<Port> portsOf(const OptionMap &options, const QString &device,
                       const QVector<Region> &regions)
 {

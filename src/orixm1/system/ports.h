@@ -22,6 +22,10 @@ enum class PortRole {
     Unused,     // there for its place in a connector; connected to nothing or driven constantly
 };
 
+// As people read them: "input", "inout"; "clock", "bus".
+QString directionName(PortDirection direction);
+QString roleName(PortRole role);
+
 // A port of the subsystem's top module.
 struct Port {
     QString name;  // "UART0TXD", without the range
