@@ -125,18 +125,26 @@ function(tarvo_add_program name)
     tarvo_set_level(${name} ${ARG_LEVEL})
 endfunction()
 
+# Results that tests share; what is kept there is known by the programs that made it.
+set(TARVO_TEST_CACHE ${CMAKE_BINARY_DIR}/tests/cache)
+
+# Tests wait for the compiler more than for the code that it makes of them.
+add_library(tarvo_test_flags INTERFACE)
+target_link_libraries(tarvo_test_flags INTERFACE tarvo_flags)
+target_compile_options(tarvo_test_flags INTERFACE "$<$<CONFIG:Release>:-O1>")
+
 # tarvo_add_test(NAME SOURCES … [LINK …] [TIMEOUT seconds]): a QtTest program and the test that runs it.
 function(tarvo_add_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
-    target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_flags)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_test_flags)
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
     set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false"
-        XDG_CACHE_HOME=${CMAKE_BINARY_DIR}/tests/cache)
+        XDG_CACHE_HOME=${TARVO_TEST_CACHE})
     if(TARVO_SANITIZE)
         # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
         list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0

@@ -1,24 +1,28 @@
 #!/usr/bin/env bash
 # The exported constraints against the netlist of the same configuration.
-#   check-constraints.sh ORIXM1 CONFIGURATION [EXPRESSION…]
+#   check-constraints.sh ORIXM1 CONFIGURATION NETLIST [EXPRESSION…]
+# The netlist is in Verilog; "-": to be generated.
 # Every flip-flop that the netlist marks as one of a crossing is constrained, and every constraint finds its flip-flops; a mistake that
 # an EXPRESSION makes of the constraints is noticed.
 set -euo pipefail
-orixm1=$1 configuration=$(realpath "$2")
-shift 2
+orixm1=$1 configuration=$(realpath "$2") netlist=$3
+shift 3
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
 
 cp "$configuration" config.ipc
-"$orixm1" generate config.ipc --no-cache > log 2>&1 || { cat log; fail "generation"; }
+if [[ $netlist == - ]]; then
+    "$orixm1" generate config.ipc > log 2>&1 || { cat log; fail "generation"; }
+    netlist=tarvo_orix_m1.v
+fi
 "$orixm1" export config.ipc sdc --out . > log 2>&1 || { cat log; fail "export"; }
 # The cell stands behind its attribute: "TV_DFFC #(", ".INIT(…)" and so on, "\u_uart0.u_sync_rxd.meta_reg  (".
 awk '/^  \(\* async_reg = "true" \*\)$/ { marked = 1; next }
     marked && /^  wire / { marked = 0 }
     marked && /[^ ]+ +\($/ && !/#\($/ { name = $(NF - 1); sub(/^\\/, "", name); print "u_subsystem/" name; marked = 0 }
-    marked && /;$/ { marked = 0 }' tarvo_orix_m1.v | sort > marked
+    marked && /;$/ { marked = 0 }' "$netlist" | sort > marked
 [[ -s marked ]] || fail "no flip-flop of the netlist is marked"
 
 cat > reader.tcl <<'END'

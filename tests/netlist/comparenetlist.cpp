@@ -494,11 +494,10 @@ int main(int argc, char *argv[])
     write(path("config.ipc"), config);
 
     const QJsonObject made =
-        QJsonDocument::fromJson(
-            run(arguments.at(1),
-                {QStringLiteral("generate"), path("config.ipc"), QStringLiteral("--out"),
-                 path("ip"), QStringLiteral("--json"), QStringLiteral("--no-cache")},
-                folder.path()))
+        QJsonDocument::fromJson(run(arguments.at(1),
+                                    {QStringLiteral("generate"), path("config.ipc"),
+                                     QStringLiteral("--out"), path("ip"), QStringLiteral("--json")},
+                                    folder.path()))
             .object();
     const QByteArray netlist = read(path("ip/temp/tv_orix_m1/tarvo_orix_m1.vg"));
     const QByteArray vhdl = read(path("ip/tarvo_orix_m1.vhd"));

@@ -12,7 +12,7 @@ if [[ $case == generate ]]; then
         [[ $name == node ]] || config=$5
         # In VHDL, since the Verilog netlist and model come along.
         sed -e '/^LANG=/d' -e "s/^\[Config\]\$/&\nLANG=1/" "$config" > "$out/$name.ipc"
-        "$2" generate "$out/$name.ipc" --no-cache --out "$out/$name" > "$out/$name.log" 2>&1 || { cat "$out/$name.log"; exit 1; }
+        "$2" generate "$out/$name.ipc" --out "$out/$name" > "$out/$name.log" 2>&1 || { cat "$out/$name.log"; exit 1; }
         cp "$out/$name/temp/tv_orix_m1/tarvo_orix_m1.vg" "$out/$name/tarvo_orix_m1.v"
     done
     exit

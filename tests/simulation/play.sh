@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Plays the example's script of bus transfers.
-#   play.sh netlist|rtl|mistakes ORIXM1 DATA EXAMPLES
+#   play.sh netlist|rtl|mistakes ORIXM1 DATA EXAMPLES GENERATED-FOLDER
 #   netlist: on the simulation model that a run makes, compiled as the user guide says
 #   rtl: on the sources
 #   mistakes: scripts that must fail, each with its line
 set -euo pipefail
-case=$1 orixm1=$2 data=$3 examples=$4
+case=$1 orixm1=$2 data=$3 examples=$4 generated=$5
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cd "$tmp"
@@ -13,8 +13,7 @@ fail() { echo "FAILED: $*"; exit 1; }
 
 model=$data/simulation/cortex_m1_core_bfm.v
 if [[ $case == netlist ]]; then
-    "$orixm1" generate "$examples/sensor-node.ipc" --no-cache --out "$tmp" > log 2>&1 || { cat log; fail "generation"; }
-    iverilog -g2005 -Wall -DHAVE_CortexM1Core -s sensor_node_tb -o sim tarvo_orix_m1.vo "$model" "$examples/sensor-node-tb.v"
+    iverilog -g2005 -Wall -DHAVE_CortexM1Core -s sensor_node_tb -o sim "$generated/tarvo_orix_m1.vo" "$model" "$examples/sensor-node-tb.v"
 else
     "$orixm1" generate "$examples/sensor-node.ipc" --no-synth --out "$tmp" > log 2>&1 || { cat log; fail "generation"; }
     cp "$examples/sensor-node.ipc" .
