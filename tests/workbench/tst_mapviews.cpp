@@ -198,7 +198,7 @@ private Q_SLOTS:
         view.resize(width, 400);
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));
-        QVERIFY(view.widget()->height() >= 0.79 * 150 * view.fontMetrics().height() / 15);
+        QVERIFY(view.widget()->height() >= 0.69 * 150 * view.fontMetrics().height() / 15);
         const QImage image = view.widget()->grab().toImage();
         for (QAbstractButton *door : view.doors()) {
             const QRect box = door->geometry();

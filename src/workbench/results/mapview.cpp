@@ -85,7 +85,7 @@ void MapView::fit()
     const QSizeF size = m_picture.light->size();
     const qreal wanted = fontMetrics().height() / 15.0; // of the line that texts of pictures have
     const int room = width() - verticalScrollBar()->sizeHint().width();
-    const qreal scale = qBound(0.8 * wanted, room / size.width(), wanted);
+    const qreal scale = qBound(0.7 * wanted, room / size.width(), wanted);
     m_canvas->resize((size * scale).toSize());
     for (int i = 0; i < m_doors.size(); ++i) {
         const QRect &box = m_picture.doors.at(i).box;

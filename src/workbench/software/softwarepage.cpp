@@ -103,7 +103,7 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     m_parts->setObjectName(QStringLiteral("softwareParts"));
     m_parts->setAccessibleName(tr("Parts of the page"));
     m_parts->setDrawBase(false);
-    m_parts->addTab(tr("Fi&les"));
+    m_parts->addTab(tr("File&s"));
     m_parts->addTab(tr("Pro&gram"));
     m_parts->setTabToolTip(ProgramRow, tr("A program for the memory of the IP"));
     connect(m_parts, &QTabBar::currentChanged, m_stack, &QStackedWidget::setCurrentIndex);
