@@ -131,13 +131,12 @@ void savePicturesOfMaps(MainWindow &window)
     if (!all)
         return;
     auto *tabs = window.results()->findChild<QTabWidget *>(QStringLiteral("resultTabs"));
-    const auto views = window.results()->findChildren<MapView *>();
-    for (int i = 0; i < views.size(); ++i) {
-        tabs->setCurrentIndex(2 + i);
-        QAbstractButton *door = views.at(i)->doors().value(3);
+    for (const char *name : {"workbench-memorymap", "workbench-interruptmap"}) {
+        tabs->setCurrentIndex(tabs->currentIndex() < 2 ? 2 : 3);
+        QAbstractButton *door = tabs->currentWidget()->findChild<MapView *>()->doors().value(3);
         door->setFocus();
-        save(&window, i == 0 ? "workbench-memorymap" : "workbench-interruptmap", false);
-        if (i > 0)
+        save(&window, name, false);
+        if (tabs->currentIndex() == tabs->count() - 1)
             door->click();
     }
     save(&window, "workbench-door", false);
