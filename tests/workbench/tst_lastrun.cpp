@@ -4,9 +4,12 @@
 #include <workbench/project/project.h>
 #include <workbench/results/lastrun.h>
 #include <workbench/results/resultpage.h>
+#include <workbench/results/resulttables.h>
 
 #include <dev/devicedb.h>
 
+#include <QLocale>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -76,6 +79,41 @@ private Q_SLOTS:
         QCOMPARE(m_messages.index(0, 0).data().toString(), report().summary);
     }
 
+    void comparesWithTheRunBeforeOfTheSameIp()
+    {
+        const auto finish = [this](const char *ip, int luts, int carry) {
+            m_run->expect();
+            m_run->setReport(report(ip, luts, carry));
+            QVERIFY(m_run->setDelivered(m_delivered));
+        };
+        finish("lamp", 100, 5);
+        QCOMPARE(changes(*m_run), QStringList()); // there is nothing to compare with
+        finish("bell", 7, 7);
+        QCOMPARE(changes(*m_run), QStringList());
+        finish("lamp", 1112, 2);
+        QCOMPARE(changes(*m_run), (QStringList{QLatin1Char('+') + QLocale().toString(1012),
+                                               QChar(0x2212) + QStringLiteral("3")}));
+        QCOMPARE(
+            changes(*m_run, Qt::AccessibleDescriptionRole),
+            (QStringList{QLocale().toString(1012) + QLatin1String(" more than in the run before"),
+                         QStringLiteral("3 fewer than in the run before")}));
+        // A look at it after a restart changes nothing.
+        for (int i = 0; i < 2; ++i) {
+            m_run = make();
+            m_run->setProject(m_project.get());
+            QString error;
+            QVERIFY2(m_run->prepare(&error), qPrintable(error));
+            QCOMPARE(changes(*m_run).last(), QChar(0x2212) + QStringLiteral("3"));
+        }
+        finish("lamp", 1112, 2);
+        QCOMPARE(changes(*m_run), (QStringList{QStringLiteral("="), QStringLiteral("=")}));
+        QCOMPARE(changes(*m_run, Qt::AccessibleDescriptionRole).first(),
+                 QStringLiteral("As many as in the run before"));
+        finish("bell", 6, 7);
+        QCOMPARE(changes(*m_run),
+                 (QStringList{QChar(0x2212) + QStringLiteral("1"), QStringLiteral("=")}));
+    }
+
     void isForgottenWithItsProject()
     {
         m_run->setReport(report());
@@ -86,9 +124,25 @@ private Q_SLOTS:
     }
 
 private:
-    static Synthesis::RunReport report()
+    // What the column of the table says that compares; empty: there is none.
+    static QStringList changes(LastRun &run, int role = Qt::DisplayRole)
+    {
+        const auto *table = run.page()->findChild<QTableView *>(QStringLiteral("resourceTable"));
+        const QAbstractItemModel *model = table->model();
+        QStringList texts;
+        for (int row = 0; row < model->rowCount(); ++row) {
+            if (model->columnCount() > ResourceModel::Change)
+                texts.append(model->index(row, ResourceModel::Change).data(role).toString());
+        }
+        return texts;
+    }
+
+    static Synthesis::RunReport report(const char *ip = "", int luts = 0, int carry = 0)
     {
         Synthesis::RunReport report;
+        report.job.targetName = QLatin1String(ip);
+        report.resources = {{QStringLiteral("LUT4"), luts, 20000},
+                            {QStringLiteral("Carry"), carry, -1}};
         report.summary = QStringLiteral("All is made.");
         report.exitCode = 0;
         return report;

@@ -8,8 +8,8 @@
 #include <workbench/software/softwaremodel.h>
 #include <workbench/software/softwarepage.h>
 #include <workbench/software/softwareset.h>
-#include <workbench/software/vectorpicture.h>
 #include <workbench/widgets/infobar.h>
+#include <workbench/widgets/vectorpicture.h>
 
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
@@ -531,7 +531,7 @@ private Q_SLOTS:
     {
         SoftwarePage *page = open();
         m_bench->window->resize(1280, 800);
-        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Software of lamp")));
+        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Hand-off of lamp")));
         const SoftwareModel *model = page->model();
         QCOMPARE(model->formats().size(), 3);
         QCOMPARE(model->files().size(), 3);
@@ -852,7 +852,7 @@ private Q_SLOTS:
     void theActionLeadsToThePageOfTheSelectedIp()
     {
         m_bench = std::make_unique<Bench>("exporting");
-        QAction *action = m_bench->action("Software");
+        QAction *action = m_bench->action("Hand-off");
         QVERIFY(!action->isEnabled());
         m_bench->window->openProject(m_bench->makeProject("TV5K-138B-PBGA484-C1/I0"));
         writeLamps(7, "TV5K-138B-PBGA484-C1/I0");
@@ -863,7 +863,7 @@ private Q_SLOTS:
         QVERIFY(action->isEnabled());
         QVERIFY(tree->actions().contains(action));
         action->trigger();
-        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Software of lamp")));
+        QCOMPARE(m_bench->tabTexts(), QStringList(QStringLiteral("Hand-off of lamp")));
         action->trigger();
         QCOMPARE(m_bench->tabTexts().size(), 1);
         QVERIFY(m_bench->window->closeProject());

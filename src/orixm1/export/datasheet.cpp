@@ -75,14 +75,33 @@ QString effects(const RegisterField &field)
     return texts.join("; "_l1);
 }
 
+// Of the ports of a block, or of a bus of it that is led out.
+QString portHeading(const QString &block, const QString &bus)
+{
+    const QString name = block.isEmpty() ? QStringLiteral("Others") : block;
+    return bus.isEmpty() ? name : name + ", bus "_l1 + bus;
+}
+
+// Of the first port whose name begins so; empty if there is none.
+QStringList placeOfPorts(const SystemMap &map, const QString &beginning)
+{
+    const auto port =
+        std::find_if(map.ports.begin(), map.ports.end(), [&beginning](const Port &candidate) {
+            return candidate.name.startsWith(beginning);
+        });
+    if (beginning.isEmpty() || port == map.ports.end())
+        return {};
+    return {DatasheetChapter::ports, portHeading(port->block, port->bus)};
+}
+
 class Datasheet
 {
 public:
     explicit Datasheet(const SystemMap &map)
         : m_map(map)
         , m_blocks(blockPicture(map))
-        , m_memory(memoryPicture(map))
-        , m_interrupts(interruptPicture(map))
+        , m_memory(memoryPicture(map).picture)
+        , m_interrupts(interruptPicture(map).picture)
     {
         addSummary();
         addBlocks();
@@ -200,7 +219,7 @@ private:
 
     void addMemory()
     {
-        heading(2, QStringLiteral("Memory map"));
+        heading(2, DatasheetChapter::memory);
         m_parts.append(m_memory);
         paragraph("What lies in no region gives an error response, except for the processor's own "
                   "registers from "_l1 +
@@ -223,7 +242,7 @@ private:
 
     void addInterrupts()
     {
-        heading(2, QStringLiteral("Interrupts"));
+        heading(2, DatasheetChapter::interrupts);
         m_parts.append(m_interrupts);
         const int inputs = m_map.processor.interruptInputs;
         paragraph("The processor has "_l1 + QString::number(inputs) +
@@ -245,7 +264,7 @@ private:
 
     void addPorts()
     {
-        heading(2, QStringLiteral("Ports"));
+        heading(2, DatasheetChapter::ports);
         if (m_map.ports.isEmpty()) {
             paragraph(QStringLiteral("The ports of the top module are not known."));
             return;
@@ -269,8 +288,7 @@ private:
             group->ports.append(&port);
         }
         for (const Group &group : qAsConst(groups)) {
-            const QString block = group.block.isEmpty() ? QStringLiteral("Others") : group.block;
-            heading(3, group.bus.isEmpty() ? block : block + ", bus "_l1 + group.bus);
+            heading(3, portHeading(group.block, group.bus));
             m_parts.append(portTable(group.ports, !group.bus.isEmpty()));
         }
     }
@@ -327,7 +345,7 @@ private:
 
     void addRegisters()
     {
-        heading(2, QStringLiteral("Registers"));
+        heading(2, DatasheetChapter::registers);
         if (m_map.peripherals.isEmpty()) {
             paragraph(QStringLiteral("This configuration has no block with described registers."));
             return;
@@ -411,7 +429,7 @@ private:
 
     void addBlackBoxes()
     {
-        heading(2, QStringLiteral("Black boxes"));
+        heading(2, DatasheetChapter::blackBoxes);
         paragraph(QStringLiteral(
             "The netlist holds a black box as a name with pins. Its contents are added later, its "
             "supplier describes its registers, and no figure of resources counts it."));
@@ -497,12 +515,36 @@ QVector<ExportedFile> datasheetFiles(const SystemMap &map)
     const Datasheet datasheet(map);
     QVector<ExportedFile> files = {
         {QStringLiteral("datasheet/tarvo_orix_m1.md"), markdownOf(datasheet.parts())},
-        {QStringLiteral("datasheet/tarvo_orix_m1.html"),
-         htmlOf(datasheet.parts(), DatasheetStyle::Screen)}};
+        {datasheetPage, htmlOf(datasheet.parts(), DatasheetStyle::Screen)}};
     const QVector<Picture> pictures = datasheet.pictures();
     for (const Picture &picture : pictures)
         files.append({"datasheet/"_l1 + picture.file, picture.svg});
     return files;
+}
+
+QStringList datasheetPlaceOf(const SystemMap &map, const Region &region)
+{
+    // The registers beside a window are those of what it looks into.
+    for (const Peripheral &peripheral : map.peripherals) {
+        for (const PeripheralInstance &instance : peripheral.instances) {
+            if (instance.name == region.name ||
+                (region.kind == RegionKind::ReadWindow && instance.option == region.option))
+                return {DatasheetChapter::registers, peripheral.name};
+        }
+    }
+    if (std::any_of(map.blackBoxes.begin(), map.blackBoxes.end(),
+                    [&region](const BlackBox &box) { return box.region == region.name; }))
+        return {DatasheetChapter::blackBoxes};
+    const QStringList ports = placeOfPorts(map, region.ports);
+    return ports.isEmpty() ? QStringList(DatasheetChapter::memory) : ports;
+}
+
+QStringList datasheetPlaceOf(const SystemMap &map, const InterruptLine &line)
+{
+    if (const Region *region = findRegion(map, line.source))
+        return datasheetPlaceOf(map, *region);
+    const QStringList ports = placeOfPorts(map, line.source);
+    return ports.isEmpty() ? QStringList(DatasheetChapter::interrupts) : ports;
 }
 
 QByteArray datasheetHtml(const SystemMap &map, DatasheetStyle style)

@@ -3,7 +3,6 @@
 #include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionvalue.h"
-#include "drawing.h"
 #include "registers/registerdocs.h"
 
 #include <algorithm>
@@ -398,7 +397,7 @@ Picture blockPicture(const SystemMap &map)
     return BlockDrawing(map).draw();
 }
 
-Picture memoryPicture(const SystemMap &map)
+PlacedPicture memoryPicture(const SystemMap &map, const PictureStyle &style)
 {
     struct Line {
         quint32 base;
@@ -406,11 +405,12 @@ Picture memoryPicture(const SystemMap &map)
         QString name; // empty: nothing answers
         QString kind;
         Ink ink;
+        bool isRegion = false;
     };
     QVector<Line> lines;
     for (const Region &region : map.regions)
         lines.append({region.base, region.size(), region.name, shortKindName(region.kind),
-                      inkOf(region.kind)});
+                      inkOf(region.kind), true});
     lines.append({ownRegistersBase, quint64(ownRegistersLast) - ownRegistersBase + 1,
                   QStringLiteral("Cortex-M1"), QStringLiteral("its own"), Ink::On});
     std::sort(lines.begin(), lines.end(),
@@ -441,9 +441,10 @@ Picture memoryPicture(const SystemMap &map)
     const int addressWidth = textWidth(hexAddress(0), fixedDetail);
     const int boxWidth = nameWidth + kindWidth + 3 * inset;
     const int columnWidth = addressWidth + inset + boxWidth + inset + sizeWidth;
-    const int rows = columnHeight(lines.size());
+    const int rows = style.isOneColumn ? lines.size() : columnHeight(lines.size());
     const int columns = lines.size() > rows ? 2 : 1;
-    Drawing drawing(QStringLiteral("Memory map"));
+    QVector<Place> places;
+    Drawing drawing(QStringLiteral("Memory map"), style.paper);
     for (int i = 0; i < lines.size(); ++i) {
         const Line &line = lines.at(i);
         const int x = margin + (i / rows) * (columnWidth + 24);
@@ -451,7 +452,10 @@ Picture memoryPicture(const SystemMap &map)
         const int boxLeft = x + addressWidth + inset;
         drawing.text(x, y + 17, hexAddress(line.base), fixedDetail);
         if (!line.name.isEmpty()) {
-            drawing.box(boxLeft, y + 1, boxWidth, lineHeight - 2, line.ink);
+            const QRect box(boxLeft, y + 1, boxWidth, lineHeight - 2);
+            drawing.box(box.x(), box.y(), box.width(), box.height(), line.ink);
+            if (line.isRegion)
+                places.append({line.name, box});
             drawing.text(boxLeft + inset, y + 17, line.name, fixedName);
             drawing.text(boxLeft + boxWidth - inset, y + 17, line.kind,
                          {11, false, false, Ink::Text}, Anchor::End);
@@ -466,14 +470,15 @@ Picture memoryPicture(const SystemMap &map)
     drawing.text(lastX, lastY + 17, hexAddress(0xFFFFFFFF), fixedDetail);
     drawing.text(lastX + addressWidth + 2 * inset, lastY + 17, QStringLiteral("the last address"),
                  detail);
-    return picture(QStringLiteral("memory"),
-                   QStringLiteral("Memory map: what answers at each address, in order; sizes are "
-                                  "not to scale"),
-                   drawing, 2 * margin + columns * columnWidth + (columns - 1) * 24,
-                   margin + (rows + 1) * lineHeight + margin);
+    return {picture(QStringLiteral("memory"),
+                    QStringLiteral("Memory map: what answers at each address, in order; sizes are "
+                                   "not to scale"),
+                    drawing, 2 * margin + columns * columnWidth + (columns - 1) * 24,
+                    margin + (rows + 1) * lineHeight + margin),
+            places};
 }
 
-Picture interruptPicture(const SystemMap &map)
+PlacedPicture interruptPicture(const SystemMap &map, const PictureStyle &style)
 {
     // A number that no processor has would be a picture that nobody can look at.
     const int inputs = std::min(map.processor.interruptInputs, mostInputs);
@@ -494,10 +499,11 @@ Picture interruptPicture(const SystemMap &map)
     const int boxWidth = nameWidth + 16;
     const int columnWidth = boxWidth + arrow + input;
     const int total = numbers.size();
-    const int rows = total > 18 ? (total + 1) / 2 : total;
+    const int rows = total > 18 && !style.isOneColumn ? (total + 1) / 2 : total;
     const int columns = total > rows ? 2 : 1;
     constexpr int top = margin + 22;
-    Drawing drawing(QStringLiteral("Interrupts"));
+    QVector<Place> places;
+    Drawing drawing(QStringLiteral("Interrupts"), style.paper);
     for (int column = 0; column < columns; ++column) {
         const int x = margin + column * (columnWidth + 36);
         drawing.text(x, margin + 10, QStringLiteral("requested by"), detail);
@@ -527,8 +533,10 @@ Picture interruptPicture(const SystemMap &map)
             drawing.text(x + 8, y + 17, QStringLiteral("not connected"), detail);
             continue;
         }
-        drawing.box(x, y + 2, boxWidth, lineHeight - 4, Ink::Registers,
+        const QRect box(x, y + 2, boxWidth, lineHeight - 4);
+        drawing.box(box.x(), box.y(), box.width(), box.height(), Ink::Registers,
                     isLost ? Ink::Lost : Ink::Line);
+        places.append({line->name, box});
         drawing.text(x + 8, y + 17, line->name, fixedName);
         const int boxRight = x + boxWidth;
         if (isLost) {
@@ -542,11 +550,12 @@ Picture interruptPicture(const SystemMap &map)
             drawing.tip(inputLeft, middle, boxRight, middle);
         }
     }
-    return picture(QStringLiteral("interrupts"),
-                   QStringLiteral("Interrupt map: what requests at each input of the processor, "
-                                  "and what is lost"),
-                   drawing, 2 * margin + columns * columnWidth + (columns - 1) * 36,
-                   top + rows * lineHeight + margin);
+    return {picture(QStringLiteral("interrupts"),
+                    QStringLiteral("Interrupt map: what requests at each input of the processor, "
+                                   "and what is lost"),
+                    drawing, 2 * margin + columns * columnWidth + (columns - 1) * 36,
+                    top + rows * lineHeight + margin),
+            places};
 }
 
 } // namespace TARVOORIXM1

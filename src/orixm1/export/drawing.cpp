@@ -47,13 +47,6 @@ QString number(int value)
     return QString::number(value);
 }
 
-// ` fill="#ffffff" class="fill-page"` and the like; `attribute` is "fill" or "stroke".
-QString paint(QLatin1String attribute, Ink ink)
-{
-    QString text = u' ' + attribute + "=\""_l1 + row(ink).light + u'"';
-    return text;
-}
-
 QString classes(Ink fill, Ink stroke)
 {
     QStringList names;
@@ -124,9 +117,19 @@ QStringList wrapped(const QString &text, const Letters &letters, int width)
     return lines;
 }
 
-Drawing::Drawing(const QString &title)
+Drawing::Drawing(const QString &title, Paper paper)
     : m_title(escapedXml(title))
+    , m_paper(paper)
 {
+}
+
+// ` fill="#ffffff"` and the like; `attribute` is "fill" or "stroke".
+QString Drawing::paint(QLatin1String attribute, Ink ink) const
+{
+    const InkRow &colours = row(ink);
+    QString text = u' ' + attribute + "=\""_l1 +
+                   (m_paper == Paper::Dark ? colours.dark : colours.light) + u'"';
+    return text;
 }
 
 void Drawing::box(int x, int y, int width, int height, Ink fill, Ink edge, bool isDashed)
@@ -181,14 +184,17 @@ QByteArray Drawing::svg(int width, int height) const
                    number(width) + u' ' + number(height) +
                    "\" font-family=\"'DejaVu Sans', Verdana, Arial, sans-serif\" role=\"img\">\n"
                    "<title>"_l1 +
-                   m_title +
-                   "</title>\n<style>\n@media screen and (prefers-color-scheme: dark) {\n"_l1;
-    for (const InkRow &ink : inkRows) {
-        if (ink.ink != Ink::Nothing)
-            text += ".f-"_l1 + ink.name + " { fill: "_l1 + ink.dark + "; } .s-"_l1 + ink.name +
-                    " { stroke: "_l1 + ink.dark + "; }\n"_l1;
+                   m_title + "</title>\n"_l1;
+    if (m_paper == Paper::Light) {
+        text += "<style>\n@media screen and (prefers-color-scheme: dark) {\n"_l1;
+        for (const InkRow &ink : inkRows) {
+            if (ink.ink != Ink::Nothing)
+                text += ".f-"_l1 + ink.name + " { fill: "_l1 + ink.dark + "; } .s-"_l1 + ink.name +
+                        " { stroke: "_l1 + ink.dark + "; }\n"_l1;
+        }
+        text += "}\n</style>\n"_l1;
     }
-    text += "}\n</style>\n<rect x=\"0\" y=\"0\" width=\""_l1 + number(width) + "\" height=\""_l1 +
+    text += "<rect x=\"0\" y=\"0\" width=\""_l1 + number(width) + "\" height=\""_l1 +
             number(height) + u'"' + paint("fill"_l1, Ink::Page) + classes(Ink::Page, Ink::Nothing) +
             "/>\n"_l1 + m_out + "</svg>\n"_l1;
     return text.toUtf8();

@@ -37,6 +37,12 @@ struct Letters {
 
 enum class Anchor { Start, Middle, End };
 
+// What a drawing lies on.
+enum class Paper {
+    Light, // and, where style sheets are understood, dark as the reader likes it
+    Dark,
+};
+
 // How wide a text is at most, in pixels: by the widest of the faces that a drawing asks for.
 int textWidth(const QString &text, const Letters &letters);
 
@@ -48,7 +54,7 @@ QStringList wrapped(const QString &text, const Letters &letters, int width);
 class Drawing
 {
 public:
-    explicit Drawing(const QString &title);
+    explicit Drawing(const QString &title, Paper paper = Paper::Light);
 
     void box(int x, int y, int width, int height, Ink fill, Ink edge = Ink::Line,
              bool isDashed = false);
@@ -62,7 +68,10 @@ public:
     QByteArray svg(int width, int height) const;
 
 private:
+    QString paint(QLatin1String attribute, Ink ink) const;
+
     QString m_title; // escaped
+    Paper m_paper;
     QString m_out;
 };
 

@@ -2,6 +2,7 @@
 
 #include "exportsoftware.h"
 #include "firmware.h"
+#include "maps.h"
 #include "movetodevice.h"
 #include "simulationcommand.h"
 #include "tarvoorixm1.h"
@@ -74,6 +75,12 @@ QVariantMap TarvoOrixM1Package::simulationCommand(const QString &ipcFile) const
 QVariantList TarvoOrixM1Package::simulationExamples() const
 {
     return TARVOORIXM1::simulationExamples(dataPath());
+}
+
+QVariantMap TarvoOrixM1Package::maps(const QString &ipcFile) const
+{
+    return TARVOORIXM1::maps(ipcFile, idOf(dataPath()), dataPath(),
+                             *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -43,6 +43,10 @@ public:
     // written.
     Q_INVOKABLE QVariantMap simulationCommand(const QString &ipcFile) const;
     Q_INVOKABLE QVariantList simulationExamples() const;
+
+    // For hosts that ask for it by name: pictures of a configured subsystem whose places lead into
+    // the files of exportSoftware(); see maps.h. Nothing is written.
+    Q_INVOKABLE QVariantMap maps(const QString &ipcFile) const;
 };
 
 } // namespace TARVOORIXM1

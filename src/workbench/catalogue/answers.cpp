@@ -1,5 +1,9 @@
 #include "answers.h"
 
+#include "tr.h"
+
+#include <QStringList>
+
 #include <algorithm>
 
 namespace Workbench::Answers
@@ -22,6 +26,20 @@ bool takeText(const QVariantMap &map, const QString &key, QString *text)
         return false;
     *text = value.toString();
     return text->size() <= textLimit && isPlain(*text);
+}
+
+QString pathMistake(const QString &path)
+{
+    if (path.isEmpty() || path.toUtf8().size() > 1000)
+        return Tr::tr("it is empty or too long");
+    if (!isPlain(path) || path.contains(u'\\') || path.contains(u':'))
+        return Tr::tr("it has characters that no path may have");
+    const QStringList names = path.split(u'/');
+    for (const QString &name : names) {
+        if (name.isEmpty() || name.startsWith(u'.') || name.toUtf8().size() > 200)
+            return Tr::tr("it does not name a file below a folder");
+    }
+    return {};
 }
 
 QString shown(const QString &text)

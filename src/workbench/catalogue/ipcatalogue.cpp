@@ -35,6 +35,7 @@ constexpr const char *programMethod = "firmwareFiles(QString,QByteArray)";
 constexpr const char *startMethod = "startFromFirmware(QString,QString,bool)";
 constexpr const char *simulateMethod = "simulationCommand(QString)";
 constexpr const char *examplesMethod = "simulationExamples()";
+constexpr const char *mapsMethod = "maps(QString)";
 constexpr int probesAtOnce = 4;
 
 // By library; {"stamp", "reason"}.
@@ -370,7 +371,7 @@ bool IpCatalogue::softwareFormats(int index, QVariantList *answer, QString *erro
             return QMetaObject::invokeMethod(root, "softwareFormats", Qt::DirectConnection,
                                              Q_RETURN_ARG(QVariantList, *answer));
         },
-        Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name), error);
+        Tr::tr("The plug-in of %1 hands on nothing.").arg(core.name), error);
 }
 
 bool IpCatalogue::exportSoftware(int index, const QString &ipcFile, const QStringList &formats,
@@ -384,7 +385,7 @@ bool IpCatalogue::exportSoftware(int index, const QString &ipcFile, const QStrin
                                              Q_RETURN_ARG(QVariantMap, *answer),
                                              Q_ARG(QString, ipcFile), Q_ARG(QStringList, formats));
         },
-        Tr::tr("The plug-in of %1 hands on nothing to software.").arg(core.name), error);
+        Tr::tr("The plug-in of %1 hands on nothing.").arg(core.name), error);
 }
 
 bool IpCatalogue::canTakePrograms(int index) const
@@ -457,6 +458,24 @@ QVariantList IpCatalogue::simulationExamples(int index) const
             {}, &ignored))
         return {};
     return answer;
+}
+
+bool IpCatalogue::canDrawMaps(int index) const
+{
+    return returns(m_cores.at(size_t(index)).root, mapsMethod, QMetaType::QVariantMap);
+}
+
+bool IpCatalogue::maps(int index, const QString &ipcFile, QVariantMap *answer, QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    return ask(
+        core, canDrawMaps(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(root, "maps", Qt::DirectConnection,
+                                             Q_RETURN_ARG(QVariantMap, *answer),
+                                             Q_ARG(QString, ipcFile));
+        },
+        Tr::tr("The plug-in of %1 has no maps.").arg(core.name), error);
 }
 
 bool IpCatalogue::ask(const Core &core, bool isOffered, const std::function<bool(QObject *)> &call,

@@ -81,7 +81,7 @@ public:
     bool moveToDevice(int index, const QString &ipcFile, const QString &deviceId, bool write,
                       Move *move, QString *error);
 
-    // Whether the plug-in hands on what it has configured to software: its root object has the
+    // Whether the plug-in hands on what it has configured: its root object has the
     // invokables QVariantList softwareFormats() const and QVariantMap exportSoftware(const QString
     // &ipcFile, const QStringList &formats) const.
     bool canExport(int index) const;
@@ -109,6 +109,13 @@ public:
     // What the invokable QVariantList simulationExamples() const of a plug-in that can answers;
     // empty if it is not there or throws.
     QVariantList simulationExamples(int index) const;
+
+    // Whether the plug-in has pictures of what it configures, with places that lead into the files
+    // of exportSoftware(): its root object has the invokable QVariantMap maps(const QString
+    // &ipcFile) const.
+    bool canDrawMaps(int index) const;
+    // As above.
+    bool maps(int index, const QString &ipcFile, QVariantMap *answer, QString *error) const;
 
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
     // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,

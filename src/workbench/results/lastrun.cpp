@@ -28,6 +28,7 @@ void LastRun::setProject(Project *project)
         m_page->deleteLater(); // its button may be what closes the project
     m_page = nullptr;
     m_report.reset();
+    m_earlier = {};
     m_project = project;
     m_isKept = project && m_store.has(project->file());
 }
@@ -43,6 +44,8 @@ ResultPage *LastRun::page()
         m_page = new ResultPage(m_window);
         m_page->hide();
         connect(m_page, &ResultPage::openRequested, this, &LastRun::openRequested);
+        connect(m_page, &ResultPage::doorOpened, this,
+                [this](const MapDoor &door) { Q_EMIT doorOpened(m_page->configuration(), door); });
         connect(m_page, &ResultPage::removalRequested, this, [this](const QStringList &files) {
             if (m_project)
                 m_project->removeFiles(files);
@@ -59,15 +62,38 @@ bool LastRun::prepare(QString *error)
     if (!m_store.load(m_project ? m_project->file() : QString(), &run, error))
         return false;
     m_messages.setReport(run.report);
-    page()->setReport(run.report);
-    page()->setDelivered(run.delivered, sources());
-    page()->showAge(run.when, run.changedFiles());
+    const QStringList changed = run.changedFiles();
+    page()->setReport(run.report, run.before);
+    showDelivered(run.delivered, changed);
+    page()->showAge(run.when, changed);
     return true;
+}
+
+void LastRun::showDelivered(const QStringList &files, const QStringList &changed)
+{
+    page()->setDelivered(files, sources());
+    const QString ipcFile = page()->configuration();
+    if (ipcFile.isEmpty() || !m_mapSource) {
+        page()->setMaps({});
+        return;
+    }
+    const Utils::Result<QVector<MapPicture>> maps = m_mapSource(ipcFile);
+    if (!maps)
+        m_messages.append(MessageModel::Warning, maps.reason(), ipcFile);
+    page()->setMaps(maps ? *maps : QVector<MapPicture>(),
+                    changed.contains(ipcFile)
+                        ? tr("The configuration has changed since the run; this is how it is now.")
+                        : QString());
 }
 
 void LastRun::setReport(const Synthesis::RunReport &report)
 {
-    page()->setReport(report);
+    KeptRun earlier;
+    if (m_project && m_store.has(m_project->file()) &&
+        m_store.load(m_project->file(), &earlier, nullptr))
+        m_earlier = earlier;
+    page()->setReport(report, m_earlier.figures.value(RunStore::ipOf(report)));
+    page()->setMaps({});
     m_report = std::make_unique<Synthesis::RunReport>(report);
     m_isNew = true;
     Q_EMIT changed();
@@ -78,7 +104,7 @@ bool LastRun::setDelivered(const QStringList &files)
     if (!m_isNew)
         return false;
     m_isNew = false;
-    page()->setDelivered(files, sources());
+    showDelivered(files);
     keep(files);
     return true;
 }
@@ -87,8 +113,14 @@ void LastRun::keep(const QStringList &delivered)
 {
     if (!m_report || !m_project)
         return;
+    KeptRun run = KeptRun::of(*m_report, delivered);
+    const QString ip = RunStore::ipOf(*m_report);
+    run.figures = m_earlier.figures;
+    run.before = run.figures.value(ip);
+    for (const Synthesis::ResourceUse &use : m_report->resources)
+        run.figures[ip].insert(use.resource, use.used);
     QString error;
-    if (!m_store.keep(m_project->file(), KeptRun::of(*m_report, delivered), &error))
+    if (!m_store.keep(m_project->file(), run, &error))
         m_messages.append(MessageModel::Warning,
                           tr("The results cannot be shown after a restart. %1").arg(error));
 }

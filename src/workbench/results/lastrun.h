@@ -1,10 +1,14 @@
 #pragma once
 
+#include "mappicture.h"
 #include "runstore.h"
+
+#include <utils/result.h>
 
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 namespace Workbench
@@ -23,6 +27,9 @@ public:
     // Both must outlive this. The messages are those of a run from before that is shown.
     LastRun(MessageModel &messages, QWidget *window);
 
+    // Gives the maps of a configuration; a failure is a sentence.
+    using MapSource = std::function<Utils::Result<QVector<MapPicture>>(const QString &ipcFile)>;
+    void setMapSource(const MapSource &source) { m_mapSource = source; }
     // Where runs are kept; the user's cache at first.
     void setStore(const RunStore &store);
     // Forgets what is of another project; null: none is open.
@@ -42,16 +49,22 @@ public:
 
 Q_SIGNALS:
     void openRequested(const QString &path);
+    // A place of a map of the configuration is to be opened.
+    void doorOpened(const QString &ipcFile, const Workbench::MapDoor &door);
     // Whether it is there has changed.
     void changed();
 
 private:
     QStringList sources() const;
+    // `changed`: files that are no longer as the run left them.
+    void showDelivered(const QStringList &files, const QStringList &changed = {});
 
     MessageModel &m_messages;
     QWidget *m_window;
     QPointer<Project> m_project;
     RunStore m_store;
+    MapSource m_mapSource;
+    KeptRun m_earlier; // of which `figures` count, as before m_report
     ResultPage *m_page = nullptr;
     std::unique_ptr<Synthesis::RunReport> m_report; // since the start
     bool m_isKept = false;                          // from before the start

@@ -1,5 +1,6 @@
 #include "resultpage.h"
 
+#include "mapview.h"
 #include "resulttables.h"
 #include "widgets/focusforward.h"
 #include "widgets/infobar.h"
@@ -127,9 +128,8 @@ ResultPage::ResultPage(QWidget *parent)
     m_change->setToolTip(tr("Opens its dialog again; OK there generates it anew"));
     m_change->hide();
     connect(m_change, &QPushButton::clicked, this, [this] {
-        const auto ipc = std::find_if(m_delivered.cbegin(), m_delivered.cend(), isConfiguration);
-        if (ipc != m_delivered.cend())
-            Q_EMIT openRequested(*ipc);
+        if (!configuration().isEmpty())
+            Q_EMIT openRequested(configuration());
     });
     auto *top = new QHBoxLayout;
     top->addWidget(m_heading, 1);
@@ -143,7 +143,7 @@ ResultPage::ResultPage(QWidget *parent)
     forwardFocus(this, m_files);
 }
 
-void ResultPage::setReport(const Synthesis::RunReport &report)
+void ResultPage::setReport(const Synthesis::RunReport &report, const QMap<QString, int> &before)
 {
     const QString name =
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
@@ -160,7 +160,7 @@ void ResultPage::setReport(const Synthesis::RunReport &report)
     fitFigure();
     m_left->setTabText(0, tr("Ports (%1)").arg(report.ports.size()));
     m_left->setTabText(1, tr("Primitives (%1 kinds)").arg(report.cells.size()));
-    m_resources->setResources(report.resources);
+    m_resources->setResources(report.resources, before);
     m_cells->setCells(report.cells);
     m_made = report.files;
     if (!report.logFile.isEmpty())
@@ -195,10 +195,42 @@ void ResultPage::fitFigure()
 void ResultPage::setDelivered(const QStringList &files, const QStringList &sources)
 {
     m_delivered = files;
-    m_change->setVisible(std::any_of(files.begin(), files.end(), isConfiguration));
+    m_change->setVisible(!configuration().isEmpty());
     m_superseded = superseded(files, m_language);
     showLeftOvers(sources);
     showFiles();
+}
+
+QString ResultPage::configuration() const
+{
+    const auto ipc = std::find_if(m_delivered.cbegin(), m_delivered.cend(), isConfiguration);
+    return ipc == m_delivered.cend() ? QString() : *ipc;
+}
+
+void ResultPage::setMaps(const QVector<MapPicture> &maps, const QString &remark)
+{
+    for (QWidget *tab : qAsConst(m_maps)) {
+        m_left->removeTab(m_left->indexOf(tab));
+        tab->deleteLater(); // a door of it may be what asks
+    }
+    m_maps.clear();
+    for (const MapPicture &map : maps) {
+        auto *tab = new QWidget;
+        auto *about = new QLabel(remark.isEmpty() ? map.text : map.text + u'\n' + remark);
+        about->setObjectName(QStringLiteral("mapAbout"));
+        about->setTextFormat(Qt::PlainText);
+        about->setWordWrap(true);
+        about->setContentsMargins(4, 4, 4, 0);
+        auto *view = new MapView(map);
+        connect(view, &MapView::doorOpened, this, &ResultPage::doorOpened);
+        auto *layout = new QVBoxLayout(tab);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(about);
+        layout->addWidget(view, 1);
+        forwardFocus(tab, view);
+        m_left->addTab(tab, QString(map.title).replace(u'&', QLatin1String("&&")));
+        m_maps.append(tab);
+    }
 }
 
 void ResultPage::showLeftOvers(const QStringList &sources)

@@ -22,9 +22,11 @@ ResourceModel::ResourceModel(QObject *parent)
 {
 }
 
-void ResourceModel::setResources(const QList<Synthesis::ResourceUse> &resources)
+void ResourceModel::setResources(const QList<Synthesis::ResourceUse> &resources,
+                                 const QMap<QString, int> &before)
 {
     beginResetModel();
+    m_before = before;
     m_resources = resources;
     endResetModel();
 }
@@ -36,7 +38,35 @@ int ResourceModel::rowCount(const QModelIndex &parent) const
 
 int ResourceModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : ColumnCount;
+    if (parent.isValid())
+        return 0;
+    return m_before.isEmpty() ? int(Change) : int(ColumnCount);
+}
+
+// The sign is seen beside the number, not by a colour.
+QVariant ResourceModel::changeData(const Synthesis::ResourceUse &use, int role) const
+{
+    const auto before = m_before.constFind(use.resource);
+    const int change = before == m_before.constEnd() ? 0 : use.used - *before;
+    const QString number = QLocale().toString(qAbs(change));
+    switch (role) {
+    case Qt::DisplayRole:
+        if (before == m_before.constEnd())
+            return tr("not known");
+        if (change == 0)
+            return QStringLiteral("=");
+        return QString(QChar(change > 0 ? u'+' : u'\u2212') + number);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+    case Qt::AccessibleDescriptionRole:
+        if (before == m_before.constEnd())
+            return tr("The run before did not tell this.");
+        return change == 0  ? tr("As many as in the run before")
+               : change > 0 ? tr("%1 more than in the run before").arg(number)
+                            : tr("%1 fewer than in the run before").arg(number);
+    default:
+        return {};
+    }
 }
 
 QVariant ResourceModel::data(const QModelIndex &index, int role) const
@@ -46,6 +76,8 @@ QVariant ResourceModel::data(const QModelIndex &index, int role) const
     const Synthesis::ResourceUse &use = m_resources.at(index.row());
     if (role == Qt::TextAlignmentRole)
         return alignment(index.column() != Resource);
+    if (index.column() == Change)
+        return changeData(use, role);
     if (role == Qt::DecorationRole && index.column() == Resource && use.exceeds())
         return symbolIcon(QStringLiteral("warning"));
     if (role == Qt::ToolTipRole) {
@@ -83,8 +115,10 @@ QVariant ResourceModel::headerData(int section, Qt::Orientation orientation, int
         return tr("Used");
     case Available:
         return tr("In the device");
-    default:
+    case Percent:
         return tr("Share");
+    default:
+        return tr("Change");
     }
 }
 

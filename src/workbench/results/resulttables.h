@@ -4,6 +4,7 @@
 #include <utils/pinfigure.h>
 
 #include <QAbstractTableModel>
+#include <QMap>
 
 namespace Workbench
 {
@@ -14,10 +15,12 @@ class ResourceModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Resource, Used, Available, Percent, ColumnCount };
+    enum Column { Resource, Used, Available, Percent, Change, ColumnCount };
 
     explicit ResourceModel(QObject *parent = nullptr);
-    void setResources(const QList<Synthesis::ResourceUse> &resources);
+    // `before`: what each was used in the run before; without one there is no column for changes.
+    void setResources(const QList<Synthesis::ResourceUse> &resources,
+                      const QMap<QString, int> &before = {});
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -26,7 +29,10 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    QVariant changeData(const Synthesis::ResourceUse &use, int role) const;
+
     QList<Synthesis::ResourceUse> m_resources;
+    QMap<QString, int> m_before;
 };
 
 // The cells of the netlist with their counts; black boxes say that they are.

@@ -34,6 +34,22 @@ QByteArray digestOf(const QString &path)
     return hash.result();
 }
 
+QJsonObject jsonOf(const QMap<QString, int> &figures)
+{
+    QJsonObject object;
+    for (auto it = figures.begin(); it != figures.end(); ++it)
+        object.insert(it.key(), it.value());
+    return object;
+}
+
+QMap<QString, int> figuresOf(const QJsonObject &object)
+{
+    QMap<QString, int> figures;
+    for (auto it = object.begin(); it != object.end(); ++it)
+        figures.insert(it.key(), it.value().toInt());
+    return figures;
+}
+
 } // namespace
 
 KeptRun KeptRun::of(const Synthesis::RunReport &report, const QStringList &delivered)
@@ -64,6 +80,11 @@ RunStore::RunStore(const QString &folder)
 {
 }
 
+QString RunStore::ipOf(const Synthesis::RunReport &report)
+{
+    return report.job.outputDir + u'/' + report.job.targetName;
+}
+
 QString RunStore::defaultFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
@@ -90,7 +111,12 @@ bool RunStore::keep(const QString &project, const KeptRun &run, QString *error) 
         digests.append(
             QJsonObject{{QStringLiteral("file"), it.key()},
                         {QStringLiteral("sha256"), QString::fromLatin1(it.value().toHex())}});
+    QJsonObject figures;
+    for (auto it = run.figures.begin(); it != run.figures.end(); ++it)
+        figures.insert(it.key(), jsonOf(it.value()));
     const QJsonObject object{
+        {QStringLiteral("before"), jsonOf(run.before)},
+        {QStringLiteral("figures"), figures},
         {QStringLiteral("format"), formatNumber},
         {QStringLiteral("project"), project},
         {QStringLiteral("when"), run.when.toUTC().toString(Qt::ISODate)},
@@ -134,6 +160,10 @@ bool RunStore::load(const QString &project, KeptRun *run, QString *error) const
             digest.value(QStringLiteral("file")).toString(),
             QByteArray::fromHex(digest.value(QStringLiteral("sha256")).toString().toLatin1()));
     }
+    result.before = figuresOf(object.value(QStringLiteral("before")).toObject());
+    const QJsonObject figures = object.value(QStringLiteral("figures")).toObject();
+    for (auto it = figures.begin(); it != figures.end(); ++it)
+        result.figures.insert(it.key(), figuresOf(it.value().toObject()));
     *run = result;
     return true;
 }

@@ -17,6 +17,11 @@ struct KeptRun {
     QDateTime when;                    // of the end of the run
     QMap<QString, QByteArray> digests; // of the delivered files and those of the report
 
+    // What its resources were used in the run before of the same IP; empty if there was none.
+    QMap<QString, int> before;
+    // The same of the last run of each IP, by RunStore::ipOf().
+    QMap<QString, QMap<QString, int>> figures;
+
     static KeptRun of(const Synthesis::RunReport &report, const QStringList &delivered);
     // Those of its files that are gone or hold something else now.
     QStringList changedFiles() const;
@@ -28,6 +33,8 @@ class RunStore
 {
 public:
     explicit RunStore(const QString &folder);
+    // Which IP of a project a run was of.
+    static QString ipOf(const Synthesis::RunReport &report);
     // In the user's cache.
     static QString defaultFolder();
 

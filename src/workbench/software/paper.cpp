@@ -2,7 +2,7 @@
 
 #include "softwaredocument.h"
 #include "tr.h"
-#include "vectorpicture.h"
+#include "widgets/vectorpicture.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>

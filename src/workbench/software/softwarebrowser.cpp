@@ -2,6 +2,9 @@
 
 #include "softwaredocument.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QUrl>
 
 namespace Workbench
@@ -43,6 +46,31 @@ bool SoftwareBrowser::showFile(const QVector<SoftwareFile> &files, const QString
     setDocument(document.get());
     m_document = std::move(document);
     return true;
+}
+
+bool SoftwareBrowser::goTo(const QStringList &headings)
+{
+    int found = 0;
+    int level = 0; // of the last one found
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        const int own = block.blockFormat().headingLevel();
+        if (own == 0)
+            continue;
+        if (found > 0 && own <= level)
+            return false;
+        if (block.text() != headings.value(found))
+            continue;
+        level = own;
+        if (++found < headings.size())
+            continue;
+        QTextCursor cursor(block);
+        cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        setTextCursor(cursor);
+        verticalScrollBar()->setValue(
+            int(document()->documentLayout()->blockBoundingRect(block).top()));
+        return true;
+    }
+    return false;
 }
 
 void SoftwareBrowser::forget()

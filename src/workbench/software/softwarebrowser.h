@@ -23,6 +23,9 @@ public:
 
     // False if the file cannot be laid out, and a sentence in `*error` then.
     bool showFile(const QVector<SoftwareFile> &files, const QString &path, QString *error);
+    // Scrolls to a heading of the document and marks it; the ones before it are those above it,
+    // each below the one before. False if there is none.
+    bool goTo(const QStringList &headings);
     void forget();
 
 Q_SIGNALS:

@@ -1,6 +1,6 @@
 #include "softwaredocument.h"
 
-#include "vectorpicture.h"
+#include "widgets/vectorpicture.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>

@@ -81,7 +81,7 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     m_heading->setFont(large);
-    m_heading->setText(tr("Software for %1").arg(QFileInfo(ipcFile).fileName()));
+    m_heading->setText(tr("Hand-off of %1").arg(QFileInfo(ipcFile).fileName()));
 
     auto *left = new QWidget;
     buildLeft(left);
@@ -103,7 +103,7 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     m_parts->setObjectName(QStringLiteral("softwareParts"));
     m_parts->setAccessibleName(tr("Parts of the page"));
     m_parts->setDrawBase(false);
-    m_parts->addTab(tr("&Software Files"));
+    m_parts->addTab(tr("File&s"));
     m_parts->addTab(tr("Pro&gram"));
     m_parts->setTabToolTip(ProgramRow, tr("A program for the memory of the IP"));
     connect(m_parts, &QTabBar::currentChanged, m_stack, &QStackedWidget::setCurrentIndex);
@@ -267,6 +267,24 @@ void SoftwarePage::select(const QString &path)
     m_tree->expand(index.parent());
     m_tree->setCurrentIndex(index);
     m_tree->scrollTo(index);
+}
+
+bool SoftwarePage::showPlace(const QString &path, const QStringList &headings)
+{
+    checkDisk();
+    m_parts->setCurrentIndex(FilesPart);
+    select(path);
+    const SoftwareFile *shown = m_model->file(m_tree->currentIndex());
+    if (!shown || shown->path != path || m_preview->currentWidget() != m_document) {
+        if (!m_model->files().isEmpty())
+            tell({tr("There is no document %1 among the files.").arg(path)});
+        return false;
+    }
+    m_document->setFocus();
+    if (headings.isEmpty() || m_document->goTo(headings))
+        return true;
+    tell({tr("The document has no heading \"%1\".").arg(headings.last())});
+    return false;
 }
 
 // The configuration and, since a file that is replaced is forgotten, its folder.
@@ -558,7 +576,7 @@ void SoftwarePage::chooseFolder()
     while (!start.isEmpty() && !QFileInfo(start).isDir() && start != QFileInfo(start).path())
         start = QFileInfo(start).path();
     const QString chosen =
-        QFileDialog::getExistingDirectory(this, tr("Folder for the software"), start);
+        QFileDialog::getExistingDirectory(this, tr("Folder for the files"), start);
     if (!chosen.isEmpty())
         setFolder(chosen);
 }

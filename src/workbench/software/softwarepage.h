@@ -63,6 +63,10 @@ public:
     // Shows a file of the set.
     void select(const QString &path);
 
+    // Shows a document of the set at one of its headings, see SoftwareBrowser::goTo(), and gives it
+    // the focus. False if there is no such document or heading, which the page tells.
+    bool showPlace(const QString &path, const QStringList &headings);
+
     // Makes the files anew if the configuration is not what they were made of.
     void checkDisk();
     // Compares the folder with the files, and tells what was found.

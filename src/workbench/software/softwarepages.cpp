@@ -118,7 +118,7 @@ SoftwarePage *SoftwarePages::show(const QString &ipcFile)
         page->hide();
     }
     m_tabs.showPage(page, symbolIcon(QStringLiteral("ip-file")),
-                    tr("Software of %1")
+                    tr("Hand-off of %1")
                         .arg(QFileInfo(path).completeBaseName())
                         .replace(u'&', QLatin1String("&&")));
     m_tabs.setTabToolTip(m_tabs.indexOf(page), QDir::toNativeSeparators(path));

@@ -13,26 +13,12 @@ namespace Workbench
 {
 
 using Answers::isPlain;
+using Answers::pathMistake;
 using Answers::shown;
 using Answers::takeText;
 
 namespace
 {
-
-// Why no file may have this path; empty if one may.
-QString pathMistake(const QString &path)
-{
-    if (path.isEmpty() || path.toUtf8().size() > 1000)
-        return Tr::tr("it is empty or too long");
-    if (!isPlain(path) || path.contains(u'\\') || path.contains(u':'))
-        return Tr::tr("it has characters that no path may have");
-    const QStringList names = path.split(u'/');
-    for (const QString &name : names) {
-        if (name.isEmpty() || name.startsWith(u'.') || name.toUtf8().size() > 200)
-            return Tr::tr("it does not name a file below a folder");
-    }
-    return {};
-}
 
 bool isTooLarge(const QByteArray &bytes, qint64 *size)
 {

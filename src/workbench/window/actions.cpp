@@ -209,7 +209,7 @@ void MainWindow::Actions::addProjectMenu()
             window->openPath(window->m_projectPane->selectedFile(), 1);
     });
     openAsText->setStatusTip(tr("Shows an IP's configuration in the editor, not in its dialog"));
-    software = add(project, tr("&Software"), {},
+    software = add(project, tr("&Hand-off"), {},
                    QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_E), [window] {
                        if (!window->m_projectPane->selectedFile().isEmpty())
                            window->showSoftware(window->m_projectPane->selectedFile());
@@ -321,10 +321,10 @@ void MainWindow::Actions::refreshProject()
     const bool canExport = ip >= 0 && catalogue.canExport(ip);
     software->setEnabled(canExport);
     const QString softwareTip =
-        canExport ? tr("Shows the files that software needs of the selected IP, and exports them")
-        : ip >= 0 ? tr("The plug-in of %1 hands on nothing to software")
-                        .arg(catalogue.entries().at(ip).name)
-                  : tr("Select an IP in the project to see what software needs of it");
+        canExport ? tr("Shows what firmware and other tools get of the selected IP, and exports it")
+        : ip >= 0
+            ? tr("The plug-in of %1 hands on nothing").arg(catalogue.entries().at(ip).name)
+            : tr("Select an IP in the project to see what firmware and other tools get of it");
     software->setToolTip(softwareTip);
     software->setStatusTip(softwareTip);
     const bool canSimulate = ip >= 0 && catalogue.canSimulate(ip);

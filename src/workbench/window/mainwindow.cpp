@@ -4,6 +4,7 @@
 #include "catalogue/catalogueview.h"
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/ipsession.h"
+#include "catalogue/mapset.h"
 #include "catalogue/pluginlist.h"
 #include "closingsequence.h"
 #include "editor/codeeditor.h"
@@ -26,6 +27,7 @@
 #include "simulation/exampleproject.h"
 #include "simulation/simulationpage.h"
 #include "simulation/simulationpages.h"
+#include "software/softwarepage.h"
 #include "software/softwarepages.h"
 #include "startpage.h"
 #include "widgets/errorbox.h"
@@ -166,6 +168,12 @@ void MainWindow::connectParts()
     connect(m_tabs, &EditorTabs::currentStateChanged, this, &MainWindow::showEditorState);
     connect(m_simulations, &SimulationPages::openRequested, this, &MainWindow::openPath);
     connect(m_lastRun, &LastRun::openRequested, this, openFile);
+    m_lastRun->setMapSource(
+        [this](const QString &ipcFile) { return MapSet::ask(m_catalogue, ipcFile); });
+    connect(m_lastRun, &LastRun::doorOpened, this,
+            [this](const QString &ipcFile, const MapDoor &door) {
+                showSoftware(ipcFile)->showPlace(door.document, door.headings);
+            });
     connect(m_lastRun, &LastRun::changed, this, &MainWindow::showEditorState);
     connect(m_ips.get(), &IpActions::opening, this, [this](int ip) {
         m_lastRun->expect();

@@ -13,6 +13,9 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLibrary>
 #include <QLineEdit>
@@ -72,6 +75,8 @@ private Q_SLOTS:
     void tellsWhyNothingIsSimulated();
     void offersExamplesThatCanBeSimulated();
     void offersNoExamplesThatAreNotThere();
+    void mapsShowWhatTheCommandLineShows();
+    void tellsWhyThereAreNoMaps();
     void needsNoLibraryThatAHostMayLack();
 
 private:
@@ -82,6 +87,7 @@ private:
     QVariantMap startFromFirmware(const QString &file, const QString &folder, bool write);
     QVariantMap simulationCommand(const QString &file);
     QVariantList simulationExamples();
+    QVariantMap maps(const QString &file);
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -964,6 +970,77 @@ void tst_Plugin::offersNoExamplesThatAreNotThere()
     QTemporaryDir dir;
     plugin()->setDataPath(dir.path());
     QVERIFY(simulationExamples().isEmpty());
+}
+
+QVariantMap tst_Plugin::maps(const QString &file)
+{
+    QVariantMap answer;
+    const bool found =
+        QMetaObject::invokeMethod(plugin(), "maps", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QVariantMap, answer), Q_ARG(QString, file));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::mapsShowWhatTheCommandLineShows()
+{
+    const QString file = QStringLiteral(TARVO_EXAMPLE);
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantMap answer = maps(file);
+    QCOMPARE(answer.value(QStringLiteral("error")), QVariant(QString()));
+    QProcess show;
+    show.start(QStringLiteral(TARVO_COMMAND),
+               {QStringLiteral("show"), file, QStringLiteral("--json")});
+    QVERIFY(show.waitForFinished(-1));
+    const QJsonObject system = QJsonDocument::fromJson(show.readAllStandardOutput())
+                                   .object()
+                                   .value(QStringLiteral("system"))
+                                   .toObject();
+    QStringList regions;
+    for (const QJsonValue &value : system.value(QStringLiteral("regions")).toArray()) {
+        const QJsonObject region = value.toObject();
+        regions.append(region.value(QStringLiteral("name")).toString() + QLatin1String(", ") +
+                       region.value(QStringLiteral("base")).toString() + QLatin1String(" to ") +
+                       region.value(QStringLiteral("last")).toString() + QLatin1String(", "));
+    }
+    QStringList lines;
+    for (const QJsonValue &value : system.value(QStringLiteral("interrupts")).toArray())
+        lines.append(value.toObject().value(QStringLiteral("name")).toString() +
+                     QLatin1String(", "));
+    QVERIFY(regions.size() > 5 && lines.size() > 5);
+
+    QStringList documents;
+    for (const QVariant &entry : exportSoftware(file, {QStringLiteral("datasheet")})
+                                     .value(QStringLiteral("files"))
+                                     .toList())
+        documents.append(entry.toMap().value(QStringLiteral("path")).toString());
+    const QVariantList pictures = answer.value(QStringLiteral("maps")).toList();
+    QCOMPARE(pictures.size(), 2);
+    for (int i = 0; i < pictures.size(); ++i) {
+        const QVariantMap picture = pictures.at(i).toMap();
+        QVERIFY(picture.value(QStringLiteral("svg")).toByteArray().startsWith("<?xml"));
+        QVERIFY(picture.value(QStringLiteral("darkSvg")).toByteArray().startsWith("<?xml"));
+        const QStringList &expected = i == 0 ? regions : lines;
+        const QVariantList doors = picture.value(QStringLiteral("doors")).toList();
+        QCOMPARE(doors.size(), expected.size());
+        for (int k = 0; k < doors.size(); ++k) {
+            const QVariantMap door = doors.at(k).toMap();
+            const QString text = door.value(QStringLiteral("text")).toString();
+            QVERIFY2(text.startsWith(expected.at(k)), qPrintable(text));
+            QVERIFY(documents.contains(door.value(QStringLiteral("document")).toString()));
+            QVERIFY(!door.value(QStringLiteral("headings")).toStringList().isEmpty());
+            for (const char *number : {"x", "y", "width", "height"})
+                QCOMPARE(door.value(QLatin1String(number)).userType(), int(QMetaType::Int));
+        }
+    }
+}
+
+void tst_Plugin::tellsWhyThereAreNoMaps()
+{
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantMap answer = maps(QStringLiteral("/nowhere/x.ipc"));
+    QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(QLatin1String("x.ipc")),
+             qPrintable(answer.value(QStringLiteral("error")).toString()));
+    QVERIFY(!answer.contains(QStringLiteral("maps")));
 }
 
 void tst_Plugin::needsNoLibraryThatAHostMayLack()
