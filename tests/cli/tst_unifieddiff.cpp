@@ -67,7 +67,7 @@ QByteArray applied(const QByteArray &before, QStringList diff, QString *mistake)
             result += old.value(at);
         if (written != number(3) - (nexts > 0 ? 1 : 0))
             *mistake = QStringLiteral("the new place is not that of line %1").arg(i);
-        int ahead = 0; // context in front of the first change
+        int ahead = 0;  // context in front of the first change
         int behind = 0; // and behind the last one
         bool isChanged = false;
         while (olds > 0 || nexts > 0) {
