@@ -32,6 +32,7 @@ struct ExportArguments {
     QString outDir;      // likewise
     bool list = false;
     bool check = false;
+    bool update = false; // the formats of the last export
     bool json = false;
     QString netlist; // of a run, for the figures of resources; empty: none
 };
@@ -107,15 +108,19 @@ Problem usageMistake(const ExportArguments &arguments)
                                "the formats without one.")};
     if (arguments.outDir.isEmpty())
         return {QStringLiteral("--out DIR is required: the folder that the files are written to.")};
+    if (arguments.update && !arguments.formats.isEmpty())
+        return {QStringLiteral("--update writes the formats of the last export; name none with it, "
+                               "or leave it out."),
+                arguments.formats.first()};
     return {};
 }
 
-// The formats that are asked for, in their order. Without a name that is all of them; a look at
-// what was exported earlier is at the formats of that.
+// The formats that are asked for, in their order. Without a name that is all of them; what looks at
+// an earlier export, or repeats it, takes the formats of that.
 QStringList chosenFormats(const ExportArguments &arguments, const QString &folder)
 {
     QStringList asked = arguments.formats;
-    if (asked.isEmpty() && arguments.check)
+    if (asked.isEmpty() && (arguments.check || arguments.update))
         asked = Utils::bundleGroups(folder, exportManifest);
     const QStringList all = formatNames();
     QStringList chosen;
@@ -221,6 +226,32 @@ void printFiles(const QJsonObject &object, bool check)
     }
 }
 
+// What is to be done after a check.
+QString adviceAfter(const Utils::BundleReport &report, const ExportArguments &arguments,
+                    bool isUpdatable)
+{
+    const bool isNeeded = arguments.formats.isEmpty() && !report.isFresh();
+    return isNeeded && isUpdatable
+               ? QStringLiteral("--update in place of --check writes these formats anew.")
+               : QString();
+}
+
+// What a write has done beside the files that it tells.
+QString summaryOf(const Utils::BundleReport &report)
+{
+    using Utils::BundleEntry;
+    const int fresh = report.count(BundleEntry::Fresh);
+    if (fresh == 0)
+        return {};
+    if (report.isFresh())
+        return QStringLiteral("Everything is fresh, so nothing was written.");
+    const int written = report.count(BundleEntry::Missing) + report.count(BundleEntry::Stale) +
+                        report.count(BundleEntry::Edited);
+    return QStringLiteral("%1 of %2 files were written; the others were fresh.")
+        .arg(written)
+        .arg(written + fresh);
+}
+
 // What a netlist of the configuration takes. A failure is a sentence: it cannot be read, or is of
 // another configuration, as far as its black boxes tell.
 Utils::Result<ResourceFigures> figuresOf(const QString &netlist, const SystemMap &map)
@@ -288,6 +319,15 @@ int runExport(Environment &environment, const ExportArguments &arguments)
         map.resources = *figures;
     }
     const QString folder = outputFolder(document, arguments.outDir);
+    const bool isUpdatable = !Utils::bundleGroups(folder, exportManifest).isEmpty();
+    if (arguments.update && !isUpdatable) {
+        printProblem({QLatin1String("Nothing is known of an export into \"") + folder +
+                          QLatin1String("\": it has no sound ") + exportManifest +
+                          QLatin1String(". Name the formats in place of --update."),
+                      {},
+                      folder});
+        return BadInput;
+    }
     const QStringList chosen = chosenFormats(arguments, folder);
     QStringList warnings;
     if (const auto contents =
@@ -306,6 +346,12 @@ int runExport(Environment &environment, const ExportArguments &arguments)
     tellObject(object);
     if (!arguments.json)
         printFiles(object, arguments.check);
+    if (report && !arguments.json) {
+        const QString last =
+            arguments.check ? adviceAfter(*report, arguments, isUpdatable) : summaryOf(*report);
+        if (!last.isEmpty())
+            printError(last);
+    }
     const bool isDone = report && (!arguments.check || report->isFresh());
     return isDone ? Done : Failed;
 }
@@ -339,6 +385,11 @@ void declareExport(CommandLine &line)
                    "Only tell which files are missing, stale, edited or left over, with exit "
                    "status 1 if any is; writes nothing")
         ->excludes(list);
+    command
+        ->add_flag("--update", arguments->update,
+                   "Write what was written last: the formats that the folder's manifest names")
+        ->excludes(list)
+        ->excludes("--check");
     CommandLine::json(command, arguments->json);
 }
 

@@ -53,6 +53,9 @@ void printError(const QString &line)
         errorTaker(line);
         return;
     }
+    // Where both go to one file, neither breaks into a line of the other.
+    if (std::fflush(stdout) != 0 && firstWriteError == 0)
+        firstWriteError = errno;
     put(stderr, QByteArray("orixm1: ") + line.toUtf8() + '\n');
 }
 

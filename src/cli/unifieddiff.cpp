@@ -106,7 +106,7 @@ QStringList unifiedDiff(const QByteArray &before, const QByteArray &after,
             break;
         const int begin = std::max(at, first - context);
         int last = first; // the last change of the hunk
-        for (int i = first; i < lines.size() && i - last <= 2 * context; ++i)
+        for (int i = first; i < lines.size() && i - last <= 2 * context + 1; ++i)
             last = isChange(i) ? i : last;
         const int end = std::min(lines.size(), last + context + 1);
         oldLine += begin - at;

@@ -331,6 +331,41 @@ private Q_SLOTS:
         QCOMPARE(run(words({example, "--out", "x", "--check"})).status, 0);
     }
 
+    void updateWritesWhatWasWrittenLast()
+    {
+        const QString advice = QStringLiteral("--update in place of --check");
+        const QStringList update = words({example, "--out", "x", "--update"});
+        const Run refused = run(update);
+        QCOMPARE(refused.status, 3);
+        QVERIFY2(refused.err.contains(path("x")) &&
+                     refused.err.contains(QLatin1String("Name the formats")),
+                 qPrintable(refused.err));
+        QVERIFY(!QFileInfo::exists(path("x")));
+        QCOMPARE(run(update + words({"svd"})).status, 2);
+        QCOMPARE(run(update + words({"--check"})).status, 2);
+        QVERIFY(!run(words({example, "--out", "x", "--check"})).err.contains(advice));
+
+        QCOMPARE(run(words({example, "svd", "header", "--out", "x"})).status, 0);
+        const auto before = filesOf(path("x"));
+        const Run again = run(update);
+        QCOMPARE(again.status, 0);
+        QVERIFY2(again.err.contains(QLatin1String("Everything is fresh, so nothing was written.")),
+                 qPrintable(again.err));
+        QCOMPARE(filesOf(path("x")), before);
+
+        const QStringList others = {config("Enable%20GPIO=true\n"), QStringLiteral("--out"),
+                                    path("x")};
+        QVERIFY(run(others + words({"--check"})).err.contains(advice));
+        QCOMPARE(run(others + words({"--update"})).status, 0);
+        QCOMPARE(filesOf(path("x")).keys(), before.keys());
+        QCOMPARE(run(others + words({"--check"})).status, 0);
+        QVERIFY(QFile::remove(path("x/tarvo_orix_m1.h")));
+        const Run mended = run(others + words({"--update"}));
+        QVERIFY2(
+            mended.err.contains(QLatin1String("1 of 2 files were written; the others were fresh.")),
+            qPrintable(mended.err));
+    }
+
     void aBrokenManifestIsTold()
     {
         QCOMPARE(run(words({example, "--out", "x"})).status, 0);

@@ -37,14 +37,16 @@ struct Run {
     QJsonObject json() const { return QJsonDocument::fromJson(out.toUtf8()).object(); }
 };
 
-// Contents and times of everything below a folder.
-QMap<QString, QPair<QByteArray, QDateTime>> pictureOf(const QString &folder)
+// Contents and times of everything below a folder but one file.
+QMap<QString, QPair<QByteArray, QDateTime>> pictureOf(const QString &folder,
+                                                      const QString &but = {})
 {
     QMap<QString, QPair<QByteArray, QDateTime>> picture;
     QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        picture.insert(path, {TestSupport::contentsOf(path), files.fileInfo().lastModified()});
+        if (path != but)
+            picture.insert(path, {TestSupport::contentsOf(path), files.fileInfo().lastModified()});
     }
     return picture;
 }
@@ -97,6 +99,8 @@ private Q_SLOTS:
     void includeFilesAloneLeaveTheResultsStale();
     void aFailedRunLeavesTheTruth();
     void keepsWhatSomebodyHasEdited();
+    void whatCannotBeKeptIsNotReplaced_data();
+    void whatCannotBeKeptIsNotReplaced();
 
     void theCacheGivesTheSameBytes();
     void aBrokenEntryIsDropped_data();
@@ -398,6 +402,51 @@ void tst_CliFresh::keepsWhatSomebodyHasEdited()
         QCOMPARE(mended.json().value(latin1("warnings")).toArray().size(), 2);
         QCOMPARE(run(generate({latin1("--check")})).status, 0);
     }
+}
+
+void tst_CliFresh::whatCannotBeKeptIsNotReplaced_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<Change>("change");
+    for (const char *file :
+         {"out/temp/tv_orix_m1/cm1_option_defs.v", "out/temp/tv_orix_m1/tarvo_orix_m1.vg",
+          "out/tarvo_orix_m1.v", "out/tarvo_orix_m1.vo"}) {
+        QTest::addRow("a folder, %s", file)
+            << latin1(file)
+            << Change([file](tst_CliFresh &test) { QVERIFY(QDir().mkpath(test.path(file))); });
+        QTest::addRow("a pipe, %s", file) << latin1(file) << Change([file](tst_CliFresh &test) {
+            QCOMPARE(mkfifo(QFile::encodeName(test.path(file)).constData(), 0600), 0);
+        });
+    }
+    QTest::newRow("a file above the limit")
+        << latin1("out/tarvo_orix_m1.v") << Change([](tst_CliFresh &test) {
+               QFile file(test.path("out/tarvo_orix_m1.v"));
+               QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(2) << 30));
+           });
+}
+
+void tst_CliFresh::whatCannotBeKeptIsNotReplaced()
+{
+    QFETCH(QString, file);
+    QFETCH(Change, change);
+    QCOMPARE(run(generate()).status, 0);
+    const QString there = m_dir->filePath(file);
+    QVERIFY(QFile::remove(there));
+    change(*this);
+    configure("Enable%20GPIO=false\nLANG=0\n");
+    const auto before = pictureOf(path("out"), there);
+    const Run refused = run(generate({latin1("--json")}));
+    QCOMPARE(refused.status, 1);
+    const QString text = refused.json()
+                             .value(latin1("errors"))
+                             .toArray()
+                             .at(0)
+                             .toObject()
+                             .value(latin1("text"))
+                             .toString();
+    QVERIFY2(text.startsWith(u'"' + there + latin1("\" cannot be read")), qPrintable(text));
+    QCOMPARE(pictureOf(path("out"), there), before);
+    QVERIFY(QFileInfo::exists(there));
 }
 
 void tst_CliFresh::theCacheGivesTheSameBytes()

@@ -334,6 +334,16 @@ void tst_CliOptions::upgradeTellsAndMends_data()
     row("an option outside", frame() + "ITCM_Size=3\n",
         words({"ITCM_Size: is outside of the group [Config], where nothing reads it; is moved"}),
         frame() + "\n[Config]\nITCM_Size=3\n");
+    row("a value without sense where a misspelt key has another",
+        frame() + "\n[Config]\nEnable%20GPIO=ture\nenable%20gpio=true\n",
+        words({"Enable GPIO: is \"ture\", not true or false; is removed",
+               "enable gpio: is no option; becomes \"Enable GPIO\""}),
+        frame() + "\n[Config]\nEnable%20GPIO=true\n");
+    row("texts of which one looks like no text",
+        frame() + "\n[Config]\nITCM_Initialization_Path=a, @b\n",
+        words({"ITCM_Initialization_Path: is several texts with commas between them; becomes "
+               "\"a, @b\""}),
+        frame() + "\n[Config]\nITCM_Initialization_Path=\"a, @b\"\n");
     row("another version", frame().replace("1.0", "0.9"),
         words({"version: is \"0.9\", a format that is not known; becomes \"1.0\""}), frame());
     row("nothing but the device", QByteArray("[General]\ntarget_device=") + usual + '\n',

@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void init()
     {
         m_dir = std::make_unique<QTemporaryDir>();
+        m_environment = QProcessEnvironment::systemEnvironment();
         for (const char *variant : {"debug", "no_debug"})
             QVERIFY(TestSupport::write(
                 path("ip/data/") + QLatin1String(variant) + QLatin1String("/top.v"), source));
@@ -137,6 +139,49 @@ private Q_SLOTS:
         QVERIFY2(again.status == 0, again.err.constData());
         QVERIFY(QFileInfo::exists(path("out/points/") + name(1) + log));
         QVERIFY(TestSupport::contentsOf(path("out/sweep.csv")) != csv);
+    }
+
+    void resultsOfAnotherToolDoNotHold()
+    {
+        // The tool under another version.
+        QVERIFY(TestSupport::write(path("bin/yosys"),
+                                   "#!/bin/sh\n"
+                                   "[ \"$1\" = -V ] && { echo Yosys 99; exit; }\n"
+                                   "exec \"$REAL_YOSYS\" \"$@\"\n"));
+        QVERIFY(QFile::setPermissions(path("bin/yosys"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        const QString real = QStandardPaths::findExecutable(QStringLiteral("yosys"));
+        QProcessEnvironment other = QProcessEnvironment::systemEnvironment();
+        other.insert(QStringLiteral("REAL_YOSYS"), real);
+        other.insert(QStringLiteral("PATH"), path("bin:") + other.value(QStringLiteral("PATH")));
+        QProcessEnvironment without = other;
+        QVERIFY(QDir().mkpath(path("few")));
+        without.insert(QStringLiteral("PATH"), path("few"));
+
+        const QString result = path("out/points/") + name(1) + QLatin1String("/result.json");
+        const auto tool = [&result] {
+            return QJsonDocument::fromJson(TestSupport::contentsOf(result))
+                .object()
+                .value(QLatin1String("tool"))
+                .toString();
+        };
+        plan("[1]");
+        QCOMPARE(run({"sweep", "plan.json", "--out", "out", "--json"}).states(), states({"done"}));
+        const QString first = tool();
+        QVERIFY2(first.startsWith(QLatin1String("Yosys ")), qPrintable(first));
+
+        // Neither looking nor running takes it for its own; only a machine without a tool does.
+        m_environment = other;
+        QCOMPARE(run({"sweep", "--out", "out", "--table", "--json"}).states(),
+                 states({"not done"}));
+        m_environment = without;
+        QCOMPARE(run({"sweep", "--out", "out", "--table", "--json"}).states(), states({"done"}));
+        m_environment = other;
+        QCOMPARE(run({"sweep", "plan.json", "--out", "out", "--json"}).states(), states({"done"}));
+        QCOMPARE(tool(), QStringLiteral("Yosys 99"));
+        m_environment = QProcessEnvironment::systemEnvironment();
+        QCOMPARE(run({"sweep", "plan.json", "--out", "out", "--json"}).states(), states({"done"}));
+        QCOMPARE(tool(), first);
     }
 
     void aPointThatFailsDoesNotEndTheOthers()
@@ -232,6 +277,7 @@ private:
     {
         QProcess process;
         process.setWorkingDirectory(m_dir->path());
+        process.setProcessEnvironment(m_environment);
         process.start(QStringLiteral(TARVO_COMMAND),
                       (withOwnIp ? words({"--data", "ip"}) : QStringList()) + words(arguments));
         if (!process.waitForFinished(120000))
@@ -241,6 +287,7 @@ private:
     }
 
     std::unique_ptr<QTemporaryDir> m_dir;
+    QProcessEnvironment m_environment;
 };
 
 TARVO_TEST_MAIN(QCoreApplication, tst_CliSweep)

@@ -225,6 +225,17 @@ private Q_SLOTS:
                  qPrintable(boxes.first().text));
     }
 
+    void whatAPlugInHasToSayOfARunJoinsItsMessages()
+    {
+        IPCore::SynthesisHelper helper;
+        const QStringList notices = {QStringLiteral("\"a.v\" is in \"a.v.edited\" now.")};
+        const int before = window()->messages()->count(MessageModel::Warning);
+        QVERIFY(QMetaObject::invokeMethod(&helper, "tellNotices", Q_ARG(QStringList, notices)));
+        QCOMPARE(window()->messages()->count(MessageModel::Warning), before + 1);
+        QVERIFY(window()->messages()->toText().contains(notices.first()));
+        QVERIFY(!window()->findChild<QDockWidget *>(QStringLiteral("outputDock"))->isHidden());
+    }
+
     void pluginsThatCannotBeUsedAreShown()
     {
         IpCatalogue catalogue;

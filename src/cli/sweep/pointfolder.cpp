@@ -1,5 +1,8 @@
 #include "pointfolder.h"
 
+#include "../resultcache.h"
+#include "../toolofrunner.h"
+
 #include <config/ipcfile.h>
 #include <config/optionkeys.h>
 #include <config/optionvalue.h>
@@ -27,18 +30,21 @@ constexpr qint64 mostResult = 4 << 20; // bytes
 namespace Member
 {
 const QString fingerprint = QStringLiteral("fingerprint");
+const QString tool = QStringLiteral("tool");
 const QString resources = QStringLiteral("resources");
 const QString errors = QStringLiteral("errors");
 } // namespace Member
 
-// Empty unless the file is there, whole and belongs to the fingerprint.
-QJsonObject readKept(const QString &path, const QString &fingerprint)
+// Empty unless the file is there, whole and belongs to the fingerprint and the tool.
+QJsonObject readKept(const QString &path, const QString &fingerprint, PointTool &tool)
 {
     if (!QFileInfo::exists(path))
         return {};
     const auto bytes = Utils::readBoundedFile(path, mostResult);
     const QJsonObject object = bytes ? QJsonDocument::fromJson(*bytes).object() : QJsonObject();
-    return object.value(Member::fingerprint).toString() == fingerprint ? object : QJsonObject();
+    const bool holds = object.value(Member::fingerprint).toString() == fingerprint &&
+                       tool.matches(object.value(Member::tool).toString());
+    return holds ? object : QJsonObject();
 }
 
 Utils::Result<void> replace(const QString &path, const QJsonObject &object, const QString &other)
@@ -56,6 +62,24 @@ QByteArray digestOf(const QByteArray &bytes)
 }
 
 } // namespace
+
+const ToolFacts &PointTool::facts()
+{
+    // No option of a point selects another one.
+    if (!m_facts)
+        m_facts = ResultCache(true, toolOfRunner(Tool::TarvoSynthesis)).toolFacts();
+    return *m_facts;
+}
+
+QString PointTool::version()
+{
+    return facts().version;
+}
+
+bool PointTool::matches(const QString &version)
+{
+    return !facts().isInstalled || facts().version == version;
+}
 
 PointFolder::PointFolder(const QString &sweep, const QString &point, const QVariantMap &ipInfo)
     : m_path(sweep + u'/' + SweepFile::points + u'/' + point)
@@ -78,9 +102,9 @@ QString PointFolder::failure() const
     return m_path + u'/' + SweepFile::failure;
 }
 
-void PointFolder::take(const QString &fingerprint, SweepResult *result) const
+void PointFolder::take(const QString &fingerprint, PointTool &tool, SweepResult *result) const
 {
-    const QJsonObject kept = readKept(this->result(), fingerprint);
+    const QJsonObject kept = readKept(this->result(), fingerprint, tool);
     if (!kept.isEmpty()) {
         result->state = PointState::Done;
         const QJsonArray resources = kept.value(Member::resources).toArray();
@@ -93,7 +117,7 @@ void PointFolder::take(const QString &fingerprint, SweepResult *result) const
         }
         return;
     }
-    const QJsonObject failed = readKept(failure(), fingerprint);
+    const QJsonObject failed = readKept(failure(), fingerprint, tool);
     if (failed.isEmpty())
         return;
     result->state = PointState::Failed;
@@ -104,20 +128,24 @@ void PointFolder::take(const QString &fingerprint, SweepResult *result) const
     result->reason = errors.join(QLatin1String("; "));
 }
 
-Utils::Result<void> PointFolder::keepResult(const QString &fingerprint,
+Utils::Result<void> PointFolder::keepResult(const QString &fingerprint, const QString &toolVersion,
                                             const QJsonArray &resources) const
 {
-    return replace(result(), {{Member::fingerprint, fingerprint}, {Member::resources, resources}},
+    return replace(result(),
+                   {{Member::fingerprint, fingerprint},
+                    {Member::tool, toolVersion},
+                    {Member::resources, resources}},
                    failure());
 }
 
-Utils::Result<void> PointFolder::keepFailure(const QString &fingerprint,
+Utils::Result<void> PointFolder::keepFailure(const QString &fingerprint, const QString &toolVersion,
                                              const QStringList &errors) const
 {
-    return replace(
-        failure(),
-        {{Member::fingerprint, fingerprint}, {Member::errors, QJsonArray::fromStringList(errors)}},
-        result());
+    return replace(failure(),
+                   {{Member::fingerprint, fingerprint},
+                    {Member::tool, toolVersion},
+                    {Member::errors, QJsonArray::fromStringList(errors)}},
+                   result());
 }
 
 void PointFolder::forget() const

@@ -2,6 +2,7 @@
 
 #include <config/optionmap.h>
 #include <dev/devicearg.h>
+#include <generate/state.h>
 #include <sweep/table.h>
 #include <utils/result.h>
 
@@ -12,8 +13,26 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <optional>
+
 namespace Cli
 {
+
+// The tool that points are synthesised with. It is asked once, and only if that is needed.
+class PointTool
+{
+public:
+    // Empty: not installed, or it does not tell.
+    QString version();
+    // Whether a result of that version holds. Any does where the tool is not installed: that is a
+    // machine that only collects.
+    bool matches(const QString &version);
+
+private:
+    const TARVOORIXM1::ToolFacts &facts();
+
+    std::optional<TARVOORIXM1::ToolFacts> m_facts;
+};
 
 // The folder of a point of a sweep, and what stands in it.
 class PointFolder
@@ -27,12 +46,14 @@ public:
     QString result() const;
     QString failure() const;
 
-    // What stands in result() or failure() and belongs to `fingerprint` becomes the state of a
-    // point that is open.
-    void take(const QString &fingerprint, TARVOORIXM1::SweepResult *result) const;
+    // What stands in result() or failure() and belongs to `fingerprint` and the tool becomes the
+    // state of a point that is open.
+    void take(const QString &fingerprint, PointTool &tool, TARVOORIXM1::SweepResult *result) const;
     // Replaces one by the other. A failure is a sentence.
-    Utils::Result<void> keepResult(const QString &fingerprint, const QJsonArray &resources) const;
-    Utils::Result<void> keepFailure(const QString &fingerprint, const QStringList &errors) const;
+    Utils::Result<void> keepResult(const QString &fingerprint, const QString &toolVersion,
+                                   const QJsonArray &resources) const;
+    Utils::Result<void> keepFailure(const QString &fingerprint, const QString &toolVersion,
+                                    const QStringList &errors) const;
     // Neither is there then.
     void forget() const;
 
@@ -42,7 +63,7 @@ private:
 };
 
 // Tells whether a result still belongs to what it would be made of: the configuration, the RTL, the
-// contents of the instruction memory, the device and this program.
+// contents of the instruction memory, the device and this program. The tool is PointTool's.
 class Fingerprints
 {
 public:

@@ -92,7 +92,8 @@ int runPointJob(Environment &environment, const QString &sweep, const QString &p
     }
     const QString fingerprint = Fingerprints(ipInfo).of(*text, document.options, document.device);
     SweepResult before;
-    folder.take(fingerprint, &before);
+    PointTool tool;
+    folder.take(fingerprint, tool, &before);
     if (before.state == PointState::Done) {
         touch(folder.result());
         return Done;
@@ -101,8 +102,9 @@ int runPointJob(Environment &environment, const QString &sweep, const QString &p
     const Outcome outcome = generatePoint(environment, folder);
     if (outcome.status == Cancelled)
         return Cancelled;
-    const auto kept = outcome.status == Done ? folder.keepResult(fingerprint, outcome.resources)
-                                             : folder.keepFailure(fingerprint, outcome.errors);
+    const auto kept = outcome.status == Done
+                          ? folder.keepResult(fingerprint, tool.version(), outcome.resources)
+                          : folder.keepFailure(fingerprint, tool.version(), outcome.errors);
     if (!kept) {
         printProblem({kept.reason(), {}, folder.path()});
         return Failed;

@@ -257,13 +257,13 @@ private:
     }
 
     // Of a run before that still hold.
-    void takeEarlierFigures(const Work &work, Fingerprints &fingerprints, SweepResult *result) const
+    void takeEarlierFigures(const Work &work, Fingerprints &fingerprints, SweepResult *result)
     {
         const PointFolder folder(m_folder, result->name, m_ipInfo);
         if (!QFileInfo::exists(folder.result()))
             return;
         if (const auto text = configurationText(work); text)
-            folder.take(fingerprints.of(*text, work.options, work.device), result);
+            folder.take(fingerprints.of(*text, work.options, work.device), m_tool, result);
     }
 
     // Empty, or why it could not be written.
@@ -320,7 +320,7 @@ private:
                 return fail(Failed, error);
             work.fingerprint = fingerprints.of(*text, work.options, work.device);
             SweepResult now;
-            folder.take(work.fingerprint, &now);
+            folder.take(work.fingerprint, m_tool, &now);
             if (now.state != PointState::Done || m_arguments.force) {
                 folder.forget();
                 ++open;
@@ -371,7 +371,7 @@ private:
         for (int i = 0; i < m_work.size(); ++i) {
             if (isRunnable(i) && !m_work.at(i).fingerprint.isEmpty())
                 PointFolder(m_folder, m_table.results.at(i).name, m_ipInfo)
-                    .take(m_work.at(i).fingerprint, &m_table.results[i]);
+                    .take(m_work.at(i).fingerprint, m_tool, &m_table.results[i]);
         }
     }
 
@@ -436,6 +436,7 @@ private:
     SweepTable m_table;
     QVector<Work> m_work; // of the table's rows
     Utils::Interrupt m_interrupt;
+    PointTool m_tool;
     bool m_isCancelled = false;
     std::function<void()> m_cancelJobs;
     const Progress m_progress;

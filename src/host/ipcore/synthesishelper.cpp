@@ -181,4 +181,10 @@ QVariantMap SynthesisHelper::runRecord() const
             {QStringLiteral("report"), Synthesis::toJson(d->runner.report()).toVariantMap()}};
 }
 
+void SynthesisHelper::tellNotices(const QStringList &notices)
+{
+    if (!notices.isEmpty())
+        Q_EMIT SynthesisMonitor::instance().noticed(notices);
+}
+
 } // namespace IPCore

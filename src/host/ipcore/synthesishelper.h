@@ -69,6 +69,9 @@ public:
     // "tool" and "version" as people call them, and "report", the report as JSON has it. Asks the
     // tool for its version.
     Q_INVOKABLE QVariantMap runRecord() const;
+    // For a plug-in, found by its name as well: sentences on what it has done around the run, which
+    // are no errors. The application shows them with the run's messages.
+    Q_INVOKABLE void tellNotices(const QStringList &notices);
 
 Q_SIGNALS:
     // A short phrase for people ("Reading sources").

@@ -36,6 +36,9 @@ Q_SIGNALS:
     // Once for each runStarted(), before the helper's finished(). A run whose helper is destroyed
     // counts as cancelled.
     void runFinished(const Synthesis::RunReport &report);
+    // What a plug-in has to say of a run beside its report, a sentence each. Comes after
+    // runFinished(), or without a run if none could begin.
+    void noticed(const QStringList &notices);
 
 private:
     friend class SynthesisHelper;

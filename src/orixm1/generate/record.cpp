@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 #include <utility>
@@ -38,6 +39,18 @@ QByteArray GenerationRecord::digestOf(const QString &path) const
     QString reason;
     return Reading::readPlainFile(path, Reading::Limits::anyFile, &bytes, &reason) ? m_digest(bytes)
                                                                                    : QByteArray();
+}
+
+Utils::Result<QByteArray> GenerationRecord::digestToKeep(const QString &path) const
+{
+    QByteArray bytes;
+    QString reason;
+    if (Reading::readPlainFile(path, Reading::Limits::anyFile, &bytes, &reason))
+        return m_digest(bytes);
+    if (!QFileInfo::exists(path))
+        return QByteArray();
+    return Utils::Failure{Tr::tr("\"%1\" cannot be read, so what stands there would be lost: %2.")
+                              .arg(QDir::toNativeSeparators(path), reason)};
 }
 
 bool GenerationRecord::keep(const QString &path, QString *error)
@@ -75,17 +88,29 @@ bool GenerationRecord::begin(QString *error)
     m_before = *read;
     if (!m_before)
         return true;
+    const ResultPaths paths = resultPaths(m_plan.outputs);
+    const QStringList replaced = paths.always + paths.sometimes;
+    QStringList written = replaced;
+    for (const DigestedFile &file : qAsConst(m_includeFiles))
+        written.append(m_input.createInPath + u'/' + file.name);
+    QHash<QString, QByteArray> sums;
+    for (const QString &path : qAsConst(written)) {
+        const auto sum = digestToKeep(path);
+        if (!sum) {
+            *error = sum.reason();
+            return false;
+        }
+        sums.insert(path, *sum);
+    }
     for (const DigestedFile &file : qAsConst(m_includeFiles)) {
         const QString path = m_input.createInPath + u'/' + file.name;
-        const QByteArray present = digestOf(path);
+        const QByteArray present = sums.value(path);
         if (present.isEmpty() || present == file.sha256 || m_before->knows(file.name, present))
             continue;
         if (!keep(path, error))
             return false;
     }
     m_left = standing(m_before->pendingFiles);
-    const ResultPaths paths = resultPaths(m_plan.outputs);
-    const QStringList replaced = paths.always + paths.sometimes;
     QStringList results = replaced;
     if (m_before->synthesis) {
         for (const DigestedFile &file : m_before->synthesis->files) {
@@ -95,7 +120,8 @@ bool GenerationRecord::begin(QString *error)
         }
     }
     for (const QString &path : qAsConst(results)) {
-        const QByteArray present = digestOf(path);
+        const auto sum = sums.constFind(path);
+        const QByteArray present = sum == sums.cend() ? digestOf(path) : *sum;
         const QString name = belowOutput(path, m_input.createInPath);
         if (present.isEmpty() || isRecorded(name, present))
             continue;
@@ -139,9 +165,13 @@ bool GenerationRecord::keepEditedOutputs(QString *error)
     if (!m_before)
         return true;
     const auto keepUnless = [&](const QString &path, const QByteArray &next) {
-        const QByteArray present = digestOf(path);
+        const auto present = digestToKeep(path);
+        if (!present) {
+            *error = present.reason();
+            return false;
+        }
         const QString name = belowOutput(path, m_input.createInPath);
-        return present.isEmpty() || present == next || isRecorded(name, present) ||
+        return present->isEmpty() || *present == next || isRecorded(name, *present) ||
                keep(path, error);
     };
     for (const Output &output : qAsConst(m_plan.outputs.copied)) {

@@ -22,7 +22,8 @@ public:
 
     // Before the first include file: from now on an earlier manifest says that a run has not
     // finished. Contents of files that were edited since the last run stand in NAME.edited (or
-    // NAME.edited-2, …) beside them afterwards.
+    // NAME.edited-2, …) beside them afterwards. One that cannot be read, and so not be kept, is a
+    // failure before anything is written.
     bool begin(QString *error);
     // After a run of the tool that succeeded, before its results are collected: the same for
     // outputs.
@@ -45,7 +46,9 @@ public:
 
 private:
     bool keep(const QString &path, QString *error);
-    QByteArray digestOf(const QString &path) const;
+    QByteArray digestOf(const QString &path) const; // empty: not there, or cannot be read
+    // The same for a file that is about to be replaced: one that is there has to be read.
+    Utils::Result<QByteArray> digestToKeep(const QString &path) const;
     bool isRecorded(const QString &name, const QByteArray &sha256) const; // by a run that ended
     // Those that hold what is said of them.
     QVector<DigestedFile> standing(const QVector<DigestedFile> &files) const;
@@ -64,7 +67,7 @@ private:
     QVector<DigestedFile> m_includeFiles;
     std::optional<GenerationManifest> m_before;
     QVector<DigestedFile> m_left; // what runs that did not end have made, as far as it stands
-    QVector<Kept> m_kept; // and made by this object
+    QVector<Kept> m_kept;         // and made by this object
     QStringList m_messages;
 };
 

@@ -16,6 +16,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace TARVOORIXM1
@@ -168,7 +169,7 @@ public:
     {
         for (auto it = entries.cbegin(); it != entries.cend(); ++it) {
             if (it.key().section(u'/', 0, -2) == IpcFile::configGroup)
-                m_result.options.insert(it.key().section(u'/', -1), it.value());
+                m_result.options.insert(it.key().section(u'/', -1), texts(it.value()));
             else
                 m_result.frame.insert(it.key(), it.value());
         }
@@ -198,6 +199,12 @@ public:
     }
 
 private:
+    // QSettings gives a list of values instead of texts where one begins with an "@".
+    static QVariant texts(const QVariant &value)
+    {
+        return value.type() == QVariant::List ? QVariant(value.toStringList()) : value;
+    }
+
     void tell(const QString &key, const QString &problem, const QString &fix, bool isMade = true)
     {
         m_result.mends.append({key, problem, fix, isMade});
@@ -433,7 +440,26 @@ private:
 Upgraded upgraded(const QVariantMap &entries, const QString &ipId, const DEV::DeviceDb &devices,
                   const DEV::DeviceArg &chosen)
 {
-    return Upgrader(entries, ipId, devices, chosen).run();
+    const auto isMade = [](const Mend &mend) { return mend.isMade; };
+    Upgraded result = Upgrader(entries, ipId, devices, chosen).run();
+    // What was in the way of an entry may be gone now: a value that made no sense, for example,
+    // where the same option stands elsewhere too.
+    constexpr int mostRounds = 20;
+    for (int round = 0; round < mostRounds; ++round) {
+        if (std::all_of(result.mends.begin(), result.mends.end(), isMade) ||
+            std::none_of(result.mends.begin(), result.mends.end(), isMade))
+            break;
+        QVariantMap mended = result.frame;
+        for (auto it = result.options.cbegin(); it != result.options.cend(); ++it)
+            mended.insert(IpcFile::configGroup + u'/' + it.key(), it.value());
+        const Upgraded again = Upgrader(mended, ipId, devices, chosen).run();
+        if (std::none_of(again.mends.begin(), again.mends.end(), isMade))
+            break;
+        QVector<Mend> mends;
+        std::copy_if(result.mends.begin(), result.mends.end(), std::back_inserter(mends), isMade);
+        result = {again.frame, again.options, mends + again.mends};
+    }
+    return result;
 }
 
 } // namespace TARVOORIXM1

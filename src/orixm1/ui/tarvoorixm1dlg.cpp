@@ -182,6 +182,7 @@ void TarvoOrixM1Dlg::generateCore()
     QString error;
     if (!record->begin(&error)) {
         UpdateCreatinPath();
+        tellNotices();
         if (!error.isEmpty())
             showErrorBox(this, error);
         return;
@@ -191,14 +192,12 @@ void TarvoOrixM1Dlg::generateCore()
             // Saving took the output folder out of the map; the blocks' dialogs need it for as long
             // as this one stays open.
             UpdateCreatinPath();
+            tellNotices();
             return;
         }
     }
 
-    if (!synthesis) {
-        synthesis = new SynthesisHelper(this);
-        connect(synthesis, SIGNAL(finished(int)), this, SLOT(onGenerationFinished(int)));
-    }
+    makeSynthesis();
     if (input.tool)
         synthesis->setSynthesizeTool(toolOfHost(*input.tool));
 
@@ -214,6 +213,24 @@ void TarvoOrixM1Dlg::generateCore()
     synthesis->showProgressDlg();
     synthesis->setArgs(args);
     synthesis->start();
+}
+
+void TarvoOrixM1Dlg::makeSynthesis()
+{
+    if (synthesis)
+        return;
+    synthesis = new SynthesisHelper(this);
+    connect(synthesis, SIGNAL(finished(int)), this, SLOT(onGenerationFinished(int)));
+}
+
+void TarvoOrixM1Dlg::tellNotices()
+{
+    if (!record || record->messages().isEmpty())
+        return;
+    makeSynthesis();
+    if (synthesis->metaObject()->indexOfMethod("tellNotices(QStringList)") >= 0)
+        QMetaObject::invokeMethod(synthesis, "tellNotices", Qt::DirectConnection,
+                                  Q_ARG(QStringList, record->messages()));
 }
 
 void TarvoOrixM1Dlg::finishRecord(int exitCode, int status)
@@ -249,6 +266,7 @@ void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
                                 IPCore::decode);
     }
     finishRecord(exitCode, result.status);
+    tellNotices();
     synthesis->hideProgressDlg();
     if (result.status != 0) {
         UpdateCreatinPath();

@@ -59,14 +59,16 @@ private:
     // Ends the record of a generation after a run that ended with `exitCode` and whose results were
     // collected with `status`.
     void finishRecord(int exitCode, int status);
+    // Tells a host that listens where the contents of edited files are.
+    void tellNotices();
+    void makeSynthesis();
     QString tempDir() const;
 
     const OptionMap ipInfo;
     IPView *view = nullptr;
     OptionMap options;
-    IPCore::SynthesisHelper *synthesis =
-        nullptr;                              // child of this dialog, made by the first generation
-    std::unique_ptr<GenerationRecord> record; // of the last generation
+    IPCore::SynthesisHelper *synthesis = nullptr; // child of this dialog, made when it is needed
+    std::unique_ptr<GenerationRecord> record;     // of the last generation
 };
 
 } // namespace TARVOORIXM1

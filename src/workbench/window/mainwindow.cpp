@@ -224,6 +224,7 @@ void MainWindow::connectHost()
     const IPCore::SynthesisMonitor &monitor = IPCore::SynthesisMonitor::instance();
     connect(&monitor, &IPCore::SynthesisMonitor::runStarted, this, &MainWindow::onRunStarted);
     connect(&monitor, &IPCore::SynthesisMonitor::runFinished, this, &MainWindow::onRunFinished);
+    connect(&monitor, &IPCore::SynthesisMonitor::noticed, this, &MainWindow::onNoticed);
 }
 
 void MainWindow::buildDocks()
@@ -573,6 +574,14 @@ void MainWindow::onRunFinished(const Synthesis::RunReport &report)
     m_lastRun->setReport(report);
     if (!m_session->isActive())
         m_lastRun->keep({});
+}
+
+void MainWindow::onNoticed(const QStringList &notices)
+{
+    for (const QString &notice : notices)
+        m_messages->append(MessageModel::Warning, notice);
+    m_outputDock->show();
+    output()->showMessages();
 }
 
 void MainWindow::chooseDevice()

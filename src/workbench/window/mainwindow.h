@@ -139,6 +139,7 @@ private:
 
     void onRunStarted(IPCore::SynthesisHelper *helper);
     void onRunFinished(const Synthesis::RunReport &report);
+    void onNoticed(const QStringList &notices);
     void onIpClosed(const QStringList &files);
 
     IpCatalogue &m_catalogue;

@@ -95,6 +95,20 @@ private Q_SLOTS:
         QCOMPARE(helper.report().summary, report.summary);
     }
 
+    void passesOnWhatAPlugInHasToSay()
+    {
+        QSignalSpy noticed(&SynthesisMonitor::instance(), &SynthesisMonitor::noticed);
+        SynthesisHelper helper;
+        const QStringList notices = {QStringLiteral("One."), QStringLiteral("Two.")};
+        // As a plug-in calls it, which knows its name only.
+        QObject *object = &helper;
+        QVERIFY(QMetaObject::invokeMethod(object, "tellNotices", Q_ARG(QStringList, notices)));
+        QCOMPARE(noticed.size(), 1);
+        QCOMPARE(noticed.first().first().toStringList(), notices);
+        QVERIFY(QMetaObject::invokeMethod(object, "tellNotices", Q_ARG(QStringList, {})));
+        QCOMPARE(noticed.size(), 1);
+    }
+
     void aFailedStartIsARunToo()
     {
         auto &monitor = SynthesisMonitor::instance();

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void tellsEachMistakeWithItsPlace();
     void tellsAllMistakesOfAPlan();
     void goesThroughGridListAndDevices();
+    void aPatternOfManyStarsTakesNoTime();
     void namesADeviceOnce_data();
     void namesADeviceOnce();
     void keepsNamesWhenThePlanGrows();
@@ -366,6 +367,19 @@ void tst_SweepPlan::readsItsExample()
     QCOMPARE(read.plan.base, QStringLiteral("sensor-node.ipc"));
     QVERIFY(sweepPointCount(read.plan) > 8);
     QVERIFY(!read.plan.exclude.isEmpty() && !read.plan.pictureX.isEmpty());
+}
+
+void tst_SweepPlan::aPatternOfManyStarsTakesNoTime()
+{
+    const QByteArray stars = QByteArray("*-").repeated(200) + "*";
+    const SweepPlanText none = readText("{\"devices\": [\"" + stars + "\"]}");
+    QCOMPARE(none.mistakes.size(), 1);
+    const QByteArray many = QByteArray("*").repeated(20000);
+    QCOMPARE(readText("{\"devices\": [\"TV5K-25A" + many + "\"]}").plan.devices.size(), 1);
+    const SweepPlanText excluding =
+        readText("{\"devices\": [\"TV5K-25A\"], \"exclude\": [{\"device\": \"" + many + "?\"}]}");
+    QVERIFY(excluding.mistakes.isEmpty());
+    QVERIFY(isExcluded(excluding.plan, device(large), {}));
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_SweepPlan)

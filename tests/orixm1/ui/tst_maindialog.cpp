@@ -11,6 +11,7 @@
 #include <diagram/ipview.h>
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
+#include <ipcore/synthesismonitor.h>
 #include <ui/tarvoorixm1dlg.h>
 #include <utils/folderlock.h>
 #include <utils/inifile.h>
@@ -139,6 +140,8 @@ private Q_SLOTS:
     void theOutputFolderComesBackWhereTheDialogStaysOpen_data();
     void theOutputFolderComesBackWhereTheDialogStaysOpen();
     void aFailedRunKeepsTheInitialisationFolder();
+    void tellsTheHostWhereEditedFilesAre();
+    void anEditedFileThatCannotBeReadStopsBeforeTheRun();
 
 private:
     std::unique_ptr<TarvoOrixM1Dlg> newDialog(const char *device = "TV2KR-18C-QFN88P-C8/I7");
@@ -992,6 +995,48 @@ void tst_MainDialog::aFailedRunKeepsTheInitialisationFolder()
         QCOMPARE(stored(Key::itcmInitializationAbsolutePath).toString(),
                  QString(folder + QStringLiteral("/init")));
     }
+}
+
+void tst_MainDialog::tellsTheHostWhereEditedFilesAre()
+{
+    const FakeTool fake("exit 1\n");
+    const auto dialog = newDialog();
+    QSignalSpy noticed(&IPCore::SynthesisMonitor::instance(), &IPCore::SynthesisMonitor::noticed);
+    QVERIFY(!runToTheEnd(*dialog).isEmpty());
+    QCOMPARE(noticed.size(), 0);
+
+    const QString include =
+        m_dir->filePath(QStringLiteral("tarvo_orix_m1/temp/tv_orix_m1/ahb_option_defs.v"));
+    QVERIFY(TestSupport::write(include, "// mine\n"));
+    QVERIFY(!runToTheEnd(*dialog).isEmpty());
+    QCOMPARE(noticed.size(), 1);
+    const QStringList notices = noticed.first().first().toStringList();
+    QCOMPARE(notices.size(), 1);
+    QVERIFY2(notices.first().contains(include + QLatin1String(".edited")),
+             qPrintable(notices.first()));
+    QCOMPARE(TestSupport::contentsOf(include + QLatin1String(".edited")), QByteArray("// mine\n"));
+}
+
+void tst_MainDialog::anEditedFileThatCannotBeReadStopsBeforeTheRun()
+{
+    const FakeTool fake("exit 1\n");
+    const auto dialog = newDialog();
+    QVERIFY(!runToTheEnd(*dialog).isEmpty());
+    const QString folder = m_dir->filePath(QStringLiteral("tarvo_orix_m1"));
+    const QString manifest = folder + QLatin1String("/temp/tv_orix_m1/manifest.json");
+    const QByteArray before = TestSupport::contentsOf(manifest);
+    QVERIFY(!before.isEmpty());
+    const QString output = folder + QLatin1String("/tarvo_orix_m1.v");
+    QVERIFY(QDir().mkpath(output));
+
+    const auto boxes = TestSupport::boxesOf([&] { pressOk(*dialog); }, QMessageBox::Yes);
+    QCOMPARE(boxes.size(), 2);
+    QVERIFY2(boxes.at(1).text.contains(output) &&
+                 boxes.at(1).text.contains(QLatin1String("cannot be read")),
+             qPrintable(boxes.at(1).text));
+    QCOMPARE(TestSupport::contentsOf(manifest), before);
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(), folder);
+    QVERIFY(!dialog->findChild<IPCore::SynthesisHelper *>()->isRunning());
 }
 
 TARVO_TEST_MAIN(QApplication, tst_MainDialog)
