@@ -2,6 +2,7 @@
 
 #include "exportsoftware.h"
 #include "firmware.h"
+#include "measurecommand.h"
 #include "movetodevice.h"
 #include "simulationcommand.h"
 #include "tarvoorixm1.h"
@@ -74,6 +75,11 @@ QVariantMap TarvoOrixM1Package::simulationCommand(const QString &ipcFile) const
 QVariantList TarvoOrixM1Package::simulationExamples() const
 {
     return TARVOORIXM1::simulationExamples(dataPath());
+}
+
+QVariantMap TarvoOrixM1Package::measureCommand(const QVariantMap &configuration) const
+{
+    return TARVOORIXM1::measureCommand(configuration, dataPath(), *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

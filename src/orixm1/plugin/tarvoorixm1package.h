@@ -43,6 +43,10 @@ public:
     // written.
     Q_INVOKABLE QVariantMap simulationCommand(const QString &ipcFile) const;
     Q_INVOKABLE QVariantList simulationExamples() const;
+
+    // For hosts that ask for it by name: how a configuration is synthesised to see what it takes of
+    // its device; see measurecommand.h. Nothing is written.
+    Q_INVOKABLE QVariantMap measureCommand(const QVariantMap &configuration) const;
 };
 
 } // namespace TARVOORIXM1
