@@ -48,7 +48,7 @@ QVariantMap measureCommand(const QVariantMap &configuration, const QString &data
     const QString file = configuration.value(QStringLiteral("file")).toString();
     if (devices.findDevice(header.value(QStringLiteral("target_device")).toString()).isNull())
         return refusal(QStringLiteral("Without a known device there is nothing to measure."));
-    const Tool tool = effectiveTool(options.value(Key::synthesisTool));
+    const Tool tool = effectiveTool(valueOf(options, Key::synthesisTool));
     if (!runsUnasked(tool))
         return refusal("\""_l1 + rowOf(tool).name + "\" runs only when it is asked for."_l1);
     const QString program = commandProgram(dataPath);
