@@ -9,8 +9,9 @@ class ToolRun::Private
 {
 public:
     explicit Private(const Call &call)
-        : process({call.name, call.program, call.arguments, false, call.folder}, call.folder,
-                  QStringLiteral("tmp"), -1)
+        : process({call.name, call.program, call.arguments, call.usersHome, call.folder,
+                   call.isIdle, call.hasErrors},
+                  call.folder, QStringLiteral("tmp"), -1)
     {
     }
 

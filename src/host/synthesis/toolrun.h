@@ -12,7 +12,8 @@ namespace Synthesis
 {
 
 // One run of a program, as the tools of a synthesis are run: in a process group of its own, without
-// a shell, a terminal, standard input and the user's home. Whatever it leaves behind dies with it,
+// a shell, a terminal, standard input and, unless it is to see that, the user's home. Whatever it
+// leaves behind dies with it,
 // and all of it with this object or this process, however that ends. Needs a running event loop.
 class TARVO_SYNTHESIS_EXPORT ToolRun : public QObject
 {
@@ -26,6 +27,9 @@ public:
         // Where it runs, by its full path; its temporary files go into "tmp" below it, which must
         // exist. The folder is removed if this object or this process goes while the program runs.
         QString folder;
+        bool usersHome = false; // sees the user's home, with settings and caches
+        bool isIdle = false;    // gets the processor when nothing else wants it
+        bool hasErrors = true;  // standard error is read as well
     };
 
     explicit ToolRun(const Call &call, QObject *parent = nullptr);

@@ -1,5 +1,6 @@
 #include "simulationcommand.h"
 
+#include "commandprogram.h"
 #include "config/latin1literal.h"
 #include "configuration.h"
 
@@ -11,11 +12,6 @@ namespace TARVOORIXM1
 
 namespace
 {
-
-constexpr const char *programName = "orixm1";
-// Folders between an installation and the plug-in's data: PREFIX/share/tarvo/IP, or beside the
-// plug-in in PREFIX/lib/ARCHITECTURE/tarvo/plugins/IP.
-constexpr int maximumDepth = 5;
 
 // What a simulation starts with.
 struct InputKind {
@@ -55,20 +51,6 @@ constexpr Example examples[] = {
      "sensor-node.ipc", "hello.c"},
 };
 
-// Full path; empty if there is none.
-QString programPath(const QString &dataPath)
-{
-    QDir folder(dataPath);
-    for (int depth = 0; depth <= maximumDepth; ++depth) {
-        const QFileInfo program(folder.absoluteFilePath("bin/"_l1 + QLatin1String(programName)));
-        if (program.isFile() && program.isExecutable())
-            return QDir::cleanPath(program.absoluteFilePath());
-        if (!folder.cdUp())
-            break;
-    }
-    return {};
-}
-
 QVariantMap refusal(const QString &error)
 {
     return {{QStringLiteral("error"), error}};
@@ -85,9 +67,9 @@ QVariantMap simulationCommand(const QString &ipcFile, const QString &ipId, const
     if (map->processor.isBigEndian)
         return refusal(shownPath(ipcFile) + " cannot be simulated: the model of the processor has "
                                             "no big-endian data."_l1);
-    const QString program = programPath(dataPath);
+    const QString program = commandProgram(dataPath);
     if (program.isEmpty())
-        return refusal("The program \""_l1 + QLatin1String(programName) +
+        return refusal("The program \""_l1 + commandProgramName +
                        "\", which simulates, is not installed with the plug-in."_l1);
     QVariantList inputs;
     for (const InputKind &kind : inputKinds)

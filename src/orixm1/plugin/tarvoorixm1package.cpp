@@ -3,6 +3,7 @@
 #include "exportsoftware.h"
 #include "firmware.h"
 #include "maps.h"
+#include "measurecommand.h"
 #include "movetodevice.h"
 #include "simulationcommand.h"
 #include "tarvoorixm1.h"
@@ -81,6 +82,11 @@ QVariantMap TarvoOrixM1Package::maps(const QString &ipcFile) const
 {
     return TARVOORIXM1::maps(ipcFile, idOf(dataPath()), dataPath(),
                              *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::measureCommand(const QVariantMap &configuration) const
+{
+    return TARVOORIXM1::measureCommand(configuration, dataPath(), *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -47,6 +47,10 @@ public:
     // For hosts that ask for it by name: pictures of a configured subsystem whose places lead into
     // the files of exportSoftware(); see maps.h. Nothing is written.
     Q_INVOKABLE QVariantMap maps(const QString &ipcFile) const;
+
+    // For hosts that ask for it by name: how a configuration is synthesised to see what it takes of
+    // its device; see measurecommand.h. Nothing is written.
+    Q_INVOKABLE QVariantMap measureCommand(const QVariantMap &configuration) const;
 };
 
 } // namespace TARVOORIXM1

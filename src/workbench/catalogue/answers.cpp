@@ -4,6 +4,9 @@
 
 #include <QStringList>
 
+#include <QMetaMethod>
+#include <QObject>
+
 #include <algorithm>
 
 namespace Workbench::Answers
@@ -42,6 +45,33 @@ QString pathMistake(const QString &path)
     return {};
 }
 
+bool takeTexts(const QVariantMap &map, const QString &key, int limit, QStringList *texts)
+{
+    const QVariant value = map.value(key);
+    texts->clear();
+    if (!value.isValid())
+        return true;
+    if (value.userType() != QMetaType::QStringList && value.userType() != QMetaType::QVariantList)
+        return false;
+    const QVariantList list = value.toList();
+    if (list.size() > limit)
+        return false;
+    for (const QVariant &entry : list) {
+        QString text;
+        if (entry.userType() != QMetaType::QString || !takeText({{key, entry}}, key, &text))
+            return false;
+        texts->append(text);
+    }
+    return true;
+}
+
+bool takeNumber(const QVariantMap &map, const QString &key, int least, int most, int *number)
+{
+    const QVariant value = map.value(key);
+    *number = value.userType() == QMetaType::Int ? value.toInt() : least - 1;
+    return *number >= least && *number <= most;
+}
+
 QString shown(const QString &text)
 {
     const QString cut = text.size() > 100 ? text.left(100) + QChar(0x2026) : text;
@@ -49,6 +79,17 @@ QString shown(const QString &text)
     for (const QChar c : cut)
         result += c.isPrint() || c == QChar(0x2026) ? c : QChar(0xfffd);
     return u'"' + result + u'"';
+}
+
+bool offers(const QObject *object, const char *method, int type)
+{
+    const int number = object ? object->metaObject()->indexOfMethod(method) : -1;
+    return number >= 0 && object->metaObject()->method(number).returnType() == type;
+}
+
+bool tells(const QObject *object, const char *signal)
+{
+    return object && object->metaObject()->indexOfSignal(signal) >= 0;
 }
 
 } // namespace Workbench::Answers

@@ -1,5 +1,6 @@
 #include "ipcatalogue.h"
 
+#include "answers.h"
 #include "pluginprobe.h"
 #include "tr.h"
 
@@ -23,6 +24,7 @@
 namespace Workbench
 {
 
+using Answers::offers;
 using PluginLoader::thrownBy;
 
 namespace
@@ -53,13 +55,6 @@ QSet<QString> &goodStamps()
 {
     static QSet<QString> stamps;
     return stamps;
-}
-
-// Whether the object, which may be null, has an invokable method that returns this type.
-bool returns(const QObject *root, const char *method, int type)
-{
-    const int number = root ? root->metaObject()->indexOfMethod(method) : -1;
-    return number >= 0 && root->metaObject()->method(number).returnType() == type;
 }
 
 QString plainName(const QString &name)
@@ -324,6 +319,11 @@ QString IpCatalogue::targetOf(int index) const
     return {};
 }
 
+QObject *IpCatalogue::rootOf(int index) const
+{
+    return index >= 0 ? m_cores.at(size_t(index)).root.data() : nullptr;
+}
+
 bool IpCatalogue::canMove(int index) const
 {
     const QObject *root = m_cores.at(size_t(index)).root;
@@ -358,8 +358,8 @@ bool IpCatalogue::moveToDevice(int index, const QString &ipcFile, const QString 
 bool IpCatalogue::canExport(int index) const
 {
     const QObject *root = m_cores.at(size_t(index)).root;
-    return returns(root, formatsMethod, QMetaType::QVariantList) &&
-           returns(root, exportMethod, QMetaType::QVariantMap);
+    return offers(root, formatsMethod, QMetaType::QVariantList) &&
+           offers(root, exportMethod, QMetaType::QVariantMap);
 }
 
 bool IpCatalogue::softwareFormats(int index, QVariantList *answer, QString *error) const
@@ -391,8 +391,8 @@ bool IpCatalogue::exportSoftware(int index, const QString &ipcFile, const QStrin
 bool IpCatalogue::canTakePrograms(int index) const
 {
     const QObject *root = m_cores.at(size_t(index)).root;
-    return returns(root, programMethod, QMetaType::QVariantMap) &&
-           returns(root, startMethod, QMetaType::QVariantMap);
+    return offers(root, programMethod, QMetaType::QVariantMap) &&
+           offers(root, startMethod, QMetaType::QVariantMap);
 }
 
 bool IpCatalogue::firmwareFiles(int index, const QString &ipcFile, const QByteArray &image,
@@ -425,7 +425,7 @@ bool IpCatalogue::startFromFirmware(int index, const QString &ipcFile, const QSt
 
 bool IpCatalogue::canSimulate(int index) const
 {
-    return returns(m_cores.at(size_t(index)).root, simulateMethod, QMetaType::QVariantMap);
+    return offers(m_cores.at(size_t(index)).root, simulateMethod, QMetaType::QVariantMap);
 }
 
 bool IpCatalogue::simulationCommand(int index, const QString &ipcFile, QVariantMap *answer,
@@ -448,7 +448,7 @@ QVariantList IpCatalogue::simulationExamples(int index) const
     QVariantList answer;
     QString ignored;
     const bool isOffered =
-        canSimulate(index) && returns(core.root, examplesMethod, QMetaType::QVariantList);
+        canSimulate(index) && offers(core.root, examplesMethod, QMetaType::QVariantList);
     if (!ask(
             core, isOffered,
             [&](QObject *root) {

@@ -68,6 +68,9 @@ public:
 
     // The name that the IP's files have by its descriptor; empty if that does not say.
     QString targetOf(int index) const;
+    // The root object of the IP's plug-in, for what it may offer beside its dialog; null for no IP.
+    // Owned by the library.
+    QObject *rootOf(int index) const;
     // Whether the plug-in can make the IP's configurations for other devices: its root object has
     // an invokable QVariantMap moveToDevice(const QString &ipcFile, const QString &deviceId, bool
     // write).

@@ -88,13 +88,14 @@ IpSession::IpSession(IpCatalogue &catalogue, QObject *parent)
 {
 }
 
-bool IpSession::begin(QString *error)
+bool IpSession::begin(int ip, QString *error)
 {
     if (m_active) {
         *error = tr("The dialog of an IP is open. Close it first.");
         return false;
     }
     m_active = true;
+    m_ip = ip;
     m_accepted = false;
     m_droppedId.clear();
     QCoreApplication::instance()->installEventFilter(this);
@@ -124,6 +125,7 @@ void IpSession::follow(QDialog *dialog)
     m_dialog = dialog;
     m_opened = configurationOf(dialog);
     connect(dialog, &QDialog::finished, this, &IpSession::onDialogFinished);
+    Q_EMIT shown(dialog, m_ip);
 }
 
 void IpSession::onDialogFinished(int result)
@@ -186,7 +188,7 @@ void IpSession::keepReplaced(const Contents &before)
 
 bool IpSession::create(int ip, const QString &folder, const DEV::DeviceArg &device, QString *error)
 {
-    if (!m_catalogue.isSupported(ip, device, error) || !begin(error))
+    if (!m_catalogue.isSupported(ip, device, error) || !begin(ip, error))
         return false;
     const Stamps before = ipcStamps(folder);
     const Contents contents = contentsIn(folder);
@@ -222,7 +224,7 @@ bool IpSession::openAs(const QString &ipcFile, const QString &folder, QString *e
                      .arg(QDir::toNativeSeparators(ipcFile), type);
         return false;
     }
-    if (!begin(error))
+    if (!begin(ip, error))
         return false;
     const Contents contents = contentsIn(folder);
     const bool done = m_catalogue.openIp(ip, folder, QFileInfo(ipcFile).absoluteFilePath(), error);

@@ -49,6 +49,8 @@ public:
     static QString typeOf(const QString &ipcFile, QString *error);
 
 Q_SIGNALS:
+    // The dialog of an IP that tells its configuration comes up; it is not seen yet.
+    void shown(QDialog *dialog, int ip);
     // A dialog was closed. `files`: what stands beside the configuration that it wrote or works
     // on; empty if it wrote none.
     void finished(const QStringList &files);
@@ -63,7 +65,7 @@ protected:
 private:
     using Contents = QHash<QString, QByteArray>;
 
-    bool begin(QString *error);
+    bool begin(int ip, QString *error);
     void end();
     void follow(QDialog *dialog);
     void onDialogFinished(int result);
@@ -74,6 +76,7 @@ private:
     KeptConfigurations *m_kept = nullptr;
     std::function<QStringList()> m_knownFiles;
     bool m_active = false;
+    int m_ip = -1;
     bool m_accepted = false;
     // The dialog that tells its configuration; looked at also while it is taken down.
     QPointer<QObject> m_dialog;

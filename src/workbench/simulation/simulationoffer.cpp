@@ -12,38 +12,12 @@
 namespace Workbench
 {
 
+using Answers::takeNumber;
 using Answers::takeText;
+using Answers::takeTexts;
 
 namespace
 {
-
-// Texts of a list; an absent one is empty.
-bool takeTexts(const QVariantMap &map, const QString &key, int limit, QStringList *texts)
-{
-    const QVariant value = map.value(key);
-    texts->clear();
-    if (!value.isValid())
-        return true;
-    if (value.userType() != QMetaType::QStringList && value.userType() != QMetaType::QVariantList)
-        return false;
-    const QVariantList list = value.toList();
-    if (list.size() > limit)
-        return false;
-    for (const QVariant &entry : list) {
-        QString text;
-        if (entry.userType() != QMetaType::QString || !takeText({{key, entry}}, key, &text))
-            return false;
-        texts->append(text);
-    }
-    return true;
-}
-
-bool takeNumber(const QVariantMap &map, const QString &key, int least, int most, int *number)
-{
-    const QVariant value = map.value(key);
-    *number = value.userType() == QMetaType::Int ? value.toInt() : least - 1;
-    return *number >= least && *number <= most;
-}
 
 bool isFile(const QString &path)
 {

@@ -3,6 +3,7 @@
 #include "catalogue/catalogueview.h"
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/pluginlist.h"
+#include "companion/companiondesk.h"
 #include "editactions.h"
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
@@ -136,6 +137,7 @@ void MainWindow::Actions::addViewMenu()
     view->addAction(window->m_projectDock->toggleViewAction());
     view->addAction(window->m_catalogueDock->toggleViewAction());
     view->addAction(window->m_outputDock->toggleViewAction());
+    view->addAction(window->m_companions->action());
     view->addSeparator();
     showResults = add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
                       QKeySequence(int(Qt::CTRL) + Qt::Key_R), [window] { window->showResults(); });

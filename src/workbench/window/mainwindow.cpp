@@ -7,6 +7,7 @@
 #include "catalogue/mapset.h"
 #include "catalogue/pluginlist.h"
 #include "closingsequence.h"
+#include "companion/companiondesk.h"
 #include "editor/codeeditor.h"
 #include "editor/editorpage.h"
 #include "editor/editortabs.h"
@@ -101,6 +102,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_catalogueView(new CatalogueView(catalogue))
     , m_plugins(new PluginList(catalogue, settings, *m_infoBar, this))
     , m_help(new HelpDesk(catalogue, this))
+    , m_companions(new CompanionDesk(settings, companionPanels(settings), this))
 {
     IPCore::FocusRing::install();
     setObjectName(QStringLiteral("mainWindow"));
@@ -186,6 +188,9 @@ void MainWindow::connectParts()
     connect(m_ips.get(), &IpActions::showRequested, this, [this](const QString &ipcFile) {
         m_projectDock->show();
         m_projectPane->select(ipcFile);
+    });
+    connect(m_session, &IpSession::shown, m_companions, [this](QDialog *dialog, int ip) {
+        m_companions->follow(dialog, m_catalogue.rootOf(ip));
     });
     connect(m_session, &IpSession::finished, this, &MainWindow::onIpClosed);
     connect(m_closing, &ClosingSequence::finished, this, &MainWindow::close);
@@ -588,6 +593,11 @@ void MainWindow::chooseDevice()
 {
     if (m_projectActions->chooseDevice())
         m_ips->tellOfOtherDevices(m_projectPane->ipsOfOtherDevices());
+}
+
+Companion *MainWindow::companion() const
+{
+    return m_companions->companion();
 }
 
 HelpWindow *MainWindow::help() const

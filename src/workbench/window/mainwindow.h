@@ -29,6 +29,8 @@ namespace Workbench
 
 class CatalogueView;
 class ClosingSequence;
+class Companion;
+class CompanionDesk;
 class EditorTabs;
 class HelpDesk;
 class HelpWindow;
@@ -93,6 +95,8 @@ public:
     void setRunStore(const RunStore &store);
     // The window of the guide and of IPs' documents; null while there is none.
     HelpWindow *help() const;
+    // The window beside the dialog of an IP; null while there is none.
+    Companion *companion() const;
 
     // Keeps unsaved changes in files of their own and tells where, on standard error.
     void keepUnsaved();
@@ -165,6 +169,7 @@ private:
     CatalogueView *m_catalogueView;
     PluginList *m_plugins;
     HelpDesk *m_help;
+    CompanionDesk *m_companions;
     QDockWidget *m_projectDock;
     QDockWidget *m_catalogueDock;
     QDockWidget *m_outputDock;

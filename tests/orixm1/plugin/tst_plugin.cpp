@@ -69,6 +69,10 @@ private Q_SLOTS:
     void refusesPrograms_data();
     void refusesPrograms();
     void startsTheConfigurationFromAProgram();
+    void tellsHowAConfigurationIsMeasured_data();
+    void tellsHowAConfigurationIsMeasured();
+    void refusesToMeasureWithASentence_data();
+    void refusesToMeasureWithASentence();
     void tellsHowASubsystemIsSimulated_data();
     void tellsHowASubsystemIsSimulated();
     void tellsWhyNothingIsSimulated_data();
@@ -88,6 +92,7 @@ private:
     QVariantMap simulationCommand(const QString &file);
     QVariantList simulationExamples();
     QVariantMap maps(const QString &file);
+    QVariantMap measureCommand(const QVariantMap &configuration);
     IPPlugin *plugin() { return qobject_cast<IPPlugin *>(m_loader.instance()); }
     std::unique_ptr<BaseIPCoreInterface>
     core(const QString &dataPath = QStringLiteral(TARVO_IP_DATA_DIR));
@@ -823,6 +828,117 @@ void tst_Plugin::startsTheConfigurationFromAProgram()
         startFromFirmware(dir.filePath(QStringLiteral("y.ipc")), QString(), true);
     QVERIFY(refused.value(QStringLiteral("error")).toString().contains(QLatin1String("y.ipc")));
     QVERIFY(!QFileInfo::exists(dir.filePath(QStringLiteral("y.ipc"))));
+}
+
+namespace
+{
+
+QVariantMap configurationWith(const QVariantMap &options,
+                              const char *device = "TV2KR-18C-QFN88P-C8/I7")
+{
+    return {{QStringLiteral("file"), QStringLiteral("/home/somebody/ip/tarvo_orix_m1.ipc")},
+            {QStringLiteral("header"),
+             QVariantMap{{QStringLiteral("target_device"), QString::fromLatin1(device)},
+                         {QStringLiteral("type"), QStringLiteral("tarvo.tarvo_orix_m1")},
+                         {QStringLiteral("version"), QStringLiteral("1.0")}}},
+            {QStringLiteral("options"), options}};
+}
+
+} // namespace
+
+QVariantMap tst_Plugin::measureCommand(const QVariantMap &configuration)
+{
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(plugin(), "measureCommand", Qt::DirectConnection,
+                                                 Q_RETURN_ARG(QVariantMap, answer),
+                                                 Q_ARG(QVariantMap, configuration));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::tellsHowAConfigurationIsMeasured_data()
+{
+    QTest::addColumn<QVariantMap>("options");
+    QTest::addColumn<QString>("contents"); // where the memory's contents are looked for
+    const QString key = QStringLiteral("ITCM_Initialization_AbsolutePath");
+    QTest::newRow("nothing on") << QVariantMap() << QString();
+    QTest::newRow("values of other types")
+        << QVariantMap{{QStringLiteral("Enable UART0"), true}, {QStringLiteral("LANG"), 1}}
+        << QString();
+    QTest::newRow("contents by their full path")
+        << QVariantMap{{key, QStringLiteral("/srv/itcm")}} << QStringLiteral("/srv/itcm");
+    QTest::newRow("contents from the output folder")
+        << QVariantMap{{key, QStringLiteral("../../itcm")}}
+        << QStringLiteral("/home/somebody/ip/itcm");
+}
+
+// What it is given as a file says what the dialog said, in any folder.
+void tst_Plugin::tellsHowAConfigurationIsMeasured()
+{
+    QFETCH(QVariantMap, options);
+    QFETCH(QString, contents);
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    const QVariantMap answer = measureCommand(configurationWith(options));
+    QCOMPARE(answer.value(QStringLiteral("error")), QVariant(QString()));
+    QCOMPARE(QFileInfo(answer.value(QStringLiteral("program")).toString()).canonicalFilePath(),
+             QFileInfo(QStringLiteral(TARVO_COMMAND)).canonicalFilePath());
+    QTemporaryDir dir;
+    const QString file = dir.filePath(answer.value(QStringLiteral("file")).toString());
+    QVERIFY(TestSupport::write(file, answer.value(QStringLiteral("configuration")).toByteArray()));
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        QCOMPARE(settings.value(QStringLiteral("target_device")).toString(),
+                 QStringLiteral("TV2KR-18C-QFN88P-C8/I7"));
+        settings.beginGroup(QStringLiteral("Config"));
+        QCOMPARE(settings.childKeys(), options.keys());
+        for (auto it = options.begin(); it != options.end(); ++it) {
+            const bool isContents = it.key().startsWith(QLatin1String("ITCM"));
+            QCOMPARE(settings.value(it.key()).toString(),
+                     isContents ? contents : it.value().toString());
+        }
+    }
+    // The program takes these arguments, and works in the folder that it is started in.
+    QProcess run;
+    run.setWorkingDirectory(dir.path());
+    run.start(answer.value(QStringLiteral("program")).toString(),
+              answer.value(QStringLiteral("arguments")).toStringList() +
+                  QStringList(QStringLiteral("--no-synth")));
+    QVERIFY(run.waitForFinished(-1));
+    QVERIFY2(run.exitCode() == 0, run.readAllStandardError().constData());
+    const QJsonObject told = QJsonDocument::fromJson(run.readAllStandardOutput()).object();
+    QVERIFY(told.value(QStringLiteral("resources")).isArray());
+    const QStringList made =
+        QVariant(told.value(QStringLiteral("files")).toArray().toVariantList()).toStringList();
+    QVERIFY(!made.isEmpty());
+    for (const QString &path : made)
+        QVERIFY2(QFileInfo(path).canonicalFilePath().startsWith(
+                     QFileInfo(dir.path()).canonicalFilePath() + u'/'),
+                 qPrintable(path));
+}
+
+void tst_Plugin::refusesToMeasureWithASentence_data()
+{
+    QTest::addColumn<QVariantMap>("configuration");
+    QTest::addColumn<QString>("dataPath");
+    QTest::addColumn<QString>("reason");
+    const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
+    QTest::newRow("nothing") << QVariantMap() << data << QStringLiteral("Without a known device");
+    QTest::newRow("an unknown device")
+        << configurationWith({}, "TV9-1") << data << QStringLiteral("Without a known device");
+    QTest::newRow("no program") << configurationWith({}) << QStringLiteral("/")
+                                << QStringLiteral("not installed");
+}
+
+void tst_Plugin::refusesToMeasureWithASentence()
+{
+    QFETCH(QVariantMap, configuration);
+    QFETCH(QString, dataPath);
+    QFETCH(QString, reason);
+    plugin()->setDataPath(dataPath);
+    const QVariantMap answer = measureCommand(configuration);
+    QCOMPARE(answer.keys(), QStringList(QStringLiteral("error")));
+    const QString error = answer.value(QStringLiteral("error")).toString();
+    QVERIFY2(error.contains(reason), qPrintable(error));
+    QVERIFY(error.endsWith(u'.'));
 }
 
 // A host that has Qt can load the plug-in.

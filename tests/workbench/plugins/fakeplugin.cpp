@@ -87,6 +87,12 @@ public:
                 {QStringLiteral("options"), options}};
     }
     Q_INVOKABLE void change() { options.insert(QStringLiteral("Lamps"), 7); }
+#ifdef FAKE_MEASURES
+Q_SIGNALS:
+    void configurationChanged();
+
+public:
+#endif
 #ifdef FAKE_DRAWS
     Q_INVOKABLE bool saveDiagram(const QString &path, QString *) const
     {
@@ -370,6 +376,23 @@ public:
             {QStringLiteral("files"), QStringList{program, folder + QStringLiteral("/other.c")}},
             {QStringLiteral("input"), QStringLiteral("c")},
             {QStringLiteral("program"), program}}};
+    }
+#endif
+
+#ifdef FAKE_MEASURES
+    // A lamp is a LUT.
+    Q_INVOKABLE QVariantMap estimate(const QVariantMap &configuration) const
+    {
+        const int lamps = configuration.value(QStringLiteral("options"))
+                              .toMap()
+                              .value(QStringLiteral("Lamps"))
+                              .toInt();
+        return {{QStringLiteral("resources"),
+                 QVariantList{QVariantMap{{QStringLiteral("resource"), QStringLiteral("LUT4")},
+                                          {QStringLiteral("value"), lamps},
+                                          {QStringLiteral("low"), lamps},
+                                          {QStringLiteral("high"), lamps + 1},
+                                          {QStringLiteral("available"), 5}}}}};
     }
 #endif
 

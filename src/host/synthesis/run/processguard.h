@@ -17,6 +17,8 @@ struct Program {
     // A folder, by its full path, that goes when this process is gone and the program still ran;
     // empty: none.
     QByteArray doomedFolder;
+    bool isIdle = false;   // gets the processor when nothing else wants it
+    bool hasErrors = true; // its standard error goes where its output goes; else nowhere
 };
 
 // Runs a program in a process group of its own, and kills the group when this process is gone,

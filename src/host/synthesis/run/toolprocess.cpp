@@ -50,6 +50,8 @@ ToolProcess::ToolProcess(const Command &command, const QString &workingDir,
     m_program.environment = encoded(environment.toStringList());
     m_program.folder = QFile::encodeName(workingDir);
     m_program.doomedFolder = QFile::encodeName(command.doomedFolder);
+    m_program.isIdle = command.isIdle;
+    m_program.hasErrors = command.hasErrors;
 }
 
 ToolProcess::~ToolProcess()

@@ -21,6 +21,8 @@ struct Command {
     QStringList arguments;
     bool usersHome = false; // else it has a home folder of its own
     QString doomedFolder{}; // goes when this process dies while the command runs; empty: none
+    bool isIdle = false;    // gets the processor when nothing else wants it
+    bool hasErrors = true;  // standard error is read as well
 };
 
 // One run of a command in a process group of its own, without a shell, a terminal and standard
