@@ -184,8 +184,13 @@ bool IPView::event(QEvent *event)
 
 void IPView::open(QLatin1String dialog)
 {
-    if (runBlockDialog(dialog, m_options, this))
+    const OptionMap before = *m_options;
+    const bool accepted = runBlockDialog(dialog, m_options, this);
+    if (accepted)
         updateView();
+    // Not every dialog that is cancelled leaves the map alone.
+    if (accepted || *m_options != before)
+        Q_EMIT optionsChanged();
 }
 
 void IPView::onBlock()
@@ -430,6 +435,15 @@ void IPView::keyPressEvent(QKeyEvent *event)
         else
             event->ignore();
         return;
+    }
+    // Those of the actions come here where no window is active.
+    const QKeySequence pressed(int(event->modifiers()) | event->key());
+    const QList<QAction *> all = actions();
+    for (QAction *action : all) {
+        if (action->shortcuts().contains(pressed)) {
+            action->trigger();
+            return;
+        }
     }
     const bool control = event->modifiers() & Qt::ControlModifier;
     // Also where the desktop has no keys of its own for it; "+" may need Shift.

@@ -51,6 +51,10 @@ public:
     // it is another one or the file cannot be written.
     Q_INVOKABLE bool saveDiagram(const QString &path, QString *error) const;
 
+Q_SIGNALS:
+    // A dialog has stored its options in the caller's map; they may be those of before.
+    void optionsChanged();
+
 public Q_SLOTS:
     void zoomOut();
     void zoomIn();

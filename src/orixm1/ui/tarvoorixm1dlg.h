@@ -2,8 +2,11 @@
 
 #include "config/optionmap.h"
 #include "microsysipgendlg.h"
+#include "rules/stephistory.h"
 
 #include <memory>
+
+QT_FORWARD_DECLARE_CLASS(QAction)
 
 namespace IPCore
 {
@@ -41,6 +44,19 @@ public:
     // For a host: what OK would store now, {"file": path, "header": map, "options": map}.
     Q_INVOKABLE QVariantMap configuration() const;
 
+    // What was changed since the configuration was made or opened, a map {"name"} for each step,
+    // and how many of them count now; the others are undone.
+    Q_INVOKABLE QVariantList steps() const;
+    Q_INVOKABLE int currentStep() const;
+    // Lets the first `count` steps count; 0 is what the file has. The fields of the window are no
+    // steps and stay as they are. False, and nothing happens, for a number that there is not, and
+    // while a window of this one is open in front of it.
+    Q_INVOKABLE bool goToStep(int count);
+
+Q_SIGNALS:
+    // configuration() tells something else than before.
+    void configurationChanged();
+
 public Q_SLOTS:
     // Validates, saves and starts generation; the dialog closes when the run has succeeded.
     void accept() override;
@@ -48,10 +64,20 @@ public Q_SLOTS:
 private Q_SLOTS:
     void onGenerationFinished(int exitCode);
     void UpdateCreatinPath();
+    void onOptionsChanged();
+    void onFieldChanged();
+    void undo();
+    void redo();
 
 private:
     void updateDeviceDependentState() override;
     bool loadIPConfig(const QString &ipcFile) override;
+
+    void buildActions();
+    // The options without what the window's fields decide.
+    OptionMap steppedOptions() const;
+    void updateActions();
+    void tellChange();
 
     void generateCore();
     // From what the widgets select now.
@@ -64,6 +90,10 @@ private:
     const OptionMap ipInfo;
     IPView *view = nullptr;
     OptionMap options;
+    StepHistory history;
+    QVariantMap lastTold; // what configuration() was when a change was told last
+    QAction *undoAction = nullptr;
+    QAction *redoAction = nullptr;
     IPCore::SynthesisHelper *synthesis =
         nullptr;                              // child of this dialog, made by the first generation
     std::unique_ptr<GenerationRecord> record; // of the last generation
