@@ -2,10 +2,12 @@
 
 #include "ui_microsysipgendlg.h"
 
+#include "config/descriptor.h"
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
+#include "diagram/findline.h"
 #include "diagram/ipview.h"
 #include "dialogs/messagebox.h"
 #include "generate/plan.h"
@@ -63,6 +65,8 @@ TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
     buildActions();
     history.restart(steppedOptions());
     lastTold = configuration();
+    view->setFindIndex([this] { return findIndex(); });
+    connect(view, SIGNAL(pointedAt(QString)), this, SIGNAL(pointedAt(QString)));
     connect(view, SIGNAL(optionsChanged()), this, SLOT(onOptionsChanged()));
     connect(ui->editCreateIn, SIGNAL(textChanged(QString)), this, SLOT(onFieldChanged()));
     connect(ui->comboBoxLanguage, SIGNAL(currentIndexChanged(int)), this, SLOT(onFieldChanged()));
@@ -228,6 +232,32 @@ void TarvoOrixM1Dlg::redo()
 {
     goToStep(currentStep() + 1);
 }
+
+// Find and point
+
+FindIndex TarvoOrixM1Dlg::findIndex()
+{
+    if (!description) {
+        description = std::make_unique<SystemDescription>();
+        const QString folder = dataFolder(ipInfo);
+        if (auto peripherals = readRegisterMap(folder))
+            description->peripherals = *peripherals;
+        else
+            descriptionError = peripherals.reason();
+        if (auto interrupts = readOtherInterrupts(folder))
+            description->otherInterrupts = *interrupts;
+        else
+            descriptionError = interrupts.reason();
+    }
+    return {findables(options, currentDevice(), *description), descriptionError};
+}
+
+void TarvoOrixM1Dlg::pointAt(const QString &block)
+{
+    view->pointAt(block);
+}
+
+// Saving and generation
 
 bool TarvoOrixM1Dlg::saveIPConfig()
 {

@@ -18,7 +18,9 @@ namespace TARVOORIXM1
 
 class GenerationRecord;
 class IPView;
+struct FindIndex;
 struct GenerationInput;
+struct SystemDescription;
 
 // The configuration window of one IP. Owns its option map; everything else of the IP is in its .ipc
 // file.
@@ -53,9 +55,15 @@ public:
     // while a window of this one is open in front of it.
     Q_INVOKABLE bool goToStep(int count);
 
+    // Frames the block of the diagram with this label; an empty or an unknown one: none.
+    Q_INVOKABLE void pointAt(const QString &block);
+
 Q_SIGNALS:
     // configuration() tells something else than before.
     void configurationChanged();
+    // The block of the diagram, by its label, that is under the mouse or that the keyboard has
+    // reached; empty: none.
+    void pointedAt(const QString &block);
 
 public Q_SLOTS:
     // Validates, saves and starts generation; the dialog closes when the run has succeeded.
@@ -78,6 +86,7 @@ private:
     OptionMap steppedOptions() const;
     void updateActions();
     void tellChange();
+    FindIndex findIndex();
 
     void generateCore();
     // From what the widgets select now.
@@ -94,6 +103,8 @@ private:
     QVariantMap lastTold; // what configuration() was when a change was told last
     QAction *undoAction = nullptr;
     QAction *redoAction = nullptr;
+    std::unique_ptr<SystemDescription> description; // for findIndex(), which reads it first
+    QString descriptionError;
     IPCore::SynthesisHelper *synthesis =
         nullptr;                              // child of this dialog, made by the first generation
     std::unique_ptr<GenerationRecord> record; // of the last generation
