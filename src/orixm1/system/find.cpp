@@ -176,7 +176,7 @@ void addRegions(const SystemMap &now, const SystemMap &most, QVector<Findable> *
         entry.base = region.base;
         entry.last = region.last;
         entry.detail =
-            region.text + ", "_l1 + shown(region.base) + " to "_l1 + shown(region.last) + state;
+            shown(region.base) + " to "_l1 + shown(region.last) + state + "; "_l1 + region.text;
         all->append(entry);
     };
     QSet<QString> present;
