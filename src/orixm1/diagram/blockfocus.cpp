@@ -35,7 +35,8 @@ QList<IPItem *> BlockFocus::reachable() const
 
 void BlockFocus::set(IPItem *block)
 {
-    if (block != m_block) {
+    const bool isOther = block != m_block;
+    if (isOther) {
         updateFrame();
         m_block = block;
         updateFrame();
@@ -43,6 +44,8 @@ void BlockFocus::set(IPItem *block)
             m_view->ensureVisible(block);
     }
     announce();
+    if (isOther && m_listener)
+        m_listener();
 }
 
 bool BlockFocus::step(bool next)
@@ -72,11 +75,10 @@ void BlockFocus::announce()
         m_view->setAccessibleName(name); // tells assistive tools
 }
 
-QRectF BlockFocus::frame() const
+QRectF BlockFocus::frameOf(const IPItem *block)
 {
     constexpr qreal distance = 4;
-    return m_block ? m_block->sceneBoundingRect().adjusted(-distance, -distance, distance, distance)
-                   : QRectF();
+    return block->sceneBoundingRect().adjusted(-distance, -distance, distance, distance);
 }
 
 void BlockFocus::updateFrame()

@@ -5,6 +5,8 @@
 #include <QRectF>
 #include <QSet>
 
+#include <functional>
+
 QT_FORWARD_DECLARE_CLASS(QGraphicsView)
 QT_FORWARD_DECLARE_CLASS(QPainter)
 
@@ -21,6 +23,9 @@ public:
     // The view must outlive this, and its blocks are those of its scene.
     explicit BlockFocus(QGraphicsView *view);
 
+    // Is called when block() has become another.
+    void setListener(const std::function<void()> &listener) { m_listener = listener; }
+
     // The next block on the way. `hasState`: whether it shows that it is on.
     void append(IPItem *block, bool hasState);
 
@@ -32,6 +37,11 @@ public:
     // To the first of them, or the last.
     void enter(bool atStart);
 
+    // Whether the block shows that it is on.
+    bool hasState(IPItem *block) const { return !m_stateless.contains(block); }
+    // Where a frame about the block is, in the scene.
+    static QRectF frameOf(const IPItem *block);
+
     // The block may be switched on or off now.
     void announce();
     // The frame has to be drawn anew.
@@ -40,12 +50,13 @@ public:
 
 private:
     QList<IPItem *> reachable() const;
-    QRectF frame() const;
+    QRectF frame() const { return m_block ? frameOf(m_block) : QRectF(); }
 
     QGraphicsView *m_view;
     QList<IPItem *> m_order;
     QSet<IPItem *> m_stateless;
     IPItem *m_block = nullptr;
+    std::function<void()> m_listener;
     QPen m_pen{Qt::black, 2};
 };
 

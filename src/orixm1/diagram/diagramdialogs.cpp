@@ -19,6 +19,24 @@ bool runBlockDialog(QLatin1String dialog, OptionMap *options, QWidget *parent)
     return made && made->exec() == QDialog::Accepted;
 }
 
+bool switchInBlockDialog(QLatin1String dialog, const QVector<int> &switches, Switching switching,
+                         OptionMap *options, QWidget *parent)
+{
+    OptionMap changed = *options;
+    const std::unique_ptr<PeripheralDlg> made = makeBlockDialog(dialog, &changed, parent);
+    if (!made)
+        return false;
+    for (const int index : switches) {
+        const bool on =
+            switching == Switching::Toggle ? !made->isSwitchOn(index) : switching == Switching::On;
+        if (!made->clickSwitch(index, on))
+            return false;
+    }
+    made->accept();
+    *options = changed;
+    return true;
+}
+
 void runSavePictureDialog(QWidget *parent,
                           const std::function<bool(const QString &path, QString *error)> &save)
 {

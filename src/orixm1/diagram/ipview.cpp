@@ -4,20 +4,26 @@
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
-#include "diagramdialogs.h"
 #include "diagrampicture.h"
 #include "diagramtable.h"
+#include "findline.h"
 #include "ipitem.h"
 #include "labelfont.h"
 #include "lineitem.h"
+#include "rules/dialogdefaults.h"
 #include "textitem.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
+#include <QToolTip>
+
+#include <iterator>
 
 namespace TARVOORIXM1
 {
@@ -68,6 +74,16 @@ QList<QPoint> linePoints(const DiagramRow &row)
     return points;
 }
 
+// The place in the block's table of the one switch that a box stands for; -1: there is no such one.
+int switchOfBox(const Block &block, const QString &label)
+{
+    for (int i = 0; i < int(std::size(block.boxes)) && !block.hasPorts(); ++i) {
+        if (label == block.boxes[i].label)
+            return i;
+    }
+    return -1;
+}
+
 // How a slot is named where a connection is made.
 QByteArray slotSignature(const char *slot)
 {
@@ -89,11 +105,15 @@ IPView::IPView(OptionMap *options, QWidget *parent)
     buildButtons();
     updateLabelFont();
     m_focus.announce();
+    m_focus.setListener([this] { focusChanged(); });
 
+    auto *find = new QAction(tr("Find..."), this);
+    find->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_F));
+    connect(find, SIGNAL(triggered()), this, SLOT(onFind()));
+    addAction(find);
     auto *savePicture = new QAction(tr("Save Picture As..."), this);
     connect(savePicture, SIGNAL(triggered()), this, SLOT(onSavePicture()));
     addAction(savePicture);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void IPView::buildScene()
@@ -117,6 +137,8 @@ void IPView::buildScene()
                                      fillColor(row.fill), row.text, parent);
             if (nextParent <= DiagramRow::SubSystem)
                 parents[nextParent++] = block;
+            if (row.text.size() > 0)
+                m_boxByLabel.insert(row.text, block);
             if (row.toolTip.size() > 0)
                 block->setToolTip(row.toolTip);
             if (row.slot) {
@@ -184,8 +206,117 @@ bool IPView::event(QEvent *event)
 
 void IPView::open(QLatin1String dialog)
 {
-    if (runBlockDialog(dialog, m_options, this))
+    const OptionMap before = *m_options;
+    const bool accepted = runBlockDialog(dialog, m_options, this);
+    if (accepted)
         updateView();
+    // Not every dialog that is cancelled leaves the map alone.
+    if (accepted || *m_options != before)
+        Q_EMIT optionsChanged();
+}
+
+void IPView::toggle(IPItem *item)
+{
+    const Block *block = blockOfBox(item->text());
+    const int index = block ? switchOfBox(*block, item->text()) : -1;
+    if (index >= 0)
+        switchIn(item, {index}, Switching::Toggle);
+    else if (block)
+        say(tr("%1 has a switch for each port: its dialog switches one, its menu all of them.")
+                .arg(item->text()),
+            item);
+    else
+        say(tr("%1 cannot be switched off.").arg(item->text()), item);
+}
+
+void IPView::switchPorts(IPItem *item, Switching switching)
+{
+    const Block *block = blockOfBox(item->text());
+    QVector<int> all;
+    for (int i = 0; block && i < block->switches.size(); ++i)
+        all.append(i);
+    if (!all.isEmpty())
+        switchIn(item, all, switching);
+}
+
+void IPView::switchIn(const IPItem *item, const QVector<int> &switches, Switching switching)
+{
+    const Block &block = *blockOfBox(item->text());
+    if (!switchInBlockDialog(block.dialog, switches, switching, m_options, this)) {
+        say(tr("%1 cannot be switched on: %2 cannot have it.")
+                .arg(item->text(), textOf(*m_options, Key::ipDevice)),
+            item);
+        return;
+    }
+    updateView();
+    if (!m_focus.hasState(m_blockByLabel.value(item->text()))) {
+        const bool on = isOn(*m_options, block.switches[switches.first()].key());
+        say(on ? tr("%1 is switched on.").arg(item->text())
+               : tr("%1 is switched off.").arg(item->text()),
+            item);
+    }
+    Q_EMIT optionsChanged();
+}
+
+void IPView::say(const QString &text, const IPItem *about)
+{
+    m_notice = text;
+    setAccessibleDescription(text);
+    if (text.isEmpty())
+        return;
+    const QPoint below = mapFromScene(about->sceneBoundingRect().bottomLeft());
+    QToolTip::showText(viewport()->mapToGlobal(below), text, viewport());
+}
+
+void IPView::addBlockActions(QMenu *menu, IPItem *item)
+{
+    QAction *open = menu->addAction(tr("Open %1...").arg(item->text()) + "\tEnter"_l1);
+    connect(open, &QAction::triggered, item, &IPItem::doubleClicked);
+    const Block *block = blockOfBox(item->text());
+    const int index = block ? switchOfBox(*block, item->text()) : -1;
+    const QString device = textOf(*m_options, Key::ipDevice);
+    const auto shownOn = [this, block, &device](int i) {
+        return dialogValue(*m_options, block->switches[i].key(), device).toBool();
+    };
+    if (block && block->hasPorts()) {
+        int on = 0;
+        for (int i = 0; i < block->switches.size(); ++i)
+            on += shownOn(i) ? 1 : 0;
+        QAction *all = menu->addAction(tr("Switch All Ports On"));
+        all->setEnabled(on < block->switches.size());
+        connect(all, &QAction::triggered, this, [this, item] { switchPorts(item, Switching::On); });
+        QAction *none = menu->addAction(tr("Switch All Ports Off"));
+        none->setEnabled(on > 0);
+        connect(none, &QAction::triggered, this,
+                [this, item] { switchPorts(item, Switching::Off); });
+        return;
+    }
+    const bool isShownOn = index >= 0 && shownOn(index);
+    QAction *toggled =
+        menu->addAction((isShownOn ? tr("Switch %1 Off") : tr("Switch %1 On")).arg(item->text()) +
+                        (index >= 0 ? "\tSpace"_l1 : ""_l1));
+    toggled->setEnabled(index >= 0);
+    connect(toggled, &QAction::triggered, this, [this, item] { toggle(item); });
+}
+
+void IPView::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    IPItem *item = byMouse ? topBlockAt(event->pos()) : m_focus.block();
+    if (item && (!item->isClickable() || !m_blockByLabel.contains(item->text())))
+        item = nullptr;
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (item) {
+        addBlockActions(menu, item);
+        menu->addSeparator();
+    }
+    menu->addActions(actions());
+    QPoint at = event->globalPos();
+    if (item && !byMouse)
+        at = viewport()->mapToGlobal(mapFromScene(item->sceneBoundingRect().bottomLeft()));
+    menu->popup(at);
+    event->accept();
 }
 
 void IPView::onBlock()
@@ -250,11 +381,107 @@ void IPView::setAvailable(QLatin1String key, bool available)
         disconnect(block, SIGNAL(doubleClicked()), this, slot.constData());
         if (block == m_focus.block())
             m_focus.set(nullptr);
+        if (block == m_focusedBefore)
+            m_focusedBefore = nullptr;
+        if (block == m_pointed)
+            pointAt(QString());
     }
     block->setClickable(available);
     block->setVisible(available);
     m_dropByLabel.value(label)->setVisible(available);
     updateView();
+}
+
+// Find
+
+void IPView::onFind()
+{
+    if (!m_findLine) {
+        m_findLine = new FindLine(this);
+        connect(m_findLine, SIGNAL(taken(QString, QString)), this,
+                SLOT(onFindTaken(QString, QString)));
+        connect(m_findLine, &FindLine::chosen, this, &IPView::pointAt);
+        connect(m_findLine, SIGNAL(closed(bool)), this, SLOT(onFindClosed(bool)));
+    }
+    if (m_findLine->isHidden())
+        m_focusedBefore = m_focus.block();
+    m_findLine->open(m_findIndex ? m_findIndex() : FindIndex());
+}
+
+void IPView::onFindTaken(const QString &name, const QString &box)
+{
+    IPItem *block = m_blockByLabel.value(box);
+    if (!block) {
+        m_findLine->setNotice(tr("%1 comes by itself: no dialog decides over it.").arg(name));
+    } else if (!block->isClickable() || !block->isVisible()) {
+        m_findLine->setNotice(tr("There is no %1 on %2, the device of this configuration.")
+                                  .arg(box, textOf(*m_options, Key::ipDevice)));
+    } else {
+        m_findLine->leave(true);
+        Q_EMIT block->doubleClicked();
+    }
+}
+
+void IPView::onFindClosed(bool stays)
+{
+    IPItem *hit = m_pointed;
+    pointAt(QString());
+    const bool canFocus =
+        hit && m_blockByLabel.value(hit->text()) == hit && hit->isClickable() && hit->isVisible();
+    setFocus(Qt::OtherFocusReason);
+    m_focus.set(stays && canFocus ? hit : m_focusedBefore);
+}
+
+// Pointing
+
+void IPView::pointAt(const QString &block)
+{
+    IPItem *item = m_boxByLabel.value(block);
+    if (item && !item->isVisible())
+        item = nullptr;
+    if (item == m_pointed)
+        return;
+    for (IPItem *changed : {m_pointed, item}) {
+        if (changed)
+            m_scene->invalidate(BlockFocus::frameOf(changed).adjusted(-3, -3, 3, 3),
+                                QGraphicsScene::ForegroundLayer);
+    }
+    m_pointed = item;
+    if (item)
+        ensureVisible(item);
+}
+
+void IPView::hover(const IPItem *block)
+{
+    const QString label = block ? block->text() : QString();
+    if (label == m_hovered)
+        return;
+    m_hovered = label;
+    const IPItem *focused = m_focus.block();
+    tellPointed(label.isEmpty() && focused ? focused->text() : label);
+}
+
+void IPView::focusChanged()
+{
+    if (!m_notice.isEmpty())
+        say(QString(), nullptr); // it was about another block
+    const IPItem *focused = m_focus.block();
+    tellPointed(focused ? focused->text() : m_hovered);
+}
+
+void IPView::tellPointed(const QString &label)
+{
+    if (label == m_toldPointed)
+        return;
+    m_toldPointed = label;
+    Q_EMIT pointedAt(label);
+}
+
+bool IPView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Leave)
+        hover(nullptr);
+    return QGraphicsView::viewportEvent(event);
 }
 
 // Zoom
@@ -323,6 +550,8 @@ void IPView::resizeEvent(QResizeEvent *event)
     in.moveBottomRight({corner.x(), out.top() - spacing});
     m_zoomInButton->setGeometry(in);
     QGraphicsView::resizeEvent(event);
+    if (m_findLine && !m_findLine->isHidden())
+        m_findLine->place();
     if (m_fitted)
         fit();
 }
@@ -363,6 +592,7 @@ void IPView::mouseMoveEvent(QMouseEvent *event)
     } else {
         const IPItem *block = topBlockAt(event->pos());
         setCursor(block && block->isClickable() ? Qt::ArrowCursor : Qt::OpenHandCursor);
+        hover(block);
     }
     QGraphicsView::mouseMoveEvent(event);
 }
@@ -431,6 +661,24 @@ void IPView::keyPressEvent(QKeyEvent *event)
             event->ignore();
         return;
     }
+    if (!m_notice.isEmpty())
+        say(QString(), nullptr);
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
+        if (m_focus.block())
+            toggle(m_focus.block());
+        else
+            event->ignore();
+        return;
+    }
+    // Those of the actions come here where no window is active.
+    const QKeySequence pressed(int(event->modifiers()) | event->key());
+    const QList<QAction *> all = actions();
+    for (QAction *action : all) {
+        if (action->shortcuts().contains(pressed)) {
+            action->trigger();
+            return;
+        }
+    }
     const bool control = event->modifiers() & Qt::ControlModifier;
     // Also where the desktop has no keys of its own for it; "+" may need Shift.
     if (event->matches(QKeySequence::ZoomIn) ||
@@ -447,6 +695,11 @@ void IPView::keyPressEvent(QKeyEvent *event)
 void IPView::drawForeground(QPainter *painter, const QRectF & /*rect*/)
 {
     m_focus.drawFrame(painter);
+    if (!m_pointed)
+        return;
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(palette().color(QPalette::Highlight), 3, Qt::DotLine));
+    painter->drawRoundedRect(BlockFocus::frameOf(m_pointed), 3, 3);
 }
 
 // Font and pictures

@@ -3,22 +3,30 @@
 #include "blockfocus.h"
 #include "config/latin1literal.h"
 #include "config/optionmap.h"
+#include "diagramdialogs.h"
 
 #include <QGraphicsView>
 #include <QHash>
 #include <QList>
 #include <QMap>
 
+#include <functional>
+
+QT_FORWARD_DECLARE_CLASS(QMenu)
 QT_FORWARD_DECLARE_CLASS(QToolButton)
 
 namespace TARVOORIXM1
 {
 
+class FindLine;
 class IPItem;
 class LineItem;
+struct Block;
+struct FindIndex;
 
 // The picture of the subsystem: a double-click on a block, or Enter on the one that Tab has
-// focused, opens the block's dialog. Works on the caller's option map, which must outlive it.
+// focused, opens the block's dialog; Space, or the context menu, switches the block without it.
+// Works on the caller's option map, which must outlive it.
 class IPView : public QGraphicsView
 {
     Q_OBJECT
@@ -44,12 +52,28 @@ public:
     // The block that the keyboard has reached; null if none.
     IPItem *focusedBlock() const { return m_focus.block(); }
 
+    // What Ctrl+F looks through, asked for each time; without it, nothing is found.
+    void setFindIndex(const std::function<FindIndex()> &index) { m_findIndex = index; }
+
+    // Frames the block with this label; an empty or an unknown one: none.
+    void pointAt(const QString &block);
+
+    // Why the last key or command did nothing, or what it did where the diagram does not show it.
+    QString notice() const { return m_notice; }
+
     // Draws the whole diagram as it is now, without the focus frame, into `target`, keeping its
     // proportions.
     void renderDiagram(QPainter *painter, const QRectF &target) const;
     // The format follows from the ending: .svg, .png or .pdf. False, and a sentence in `*error`, if
     // it is another one or the file cannot be written.
     Q_INVOKABLE bool saveDiagram(const QString &path, QString *error) const;
+
+Q_SIGNALS:
+    // Options were stored in the caller's map; they may be those of before.
+    void optionsChanged();
+    // The block under the mouse or, where none is, the one that the keyboard has reached; empty:
+    // none.
+    void pointedAt(const QString &block);
 
 public Q_SLOTS:
     void zoomOut();
@@ -81,9 +105,14 @@ private Q_SLOTS:
     // own.
     void onBlock();
     void onSavePicture();
+    void onFind();
+    void onFindTaken(const QString &name, const QString &box);
+    void onFindClosed(bool stays);
 
 protected:
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -113,6 +142,18 @@ private:
     // Of the class `dialog`.
     void open(QLatin1String dialog);
 
+    // Switches the block that the box stands for, or says why not.
+    void toggle(IPItem *item);
+    void switchPorts(IPItem *item, Switching switching);
+    void switchIn(const IPItem *item, const QVector<int> &switches, Switching switching);
+    void addBlockActions(QMenu *menu, IPItem *item);
+    // Tells people and assistive tools something about the block.
+    void say(const QString &text, const IPItem *about);
+    // Null: the mouse is over none.
+    void hover(const IPItem *block);
+    void tellPointed(const QString &label);
+    void focusChanged();
+
     IPItem *topBlockAt(const QPoint &position) const;
     void scaleTo(qreal horizontal, qreal vertical);
     void fit();
@@ -129,11 +170,19 @@ private:
     QMap<QString, IPItem *> m_blocks; // those whose look one option decides
     QList<PortBlock> m_portBlocks;
     QHash<QString, IPItem *> m_blockByLabel; // the clickable ones
+    QHash<QString, IPItem *> m_boxByLabel;   // all
     QHash<QString, LineItem *> m_dropByLabel;
     QHash<QString, const char *> m_slotByLabel;
     BlockFocus m_focus{this};
     QFont m_labelFont;
     bool m_fitted = false;
+    IPItem *m_pointed = nullptr; // framed by pointAt()
+    QString m_hovered;           // labels
+    QString m_toldPointed;
+    QString m_notice;
+    std::function<FindIndex()> m_findIndex;
+    FindLine *m_findLine = nullptr; // made by the first search
+    IPItem *m_focusedBefore = nullptr;
 };
 
 } // namespace TARVOORIXM1

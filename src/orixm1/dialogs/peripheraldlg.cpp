@@ -59,6 +59,18 @@ void PeripheralDlg::connectSwitches()
     }
 }
 
+bool PeripheralDlg::isSwitchOn(int index) const
+{
+    return m_switches.at(index)->isChecked();
+}
+
+bool PeripheralDlg::clickSwitch(int index, bool on)
+{
+    if (isSwitchOn(index) != on)
+        m_switches.at(index)->click(); // does nothing where it is disabled
+    return isSwitchOn(index) == on;
+}
+
 void PeripheralDlg::accept()
 {
     for (int i = 0; i < m_switches.size(); ++i)

@@ -32,6 +32,11 @@ public:
     // High enough for the whole form.
     QSize sizeHint() const override;
 
+    // Of the switch with this place in the block's table: whether it is shown as on, and a click on
+    // it as the user's, if it is not as wanted. False: it cannot be switched.
+    bool isSwitchOn(int index) const;
+    bool clickSwitch(int index, bool on);
+
 public Q_SLOTS:
     void accept() override;
 

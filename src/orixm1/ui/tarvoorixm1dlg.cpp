@@ -2,10 +2,12 @@
 
 #include "ui_microsysipgendlg.h"
 
+#include "config/descriptor.h"
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
+#include "diagram/findline.h"
 #include "diagram/ipview.h"
 #include "dialogs/messagebox.h"
 #include "generate/plan.h"
@@ -19,6 +21,9 @@
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
 
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
 #include <QSettings>
 
 namespace TARVOORIXM1
@@ -40,6 +45,9 @@ SynthesisHelper::SynthesizeTool toolOfHost(Tool tool)
     return SynthesisHelper::SynplifyPro;
 }
 
+// What the window's fields decide, and no step brings back.
+constexpr QLatin1String fieldKeys[] = {Key::createInPath, Key::synthesisTool, Key::lang};
+
 } // namespace
 
 TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
@@ -54,6 +62,15 @@ TarvoOrixM1Dlg::TarvoOrixM1Dlg(const OptionMap &info, QWidget *parent)
     view = new IPView(&options, this);
     view->setFitted(true);
     setContentWidget(view);
+    buildActions();
+    history.restart(steppedOptions());
+    lastTold = configuration();
+    view->setFindIndex([this] { return findIndex(); });
+    connect(view, SIGNAL(pointedAt(QString)), this, SIGNAL(pointedAt(QString)));
+    connect(view, SIGNAL(optionsChanged()), this, SLOT(onOptionsChanged()));
+    connect(ui->editCreateIn, SIGNAL(textChanged(QString)), this, SLOT(onFieldChanged()));
+    connect(ui->comboBoxLanguage, SIGNAL(currentIndexChanged(int)), this, SLOT(onFieldChanged()));
+    connect(ui->synToolComboBox, SIGNAL(currentIndexChanged(int)), this, SLOT(onFieldChanged()));
 }
 
 TarvoOrixM1Dlg::~TarvoOrixM1Dlg() = default;
@@ -112,7 +129,135 @@ void TarvoOrixM1Dlg::updateDeviceDependentState()
     view->setCanAvailable(!small);
     view->setSpiFlashAvailable(!small);
     view->updateView();
+    history.restart(steppedOptions());
+    tellChange();
 }
+
+// Steps
+
+void TarvoOrixM1Dlg::buildActions()
+{
+    const auto make = [this](const char *slot, const QList<QKeySequence> &keys) {
+        auto *action = new QAction(view);
+        action->setShortcuts(keys);
+        connect(action, SIGNAL(triggered()), this, slot);
+        view->addAction(action);
+        return action;
+    };
+    undoAction = make(SLOT(undo()), {QKeySequence(Qt::CTRL + Qt::Key_Z)});
+    redoAction = make(SLOT(redo()), {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z),
+                                     QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    updateActions();
+}
+
+void TarvoOrixM1Dlg::updateActions()
+{
+    const int step = currentStep();
+    const bool canUndo = step > 0;
+    const bool canRedo = step < history.stepCount();
+    undoAction->setEnabled(canUndo);
+    redoAction->setEnabled(canRedo);
+    undoAction->setText(canUndo ? tr("Undo: %1").arg(history.name(step - 1)) : tr("Undo"));
+    redoAction->setText(canRedo ? tr("Redo: %1").arg(history.name(step)) : tr("Redo"));
+}
+
+OptionMap TarvoOrixM1Dlg::steppedOptions() const
+{
+    OptionMap stepped = options;
+    for (const QLatin1String key : fieldKeys)
+        stepped.remove(key);
+    return stepped;
+}
+
+void TarvoOrixM1Dlg::onOptionsChanged()
+{
+    if (history.accept(steppedOptions()))
+        tellChange();
+}
+
+void TarvoOrixM1Dlg::onFieldChanged()
+{
+    if (configuration() != lastTold)
+        tellChange();
+}
+
+void TarvoOrixM1Dlg::tellChange()
+{
+    updateActions();
+    lastTold = configuration();
+    Q_EMIT configurationChanged();
+}
+
+QVariantList TarvoOrixM1Dlg::steps() const
+{
+    QVariantList list;
+    for (int i = 0; i < history.stepCount(); ++i)
+        list.append(QVariantMap{{"name"_l1, history.name(i)}});
+    return list;
+}
+
+int TarvoOrixM1Dlg::currentStep() const
+{
+    return history.currentStep();
+}
+
+bool TarvoOrixM1Dlg::goToStep(int count)
+{
+    for (const QWidget *modal = QApplication::activeModalWidget(); modal && modal != this;
+         modal = modal->parentWidget()) {
+        if (modal->parentWidget() == this)
+            return false;
+    }
+    if (count == currentStep())
+        return true;
+    if (!history.goTo(count))
+        return false;
+    OptionMap restored = history.current();
+    for (const QLatin1String key : fieldKeys) {
+        if (options.contains(key))
+            restored.insert(key, valueOf(options, key));
+    }
+    options = restored;
+    view->updateView();
+    tellChange();
+    return true;
+}
+
+void TarvoOrixM1Dlg::undo()
+{
+    goToStep(currentStep() - 1);
+}
+
+void TarvoOrixM1Dlg::redo()
+{
+    goToStep(currentStep() + 1);
+}
+
+// Find and point
+
+FindIndex TarvoOrixM1Dlg::findIndex()
+{
+    if (!description) {
+        description = std::make_unique<SystemDescription>();
+        const QString folder = dataFolder(ipInfo);
+        if (auto peripherals = readRegisterMap(folder))
+            description->peripherals = *peripherals;
+        else
+            descriptionError = peripherals.reason();
+        if (auto interrupts = readOtherInterrupts(folder))
+            description->otherInterrupts = *interrupts;
+        else
+            descriptionError = interrupts.reason();
+    }
+    return {findables(options, currentDevice(), *description), descriptionError};
+}
+
+void TarvoOrixM1Dlg::pointAt(const QString &block)
+{
+    view->pointAt(block);
+}
+
+// Saving and generation
 
 bool TarvoOrixM1Dlg::saveIPConfig()
 {

@@ -8,6 +8,7 @@
 #include <core/project.h>
 #include <core/projectmanager.h>
 #include <dev/devicedb.h>
+#include <diagram/ipitem.h>
 #include <diagram/ipview.h>
 #include <ipcore/ipcore.h>
 #include <ipcore/synthesishelper.h>
@@ -109,6 +110,13 @@ private Q_SLOTS:
     void savesWhatItLoads();
     void savingTakesTheFolderOutOfTheMap();
     void tellsAHostWhatOkWouldStore();
+    void tellsEachChangeOfWhatOkWouldStore();
+    void eachAcceptedDialogIsAStep();
+    void goesToAnyStepAndBackToTheFile();
+    void keysUndoAndRedo();
+    void stepsLeaveTheFieldsOfTheWindow();
+    void noStepWhileADialogIsOpen();
+    void aCancelledDialogThatChangesAnOptionIsAStep();
     void refusesOtherVersions_data();
     void refusesOtherVersions();
     void warnsOfTheDeviceBeforeTheVersion();
@@ -245,6 +253,198 @@ void tst_MainDialog::tellsAHostWhatOkWouldStore()
         file + QStringLiteral(".told"), told.value(QStringLiteral("header")).toMap(),
         QStringLiteral("Config"), told.value(QStringLiteral("options")).toMap()));
     QCOMPARE(TestSupport::contentsOf(file + QStringLiteral(".told")), stored);
+}
+
+namespace
+{
+
+// Opens the dialog of a block, clicks some of its boxes, and presses OK or Cancel.
+void configure(TarvoOrixM1Dlg &dialog, const char *slot, const QStringList &boxes,
+               QDialogButtonBox::StandardButton end = QDialogButtonBox::Ok)
+{
+    const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+        for (const QString &box : boxes)
+            modal->findChild<QAbstractButton *>(box)->click();
+        modal->findChild<QDialogButtonBox *>()->button(end)->click();
+    });
+    QMetaObject::invokeMethod(dialog.findChild<IPView *>(), slot);
+    QCOMPARE(watcher.count(), 1);
+}
+
+QStringList namesOf(const TarvoOrixM1Dlg &dialog)
+{
+    QStringList names;
+    for (const QVariant &step : dialog.steps())
+        names.append(step.toMap().value(QStringLiteral("name")).toString());
+    return names;
+}
+
+const QString uart0 = QStringLiteral("enableUart0CheckBox");
+const QString uart1 = QStringLiteral("enableUart1CheckBox");
+const QString rtc = QStringLiteral("enableRtcCheckBox");
+
+} // namespace
+
+void tst_MainDialog::tellsEachChangeOfWhatOkWouldStore()
+{
+    TarvoOrixM1Dlg dialog(descriptor());
+    QVariantMap heard = dialog.configuration();
+    int changes = 0;
+    connect(&dialog, &TarvoOrixM1Dlg::configurationChanged, [&] {
+        QVERIFY(dialog.configuration() != heard);
+        heard = dialog.configuration();
+        ++changes;
+    });
+    const auto changesBy = [&](const std::function<void()> &action) {
+        changes = 0;
+        action();
+        [&] { QCOMPARE(heard, dialog.configuration()); }();
+        return changes;
+    };
+    QVERIFY(changesBy([&] {
+                dialog.prepareNew(m_dir->path(), deviceNamed("TV2KR-18C-QFN88P-C8/I7"));
+            }) > 0);
+    QCOMPARE(changesBy([&] { dialog.setLanguageIndex(1); }), 1);
+    QCOMPARE(changesBy([&] { dialog.setLanguageIndex(1); }), 0);
+    auto *tools = dialog.findChild<QComboBox *>(QStringLiteral("synToolComboBox"));
+    tools->addItem(QStringLiteral("Another"));
+    QCOMPARE(changesBy([&] { dialog.selectSynthesisTool(QStringLiteral("Another")); }), 1);
+    auto *field = dialog.findChild<QLineEdit *>(QStringLiteral("editCreateIn"));
+    QCOMPARE(changesBy([&] { field->setText(m_dir->filePath(QStringLiteral("a"))); }), 1);
+    // The same folder.
+    QCOMPARE(changesBy([&] { field->setText(m_dir->filePath(QStringLiteral("a/"))); }), 0);
+    QCOMPARE(changesBy([&] { configure(dialog, "onRtc", {rtc}); }), 1);
+    QCOMPARE(changesBy([&] { configure(dialog, "onRtc", {}); }), 0);
+    QCOMPARE(changesBy([&] { configure(dialog, "onRtc", {rtc}, QDialogButtonBox::Cancel); }), 0);
+    QCOMPARE(changesBy([&] { dialog.goToStep(0); }), 1);
+    QCOMPARE(changesBy([&] { dialog.goToStep(0); }), 0);
+    QCOMPARE(changesBy([&] { dialog.goToStep(1); }), 1);
+    QCOMPARE(changesBy([&] { dialog.goToStep(2); }), 0);
+    field->setText(m_dir->path());
+    QCOMPARE(changesBy([&] { dialog.saveIPConfig(); }), 0);
+}
+
+void tst_MainDialog::eachAcceptedDialogIsAStep()
+{
+    const auto dialog = newDialog();
+    QCOMPARE(dialog->steps(), QVariantList());
+    QCOMPARE(dialog->currentStep(), 0);
+    configure(*dialog, "onUart", {uart0});
+    configure(*dialog, "onRtc", {rtc}, QDialogButtonBox::Cancel);
+    configure(*dialog, "onRtc", {});
+    configure(*dialog, "onRtc", {});
+    configure(*dialog, "onUart", {uart0, uart1});
+    QCOMPARE(namesOf(*dialog),
+             QStringList({QStringLiteral("UART0 on"), QStringLiteral("RTC confirmed"),
+                          QStringLiteral("UART0 off, UART1 on")}));
+    QCOMPARE(dialog->currentStep(), 3);
+    // What is undone is there until another step takes its place.
+    QVERIFY(dialog->goToStep(1));
+    QCOMPARE(namesOf(*dialog).size(), 3);
+    configure(*dialog, "onRtc", {rtc});
+    QCOMPARE(namesOf(*dialog), QStringList({QStringLiteral("UART0 on"), QStringLiteral("RTC on")}));
+}
+
+void tst_MainDialog::goesToAnyStepAndBackToTheFile()
+{
+    const auto dialog = opened("[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\ntype=x\n"
+                               "version=1.0\n[Config]\nEnable%20RTC=true\nown=1\n");
+    QVector<QVariantMap> states = {dialog->configuration()};
+    configure(*dialog, "onRtc", {});
+    QCOMPARE(dialog->steps().size(), 0); // the file holds the same
+    configure(*dialog, "onRtc", {rtc});
+    states.append(dialog->configuration());
+    configure(*dialog, "onUart", {uart1});
+    states.append(dialog->configuration());
+    configure(*dialog, "onCortexM1", {QStringLiteral("radioButtonNum16")});
+    states.append(dialog->configuration());
+    for (const int step : {0, 3, 1, 2, 0, 2, 3}) {
+        bool went = false;
+        QVERIFY(QMetaObject::invokeMethod(dialog.get(), "goToStep", Q_RETURN_ARG(bool, went),
+                                          Q_ARG(int, step)));
+        QVERIFY(went);
+        QCOMPARE(dialog->currentStep(), step);
+        QCOMPARE(dialog->configuration(), states.at(step));
+    }
+    for (const int none : {-1, 4}) {
+        QVERIFY(!dialog->goToStep(none));
+        QCOMPARE(dialog->currentStep(), 3);
+    }
+}
+
+void tst_MainDialog::keysUndoAndRedo()
+{
+    const auto dialog = newDialog();
+    dialog->show();
+    QApplication::setActiveWindow(dialog.get());
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    auto *view = dialog->findChild<IPView *>();
+    view->setFocus();
+    configure(*dialog, "onUart", {uart0});
+    configure(*dialog, "onRtc", {rtc});
+    const auto press = [&](int key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(view, Qt::Key(key), modifiers);
+        return dialog->currentStep();
+    };
+    const auto isActive = [&](const char *label) {
+        for (QGraphicsItem *item : view->scene()->items()) {
+            auto *block = qgraphicsitem_cast<IPItem *>(item);
+            if (block && block->text() == QLatin1String(label))
+                return block->isActive();
+        }
+        return false;
+    };
+    QVERIFY(isActive("RTC"));
+    QCOMPARE(press(Qt::Key_Z, Qt::ControlModifier), 1);
+    QVERIFY(!isActive("RTC"));
+    QVERIFY(isActive("UART0"));
+    QCOMPARE(press(Qt::Key_Z, Qt::ControlModifier), 0);
+    QCOMPARE(press(Qt::Key_Z, Qt::ControlModifier), 0);
+    QCOMPARE(press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier), 1);
+    QCOMPARE(press(Qt::Key_Y, Qt::ControlModifier), 2);
+    QCOMPARE(press(Qt::Key_Y, Qt::ControlModifier), 2);
+    QVERIFY(isActive("RTC"));
+}
+
+void tst_MainDialog::stepsLeaveTheFieldsOfTheWindow()
+{
+    const auto dialog = newDialog();
+    auto *field = dialog->findChild<QLineEdit *>(QStringLiteral("editCreateIn"));
+    configure(*dialog, "onRtc", {rtc});
+    field->setText(QStringLiteral("/elsewhere"));
+    dialog->setLanguageIndex(1);
+    QVERIFY(dialog->goToStep(0));
+    QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(),
+             QStringLiteral("/elsewhere"));
+    QCOMPARE(dialog->languageIndex(), 1);
+    QVERIFY(!dialog->currentOptions().contains(Key::enableRtc));
+    QCOMPARE(dialog->currentOptions().value(Key::ipDevice).toString(), QStringLiteral("TV2KR-18C"));
+}
+
+void tst_MainDialog::noStepWhileADialogIsOpen()
+{
+    const auto dialog = newDialog();
+    configure(*dialog, "onRtc", {rtc});
+    bool refused = false;
+    const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+        refused = !dialog->goToStep(0);
+        modal->close();
+    });
+    dialog->findChild<IPView *>()->onRtc();
+    QVERIFY(refused);
+    QCOMPARE(dialog->currentStep(), 1);
+    QVERIFY(dialog->goToStep(0));
+}
+
+void tst_MainDialog::aCancelledDialogThatChangesAnOptionIsAStep()
+{
+    const auto dialog = newDialog("TV1KL-5A");
+    const QVariantMap before = dialog->configuration();
+    configure(*dialog, "onCortexM1", {}, QDialogButtonBox::Cancel);
+    QVERIFY(dialog->configuration() != before);
+    QCOMPARE(dialog->steps().size(), 1);
+    QVERIFY(dialog->goToStep(0));
+    QCOMPARE(dialog->configuration(), before);
 }
 
 void tst_MainDialog::followsTheCreateInField()
