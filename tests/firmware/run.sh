@@ -15,7 +15,7 @@ cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
 # The rules of the buses are held: what breaks one is printed. The runs that are about memories have the same transfers, and are spared
 # the time. Their program has to fit into small ones.
-checkers=$here/../rtl/checkers
+checkers=$data/simulation/checkers
 watch=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
 size=()
 if [[ $case == memor* ]]; then

@@ -15,7 +15,8 @@ boxes=()
 for name in can_core triple_speed_mac ddr3_controller psram_interface trng_core; do
     boxes+=("$rtl/$name.v")
 done
-iverilog -g2005 -s tb -I "$tests" -I "$tests/checkers" -y "$tests/checkers" -I "$ip/temp/tv_orix_m1" -I "$rtl" -DGATES \
+checkers=$tests/../../data/tarvo_orix_m1/simulation/checkers
+iverilog -g2005 -s tb -I "$tests" -I "$checkers" -y "$checkers" -I "$ip/temp/tv_orix_m1" -I "$rtl" -DGATES \
     "-DPROGRAM_DIR=\"$tests/program\"" -o "$tmp/bench" "${boxes[@]}" "$tmp/model.v" "$tests/tb_top.v" || exit 1
 (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
 status=$?

@@ -10,6 +10,7 @@
 # bits of counters for long times.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+checkers=$here/../../data/tarvo_orix_m1/simulation/checkers
 rtl=$(cd "$1" && pwd)
 shift
 least=95
@@ -49,7 +50,7 @@ run() { # DATA BENCH WORD…: runs a row; what it reached is in the file DATA
     done
     verilator --cc --exe --build --timing --coverage-line --coverage-toggle -fno-life --x-assign 0 --default-language 1364-2005 \
         -Wno-fatal -Wno-lint -Wno-style -Wno-IMPURE --top-module tb --prefix Vtb "-DPROGRAM_DIR=\"$here/program\"" \
-        "-I$tmp/bench" "-I$here/checkers" "-I$rtl" --Mdir "$tmp/run" -MAKEFLAGS "OPT_FAST=-O0 OPT_SLOW=-O0 OPT_GLOBAL=-O0 OBJCACHE=$cache" \
+        "-I$tmp/bench" "-I$checkers" "-I$rtl" --Mdir "$tmp/run" -MAKEFLAGS "OPT_FAST=-O0 OPT_SLOW=-O0 OPT_GLOBAL=-O0 OBJCACHE=$cache" \
         "$here/coverage.vlt" "${words[@]}" "$tmp/bench/$bench" "$here/coverage_main.cpp" > "$tmp/log" 2>&1 \
         || { tail -n 20 "$tmp/log"; return 1; }
     "$tmp/run/Vtb" "$data" > "$tmp/log" || { cat "$tmp/log"; return 1; }

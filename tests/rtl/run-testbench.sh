@@ -9,6 +9,7 @@
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/configure.sh"
+checkers=$here/../../data/tarvo_orix_m1/simulation/checkers
 orixm1=$1 variants=$2 name=${3:?name of a testbench} model=${4:-rtl} folder=${5:-} length=${6:-whole}
 tmp=$(mktemp -d) || exit 2
 trap 'rm -rf "$tmp"' EXIT
@@ -31,7 +32,7 @@ while read -r entry file rest; do
                     [[ $file == */cortex_m1_core.v ]] || files+=("$file")
                 done
                 roots+=(-s bus_watch)
-                files+=("$here/checkers/bus_watch.v") ;;
+                files+=("$checkers/bus_watch.v") ;;
             *) # in one of the variants, or the same in all
                 found=("$variants"/*/"$word")
                 files+=("${found[0]}") ;;
@@ -79,8 +80,8 @@ if [[ $model != rtl ]]; then
     words+=(-DTARVO_NO_TIMESCALE -DGATES)
 fi
 [[ $length == whole ]] || words+=(-DSHORT)
-iverilog -g2005 -Wall "${roots[@]}" -I "$here" -I "$here/checkers" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" \
-    -o "$tmp/bench" "${words[@]}" "${files[@]}" "$here"/checkers/*_checker.v "$here/$bench" || exit 1
+iverilog -g2005 -Wall "${roots[@]}" -I "$here" -I "$checkers" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" \
+    -o "$tmp/bench" "${words[@]}" "${files[@]}" "$checkers"/*_checker.v "$here/$bench" || exit 1
 (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
 status=$?
 cat "$tmp/log"

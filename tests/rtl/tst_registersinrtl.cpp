@@ -689,8 +689,8 @@ QString simulate(const QString &bench, const QStringList &sources)
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
                               QStringLiteral("-y" RTL_DIR), QStringLiteral("-I" RTL_TESTS_DIR),
-                              QStringLiteral("-I" RTL_TESTS_DIR "/checkers"),
-                              QStringLiteral("-y" RTL_TESTS_DIR "/checkers"),
+                              QStringLiteral("-I" CHECKERS_DIR),
+                              QStringLiteral("-y" CHECKERS_DIR),
                               QStringLiteral("-I" RTL_DIR), QStringLiteral("-o"),
                               QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
@@ -784,7 +784,7 @@ static QStringList subsystemSources(const QTemporaryDir &folder)
             sources.append(file);
     }
     return sources + QStringList{QStringLiteral("-s"), QStringLiteral("bus_watch"),
-                                 QStringLiteral(RTL_TESTS_DIR "/checkers/bus_watch.v")};
+                                 QStringLiteral(CHECKERS_DIR "/bus_watch.v")};
 }
 
 void tst_RegistersInRtl::instancesStandAtTheirAddresses()

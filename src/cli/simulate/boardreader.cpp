@@ -113,7 +113,17 @@ void BoardReader::takeEvent(const QStringList &words)
         m_end.failures = word(2).toLongLong();
     } else if (kind == QLatin1String("empty")) {
         m_end.emptyBlocks.append(word(1).mid(int(sizeof "board.dut")));
-    } else if (kind == QLatin1String("end")) {
+    } else if (kind == QLatin1String("rule")) {
+        // Others are broken with it, and an end may come as well. The processor only sees what a
+        // slave does.
+        if (!m_end.brokenRule || m_end.brokenRule->bus == QLatin1String("processor")) {
+            m_end.brokenRule =
+                BrokenRule{word(2), word(3).toUInt(nullptr, 16), words.mid(4).join(u' ')};
+            m_end.result = SimulationEnd::Failed;
+            m_end.cycles = word(1).toULongLong();
+            m_hasEnded = true;
+        }
+    } else if (kind == QLatin1String("end") && !m_end.brokenRule) {
         m_hasEnded = true;
         m_end.result = word(1) == QLatin1String("passed")    ? SimulationEnd::Passed
                        : word(1) == QLatin1String("timeout") ? SimulationEnd::TimeLimit

@@ -138,6 +138,9 @@ void declareSimulate(CommandLine &line)
                      "status 124 (default: 10000000)")
         ->check(CLI::Range(quint64(1), quint64(1000000000000)))
         ->type_name("CYCLES");
+    command->add_flag("--no-checks", given->leavesChecksOut,
+                      "Leave out the rules of the buses (AHB-Lite, APB), of which else the first "
+                      "that is broken ends the run as failed; it is faster without them");
     line.path(command, "--waves", given->waves,
               "Write all signals (FST), and beside them a view for GTKWave (.gtkw)", "FILE");
     given->fromOption =

@@ -41,6 +41,7 @@ struct SimulateArguments {
     QString uart1;                   // as `uart0`, which may be "pty"; empty: nowhere
     bool readsStandardInput = false; // for the UART that is on the terminal
     bool live = false;
+    bool leavesChecksOut = false; // of the rules of the buses
 
     QString script; // of transfers, in place of a program; empty: none
 };

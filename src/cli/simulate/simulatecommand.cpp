@@ -204,10 +204,32 @@ private:
     // What only the command knows of the reason.
     void explainEnd()
     {
+        if (m_end.brokenRule)
+            m_end.reason = brokenRuleText(*m_end.brokenRule);
         if (!m_arguments.board.isEmpty() && m_end.hasEndedByItself)
             m_end.reason = QLatin1String("the board ") + quoted(fullPath(m_arguments.board)) +
                            QLatin1String(" has ended the simulation without telling \"end\" and "
                                          "the result");
+    }
+
+    // A clause with bus, block, rule and time.
+    QString brokenRuleText(const BrokenRule &broken) const
+    {
+        const bool isProcessor = broken.bus == QLatin1String("processor");
+        const QString bus = isProcessor ? QStringLiteral("AHB") : broken.bus;
+        const Region *region = regionAt(m_map, broken.address);
+        const QString place = isProcessor                    ? QStringLiteral("the processor")
+                              : region && region->bus == bus ? region->name
+                              : bus == QLatin1String("AHB")
+                                  ? QStringLiteral("the bridge to the APB")
+                                  : QStringLiteral("no block");
+        QString text = QStringLiteral("at clock cycle %1 the %2 breaks a rule at %3")
+                           .arg(m_end.cycles)
+                           .arg(bus, place);
+        if (!isProcessor)
+            text += QLatin1String(" (0x") +
+                    QString::number(broken.address, 16).toUpper().rightJustified(8, u'0') + u')';
+        return text + QLatin1String(": ") + broken.rule;
     }
 
     // The number of the UART that is on the terminal; -1: none.
@@ -725,6 +747,10 @@ private:
             design.sources.append(m_simulation->folder() + u'/' + made);
         }
         design.modelFolder = m_modelFolder;
+        if (!m_arguments.leavesChecksOut) {
+            if (const Stop stop = addBusWatch(&design); stop.status != Done)
+                return stop;
+        }
         if (m_arguments.board.isEmpty()) {
             if (const Stop stop = makeBoard(&design.board); stop.status != Done)
                 return stop;
@@ -738,6 +764,41 @@ private:
         return {BadInput, quoted(fullPath(m_arguments.board)) +
                               QLatin1String(" does not compile with the subsystem:\n") +
                               built.reason()};
+    }
+
+    // The rules of the buses, in the top module. Of a netlist's only the processor's pins are
+    // known.
+    Stop addBusWatch(Design *design) const
+    {
+        for (QString &source : design->sources) {
+            QByteArray text;
+            QString error;
+            if (!Utils::FileUtils::readFile(source, &text, &error))
+                return {BadInput, error};
+            const QByteArray watched = withBusWatch(text);
+            if (watched == text)
+                continue;
+            // What it includes stands where it stood.
+            if (const QString folder = QFileInfo(source).absolutePath();
+                !design->includeFolders.contains(folder))
+                design->includeFolders.append(folder);
+            const QString made = QLatin1String("watched/") + QFileInfo(source).fileName();
+            if (const auto written = m_simulation->write(made, watched); !written)
+                return {Failed, written.reason()};
+            source = m_simulation->folder() + u'/' + made;
+        }
+        const QString folder = m_environment.dataFolder() + QLatin1String("/simulation/checkers/");
+        for (const char *name : {"ahb_lite_checker.v", "apb_checker.v", "bus_watch.v"}) {
+            const QString path = folder + QLatin1String(name);
+            if (!QFileInfo(path).isReadable())
+                return {Failed, quoted(path) + QLatin1String(" cannot be read.")};
+            design->sources.append(path);
+        }
+        design->defines +=
+            {QStringLiteral("BUS_RULES_OF_BOARD"), QStringLiteral("WATCHED=board.dut")};
+        if (isNetlist())
+            design->defines.append(QStringLiteral("BUS_WATCH_NETLIST"));
+        return {};
     }
 
     bool isNetlist() const { return m_arguments.model == QLatin1String("netlist"); }

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
 namespace Cli
 {
 
@@ -24,6 +26,13 @@ inline QString failureText(const ScriptFailure &failure)
                                    QLatin1String(": ") + failure.text;
 }
 
+// A rule of a bus that was broken.
+struct BrokenRule {
+    QString bus;         // "AHB" or "APB" at a slave, "processor" at its side of the AHB
+    quint32 address = 0; // of the slave, or of the transfer; nothing at the processor
+    QString rule;
+};
+
 // How a simulation came to its end.
 struct SimulationEnd {
     enum Result { Passed, Failed, TimeLimit, Cancelled };
@@ -35,6 +44,8 @@ struct SimulationEnd {
     QStringList emptyBlocks;     // instances of licensed blocks that were accessed
     QMap<int, QByteArray> uarts; // by number: what each one has sent, up to a limit
     QMap<int, qint64> uartBytes; // how many these were
+
+    std::optional<BrokenRule> brokenRule; // which has ended it
 
     bool hasEndedByItself = false; // nobody has told the end
 

@@ -103,6 +103,8 @@ int statusOf(const SimulationEnd &end)
 
 QString reasonOf(const SimulationEnd &end)
 {
+    if (end.brokenRule)
+        return end.reason;
     QString text = end.isScript && end.hasCounts ? scriptReason(end) : end.reason;
     if (end.result == SimulationEnd::TimeLimit)
         text = end.isScript ? QStringLiteral("the script has not ended")

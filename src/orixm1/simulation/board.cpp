@@ -756,4 +756,15 @@ QByteArray withAnswers(const QByteArray &source)
     return text;
 }
 
+QByteArray withBusWatch(const QByteArray &source)
+{
+    const int top = source.indexOf("\nmodule Tarvo_ORIX_M1_Top");
+    const int end = top < 0 ? -1 : source.indexOf("\nendmodule", top);
+    if (end < 0)
+        return source;
+    QByteArray text = source;
+    return text.insert(end, "\n    bus_watch #(\n`ifndef BUS_WATCH_NETLIST\n"
+                            "        .SLAVES(AHB_ENABLE)\n`endif\n    ) bus_watch ();");
+}
+
 } // namespace TARVOORIXM1

@@ -40,4 +40,9 @@ QByteArray boardOf(const SystemMap &map);
 // source as it is.
 QByteArray withAnswers(const QByteArray &source);
 
+// The Verilog of the top module with the instance bus_watch ("simulation/checkers" in the IP's data
+// folder) in it, which holds the buses to their rules and tells what breaks one. Every other text
+// is returned as it is.
+QByteArray withBusWatch(const QByteArray &source);
+
 } // namespace TARVOORIXM1

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Proves that a module keeps the rules of its buses, which stand in ../checkers and are the same in simulations.
+# Proves that a module keeps the rules of its buses, which stand in data/tarvo_orix_m1/simulation/checkers and are the same in simulations.
 #   prove.sh RTL SUBJECT [CHANGE …]
 # RTL is the folder of the sources, SUBJECT a row of subjects.txt. CHANGE is "FILE: " and a sed script for that source; each must be
 # noticed: the proof must fail. Where CHANGE is "all" or "first", the row's own changes, the lines below it, or the first one, are made.
@@ -8,6 +8,7 @@
 # as the shortest run of Yosys' own "sat".
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+checkers=$here/../../../data/tarvo_orix_m1/simulation/checkers
 rtl=$(cd "$1" && pwd) subject=$2
 shift 2
 tmp=$(mktemp -d)
@@ -35,8 +36,8 @@ prove() { # FOLDER with the sources, and what ABC tries; sets verdict
         ! grep -qE "^ *input .*\b$port\b" "$folder/$module.v" || defines+=" -DHAS_$port"
     done
     {
-        echo "read_verilog -formal -DMODULE=$module -DMOST_WAITS=$waits$defines -I$here -I$here/../checkers -I$folder \
-$here/../checkers/apb_checker.v $here/../checkers/ahb_lite_checker.v $here/$harness.v $(printf " $folder/%s" $files)"
+        echo "read_verilog -formal -DMODULE=$module -DMOST_WAITS=$waits$defines -I$here -I$checkers -I$folder \
+$checkers/apb_checker.v $checkers/ahb_lite_checker.v $here/$harness.v $(printf " $folder/%s" $files)"
         cat << 'END'
 hierarchy -check -top proof
 proc

@@ -363,8 +363,8 @@ void tst_DriversOnRtl::worksOnItsBlock()
         QStringLiteral("iverilog"), QStringLiteral("-g2005"),
         QStringLiteral("-Wall"),    QStringLiteral("-s"),
         QStringLiteral("tb"),       QStringLiteral("-I") + here + QStringLiteral("/rtl")};
-    command << QStringLiteral("-I" RTL_TESTS_DIR) << QStringLiteral("-I" RTL_TESTS_DIR "/checkers")
-            << QStringLiteral("-y" RTL_TESTS_DIR "/checkers") << QStringLiteral("-I") + rtl
+    command << QStringLiteral("-I" RTL_TESTS_DIR) << QStringLiteral("-I" CHECKERS_DIR)
+            << QStringLiteral("-y" CHECKERS_DIR) << QStringLiteral("-I") + rtl
             << QStringLiteral("-o") << bench;
     for (const QString &source : sources.split(QLatin1Char(' ')))
         command << rtl + QLatin1Char('/') + source + QStringLiteral(".v");

@@ -1,10 +1,13 @@
 // The rules of AHB-Lite where a slave meets the bus. Where a master meets it, HSEL is 1 and what the master sees is also what the
 // slave says.
+//   BUS, PLACE     what a board is told of the bus and of an address of the slave
 //   MOST_WAITS     wait states that a slave may make, an error response's first cycle included; -1: any number
 //   ASSUME_MASTER, ASSUME_BUS, ASSUME_SLAVE   proofs take the rules of that side for granted (bus_rule.vh)
 `include "bus_rule.vh"
 
 module ahb_lite_checker #(
+    parameter        BUS    = "AHB",
+    parameter [31:0] PLACE  = 32'd0,
     parameter MOST_WAITS    = -1,
     parameter ASSUME_MASTER = 0,
     parameter ASSUME_BUS    = 0,
@@ -48,7 +51,7 @@ module ahb_lite_checker #(
     reg  [3:0]  lanes;
     reg         began;         // it is not the first cycle
     reg         half;          // the slave has said the first cycle of an error response
-    reg  [15:0] waits;
+    reg  [17:0] waits;
     wire [31:0] bits = {{8{lanes[3]}}, {8{lanes[2]}}, {8{lanes[1]}}, {8{lanes[0]}}};
 
     // The burst that the last transfer belongs to.
@@ -86,7 +89,7 @@ module ahb_lite_checker #(
             lanes         <= 4'd0;
             began         <= 1'b0;
             half          <= 1'b0;
-            waits         <= 16'd0;
+            waits         <= 18'd0;
             goes_on       <= 1'b0;
             excused       <= 1'b0;
             left          <= 4'd0;
@@ -94,22 +97,25 @@ module ahb_lite_checker #(
             page          <= 22'd0;
             burst_control <= 11'd0;
         end else begin
-            waited      <= ~HREADY;
-            refused     <= ~HREADY & HRESP;
-            was_trans   <= HTRANS;
-            was_control <= control;
-            was_wdata   <= HWDATA;
-            began       <= ~HREADY;
+            if (ASSUME_MASTER != 2) begin
+                waited      <= ~HREADY;
+                refused     <= ~HREADY & HRESP;
+                was_trans   <= HTRANS;
+                was_control <= control;
+                was_wdata   <= HWDATA;
+                began       <= ~HREADY;
+            end
             half        <= owns & HRESPOUT & ~HREADYOUT;
             if (HREADY) begin
                 owns   <= HSEL & active;
                 writes <= HWRITE;
                 lanes  <= reached;
-                waits  <= 16'd0;
-            end else if (owns & waits != 16'hFFFF && (MOST_WAITS < 0 || waits <= MOST_WAITS))
-                waits <= waits + 16'd1;
-            excused <= HRESP | (excused & ~(HREADY & (HTRANS == NONSEQ || HTRANS == IDLE)));
-            if (HREADY)
+                waits  <= 18'd0;
+            end else if (owns & waits != 18'h3FFFF && (MOST_WAITS < 0 || waits <= MOST_WAITS))
+                waits <= waits + 18'd1;
+            if (ASSUME_MASTER != 2)
+                excused <= HRESP | (excused & ~(HREADY & (HTRANS == NONSEQ || HTRANS == IDLE)));
+            if (HREADY && ASSUME_MASTER != 2)
                 case (HTRANS)
                     NONSEQ, SEQ: begin
                         goes_on       <= HTRANS == NONSEQ ? HBURST != SINGLE : HBURST == INCR || left > 4'd1;
@@ -127,8 +133,11 @@ module ahb_lite_checker #(
         end
 
     wire stands = control == was_control;
+    wire [31:0] place = PLACE;
 
-    `BUS_RULES(HCLK, HRESETn)
+    `BUS_RULES(HCLK, HRESETn,
+               (ASSUME_MASTER == 2 ? HSEL === 1'b0 && `KNOWN(HREADY) : HTRANS === IDLE && HREADY === 1'b1 && HSEL === 1'b1) && !owns && !waited && !goes_on &&
+                   !half && HREADYOUT === 1'b1 && HRESPOUT === 1'b0 && HRESP === 1'b0)
         // master
         `RULE(1'b1, ASSUME_MASTER, "HTRANS is known", `KNOWN(HTRANS))
         `RULE(active, ASSUME_MASTER, "HADDR, HBURST, HSIZE, HPROT and HWRITE are known", `KNOWN(control))

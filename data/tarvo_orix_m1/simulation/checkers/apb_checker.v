@@ -1,11 +1,14 @@
 // The rules of the APB (with strobes, protection, wait states and error response) for one bus: a master, and the slave in each of
 // SLOTS slots.
 //   SLOTS          select lines
+//   BUS, PLACE     what a board is told of the bus and of its first address
 //   MOST_WAITS     wait states that a slave may make; -1: any number
 //   ASSUME_MASTER, ASSUME_SLAVE   proofs take the rules of that side for granted (bus_rule.vh)
 `include "bus_rule.vh"
 
 module apb_checker #(
+    parameter        BUS    = "APB",
+    parameter [31:0] PLACE  = 32'd0,
     parameter SLOTS         = 1,
     parameter MOST_WAITS    = -1,
     parameter ASSUME_MASTER = 0,
@@ -31,6 +34,7 @@ module apb_checker #(
     wire last     = access & PREADY;
     wire given_up = access & LATE & (PREADY !== 1'b1);
     wire [31:0] lanes   = {{8{PSTRB[3]}}, {8{PSTRB[2]}}, {8{PSTRB[1]}}, {8{PSTRB[0]}}};
+    wire [31:0] place   = PLACE | PADDR;
     wire [SLOTS+41:0] control = {PSEL, PWRITE, PADDR, PSTRB, PPROT, 2'b00};
 
     // Of the clock cycle before.
@@ -57,7 +61,7 @@ module apb_checker #(
                 waits <= 16'd0;
         end
 
-    `BUS_RULES(PCLK, PRESETn)
+    `BUS_RULES(PCLK, PRESETn, PSEL === {SLOTS{1'b0}} && PENABLE === 1'b0 && !running && !dropped)
         // master
         `RULE(1'b1, ASSUME_MASTER, "PSEL is known", `KNOWN(PSEL))
         `RULE(`KNOWN(PSEL), ASSUME_MASTER, "one PSEL at most", (PSEL & (PSEL - 1'b1)) == {SLOTS{1'b0}})
