@@ -4,6 +4,7 @@
 #include "config/latin1literal.h"
 #include "config/optionvalue.h"
 #include "datasheetpictures.h"
+#include "names.h"
 #include "registers/registerdocs.h"
 
 #include <algorithm>
@@ -105,7 +106,7 @@ private:
     void addSummary()
     {
         const DEV::DeviceArg &device = m_map.device;
-        QString title = QStringLiteral("Tarvo_ORIX_M1");
+        QString title = systemName(m_map);
         if (!device.isNull())
             title += " on "_l1 + device.device();
         heading(1, title);
@@ -496,8 +497,8 @@ QVector<ExportedFile> datasheetFiles(const SystemMap &map)
 {
     const Datasheet datasheet(map);
     QVector<ExportedFile> files = {
-        {QStringLiteral("datasheet/tarvo_orix_m1.md"), markdownOf(datasheet.parts())},
-        {QStringLiteral("datasheet/tarvo_orix_m1.html"),
+        {"datasheet/"_l1 + fileName(map, ".md"_l1), markdownOf(datasheet.parts())},
+        {"datasheet/"_l1 + fileName(map, ".html"_l1),
          htmlOf(datasheet.parts(), DatasheetStyle::Screen)}};
     const QVector<Picture> pictures = datasheet.pictures();
     for (const Picture &picture : pictures)
