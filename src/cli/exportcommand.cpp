@@ -4,10 +4,12 @@
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
+#include "prefixchoice.h"
 
 #include <config/nearest.h>
-#include <export/format.h>
-#include <generate/synthesisrequest.h>
+#include <export/names.h>
+#include <export/prefixed.h>
+#include <export/rtl.h>
 #include <rules/generationfolder.h>
 #include <synthesis/resources.h>
 #include <system/description.h>
@@ -35,6 +37,7 @@ struct ExportArguments {
     bool update = false; // the formats of the last export
     bool json = false;
     QString netlist; // of a run, for the figures of resources; empty: none
+    PrefixChoice prefix;
 };
 
 QStringList formatNames()
@@ -117,11 +120,12 @@ Problem usageMistake(const ExportArguments &arguments)
 
 // The formats that are asked for, in their order. Without a name that is all of them; what looks at
 // an earlier export, or repeats it, takes the formats of that.
-QStringList chosenFormats(const ExportArguments &arguments, const QString &folder)
+QStringList chosenFormats(const ExportArguments &arguments, const QString &folder,
+                          const QString &manifest)
 {
     QStringList asked = arguments.formats;
     if (asked.isEmpty() && (arguments.check || arguments.update))
-        asked = Utils::bundleGroups(folder, exportManifest);
+        asked = Utils::bundleGroups(folder, manifest);
     const QStringList all = formatNames();
     QStringList chosen;
     std::copy_if(all.begin(), all.end(), std::back_inserter(chosen),
@@ -132,7 +136,7 @@ QStringList chosenFormats(const ExportArguments &arguments, const QString &folde
 Utils::Bundle bundleOf(const SystemMap &map, const QString &folder, const QStringList &names,
                        bool keepsOtherGroups)
 {
-    Utils::Bundle bundle{folder, exportManifest, {}, names, keepsOtherGroups};
+    Utils::Bundle bundle{folder, exportManifestOf(map), {}, names, keepsOtherGroups};
     for (const QString &name : names) {
         const QVector<ExportedFile> files = findFormat(name)->files(map);
         for (const ExportedFile &file : files)
@@ -257,8 +261,8 @@ QString summaryOf(const Utils::BundleReport &report)
 Utils::Result<ResourceFigures> figuresOf(const QString &netlist, const SystemMap &map)
 {
     const QString path = QFileInfo(netlist).absoluteFilePath();
-    const auto use = Synthesis::readNetlistUse(path, QByteArray(topModule.data(), topModule.size()),
-                                               map.device.resources());
+    const auto use =
+        Synthesis::readNetlistUse(path, topModuleName(map).toUtf8(), map.device.resources());
     if (!use)
         return Utils::Failure{use.reason()};
     QStringList found;
@@ -309,9 +313,17 @@ int runExport(Environment &environment, const ExportArguments &arguments)
     if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
 
+    QString prefix;
+    if (const Status status = arguments.prefix.choose(document, &prefix); status != Done)
+        return status;
     SystemMap map = systemMap(document.options, document.device, *description);
     if (!arguments.netlist.isEmpty()) {
-        const Utils::Result<ResourceFigures> figures = figuresOf(arguments.netlist, map);
+        // One without the prefix has the same cells.
+        Utils::Result<ResourceFigures> figures = figuresOf(arguments.netlist, map);
+        if (!figures && !prefix.isEmpty()) {
+            if (const auto own = figuresOf(arguments.netlist, prefixed(map, prefix)))
+                figures = own;
+        }
         if (!figures) {
             printProblem({figures.reason(), {}, arguments.netlist});
             return BadInput;
@@ -328,7 +340,8 @@ int runExport(Environment &environment, const ExportArguments &arguments)
                       folder});
         return BadInput;
     }
-    const QStringList chosen = chosenFormats(arguments, folder);
+    const QStringList chosen =
+        chosenFormats(arguments, folder, exportManifestOf(prefixed(SystemMap(), prefix)));
     QStringList warnings;
     if (const auto contents =
             readInitialContents(document.options, generationFolder(document.folder())))
@@ -336,7 +349,8 @@ int runExport(Environment &environment, const ExportArguments &arguments)
     else if (chosen.contains(QLatin1String("rtl")))
         warnings.append(contents.reason() +
                         QLatin1String("; the RTL waits for its memory's contents in ") +
-                        initialContentsFolder + u'.');
+                        RtlPath::contentsFolder(prefixed(map, prefix)) + u'.');
+    map = prefixed(map, prefix);
     const Utils::Bundle bundle = bundleOf(map, folder, chosen, !arguments.formats.isEmpty());
     const Utils::Result<Utils::BundleReport> report =
         arguments.check ? Utils::checkBundle(bundle) : Utils::writeBundle(bundle);
@@ -378,6 +392,7 @@ void declareExport(CommandLine &line)
               "Netlist or simulation model in Verilog that a run of this configuration has left: "
               "the datasheet tells what it uses of the device",
               "FILE");
+    arguments->prefix.declare(command);
     CLI::Option *list =
         command->add_flag("--list", arguments->list, "List the formats; needs no FILE");
     command

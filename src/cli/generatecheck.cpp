@@ -4,6 +4,7 @@
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
+#include "prefixedset.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
 #include "unifieddiff.h"
@@ -55,6 +56,50 @@ QJsonObject objectOf(const Change &change)
             {QStringLiteral("text"), change.text()}};
 }
 
+// How the outputs under a prefix stand to those without. Where these are missing, so are they, as
+// far as anybody can tell.
+QVector<FileState> prefixedStates(const GenerationInput &input, const GenerationPlan &plan,
+                                  const QString &prefix, QStringList *messages)
+{
+    const auto set = prefixedSet(input, plan, prefix);
+    if (!set)
+        return {};
+    const Utils::Result<Utils::BundleReport> report = Utils::checkBundle(*set);
+    QVector<FileState> states;
+    if (!report) {
+        messages->append(report.reason());
+        for (const Utils::BundleFile &file : set->files) {
+            FileState state;
+            state.path = set->folder + u'/' + file.path;
+            state.state = FileState::Foreign;
+            states.append(state);
+        }
+        return states;
+    }
+    *messages += report->messages;
+    for (const Utils::BundleEntry &entry : report->entries) {
+        FileState state;
+        state.path = set->folder + u'/' + entry.path;
+        switch (entry.state) {
+        case Utils::BundleEntry::Fresh:
+            break;
+        case Utils::BundleEntry::Missing:
+            state.state = FileState::Missing;
+            break;
+        case Utils::BundleEntry::Stale:
+        case Utils::BundleEntry::LeftOver:
+            state.state = FileState::Stale;
+            break;
+        case Utils::BundleEntry::Edited:
+        case Utils::BundleEntry::LeftOverEdited:
+            state.state = FileState::Edited;
+            break;
+        }
+        states.append(state);
+    }
+    return states;
+}
+
 } // namespace
 
 int runGenerateCheck(Environment &environment, const GenerateArguments &arguments)
@@ -66,12 +111,19 @@ int runGenerateCheck(Environment &environment, const GenerateArguments &argument
     if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
     const GenerationInput input = generationInput(document, ipInfo, arguments.outDir);
+    QString prefix;
+    if (const Status status = arguments.prefix.choose(document, &prefix); status != Done)
+        return status;
     const ResultCache cache(arguments.cache, toolOfRunner(*input.tool));
     std::function<ToolFacts()> tool;
     if (arguments.synthesise)
         tool = [&cache] { return cache.toolFacts(); };
-    const GenerationState state =
-        generationState(input, generationPlan(input), tool, fastSha256, true);
+    const GenerationPlan plan = generationPlan(input);
+    GenerationState state = generationState(input, plan, tool, fastSha256, true);
+    const bool isWithPrefix = arguments.synthesise && !prefix.isEmpty();
+    const QVector<FileState> own =
+        isWithPrefix ? prefixedStates(input, plan, prefix, &state.messages) : QVector<FileState>();
+    state.files += own;
 
     const QString overall = stateName(state.state());
     if (arguments.json) {

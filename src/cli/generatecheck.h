@@ -1,5 +1,7 @@
 #pragma once
 
+#include "prefixchoice.h"
+
 #include <QString>
 
 namespace Cli
@@ -16,6 +18,7 @@ struct GenerateArguments {
     bool check = false; // only tell how the files stand
     bool force = false; // run, whatever stands there
     bool cache = true;
+    PrefixChoice prefix;
 };
 
 // Tells how the files of a generation stand and returns the exit status; writes nothing.

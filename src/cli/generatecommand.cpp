@@ -6,6 +6,7 @@
 #include "generatecheck.h"
 #include "ipcdocument.h"
 #include "output.h"
+#include "prefixedset.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
 
@@ -210,10 +211,11 @@ class Generation
 {
 public:
     Generation(const IpcDocument &document, const GenerationInput &input,
-               const GenerateArguments &arguments)
+               const GenerateArguments &arguments, const QString &prefix)
         : m_document(document)
         , m_input(input)
         , m_arguments(arguments)
+        , m_prefix(prefix)
         , m_plan(generationPlan(input))
         , m_cache(arguments.cache, toolOfRunner(*input.tool))
         , m_record(input, m_plan, fastSha256, Utils::FileUtils::writeLines)
@@ -224,12 +226,20 @@ public:
     int run()
     {
         if (!m_arguments.force) {
-            if (const std::optional<Report> last = freshReport()) {
+            if (std::optional<Report> last = freshReport()) {
                 // Its end tidies what a run that was killed has left of its own.
                 Utils::FolderLock::take(m_plan.folder, nullptr);
-                printError(QLatin1String(m_arguments.synthesise ? "Everything is fresh"
-                                                                : "The include files are fresh") +
-                           QLatin1String(", so nothing was done; --force runs it again."));
+                bool isPlaced = false;
+                if (!placePrefixed(&*last, &isPlaced))
+                    return finish(*last, m_arguments, Failed);
+                if (isPlaced)
+                    printError(QLatin1String("The results are fresh, so the tool did not run; the "
+                                             "files with the prefix were written."));
+                else
+                    printError(QLatin1String(m_arguments.synthesise
+                                                 ? "Everything is fresh"
+                                                 : "The include files are fresh") +
+                               QLatin1String(", so nothing was done; --force runs it again."));
                 return finish(*last, m_arguments, Done);
             }
         }
@@ -282,7 +292,30 @@ private:
         if (!m_record.finish(record, &error))
             return fail(error);
         m_report.notices = m_record.messages();
+        bool isPlaced = false;
+        if (record && !placePrefixed(&m_report, &isPlaced))
+            status = Failed;
         return finish(m_report, m_arguments, status);
+    }
+
+    // Puts the outputs under the prefix, if there is one, beside the others. False: the report says
+    // why they are not there; they are those of before then. `*isPlaced`: a file has changed.
+    bool placePrefixed(Report *report, bool *isPlaced) const
+    {
+        if (m_prefix.isEmpty() || !m_arguments.synthesise)
+            return true;
+        const auto set = prefixedSet(m_input, m_plan, m_prefix);
+        const auto written = set ? Utils::writeBundle(*set)
+                                 : Utils::Result<Utils::BundleReport>(Utils::Failure{set.reason()});
+        if (!written) {
+            report->errors.append(written.reason());
+            return false;
+        }
+        report->notices += written->messages;
+        *isPlaced = !written->isFresh();
+        for (const Utils::BundleFile &file : set->files)
+            report->outputs.append(set->folder + u'/' + file.path);
+        return true;
     }
 
     int synthesiseAndCollect()
@@ -373,6 +406,7 @@ private:
     const IpcDocument &m_document;
     const GenerationInput m_input;
     const GenerateArguments &m_arguments;
+    const QString m_prefix;
     const GenerationPlan m_plan;
     const ResultCache m_cache;
     GenerationRecord m_record;
@@ -388,7 +422,11 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     IpcDocument document;
     if (!openForDevice(environment, arguments.file, &document))
         return BadInput;
-    return Generation(document, generationInput(document, ipInfo, arguments.outDir), arguments)
+    QString prefix;
+    if (const Status status = arguments.prefix.choose(document, &prefix); status != Done)
+        return status;
+    return Generation(document, generationInput(document, ipInfo, arguments.outDir), arguments,
+                      prefix)
         .run();
 }
 
@@ -405,6 +443,7 @@ void declareGenerate(CommandLine &line)
         });
     line.file(command, arguments->file);
     line.outDir(command, arguments->outDir);
+    arguments->prefix.declare(command);
     command->add_flag(
         "--no-synth", [arguments](qint64) { arguments->synthesise = false; },
         "Stop after include files and source list");

@@ -391,6 +391,8 @@ void tst_Cli::newKeepsTypes()
             text = option.choices.last();
         else if (option.type == OptionType::Int)
             text = QString::number(option.maximum);
+        else if (option.key == QLatin1String("Prefix"))
+            text = QStringLiteral("cpu0_");
         arguments += {QStringLiteral("--set"), QString(option.key + u'=' + text)};
         expected.insert(option.key, text);
     }

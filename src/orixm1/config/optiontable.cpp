@@ -3,6 +3,7 @@
 #include "blocks.h"
 #include "choices.h"
 #include "latin1literal.h"
+#include "nameprefix.h"
 #include "nearest.h"
 
 #include <QHash>
@@ -177,6 +178,9 @@ QVector<Option> buildTable()
                                  "Language of the outputs: 0 Verilog, 1 VHDL")));
     table.append(bookKeeping(openOption(Key::ipDeviceId, QVariant(), "Id of the target device")));
     table.append(bookKeeping(openOption(Key::ipDevice, QVariant(), "Name of the target device")));
+    table.append(bookKeeping(
+        openOption(Key::namePrefix, QString(),
+                   "What names begin with where several subsystems stand in one design")));
 
     for (const DialogRow &row : dialogRows) {
         for (Option &option : table) {
@@ -238,6 +242,8 @@ QVariant optionValueFromText(const Option &option, const QString &value)
 
 bool isInDomain(const Option &option, const QVariant &value)
 {
+    if (option.key == Key::namePrefix)
+        return prefixMistake(value.toString()).text.isEmpty();
     if (!option.choices.isEmpty())
         return option.choices.contains(value.toString());
     if (option.type == OptionType::Int && option.minimum <= option.maximum)
@@ -247,6 +253,8 @@ bool isInDomain(const Option &option, const QVariant &value)
 
 QString domainText(const Option &option)
 {
+    if (option.key == Key::namePrefix)
+        return prefixDomain();
     if (!option.choices.isEmpty())
         return "one of "_l1 + option.choices.join(", "_l1);
     if (option.type == OptionType::Bool)

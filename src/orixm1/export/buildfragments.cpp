@@ -42,7 +42,7 @@ if(ORIXM1 AND EXISTS "${@PREFIX@_IPC}" AND NOT @PREFIX@_IS_EXPORTED)
     set(@PREFIX@_STAMP "${CMAKE_CURRENT_BINARY_DIR}/@name@_export.stamp")
     if("${@PREFIX@_IPC}" IS_NEWER_THAN "${@PREFIX@_STAMP}")
         execute_process(
-            COMMAND "${ORIXM1}" export "${@PREFIX@_IPC}" ${@PREFIX@_FORMATS} --out "${@PREFIX@_DIR}"
+            COMMAND "${ORIXM1}" export "${@PREFIX@_IPC}" ${@PREFIX@_FORMATS}@option@ --out "${@PREFIX@_DIR}"
             OUTPUT_QUIET RESULT_VARIABLE @PREFIX@_STATUS)
         if(NOT @PREFIX@_STATUS EQUAL 0)
             message(FATAL_ERROR "@top@ could not be exported from ${@PREFIX@_IPC}")
@@ -69,7 +69,7 @@ set(@PREFIX@_NETLIST
 if(ORIXM1 AND EXISTS "${@PREFIX@_IPC}" AND NOT TARGET @name@_netlist)
     add_custom_command(
         OUTPUT ${@PREFIX@_NETLIST}
-        COMMAND "${ORIXM1}" generate "${@PREFIX@_IPC}" --out "${@PREFIX@_NETLIST_DIR}"
+        COMMAND "${ORIXM1}" generate "${@PREFIX@_IPC}"@option@ --out "${@PREFIX@_NETLIST_DIR}"
         COMMAND "${CMAKE_COMMAND}" -E touch ${@PREFIX@_NETLIST}
         DEPENDS "${@PREFIX@_IPC}"
         COMMENT "Generating @top@" VERBATIM)
@@ -116,12 +116,12 @@ ORIXM1 ?= orixm1
 ifneq ($(wildcard $(@PREFIX@_IPC)),)
 ifneq ($(shell command -v $(ORIXM1)),)
 $(@PREFIX@_DIR)/@file@: $(@PREFIX@_IPC)
-	$(ORIXM1) export "$<" $(@PREFIX@_FORMATS) --out "$(@PREFIX@_DIR)" > /dev/null
+	$(ORIXM1) export "$<" $(@PREFIX@_FORMATS)@option@ --out "$(@PREFIX@_DIR)" > /dev/null
 	touch "$@"
 
 # One run makes them all.
 $(@PREFIX@_NETLIST) &: $(@PREFIX@_IPC)
-	$(ORIXM1) generate "$<" --out "$(@PREFIX@_NETLIST_DIR)"
+	$(ORIXM1) generate "$<"@option@ --out "$(@PREFIX@_NETLIST_DIR)"
 	touch $(@PREFIX@_NETLIST)
 endif
 endif
@@ -162,6 +162,7 @@ ExportedFile fragment(const SystemMap &map, const char *text, QLatin1String suff
         {QStringLiteral("file"), fileName(map, suffix)},
         {QStringLiteral("PREFIX"), macroName(map, ""_l1)},
         {QStringLiteral("name"), symbolName(map, ""_l1)},
+        {QStringLiteral("option"), map.prefix.isEmpty() ? QString() : " --prefix "_l1 + map.prefix},
         {QStringLiteral("bench"), BenchName::verilogModule(map)},
         {QStringLiteral("script"), BenchName::script(map)},
         {QStringLiteral("include"), RtlPath::includeFolder()},

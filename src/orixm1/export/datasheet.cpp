@@ -4,6 +4,7 @@
 #include "config/latin1literal.h"
 #include "config/optionvalue.h"
 #include "datasheetpictures.h"
+#include "names.h"
 #include "registers/registerdocs.h"
 
 #include <algorithm>
@@ -124,7 +125,7 @@ private:
     void addSummary()
     {
         const DEV::DeviceArg &device = m_map.device;
-        QString title = QStringLiteral("Tarvo_ORIX_M1");
+        QString title = systemName(m_map);
         if (!device.isNull())
             title += " on "_l1 + device.device();
         heading(1, title);
@@ -510,12 +511,17 @@ private:
 
 } // namespace
 
+QString datasheetPage(const SystemMap &map)
+{
+    return "datasheet/"_l1 + fileName(map, ".html"_l1);
+}
+
 QVector<ExportedFile> datasheetFiles(const SystemMap &map)
 {
     const Datasheet datasheet(map);
     QVector<ExportedFile> files = {
-        {QStringLiteral("datasheet/tarvo_orix_m1.md"), markdownOf(datasheet.parts())},
-        {datasheetPage, htmlOf(datasheet.parts(), DatasheetStyle::Screen)}};
+        {"datasheet/"_l1 + fileName(map, ".md"_l1), markdownOf(datasheet.parts())},
+        {datasheetPage(map), htmlOf(datasheet.parts(), DatasheetStyle::Screen)}};
     const QVector<Picture> pictures = datasheet.pictures();
     for (const Picture &picture : pictures)
         files.append({"datasheet/"_l1 + picture.file, picture.svg});

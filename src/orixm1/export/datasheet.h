@@ -11,7 +11,7 @@ namespace TARVOORIXM1
 using DatasheetStyle = HtmlStyle;
 
 // The page among datasheetFiles().
-inline constexpr QLatin1String datasheetPage("datasheet/tarvo_orix_m1.html");
+QString datasheetPage(const SystemMap &map);
 
 // The chapters that other places lead to.
 namespace DatasheetChapter

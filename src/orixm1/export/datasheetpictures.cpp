@@ -3,6 +3,7 @@
 #include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionvalue.h"
+#include "names.h"
 #include "registers/registerdocs.h"
 
 #include <algorithm>
@@ -25,8 +26,7 @@ constexpr Letters fixedName{12, true, true, Ink::Text};
 Picture picture(const QString &file, const QString &text, const Drawing &drawing, int width,
                 int height)
 {
-    return {"tarvo_orix_m1_"_l1 + file + ".svg"_l1, text, drawing.svg(width, height), width,
-            height};
+    return {file, text, drawing.svg(width, height), width, height};
 }
 
 Ink inkOf(RegionKind kind)
@@ -70,7 +70,7 @@ public:
         m_drawing.tip(m_bridge, apbTop, m_bridge, m_bridgeBottom);
         const int bottom = drawBus(Bus::Apb, apbTop) + 28;
         drawLegend(bottom);
-        return picture(QStringLiteral("blocks"),
+        return picture(fileName(m_map, "_blocks.svg"_l1),
                        QStringLiteral("Block diagram: the processor, its memories and the blocks "
                                       "on the AHB and the APB bus"),
                        m_drawing, width, bottom + 12 + margin);
@@ -470,7 +470,7 @@ PlacedPicture memoryPicture(const SystemMap &map, const PictureStyle &style)
     drawing.text(lastX, lastY + 17, hexAddress(0xFFFFFFFF), fixedDetail);
     drawing.text(lastX + addressWidth + 2 * inset, lastY + 17, QStringLiteral("the last address"),
                  detail);
-    return {picture(QStringLiteral("memory"),
+    return {picture(fileName(map, "_memory.svg"_l1),
                     QStringLiteral("Memory map: what answers at each address, in order; sizes are "
                                    "not to scale"),
                     drawing, 2 * margin + columns * columnWidth + (columns - 1) * 24,
@@ -550,7 +550,7 @@ PlacedPicture interruptPicture(const SystemMap &map, const PictureStyle &style)
             drawing.tip(inputLeft, middle, boxRight, middle);
         }
     }
-    return {picture(QStringLiteral("interrupts"),
+    return {picture(fileName(map, "_interrupts.svg"_l1),
                     QStringLiteral("Interrupt map: what requests at each input of the processor, "
                                    "and what is lost"),
                     drawing, 2 * margin + columns * columnWidth + (columns - 1) * 36,

@@ -2,6 +2,7 @@
 
 #include "config/blocks.h"
 #include "config/latin1literal.h"
+#include "names.h"
 
 #include <QHash>
 #include <QSet>
@@ -185,8 +186,8 @@ public:
         m_out = Source();
         m_out.flag("/dts-v1/"_l1);
         m_out.blank();
-        m_out.comment(QStringLiteral("What software sees of this configuration of Tarvo_ORIX_M1. "
-                                     "tarvo_orix_m1-overlay.dts is where a board"));
+        m_out.comment("What software sees of this configuration of "_l1 + systemName(m_map) +
+                      ". "_l1 + fileName(m_map, "-overlay.dts"_l1) + " is where a board"_l1);
         m_out.comment(QStringLiteral("states its clocks, its console and what is connected."));
         m_out.open(QStringLiteral("/"));
         m_out.setText("model"_l1, model());
@@ -241,7 +242,7 @@ private:
     QString model() const
     {
         const QString device = m_map.device.device();
-        return device.isEmpty() ? QStringLiteral("Tarvo_ORIX_M1") : "Tarvo_ORIX_M1 on "_l1 + device;
+        return device.isEmpty() ? systemName(m_map) : systemName(m_map) + " on "_l1 + device;
     }
 
     static QString status(const Region &region)
@@ -569,8 +570,7 @@ QVector<ExportedFile> devicetreeFiles(const SystemMap &map)
 {
     Tree tree(map);
     const QByteArray base = tree.tree();
-    return {{QStringLiteral("tarvo_orix_m1.dtsi"), base},
-            {QStringLiteral("tarvo_orix_m1-overlay.dts"), tree.overlay()}};
+    return {{fileName(map, ".dtsi"_l1), base}, {fileName(map, "-overlay.dts"_l1), tree.overlay()}};
 }
 
 } // namespace TARVOORIXM1

@@ -25,7 +25,7 @@ const char simulationText[] =
     R"(// @top@ with a stand-in that plays the processor, and a test bench, relative to this folder: run the tools here.
 // They set the time scale for what stands behind them.
 //   $ iverilog -g2005-sv -s @bench@ -o simulation -c @file@
-//   $ vvp -n simulation +script=@script@
+//   $ vvp -n simulation +@argument@=@script@
 +incdir+@include@
 @sources@
 )";
@@ -37,6 +37,7 @@ ExportedFile listFile(const SystemMap &map, QLatin1String suffix, const char *te
     return {name, filledText(text, {{QStringLiteral("top"), topModuleName(map)},
                                     {QStringLiteral("bench"), BenchName::verilogModule(map)},
                                     {QStringLiteral("script"), BenchName::script(map)},
+                                    {QStringLiteral("argument"), BenchName::scriptArgument(map)},
                                     {QStringLiteral("file"), name},
                                     {QStringLiteral("include"), RtlPath::includeFolder()},
                                     {QStringLiteral("sources"), sources.join(u'\n')}})

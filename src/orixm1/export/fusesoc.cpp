@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "constraints.h"
+#include "filledtext.h"
 #include "lint.h"
 #include "names.h"
 #include "rtl.h"
@@ -20,12 +21,12 @@ namespace
 
 const char generatorCore[] =
     R"(CAPI=2:
-name: "tarvo:orixm1:generator:1.0"
+name: "tarvo:orixm1:@prefix@generator:1.0"
 description: "Makes cores of configured Tarvo_ORIX_M1 subsystems"
 generators:
-  orixm1:
+  @prefix@orixm1:
     interpreter: python3
-    command: orixm1_generator.py
+    command: @prefix@orixm1_generator.py
     cache_type: none
     description: "A core of the subsystem that a configuration (.ipc) describes"
     usage: |
@@ -55,7 +56,7 @@ import sys
 import tempfile
 
 FORMATS = ["rtl", "testbench", "lint", "sdc", "fusesoc"]
-OTHERS = ["fusesoc", "orixm1-export.json"]  # of what is written, these are no part of the core
+OTHERS = ["fusesoc", "@prefix@orixm1-export.json"]  # of what is written, these are no part of the core
 
 
 class Failure(Exception):
@@ -136,7 +137,7 @@ def make_core(request):
         raise Failure('the configuration "%s" is wrong:\n%s' % (ipc, (findings + said).strip()))
     folder = tempfile.mkdtemp(prefix=".orixm1-", dir=".")
     try:
-        status, _, said = run(program, "export", ipc, *FORMATS, "--out", folder)
+        status, _, said = run(program, "export", ipc, *FORMATS, @option@"--out", folder)
         if status != 0:
             raise Failure('"%s" could not be exported:\n%s' % (ipc, said.strip()))
         sys.stderr.write(findings + said)
@@ -226,14 +227,14 @@ struct Target {
     QLatin1String description;
     QStringList sets;
     QString topLevel;
-    const char *options = ""; // "flow" and "flow_options"; empty: whoever takes the target chooses
+    QString options = {}; // "flow" and "flow_options"; empty: whoever takes the target chooses
 };
 
 QString textOf(const Target &target)
 {
     return "  "_l1 + target.name + ":\n    description: "_l1 + scalar(target.description) +
            "\n    filesets: "_l1 + listed(target.sets) + "\n    toplevel: "_l1 +
-           scalar(target.topLevel) + u'\n' + QLatin1String(target.options);
+           scalar(target.topLevel) + u'\n' + target.options;
 }
 
 QStringList pathsOf(const QVector<ExportedFile> &files)
@@ -276,7 +277,7 @@ QVector<FileSet> fileSetsOf(const SystemMap &map)
     return sets;
 }
 
-const char simulationOptions[] = R"(    parameters: [script]
+const char simulationOptions[] = R"(    parameters: [@argument@]
     flow: sim
     flow_options:
       tool: icarus
@@ -284,7 +285,7 @@ const char simulationOptions[] = R"(    parameters: [script]
 )";
 
 // The widths are those of the models, which are Verilog-2005 and not for synthesis.
-const char compiledSimulationOptions[] = R"(    parameters: [script]
+const char compiledSimulationOptions[] = R"(    parameters: [@argument@]
     flow: sim
     flow_options:
       tool: verilator
@@ -319,17 +320,21 @@ QByteArray coreOf(const SystemMap &map)
         {"synth"_l1, "synthesis, with the tool that is named"_l1,
          chosen("include rtl processor contents constraints"), top},
         {"lint"_l1, "lint with Verilator"_l1, chosen("waivers include rtl processor"), top,
-         lintOptions},
+         QString::fromLatin1(lintOptions)},
     };
     const bool hasBench = !BenchName::verilogSources(map).isEmpty();
     if (hasBench) {
         // The bench first, since it sets the time scale.
         const QString bench = BenchName::verilogModule(map);
+        const auto optionsOf = [&map](const char *text) {
+            return filledText(text, {{QStringLiteral("argument"), BenchName::scriptArgument(map)}});
+        };
         targets.append({"sim"_l1, "first accesses, with Icarus Verilog"_l1,
-                        chosen("include testbench rtl contents script"), bench, simulationOptions});
+                        chosen("include testbench rtl contents script"), bench,
+                        optionsOf(simulationOptions)});
         targets.append({"sim_verilator"_l1, "the same with Verilator"_l1,
                         chosen("include testbench rtl contents script"), bench,
-                        compiledSimulationOptions});
+                        optionsOf(compiledSimulationOptions)});
     }
     const Vlnv vlnv = subsystemVlnv(map);
     QString text =
@@ -344,12 +349,22 @@ QByteArray coreOf(const SystemMap &map)
     for (const Target &target : qAsConst(targets))
         text += textOf(target);
     if (hasBench)
-        text +=
-            "parameters:\n  script:\n    datatype: str\n    paramtype: plusarg\n    default: "_l1 +
-            scalar(BenchName::script(map)) +
-            "\n    description: \"accesses of the processor, in the folder in which the "
-            "simulation runs\"\n"_l1;
+        text += "parameters:\n  "_l1 + BenchName::scriptArgument(map) +
+                ":\n    datatype: str\n    paramtype: plusarg\n    default: "_l1 +
+                scalar(BenchName::script(map)) +
+                "\n    description: \"accesses of the processor, in the folder in which the "
+                "simulation runs\"\n"_l1;
     return text.toUtf8();
+}
+
+// A generator with a prefix makes cores with it.
+QByteArray generatorText(const SystemMap &map, const char *text)
+{
+    const QString option =
+        map.prefix.isEmpty() ? QString() : "\"--prefix\", \""_l1 + map.prefix + "\", "_l1;
+    return filledText(text,
+                      {{QStringLiteral("prefix"), map.prefix}, {QStringLiteral("option"), option}})
+        .toUtf8();
 }
 
 } // namespace
@@ -359,8 +374,10 @@ QVector<ExportedFile> fusesocFiles(const SystemMap &map)
     if (RtlPath::compiled(map).isEmpty())
         return {};
     return {{fileName(map, ".core"_l1), coreOf(map)},
-            {QStringLiteral("fusesoc/orixm1_generator.core"), generatorCore},
-            {QStringLiteral("fusesoc/orixm1_generator.py"), generatorScript}};
+            {"fusesoc/"_l1 + ownName(map, QStringLiteral("orixm1_generator.core")),
+             generatorText(map, generatorCore)},
+            {"fusesoc/"_l1 + ownName(map, QStringLiteral("orixm1_generator.py")),
+             generatorText(map, generatorScript)}};
 }
 
 } // namespace TARVOORIXM1

@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "names.h"
+#include "prefixed.h"
 #include "registers/registerdocs.h"
 #include "systemcontrol.h"
 
@@ -651,9 +652,14 @@ private:
 
 } // namespace
 
+QByteArray usualHeader(const SystemMap &map)
+{
+    return DeviceHeader(map).text().toUtf8();
+}
+
 QVector<ExportedFile> headerFiles(const SystemMap &map)
 {
-    return {{QStringLiteral("tarvo_orix_m1.h"), DeviceHeader(map).text().toUtf8()}};
+    return prefixedC(map, {{QStringLiteral("tarvo_orix_m1.h"), usualHeader(map)}}, {});
 }
 
 } // namespace TARVOORIXM1

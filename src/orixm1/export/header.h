@@ -10,5 +10,7 @@ namespace TARVOORIXM1
 // given as UniqueNames does, with regard to case; the macro of an instance whose name has no
 // capital letter has an underscore behind it.
 QVector<ExportedFile> headerFiles(const SystemMap &map);
+// Its text as it is without a prefix, whatever the map has.
+QByteArray usualHeader(const SystemMap &map);
 
 } // namespace TARVOORIXM1

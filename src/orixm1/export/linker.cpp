@@ -1,8 +1,10 @@
 #include "linker.h"
 
 #include "config/latin1literal.h"
+#include "names.h"
 #include "programmemory.h"
 #include "registers/registerdocs.h"
+#include "startup.h"
 
 #include <algorithm>
 
@@ -146,7 +148,7 @@ PROVIDE(__tls_base = __data_start + SIZEOF(.data));
 PROVIDE(__arm32_tls_tcb_offset = 8);
 
 ASSERT(ADDR(.vectors) == 0, "The vector table does not lie at address 0, where the processor reads it.")
-ASSERT(SIZEOF(.vectors) == @vector bytes@, "The vector table does not have @vectors@ entries: link the startup_tarvo_orix_m1.c that was exported with this script.")
+ASSERT(SIZEOF(.vectors) == @vector bytes@, "The vector table does not have @vectors@ entries: link the @startup@ that was exported with this script.")
 ASSERT(__data_end == __data_start || __data_load + (__data_end - __data_start) <= ORIGIN(REGION_TEXT) + LENGTH(REGION_TEXT), "Program and initial values of its data do not fit into @text memory@.")
 ASSERT(__heap_start + __heap_size + ((__stack_size + 7) & ~7) <= __stack_top, "Data, heap (__heap_size) and stack (__stack_size) do not fit into @data memory@.")
 )";
@@ -192,10 +194,13 @@ QString memoryLine(const QString &name, const LinkedMemory &entry, const QString
            hexAddress(entry.base) + ", LENGTH = "_l1 + length + " /* "_l1 + entry.text + " */\n"_l1;
 }
 
-QString memoryScript(const ProgramMemory &memory)
+QString memoryScript(const SystemMap &map, const ProgramMemory &memory)
 {
-    QString text = "/* Memories of the subsystem Tarvo_ORIX_M1 for scripts of GNU ld:\n"
-                   " * INCLUDE tarvo_orix_m1_memory.ld\n"
+    QString text = "/* Memories of the subsystem "_l1 + systemName(map) +
+                   " for scripts of GNU ld:\n"
+                   " * INCLUDE "_l1 +
+                   fileName(map, "_memory.ld"_l1) +
+                   "\n"
                    " *\n"
                    " * REGION_TEXT takes vectors, code, constants and the initial values of data; "
                    "REGION_DATA takes\n"
@@ -225,10 +230,11 @@ QString memoryScript(const ProgramMemory &memory)
 }
 
 // FLASH and RAM do not overlap: a memory that has to be both is divided in halves.
-QString rustMemory(const ProgramMemory &memory)
+QString rustMemory(const SystemMap &map, const ProgramMemory &memory)
 {
     QString text =
-        "/* Memories of the subsystem Tarvo_ORIX_M1 under the names that start-up code for Rust\n"
+        "/* Memories of the subsystem "_l1 + systemName(map) +
+        " under the names that start-up code for Rust\n"
         " * (cortex-m-rt) asks for. It takes numbers only: what the comments leave to you is "
         "changed here.\n */\n"_l1;
     const bool shared = memory.text >= 0 && memory.text == memory.data;
@@ -388,13 +394,15 @@ QString sectionNotes(const ProgramMemory &memory)
 QString head(const SystemMap &map, const ProgramMemory &memory)
 {
     const bool big = map.processor.isBigEndian;
-    return "/* Linker script of the subsystem Tarvo_ORIX_M1 for GNU ld. DIR is the folder of this "
+    return "/* Linker script of the subsystem "_l1 + systemName(map) +
+           " for GNU ld. DIR is the folder of this "
            "file:\n * arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb"_l1 +
-           (big ? " -mbig-endian -Wl,--be8"_l1 : QLatin1String()) +
-           " -nostartfiles -L DIR -T tarvo_orix_m1.ld ...\n"_l1 + sizeNotes(memory) +
+           (big ? " -mbig-endian -Wl,--be8"_l1 : QLatin1String()) + " -nostartfiles -L DIR -T "_l1 +
+           fileName(map, ".ld"_l1) + " ...\n"_l1 + sizeNotes(memory) +
            (memory.canStart() ? sectionNotes(memory) : QString()) + " */\n"_l1 +
            "OUTPUT_FORMAT(\""_l1 + (big ? "elf32-bigarm"_l1 : "elf32-littlearm"_l1) +
-           "\")\nOUTPUT_ARCH(arm)\nENTRY(Reset_Handler)\n\nINCLUDE tarvo_orix_m1_memory.ld\n"_l1;
+           "\")\nOUTPUT_ARCH(arm)\nENTRY(Reset_Handler)\n\nINCLUDE "_l1 +
+           fileName(map, "_memory.ld"_l1) + u'\n';
 }
 
 QString furtherSegments(const ProgramMemory &memory)
@@ -435,6 +443,7 @@ QString script(const SystemMap &map, const ProgramMemory &memory)
                       {"@vectors@"_l1, QString::number(vectors)},
                       {"@text memory@"_l1, memory.all.at(memory.text).name},
                       {"@data memory@"_l1, data.name},
+                      {"@startup@"_l1, startupFile(map)},
                   });
 }
 
@@ -443,9 +452,9 @@ QString script(const SystemMap &map, const ProgramMemory &memory)
 QVector<ExportedFile> linkerFiles(const SystemMap &map)
 {
     const ProgramMemory memory = programMemory(map);
-    return {{QStringLiteral("tarvo_orix_m1.ld"), script(map, memory).toUtf8()},
-            {QStringLiteral("tarvo_orix_m1_memory.ld"), memoryScript(memory).toUtf8()},
-            {QStringLiteral("memory.x"), rustMemory(memory).toUtf8()}};
+    return {{fileName(map, ".ld"_l1), script(map, memory).toUtf8()},
+            {fileName(map, "_memory.ld"_l1), memoryScript(map, memory).toUtf8()},
+            {ownName(map, QStringLiteral("memory.x")), rustMemory(map, memory).toUtf8()}};
 }
 
 } // namespace TARVOORIXM1

@@ -60,7 +60,7 @@ QVector<ExportedFile> lintFiles(const SystemMap &map)
         QString lines;
         const QStringList files = QString(waiver.files).split(u' ');
         for (const QString &file : files) {
-            const QString path = RtlPath::includeFolder() + u'/' + file;
+            const QString path = RtlPath::includeFolder() + u'/' + ownName(map, file);
             if (sources.contains(path))
                 lines += "lint_off -rule "_l1 + waiver.rule + " -file \"*"_l1 + path + "\"\n"_l1;
         }

@@ -13,7 +13,7 @@ namespace TARVOORIXM1
 struct Door {
     QRect box;            // pixels of the picture
     QString text;         // what it is and where it leads, for those who do not see the picture
-    QStringList headings; // of datasheetPage, each below the one before
+    QStringList headings; // of datasheetPage(), each below the one before
 };
 
 // A picture of the datasheet for the screen: in one column, for light and for dark, with a door for

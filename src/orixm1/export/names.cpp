@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "generate/synthesisrequest.h"
+#include "system/systemmap.h"
 
 #include <QChar>
 
@@ -145,24 +146,34 @@ bool isFormatMacro(const QString &word)
 
 } // namespace
 
-QString topModuleName(const SystemMap & /*map*/)
+QString ownName(const SystemMap &map, const QString &name)
 {
-    return topModule;
+    return map.prefix + name;
 }
 
-QString fileName(const SystemMap & /*map*/, QLatin1String suffix)
+QString topModuleName(const SystemMap &map)
 {
-    return "tarvo_orix_m1"_l1 + suffix;
+    return ownName(map, topModule);
 }
 
-QString symbolName(const SystemMap & /*map*/, QLatin1String suffix)
+QString systemName(const SystemMap &map)
 {
-    return "tarvo_orix_m1"_l1 + suffix;
+    return ownName(map, QStringLiteral("Tarvo_ORIX_M1"));
 }
 
-QString macroName(const SystemMap & /*map*/, QLatin1String suffix)
+QString fileName(const SystemMap &map, QLatin1String suffix)
 {
-    return "TARVO_ORIX_M1"_l1 + suffix;
+    return ownName(map, "tarvo_orix_m1"_l1 + suffix);
+}
+
+QString symbolName(const SystemMap &map, QLatin1String suffix)
+{
+    return fileName(map, suffix);
+}
+
+QString macroName(const SystemMap &map, QLatin1String suffix)
+{
+    return ownName(map, "TARVO_ORIX_M1"_l1 + suffix);
 }
 
 bool isKnownWord(const QString &word)

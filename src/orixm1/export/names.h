@@ -10,11 +10,15 @@ namespace TARVOORIXM1
 
 struct SystemMap;
 
-// What an export calls things after the subsystem. The names of its own modules, ports and macros
+// What an export calls things after the subsystem, behind the prefix of the map. The names of ports
 // stay as they are.
 
+// Any name that others could have too, with the prefix of the map.
+QString ownName(const SystemMap &map, const QString &name);
 // The module, and in VHDL the entity, that a design has an instance of.
 QString topModuleName(const SystemMap &map);
+// "Tarvo_ORIX_M1": what a document calls the subsystem where it has to be one word.
+QString systemName(const SystemMap &map);
 // "tarvo_orix_m1" and the suffix: ".sdc" of a file, "_tb" of a module or a name in a language.
 QString fileName(const SystemMap &map, QLatin1String suffix);
 QString symbolName(const SystemMap &map, QLatin1String suffix);

@@ -1,6 +1,9 @@
 #include "rtl.h"
 
 #include "config/latin1literal.h"
+#include "names.h"
+
+#include <QFileInfo>
 
 namespace TARVOORIXM1
 {
@@ -26,7 +29,7 @@ QVector<ExportedFile> rtlFiles(const SystemMap &map)
     if (files.isEmpty())
         return {};
     for (const DataFile &file : map.initialContents)
-        files.append({initialContentsFolder + u'/' + file.name, file.bytes});
+        files.append({RtlPath::contentsFolder(map) + u'/' + file.name, file.bytes});
     return files;
 }
 
@@ -51,7 +54,7 @@ QStringList compiled(const SystemMap &map)
 QStringList simulated(const SystemMap &map)
 {
     QStringList paths = compiled(map);
-    paths.removeOne(pathOf(processorFile));
+    paths.removeOne(pathOf(ownName(map, processorFile)));
     return paths;
 }
 
@@ -65,11 +68,17 @@ QStringList included(const SystemMap &map)
     return paths;
 }
 
+QString contentsFolder(const SystemMap &map)
+{
+    const QFileInfo usual(initialContentsFolder);
+    return usual.path() + u'/' + ownName(map, usual.fileName());
+}
+
 QStringList initialContents(const SystemMap &map)
 {
     QStringList paths;
     for (const DataFile &file : map.initialContents)
-        paths.append(initialContentsFolder + u'/' + file.name);
+        paths.append(contentsFolder(map) + u'/' + file.name);
     return paths;
 }
 

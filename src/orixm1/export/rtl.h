@@ -23,6 +23,8 @@ QStringList compiled(const SystemMap &map);
 QStringList simulated(const SystemMap &map);
 // What these include.
 QStringList included(const SystemMap &map);
+// The folder of what the instruction memory reads when it begins.
+QString contentsFolder(const SystemMap &map);
 // What the instruction memory reads when it begins: relative to the folder that tools run in.
 QStringList initialContents(const SystemMap &map);
 

@@ -1,6 +1,8 @@
 #include "startup.h"
 
 #include "config/latin1literal.h"
+#include "names.h"
+#include "prefixed.h"
 #include "programmemory.h"
 
 namespace TARVOORIXM1
@@ -241,11 +243,19 @@ __attribute__((weak)) void SystemCoreClockUpdate(void)
 
 } // namespace
 
+QString startupFile(const SystemMap &map)
+{
+    return ownName(map, QStringLiteral("startup_tarvo_orix_m1.c"));
+}
+
 QVector<ExportedFile> startupFiles(const SystemMap &map)
 {
-    return {{QStringLiteral("startup_tarvo_orix_m1.c"), startup(map).toUtf8()},
-            {QStringLiteral("system_tarvo_orix_m1.c"), systemSource},
-            {QStringLiteral("system_tarvo_orix_m1.h"), systemHeader}};
+    // Functions and variables keep their names: a program has one start-up.
+    const QVector<ExportedFile> files = {
+        {QStringLiteral("startup_tarvo_orix_m1.c"), startup(map).toUtf8()},
+        {QStringLiteral("system_tarvo_orix_m1.c"), systemSource},
+        {QStringLiteral("system_tarvo_orix_m1.h"), systemHeader}};
+    return prefixedC(map, files, {"SYSTEM_TARVO_ORIX_M1_H", "Tarvo_ORIX_M1"});
 }
 
 } // namespace TARVOORIXM1

@@ -9,5 +9,7 @@ namespace TARVOORIXM1
 // interrupts that arrive, "system_tarvo_orix_m1.c" and its header. C99 without a C library; the
 // linker script's symbols are all that it needs.
 QVector<ExportedFile> startupFiles(const SystemMap &map);
+// The one with the vector table.
+QString startupFile(const SystemMap &map);
 
 } // namespace TARVOORIXM1

@@ -96,10 +96,12 @@ public:
         m_xml.writeStartElement("device"_l1);
         m_xml.writeAttribute("schemaVersion"_l1, "1.3"_l1);
         element("vendor"_l1, QStringLiteral("Tarvo"));
-        element("name"_l1, QStringLiteral("Tarvo_ORIX_M1"));
+        element("name"_l1, systemName(m_map));
         element("version"_l1, QStringLiteral("1.0"));
         element("description"_l1, description());
         writeProcessor();
+        if (!m_map.prefix.isEmpty())
+            element("headerDefinitionsPrefix"_l1, m_map.prefix);
         element("addressUnitBits"_l1, QStringLiteral("8"));
         element("width"_l1, QStringLiteral("32"));
         element("size"_l1, QStringLiteral("32"));
@@ -372,7 +374,7 @@ private:
 
 QVector<ExportedFile> svdFiles(const SystemMap &map)
 {
-    return {{QStringLiteral("tarvo_orix_m1.svd"), Writer(map).write()}};
+    return {{fileName(map, ".svd"_l1), Writer(map).write()}};
 }
 
 } // namespace TARVOORIXM1

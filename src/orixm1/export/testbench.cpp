@@ -20,7 +20,7 @@ constexpr int mostCycles = 100000; // that a script of first accesses may take
 
 const char verilogText[] =
     R"(// A first test bench of @top@: clock, reset, pull-ups, every input at rest. The model of the processor plays the script of
-// transfers +script=@script@ and prints what fails; without an end after @cycles@ cycles the bench stops.
+// transfers +@argument@=@script@ and prints what fails; without an end after @cycles@ cycles the bench stops.
 // With COCOTB_SIM defined, clock and reset are left to Python (@python@).
 `timescale 1ns / 1ps
 
@@ -61,12 +61,12 @@ endmodule
 const char vhdlText[] =
     R"(-- A first test bench of @top@: clock, reset, pull-ups, every input at rest. The model of the processor plays the
 -- script of transfers and prints PASS, or what fails.
---   ghdl -a @target@.vho sim/cortex_m1_core_bfm.vhd @package@.vhd @file@
+--   ghdl -a @target@.vho sim/@model@.vhd @package@.vhd @file@
 --   ghdl -r @bench@
 -- The first file is the simulation model of a generation with VHDL as its language.
 library ieee;
 use ieee.std_logic_1164.all;
-use work.cortex_m1_core_bfm;
+use work.@model@;
 use work.@package@.all;
 
 entity @bench@ is
@@ -76,12 +76,12 @@ end entity;
 architecture board of @bench@ is
     -- Connect what your design has; these are the levels at rest.
 @signals@begin
-    cortex_m1_core_bfm.script <= cortex_m1_core_bfm.script_of(script);
+    @model@.script <= @model@.script_of(script);
 
     process
         variable cycles : natural := 0;
     begin
-        while to_x01(cortex_m1_core_bfm.done) /= '1' and cycles < @cycles@ loop
+        while to_x01(@model@.done) /= '1' and cycles < @cycles@ loop
             wait for 10 ns;
             HCLK <= not HCLK;
             wait for 10 ns;
@@ -109,7 +109,7 @@ Run it in the folder of the export with a Makefile of yours:
     TOPLEVEL = @bench@
     MODULE = @module@
     COMPILE_ARGS = -g2005-sv -c @list@
-    PLUSARGS = +script=@script@
+    PLUSARGS = +@argument@=@script@
 and with PYTHONPATH=sim; include cocotb's Makefile.sim behind these lines.
 """
 import cocotb
@@ -331,6 +331,11 @@ QString verilogModule(const SystemMap &map)
     return symbolName(map, "_tb"_l1);
 }
 
+QString scriptArgument(const SystemMap &map)
+{
+    return ownName(map, QStringLiteral("script"));
+}
+
 QString script(const SystemMap &map)
 {
     return folder + fileName(map, "_tb.play"_l1);
@@ -349,11 +354,13 @@ QVector<ExportedFile> testbenchFiles(const SystemMap &map)
     if (!modelWith(map, ".v"_l1) || !modelWith(map, ".vhd"_l1))
         return {};
     const QString vhdlFile = folder + fileName(map, "_tb.vhd"_l1);
-    const QString module = "test_"_l1 + symbolName(map, ""_l1);
+    const QString module = ownName(map, QStringLiteral("test_tarvo_orix_m1"));
     const QVector<std::pair<QString, QString>> common = {
         {QStringLiteral("top"), topModuleName(map)},
         {QStringLiteral("bench"), BenchName::verilogModule(map)},
         {QStringLiteral("script"), BenchName::script(map)},
+        {QStringLiteral("argument"), BenchName::scriptArgument(map)},
+        {QStringLiteral("model"), ownName(map, QStringLiteral("cortex_m1_core_bfm"))},
         {QStringLiteral("python"), folder + module + ".py"_l1},
         {QStringLiteral("module"), module},
         {QStringLiteral("list"), fileName(map, "_simulation.f"_l1)},

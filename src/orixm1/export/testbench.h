@@ -16,6 +16,8 @@ namespace BenchName
 {
 
 QString verilogModule(const SystemMap &map);
+// The argument of a simulation that names the script of this subsystem, without "+" and "=".
+QString scriptArgument(const SystemMap &map);
 // Paths below the folder that is exported to.
 QString script(const SystemMap &map);
 // The bench first, since it sets the time scale, then the processor's model. None where there is no

@@ -1,8 +1,10 @@
 #include "exportsoftware.h"
 
 #include "config/latin1literal.h"
+#include "config/nameprefix.h"
 #include "configuration.h"
 #include "export/format.h"
+#include "export/prefixed.h"
 
 namespace TARVOORIXM1
 {
@@ -10,11 +12,12 @@ namespace TARVOORIXM1
 namespace
 {
 
-QVariantMap answer(const QString &error, const QVariantList &files = {})
+QVariantMap answer(const QString &error, const QVariantList &files = {},
+                   const QString &manifest = exportManifest)
 {
     return {{QStringLiteral("error"), error},
             {QStringLiteral("files"), files},
-            {QStringLiteral("manifest"), QString(exportManifest)}};
+            {QStringLiteral("manifest"), manifest}};
 }
 
 // The formats with these names, in the table's order; those that are not known in `*unknown`.
@@ -57,15 +60,16 @@ QVariantMap exportSoftware(const QString &ipcFile, const QStringList &formats, c
     const Utils::Result<SystemMap> map = readSystem(ipcFile, ipId, dataPath, devices);
     if (!map)
         return answer(map.reason());
+    const SystemMap own = prefixed(*map, prefixOf(map->options));
     QVariantList files;
     for (const Format *format : wanted) {
-        const QVector<ExportedFile> made = format->files(*map);
+        const QVector<ExportedFile> made = format->files(own);
         for (const ExportedFile &file : made)
             files.append(QVariantMap{{QStringLiteral("path"), file.path},
                                      {QStringLiteral("format"), QString(format->name)},
                                      {QStringLiteral("bytes"), file.bytes}});
     }
-    return answer(QString(), files);
+    return answer(QString(), files, exportManifestOf(own));
 }
 
 } // namespace TARVOORIXM1

@@ -23,7 +23,7 @@ QVariantMap maps(const QString &ipcFile, const QString &ipId, const QString &dat
                                      {QStringLiteral("width"), door.box.width()},
                                      {QStringLiteral("height"), door.box.height()},
                                      {QStringLiteral("text"), door.text},
-                                     {QStringLiteral("document"), QString(datasheetPage)},
+                                     {QStringLiteral("document"), datasheetPage(*map)},
                                      {QStringLiteral("headings"), door.headings}});
         list.append(QVariantMap{{QStringLiteral("title"), made.title},
                                 {QStringLiteral("text"), made.picture.text},

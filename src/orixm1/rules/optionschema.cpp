@@ -1,6 +1,7 @@
 #include "optionschema.h"
 
 #include "config/latin1literal.h"
+#include "config/nameprefix.h"
 #include "config/optionkeys.h"
 #include "config/optiontable.h"
 #include "devicerules.h"
@@ -91,6 +92,10 @@ QJsonObject schemaOf(const Option &option)
     } else if (option.type == OptionType::Int) {
         schema.insert(word("minimum"), option.minimum);
         schema.insert(word("maximum"), option.maximum);
+    }
+    if (option.key == Key::namePrefix) {
+        schema.insert(word("pattern"), prefixPattern());
+        schema.insert(word("maxLength"), longestPrefix);
     }
     if (option.defaultValue.isValid() && isInDomain(option, option.defaultValue))
         schema.insert(word("default"), QJsonValue::fromVariant(option.defaultValue));

@@ -91,6 +91,9 @@ struct SystemMap {
     QVector<DataFile> initialContents;
     // Of a netlist of this configuration: whoever has one sets them, systemMap() knows none.
     std::optional<ResourceFigures> resources;
+    // What all names begin with that the subsystem brings into a design or a program; empty: they
+    // are the usual ones. prefixed() sets it, systemMap() does not.
+    QString prefix;
 };
 
 // Where the RTL of a map looks for the first contents of a memory, from the folder in which its

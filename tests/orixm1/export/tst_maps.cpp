@@ -204,8 +204,9 @@ void tst_Maps::doorsLeadToHeadingsOfTheDatasheet()
     }));
     // The page is one of those that are handed on.
     bool isThere = false;
-    for (const ExportedFile &file : datasheetFiles(systemMap({}, {}, m_description)))
-        isThere = isThere || file.path == datasheetPage;
+    const SystemMap map = systemMap({}, {}, m_description);
+    for (const ExportedFile &file : datasheetFiles(map))
+        isThere = isThere || file.path == datasheetPage(map);
     QVERIFY(isThere);
 }
 
