@@ -6,7 +6,8 @@
 #include "output.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
-#include "unifieddiff.h"
+
+#include <preview/unifieddiff.h>
 
 #include <QDir>
 
