@@ -3,6 +3,7 @@
 #include "exportsoftware.h"
 #include "firmware.h"
 #include "movetodevice.h"
+#include "previewgeneration.h"
 #include "simulationcommand.h"
 #include "tarvoorixm1.h"
 
@@ -74,6 +75,14 @@ QVariantMap TarvoOrixM1Package::simulationCommand(const QString &ipcFile) const
 QVariantList TarvoOrixM1Package::simulationExamples() const
 {
     return TARVOORIXM1::simulationExamples(dataPath());
+}
+
+QVariantMap TarvoOrixM1Package::previewGeneration(const QVariantMap &configuration) const
+{
+    TarvoOrixM1 core(dataPath());
+    core.initialize();
+    return TARVOORIXM1::previewGeneration(configuration, core.information(), dataPath(),
+                                          *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -43,6 +43,10 @@ public:
     // written.
     Q_INVOKABLE QVariantMap simulationCommand(const QString &ipcFile) const;
     Q_INVOKABLE QVariantList simulationExamples() const;
+
+    // For hosts that ask for it by name: what OK would do in the dialog, whose configuration() this
+    // is; see previewgeneration.h. Nothing is written.
+    Q_INVOKABLE QVariantMap previewGeneration(const QVariantMap &configuration) const;
 };
 
 } // namespace TARVOORIXM1
