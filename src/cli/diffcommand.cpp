@@ -3,9 +3,9 @@
 #include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
-#include "meanings.h"
 #include "output.h"
 
+#include <preview/meanings.h>
 #include <utils/boundedfile.h>
 
 #include <algorithm>
@@ -51,36 +51,6 @@ QVector<EntryDifference> entryDifferences(const QVariantMap &before, const QVari
             differences.append(entry);
     }
     return differences;
-}
-
-// "+ fact", "- fact" or "~ name: detail before -> after, …".
-QString shownChange(const FactChange &change)
-{
-    switch (change.kind) {
-    case FactChange::Added:
-        return QLatin1String("+ ") + shownFact(change.after);
-    case FactChange::Removed:
-        return QLatin1String("- ") + shownFact(change.before);
-    case FactChange::Changed:
-        break;
-    }
-    const QJsonObject before = detailsOf(change.before);
-    const QJsonObject after = detailsOf(change.after);
-    QStringList names = before.keys() + after.keys();
-    names.sort();
-    names.removeDuplicates();
-    QStringList details;
-    for (const QString &name : qAsConst(names)) {
-        if (before[name] == after[name])
-            continue;
-        const auto text = [&name](const QJsonObject &side) {
-            return side.contains(name) ? side[name].toString() : QStringLiteral("none");
-        };
-        const QString values = text(before) + QLatin1String(" -> ") + text(after);
-        details.append(name == QLatin1String("value") ? values : QString(name + u' ' + values));
-    }
-    return QLatin1String("~ ") + change.after.name + QLatin1String(": ") +
-           details.join(QLatin1String(", "));
 }
 
 QString kindName(FactChange::Kind kind)

@@ -4,9 +4,9 @@
 #include "environment.h"
 #include "findings.h"
 #include "ipcdocument.h"
-#include "meanings.h"
 #include "output.h"
 
+#include <preview/meanings.h>
 #include <rules/settings.h>
 
 #include <algorithm>

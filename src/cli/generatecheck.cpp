@@ -7,7 +7,8 @@
 #include "prefixedset.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
-#include "unifieddiff.h"
+
+#include <preview/unifieddiff.h>
 
 #include <QDir>
 

@@ -15,8 +15,10 @@ struct GenerateArguments {
     bool synthesise = true;
     bool json = false;
     bool verbose = false;
-    bool check = false; // only tell how the files stand
-    bool force = false; // run, whatever stands there
+    bool check = false;  // only tell how the files stand
+    bool dryRun = false; // only tell what a run would do
+    bool diff = false;   // and what would change in the files
+    bool force = false;  // run, whatever stands there
     bool cache = true;
     PrefixChoice prefix;
 };

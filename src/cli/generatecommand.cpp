@@ -4,6 +4,7 @@
 #include "digest.h"
 #include "environment.h"
 #include "generatecheck.h"
+#include "generatepreview.h"
 #include "ipcdocument.h"
 #include "output.h"
 #include "prefixedset.h"
@@ -12,11 +13,13 @@
 
 #include <generate/record.h>
 #include <generate/state.h>
+#include <preview/preview.h>
 #include <rules/itcmcontents.h>
 #include <synthesis/reportjson.h>
 #include <synthesis/resources.h>
 #include <synthesis/runner.h>
 #include <synthesis/simulationmodel.h>
+#include <system/description.h>
 #include <utils/fileplacement.h>
 #include <utils/fileutils.h>
 #include <utils/folderlock.h>
@@ -24,6 +27,7 @@
 
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace Cli
 {
@@ -261,6 +265,28 @@ public:
         return synthesiseAndCollect();
     }
 
+    // Tells what run() would do and returns the exit status; writes nothing.
+    int preview(Environment &environment)
+    {
+        const Utils::Result<SystemDescription> description =
+            readSystemDescription(environment.dataFolder());
+        PreviewInput input;
+        if (description)
+            input.description = &*description;
+        else
+            input.notes.append(description.reason());
+        input.generation = m_input;
+        if (m_document.path.startsWith(m_input.createInPath + u'/'))
+            input.configuration = StoredConfiguration{m_document.path, m_document.text};
+        input.synthesise = m_arguments.synthesise;
+        input.isIdle = !m_arguments.force && freshReport();
+        input.results = [this](const Origin &origin) { return knownResults(origin); };
+        input.digest = fastSha256;
+        const DEV::DeviceDb *devices = environment.devices();
+        input.findDevice = [devices](const QString &id) { return devices->findDevice(id); };
+        return printPreview(previewOf(input), m_input.createInPath, m_arguments);
+    }
+
 private:
     // Whether a killed run has left what only a run of the tool tidies.
     bool isLeft() const { return QFileInfo::exists(m_plan.folder + QLatin1String("/.tarvo-run")); }
@@ -329,8 +355,7 @@ private:
         QString error;
         QStringList details;
         int exitCode = 0;
-        const bool isCached =
-            mistakes.isEmpty() && !m_arguments.force && !isLeft() && takeFromCache(origin, &error);
+        const bool isCached = mistakes.isEmpty() && takeFromCache(origin, &error);
         if (!error.isEmpty())
             return fail(error);
         if (!isCached) {
@@ -376,28 +401,70 @@ private:
         return end(&record, Done);
     }
 
-    // Puts results of an earlier run where the tool would leave them. False with a sentence if they
-    // cannot be put there, without if there are none.
-    bool takeFromCache(const Origin &origin, QString *error)
+    // What the tool would leave, from the cache.
+    struct Cached {
+        QVector<Utils::PlacedFile> files; // in the folder of the generated files
+        Synthesis::RunReport report;
+    };
+    std::optional<Cached> fromCache(const Origin &origin) const
     {
+        if (m_arguments.force || isLeft())
+            return std::nullopt;
         QString note;
         const auto results = m_cache.find(m_input, m_plan, origin, &note);
         if (!note.isEmpty())
             printError(note);
-        Synthesis::RunReport report;
-        if (!results || !Synthesis::fromJson(results->report, &report))
-            return false;
-        QVector<Utils::PlacedFile> files;
+        Cached cached;
+        if (!results || !Synthesis::fromJson(results->report, &cached.report))
+            return std::nullopt;
         for (const auto &file : results->files)
-            files.append({file.first, file.second});
-        files.append({m_plan.request.targetName + QLatin1String(".log"),
-                      "The results were taken from the cache; the tool did not run.\n"});
+            cached.files.append({file.first, file.second});
+        cached.files.append({m_plan.request.targetName + QLatin1String(".log"),
+                             "The results were taken from the cache; the tool did not run.\n"});
+        return cached;
+    }
+
+    std::optional<KnownResults> knownResults(const Origin &origin) const
+    {
+        const std::optional<Cached> cached = fromCache(origin);
+        if (!cached)
+            return std::nullopt;
+        KnownResults known;
+        for (const Utils::PlacedFile &file : cached->files)
+            known.files.append({file.name, file.bytes});
+        known.decode = [](const QByteArray &netlist) -> Utils::Result<QByteArray> {
+            const QTemporaryDir scratch;
+            const QString path = scratch.filePath(QStringLiteral("netlist.v"));
+            const QString model = scratch.filePath(QStringLiteral("model.vo"));
+            QString error = scratch.errorString();
+            QByteArray bytes;
+            if (!scratch.isValid() || !Utils::FileUtils::writeFile(path, netlist, &error) ||
+                Synthesis::writeSimulationModel(path, model, &error) != 0 ||
+                !Utils::FileUtils::readFile(model, &bytes, &error))
+                return Utils::Failure{error};
+            return bytes;
+        };
+        const ToolFacts facts = m_cache.toolFacts();
+        known.tool = facts.name;
+        known.toolVersion = facts.version;
+        known.report = Synthesis::toJson(cached->report);
+        return known;
+    }
+
+    // Puts results of an earlier run where the tool would leave them. False with a sentence if they
+    // cannot be put there, without if there are none.
+    bool takeFromCache(const Origin &origin, QString *error)
+    {
+        const std::optional<Cached> cached = fromCache(origin);
+        if (!cached)
+            return false;
         Utils::FilePlacement placement;
-        if (const Utils::Result<void> placed = placement.place(m_plan.folder, files); !placed) {
+        if (const Utils::Result<void> placed = placement.place(m_plan.folder, cached->files);
+            !placed) {
             *error = placed.reason();
             return false;
         }
-        m_report.run = report;
+        m_report.run = cached->report;
         printError(QStringLiteral("The results are those of an earlier run with the same inputs, "
                                   "from the cache; --force runs the tool."));
         return true;
@@ -425,9 +492,9 @@ int runGenerate(Environment &environment, const GenerateArguments &arguments)
     QString prefix;
     if (const Status status = arguments.prefix.choose(document, &prefix); status != Done)
         return status;
-    return Generation(document, generationInput(document, ipInfo, arguments.outDir), arguments,
-                      prefix)
-        .run();
+    Generation generation(document, generationInput(document, ipInfo, arguments.outDir), arguments,
+                          prefix);
+    return arguments.dryRun ? generation.preview(environment) : generation.run();
 }
 
 } // namespace
@@ -457,6 +524,15 @@ void declareGenerate(CommandLine &line)
         ->add_flag("--force", arguments->force,
                    "Run the tool even if everything is fresh, or in the cache")
         ->excludes(check);
+    CLI::Option *dryRun = command->add_flag(
+        "--dry-run", arguments->dryRun,
+        "Only tell which files a run would make, change or leave, and what differs from the last "
+        "one, with exit status 1 if any would change; writes nothing");
+    dryRun->excludes(check);
+    command
+        ->add_flag("--diff", arguments->diff,
+                   "With --dry-run, print what would change in the files, as a patch")
+        ->needs(dryRun);
     command->add_flag(
         "--no-cache", [arguments](qint64) { arguments->cache = false; },
         "Neither take results from the user's cache nor put them there");

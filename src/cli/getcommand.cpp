@@ -3,9 +3,9 @@
 #include "commandline.h"
 #include "environment.h"
 #include "ipcdocument.h"
-#include "meanings.h"
 #include "output.h"
 
+#include <preview/meanings.h>
 #include <rules/settings.h>
 
 namespace Cli

@@ -102,6 +102,11 @@ private Q_SLOTS:
     void whatCannotBeKeptIsNotReplaced_data();
     void whatCannotBeKeptIsNotReplaced();
 
+    void aDryRunSaysWhatARunThenWrites_data();
+    void aDryRunSaysWhatARunThenWrites();
+    void aDryRunNamesWhatOnlyTheToolCanTell();
+    void aDryRunOfSomethingFreshChangesNothing();
+
     void theCacheGivesTheSameBytes();
     void aBrokenEntryIsDropped_data();
     void aBrokenEntryIsDropped();
@@ -447,6 +452,131 @@ void tst_CliFresh::whatCannotBeKeptIsNotReplaced()
     QVERIFY2(text.startsWith(u'"' + there + latin1("\" cannot be read")), qPrintable(text));
     QCOMPARE(pictureOf(path("out"), there), before);
     QVERIFY(QFileInfo::exists(there));
+}
+
+void tst_CliFresh::aDryRunSaysWhatARunThenWrites_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QStringList>("further");
+    const QStringList none;
+    QTest::newRow("nothing is there")
+        << Change([](tst_CliFresh &test) { QVERIFY(QDir(test.path("out")).removeRecursively()); })
+        << none;
+    QTest::newRow("another option and another language")
+        << Change([](tst_CliFresh &test) { test.configure("LANG=1\n"); }) << none;
+    QTest::newRow("files were edited and one is gone") << Change([](tst_CliFresh &test) {
+        for (const char *name : {"out/tarvo_orix_m1.v", "out/tarvo_orix_m1.vo",
+                                 "out/temp/tv_orix_m1/cm1_option_defs.v"})
+            QVERIFY(TestSupport::write(test.path(name), "// mine"));
+        QVERIFY(QFile::remove(test.path("out/temp/tv_orix_m1/tarvo_orix_m1.vg")));
+    }) << none;
+    QTest::newRow("no manifest") << Change([](tst_CliFresh &test) {
+        QVERIFY(QFile::remove(test.path("out/temp/tv_orix_m1/manifest.json")));
+        test.configure("LANG=0\n");
+    }) << none;
+    QTest::newRow("the include files alone")
+        << Change([](tst_CliFresh &test) { test.configure("LANG=0\n"); })
+        << QStringList{latin1("--no-synth")};
+}
+
+void tst_CliFresh::aDryRunSaysWhatARunThenWrites()
+{
+    QFETCH(Change, change);
+    QFETCH(QStringList, further);
+    QCOMPARE(run(generate()).status, 0);
+    change(*this);
+    // So that the results are known.
+    QCOMPARE(run(generate({}, "elsewhere")).status, 0);
+    const QString folder = path("out");
+    const QString patched = path("patched");
+    QVERIFY(QDir().mkpath(folder) && QDir().mkpath(patched));
+    QCOMPARE(QProcess::execute(latin1("cp"), {latin1("-rT"), folder, patched}), 0);
+
+    const auto before = pictureOf(m_dir->path());
+    const Run told = run(generate(QStringList{latin1("--dry-run"), latin1("--diff")} + further));
+    QVERIFY2(told.status == 1, qPrintable(told.err));
+    const Run json = run(
+        generate(QStringList{latin1("--dry-run"), latin1("--diff"), latin1("--json")} + further));
+    QCOMPARE(json.status, 1);
+    QVERIFY(pictureOf(m_dir->path()) == before);
+
+    // The text is a patch that makes of the folder what the run makes of it.
+    QProcess patch;
+    patch.setWorkingDirectory(patched);
+    patch.start(latin1("patch"), {latin1("-p1"), latin1("--no-backup-if-mismatch")});
+    patch.write(told.out.toUtf8());
+    patch.closeWriteChannel();
+    QVERIFY(patch.waitForFinished());
+    QVERIFY2(patch.exitCode() == 0, qPrintable(told.out));
+    const Run made = run(generate(further));
+    QVERIFY2(made.status == 0, qPrintable(made.err));
+    const auto real = pictureOf(folder);
+    const auto predicted = pictureOf(patched);
+    QCOMPARE(predicted.size(), real.size());
+    for (auto it = real.begin(); it != real.end(); ++it) {
+        const QString twin = patched + it.key().mid(folder.size());
+        QVERIFY2(predicted.value(twin).first == it.value().first, qPrintable(it.key()));
+    }
+    // Each file is told once, with the state that it then shows.
+    QStringList names;
+    const QJsonArray files = json.json().value(latin1("files")).toArray();
+    for (const QJsonValue &file : files) {
+        const QString name = file[latin1("path")].toString();
+        const QString state = file[latin1("state")].toString();
+        const QString full = folder + u'/' + name;
+        QVERIFY2(!names.contains(name), qPrintable(name));
+        names.append(name);
+        QCOMPARE(file[latin1("madeByTool")].toBool(), false);
+        QVERIFY2(real.contains(full), qPrintable(name));
+        QCOMPARE(state == latin1("new"), !before.contains(full));
+        if (state == latin1("equal") || state == latin1("stays"))
+            QCOMPARE(real[full].first, before[full].first);
+        else if (state != latin1("new"))
+            QVERIFY2(real[full].first != before[full].first, qPrintable(name));
+    }
+}
+
+void tst_CliFresh::aDryRunNamesWhatOnlyTheToolCanTell()
+{
+    QCOMPARE(run(generate()).status, 0);
+    configure("LANG=0\n");
+    QVERIFY(TestSupport::write(path("out/tarvo_orix_m1.v"), "// mine\n"));
+    const Run told = run(generate({latin1("--dry-run"), latin1("--json"), latin1("--no-cache")}));
+    QCOMPARE(told.status, 1);
+    QMap<QString, QString> states;
+    const QJsonArray files = told.json().value(latin1("files")).toArray();
+    for (const QJsonValue &file : files) {
+        states.insert(file[latin1("path")].toString(), file[latin1("state")].toString());
+        QCOMPARE(file[latin1("madeByTool")].toBool(),
+                 !file[latin1("path")].toString().contains(latin1("_def")) &&
+                     !file[latin1("path")].toString().contains(latin1("param")));
+    }
+    QCOMPARE(states.value(latin1("tarvo_orix_m1.v")), latin1("edited"));
+    QCOMPARE(states.value(latin1("tarvo_orix_m1.vo")), latin1("remade"));
+    QCOMPARE(states.value(latin1("temp/tv_orix_m1/ahb_option_defs.v")), latin1("changed"));
+    QStringList texts;
+    const QJsonArray differences = told.json().value(latin1("differences")).toArray();
+    for (const QJsonValue &difference : differences)
+        texts.append(difference[latin1("kind")].toString() + u' ' +
+                     difference[latin1("text")].toString());
+    QVERIFY2(texts.contains(latin1("option ~ Enable GPIO: true -> false")),
+             qPrintable(texts.join(u'\n')));
+    QCOMPARE(run(generate({latin1("--diff")})).status, 2);
+    QCOMPARE(run(generate({latin1("--dry-run"), latin1("--check")})).status, 2);
+}
+
+void tst_CliFresh::aDryRunOfSomethingFreshChangesNothing()
+{
+    QCOMPARE(run(generate()).status, 0);
+    for (const QStringList &further : {QStringList(), QStringList{latin1("--no-synth")}}) {
+        const Run told =
+            run(generate(QStringList{latin1("--dry-run"), latin1("--diff")} + further));
+        QVERIFY2(told.status == 0, qPrintable(told.out));
+        QVERIFY2(told.out.startsWith(latin1("Nothing would change.\n")), qPrintable(told.out));
+        QVERIFY(!told.out.contains(latin1("@@")));
+    }
+    // Run all the same, the tool alone tells whether it makes the same.
+    QCOMPARE(run(generate({latin1("--dry-run"), latin1("--force")})).status, 1);
 }
 
 void tst_CliFresh::theCacheGivesTheSameBytes()

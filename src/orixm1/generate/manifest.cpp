@@ -88,21 +88,6 @@ QJsonValue shownValue(const Option &option, const GenerationInput &input)
     return text;
 }
 
-QJsonObject effectiveOptions(const GenerationInput &input)
-{
-    QJsonObject shown;
-    for (const Option &option : optionTable()) {
-        if (option.isOption)
-            shown.insert(option.key, shownValue(option, input));
-    }
-    // What the configuration holds is not always what counts.
-    if (input.tool)
-        shown.insert(Key::synthesisTool, QString(rowOf(*input.tool).name));
-    shown.insert(Key::lang, input.language ? QJsonValue(int(*input.language))
-                                           : QJsonValue(textOf(input.options, Key::lang)));
-    return shown;
-}
-
 // Without the folders, which are others on each machine.
 QByteArray descriptorText(const QVariantMap &ipInfo)
 {
@@ -265,6 +250,21 @@ QJsonValue replacedIn(const QJsonValue &value, const Replace &replace)
 QByteArray sha256(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+}
+
+QJsonObject effectiveOptions(const GenerationInput &input)
+{
+    QJsonObject shown;
+    for (const Option &option : optionTable()) {
+        if (option.isOption)
+            shown.insert(option.key, shownValue(option, input));
+    }
+    // What the configuration holds is not always what counts.
+    if (input.tool)
+        shown.insert(Key::synthesisTool, QString(rowOf(*input.tool).name));
+    shown.insert(Key::lang, input.language ? QJsonValue(int(*input.language))
+                                           : QJsonValue(textOf(input.options, Key::lang)));
+    return shown;
 }
 
 Origin originOf(const GenerationInput &input, const GenerationPlan &plan, Digest digest)

@@ -27,7 +27,7 @@ QByteArray sha256(const QByteArray &bytes);
 struct DigestedFile {
     QString role; // of an input: "configuration", "descriptor", "generated", "source", "included"
                   // or "memory"; empty for what was made
-    QString name;      // what was made: its path below the output folder
+    QString name; // what was made: its path below the output folder
     QByteArray sha256; // empty: there is no such file
 
     bool operator==(const DigestedFile &other) const
@@ -52,6 +52,8 @@ struct Origin {
     bool operator!=(const Origin &other) const { return !(*this == other); }
 };
 
+// Every option with the value that counts in a generation.
+QJsonObject effectiveOptions(const GenerationInput &input);
 // Reads the inputs; `plan` is that of `input`.
 Origin originOf(const GenerationInput &input, const GenerationPlan &plan, Digest digest);
 

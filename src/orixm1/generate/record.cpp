@@ -4,13 +4,7 @@
 #include "config/tr.h"
 #include "state.h"
 
-#include <reading/limits.h>
-#include <reading/plainfile.h>
-#include <utils/fileutils.h>
-
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QHash>
 
 #include <algorithm>
@@ -20,11 +14,12 @@ namespace TARVOORIXM1
 {
 
 GenerationRecord::GenerationRecord(const GenerationInput &input, const GenerationPlan &plan,
-                                   Digest digest, Write write)
+                                   Digest digest, Write write, Disk *disk)
     : m_input(input)
     , m_plan(plan)
     , m_digest(digest)
     , m_write(std::move(write))
+    , m_disk(disk ? disk : &m_own)
 {
 }
 
@@ -35,20 +30,18 @@ bool GenerationRecord::write(const GenerationManifest &manifest, QString *error)
 
 QByteArray GenerationRecord::digestOf(const QString &path) const
 {
-    QByteArray bytes;
-    QString reason;
-    return Reading::readPlainFile(path, Reading::Limits::anyFile, &bytes, &reason) ? m_digest(bytes)
-                                                                                   : QByteArray();
+    return m_disk->digestOf(path, m_digest);
 }
 
 Utils::Result<QByteArray> GenerationRecord::digestToKeep(const QString &path) const
 {
+    const QByteArray sum = digestOf(path);
+    if (!sum.isEmpty() || !m_disk->exists(path))
+        return sum;
     QByteArray bytes;
     QString reason;
     if (Reading::readPlainFile(path, Reading::Limits::anyFile, &bytes, &reason))
         return m_digest(bytes);
-    if (!QFileInfo::exists(path))
-        return QByteArray();
     return Utils::Failure{Tr::tr("\"%1\" cannot be read, so what stands there would be lost: %2.")
                               .arg(QDir::toNativeSeparators(path), reason)};
 }
@@ -57,13 +50,14 @@ bool GenerationRecord::keep(const QString &path, QString *error)
 {
     const QByteArray sum = digestOf(path);
     QString copy = path + ".edited"_l1;
-    for (int number = 2; QFileInfo::exists(copy) && digestOf(copy) != sum; ++number)
+    for (int number = 2; m_disk->exists(copy) && digestOf(copy) != sum; ++number)
         copy = path + ".edited-"_l1 + QString::number(number);
-    if (!QFileInfo::exists(copy)) {
-        if (!Utils::FileUtils::copyFile(path, copy, error))
+    if (!m_disk->exists(copy)) {
+        if (!m_disk->copy(path, copy, error))
             return false;
         m_kept.append({path, copy});
     }
+    m_edits.append({path, copy});
     const QString text =
         m_before->isFinished
             ? Tr::tr("\"%1\" was changed since the last run; what stood there is in \"%2\" now.")
@@ -160,22 +154,28 @@ QVector<DigestedFile> GenerationRecord::standing(const QVector<DigestedFile> &fi
     return those;
 }
 
+bool GenerationRecord::isEditedResult(const QString &path, const QByteArray &next) const
+{
+    if (!m_before)
+        return false;
+    const QByteArray present = digestOf(path);
+    return !present.isEmpty() && present != next &&
+           !isRecorded(belowOutput(path, m_input.createInPath), present);
+}
+
 bool GenerationRecord::keepEditedOutputs(QString *error)
 {
     if (!m_before)
         return true;
     const auto keepUnless = [&](const QString &path, const QByteArray &next) {
-        const auto present = digestToKeep(path);
-        if (!present) {
+        if (const auto present = digestToKeep(path); !present) {
             *error = present.reason();
             return false;
         }
-        const QString name = belowOutput(path, m_input.createInPath);
-        return present->isEmpty() || *present == next || isRecorded(name, *present) ||
-               keep(path, error);
+        return !isEditedResult(path, next) || keep(path, error);
     };
     for (const Output &output : qAsConst(m_plan.outputs.copied)) {
-        if (output.isOptional && !QFileInfo::exists(output.source))
+        if (output.isOptional && !m_disk->exists(output.source))
             continue;
         if (!keepUnless(output.file, digestOf(output.source)))
             return false;
@@ -210,7 +210,7 @@ bool GenerationRecord::finish(const Run *run, QString *error)
     // What a run that did not end had made already was no edit.
     for (const Kept &kept : qAsConst(m_kept)) {
         if (digestOf(kept.path) == digestOf(kept.copy)) {
-            QFile::remove(kept.copy);
+            m_disk->remove(kept.copy);
             m_messages.erase(std::remove_if(m_messages.begin(), m_messages.end(),
                                             [&kept](const QString &text) {
                                                 return text.contains(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "disk.h"
 #include "manifest.h"
 
 #include <functional>
@@ -17,8 +18,9 @@ public:
     using Write =
         std::function<bool(const QString &path, const QStringList &lines, QString *error)>;
 
+    // `disk` must outlive it; null: the disk itself.
     GenerationRecord(const GenerationInput &input, const GenerationPlan &plan, Digest digest,
-                     Write write);
+                     Write write, Disk *disk = nullptr);
 
     // Before the first include file: from now on an earlier manifest says that a run has not
     // finished. Contents of files that were edited since the last run stand in NAME.edited (or
@@ -39,12 +41,25 @@ public:
     // its end; the results are those of before.
     bool finish(const Run *run, QString *error);
 
+    // Something that was edited, and the file that keeps it.
+    struct Kept {
+        QString path;
+        QString copy;
+    };
+    // So far.
+    const QVector<Kept> &edits() const { return m_edits; }
+    // Whether begin() or keepEditedOutputs() would keep what stands at the path of a result, unless
+    // it is to hold contents with this sum.
+    bool isEditedResult(const QString &path, const QByteArray &next) const;
+
     // As it was at the beginning.
     const Origin &origin() const { return m_origin; }
     // On files that were edited and where their contents are.
     QStringList messages() const { return m_messages; }
 
 private:
+    Q_DISABLE_COPY(GenerationRecord)
+
     bool keep(const QString &path, QString *error);
     QByteArray digestOf(const QString &path) const; // empty: not there, or cannot be read
     // The same for a file that is about to be replaced: one that is there has to be read.
@@ -53,11 +68,6 @@ private:
     // Those that hold what is said of them.
     QVector<DigestedFile> standing(const QVector<DigestedFile> &files) const;
     bool write(const GenerationManifest &manifest, QString *error) const;
-
-    struct Kept {
-        QString path;
-        QString copy;
-    };
 
     GenerationInput m_input;
     GenerationPlan m_plan;
@@ -68,6 +78,9 @@ private:
     std::optional<GenerationManifest> m_before;
     QVector<DigestedFile> m_left; // what runs that did not end have made, as far as it stands
     QVector<Kept> m_kept;         // and made by this object
+    QVector<Kept> m_edits;
+    Disk m_own;
+    Disk *m_disk;
     QStringList m_messages;
 };
 

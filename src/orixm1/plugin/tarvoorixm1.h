@@ -25,6 +25,9 @@ public:
     QString summary() override;
     bool isSupported(DEV::DeviceArg device) override;
 
+    // What the descriptor says, with the data folders; empty before initialize().
+    const QVariantMap &information() const { return ipInfo; }
+
 private:
     OptionMap ipInfo;
     const QString dataPath;

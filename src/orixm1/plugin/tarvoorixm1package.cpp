@@ -5,6 +5,7 @@
 #include "maps.h"
 #include "measurecommand.h"
 #include "movetodevice.h"
+#include "previewgeneration.h"
 #include "simulationcommand.h"
 #include "tarvoorixm1.h"
 
@@ -87,6 +88,14 @@ QVariantMap TarvoOrixM1Package::maps(const QString &ipcFile) const
 QVariantMap TarvoOrixM1Package::measureCommand(const QVariantMap &configuration) const
 {
     return TARVOORIXM1::measureCommand(configuration, dataPath(), *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::previewGeneration(const QVariantMap &configuration) const
+{
+    TarvoOrixM1 core(dataPath());
+    core.initialize();
+    return TARVOORIXM1::previewGeneration(configuration, core.information(), dataPath(),
+                                          *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -51,6 +51,10 @@ public:
     // For hosts that ask for it by name: how a configuration is synthesised to see what it takes of
     // its device; see measurecommand.h. Nothing is written.
     Q_INVOKABLE QVariantMap measureCommand(const QVariantMap &configuration) const;
+
+    // For hosts that ask for it by name: what OK would do in the dialog, whose configuration() this
+    // is; see previewgeneration.h. Nothing is written.
+    Q_INVOKABLE QVariantMap previewGeneration(const QVariantMap &configuration) const;
 };
 
 } // namespace TARVOORIXM1

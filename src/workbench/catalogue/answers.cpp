@@ -7,10 +7,64 @@
 #include <QMetaMethod>
 #include <QObject>
 
+#include "tr.h"
+
+#include <QVariantList>
+
 #include <algorithm>
 
 namespace Workbench::Answers
 {
+
+namespace
+{
+
+// A text without characters that are not seen, as long as a line of people's may be.
+bool takeLine(const QVariant &value, QString *text)
+{
+    *text = value.toString();
+    return value.userType() == QMetaType::QString && text->size() <= previewLineLimit &&
+           isPlain(*text);
+}
+
+bool takeLines(const QVariantMap &map, const QString &key, QStringList *lines)
+{
+    const QVariant value = map.value(key);
+    if (!value.isValid())
+        return true;
+    *lines = value.toStringList();
+    return value.userType() == QMetaType::QStringList && lines->size() <= previewFileLimit &&
+           std::all_of(lines->begin(), lines->end(), [](const QString &line) {
+               return line.size() <= previewLineLimit && isPlain(line);
+           });
+}
+
+// The contents of a file, whatever they are.
+bool takeContents(const QVariantMap &map, const QString &key, std::optional<QString> *text)
+{
+    const QVariant value = map.value(key);
+    if (!value.isValid())
+        return true;
+    *text = value.toString();
+    return value.userType() == QMetaType::QString;
+}
+
+bool isBelow(const QString &path)
+{
+    const QStringList names = path.split(u'/');
+    return std::none_of(names.begin(), names.end(), [](const QString &name) {
+        return name.isEmpty() || name == u'.' || name == QLatin1String("..");
+    });
+}
+
+bool takeList(const QVariantMap &map, const QString &key, int limit, QVariantList *list)
+{
+    const QVariant value = map.value(key);
+    *list = value.toList();
+    return value.userType() == QMetaType::QVariantList && list->size() <= limit;
+}
+
+} // namespace
 
 bool isPlain(const QString &text)
 {
@@ -90,6 +144,52 @@ bool offers(const QObject *object, const char *method, int type)
 bool tells(const QObject *object, const char *signal)
 {
     return object && object->metaObject()->indexOfSignal(signal) >= 0;
+}
+
+Utils::Result<Preview> previewOf(const QVariantMap &answer)
+{
+    Preview preview;
+    if (!takeText(answer, QStringLiteral("error"), &preview.error))
+        return Utils::Failure{Tr::tr("its \"error\" is no plain text")};
+    if (!preview.error.isEmpty())
+        return preview;
+    std::optional<QString> text;
+    if (!takeContents(answer, QStringLiteral("text"), &text) || !text)
+        return Utils::Failure{Tr::tr("its \"text\" is no text")};
+    preview.text = *text;
+    QVariantList files;
+    QVariantList differences;
+    if (!takeList(answer, QStringLiteral("files"), previewFileLimit, &files))
+        return Utils::Failure{
+            Tr::tr("its \"files\" are no list, or more than %1").arg(previewFileLimit)};
+    if (!takeList(answer, QStringLiteral("differences"), previewDifferenceLimit, &differences))
+        return Utils::Failure{
+            Tr::tr("its \"differences\" are no list, or more than %1").arg(previewDifferenceLimit)};
+    if (!takeLines(answer, QStringLiteral("notes"), &preview.notes))
+        return Utils::Failure{Tr::tr("its \"notes\" are no plain texts")};
+    for (const QVariant &entry : qAsConst(files)) {
+        const QVariantMap map = entry.toMap();
+        PreviewedFile file;
+        if (!takeText(map, QStringLiteral("path"), &file.path) || !isBelow(file.path))
+            return Utils::Failure{
+                Tr::tr("%1 is no path below the output folder").arg(shown(file.path))};
+        if (!takeText(map, QStringLiteral("state"), &file.state) || file.state.isEmpty() ||
+            !takeLines(map, QStringLiteral("notes"), &file.notes) ||
+            !takeContents(map, QStringLiteral("before"), &file.before) ||
+            !takeContents(map, QStringLiteral("after"), &file.after))
+            return Utils::Failure{
+                Tr::tr("what it says of %1 makes no sense").arg(shown(file.path))};
+        preview.files.append(file);
+    }
+    for (const QVariant &entry : qAsConst(differences)) {
+        const QVariantMap map = entry.toMap();
+        PreviewedDifference difference;
+        if (!takeLine(map.value(QStringLiteral("kind")), &difference.kind) ||
+            !takeLine(map.value(QStringLiteral("text")), &difference.text))
+            return Utils::Failure{Tr::tr("one of its differences is no plain text")};
+        preview.differences.append(difference);
+    }
+    return preview;
 }
 
 } // namespace Workbench::Answers

@@ -1,8 +1,13 @@
 #pragma once
 
+#include <utils/result.h>
+
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
+#include <QVector>
+
+#include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QObject)
 
@@ -29,5 +34,31 @@ QString shown(const QString &text);
 bool offers(const QObject *object, const char *method, int type);
 // Whether the object, which may be null, has this signal.
 bool tells(const QObject *object, const char *signal);
+
+// A file that a generation would be concerned with.
+struct PreviewedFile {
+    QString path;  // below the output folder
+    QString state; // "new", "changed", …; a plug-in may have further ones
+    QStringList notes;
+    // Nothing: there is no file, or what it holds is not known or too long.
+    std::optional<QString> before;
+    std::optional<QString> after;
+};
+struct PreviewedDifference {
+    QString kind; // "option", "port", …
+    QString text;
+};
+struct Preview {
+    QString error; // the plug-in's sentence; everything else is empty then
+    QString text;  // all of it, for people
+    QVector<PreviewedFile> files;
+    QVector<PreviewedDifference> differences;
+    QStringList notes;
+};
+constexpr int previewFileLimit = 2000;
+constexpr int previewDifferenceLimit = 20000;
+constexpr int previewLineLimit = 20000; // characters of a difference or a note
+// What previewGeneration() of a plug-in has answered, all of it or nothing. A failure is a clause.
+Utils::Result<Preview> previewOf(const QVariantMap &answer);
 
 } // namespace Workbench::Answers

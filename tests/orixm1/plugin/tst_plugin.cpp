@@ -81,9 +81,14 @@ private Q_SLOTS:
     void offersNoExamplesThatAreNotThere();
     void mapsShowWhatTheCommandLineShows();
     void tellsWhyThereAreNoMaps();
+    void saysTheSameAsTheCommandLineOfWhatWouldBeGenerated_data();
+    void saysTheSameAsTheCommandLineOfWhatWouldBeGenerated();
+    void whatItSaysIsWhatOkThenWrites();
+    void saysWhyOkWouldWriteNothing();
     void needsNoLibraryThatAHostMayLack();
 
 private:
+    QVariantMap previewGeneration(const QVariantMap &configuration);
     // As a host calls it: by name.
     QVariantMap moveToDevice(const QString &file, const QString &device, bool write);
     QVariantMap exportSoftware(const QString &file, const QStringList &formats = {});
@@ -1157,6 +1162,145 @@ void tst_Plugin::tellsWhyThereAreNoMaps()
     QVERIFY2(answer.value(QStringLiteral("error")).toString().contains(QLatin1String("x.ipc")),
              qPrintable(answer.value(QStringLiteral("error")).toString()));
     QVERIFY(!answer.contains(QStringLiteral("maps")));
+}
+
+QVariantMap tst_Plugin::previewGeneration(const QVariantMap &configuration)
+{
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    QVariantMap answer;
+    const bool found = QMetaObject::invokeMethod(
+        plugin(), "previewGeneration", Qt::DirectConnection, Q_RETURN_ARG(QVariantMap, answer),
+        Q_ARG(QVariantMap, configuration));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::saysTheSameAsTheCommandLineOfWhatWouldBeGenerated_data()
+{
+    QTest::addColumn<bool>("isMade");
+    QTest::addColumn<bool>("isEdited");
+    QTest::newRow("nothing has been generated") << false << false;
+    QTest::newRow("something else has been generated") << true << false;
+    QTest::newRow("and edited") << true << true;
+}
+
+void tst_Plugin::saysTheSameAsTheCommandLineOfWhatWouldBeGenerated()
+{
+    QFETCH(bool, isMade);
+    QFETCH(bool, isEdited);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+    const auto command = [](const QStringList &arguments, QByteArray *out = nullptr) {
+        QProcess process;
+        process.start(QStringLiteral(TARVO_COMMAND), arguments);
+        process.waitForFinished(-1);
+        if (out)
+            *out = process.readAllStandardOutput();
+        return process.exitCode();
+    };
+    const QString device = QStringLiteral("TV2KR-18C-QFN88P-C8/I7");
+    QCOMPARE(command({QStringLiteral("new"), QStringLiteral("--out"), dir.path(),
+                      QStringLiteral("--device"), device}),
+             0);
+    if (isMade)
+        QCOMPARE(command({QStringLiteral("generate"), file, QStringLiteral("--no-synth")}), 0);
+    if (isEdited)
+        QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("temp/tv_orix_m1/parameter.vh")),
+                                   "// mine\n"));
+    QCOMPARE(command({QStringLiteral("set"), file, QStringLiteral("Enable GPIO=true")}), 0);
+    QByteArray told;
+    QCOMPARE(command({QStringLiteral("generate"), file, QStringLiteral("--dry-run"),
+                      QStringLiteral("--diff"), QStringLiteral("--no-cache")},
+                     &told),
+             1);
+
+    QSettings settings(file, QSettings::IniFormat);
+    TARVOORIXM1::OptionMap options;
+    TARVOORIXM1::IpcFile::readOptions(settings, options);
+    const QVariantMap header{{QStringLiteral("target_device"), device},
+                             {QStringLiteral("type"), QStringLiteral("tarvo.tarvo_orix_m1")},
+                             {QStringLiteral("version"), QStringLiteral("1.0")}};
+    const QMap<QString, QByteArray> before = treeOf(dir.path());
+    const QVariantMap answer = previewGeneration({{QStringLiteral("file"), file},
+                                                  {QStringLiteral("header"), header},
+                                                  {QStringLiteral("options"), options}});
+    QCOMPARE(answer.value(QStringLiteral("error")).toString(), QString());
+    QVERIFY(told.contains("ahb_option_defs.v") && told.contains("+`define TARVO_GPIO_SUPPORT"));
+    QCOMPARE(answer.value(QStringLiteral("text")).toString().toUtf8(), told);
+    QCOMPARE(treeOf(dir.path()), before);
+}
+
+// The tool is missing, so that only what it makes does not come true.
+void tst_Plugin::whatItSaysIsWhatOkThenWrites()
+{
+    QTemporaryDir dir;
+    const QByteArray path = qgetenv("PATH");
+    const QString file = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+    QVERIFY(QFile::copy(QStringLiteral(TARVO_EXAMPLE), file));
+    QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner));
+    const QString include = dir.filePath(QStringLiteral("temp/tv_orix_m1/cm1_option_defs.v"));
+    const auto ip = core();
+    int told = 0;
+    for (const char *story : {"new", "again", "edited"}) {
+        if (qstrcmp(story, "edited") == 0)
+            QVERIFY(TestSupport::write(include, "// mine"));
+        QVariantMap answer;
+        QPointer<QWidget> dialog;
+        const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
+            if (modal->metaObject()->indexOfMethod("configuration()") < 0) {
+                modal->close();
+                if (dialog)
+                    dialog->close();
+                return;
+            }
+            dialog = modal;
+            QVariantMap configuration;
+            QMetaObject::invokeMethod(modal, "configuration", Qt::DirectConnection,
+                                      Q_RETURN_ARG(QVariantMap, configuration));
+            answer = previewGeneration(configuration);
+            auto *buttons = modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+            buttons->button(QDialogButtonBox::Ok)->click();
+        });
+        qputenv("PATH", "/nowhere");
+        ip->openIP(dir.path(), file);
+        qputenv("PATH", path);
+        QCOMPARE(answer.value(QStringLiteral("error")).toString(), QString());
+        const QVariantList files = answer.value(QStringLiteral("files")).toList();
+        QVERIFY(files.size() > 8);
+        for (const QVariant &entry : files) {
+            const QVariantMap map = entry.toMap();
+            const QString name = map.value(QStringLiteral("path")).toString();
+            if (!map.contains(QStringLiteral("after")))
+                continue;
+            ++told;
+            const QByteArray after = map.value(QStringLiteral("after")).toString().toUtf8();
+            QVERIFY2(TestSupport::contentsOf(dir.filePath(name)) == after,
+                     qPrintable(name + u' ' + QLatin1String(story)));
+        }
+    }
+    QVERIFY(told > 20);
+    QCOMPARE(TestSupport::contentsOf(include + QStringLiteral(".edited")), QByteArray("// mine"));
+}
+
+void tst_Plugin::saysWhyOkWouldWriteNothing()
+{
+    QTemporaryDir dir;
+    const QVariantMap header{
+        {QStringLiteral("target_device"), QStringLiteral("TV2KR-18C-QFN88P-C8/I7")}};
+    QVariantMap configuration{{QStringLiteral("file"), dir.filePath(QStringLiteral("name.ipc"))},
+                              {QStringLiteral("header"), header}};
+    const auto errorOf = [this](const QVariantMap &asked) {
+        return previewGeneration(asked).value(QStringLiteral("error")).toString();
+    };
+    QCOMPARE(errorOf(configuration), QString());
+    configuration[QStringLiteral("options")] =
+        QVariantMap{{QStringLiteral("Internal_Instruction_Memory"), true},
+                    {QStringLiteral("Initialize ITCM"), true},
+                    {QStringLiteral("ITCM_Initialization_Path"), QStringLiteral("nowhere")}};
+    QVERIFY2(errorOf(configuration).startsWith(QLatin1String("ITCM Initialization Path")),
+             qPrintable(errorOf(configuration)));
+    QVERIFY(!errorOf({}).isEmpty());
+    QVERIFY(!errorOf({{QStringLiteral("file"), QStringLiteral("name.ipc")}}).isEmpty());
+    QVERIFY(TestSupport::entriesOf(dir.path()).isEmpty());
 }
 
 void tst_Plugin::needsNoLibraryThatAHostMayLack()

@@ -1,12 +1,12 @@
 #include "testsupport.h"
 
-#include <unifieddiff.h>
+#include <preview/unifieddiff.h>
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QtTest>
 
-using namespace Cli;
+using namespace TARVOORIXM1;
 
 namespace
 {

@@ -1,9 +1,7 @@
 #include "meanings.h"
 
-namespace Cli
+namespace TARVOORIXM1
 {
-
-using namespace TARVOORIXM1;
 
 QString shownValue(const QVariant &value)
 {
@@ -90,4 +88,33 @@ QJsonObject detailsOf(const Fact &fact)
     return object;
 }
 
-} // namespace Cli
+QString shownChange(const FactChange &change)
+{
+    switch (change.kind) {
+    case FactChange::Added:
+        return QLatin1String("+ ") + shownFact(change.after);
+    case FactChange::Removed:
+        return QLatin1String("- ") + shownFact(change.before);
+    case FactChange::Changed:
+        break;
+    }
+    const QJsonObject before = detailsOf(change.before);
+    const QJsonObject after = detailsOf(change.after);
+    QStringList names = before.keys() + after.keys();
+    names.sort();
+    names.removeDuplicates();
+    QStringList details;
+    for (const QString &name : qAsConst(names)) {
+        if (before[name] == after[name])
+            continue;
+        const auto text = [&name](const QJsonObject &side) {
+            return side.contains(name) ? side[name].toString() : QStringLiteral("none");
+        };
+        const QString values = text(before) + QLatin1String(" -> ") + text(after);
+        details.append(name == QLatin1String("value") ? values : QString(name + u' ' + values));
+    }
+    return QLatin1String("~ ") + change.after.name + QLatin1String(": ") +
+           details.join(QLatin1String(", "));
+}
+
+} // namespace TARVOORIXM1

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace Cli
+namespace TARVOORIXM1
 {
 
 // What turns one text into another, as a unified diff with three lines of context, line by line;
@@ -13,4 +13,4 @@ namespace Cli
 QStringList unifiedDiff(const QByteArray &before, const QByteArray &after,
                         const QString &beforeName, const QString &afterName);
 
-} // namespace Cli
+} // namespace TARVOORIXM1
