@@ -1,5 +1,6 @@
 #include "tarvoorixm1package.h"
 
+#include "estimateanswer.h"
 #include "exportsoftware.h"
 #include "firmware.h"
 #include "movetodevice.h"
@@ -74,6 +75,11 @@ QVariantMap TarvoOrixM1Package::simulationCommand(const QString &ipcFile) const
 QVariantList TarvoOrixM1Package::simulationExamples() const
 {
     return TARVOORIXM1::simulationExamples(dataPath());
+}
+
+QVariantMap TarvoOrixM1Package::estimate(const QVariantMap &configuration) const
+{
+    return estimateAnswer(configuration, dataPath(), *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -43,6 +43,10 @@ public:
     // written.
     Q_INVOKABLE QVariantMap simulationCommand(const QString &ipcFile) const;
     Q_INVOKABLE QVariantList simulationExamples() const;
+
+    // For hosts that ask for it by name: what a configuration, as configuration() of a dialog tells
+    // it, will take of its device, without a run; see estimateanswer.h.
+    Q_INVOKABLE QVariantMap estimate(const QVariantMap &configuration) const;
 };
 
 } // namespace TARVOORIXM1
