@@ -11,6 +11,8 @@
 //                                     and prints how far the estimates are off; fails where less
 //                                     than 98 % hold
 //
+//   estimatetable spot N [SEED]       the same for N with few blocks
+//
 // With FILE= in front of an argument list another file of measurements is taken. One process at a
 // time.
 
@@ -290,21 +292,21 @@ int fitTable(const QString &path, const DEV::DeviceDb &devices)
     return 0;
 }
 
-int checkTable(const DEV::DeviceDb &devices, int count, int firstSeed)
+// `few`: with few blocks, `count` in all; else `count` of each series.
+int checkTable(const DEV::DeviceDb &devices, int count, int firstSeed, bool few)
 {
     const Utils::Result<EstimateTable> table = readEstimateTable(QStringLiteral(TARVO_IP_DATA_DIR));
     if (!table)
         return fail(table.reason());
     QVector<Measurement> list;
     const QVector<DEV::DeviceArg> some = oneOfEach(devices);
-    int seed = firstSeed;
-    for (const DEV::DeviceArg &device : some) {
-        for (int i = 0; i < count; ++i) {
-            Planned planned = random(seed++, device);
-            if (const auto done = measure(device, &planned.measurement); !done)
-                return fail(done.reason());
-            list.append(planned.measurement);
-        }
+    for (int i = 0; i < (few ? count : count * some.size()); ++i) {
+        const int seed = firstSeed + i;
+        const DEV::DeviceArg &device = some.at(few ? seed % some.size() : i / count);
+        Planned planned = few ? sparse(seed, device) : random(seed, device);
+        if (const auto done = measure(device, &planned.measurement); !done)
+            return fail(done.reason());
+        list.append(planned.measurement);
     }
     const int missed = printErrors("fresh", *table, devices, list);
     const int figures = list.size() * table->resources.size();
@@ -327,8 +329,10 @@ int main(int argc, char *argv[])
         return measureAll(path, devices, arguments.value(1, QStringLiteral("400")).toInt());
     if (command == "fit"_l1)
         return fitTable(path, devices);
-    if (command == "check"_l1 && arguments.value(1).toInt() > 0)
+    if ((command == "check"_l1 || command == "spot"_l1) && arguments.value(1).toInt() > 0)
         return checkTable(devices, arguments.at(1).toInt(),
-                          arguments.value(2, QStringLiteral("1000000")).toInt());
-    return fail(QStringLiteral("estimatetable [FILE=PATH] measure [LAST] | fit | check N [SEED]"));
+                          arguments.value(2, QStringLiteral("1000000")).toInt(),
+                          command == "spot"_l1);
+    return fail(QStringLiteral(
+        "estimatetable [FILE=PATH] measure [LAST] | fit | check N [SEED] | spot N [SEED]"));
 }

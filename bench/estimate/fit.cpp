@@ -18,13 +18,15 @@ using Number = long double;
 struct Resource {
     QLatin1String name;
     bool isExact;
+    // Each term costs a whole number, since nothing is shared between terms.
+    bool isWhole;
 };
 
-constexpr Resource resources[] = {{"LUT4"_l1, false},
-                                  {"Flip-flops"_l1, false},
-                                  {"Carry"_l1, true},
-                                  {"Tri-state drivers"_l1, true},
-                                  {"Block RAM"_l1, true}};
+constexpr Resource resources[] = {{"LUT4"_l1, false, false},
+                                  {"Flip-flops"_l1, false, true},
+                                  {"Carry"_l1, true, true},
+                                  {"Tri-state drivers"_l1, true, true},
+                                  {"Block RAM"_l1, true, true}};
 
 constexpr Tolerance promised = {40, 5};
 
@@ -46,7 +48,7 @@ QVector<Number> solve(const QVector<Row> &all, const QString &resource, const QV
                 row.uses.end());
     }
     // What keeps terms apart that always come together; far below any cell.
-    constexpr Number ridge = 1e-7L;
+    const Number ridge = resource == resources[0].name ? 1e-7L : 1e-12L;
     QVector<QVector<Number>> matrix(columns, QVector<Number>(columns + 1, 0));
     for (int i = 0; i < columns; ++i)
         matrix[i][i] = ridge;
@@ -98,8 +100,10 @@ EstimateTable costsOf(const QVector<Row> &rows)
         table.tolerances << Tolerance();
         const QVector<Number> solution = solve(rows, resource.name, column, columns);
         for (int term = 0; term < column.size(); ++term) {
-            if (column[term] >= 0)
-                table.costs[term] << double(solution[column[term]]);
+            if (column[term] < 0)
+                continue;
+            const double cost = double(solution[column[term]]);
+            table.costs[term] << (resource.isWhole ? std::round(cost) : cost);
         }
     }
     return table;

@@ -22,6 +22,11 @@ constexpr QLatin1String coreLabel = "Cortex-M1"_l1;
 constexpr QLatin1String ahbLabel = "AHB Bus"_l1;
 constexpr QLatin1String apbLabel = "AHB2APB"_l1;
 
+// Peripherals for which an access to the middle of a word is another one than to its beginning. All
+// others leave the lowest bits of the address out.
+constexpr QLatin1String byteAddressed[] = {Key::enableUart0, Key::enableUart1,  Key::enableI2c,
+                                           Key::enableSpi,   Key::enableSdCard, Key::enableTrng};
+
 // What the terms follow from, read once.
 struct Facts {
     CoreSwitches core;
@@ -33,7 +38,13 @@ struct Facts {
     int apbPorts = 0;
     int apbPeripherals = 0; // on the internal bus, without SYS
 
+    bool hasGpio = false;
+    bool isByteAddressRead = false; // by a peripheral on the internal APB bus
+    bool hasUart1 = false;
+
     bool hasSys() const { return apbPeripherals > 0; }
+    // GPIO answers at once, so that a bus with nothing else has no limit of wait states.
+    bool canWait() const { return ahbSlaves > int(hasGpio); }
 };
 
 // Table cells of four inputs for one bit of a multiplexer that ANDs and ORs `ways` inputs.
@@ -74,12 +85,20 @@ constexpr FixedTerm fixedTerms[] = {
     {"external data memory"_l1, coreLabel,
      [](const Facts &f) { return f.core.externalDataMemory ? 1.0 : 0.0; }},
     {"AHB"_l1, ahbLabel, [](const Facts &f) { return f.ahbSlaves > 0 ? 1.0 : 0.0; }},
+    {"AHB that can wait"_l1, ahbLabel, [](const Facts &f) { return f.canWait() ? 1.0 : 0.0; }},
     {"AHB, several slaves"_l1, ahbLabel, [](const Facts &f) { return f.ahbSlaves > 1 ? 1.0 : 0.0; },
      true},
     {"AHB slaves"_l1, ahbLabel, [](const Facts &f) { return double(f.ahbSlaves); }},
     {"AHB multiplexer"_l1, ahbLabel, [](const Facts &f) { return double(muxCells(f.ahbSlaves)); },
      true},
     {"APB"_l1, apbLabel, [](const Facts &f) { return f.hasSys() ? 1.0 : 0.0; }},
+    {"APB, address of bytes"_l1, apbLabel,
+     [](const Facts &f) { return f.isByteAddressRead ? 1.0 : 0.0; }},
+    {"APB, errors of the ports"_l1, apbLabel,
+     [](const Facts &f) { return f.hasSys() && f.apbPorts > 0 ? 1.0 : 0.0; }},
+    // Interrupt 1 does not arrive, and what counts the time up to it is left out.
+    {"UART1 without its interrupt"_l1, "UART1"_l1,
+     [](const Facts &f) { return f.hasUart1 && f.interrupts <= 1 ? 1.0 : 0.0; }},
     {"APB multiplexer"_l1, apbLabel,
      [](const Facts &f) { return f.hasSys() ? double(muxCells(f.apbPeripherals + 1)) : 0.0; },
      true},
@@ -165,6 +184,11 @@ Facts factsFor(const OptionMap &options, const QString &device)
     if (isOn(options, Key::internalDataMemory))
         facts.dtcm = sizeCode(options, Key::dtcmSize, device);
     facts.interrupts = numberOf(options, Key::numberOfInterrupts);
+    facts.hasGpio = isOn(options, Key::enableGpio);
+    facts.hasUart1 = isOn(options, Key::enableUart1);
+    facts.isByteAddressRead =
+        std::any_of(std::begin(byteAddressed), std::end(byteAddressed),
+                    [&options](QLatin1String key) { return isOn(options, key); });
     facts.ahbSlaves =
         int(facts.core.externalInstructionMemory) + int(facts.core.externalDataMemory);
     return facts;
