@@ -105,6 +105,8 @@ QVector<Planned> chosen(const DEV::DeviceDb &devices)
         plan.append(planned);
     };
     add(QStringLiteral("base"), {});
+    add(QStringLiteral("UART1 without its interrupt"),
+        {{Key::enableUart1, true}, {Key::numberOfInterrupts, 1}});
     for (const Block &block : generatedBlocks()) {
         if (block.hasPorts()) {
             OptionMap ports;

@@ -40,15 +40,16 @@ QVector<Number> solve(const QVector<Row> &all, const QString &resource, const QV
                       int columns)
 {
     QVector<Row> rows = all;
-    if (resource != resources[0].name) {
-        for (Row &row : rows)
-            row.uses.erase(
-                std::remove_if(row.uses.begin(), row.uses.end(),
-                               [](const TermUse &use) { return isOfTablesOnly(use.term); }),
-                row.uses.end());
-    }
+    const bool areTables = resource == resources[0].name;
+    for (Row &row : rows)
+        row.uses.erase(std::remove_if(row.uses.begin(), row.uses.end(),
+                                      [areTables](const TermUse &use) {
+                                          return !(areTables ? costsTables(use.term)
+                                                             : costsOthers(use.term));
+                                      }),
+                       row.uses.end());
     // What keeps terms apart that always come together; far below any cell.
-    const Number ridge = resource == resources[0].name ? 1e-7L : 1e-12L;
+    const Number ridge = areTables ? 1e-7L : 1e-12L;
     QVector<QVector<Number>> matrix(columns, QVector<Number>(columns + 1, 0));
     for (int i = 0; i < columns; ++i)
         matrix[i][i] = ridge;
@@ -183,10 +184,13 @@ EstimateTable fittedTable(const Measurements &measurements, const DEV::DeviceDb 
         others.remove(i);
         look(costsOf(others), fit.at(i));
     }
+    // What was measured is not all that there is.
+    constexpr double margin = 1.25;
     for (int i = 0; i < worst.size(); ++i) {
-        if (worst.at(i) > 0)
-            table.tolerances[i] = {std::ceil(promised.cells * worst.at(i)),
-                                   roundedUp(promised.percent * worst.at(i), 0.1)};
+        const double share = worst.at(i) * margin;
+        if (share > 0)
+            table.tolerances[i] = {std::ceil(promised.cells * share),
+                                   roundedUp(promised.percent * share, 0.1)};
     }
     return table;
 }

@@ -61,12 +61,14 @@ int ones(int value)
     return count;
 }
 
+enum class Costs { All, Tables, Others };
+
 // A term that belongs to the subsystem as a whole, in the order of the table.
 struct FixedTerm {
     QLatin1String name;
     QLatin1String block;
     double (*count)(const Facts &);
-    bool isOfTablesOnly = false;
+    Costs costs = Costs::All;
 };
 
 constexpr FixedTerm fixedTerms[] = {
@@ -86,29 +88,28 @@ constexpr FixedTerm fixedTerms[] = {
      [](const Facts &f) { return f.core.externalDataMemory ? 1.0 : 0.0; }},
     {"AHB"_l1, ahbLabel, [](const Facts &f) { return f.ahbSlaves > 0 ? 1.0 : 0.0; }},
     {"AHB that can wait"_l1, ahbLabel, [](const Facts &f) { return f.canWait() ? 1.0 : 0.0; }},
-    {"AHB, several slaves"_l1, ahbLabel, [](const Facts &f) { return f.ahbSlaves > 1 ? 1.0 : 0.0; },
-     true},
-    {"AHB slaves"_l1, ahbLabel, [](const Facts &f) { return double(f.ahbSlaves); }},
     {"AHB multiplexer"_l1, ahbLabel, [](const Facts &f) { return double(muxCells(f.ahbSlaves)); },
-     true},
+     Costs::Tables},
     {"APB"_l1, apbLabel, [](const Facts &f) { return f.hasSys() ? 1.0 : 0.0; }},
     {"APB, address of bytes"_l1, apbLabel,
      [](const Facts &f) { return f.isByteAddressRead ? 1.0 : 0.0; }},
     {"APB, errors of the ports"_l1, apbLabel,
-     [](const Facts &f) { return f.hasSys() && f.apbPorts > 0 ? 1.0 : 0.0; }},
+     [](const Facts &f) { return f.hasSys() && f.apbPorts > 0 ? 1.0 : 0.0; }, Costs::Others},
     // Interrupt 1 does not arrive, and what counts the time up to it is left out.
     {"UART1 without its interrupt"_l1, "UART1"_l1,
      [](const Facts &f) { return f.hasUart1 && f.interrupts <= 1 ? 1.0 : 0.0; }},
     {"APB multiplexer"_l1, apbLabel,
      [](const Facts &f) { return f.hasSys() ? double(muxCells(f.apbPeripherals + 1)) : 0.0; },
-     true},
+     Costs::Tables},
+    {"pairs of APB peripherals"_l1, apbLabel,
+     [](const Facts &f) { return f.apbPeripherals * (f.apbPeripherals - 1) / 2.0; }, Costs::Tables},
     {"readable configuration"_l1, apbLabel,
      [](const Facts &f) {
          return f.hasSys() ? double(ones(f.itcm) + ones(f.dtcm) + ones(f.interrupts & 63)) : 0.0;
      },
-     true},
+     Costs::Tables},
     {"readable ports"_l1, apbLabel,
-     [](const Facts &f) { return f.hasSys() ? double(f.apbPorts) : 0.0; }, true},
+     [](const Facts &f) { return f.hasSys() ? double(f.apbPorts) : 0.0; }, Costs::Tables},
 };
 
 constexpr int largestSizeCode = 10;
@@ -132,8 +133,14 @@ struct Names {
 };
 
 constexpr char multiplexerSuffix[] = ", multiplexer";
-// Of a bus that is led out: its being there, its ports, the multiplexer of their answers.
-constexpr const char *portTerms[] = {"", ", ports", multiplexerSuffix};
+// Of a bus that is led out: its ports, and where it is a bus of its own, its bridge and the
+// multiplexer of the ports' answers.
+constexpr const char *portTerms[] = {", ports", "", multiplexerSuffix};
+
+int portTermCount(const Block &block)
+{
+    return block.bus == Bus::Apb ? int(std::size(portTerms)) : 1;
+}
 
 const Names &names()
 {
@@ -155,8 +162,8 @@ const Names &names()
         result.firstBlock = result.all.size();
         for (const Block &block : generatedBlocks()) {
             if (block.hasPorts()) {
-                for (const char *part : portTerms)
-                    result.all << labelOf(block, 0) + QLatin1String(part);
+                for (int i = 0; i < portTermCount(block); ++i)
+                    result.all << labelOf(block, 0) + QLatin1String(portTerms[i]);
                 continue;
             }
             for (int i = 0; i < block.switches.size(); ++i)
@@ -201,11 +208,16 @@ const QStringList &termNames()
     return names().all;
 }
 
-bool isOfTablesOnly(int term)
+bool costsTables(int term)
+{
+    return term >= int(std::size(fixedTerms)) || fixedTerms[term].costs != Costs::Others;
+}
+
+bool costsOthers(int term)
 {
     return term < int(std::size(fixedTerms))
-               ? fixedTerms[term].isOfTablesOnly
-               : termNames().at(term).endsWith(QLatin1String(multiplexerSuffix));
+               ? fixedTerms[term].costs != Costs::Tables
+               : !termNames().at(term).endsWith(QLatin1String(multiplexerSuffix));
 }
 
 QVector<TermUse> termsOf(const OptionMap &options, const DEV::DeviceArg &device)
@@ -224,7 +236,7 @@ QVector<TermUse> termsOf(const OptionMap &options, const DEV::DeviceArg &device)
             if (counts && !block.hasPorts())
                 ofBlocks.append({first + i, labelOf(block, row.isInterface ? 0 : i), 1.0});
         }
-        term += block.hasPorts() ? int(std::size(portTerms)) : block.switches.size();
+        term += block.hasPorts() ? portTermCount(block) : block.switches.size();
         if (block.isApbPeripheral())
             facts.apbPeripherals += on;
         else if (block.bus == Bus::Apb)
@@ -235,8 +247,8 @@ QVector<TermUse> termsOf(const OptionMap &options, const DEV::DeviceArg &device)
             continue;
         if (block.bus == Bus::Apb)
             facts.apbPorts = on;
-        const double shares[] = {1.0, double(on), double(muxCells(on))};
-        for (int i = 0; i < int(std::size(portTerms)); ++i)
+        const double shares[] = {double(on), 1.0, double(muxCells(on))};
+        for (int i = 0; i < portTermCount(block); ++i)
             ofBlocks.append({first + i, labelOf(block, 0), shares[i]});
     }
     if (facts.hasSys())

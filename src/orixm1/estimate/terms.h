@@ -22,8 +22,10 @@ struct TermUse {
 // All terms, in a fixed order; each name once.
 const QStringList &termNames();
 
-// Whether a term is of multiplexers and constants, which are made of table cells and nothing else.
-bool isOfTablesOnly(int term);
+// Whether a term costs table cells, or anything else. Multiplexers and constants are made of tables
+// alone.
+bool costsTables(int term);
+bool costsOthers(int term);
 
 // What generation makes of a configuration, in terms. Terms without a share are left out. Reads no
 // file; every map of options has an answer, in which values beyond a domain count as generation
