@@ -2,6 +2,7 @@
 
 #include "commandline.h"
 #include "environment.h"
+#include "estimates.h"
 #include "findings.h"
 #include "ipcdocument.h"
 #include "output.h"
@@ -72,6 +73,16 @@ QVector<Finding> withInterrupts(QVector<Finding> findings, const QVector<Finding
     return findings;
 }
 
+// Where the device may be too small.
+QVector<Finding> sizeFindings(const Estimate &estimate)
+{
+    QVector<Finding> findings;
+    const QStringList sentences = shortages(estimate);
+    for (const QString &sentence : sentences)
+        findings.append({Finding::Warning, QStringLiteral("target_device"), sentence});
+    return findings;
+}
+
 int runCheck(Environment &environment, const QString &file, bool json)
 {
     const QVariantMap ipInfo = environment.ipInfo();
@@ -85,10 +96,15 @@ int runCheck(Environment &environment, const QString &file, bool json)
         printProblem({interrupts.reason()});
         return BadInput;
     }
+    bool isTableSound = true;
+    const auto estimated = estimateOf(environment, document, &isTableSound);
+    if (!isTableSound)
+        return BadInput;
     const QVector<Finding> findings =
         checkFrame(document, ipInfo) +
         withInterrupts(checkOptions(document.options, document.device, document.folder()),
-                       interruptFindings(*interrupts, document.options));
+                       interruptFindings(*interrupts, document.options)) +
+        (estimated ? sizeFindings(*estimated) : QVector<Finding>());
 
     bool anyError = false;
     QJsonArray list;

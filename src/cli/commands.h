@@ -12,6 +12,7 @@ void declareNew(CommandLine &line);
 void declareGenerate(CommandLine &line);
 void declareProve(CommandLine &line);
 void declareCheck(CommandLine &line);
+void declareEstimate(CommandLine &line);
 void declareSources(CommandLine &line);
 void declareRetarget(CommandLine &line);
 void declarePins(CommandLine &line);

@@ -2,6 +2,7 @@
 
 #include "commandline.h"
 #include "environment.h"
+#include "estimates.h"
 #include "ipcdocument.h"
 #include "output.h"
 
@@ -85,6 +86,30 @@ QJsonObject jsonOfChanges(const QVector<FactChanges> &changes)
     return groups;
 }
 
+// What two configurations will take of something, where that differs.
+struct ResourceDifference {
+    EstimatedResource before;
+    EstimatedResource after;
+};
+
+QVector<ResourceDifference> resourceDifferences(const Estimate &before, const Estimate &after)
+{
+    QVector<ResourceDifference> differences;
+    for (int i = 0; i < before.resources.size(); ++i) {
+        const ResourceDifference pair = {before.resources.at(i), after.resources.at(i)};
+        if (pair.before.value != pair.after.value || pair.before.available != pair.after.available)
+            differences.append(pair);
+    }
+    return differences;
+}
+
+QString shownSide(const EstimatedResource &resource)
+{
+    return resource.available < 0 ? shownEstimate(resource)
+                                  : shownEstimate(resource) + QLatin1String(" of ") +
+                                        QString::number(resource.available);
+}
+
 int runDiff(Environment &environment, const DiffArguments &arguments)
 {
     IpcDocument before;
@@ -105,6 +130,15 @@ int runDiff(Environment &environment, const DiffArguments &arguments)
         factChanges(factsOf(systemMap(before.options, before.device, *description)),
                     factsOf(systemMap(after.options, after.device, *description)));
     const bool isSame = options.isEmpty() && entries.isEmpty() && changes.isEmpty();
+    bool isTableSound = true;
+    const auto estimatedBefore = estimateOf(environment, before, &isTableSound);
+    if (!isTableSound)
+        return Trouble;
+    const auto estimatedAfter = estimateOf(environment, after, &isTableSound);
+    const bool isEstimated = estimatedBefore && estimatedAfter;
+    const QVector<ResourceDifference> resources =
+        isEstimated ? resourceDifferences(*estimatedBefore, *estimatedAfter)
+                    : QVector<ResourceDifference>();
 
     if (arguments.json) {
         QJsonArray optionList;
@@ -115,12 +149,21 @@ int runDiff(Environment &environment, const DiffArguments &arguments)
             entryList.append(QJsonObject{{QStringLiteral("key"), entry.key},
                                          {QStringLiteral("before"), entry.before},
                                          {QStringLiteral("after"), entry.after}});
-        printJson({{QStringLiteral("before"), arguments.before},
-                   {QStringLiteral("after"), arguments.after},
-                   {QStringLiteral("equal"), isSame},
-                   {QStringLiteral("options"), optionList},
-                   {QStringLiteral("entries"), entryList},
-                   {QStringLiteral("changes"), jsonOfChanges(changes)}});
+        QJsonObject object{{QStringLiteral("before"), arguments.before},
+                           {QStringLiteral("after"), arguments.after},
+                           {QStringLiteral("equal"), isSame},
+                           {QStringLiteral("options"), optionList},
+                           {QStringLiteral("entries"), entryList},
+                           {QStringLiteral("changes"), jsonOfChanges(changes)}};
+        if (isEstimated) {
+            QJsonArray list;
+            for (const ResourceDifference &difference : resources)
+                list.append(QJsonObject{{QStringLiteral("resource"), difference.before.resource},
+                                        {QStringLiteral("before"), jsonOf(difference.before)},
+                                        {QStringLiteral("after"), jsonOf(difference.after)}});
+            object.insert(QStringLiteral("resources"), list);
+        }
+        printJson(object);
     } else if (!isSame) {
         printLine(QLatin1String("--- ") + arguments.before);
         printLine(QLatin1String("+++ ") + arguments.after);
@@ -138,6 +181,12 @@ int runDiff(Environment &environment, const DiffArguments &arguments)
             for (const FactChange &change : group.changes)
                 printLine(QLatin1String("  ") + shownChange(change));
         }
+        if (!resources.isEmpty())
+            printLine(QStringLiteral("Resources, estimated"));
+        for (const ResourceDifference &difference : resources)
+            printLine(QLatin1String("  ~ ") + difference.before.resource + QLatin1String(": ") +
+                      shownSide(difference.before) + QLatin1String(" -> ") +
+                      shownSide(difference.after));
     }
     // What could not be printed must not look like an answer.
     if (!flushOutput())

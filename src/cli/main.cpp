@@ -23,13 +23,13 @@ using Declare = void (*)(Cli::CommandLine &);
 
 // In the order in which the help lists them.
 constexpr Declare commandTable[] = {
-    Cli::declareNew,         Cli::declareGenerate, Cli::declareProve,    Cli::declareCheck,
-    Cli::declareSources,     Cli::declareRetarget, Cli::declarePins,     Cli::declareRegisters,
-    Cli::declareFirmware,    Cli::declareExport,   Cli::declareSimulate, Cli::declareSweep,
-    Cli::declareOptions,     Cli::declareDevices,  Cli::declarePresets,  Cli::declareGet,
-    Cli::declareSet,         Cli::declareUnset,    Cli::declareMinimize, Cli::declareUpgrade,
-    Cli::declareShow,        Cli::declareDiff,     Cli::declareRandom,   Cli::declareSchema,
-    Cli::declareCompletions,
+    Cli::declareNew,       Cli::declareGenerate,    Cli::declareProve,    Cli::declareCheck,
+    Cli::declareEstimate,  Cli::declareSources,     Cli::declareRetarget, Cli::declarePins,
+    Cli::declareRegisters, Cli::declareFirmware,    Cli::declareExport,   Cli::declareSimulate,
+    Cli::declareSweep,     Cli::declareOptions,     Cli::declareDevices,  Cli::declarePresets,
+    Cli::declareGet,       Cli::declareSet,         Cli::declareUnset,    Cli::declareMinimize,
+    Cli::declareUpgrade,   Cli::declareShow,        Cli::declareDiff,     Cli::declareRandom,
+    Cli::declareSchema,    Cli::declareCompletions,
 };
 
 bool isAsked(const char *option, int argc, char *argv[])

@@ -222,12 +222,21 @@ void tst_CliOptions::diffTellsWhatFollows()
                              "  ~ DTCM: last 0x20001FFF -> 0x20003FFF\n", "  + UART0: base 0x",
                              "  + UART0TXD: ", "  + UART0.", "Interrupts\n"})
         QVERIFY2(text.out.contains(QString::fromLatin1(line)), qPrintable(text.out));
-    QVERIFY(!text.out.contains(QLatin1String("Resources")));
+    QVERIFY2(text.out.contains(QLatin1String("\nResources, estimated\n  ~ LUT4: ")),
+             qPrintable(text.out));
+    QVERIFY2(text.out.contains(QLatin1String("  ~ Block RAM: ")), qPrintable(text.out));
     const QJsonObject json = run(words({"diff", "a.ipc", "b.ipc", "--json"})).json();
     QCOMPARE(json[QStringLiteral("equal")].toBool(true), false);
     QCOMPARE(json[QStringLiteral("options")].toArray().size(), 2);
     const QJsonObject changes = json[QStringLiteral("changes")].toObject();
     QCOMPARE(changes.keys(), words({"interrupts", "ports", "regions", "registers"}));
+    const QJsonArray resources = json[QStringLiteral("resources")].toArray();
+    QVERIFY(!resources.isEmpty());
+    for (const QJsonValue &value : resources) {
+        const QJsonObject resource = value.toObject();
+        QCOMPARE(resource.keys(), words({"after", "before", "resource"}));
+        QVERIFY(resource[QStringLiteral("before")] != resource[QStringLiteral("after")]);
+    }
 }
 
 void tst_CliOptions::gitShowsEveryVersion()

@@ -103,6 +103,11 @@ QString type(const QSettings &settings)
     return settings.value(typeEntry).toString();
 }
 
+QString deviceIdOf(const QVariantMap &header)
+{
+    return header.value(targetDevice).toString();
+}
+
 QString deviceText(const QSettings &settings)
 {
     return settings.value(targetDevice, settings.value(deviceGroup + QStringLiteral("/id")))

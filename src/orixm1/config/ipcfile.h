@@ -58,6 +58,8 @@ QString deviceText(const QSettings &settings);
 
 // The top-level entries of a new file.
 QVariantMap header(const QString &deviceId, const QVariantMap &ipInfo);
+// The id of the device in such a header; empty if it has none.
+QString deviceIdOf(const QVariantMap &header);
 
 // All entries of a file outside of its options, for the same configuration on another device:
 // its other entries and type are kept.

@@ -1,5 +1,6 @@
 #include "tarvoorixm1package.h"
 
+#include "estimateanswer.h"
 #include "exportsoftware.h"
 #include "firmware.h"
 #include "maps.h"
@@ -96,6 +97,11 @@ QVariantMap TarvoOrixM1Package::previewGeneration(const QVariantMap &configurati
     core.initialize();
     return TARVOORIXM1::previewGeneration(configuration, core.information(), dataPath(),
                                           *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::estimate(const QVariantMap &configuration) const
+{
+    return estimateAnswer(configuration, dataPath(), *Core::IdeCore::deviceDataBase());
 }
 
 } // namespace TARVOORIXM1

@@ -55,6 +55,10 @@ public:
     // For hosts that ask for it by name: what OK would do in the dialog, whose configuration() this
     // is; see previewgeneration.h. Nothing is written.
     Q_INVOKABLE QVariantMap previewGeneration(const QVariantMap &configuration) const;
+
+    // For hosts that ask for it by name: what a configuration, as configuration() of a dialog tells
+    // it, will take of its device, without a run; see estimateanswer.h.
+    Q_INVOKABLE QVariantMap estimate(const QVariantMap &configuration) const;
 };
 
 } // namespace TARVOORIXM1

@@ -1,6 +1,7 @@
 #include "panels.h"
 
 #include "meterpanel.h"
+#include "previewpanel.h"
 #include "stepspanel.h"
 #include "tr.h"
 
@@ -26,7 +27,8 @@ QVector<CompanionPanel> companionPanels(QSettings &settings)
         return meter;
     };
     return {{Tr::tr("Me&ter"), &MeterPanel::isOffered, makeMeter},
-            {Tr::tr("&Steps"), &StepsPanel::isOffered, &make<StepsPanel>}};
+            {Tr::tr("&Steps"), &StepsPanel::isOffered, &make<StepsPanel>},
+            {Tr::tr("&Preview"), &PreviewPanel::isOffered, &make<PreviewPanel>}};
 }
 
 } // namespace Workbench

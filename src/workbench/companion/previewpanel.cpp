@@ -10,7 +10,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTreeWidget>
@@ -70,13 +69,16 @@ QTreeWidget *newTree(const QString &name, const QStringList &header)
     return tree;
 }
 
-bool isSlot(const QObject *object, const char *method)
-{
-    const int index = object->metaObject()->indexOfMethod(method);
-    return index >= 0 && object->metaObject()->method(index).returnType() == QMetaType::QVariantMap;
-}
+constexpr const char *configurationMethod = "configuration()";
+constexpr const char *previewMethod = "previewGeneration(QVariantMap)";
 
 } // namespace
+
+bool PreviewPanel::isOffered(const QDialog *dialog, const QObject *pluginRoot)
+{
+    return Answers::offers(dialog, configurationMethod, QMetaType::QVariantMap) &&
+           Answers::offers(pluginRoot, previewMethod, QMetaType::QVariantMap);
+}
 
 PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *parent)
     : QWidget(parent)
@@ -165,8 +167,7 @@ void PreviewPanel::refresh()
         return;
     m_timer.stop();
     m_isStale = false;
-    if (!m_dialog || !m_root || !isSlot(m_dialog, "configuration()") ||
-        !isSlot(m_root, "previewGeneration(QVariantMap)")) {
+    if (!isOffered(m_dialog, m_root)) {
         showProblem(tr("This IP does not tell what it would generate."));
         return;
     }

@@ -26,6 +26,9 @@ public:
     // ms after the last change in the dialog.
     static constexpr int delay = 300;
 
+    // Whether the two tell what it shows; null: no.
+    static bool isOffered(const QDialog *dialog, const QObject *pluginRoot);
+
     // Neither is owned, and either may end before the panel.
     PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *parent);
 

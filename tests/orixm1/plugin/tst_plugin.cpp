@@ -59,6 +59,7 @@ private Q_SLOTS:
     void cannotMoveWhatCannotBeRead_data();
     void cannotMoveWhatCannotBeRead();
     void tellsThatAMoveCouldNotBeWritten();
+    void estimatesWhatADialogTells();
     void tellsInWhichFormatsSoftwareGetsIt();
     void makesTheFilesOfEveryFormat_data();
     void makesTheFilesOfEveryFormat();
@@ -571,6 +572,56 @@ QVariantMap tst_Plugin::exportSoftware(const QString &file, const QStringList &f
                                                  Q_RETURN_ARG(QVariantMap, answer),
                                                  Q_ARG(QString, file), Q_ARG(QStringList, formats));
     return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::estimatesWhatADialogTells()
+{
+    const auto ask = [this](const QString &device, const QVariantMap &options) {
+        QVariantMap answer;
+        const QVariantMap header{{QStringLiteral("target_device"), device}};
+        const QVariantMap configuration{{QStringLiteral("file"), QStringLiteral("none.ipc")},
+                                        {QStringLiteral("header"), header},
+                                        {QStringLiteral("options"), options}};
+        return QMetaObject::invokeMethod(plugin(), "estimate", Qt::DirectConnection,
+                                         Q_RETURN_ARG(QVariantMap, answer),
+                                         Q_ARG(QVariantMap, configuration))
+                   ? answer
+                   : QVariantMap();
+    };
+    const QString device = QStringLiteral("TV2KR-18C-QFN88P-C8/I7");
+    const QVariantMap answer = ask(device, {{QStringLiteral("Enable CAN"), true}});
+    QCOMPARE(answer.keys(), (QStringList{QStringLiteral("blackBoxes"), QStringLiteral("blocks"),
+                                         QStringLiteral("pins"), QStringLiteral("resources")}));
+    const QVariantList resources = answer.value(QStringLiteral("resources")).toList();
+    QCOMPARE(resources.size(), 5);
+    for (int i = 0; i < resources.size(); ++i) {
+        const QVariantMap resource = resources.at(i).toMap();
+        const int value = resource.value(QStringLiteral("value")).toInt();
+        QVERIFY(resource.value(QStringLiteral("low")).toInt() <= value);
+        QVERIFY(resource.value(QStringLiteral("high")).toInt() >= value);
+        QCOMPARE(resource.value(QStringLiteral("available")).toInt() == -1,
+                 resource.value(QStringLiteral("resource")).toString() ==
+                     QLatin1String("Tri-state drivers"));
+        int sum = 0;
+        const QVariantList blocks = answer.value(QStringLiteral("blocks")).toList();
+        for (const QVariant &block : blocks)
+            sum += block.toMap()
+                       .value(QStringLiteral("resources"))
+                       .toList()
+                       .at(i)
+                       .toMap()
+                       .value(QStringLiteral("value"))
+                       .toInt();
+        QCOMPARE(sum, value);
+    }
+    QVERIFY(answer.value(QStringLiteral("pins")).toMap().value(QStringLiteral("used")).toInt() > 0);
+    QCOMPARE(answer.value(QStringLiteral("blackBoxes")).toList().size(), 2);
+
+    for (const QVariantMap &refused : {ask(QStringLiteral("TV9"), {}), ask(QString(), {}),
+                                       ask(device, {{QStringLiteral("ITCM_Size"), 12}})}) {
+        QCOMPARE(refused.keys(), QStringList(QStringLiteral("error")));
+        QVERIFY(refused.value(QStringLiteral("error")).toString().endsWith(u'.'));
+    }
 }
 
 void tst_Plugin::tellsInWhichFormatsSoftwareGetsIt()
