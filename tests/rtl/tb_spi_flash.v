@@ -130,7 +130,7 @@ module tb;
         // The first read resets the flash.
         expect_word(0, 0, "first word");
         check(chip.resets == 1, "the flash is reset");
-        check(waits > 2048 && waits < 3000, "bound of the first read");
+        check(waits > 2630 && waits <= 2645, "bound of the first read");
         chip.reads = 0; chip.opcodes = 0;
         for (n = 0; n < 12; n = n + 1) begin
             a = (32'h13579C * n) & 32'hFFFFFC;
@@ -535,11 +535,13 @@ module tb;
         settings(32'hFF3FC003, PREFETCH | 32'h00000700);
         ahb_write(RECOVER, 32'hFF03);
         ahb_transfer(BASE, 1'b0, 3'd2, 0);
-        check(waits > 16320 + 480 * (SLOWEST + 1) && waits < 16320 + 560 * (SLOWEST + 1), "longest wait with a reset of the flash");
+        n = 2 * (SLOWEST + 1) * 151 + 12;
+        m = 2 * (SLOWEST + 1) * 118 + 16341;
+        check(waits > n + m - 17 * (SLOWEST + 1) - 16 && waits <= n + m, "longest wait with a reset of the flash");
         cycles(700);
         check(csn === 1'b0, "reads ahead");
         ahb_transfer(BASE + 32'h1000, 1'b0, 3'd2, 0);
-        check(waits > 285 * (SLOWEST + 1) && waits < 313 * (SLOWEST + 1), "longest wait without one");
+        check(waits > n - (SLOWEST + 1) - 8 && waits <= n, "longest wait without one");
 `else
         ahb_expect(ID, 32'h0003020A, "ID without commands");
         for (m = 0; m < 6; m = m + 1) begin
