@@ -5,7 +5,7 @@
 static const uint32_t enough = 2000u;
 static const uint8_t device = 0x2Du;
 
-enum { STRETCH, REFUSE, ATTACK, HOLD, HOLD_SCL, CALL, SEND, GET, LATER };
+enum { STRETCH, REFUSE, ATTACK, HOLD, HOLD_SCL, CALL, SEND, GET, LATER, SPIKES };
 enum { STARTS, STOPS, LINES, PERIOD, IRQ, CLOCKS, MASTER_ACK, ACKS, MEMORY = 16, GOT = 32 };
 
 static const uint32_t released = 3u;
@@ -107,6 +107,48 @@ static void contention(void)
     EQUAL(I2C->STATUS & (I2C_STATUS_ARBLOST_Msk | I2C_STATUS_DONE_Msk | I2C_STATUS_BUSY_Msk), 0u);
     FAR(HOLD) = 0u;
     EQUAL(i2c_read(I2C, device, got, 1u, enough), I2C_OK);
+    FAR(ATTACK) = 2u; /* within the address */
+    EQUAL(i2c_write(I2C, device, sent, 2u, enough), I2C_ERROR_ARBITRATION);
+    FAR(HOLD) = 0u;
+    EQUAL(i2c_read(I2C, device, got, 1u, enough), I2C_OK);
+}
+
+/* Another master has the bus: its end is waited for, or not. */
+static void taken_bus(void)
+{
+    static const uint8_t sent[2] = {9u, 0x6Cu};
+    uint32_t starts = FAR(STARTS);
+    uint32_t stops = FAR(STOPS);
+    FAR(CALL) = 0x91u; /* nobody */
+    FAR(LATER) = 1u;
+    IDLE(60u);
+    EQUAL(FAR(STARTS) - starts, 1u);
+    EQUAL(i2c_write(I2C, device, sent, 2u, 5u), I2C_ERROR_TAKEN);
+    EQUAL(FAR(STOPS) - stops, 0u);
+    EQUAL(i2c_write(I2C, device, sent, 2u, enough), I2C_OK);
+    EQUAL(FAR(STARTS) - starts, 2u);
+    EQUAL(FAR(STOPS) - stops, 2u);
+    EQUAL(FAR(MEMORY + 9u), 0x6Cu);
+    EQUAL(I2C->STATUS & I2C_STATUS_ARBLOST_Msk, 0u);
+}
+
+/* Spikes of less than 50 ns, all the time. */
+static void spiky_lines(void)
+{
+    static const uint8_t sent[3] = {11u, 0x3Cu, 0xC3u};
+    uint8_t got[2] = {0u, 0u};
+    EQUAL(i2c_init(I2C, 60000000u, 400000u), I2C_OK);
+    EQUAL(I2C->FILTER, 3u);
+    FAR(SPIKES) = 1u;
+    EQUAL(i2c_write(I2C, device, sent, 3u, enough), I2C_OK);
+    EQUAL(i2c_write_read(I2C, device, sent, 1u, got, 2u, enough), I2C_OK);
+    EQUAL(got[0], 0x3Cu);
+    EQUAL(got[1], 0xC3u);
+    EQUAL(i2c_probe(I2C, 0x2Cu, enough), I2C_ERROR_NO_DEVICE);
+    FAR(SPIKES) = 0u;
+    IDLE(20u);
+    EQUAL(i2c_init(I2C, 1000000u, 25000u), I2C_OK);
+    EQUAL(FAR(LINES), released);
 }
 
 static void held_lines(void)
@@ -271,6 +313,8 @@ void test(void)
     transfers();
     refusals();
     contention();
+    taken_bus();
+    spiky_lines();
     held_lines();
     long_transfers();
     as_target();

@@ -4,7 +4,7 @@
 
 static const uint32_t enough = 2000u;
 
-enum { MODE, REPLY, AWAY, BITS };
+enum { MODE, REPLY, AWAY, BITS, LAG };
 enum { LAST = 1, COUNT, HALF, NSS, IRQ, SCLK, SELECTIONS, BEFORE, BEHIND, BETWEEN, GAP };
 
 static void rates(void)
@@ -193,6 +193,29 @@ static void words(void)
     EQUAL(SPI->STATUS, 0u);
 }
 
+/* At half the clock of the bus a device answers later than half a period. */
+static void late_answers(void)
+{
+    uint32_t got[3] = {0u, 0u, 0u};
+    uint32_t late;
+    FAR(MODE) = 0u;
+    FAR(BITS) = 16u;
+    FAR(LAG) = 14u;
+    for (late = 0u; late < 3u; ++late) {
+        EQUAL(spi_init(SPI, 4u, 2u, SPI_MODE_0, false), SPI_OK);
+        EQUAL(spi_set_format(SPI, 16u, late), SPI_OK);
+        EQUAL(spi_set_select(SPI, SPI_SELECT_BURST, 4u, 4u, 4u), SPI_OK);
+        FAR(REPLY) = 0x5A35u;
+        EQUAL(spi_transfer_words(SPI, NULL, got, 3u, enough), SPI_OK);
+        EQUAL(FAR(HALF), 1u);
+        EQUAL(got[0] == 0x5A35u && got[1] == 0x5A36u && got[2] == 0x5A37u, late != 0u);
+    }
+    FAR(LAG) = 0u;
+    EQUAL(spi_set_format(SPI, 8u, 0u), SPI_OK);
+    EQUAL(spi_set_select(SPI, SPI_SELECT_BURST, 0u, 0u, 0u), SPI_OK);
+    FAR(BITS) = 8u;
+}
+
 static void by_hand(void)
 {
     uint32_t word = 0x5Au;
@@ -267,5 +290,6 @@ void test(void)
     limits();
     interrupt();
     words();
+    late_answers();
     by_hand();
 }

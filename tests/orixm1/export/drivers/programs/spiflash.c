@@ -4,7 +4,7 @@
 
 static const uint32_t enough = 50u;
 
-enum { WORK, REFUSE, AWAY, PEEK, BUSY, KIND, STATUS };
+enum { WORK, REFUSE, AWAY, PEEK, BUSY, KIND, STATUS, RESET };
 enum {
     WHERE,
     PROGRAMS,
@@ -170,6 +170,36 @@ static void read_all(uint32_t from, uint32_t high)
         EQUAL(got[i], at_first(high + from + i));
 }
 
+/* The system is reset while the flash answers addresses alone, of four bytes. */
+static void resets(void)
+{
+    spiflash_chip chip;
+    uint8_t id[3] = {0u, 0u, 0u};
+    EQUAL(spiflash_detect(SPIFLASH, &chip), SPIFLASH_OK);
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_QUAD_IO, enough), SPIFLASH_OK);
+    spiflash_set_bank(SPIFLASH, 0x12u);
+    EQUAL(spiflash_set_continuous(SPIFLASH, true), SPIFLASH_OK);
+    read_all(0x10047u, 0x12000000u);
+    EQUAL(FAR(STATE), CONTINUES | LONG);
+    FAR(RESET) = 1u;
+    EQUAL(FAR(STATE), CONTINUES | LONG);
+    EQUAL(spiflash_init(SPIFLASH, 50000000u, 25000000u), SPIFLASH_OK);
+    spiflash_read_id(SPIFLASH, id);
+    EQUAL(id[0], 0xD1u);
+    EQUAL(id[2], 0xD3u);
+    EQUAL(FAR(STATE), 0u);
+    read_all(0x10047u, 0u);
+    /* The window alone does the same. */
+    EQUAL(spiflash_set_mode(SPIFLASH, &chip, SPIFLASH_MODE_DUAL_IO, enough), SPIFLASH_OK);
+    EQUAL(spiflash_set_continuous(SPIFLASH, true), SPIFLASH_OK);
+    read_all(0x10048u, 0u);
+    EQUAL(FAR(STATE), CONTINUES);
+    FAR(RESET) = 1u;
+    read_all(0x10049u, 0u);
+    EQUAL(FAR(STATE), 0u);
+    EQUAL(FAR(WRONG), 0u);
+}
+
 static void modes(void)
 {
     spiflash_chip chip;
@@ -256,6 +286,7 @@ static void modes(void)
     EQUAL(spiflash_set_continuous(SPIFLASH, true), SPIFLASH_ERROR_RANGE);
     EQUAL(spiflash_set_continuous(SPIFLASH, false), SPIFLASH_OK);
     read_all(0x46u, 0u);
+    resets();
     /* All of it, last. */
     EQUAL(spiflash_erase_block(SPIFLASH, 0x8000u, enough), SPIFLASH_ERROR_RANGE);
     EQUAL(in_flash(0u), at_first(0u));

@@ -168,6 +168,28 @@ static uint32_t ones(uint32_t value)
     return count;
 }
 
+/* The other end is four percent too fast, and too slow. */
+static void other_rates(UART_Type *uart)
+{
+    static const uint8_t values[5] = {0x00u, 0xFFu, 0x55u, 0x80u, 0x7Fu};
+    uint32_t i;
+    EQUAL(uart_init(uart, 1000000u, 50000u), UART_OK);
+    for (i = 0u; i < 10u; ++i) {
+        const uint8_t value = values[i / 2u];
+        uint8_t got = 0x5Au;
+        FAR(FINE_BIT_TIME) = i % 2u == 0u ? 1229u : 1331u; /* of 1280 */
+        from_far(value);
+        EQUAL(uart_get(uart, &got, 1u), UART_OK);
+        EQUAL(got, value);
+        EQUAL(uart_put(uart, value, 1u), UART_OK);
+        EQUAL(uart_flush(uart, enough), UART_OK);
+        IDLE(20u);
+        EQUAL(FAR(HEARD), 1u);
+        EQUAL(FAR(BYTE), 0x100u | value);
+    }
+    EQUAL(uart_take_errors(uart), 0u);
+}
+
 /* All formats: what leaves, and what comes in, with right and with wrong parity. */
 static void formats(UART_Type *uart)
 {
@@ -350,6 +372,7 @@ static void all(UART_Type *uart)
     bytes(uart);
     limits(uart);
     errors(uart);
+    other_rates(uart);
     formats(uart);
     breaks(uart);
     pieces(uart);

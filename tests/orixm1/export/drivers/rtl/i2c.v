@@ -3,6 +3,8 @@
 module tb;
 `include "bench.vh"
 `include "apb_bus.vh"
+    reg  spikes = 1'b0, spike = 1'b0;   // that only the block sees, on both lines
+    always begin wait (spikes); #367 spike = 1'b1; #27 spike = 1'b0; end
     wire scl_out, scl_outen, sda_out, sda_outen, irq;
     tri1 scl, sda;
     reg  slave_sda = 1'b1, slave_scl = 1'b1, other_sda = 1'b1, other_scl = 1'b1;
@@ -12,8 +14,8 @@ module tb;
     assign sda = (slave_sda & other_sda) ? 1'bz : 1'b0;
     apb_i2c dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
                  .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
-                 .scl_in(scl), .scl_out(scl_out), .scl_outen(scl_outen),
-                 .sda_in(sda), .sda_out(sda_out), .sda_outen(sda_outen), .irq(irq));
+                 .scl_in(scl ^ spike), .scl_out(scl_out), .scl_outen(scl_outen),
+                 .sda_in(sda ^ spike), .sda_out(sda_out), .sda_outen(sda_outen), .irq(irq));
 
     integer   starts = 0, stops = 0, nbit = 0, nbyte = 0, stretch = 0, refuse = 99, n;
     reg       running = 1'b0, mine = 1'b0, reading = 1'b0, master_ack = 1'b0, ack;
@@ -122,6 +124,7 @@ module tb;
             2: attack = value;
             3: begin hold = value; other_sda = value == 0; end
             4: other_scl = ~value[0];
+            9: spikes = value[0];
         endcase
     endtask
     task far_read(input [31:0] index);

@@ -3,10 +3,13 @@ module tb;
 `include "bench.vh"
 `include "apb_bus.vh"
     wire sclk, mosi, nss, irq;
-    reg  miso = 1'b0, cpol = 1'b0, cpha = 1'b0, away = 1'b0;
+    reg  miso = 1'b0, late_miso = 1'b0, cpol = 1'b0, cpha = 1'b0, away = 1'b0;
     apb_spi dut (.PCLK(clk), .PRESETn(rstn), .PSEL(psel), .PENABLE(penable), .PWRITE(pwrite), .PADDR(paddr),
                  .PWDATA(pwdata), .PSTRB(pstrb), .PRDATA(prdata), .PREADY(pready), .PSLVERR(pslverr),
-                 .sclk(sclk), .mosi(mosi), .miso(away ? 1'b1 : miso), .nss(nss), .irq(irq));
+                 .sclk(sclk), .mosi(mosi), .miso(away ? 1'b1 : late_miso), .nss(nss), .irq(irq));
+
+    integer lag = 0;
+    always @(miso) late_miso <= #(lag) miso;
 
     reg [31:0] reply = 32'd0, heard = 32'd0, last = 32'd0;
     integer    bits = 8, nbit = 0, count = 0, selections = 0, edges = 0;
@@ -45,6 +48,7 @@ module tb;
             1: reply = value;
             2: away = value[0];
             3: bits = value;
+            4: lag = value;                     // tenths of a cycle by which it answers late
         endcase
     endtask
     task far_read(input [31:0] index);

@@ -32,6 +32,7 @@ module tb;
                 chip.high = 8'd0;
             end
             6: chip.low = value;
+            7: reset;                           // of the system alone
         endcase
     endtask
     task far_read(input [31:0] index);
