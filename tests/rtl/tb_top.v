@@ -155,6 +155,18 @@ module tb;
         end
     endtask
 
+    // Behind a reset of the system.
+    task time_goes_on(input [8*48-1:0] what);
+        begin
+            cycles(40);
+            ahb_transfer(RTC, 1'b0, 3'd2, 32'd0);
+            check(rd > before && rd < before + 20, what);
+            before = rd;
+            ahb_expect(RTC + 40, 32'd1, "the time was set");
+            ahb_expect(RTC + 8, 32'd1, "the clock runs");
+        end
+    endtask
+
     function [31:0] stand_in(input integer n);
         case (n)
             0: stand_in = 32'h41000000;
@@ -332,6 +344,11 @@ module tb;
             check(failed, "another word of a stand-in");
             expect_error(stand_in(n) + 4, 32'h111, "error of a stand-in");
         end
+        // Bytes and halfwords reach the blocks, on both buses.
+        ahb_parts(GPIO + 4, 32'h0000FFFF, 0);
+        ahb_parts(TIMER0 + 8, 32'h00FFFFFF, 0);
+        ahb_parts(SD + 24, 32'hFFFFFFFF, 0);
+        ahb_write(TIMER0 + 8, 0);
         // GPIO.
         ahb_write(GPIO + 8, 32'h00FF);
         ahb_write(GPIO + 4, 32'h5AA5);
@@ -406,7 +423,9 @@ module tb;
         cycles(3);
         // Watchdog: interrupt, then a reset that clears the peripherals but not the power-on domain.
         ahb_write(RTC + 8, 1);
+        ahb_write(RTC, 5000);
         ahb_transfer(RTC, 1'b0, 3'd2, 32'd0); before = rd;
+        check(before >= 5000 && before < 5010, "time set");
         ahb_write(WDOG, 50); ahb_write(WDOG + 8, 3);
         cycles(70);
         check(dut.u_core.NMI === 1'b1 && dut.u_core.SYSRESETn === 1'b1, "watchdog interrupt");
@@ -419,14 +438,14 @@ module tb;
         ahb_write(SYS, 32'h0000003F);
         ahb_write(SYS + 20, 32'h600DCAFE);
         ahb_expect(GPIO + 8, 0, "GPIO was reset");
-        ahb_transfer(RTC, 1'b0, 3'd2, 32'd0);
-        check(rd > before && rd < before + 20, "the time has gone on");
+        time_goes_on("the time has gone on");
         check(gpio[7:0] === 8'hzz, "and its pins are released");
         ahb_write(GPIO + 8, 1);
         dut.u_core.SYSRESETREQ = 1'b1; cycles(1); dut.u_core.SYSRESETREQ = 1'b0;
         cycles(12);
         ahb_expect(GPIO + 8, 0, "reset on request of the processor");
         ahb_expect(SYS, 32'h00000008, "the software is the cause");
+        time_goes_on("the time goes on when software resets");
         ahb_write(SYS, 32'h0000003F);
         dut.u_core.LOCKUP = 1'b1; cycles(20);
         check(dut.u_core.SYSRESETn === 1'b1, "a lock-up is let be");
@@ -436,6 +455,7 @@ module tb;
         @(negedge dut.u_core.SYSRESETn) dut.u_core.LOCKUP = 1'b0;
         cycles(12);
         ahb_expect(SYS, 32'h00000010, "or it is the cause of a reset");
+        time_goes_on("the time goes on when a lock-up resets");
         ahb_expect(SYS + 4, 32'd0, "which switches that off again");
         ahb_write(SYS, 32'h0000003F);
         ahb_write(GPIO + 8, 1);
@@ -443,11 +463,14 @@ module tb;
         cycles(12);
         ahb_expect(GPIO + 8, 0, "reset from the debug connector");
         ahb_expect(SYS, 32'h00000020, "the connector is the cause");
+        time_goes_on("the time goes on when the connector resets");
         ahb_expect(SYS + 20, 32'h600DCAFE, "SCRATCH has lived through all of them");
         hwRstn = 1'b0; cycles(3); hwRstn = 1'b1;
         cycles(20);
         ahb_expect(SYS, 32'h00000002, "the pin is the cause");
         ahb_expect(SYS + 20, 32'd0, "SCRATCH is clear");
+        ahb_expect(RTC, 32'd0, "and the time");
+        ahb_expect(RTC + 40, 32'd0, "which is not set");
         finish;
     end
 endmodule
