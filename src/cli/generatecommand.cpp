@@ -11,6 +11,7 @@
 #include "resultcache.h"
 #include "toolofrunner.h"
 
+#include <estimate/estimate.h>
 #include <generate/record.h>
 #include <generate/state.h>
 #include <preview/preview.h>
@@ -283,6 +284,9 @@ public:
         input.results = [this](const Origin &origin) { return knownResults(origin); };
         input.digest = fastSha256;
         const DEV::DeviceDb *devices = environment.devices();
+        input.estimate = [&environment](const OptionMap &options, const DEV::DeviceArg &device) {
+            return estimatedFigures(options, device, environment.dataFolder());
+        };
         input.findDevice = [devices](const QString &id) { return devices->findDevice(id); };
         return printPreview(previewOf(input), m_input.createInPath, m_arguments);
     }

@@ -6,6 +6,7 @@
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
 #include "configuration.h"
+#include "estimate/estimate.h"
 #include "preview/previewforms.h"
 #include "rules/itcmpath.h"
 
@@ -95,6 +96,9 @@ QVariantMap previewGeneration(const QVariantMap &configuration, const QVariantMa
         input.description = &*description;
     else
         input.notes.append(description.reason());
+    input.estimate = [&dataPath](const OptionMap &of, const DEV::DeviceArg &device) {
+        return estimatedFigures(of, device, dataPath);
+    };
     input.findDevice = findDevice;
     return previewAnswer(previewOf(input));
 }

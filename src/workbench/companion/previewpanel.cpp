@@ -99,6 +99,7 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
         label->setTextFormat(Qt::PlainText);
     }
     m_files->setRootIsDecorated(false);
+    m_files->setTextElideMode(Qt::ElideLeft); // the name matters more than the folder
     m_files->header()->setStretchLastSection(false);
     m_files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_files->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -113,6 +114,8 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
     auto *lists = new QSplitter(Qt::Horizontal);
     lists->addWidget(m_files);
     lists->addWidget(m_differences);
+    lists->setStretchFactor(0, 3);
+    lists->setStretchFactor(1, 2);
     auto *all = new QSplitter(Qt::Vertical);
     all->addWidget(lists);
     all->addWidget(lower);
@@ -231,7 +234,7 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
             const bool isChange =
                 file.state != QLatin1String("equal") && file.state != QLatin1String("stays");
             changes += isChange;
-            if (isChange && !firstChange && (file.before || file.after))
+            if (isChange && !firstChange && file.after)
                 firstChange = item;
             if (file.path == chosen)
                 next = item;
@@ -282,9 +285,10 @@ void PreviewPanel::showFile()
         return;
     }
     const Answers::PreviewedFile &file = m_preview.files.at(index);
-    m_note->setText(
-        (QStringList{file.path + QLatin1String(": ") + item->text(1) + u'.'} + file.notes)
-            .join(u' '));
+    const QString state = item->text(1) + u'.';
+    QStringList notes = file.notes;
+    notes.removeAll(state);
+    m_note->setText((QStringList{file.path + QLatin1String(": ") + state} + notes).join(u' '));
     const bool isTold = file.before || file.after;
     if (!isTold || (!file.after && file.state != QLatin1String("stays"))) {
         m_texts->setMessage(file.notes.isEmpty() ? tr("What it will hold is not known.")
