@@ -4,6 +4,9 @@
 #include "config/tr.h"
 #include "state.h"
 
+#include <reading/limits.h>
+#include <reading/plainfile.h>
+
 #include <QDir>
 #include <QHash>
 
