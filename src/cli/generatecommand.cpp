@@ -7,10 +7,10 @@
 #include "generatepreview.h"
 #include "ipcdocument.h"
 #include "output.h"
-#include "prefixedset.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
 
+#include <export/prefixednetlist.h>
 #include <generate/record.h>
 #include <generate/state.h>
 #include <preview/preview.h>
