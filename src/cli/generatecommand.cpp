@@ -281,6 +281,8 @@ public:
         input.synthesise = m_arguments.synthesise;
         input.isIdle = !m_arguments.force && freshReport();
         input.results = [this](const Origin &origin) { return knownResults(origin); };
+        input.prefix = m_prefix;
+        input.planSet = Utils::planBundle;
         input.digest = fastSha256;
         const DEV::DeviceDb *devices = environment.devices();
         input.findDevice = [devices](const QString &id) { return devices->findDevice(id); };

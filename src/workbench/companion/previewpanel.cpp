@@ -37,6 +37,7 @@ constexpr ShownRow states[] = {
     {"remade", "run", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Made by the tool")},
     {"equal", "equal", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Equal")},
     {"stays", "file", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Stays")},
+    {"removed", "close", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Removed")},
 };
 constexpr ShownRow kinds[] = {
     {"option", "edit", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Options")},
@@ -230,7 +231,7 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
             item->setIcon(1, symbolIcon(QLatin1String(row ? row->icon : "file")));
             const bool isChange =
                 file.state != QLatin1String("equal") && file.state != QLatin1String("stays");
-            changes += isChange;
+            changes += isChange && file.state != QLatin1String("removed");
             if (isChange && !firstChange && (file.before || file.after))
                 firstChange = item;
             if (file.path == chosen)
@@ -286,7 +287,9 @@ void PreviewPanel::showFile()
         (QStringList{file.path + QLatin1String(": ") + item->text(1) + u'.'} + file.notes)
             .join(u' '));
     const bool isTold = file.before || file.after;
-    if (!isTold || (!file.after && file.state != QLatin1String("stays"))) {
+    const bool isKnown = file.after || file.state == QLatin1String("stays") ||
+                         file.state == QLatin1String("removed");
+    if (!isTold || !isKnown) {
         m_texts->setMessage(file.notes.isEmpty() ? tr("What it will hold is not known.")
                                                  : file.notes.join(u'\n'));
         return;
