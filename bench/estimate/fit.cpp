@@ -185,7 +185,7 @@ EstimateTable fittedTable(const Measurements &measurements, const DEV::DeviceDb 
         look(costsOf(others), fit.at(i));
     }
     // What was measured is not all that there is.
-    constexpr double margin = 1.25;
+    constexpr double margin = 1.5;
     for (int i = 0; i < worst.size(); ++i) {
         const double share = worst.at(i) * margin;
         if (share > 0)

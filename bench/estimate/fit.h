@@ -15,7 +15,7 @@ double missOf(const QString &resource, int estimated, int used);
 
 // The costs that follow from the measurements that are not held out, by least squares; each error
 // counts in proportion to what is promised. The tolerances hold for everything in the list, the
-// held out ones and the random ones as the others foretell them, and a quarter is added. Terms that
-// no measurement has have no costs.
+// held out ones and the random ones as the others foretell them, and half of that is added. Terms
+// that no measurement has have no costs.
 TARVOORIXM1::EstimateTable fittedTable(const Measurements &measurements,
                                        const DEV::DeviceDb &devices);

@@ -4,6 +4,8 @@
 
 #include <utils/utf8names.h>
 
+#include <CLI/CLI.hpp>
+
 namespace Cli
 {
 
@@ -65,6 +67,57 @@ CLI::Option *CommandLine::paths(CLI::App *command, const char *name, QStringList
     return option;
 }
 
+CLI::Option *CommandLine::flag(CLI::App *command, const char *name, bool &value, const char *help)
+{
+    return command->add_flag(name, value, help);
+}
+
+CLI::Option *CommandLine::noFlag(CLI::App *command, const char *name, bool &value, const char *help)
+{
+    return command->add_flag(
+        name, [&value](qint64) { value = false; }, help);
+}
+
+CLI::Option *CommandLine::number(CLI::App *command, const char *name, quint32 &value,
+                                 const char *help, const char *type)
+{
+    return command->add_option(name, value, help)->type_name(type);
+}
+
+CLI::Option *CommandLine::number(CLI::App *command, const char *name, quint64 &value,
+                                 const char *help, const char *type)
+{
+    return command->add_option(name, value, help)->type_name(type);
+}
+
+CLI::Option *CommandLine::number(CLI::App *command, const char *name, int &value, int least,
+                                 int most, const char *help, const char *type)
+{
+    return command->add_option(name, value, help)
+        ->check(CLI::Range(least, most).description(""))
+        ->type_name(type);
+}
+
+void CommandLine::require(CLI::Option *option, bool isRequired)
+{
+    option->required(isRequired);
+}
+
+void CommandLine::exclude(CLI::Option *option, CLI::Option *other)
+{
+    option->excludes(other);
+}
+
+void CommandLine::need(CLI::Option *option, CLI::Option *other)
+{
+    option->needs(other);
+}
+
+void CommandLine::addHelp(CLI::App *command, const char *lines)
+{
+    command->footer(command->get_footer() + "\n\n" + lines);
+}
+
 CLI::Option *CommandLine::choice(CLI::App *command, const char *name, QString &value,
                                  const QStringList &choices, const char *help, const char *type)
 {
@@ -98,10 +151,9 @@ CLI::Option *CommandLine::outDir(CLI::App *command, QString &value)
     return path(command, "--out", value, "Output folder (default: the file's folder)", "DIR");
 }
 
-void CommandLine::device(CLI::App *command, DeviceChoice &choice)
+CLI::Option *CommandLine::device(CLI::App *command, DeviceChoice &choice, const char *help)
 {
-    CLI::Option *device =
-        text(command, "--device", choice.device, "Device id, name or part number", "ID|NAME|PART");
+    CLI::Option *device = text(command, "--device", choice.device, help, "ID|NAME|PART");
     device->required();
     offer(device, [] {
         QStringList ids;
@@ -112,6 +164,7 @@ void CommandLine::device(CLI::App *command, DeviceChoice &choice)
     });
     text(command, "--package", choice.package, "Package, if the device is a name", "P");
     text(command, "--speed", choice.speed, "Speed grade, if the device is a name", "S");
+    return device;
 }
 
 void CommandLine::json(CLI::App *command, bool &value)

@@ -3,13 +3,19 @@
 #include <QString>
 #include <QStringList>
 
-#include <CLI/CLI.hpp>
-
 #include <functional>
 #include <map>
 #include <memory>
 #include <set>
 #include <vector>
+
+// The header of CLI11 takes a compiler longer than most commands: those that need no more than what
+// is here do not include it.
+namespace CLI
+{
+class App;
+class Option;
+} // namespace CLI
 
 namespace Cli
 {
@@ -43,6 +49,17 @@ public:
     CLI::Option *paths(CLI::App *command, const char *name, QStringList &values, const char *help,
                        const char *type);
 
+    // Switches: the first sets the value to true, the second to false.
+    static CLI::Option *flag(CLI::App *command, const char *name, bool &value, const char *help);
+    static CLI::Option *noFlag(CLI::App *command, const char *name, bool &value, const char *help);
+    // Whole numbers.
+    static CLI::Option *number(CLI::App *command, const char *name, quint32 &value,
+                               const char *help, const char *type);
+    static CLI::Option *number(CLI::App *command, const char *name, quint64 &value,
+                               const char *help, const char *type);
+    static CLI::Option *number(CLI::App *command, const char *name, int &value, int least, int most,
+                               const char *help, const char *type);
+
     // A text out of a few.
     CLI::Option *choice(CLI::App *command, const char *name, QString &value,
                         const QStringList &choices, const char *help, const char *type);
@@ -55,9 +72,18 @@ public:
     // What several commands have.
     CLI::Option *file(CLI::App *command, QString &value); // FILE, the configuration
     CLI::Option *outDir(CLI::App *command, QString &value);
-    void device(CLI::App *command, DeviceChoice &choice);
+    // --device, which has to be given, --package and --speed.
+    CLI::Option *device(CLI::App *command, DeviceChoice &choice,
+                        const char *help = "Device id, name or part number");
     static void json(CLI::App *command, bool &value);
     static void force(CLI::App *command, bool &value);
+
+    // What holds between options, and whether one has to be given.
+    static void require(CLI::Option *option, bool isRequired = true);
+    static void exclude(CLI::Option *option, CLI::Option *other);
+    static void need(CLI::Option *option, CLI::Option *other);
+    // Lines at the end of a command's help.
+    static void addHelp(CLI::App *command, const char *lines);
 
     // The command that was given; empty if there is none.
     const Run &chosen() const { return m_chosen; }

@@ -2,6 +2,8 @@
 #include "commands.h"
 #include "output.h"
 
+#include <CLI/CLI.hpp>
+
 namespace Cli
 {
 
@@ -396,7 +398,8 @@ void declareCompletions(CommandLine &line)
             }
             return Done;
         });
-    line.choice(command, "SHELL", *name, shellNames(), "bash, zsh or fish", "")->required();
+    CommandLine::require(
+        line.choice(command, "SHELL", *name, shellNames(), "bash, zsh or fish", ""));
 }
 
 } // namespace Cli

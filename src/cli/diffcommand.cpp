@@ -292,13 +292,14 @@ void declareDiff(CommandLine &line)
                      "orixm1 diff old.ipc new.ipc", [arguments](Environment &environment) {
                          return runDiff(environment, *arguments);
                      });
-    line.path(command, "BEFORE", arguments->before, "Configuration file (.ipc)", "")->required();
-    line.path(command, "AFTER", arguments->after, "Configuration file to compare it with", "")
-        ->required();
+    CommandLine::require(
+        line.path(command, "BEFORE", arguments->before, "Configuration file (.ipc)", ""));
+    CommandLine::require(
+        line.path(command, "AFTER", arguments->after, "Configuration file to compare it with", ""));
     CommandLine::json(command, arguments->json);
-    command->footer(command->get_footer() +
-                    "\n\nExit status:\n  0  no difference\n  1  a difference\n  2  wrong usage\n"
-                    "  3  a file that cannot be used, or output that cannot be written");
+    CommandLine::addHelp(command,
+                         "Exit status:\n  0  no difference\n  1  a difference\n  2  wrong usage\n"
+                         "  3  a file that cannot be used, or output that cannot be written");
 }
 
 void declareShow(CommandLine &line)
@@ -309,7 +310,7 @@ void declareShow(CommandLine &line)
         "orixm1 show tarvo_orix_m1.ipc",
         [arguments](Environment &environment) { return runShow(environment, *arguments); });
     line.file(command, arguments->file);
-    command->add_flag("--textconv", arguments->isForGit,
+    CommandLine::flag(command, "--textconv", arguments->isForGit,
                       "Print a file that is no configuration as it is, for git");
     CommandLine::json(command, arguments->json);
 }

@@ -174,7 +174,7 @@ void declareSet(CommandLine &line)
     line.file(command, arguments->file);
     CLI::Option *settings = CommandLine::texts(command, "KEY=VALUE", arguments->keys,
                                                "Options, as listed by \"orixm1 options\"", "");
-    settings->required();
+    CommandLine::require(settings);
     line.offer(settings, [] {
         QStringList offers;
         for (const QString &key : knownKeys())
@@ -193,7 +193,7 @@ void declareUnset(CommandLine &line)
     line.file(command, arguments->file);
     CLI::Option *keys =
         CommandLine::texts(command, "KEY", arguments->keys, "Options to remove", "");
-    keys->required();
+    CommandLine::require(keys);
     line.offer(keys, knownKeys);
     CommandLine::json(command, arguments->json);
 }
@@ -205,7 +205,7 @@ void declareMinimize(CommandLine &line)
         "minimize", "Remove from a configuration file what says no more than its absence",
         "orixm1 minimize tarvo_orix_m1.ipc", running(runMinimize, arguments));
     line.file(command, arguments->file);
-    command->add_flag("--dry-run", arguments->dryRun, "Only tell; write nothing");
+    CommandLine::flag(command, "--dry-run", arguments->dryRun, "Only tell; write nothing");
     CommandLine::json(command, arguments->json);
 }
 

@@ -394,17 +394,17 @@ void declareExport(CommandLine &line)
               "FILE");
     arguments->prefix.declare(command);
     CLI::Option *list =
-        command->add_flag("--list", arguments->list, "List the formats; needs no FILE");
-    command
-        ->add_flag("--check", arguments->check,
-                   "Only tell which files are missing, stale, edited or left over, with exit "
-                   "status 1 if any is; writes nothing")
-        ->excludes(list);
-    command
-        ->add_flag("--update", arguments->update,
-                   "Write what was written last: the formats that the folder's manifest names")
-        ->excludes(list)
-        ->excludes("--check");
+        CommandLine::flag(command, "--list", arguments->list, "List the formats; needs no FILE");
+    CLI::Option *check = CommandLine::flag(
+        command, "--check", arguments->check,
+        "Only tell which files are missing, stale, edited or left over, with exit "
+        "status 1 if any is; writes nothing");
+    CommandLine::exclude(check, list);
+    CLI::Option *update = CommandLine::flag(
+        command, "--update", arguments->update,
+        "Write what was written last: the formats that the folder's manifest names");
+    CommandLine::exclude(update, list);
+    CommandLine::exclude(update, check);
     CommandLine::json(command, arguments->json);
 }
 

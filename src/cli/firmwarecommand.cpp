@@ -156,8 +156,8 @@ void declareFirmware(CommandLine &line)
         "firmware", "Turn a program into the files that initialise the instruction memory",
         "orixm1 firmware app.elf tarvo_orix_m1.ipc --initialize",
         [arguments](Environment &environment) { return runFirmware(environment, *arguments); });
-    line.path(command, "IMAGE", arguments->image, "Program: ELF, Intel HEX or binary", "")
-        ->required();
+    CommandLine::require(
+        line.path(command, "IMAGE", arguments->image, "Program: ELF, Intel HEX or binary", ""));
     line.file(command, arguments->file);
     line.path(command, "--out", arguments->outDir,
               "Folder of itcm0 to itcm3 (default: the one that FILE initialises the memory "
@@ -166,11 +166,9 @@ void declareFirmware(CommandLine &line)
     line.offer(CommandLine::text(command, "--format", arguments->form,
                                  "elf, hex or bin (default: found out)", "FORMAT"),
                imageFormNames);
-    command
-        ->add_option("--base", arguments->base,
-                     "Address of the first byte of a binary image (default: 0)")
-        ->type_name("ADDRESS");
-    command->add_flag("--initialize", arguments->initialise,
+    CommandLine::number(command, "--base", arguments->base,
+                        "Address of the first byte of a binary image (default: 0)", "ADDRESS");
+    CommandLine::flag(command, "--initialize", arguments->initialise,
                       "Set the \"Initialize ITCM\" options of FILE to these files");
     CommandLine::json(command, arguments->json);
 }

@@ -513,31 +513,29 @@ void declareGenerate(CommandLine &line)
     line.file(command, arguments->file);
     line.outDir(command, arguments->outDir);
     arguments->prefix.declare(command);
-    command->add_flag(
-        "--no-synth", [arguments](qint64) { arguments->synthesise = false; },
-        "Stop after include files and source list");
-    command->add_flag("-v,--verbose", arguments->verbose,
+    CommandLine::noFlag(command, "--no-synth", arguments->synthesise,
+                        "Stop after include files and source list");
+    CommandLine::flag(command, "-v,--verbose", arguments->verbose,
                       "Print the tool's log to standard error; with --check, the differences");
     CLI::Option *check =
-        command->add_flag("--check", arguments->check,
+        CommandLine::flag(command, "--check", arguments->check,
                           "Only tell whether the files are fresh, stale, edited, missing or "
                           "foreign, with exit status 1 unless all are fresh; writes nothing");
-    command
-        ->add_flag("--force", arguments->force,
-                   "Run the tool even if everything is fresh, or in the cache")
-        ->excludes(check);
-    CLI::Option *dryRun = command->add_flag(
-        "--dry-run", arguments->dryRun,
+    CommandLine::exclude(
+        CommandLine::flag(command, "--force", arguments->force,
+                          "Run the tool even if everything is fresh, or in the cache"),
+        check);
+    CLI::Option *dryRun = CommandLine::flag(
+        command, "--dry-run", arguments->dryRun,
         "Only tell which files a run would make, change or leave, and what differs from the last "
         "one, with exit status 1 if any would change; writes nothing");
-    dryRun->excludes(check);
-    command
-        ->add_flag("--diff", arguments->diff,
-                   "With --dry-run, print what would change in the files, as a patch")
-        ->needs(dryRun);
-    command->add_flag(
-        "--no-cache", [arguments](qint64) { arguments->cache = false; },
-        "Neither take results from the user's cache nor put them there");
+    CommandLine::exclude(dryRun, check);
+    CommandLine::need(
+        CommandLine::flag(command, "--diff", arguments->diff,
+                          "With --dry-run, print what would change in the files, as a patch"),
+        dryRun);
+    CommandLine::noFlag(command, "--no-cache", arguments->cache,
+                        "Neither take results from the user's cache nor put them there");
     CommandLine::json(command, arguments->json);
 }
 

@@ -84,7 +84,8 @@ void declareGet(CommandLine &line)
     line.file(command, arguments->file);
     line.offer(CommandLine::texts(command, "KEY", arguments->keys, "Options (default: all)", ""),
                knownKeys);
-    command->add_flag("--value", arguments->onlyValues, "Print the values alone, one a line");
+    CommandLine::flag(command, "--value", arguments->onlyValues,
+                      "Print the values alone, one a line");
     CommandLine::json(command, arguments->json);
 }
 

@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <fcntl.h>
 #include <sstream>

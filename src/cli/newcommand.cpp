@@ -155,8 +155,8 @@ void declareNew(CommandLine &line)
                        settings.append(option.key + u'=');
                    return settings;
                });
-    line.path(command, "--out", arguments->outDir, "Folder that the file is written to", "DIR")
-        ->required();
+    CommandLine::require(line.path(command, "--out", arguments->outDir,
+                                   "Folder that the file is written to", "DIR"));
     CommandLine::force(command, arguments->force);
     CommandLine::json(command, arguments->json);
 }

@@ -67,8 +67,7 @@ void declarePresets(CommandLine &line)
         "presets", "List the configurations to begin with, for \"orixm1 new --preset\"",
         "orixm1 presets --device TV1KL-5A --package QFN48",
         [arguments](Environment &environment) { return runPresets(environment, *arguments); });
-    line.device(command, arguments->device);
-    command->get_option("--device")->required(false);
+    CommandLine::require(line.device(command, arguments->device), false);
     CommandLine::json(command, arguments->json);
 }
 

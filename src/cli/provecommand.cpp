@@ -271,11 +271,8 @@ void declareProve(CommandLine &line)
     line.path(command, "--out", arguments->outDir,
               "Folder for the report with scripts and logs of each step", "DIR");
     line.path(command, "--report", arguments->report, "Markdown file for the report", "FILE");
-    command
-        ->add_option("--timeout", arguments->timeout,
-                     "Longest time of each step of a proof (default: 600)")
-        ->check(CLI::Range(1, 1000000).description(""))
-        ->type_name("SECONDS");
+    CommandLine::number(command, "--timeout", arguments->timeout, 1, 1000000,
+                        "Longest time of each step of a proof (default: 600)", "SECONDS");
     CommandLine::json(command, arguments->json);
 }
 

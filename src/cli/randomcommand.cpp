@@ -76,10 +76,10 @@ void declareRandom(CommandLine &line)
         "orixm1 random --device TV2KR-18C --package QFN88P --seed 7 --out random.ipc",
         [arguments](Environment &environment) { return runRandom(environment, *arguments); });
     line.device(command, arguments->device);
-    command->add_option("--seed", arguments->seed, "Number that the configuration follows from")
-        ->required()
-        ->type_name("N");
-    line.path(command, "--out", arguments->out, "File that is written", "FILE")->required();
+    CommandLine::require(CommandLine::number(command, "--seed", arguments->seed,
+                                             "Number that the configuration follows from", "N"));
+    CommandLine::require(
+        line.path(command, "--out", arguments->out, "File that is written", "FILE"));
     CommandLine::force(command, arguments->force);
     CommandLine::json(command, arguments->json);
 }

@@ -7,6 +7,8 @@
 
 #include <registers/registerdocs.h>
 
+#include <CLI/CLI.hpp>
+
 namespace Cli
 {
 

@@ -127,7 +127,7 @@ void declareRetarget(CommandLine &line)
     line.path(command, "--out", arguments->out,
               "Write this file (default: the configuration itself)", "FILE");
     CommandLine::force(command, arguments->force);
-    command->add_flag("--dry-run", arguments->dryRun, "Only tell; write nothing");
+    CommandLine::flag(command, "--dry-run", arguments->dryRun, "Only tell; write nothing");
     CommandLine::json(command, arguments->json);
 }
 

@@ -43,8 +43,7 @@ void declareSchema(CommandLine &line)
         "schema", "Print a JSON Schema of the options, with what each device allows",
         "orixm1 schema --device TV2KR-18C --package QFN88P",
         [choice](Environment &environment) { return runSchema(environment, *choice); });
-    line.device(command, *choice);
-    command->get_option("--device")->required(false);
+    CommandLine::require(line.device(command, *choice), false);
 }
 
 } // namespace Cli

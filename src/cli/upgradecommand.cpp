@@ -134,19 +134,18 @@ void declareUpgrade(CommandLine &line)
         "orixm1 upgrade tarvo_orix_m1.ipc --fix",
         [arguments](Environment &environment) { return runUpgrade(environment, *arguments); });
     line.file(command, arguments->file);
-    CLI::Option *fix = command->add_flag(
-        "--fix,--write", arguments->writes,
+    CLI::Option *fix = CommandLine::flag(
+        command, "--fix,--write", arguments->writes,
         "Mend the file; what it was is kept beside it, under a name with .bak behind it");
-    command->add_flag("--dry-run", arguments->dryRun, "Only tell, as without --fix")->excludes(fix);
-    line.device(command, arguments->device);
-    command->get_option("--device")
-        ->required(false)
-        ->description("Device instead of one that is not known");
+    CommandLine::exclude(
+        CommandLine::flag(command, "--dry-run", arguments->dryRun, "Only tell, as without --fix"),
+        fix);
+    CommandLine::require(
+        line.device(command, arguments->device, "Device instead of one that is not known"), false);
     CommandLine::json(command, arguments->json);
-    command->footer(command->get_footer() +
-                    "\n\nExit status:\n  0  there is nothing to mend any more\n"
-                    "  1  something is left to mend, or the file cannot be written\n"
-                    "  2  wrong usage\n  3  a file that cannot be read");
+    CommandLine::addHelp(command, "Exit status:\n  0  there is nothing to mend any more\n"
+                                  "  1  something is left to mend, or the file cannot be written\n"
+                                  "  2  wrong usage\n  3  a file that cannot be read");
 }
 
 } // namespace Cli

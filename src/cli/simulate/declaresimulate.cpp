@@ -5,6 +5,8 @@
 #include "livelistener.h"
 #include "simulatearguments.h"
 
+#include <CLI/CLI.hpp>
+
 #include <unistd.h>
 
 namespace Cli

@@ -12,6 +12,8 @@
 #include <utils/boundedfile.h>
 #include <utils/interrupt.h>
 
+#include <CLI/CLI.hpp>
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>

@@ -24,6 +24,8 @@
 #include <utils/inifile.h>
 #include <utils/interrupt.h>
 
+#include <CLI/CLI.hpp>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>

@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 #include "config/optiontable.h"
+#include "config/optionvalue.h"
 #include "system/ports.h"
 #include "terms.h"
 
@@ -89,8 +90,8 @@ Utils::Result<Estimate> estimate(const OptionMap &options, const DEV::DeviceArg 
         return Utils::Failure{QStringLiteral("An estimate needs a device that is known.")};
     if (const Option *option = firstMistake(options))
         return Utils::Failure{"\""_l1 + option->key + "\" cannot be \""_l1 +
-                              options.value(option->key).toString() + "\": it is "_l1 +
-                              domainText(*option) + u'.'};
+                              textOf(options, option->key) + "\": it is "_l1 + domainText(*option) +
+                              u'.'};
 
     Estimate result;
     const int count = table.resources.size();

@@ -462,7 +462,7 @@ QVariantList IpCatalogue::simulationExamples(int index) const
 
 bool IpCatalogue::canDrawMaps(int index) const
 {
-    return returns(m_cores.at(size_t(index)).root, mapsMethod, QMetaType::QVariantMap);
+    return Answers::offers(m_cores.at(size_t(index)).root, mapsMethod, QMetaType::QVariantMap);
 }
 
 bool IpCatalogue::maps(int index, const QString &ipcFile, QVariantMap *answer, QString *error) const

@@ -576,6 +576,7 @@ QVariantMap tst_Plugin::exportSoftware(const QString &file, const QStringList &f
 
 void tst_Plugin::estimatesWhatADialogTells()
 {
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
     const auto ask = [this](const QString &device, const QVariantMap &options) {
         QVariantMap answer;
         const QVariantMap header{{QStringLiteral("target_device"), device}};
