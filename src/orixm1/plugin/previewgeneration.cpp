@@ -3,6 +3,7 @@
 #include "config/choices.h"
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
+#include "config/nameprefix.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
 #include "configuration.h"
@@ -89,6 +90,9 @@ QVariantMap previewGeneration(const QVariantMap &configuration, const QVariantMa
         inputOf(options, findDevice(header.value(QStringLiteral("target_device")).toString()),
                 ipInfo, createInPath);
     input.configuration = StoredConfiguration{file, *text};
+    input.prefix = prefixOf(options);
+    if (const QString refused = refusedPrefix(options); !refused.isEmpty())
+        input.notes.append(refused);
     if (const auto standing = readConfiguration(file, QString(), devices))
         input.standing = inputOf(standing->options, standing->device, ipInfo, createInPath);
     input.memory = &memory;

@@ -37,6 +37,7 @@ constexpr ShownRow states[] = {
     {"remade", "run", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Made by the tool")},
     {"equal", "equal", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Equal")},
     {"stays", "file", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Stays")},
+    {"removed", "close", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Removed")},
 };
 constexpr ShownRow kinds[] = {
     {"option", "edit", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Options")},
@@ -233,7 +234,7 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
             item->setIcon(1, symbolIcon(QLatin1String(row ? row->icon : "file")));
             const bool isChange =
                 file.state != QLatin1String("equal") && file.state != QLatin1String("stays");
-            changes += isChange;
+            changes += isChange && file.state != QLatin1String("removed");
             if (isChange && !firstChange && file.after)
                 firstChange = item;
             if (file.path == chosen)
@@ -290,7 +291,9 @@ void PreviewPanel::showFile()
     notes.removeAll(state);
     m_note->setText((QStringList{file.path + QLatin1String(": ") + state} + notes).join(u' '));
     const bool isTold = file.before || file.after;
-    if (!isTold || (!file.after && file.state != QLatin1String("stays"))) {
+    const bool isKnown = file.after || file.state == QLatin1String("stays") ||
+                         file.state == QLatin1String("removed");
+    if (!isTold || !isKnown) {
         m_texts->setMessage(file.notes.isEmpty() ? tr("What it will hold is not known.")
                                                  : file.notes.join(u'\n'));
         return;
