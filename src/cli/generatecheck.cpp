@@ -4,10 +4,10 @@
 #include "environment.h"
 #include "ipcdocument.h"
 #include "output.h"
-#include "prefixedset.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
 
+#include <export/prefixednetlist.h>
 #include <preview/unifieddiff.h>
 
 #include <QDir>

@@ -7,10 +7,11 @@
 #include "generatepreview.h"
 #include "ipcdocument.h"
 #include "output.h"
-#include "prefixedset.h"
 #include "resultcache.h"
 #include "toolofrunner.h"
 
+#include <estimate/estimate.h>
+#include <export/prefixednetlist.h>
 #include <generate/record.h>
 #include <generate/state.h>
 #include <preview/preview.h>
@@ -281,8 +282,13 @@ public:
         input.synthesise = m_arguments.synthesise;
         input.isIdle = !m_arguments.force && freshReport();
         input.results = [this](const Origin &origin) { return knownResults(origin); };
+        input.prefix = m_prefix;
+        input.planSet = Utils::planBundle;
         input.digest = fastSha256;
         const DEV::DeviceDb *devices = environment.devices();
+        input.estimate = [&environment](const OptionMap &options, const DEV::DeviceArg &device) {
+            return estimatedFigures(options, device, environment.dataFolder());
+        };
         input.findDevice = [devices](const QString &id) { return devices->findDevice(id); };
         return printPreview(previewOf(input), m_input.createInPath, m_arguments);
     }

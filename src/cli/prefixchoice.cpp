@@ -3,6 +3,7 @@
 #include "ipcdocument.h"
 
 #include <config/nameprefix.h>
+#include <config/optionkeys.h>
 #include <config/optionvalue.h>
 
 namespace Cli

@@ -5,6 +5,7 @@
 #include <testsupport.h>
 
 #include <workbench/catalogue/ipcatalogue.h>
+#include <workbench/companion/companion.h>
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/editortabs.h>
@@ -125,6 +126,33 @@ void saveDialog(const std::function<void()> &call, const char *name,
     call();
 }
 
+// What stands beside the dialog of an IP, after a step that was taken back and one that was not.
+void savePicturesOfCompanion(MainWindow &window, const QString &ipc)
+{
+    const ModalWatcher watcher([](QWidget *modal) {
+        auto *companion = modal->findChild<Companion *>();
+        auto *view = modal->findChild<QGraphicsView *>();
+        if (!companion || !view)
+            return;
+        view->setFocus(Qt::BacktabFocusReason); // to the last block
+        for (int i = 0; i < 2; ++i) {
+            QTest::keyClick(view, Qt::Key_Backtab);
+            QTest::keyClick(view, Qt::Key_Space);
+        }
+        QMetaObject::invokeMethod(modal, "goToStep", Q_ARG(int, 1));
+        QMetaObject::invokeMethod(modal, "pointAt", Q_ARG(QString, QStringLiteral("GPIO")));
+        const char *const names[] = {"workbench-meter", "workbench-steps", "workbench-preview"};
+        for (int i = 0; i < companion->tabs()->count() && i < int(std::size(names)); ++i) {
+            companion->tabs()->setCurrentIndex(i);
+            QTest::qWait(1000); // it waits for a pause itself
+            save(companion, names[i], i != 1);
+        }
+        save(modal, "workbench-ipdialog", false);
+        qobject_cast<QDialog *>(modal)->reject();
+    });
+    window.openPath(ipc);
+}
+
 // The maps of the result page, with the focus on a place, and what stands behind one.
 void savePicturesOfMaps(MainWindow &window)
 {
@@ -220,6 +248,7 @@ int main(int argc, char *argv[])
 
     const QTemporaryDir home;
     QSettings settings(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("companion/measure"), false); // no run that nobody sees
     settings.setValue(QStringLiteral("projectLocation"), QStringLiteral("/home/me"));
     IpCatalogue catalogue;
     catalogue.setDataFolders({QStringLiteral(TARVO_SHARE_FOLDER)});
@@ -281,6 +310,8 @@ int main(int argc, char *argv[])
     window.results()->setDelivered(results);
     save(&window, "workbench-results", true);
     savePicturesOfMaps(window);
+
+    savePicturesOfCompanion(window, ipc);
 
     window.openPath(ipFolder + QStringLiteral("/tarvo_orix_m1_tmp.v"));
     window.tabs()->currentPage()->goToLine(12);

@@ -101,6 +101,7 @@ public:
                  {latin1("Made by the tool.")}),
             file("name.vhd", "stays", latin1("old\n"), latin1("old\n")),
             file("name.xyz", "strange", latin1("a\n"), latin1("b\n")),
+            file("left_name.vhd", "removed", latin1("old\n"), QVariant()),
         };
         const auto difference = [](const char *kind, const QString &text) {
             return QVariantMap{{latin1("kind"), latin1(kind)}, {latin1("text"), text}};
@@ -171,7 +172,7 @@ private Q_SLOTS:
     {
         m_panel->refresh();
         const QTreeWidget *files = tree("Files");
-        QCOMPARE(files->topLevelItemCount(), 7);
+        QCOMPARE(files->topLevelItemCount(), 8);
         QStringList states;
         for (int i = 0; i < files->topLevelItemCount(); ++i) {
             const QTreeWidgetItem *item = files->topLevelItem(i);
@@ -180,15 +181,17 @@ private Q_SLOTS:
         }
         QCOMPARE(states, (QStringList{latin1("Changed"), latin1("Equal"), latin1("Edited by hand"),
                                       latin1("New"), latin1("Made by the tool"), latin1("Stays"),
-                                      latin1("strange")}));
+                                      latin1("strange"), latin1("Removed")}));
         const QTreeWidget *differences = tree("Differences");
         QCOMPARE(differences->topLevelItemCount(), 3);
         QCOMPARE(differences->topLevelItem(1)->text(0), latin1("Ports (2)"));
         QCOMPARE(differences->topLevelItem(1)->child(1)->text(0), latin1("- KEY: direction input"));
-        QVERIFY(labels().contains(latin1("OK would write 5 of 7 files.")));
+        QVERIFY(labels().contains(latin1("OK would write 5 of 8 files.")));
         // The first that changes is shown at once.
         QCOMPARE(lines("Before"), (QStringList{latin1("  1  [Config]"), latin1("  2  value=0")}));
         QVERIFY(lines("After").contains(latin1("  1  [Config]")));
+        choose("left_name.vhd");
+        QCOMPARE(lines("Before"), QStringList{latin1("- 1  old")});
     }
 
     void marksWhatIsRemovedAndAdded()

@@ -8,6 +8,7 @@
 #include <synthesis/reportjson.h>
 #include <synthesis/runner.h>
 #include <synthesis/toolversion.h>
+#include <utils/filebundle.h>
 
 #include <QPointer>
 #include <QWidget>
@@ -179,6 +180,23 @@ QVariantMap SynthesisHelper::runRecord() const
     return {{QStringLiteral("tool"), Synthesis::toolName(tool)},
             {QStringLiteral("version"), Synthesis::toolVersion(tool)},
             {QStringLiteral("report"), Synthesis::toJson(d->runner.report()).toVariantMap()}};
+}
+
+QVariantMap SynthesisHelper::placeFiles(const QString &folder, const QString &manifest,
+                                        const QVariantList &files)
+{
+    Utils::Bundle bundle{folder, manifest, {}, {}, false};
+    for (const QVariant &entry : files) {
+        const QVariantMap file = entry.toMap();
+        const QString group = file.value(QStringLiteral("group")).toString();
+        bundle.files.append({file.value(QStringLiteral("path")).toString(),
+                             file.value(QStringLiteral("bytes")).toByteArray(), group});
+        if (!bundle.groups.contains(group))
+            bundle.groups.append(group);
+    }
+    const auto written = Utils::writeBundle(bundle);
+    return {{QStringLiteral("error"), written.reason()},
+            {QStringLiteral("notices"), written ? written->messages : QStringList()}};
 }
 
 void SynthesisHelper::tellNotices(const QStringList &notices)

@@ -72,6 +72,12 @@ public:
     // For a plug-in, found by its name as well: sentences on what it has done around the run, which
     // are no errors. The application shows them with the run's messages.
     Q_INVOKABLE void tellNotices(const QStringList &notices);
+    // For a plug-in, found by its name as well: writes a set of files as Utils::writeBundle() does,
+    // nothing of an earlier set left over. A file is a map: "path" below the folder, "group", and
+    // "bytes". Returns "error", a sentence, with which nothing was written, or empty, and
+    // "notices", sentences on files that somebody has edited.
+    Q_INVOKABLE QVariantMap placeFiles(const QString &folder, const QString &manifest,
+                                       const QVariantList &files);
 
 Q_SIGNALS:
     // A short phrase for people ("Reading sources").

@@ -279,7 +279,7 @@ public:
         if (!compared)
             return Failure{compared.reason()};
         m_comparison = *compared;
-        if (!prepare(&error) || !place(&error))
+        if (!decide(&error) || !prepare(&error) || !place(&error))
             return Failure{error};
         m_isDone = true;
         for (const Removed &removed : m_removed)
@@ -287,12 +287,34 @@ public:
         return reportOf(m_comparison);
     }
 
+    // What run() would do, which is not called then.
+    Result<BundlePlan> plan()
+    {
+        const Result<Comparison> compared = compare(m_bundle);
+        if (!compared)
+            return Failure{compared.reason()};
+        m_comparison = *compared;
+        QString error;
+        if (!decide(&error))
+            return Failure{error};
+        BundlePlan plan{reportOf(m_comparison), {}};
+        for (const Decided &decided : m_decided)
+            plan.written.append({belowFolder(decided.place), decided.bytes,
+                                 decided.item ? decided.item->entry.group : QString()});
+        return plan;
+    }
+
 private:
-    struct Replaced {
-        std::unique_ptr<FileReplacement> replacement;
+    // A file that is to be placed.
+    struct Decided {
         QString place;
+        QByteArray bytes;
         const Item *item = nullptr;                    // null: what stood there is of no interest
         std::optional<QFile::Permissions> permissions; // to be set
+    };
+    struct Replaced {
+        std::unique_ptr<FileReplacement> replacement;
+        const Decided *decided; // of m_decided, which stays as it is
     };
     struct Removed {
         QString place;
@@ -300,13 +322,15 @@ private:
         QFile::Permissions permissions;
     };
 
-    bool add(const QString &place, const QByteArray &bytes, const Item *item, QString *error)
+    bool prepare(QString *error)
     {
-        Replaced replaced{std::make_unique<FileReplacement>(place), place, item, {}};
-        if (!m_folders.make(QFileInfo(place).absolutePath(), error) ||
-            !replaced.replacement->prepare(bytes, error))
-            return false;
-        m_replaced.push_back(std::move(replaced));
+        for (const Decided &decided : m_decided) {
+            Replaced replaced{std::make_unique<FileReplacement>(decided.place), &decided};
+            if (!m_folders.make(QFileInfo(decided.place).absolutePath(), error) ||
+                !replaced.replacement->prepare(decided.bytes, error))
+                return false;
+            m_replaced.push_back(std::move(replaced));
+        }
         return true;
     }
 
@@ -344,23 +368,20 @@ private:
     }
 
     // Sees to it that the bytes, which stand at `place`, will stand beside it. Returns where, below
-    // the folder; empty if that cannot be prepared.
-    QString keep(const QString &place, const QByteArray &bytes, QString *error)
+    // the folder.
+    QString keep(const QString &place, const QByteArray &bytes)
     {
         bool stands = false;
         const QString kept = keepingPlace(place, bytes, &stands);
-        if (!stands) {
-            if (!add(kept, bytes, nullptr, error))
-                return {};
-            m_replaced.back().permissions = QFileInfo(place).permissions();
-        }
+        if (!stands)
+            m_decided.push_back({kept, bytes, nullptr, QFileInfo(place).permissions()});
         m_kept.insert(kept);
         return belowFolder(kept);
     }
 
-    bool keepEdited(Item *item, QString *error)
+    void keepEdited(Item *item)
     {
-        item->entry.keptAs = keep(item->place, *item->bytes, error);
+        item->entry.keptAs = keep(item->place, *item->bytes);
         const QString text =
             item->isKnown
                 ? Tr::tr("\"%1\" was changed since it was written; what stood there is in \"%2\" "
@@ -369,23 +390,21 @@ private:
                          "now.");
         m_comparison.messages.append(
             text.arg(native(item->entry.path), native(item->entry.keptAs)));
-        return !item->entry.keptAs.isEmpty();
     }
 
-    bool keepBrokenManifest(const QString &place, QString *error)
+    void keepBrokenManifest(const QString &place)
     {
         const KnownManifest &known = m_comparison.known;
         if (!known.bytes || known.mistake.isEmpty())
-            return true;
-        const QString kept = keep(place, *known.bytes, error);
+            return;
+        const QString kept = keep(place, *known.bytes);
         m_comparison.messages.append(Tr::tr("What stood in \"%1\" is in \"%2\" now.")
                                          .arg(native(m_bundle.manifest), native(kept)));
-        return !kept.isEmpty();
     }
 
     // All that is going to be placed, what is kept first and the manifest last: whatever instant
     // ends the program, nothing is lost, and the next write sees what has happened.
-    bool prepare(QString *error)
+    bool decide(QString *error)
     {
         const QString manifest = *placeOf(m_comparison.folder, m_bundle.manifest);
         const QByteArray text = m_comparison.next.toText();
@@ -402,17 +421,16 @@ private:
                     Tr::tr("\"%1\" is not part of the set any more; it was changed since it was "
                            "written, so it stays.")
                         .arg(native(item.entry.path)));
-            if (item.entry.state == BundleEntry::Edited && !keepEdited(&item, error))
-                return false;
+            if (item.entry.state == BundleEntry::Edited)
+                keepEdited(&item);
         }
-        if (!keepBrokenManifest(manifest, error))
-            return false;
+        keepBrokenManifest(manifest);
         for (const Item &item : m_comparison.items) {
-            if (item.file && item.entry.state != BundleEntry::Fresh &&
-                !add(item.place, item.file->bytes, &item, error))
-                return false;
+            if (item.file && item.entry.state != BundleEntry::Fresh)
+                m_decided.push_back({item.place, item.file->bytes, &item, {}});
         }
-        return add(manifest, text, nullptr, error);
+        m_decided.push_back({manifest, text, nullptr, {}});
+        return true;
     }
 
     // Somebody may have saved a file since it was looked at.
@@ -452,12 +470,12 @@ private:
         for (Replaced &replaced : m_replaced) {
             const bool isManifest = &replaced == &m_replaced.back();
             if ((isManifest && !removeLeftOver(error)) ||
-                (replaced.item && !isUnchanged(*replaced.item, error)) ||
+                (replaced.decided->item && !isUnchanged(*replaced.decided->item, error)) ||
                 !replaced.replacement->place(error))
                 return false;
             ++m_placed;
-            if (replaced.permissions)
-                QFile::setPermissions(replaced.place, *replaced.permissions);
+            if (replaced.decided->permissions)
+                QFile::setPermissions(replaced.decided->place, *replaced.decided->permissions);
         }
         return true;
     }
@@ -486,7 +504,8 @@ private:
     const Bundle &m_bundle;
     std::shared_ptr<FolderLock> m_lock;
     Comparison m_comparison;
-    std::vector<Replaced> m_replaced; // in the order in which they are placed
+    std::vector<Decided> m_decided;   // in the order in which they are placed
+    std::vector<Replaced> m_replaced; // likewise
     std::vector<Removed> m_removed;
     QSet<QString> m_kept;
     MadeFolders m_folders;
@@ -530,6 +549,11 @@ Result<BundleReport> checkBundle(const Bundle &bundle)
     if (!compared)
         return Failure{compared.reason()};
     return reportOf(*compared);
+}
+
+Result<BundlePlan> planBundle(const Bundle &bundle)
+{
+    return Writing(bundle).plan();
 }
 
 Result<BundleReport> writeBundle(const Bundle &bundle)

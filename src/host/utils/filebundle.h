@@ -64,6 +64,14 @@ struct BundleReport {
     }
 };
 
+// What a write would do.
+struct BundlePlan {
+    BundleReport report; // that it would return
+    // In the order in which they are placed: what is kept of edited files (in no group), the files
+    // that do not hold their bytes, the manifest (in no group). Left-over files are removed.
+    QVector<BundleFile> written;
+};
+
 // "fresh", "missing", "stale", "edited", "left over", "left over and edited"
 TARVO_UTILS_EXPORT QString bundleStateName(BundleEntry::State state);
 
@@ -73,6 +81,10 @@ TARVO_UTILS_EXPORT QStringList bundleGroups(const QString &folder, const QString
 // Compares the set with what stands below its folder, which need not exist; writes nothing. A
 // failure is a sentence: a path that leaves the folder, a file that cannot be read.
 TARVO_UTILS_EXPORT Result<BundleReport> checkBundle(const Bundle &bundle);
+
+// What writeBundle() would do with the folder as it stands; writes nothing. A failure as of
+// checkBundle().
+TARVO_UTILS_EXPORT Result<BundlePlan> planBundle(const Bundle &bundle);
 
 // Writes the set and its manifest, whole or not at all: all files are on the disk before the first
 // has its place, and if one cannot have its own, all is as it was. Files that hold their bytes

@@ -1,5 +1,7 @@
 #include "nameprefix.h"
 
+#include "latin1literal.h"
+#include "optionkeys.h"
 #include "optionvalue.h"
 
 #include <QStringList>
@@ -159,6 +161,12 @@ QString prefixOf(const OptionMap &options)
 {
     const QString prefix = textOf(options, Key::namePrefix);
     return prefixMistake(prefix).text.isEmpty() ? prefix : QString();
+}
+
+QString refusedPrefix(const OptionMap &options)
+{
+    const QString mistake = prefixMistake(textOf(options, Key::namePrefix)).text;
+    return mistake.isEmpty() ? QString() : QString(mistake + " So there are no files with it."_l1);
 }
 
 } // namespace TARVOORIXM1

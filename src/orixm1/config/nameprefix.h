@@ -1,9 +1,7 @@
 #pragma once
 
-#include "latin1literal.h"
 #include "optionmap.h"
 
-#include <QLatin1String>
 #include <QString>
 
 namespace TARVOORIXM1
@@ -13,13 +11,6 @@ namespace TARVOORIXM1
 // letters, digits and single underscores, the first a letter and the last an underscore, at most
 // so many characters.
 inline constexpr int longestPrefix = 32;
-
-// The entry of a configuration that holds it. Dialogs keep it; a generation does not read it for
-// what it has always made.
-namespace Key
-{
-inline constexpr QLatin1String namePrefix = "Prefix"_l1;
-}
 
 struct PrefixMistake {
     QString text; // why it cannot be the prefix, a sentence; empty: it can
@@ -38,5 +29,7 @@ QString prefixPattern();
 
 // The prefix of a configuration; empty if it has none, or one that cannot be.
 QString prefixOf(const OptionMap &options);
+// Why prefixOf() is empty although the configuration has one, as sentences; empty otherwise.
+QString refusedPrefix(const OptionMap &options);
 
 } // namespace TARVOORIXM1

@@ -66,6 +66,9 @@ inline constexpr QLatin1String ipDevice = "ip_device"_l1;
 inline constexpr QLatin1String synthesisTool = "Synthesis_tool"_l1;
 inline constexpr QLatin1String lang = "LANG"_l1;
 inline constexpr QLatin1String createInPath = "createin_path"_l1;
+// What names begin with: see nameprefix.h. Of a generation it decides what stands beside the
+// outputs, and no byte of these.
+inline constexpr QLatin1String namePrefix = "Prefix"_l1;
 
 // "Enable_AHB_Master3" of enableAhbMaster and 3.
 inline QString extensionPortKey(QLatin1String prefix, int port)

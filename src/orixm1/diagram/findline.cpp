@@ -66,7 +66,7 @@ void FindLine::search(const QString &query)
     m_list->clear();
     for (const Findable &hit : qAsConst(m_hits)) {
         auto *item = new QListWidgetItem(
-            tr("%1 \u2013 %2: %3").arg(hit.name, kindName(hit.kind), hit.detail), m_list);
+            tr("%1 (%2): %3").arg(hit.name, kindName(hit.kind), hit.detail), m_list);
         item->setToolTip(item->text());
     }
     if (!m_hits.isEmpty())

@@ -145,6 +145,32 @@ Utils::Result<Estimate> estimate(const OptionMap &options, const DEV::DeviceArg 
     return result;
 }
 
+ResourceFigures estimatedFigures(const Estimate &estimate)
+{
+    ResourceFigures figures;
+    for (const EstimatedResource &resource : estimate.resources) {
+        const bool isExact = resource.low == resource.high;
+        figures.lines.append({isExact ? resource.resource : resource.resource + ", about"_l1,
+                              resource.value, resource.available});
+    }
+    return figures;
+}
+
+std::optional<ResourceFigures> estimatedFigures(const OptionMap &options,
+                                                const DEV::DeviceArg &device,
+                                                const QString &dataPath)
+{
+    if (device.isNull() || !hasEstimateTable(dataPath))
+        return std::nullopt;
+    const auto table = readEstimateTable(dataPath);
+    if (!table)
+        return std::nullopt;
+    const auto estimated = estimate(options, device, *table);
+    if (!estimated)
+        return std::nullopt;
+    return estimatedFigures(*estimated);
+}
+
 int usedPins(const OptionMap &options, const DEV::DeviceArg &device)
 {
     int lines = 0;

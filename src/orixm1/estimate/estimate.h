@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/optionmap.h"
+#include "system/systemmap.h"
 #include "table.h"
 
 #include <dev/devicearg.h>
@@ -53,6 +54,13 @@ struct Estimate {
 // sentence, for a null device and for a value that its option cannot have.
 Utils::Result<Estimate> estimate(const OptionMap &options, const DEV::DeviceArg &device,
                                  const EstimateTable &table);
+
+// The same as figures beside those of runs; what is not exact is called "about".
+ResourceFigures estimatedFigures(const Estimate &estimate);
+// Those of a configuration; nothing where there is no table, or no estimate.
+std::optional<ResourceFigures> estimatedFigures(const OptionMap &options,
+                                                const DEV::DeviceArg &device,
+                                                const QString &dataPath);
 
 // The lines of the top module's ports.
 int usedPins(const OptionMap &options, const DEV::DeviceArg &device);

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "format.h"
+#include "generate/disk.h"
+#include "generate/plan.h"
+
+#include <utils/filebundle.h>
 
 namespace TARVOORIXM1
 {
@@ -12,5 +16,13 @@ namespace TARVOORIXM1
 // their names ("tarvo_orix_m1.vho"); the result is in their order.
 QVector<ExportedFile> prefixedOutputs(const QVector<ExportedFile> &outputs,
                                       const QVector<BlackBox> &blackBoxes, const QString &prefix);
+
+// The file beside the outputs under a prefix that says what was written, for the next run.
+QString netlistManifestOf(const QString &prefix);
+
+// The outputs of a plan under a prefix, as a set beside them; of those that only some runs make, as
+// many as there are. A failure is a sentence: an output cannot be read.
+Utils::Result<Utils::Bundle> prefixedSet(const GenerationInput &input, const GenerationPlan &plan,
+                                         const QString &prefix, const Disk &disk = Disk());
 
 } // namespace TARVOORIXM1

@@ -1,10 +1,13 @@
 #include "disk.h"
 
+#include "config/tr.h"
+
 #include <reading/limits.h>
 #include <reading/plainfile.h>
 #include <utils/fileutils.h>
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -30,6 +33,16 @@ bool readFrom(const QString &path, QByteArray *bytes)
 bool Disk::exists(const QString &path) const
 {
     return QFileInfo::exists(path);
+}
+
+Utils::Result<QByteArray> Disk::read(const QString &path) const
+{
+    QByteArray bytes;
+    QString reason;
+    if (Reading::readPlainFile(path, Reading::Limits::anyFile, &bytes, &reason))
+        return bytes;
+    return Utils::Failure{
+        Tr::tr("\"%1\" cannot be read: %2.").arg(QDir::toNativeSeparators(path), reason)};
 }
 
 QByteArray Disk::digestOf(const QString &path, Digest digest) const
@@ -82,6 +95,13 @@ std::optional<QByteArray> ImaginedDisk::written(const QString &path) const
 bool ImaginedDisk::exists(const QString &path) const
 {
     return m_written.contains(path) || Disk::exists(path);
+}
+
+Utils::Result<QByteArray> ImaginedDisk::read(const QString &path) const
+{
+    if (const auto bytes = written(path))
+        return *bytes;
+    return Disk::read(path);
 }
 
 QByteArray ImaginedDisk::digestOf(const QString &path, Digest digest) const

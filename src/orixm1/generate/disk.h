@@ -2,6 +2,8 @@
 
 #include "manifest.h"
 
+#include <utils/result.h>
+
 #include <QByteArray>
 #include <QHash>
 #include <QMap>
@@ -19,6 +21,8 @@ public:
     virtual ~Disk() = default;
 
     virtual bool exists(const QString &path) const;
+    // Of a plain file. A failure is a sentence.
+    virtual Utils::Result<QByteArray> read(const QString &path) const;
     // Empty for what is no plain file or cannot be read.
     virtual QByteArray digestOf(const QString &path, Digest digest) const;
     // False: a sentence in `*error`.
@@ -52,6 +56,7 @@ public:
     explicit ImaginedDisk(DigestMemory *memory);
 
     bool exists(const QString &path) const override;
+    Utils::Result<QByteArray> read(const QString &path) const override;
     QByteArray digestOf(const QString &path, Digest digest) const override;
     bool copy(const QString &from, const QString &to, QString *error) override;
     void remove(const QString &path) override;

@@ -3,9 +3,11 @@
 #include "config/choices.h"
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
+#include "config/nameprefix.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
 #include "configuration.h"
+#include "estimate/estimate.h"
 #include "preview/previewforms.h"
 #include "rules/itcmpath.h"
 
@@ -88,6 +90,9 @@ QVariantMap previewGeneration(const QVariantMap &configuration, const QVariantMa
         inputOf(options, findDevice(header.value(QStringLiteral("target_device")).toString()),
                 ipInfo, createInPath);
     input.configuration = StoredConfiguration{file, *text};
+    input.prefix = prefixOf(options);
+    if (const QString refused = refusedPrefix(options); !refused.isEmpty())
+        input.notes.append(refused);
     if (const auto standing = readConfiguration(file, QString(), devices))
         input.standing = inputOf(standing->options, standing->device, ipInfo, createInPath);
     input.memory = &memory;
@@ -95,6 +100,9 @@ QVariantMap previewGeneration(const QVariantMap &configuration, const QVariantMa
         input.description = &*description;
     else
         input.notes.append(description.reason());
+    input.estimate = [&dataPath](const OptionMap &of, const DEV::DeviceArg &device) {
+        return estimatedFigures(of, device, dataPath);
+    };
     input.findDevice = findDevice;
     return previewAnswer(previewOf(input));
 }

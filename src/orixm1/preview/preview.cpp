@@ -3,18 +3,24 @@
 #include "config/latin1literal.h"
 #include "config/optiontable.h"
 #include "config/tr.h"
+#include "export/prefixednetlist.h"
 #include "generate/record.h"
 #include "meanings.h"
 #include "rules/itcmcontents.h"
 #include "rules/optionmeaning.h"
 #include "system/facts.h"
 
+#include <reading/jsontext.h>
 #include <reading/limits.h>
 #include <reading/plainfile.h>
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 
 #include <algorithm>
 #include <iterator>
@@ -58,6 +64,27 @@ bool isThere(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
+// The sums of a set's files by their names, as the manifest beside them has them; none of one that
+// cannot be read.
+QMap<QString, QByteArray> recordedSums(const QString &manifest)
+{
+    QByteArray bytes;
+    QString reason;
+    if (!Reading::readPlainFile(manifest, Reading::Limits::bundleManifest, &bytes, &reason))
+        return {};
+    const QJsonObject object = Reading::readJson(bytes).document.object();
+    QMap<QString, QByteArray> sums;
+    if (object.value("version"_l1).toInt() != 1)
+        return sums;
+    const QJsonArray files = object.value("files"_l1).toArray();
+    for (const QJsonValue &file : files) {
+        const QString name = file["path"_l1].toString();
+        if (!name.isEmpty() && !name.contains(u'/'))
+            sums.insert(name, file["sha256"_l1].toString().toLatin1());
+    }
+    return sums;
+}
+
 // A preview in the making.
 class Previewer
 {
@@ -91,6 +118,7 @@ public:
             failed.error = error;
             return failed;
         }
+        placePrefixed();
         listFiles();
         compare();
         return m_preview;
@@ -157,6 +185,118 @@ private:
 
     bool isOpen() const { return m_runs && !m_isKnown; }
 
+    QString inOutputFolder(const QString &name) const
+    {
+        return m_input.generation.createInPath + u'/' + name;
+    }
+
+    // The second set, once the results are in their places.
+    void placePrefixed()
+    {
+        if (m_input.prefix.isEmpty() || !m_input.synthesise || !m_input.planSet ||
+            !(m_input.isIdle || m_isKnown))
+            return;
+        const auto set = prefixedSet(m_input.generation, m_plan, m_input.prefix, m_disk);
+        const auto plan = set ? m_input.planSet(*set)
+                              : Utils::Result<Utils::BundlePlan>(Utils::Failure{set.reason()});
+        if (!plan) {
+            m_preview.notes.append(
+                Tr::tr("The files with the prefix \"%1\" will not be written: %2")
+                    .arg(m_input.prefix, plan.reason()));
+            return;
+        }
+        m_prefixed = *plan;
+        for (const Utils::BundleFile &file : plan->written)
+            m_disk.write(inOutputFolder(file.path), file.bytes);
+    }
+
+    void listPrefixed()
+    {
+        if (m_input.prefix.isEmpty())
+            return;
+        const QString manifest = inOutputFolder(netlistManifestOf(m_input.prefix));
+        m_copies.insert(manifest, QString());
+        if (m_prefixed) {
+            for (const Utils::BundleEntry &entry : m_prefixed->report.entries)
+                addPlaced(entry);
+            add(manifest, PreviewFile::Equal);
+            return;
+        }
+        const QMap<QString, QByteArray> sums = recordedSums(manifest);
+        QStringList made;
+        for (const Output &output : m_plan.outputs.copied) {
+            const QString path = prefixedPath(output.file);
+            if (!output.isOptional || isThere(output.file) || isThere(path))
+                made.append(path);
+        }
+        made.append(prefixedPath(m_plan.outputs.decoded));
+        const bool isPlaced = isOpen() || (m_input.isIdle && m_input.synthesise);
+        for (const QString &path : qAsConst(made)) {
+            if (isPlaced)
+                addOpenPrefixed(path, sums);
+            else
+                add(path, PreviewFile::Stays);
+        }
+        for (auto it = sums.begin(); it != sums.end(); ++it) {
+            const QString path = inOutputFolder(it.key());
+            if (isPlaced && isThere(path) && m_disk.digestOf(path, m_input.digest) == it.value())
+                addRemoved(path);
+            else
+                add(path, PreviewFile::Stays);
+        }
+        if (isPlaced)
+            addOpen(manifest, false);
+        else
+            add(manifest, PreviewFile::Stays);
+    }
+
+    QString prefixedPath(const QString &output) const
+    {
+        return inOutputFolder(m_input.prefix +
+                              belowOutput(output, m_input.generation.createInPath));
+    }
+
+    // A file of the second set, which is known.
+    void addPlaced(const Utils::BundleEntry &entry)
+    {
+        const QString path = inOutputFolder(entry.path);
+        m_copies.insert(path, entry.keptAs);
+        if (entry.state == Utils::BundleEntry::LeftOver)
+            addRemoved(path);
+        else
+            add(path, entry.state == Utils::BundleEntry::LeftOverEdited ? PreviewFile::Stays
+                                                                        : PreviewFile::Equal);
+    }
+
+    // One that only the tool can tell.
+    void addOpenPrefixed(const QString &path, const QMap<QString, QByteArray> &sums)
+    {
+        if (m_listed.contains(path))
+            return;
+        addOpen(path, false);
+        PreviewFile &file = m_preview.files.last();
+        const QString name = belowOutput(path, m_input.generation.createInPath);
+        if (file.state == PreviewFile::Remade &&
+            m_disk.digestOf(path, m_input.digest) != sums.value(name)) {
+            file.state = PreviewFile::Edited;
+            file.notes.append(keptUnlessEqual());
+        }
+    }
+
+    void addRemoved(const QString &path)
+    {
+        if (m_listed.contains(path))
+            return;
+        PreviewFile file = begun(path);
+        file.state = PreviewFile::Removed;
+        m_preview.files.append(file);
+    }
+
+    static QString keptUnlessEqual()
+    {
+        return Tr::tr("What stands there will be kept beside it, unless the tool makes the same.");
+    }
+
     void listFiles()
     {
         if (m_input.configuration)
@@ -183,6 +323,7 @@ private:
             for (const DigestedFile &file : m_last->synthesis->files)
                 add(m_input.generation.createInPath + u'/' + file.name, PreviewFile::Stays);
         }
+        listPrefixed();
         // What else is written: copies of what was edited where the tool has its say are told at
         // the file, since it may make the same.
         const QStringList written = m_disk.paths();
@@ -260,15 +401,26 @@ private:
         if (isResult && file.state == PreviewFile::Remade &&
             m_record.isEditedResult(path, QByteArray())) {
             file.state = PreviewFile::Edited;
-            file.notes.append(Tr::tr("What stands there will be kept beside it, unless the tool "
-                                     "makes the same."));
+            file.notes.append(keptUnlessEqual());
         }
         m_preview.files.append(file);
+    }
+
+    static QString willBeIn(const QString &copy)
+    {
+        return Tr::tr("What stands there will be in \"%1\".").arg(copy);
     }
 
     // That somebody has changed it, and what becomes of that.
     void tellEdit(const QString &path, PreviewFile *file)
     {
+        if (const auto copy = m_copies.constFind(path); copy != m_copies.constEnd()) {
+            if (!copy->isEmpty()) {
+                file->state = PreviewFile::Edited;
+                file->notes.append(willBeIn(QFileInfo(*copy).fileName()));
+            }
+            return;
+        }
         const bool isConfiguration = m_input.configuration && m_input.configuration->path == path;
         const QVector<GenerationRecord::Kept> &edits = m_record.edits();
         const auto kept =
@@ -281,7 +433,7 @@ private:
                 file->isTools
                     ? Tr::tr("What stands there will be in \"%1\", unless the tool makes the same.")
                           .arg(copy)
-                    : Tr::tr("What stands there will be in \"%1\".").arg(copy));
+                    : willBeIn(copy));
         } else if (!m_last && !isConfiguration) {
             file->notes.append(
                 Tr::tr("No run is known that has made it; what stands there will be lost."));
@@ -343,6 +495,8 @@ private:
     std::optional<GenerationManifest> m_last;
     bool m_runs = false;    // the tool
     bool m_isKnown = false; // what it leaves
+    std::optional<Utils::BundlePlan> m_prefixed;
+    QHash<QString, QString> m_copies; // of files of the second set; empty: none
     QStringList m_listed;
     Preview m_preview;
 };
@@ -379,6 +533,8 @@ QString stateName(PreviewFile::State state)
         return QStringLiteral("edited");
     case PreviewFile::Remade:
         return QStringLiteral("remade");
+    case PreviewFile::Removed:
+        return QStringLiteral("removed");
     case PreviewFile::Stays:
         break;
     }

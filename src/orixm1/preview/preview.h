@@ -5,6 +5,7 @@
 #include "generate/state.h"
 #include "system/systemmap.h"
 
+#include <utils/filebundle.h>
 #include <utils/result.h>
 
 #include <QByteArray>
@@ -52,6 +53,11 @@ struct PreviewInput {
     bool isIdle = false; // everything is fresh, so that nothing is done
     // Asked with what the run would be made from; empty, or nothing: only a run can tell.
     std::function<std::optional<KnownResults>(const Origin &)> results;
+    // Of the second set of outputs; empty: there is none.
+    QString prefix;
+    // What writing that set would do (Utils::planBundle(), which not every host has). Empty: that
+    // is as little known as what a run leaves.
+    std::function<Utils::Result<Utils::BundlePlan>(const Utils::Bundle &)> planSet;
 
     Digest digest = sha256;
     DigestMemory *memory = nullptr; // not owned; null: none
@@ -73,14 +79,15 @@ struct PreviewFile {
         Equal,  // as it stands
         Edited, // by hand, since the last run: it will hold something else
         Remade, // by the tool, which alone can tell whether that changes it
-        Stays   // of an earlier run; this one leaves it as it is
+        Stays,  // of an earlier run; this one leaves it as it is
+        Removed // of an earlier run; it belongs to a set that has no such file any more
     };
 
     QString path; // below the output folder
     State state = New;
     bool isTools = false;             // only a run of the tool can tell what it will hold
     std::optional<QByteArray> before; // nothing: no file, one that cannot be read, or a long one
-    std::optional<QByteArray> after;  // nothing: not known; never for the length
+    std::optional<QByteArray> after;  // nothing: not known, or removed; never for the length
     QStringList notes;                // sentences
 
     // Whether one of the contents is longer than what is shown.
@@ -109,7 +116,7 @@ struct Preview {
 // Reads only. It takes the steps of a generation, with what they write in memory.
 Preview previewOf(const PreviewInput &input);
 
-// "new", "changed", "equal", "edited", "remade", "stays"
+// "new", "changed", "equal", "edited", "remade", "stays", "removed"
 QString stateName(PreviewFile::State state);
 
 } // namespace TARVOORIXM1

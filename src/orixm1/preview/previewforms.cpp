@@ -12,9 +12,9 @@ namespace TARVOORIXM1
 namespace
 {
 
-constexpr PreviewFile::State allStates[] = {PreviewFile::New,    PreviewFile::Changed,
-                                            PreviewFile::Edited, PreviewFile::Remade,
-                                            PreviewFile::Equal,  PreviewFile::Stays};
+constexpr PreviewFile::State allStates[] = {
+    PreviewFile::New,     PreviewFile::Changed, PreviewFile::Edited, PreviewFile::Remade,
+    PreviewFile::Removed, PreviewFile::Equal,   PreviewFile::Stays};
 
 // "2 new, 1 changed, 9 equal"
 QString summaryOf(const Preview &preview)
@@ -51,11 +51,14 @@ QStringList notesOf(const PreviewFile &file)
 
 QStringList diffOf(const PreviewFile &file)
 {
-    if (!isChange(file) || !file.after || file.isLong() || (file.sizeBefore >= 0 && !file.before))
+    const bool isRemoved = file.state == PreviewFile::Removed;
+    if (!isChange(file) || !(file.after || isRemoved) || file.isLong() ||
+        (file.sizeBefore >= 0 && !file.before))
         return {};
-    return unifiedDiff(file.before.value_or(QByteArray()), *file.after,
-                       file.before ? QString("a/"_l1 + file.path) : QStringLiteral("/dev/null"),
-                       "b/"_l1 + file.path);
+    const QString nothing = QStringLiteral("/dev/null");
+    return unifiedDiff(file.before.value_or(QByteArray()), file.after.value_or(QByteArray()),
+                       file.before ? QString("a/"_l1 + file.path) : nothing,
+                       isRemoved ? nothing : QString("b/"_l1 + file.path));
 }
 
 QStringList previewLines(const Preview &preview, bool withDiff)

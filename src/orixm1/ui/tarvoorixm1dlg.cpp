@@ -5,11 +5,13 @@
 #include "config/descriptor.h"
 #include "config/ipcfile.h"
 #include "config/latin1literal.h"
+#include "config/nameprefix.h"
 #include "config/optionkeys.h"
 #include "config/optionvalue.h"
 #include "diagram/findline.h"
 #include "diagram/ipview.h"
 #include "dialogs/messagebox.h"
+#include "export/prefixednetlist.h"
 #include "generate/plan.h"
 #include "generate/record.h"
 #include "rules/devicerules.h"
@@ -319,6 +321,7 @@ void TarvoOrixM1Dlg::generateCore()
 {
     const GenerationInput input = generationInput();
     const GenerationPlan plan = generationPlan(input);
+    prefixNotices.clear();
     // A host tells by itself why a file could not be written.
     record = std::make_unique<GenerationRecord>(
         input, plan, sha256, [this](const QString &path, const QStringList &lines, QString *) {
@@ -368,14 +371,44 @@ void TarvoOrixM1Dlg::makeSynthesis()
     connect(synthesis, SIGNAL(finished(int)), this, SLOT(onGenerationFinished(int)));
 }
 
+void TarvoOrixM1Dlg::placePrefixed()
+{
+    if (const QString refused = refusedPrefix(options); !refused.isEmpty())
+        prefixNotices.append(refused);
+    const QString prefix = prefixOf(options);
+    if (prefix.isEmpty())
+        return;
+    const GenerationInput input = generationInput();
+    const auto set = prefixedSet(input, generationPlan(input), prefix);
+    QString error = set.reason();
+    if (set) {
+        QVariantList files;
+        for (const Utils::BundleFile &file : set->files)
+            files.append(QVariantMap{
+                {"path"_l1, file.path}, {"group"_l1, file.group}, {"bytes"_l1, file.bytes}});
+        QVariantMap placed{{"error"_l1, tr("this application has no means to place them.")}};
+        if (synthesis->metaObject()->indexOfMethod("placeFiles(QString,QString,QVariantList)") >= 0)
+            QMetaObject::invokeMethod(synthesis, "placeFiles", Qt::DirectConnection,
+                                      Q_RETURN_ARG(QVariantMap, placed),
+                                      Q_ARG(QString, set->folder), Q_ARG(QString, set->manifest),
+                                      Q_ARG(QVariantList, files));
+        error = placed["error"_l1].toString();
+        prefixNotices += placed["notices"_l1].toStringList();
+    }
+    if (!error.isEmpty())
+        prefixNotices.append(
+            tr("The files with the prefix \"%1\" were not written: %2").arg(prefix, error));
+}
+
 void TarvoOrixM1Dlg::tellNotices()
 {
-    if (!record || record->messages().isEmpty())
+    const QStringList notices = (record ? record->messages() : QStringList()) + prefixNotices;
+    if (notices.isEmpty())
         return;
     makeSynthesis();
     if (synthesis->metaObject()->indexOfMethod("tellNotices(QStringList)") >= 0)
         QMetaObject::invokeMethod(synthesis, "tellNotices", Qt::DirectConnection,
-                                  Q_ARG(QStringList, record->messages()));
+                                  Q_ARG(QStringList, notices));
 }
 
 void TarvoOrixM1Dlg::finishRecord(int exitCode, int status)
@@ -411,6 +444,8 @@ void TarvoOrixM1Dlg::onGenerationFinished(int exitCode)
                                 IPCore::decode);
     }
     finishRecord(exitCode, result.status);
+    if (result.status == 0)
+        placePrefixed();
     tellNotices();
     synthesis->hideProgressDlg();
     if (result.status != 0) {

@@ -94,6 +94,9 @@ private:
     // Ends the record of a generation after a run that ended with `exitCode` and whose results were
     // collected with `status`.
     void finishRecord(int exitCode, int status);
+    // Has the host put the outputs under the configuration's prefix, if it has one, beside the
+    // others. What becomes of that is told with the notices.
+    void placePrefixed();
     // Tells a host that listens where the contents of edited files are.
     void tellNotices();
     void makeSynthesis();
@@ -110,6 +113,7 @@ private:
     QString descriptionError;
     IPCore::SynthesisHelper *synthesis = nullptr; // child of this dialog, made when it is needed
     std::unique_ptr<GenerationRecord> record;     // of the last generation
+    QStringList prefixNotices;                    // likewise
 };
 
 } // namespace TARVOORIXM1

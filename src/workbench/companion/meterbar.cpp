@@ -2,6 +2,8 @@
 
 #include "tr.h"
 
+#include <synthesis/runreport.h>
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QFontMetrics>
@@ -91,13 +93,14 @@ QString figure(const ResourceReading &reading)
         return Tr::tr("%1 %2").arg(sign).arg(reading.value);
     if (reading.available == 0)
         return Tr::tr("%1 %2 of 0").arg(sign).arg(reading.value);
-    const qint64 percent =
-        (qint64(reading.value) * 200 + reading.available) / (qint64(reading.available) * 2);
+    Synthesis::ResourceUse use; // so that the percentage is that of the results
+    use.used = reading.value;
+    use.available = reading.available;
     return Tr::tr("%1 %2 of %3 (%4 %)")
         .arg(sign)
         .arg(reading.value)
         .arg(reading.available)
-        .arg(percent);
+        .arg(use.percent());
 }
 
 QString verdict(const ResourceReading &reading)

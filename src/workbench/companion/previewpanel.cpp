@@ -37,6 +37,7 @@ constexpr ShownRow states[] = {
     {"remade", "run", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Made by the tool")},
     {"equal", "equal", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Equal")},
     {"stays", "file", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Stays")},
+    {"removed", "close", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Removed")},
 };
 constexpr ShownRow kinds[] = {
     {"option", "edit", QT_TRANSLATE_NOOP("Workbench::PreviewPanel", "Options")},
@@ -99,6 +100,7 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
         label->setTextFormat(Qt::PlainText);
     }
     m_files->setRootIsDecorated(false);
+    m_files->setTextElideMode(Qt::ElideLeft); // the name matters more than the folder
     m_files->header()->setStretchLastSection(false);
     m_files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_files->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -113,6 +115,8 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
     auto *lists = new QSplitter(Qt::Horizontal);
     lists->addWidget(m_files);
     lists->addWidget(m_differences);
+    lists->setStretchFactor(0, 3);
+    lists->setStretchFactor(1, 2);
     auto *all = new QSplitter(Qt::Vertical);
     all->addWidget(lists);
     all->addWidget(lower);
@@ -230,8 +234,8 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
             item->setIcon(1, symbolIcon(QLatin1String(row ? row->icon : "file")));
             const bool isChange =
                 file.state != QLatin1String("equal") && file.state != QLatin1String("stays");
-            changes += isChange;
-            if (isChange && !firstChange && (file.before || file.after))
+            changes += isChange && file.state != QLatin1String("removed");
+            if (isChange && !firstChange && file.after)
                 firstChange = item;
             if (file.path == chosen)
                 next = item;
@@ -282,11 +286,14 @@ void PreviewPanel::showFile()
         return;
     }
     const Answers::PreviewedFile &file = m_preview.files.at(index);
-    m_note->setText(
-        (QStringList{file.path + QLatin1String(": ") + item->text(1) + u'.'} + file.notes)
-            .join(u' '));
+    const QString state = item->text(1) + u'.';
+    QStringList notes = file.notes;
+    notes.removeAll(state);
+    m_note->setText((QStringList{file.path + QLatin1String(": ") + state} + notes).join(u' '));
     const bool isTold = file.before || file.after;
-    if (!isTold || (!file.after && file.state != QLatin1String("stays"))) {
+    const bool isKnown = file.after || file.state == QLatin1String("stays") ||
+                         file.state == QLatin1String("removed");
+    if (!isTold || !isKnown) {
         m_texts->setMessage(file.notes.isEmpty() ? tr("What it will hold is not known.")
                                                  : file.notes.join(u'\n'));
         return;

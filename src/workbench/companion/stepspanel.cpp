@@ -68,15 +68,12 @@ QVariant StepsModel::data(const QModelIndex &index, int role) const
         return row > m_current ? tr("%1 (undone)").arg(text) : text;
     }
     case Qt::FontRole:
-        if (row == m_current) {
+        if (row >= m_current) {
             QFont font = QApplication::font("QAbstractItemView");
-            font.setBold(true);
+            font.setBold(row == m_current);
+            font.setItalic(row > m_current);
             return font;
         }
-        return {};
-    case Qt::ForegroundRole:
-        if (row > m_current)
-            return QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
         return {};
     default:
         return {};

@@ -57,6 +57,14 @@ Tree treeOf(const QString &folder)
     return tree;
 }
 
+Tree filesOf(const QString &folder)
+{
+    Tree files = treeOf(folder);
+    for (auto it = files.begin(); it != files.end();)
+        it = it.key().endsWith(u'/') ? files.erase(it) : it + 1;
+    return files;
+}
+
 QStringList statesOf(const BundleReport &report)
 {
     QStringList states;
@@ -92,13 +100,29 @@ private:
         return {path(), manifestName, files, groups, false};
     }
 
-    // The report of a write that must come to its end.
+    // The report of a write that must come to its end, as it was planned.
     BundleReport written(const Bundle &set) const
     {
+        const Tree before = treeOf(m_dir->path());
+        const auto plan = Utils::planBundle(set);
+        if (!plan || treeOf(m_dir->path()) != before)
+            QTest::qFail(qPrintable(QLatin1String("plan: ") + plan.reason()), __FILE__, __LINE__);
+        Tree planned = filesOf(path());
         const auto report = Utils::writeBundle(set);
         if (!report)
             QTest::qFail(qPrintable(report.reason()), __FILE__, __LINE__);
-        return report ? *report : BundleReport();
+        if (!plan || !report)
+            return {};
+        for (const BundleEntry &entry : plan->report.entries) {
+            if (entry.state == BundleEntry::LeftOver)
+                planned.remove(entry.path);
+        }
+        for (const BundleFile &file : plan->written)
+            planned.insert(file.path, file.bytes);
+        if (filesOf(path()) != planned || statesOf(plan->report) != statesOf(*report) ||
+            plan->report.messages != report->messages)
+            QTest::qFail("the write was planned otherwise", __FILE__, __LINE__);
+        return *report;
     }
 
     BundleReport checked(const Bundle &set) const

@@ -2,7 +2,9 @@
 #include "testsupport.h"
 
 #include <config/ipcfile.h>
+#include <config/nameprefix.h>
 #include <dev/devicedb.h>
+#include <export/prefixednetlist.h>
 #include <generate/record.h>
 #include <preview/preview.h>
 #include <preview/previewforms.h>
@@ -144,6 +146,8 @@ PreviewInput tst_Preview::previewInput(const GenerationInput &input, Tool tool) 
         preview.results = [input](const Origin &) {
             return resultsOf(input, generationPlan(input));
         };
+    preview.prefix = prefixOf(input.options);
+    preview.planSet = Utils::planBundle;
     preview.description = &m_description;
     preview.findDevice = [](const QString &id) { return DEV::DeviceDb::bundled().findDevice(id); };
     return preview;
@@ -194,6 +198,24 @@ void tst_Preview::generate(const PreviewInput &input, Tool tool)
     QCOMPARE(collected.status, 0);
     const GenerationRecord::Run run{results.tool, results.toolVersion, results.report};
     QVERIFY2(record.finish(&run, &error), qPrintable(error));
+    if (input.prefix.isEmpty())
+        return;
+    const auto set = prefixedSet(generation, plan, input.prefix);
+    QVERIFY2(set, qPrintable(set.reason()));
+    // Once in a while by its writer, as above.
+    if (count % 5 == 0) {
+        const auto placed = Utils::writeBundle(*set);
+        QVERIFY2(placed, qPrintable(placed.reason()));
+        return;
+    }
+    const auto planned = Utils::planBundle(*set);
+    QVERIFY2(planned, qPrintable(planned.reason()));
+    for (const Utils::BundleEntry &entry : planned->report.entries) {
+        if (entry.state == Utils::BundleEntry::LeftOver)
+            QVERIFY(QFile::remove(out() + u'/' + entry.path));
+    }
+    for (const Utils::BundleFile &file : planned->written)
+        QVERIFY(TestSupport::write(out() + u'/' + file.path, file.bytes));
 }
 
 // What may happen to a folder between two runs.
@@ -232,7 +254,11 @@ void tst_Preview::saysWhatAGenerationThenWrites()
     TestSupport::Random random(seed);
     const auto devices = DEV::DeviceDb::bundled().devices();
     QStringList story;
-    int seen[PreviewFile::Stays + 1] = {};
+    int seen[PreviewFile::Removed + 1] = {};
+    int seenWithPrefix[PreviewFile::Removed + 1] = {};
+    const QStringList prefixes = {QString(), QString(), QStringLiteral("a_"),
+                                  QStringLiteral("B1_")};
+    QString prefix;
     OptionMap options;
     QString device = devices.first().id();
     for (int round = 0; round < 1000; ++round) {
@@ -245,6 +271,10 @@ void tst_Preview::saysWhatAGenerationThenWrites()
             device = next.id();
             options = TestSupport::drawnOptions(next, random);
             options.insert(Key::lang, below(3, random) == 0 ? 1 : 0);
+            if (below(3, random) == 0)
+                prefix = prefixes.at(below(prefixes.size(), random));
+            if (!prefix.isEmpty())
+                options.insert(Key::namePrefix, prefix);
             story.append(QStringLiteral("other options"));
         }
         for (int edits = below(3, random); edits > 0; --edits)
@@ -275,6 +305,8 @@ void tst_Preview::saysWhatAGenerationThenWrites()
                 return tell(file.path + u' ' + stateName(file.state) + QLatin1String(what));
             };
             ++seen[file.state];
+            if (!prefix.isEmpty() && file.path.startsWith(prefix))
+                ++seenWithPrefix[file.state];
             QVERIFY2(!listed.contains(file.path), fail(" twice").constData());
             listed.insert(file.path);
             QVERIFY2((file.sizeBefore >= 0) == before.contains(file.path),
@@ -283,6 +315,11 @@ void tst_Preview::saysWhatAGenerationThenWrites()
                 QVERIFY2(*file.before == before[file.path], fail(" other before").constData());
             const bool isSame = before.contains(file.path) == after.contains(file.path) &&
                                 before.value(file.path) == after.value(file.path);
+            if (file.state == PreviewFile::Removed) {
+                QVERIFY2(!file.after && before.contains(file.path), fail("").constData());
+                QVERIFY2(tool == Failing || !after.contains(file.path), fail("").constData());
+                continue;
+            }
             if (file.isTools) {
                 QVERIFY2(tool == Open || tool == Failing, fail(" is known").constData());
                 QVERIFY2(!file.after, fail(" has contents").constData());
@@ -316,6 +353,8 @@ void tst_Preview::saysWhatAGenerationThenWrites()
             case PreviewFile::Remade:
                 QVERIFY2(file.isTools, fail("").constData());
                 break;
+            case PreviewFile::Removed:
+                break;
             }
         }
         // Nothing else has changed, but for what the tool's results displace.
@@ -326,8 +365,11 @@ void tst_Preview::saysWhatAGenerationThenWrites()
             QVERIFY2(!isUntold || (before.contains(it.key()) && before[it.key()] == it.value()),
                      tell(it.key() + QLatin1String(" was not told")).constData());
         }
-        for (auto it = before.begin(); it != before.end(); ++it)
-            QVERIFY2(after.contains(it.key()), tell(it.key() + QLatin1String(" is gone")));
+        for (auto it = before.begin(); it != before.end(); ++it) {
+            const PreviewFile *file = find(preview, it.key().toUtf8().constData());
+            QVERIFY2(after.contains(it.key()) || (file && file->state == PreviewFile::Removed),
+                     tell(it.key() + QLatin1String(" is gone")));
+        }
         // Once everything is recorded, the same run again would change nothing.
         if (tool != Known)
             continue;
@@ -336,6 +378,8 @@ void tst_Preview::saysWhatAGenerationThenWrites()
     }
     for (const int count : seen)
         QVERIFY(count > 20);
+    for (const int count : seenWithPrefix)
+        QVERIFY(count > 10);
 }
 
 const PreviewFile *tst_Preview::find(const Preview &preview, const char *path)

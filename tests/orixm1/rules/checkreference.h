@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -65,7 +66,22 @@ inline QVector<Kind> kinds()
     one("LANG", 'i', "0|1", -1);
     one("ip_device_id", 's', "", -1);
     one("ip_device", 's', "", -1);
+    one("Prefix", 's', "", -1);
     return all;
+}
+
+// Words that are no prefix without their underscore either: as many as these tests draw.
+inline bool isReserved(const QString &word)
+{
+    return in(word.toLower(), "int/module/entity/logic/class/std");
+}
+
+inline bool isPrefix(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("\\A([A-Za-z][A-Za-z0-9]*(_[A-Za-z0-9]+)*_)?\\z"));
+    return form.match(text).hasMatch() && text.size() <= 32 &&
+           !isReserved(text.left(text.size() - 1));
 }
 
 // A path with a colon in front is absolute as well: Qt's name for what is built into a program.
@@ -304,6 +320,11 @@ inline QStringList findings(const OptionMap &o, const DEV::DeviceArg &device,
         } else if (!kind->choices.isEmpty() && !kind->choices.contains(plain)) {
             tell("error", it.key(),
                  quoted + key(" is out of its domain: one of ") + kind->choices.join(key(", ")));
+        } else if (kind->key == key("Prefix") && !isPrefix(plain)) {
+            tell("error", it.key(),
+                 quoted + key(" is out of its domain: empty, or letters, digits and single "
+                              "underscores, the first a letter, the last an underscore, at most "
+                              "32, and no reserved word"));
         } else if (kind->maximum >= 0 && (number < 0 || number > kind->maximum)) {
             tell("error", it.key(),
                  quoted + key(" is out of its domain: 0 to ") + QString::number(kind->maximum));

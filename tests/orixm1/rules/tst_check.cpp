@@ -94,6 +94,11 @@ OptionMap doubtfulOptions(const QStringList &folders)
     put(Key::ethernetInputDelay, {-1, 0, 127, 128, 255, 256});
     put(Key::ethernetClockDivider, {-1, 0, 255, 256});
     put(Key::lang, {-1, 0, 1, 2});
+    put(Key::namePrefix,
+        {QString(), QStringLiteral("a_"), QStringLiteral("Cpu0_b_"), QStringLiteral("_"),
+         QStringLiteral("0_"), QStringLiteral("a__"), QStringLiteral("a"), QStringLiteral("int_"),
+         QStringLiteral("Entity_"), QStringLiteral("a_\n"), QStringLiteral("é_"),
+         QString(QString(31, u'x') + u'_'), QString(QString(32, u'x') + u'_'), Arbitrary::text()});
     const QVariantList mixed = {
         QStringLiteral("TRUE"), QStringLiteral("False"),
         QStringLiteral("no"),   QString(),

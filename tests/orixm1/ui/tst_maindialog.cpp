@@ -150,6 +150,10 @@ private Q_SLOTS:
     void aFailedRunKeepsTheInitialisationFolder();
     void tellsTheHostWhereEditedFilesAre();
     void anEditedFileThatCannotBeReadStopsBeforeTheRun();
+    void placesASecondSetUnderAPrefix_data();
+    void placesASecondSetUnderAPrefix();
+    void aSecondSetThatCannotBePlacedIsToldAndTheRunCounts_data();
+    void aSecondSetThatCannotBePlacedIsToldAndTheRunCounts();
 
 private:
     std::unique_ptr<TarvoOrixM1Dlg> newDialog(const char *device = "TV2KR-18C-QFN88P-C8/I7");
@@ -1237,6 +1241,109 @@ void tst_MainDialog::anEditedFileThatCannotBeReadStopsBeforeTheRun()
     QCOMPARE(TestSupport::contentsOf(manifest), before);
     QCOMPARE(dialog->currentOptions().value(Key::createInPath).toString(), folder);
     QVERIFY(!dialog->findChild<IPCore::SynthesisHelper *>()->isRunning());
+}
+
+namespace
+{
+
+QByteArray withPrefix(const QByteArray &prefix, int language)
+{
+    return "[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\ntype=x\nversion=1.0\n[Config]\n"
+           "LANG=" +
+           QByteArray::number(language) + "\nPrefix=" + prefix + '\n';
+}
+
+} // namespace
+
+void tst_MainDialog::placesASecondSetUnderAPrefix_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::newRow("Verilog") << 0;
+    QTest::newRow("VHDL") << 1;
+}
+
+void tst_MainDialog::placesASecondSetUnderAPrefix()
+{
+    QFETCH(int, language);
+    const auto dialog = opened(withPrefix("left_", language));
+    QSignalSpy noticed(&IPCore::SynthesisMonitor::instance(), &IPCore::SynthesisMonitor::noticed);
+    const QString folder = m_dir->path();
+    const QString suffix = language == 0 ? QStringLiteral("v") : QStringLiteral("vhd");
+    const QString mine = folder + QLatin1String("/left_tarvo_orix_m1.") + suffix;
+    QVERIFY(TestSupport::write(mine, "mine\n"));
+    runToTheEnd(*dialog);
+    QCOMPARE(dialog->result(), int(QDialog::Accepted));
+    // What stood there is kept, and that is told.
+    QCOMPARE(TestSupport::contentsOf(mine + QLatin1String(".edited")), QByteArray("mine\n"));
+    QCOMPARE(noticed.size(), 1);
+    QVERIFY2(noticed.first().first().toStringList().join(u'|').contains(
+                 QString(QFileInfo(mine).fileName() + QLatin1String(".edited"))),
+             qPrintable(noticed.first().first().toStringList().join(u'|')));
+    QVERIFY(QFile::remove(mine + QLatin1String(".edited")));
+    // The project has the usual netlist alone, and the configuration keeps its prefix.
+    const QString netlist = folder + QLatin1String("/tarvo_orix_m1.") + suffix;
+    QCOMPARE(m_host->added, QList<QStringList>{QStringList{netlist}});
+    const QString ipc = folder + QLatin1String("/tarvo_orix_m1.ipc");
+    QVERIFY(TestSupport::contentsOf(ipc).contains("\nPrefix=left_\n"));
+
+    // The same as of the command line, byte for byte.
+    const QTemporaryDir other;
+    const QTemporaryDir cache;
+    QProcess command;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CACHE_HOME"), cache.path());
+    command.setProcessEnvironment(environment);
+    command.start(QStringLiteral(TARVO_COMMAND),
+                  {QStringLiteral("generate"), ipc, QStringLiteral("--out"), other.path()});
+    QVERIFY(command.waitForFinished(runTimeout));
+    QVERIFY2(command.exitCode() == 0, command.readAllStandardError().constData());
+    const QStringList names =
+        QDir(other.path()).entryList({QStringLiteral("left_*")}, QDir::Files, QDir::Name);
+    QCOMPARE(names.size(), language == 0 ? 4 : 5);
+    QCOMPARE(QDir(folder).entryList({QStringLiteral("left_*")}, QDir::Files, QDir::Name), names);
+    for (const QString &name : names) {
+        const QByteArray bytes = TestSupport::contentsOf(folder + u'/' + name);
+        QVERIFY2(!bytes.isEmpty() && bytes == TestSupport::contentsOf(other.filePath(name)),
+                 qPrintable(name));
+    }
+}
+
+void tst_MainDialog::aSecondSetThatCannotBePlacedIsToldAndTheRunCounts_data()
+{
+    QTest::addColumn<QByteArray>("prefix");
+    QTest::addColumn<QString>("blocked"); // a folder that stands where a file would
+    QTest::addColumn<QString>("notice");  // a part of it
+    QTest::newRow("a folder is in the way")
+        << QByteArray("left_") << QStringLiteral("left_tarvo_orix_m1.vo")
+        << QStringLiteral("The files with the prefix \"left_\" were not written: ");
+    QTest::newRow("no prefix") << QByteArray("int_") << QString()
+                               << QStringLiteral("\"int_\" cannot be the prefix of names: ");
+}
+
+void tst_MainDialog::aSecondSetThatCannotBePlacedIsToldAndTheRunCounts()
+{
+    QFETCH(QByteArray, prefix);
+    QFETCH(QString, blocked);
+    QFETCH(QString, notice);
+    const auto dialog = opened(withPrefix(prefix, 0));
+    QSignalSpy noticed(&IPCore::SynthesisMonitor::instance(), &IPCore::SynthesisMonitor::noticed);
+    const QString folder = m_dir->path();
+    if (!blocked.isEmpty())
+        QVERIFY(QDir().mkpath(folder + u'/' + blocked));
+    runToTheEnd(*dialog);
+    QCOMPARE(dialog->result(), int(QDialog::Accepted));
+    QCOMPARE(noticed.size(), 1);
+    const QStringList notices = noticed.first().first().toStringList();
+    QCOMPARE(notices.size(), 1);
+    QVERIFY2(notices.first().startsWith(notice), qPrintable(notices.first()));
+    QCOMPARE(m_host->added,
+             QList<QStringList>{QStringList{folder + QLatin1String("/tarvo_orix_m1.v")}});
+    QStringList left;
+    if (!blocked.isEmpty())
+        left.append(blocked);
+    QCOMPARE(QDir(folder).entryList({QString::fromLatin1(prefix) + u'*'},
+                                    QDir::AllEntries | QDir::NoDotAndDotDot),
+             left);
 }
 
 TARVO_TEST_MAIN(QApplication, tst_MainDialog)
