@@ -67,6 +67,16 @@ private:
     TestSupport::Mark m_mark;
 };
 
+// The arguments of a simulation. Verilator builds the rules of the buses as long as the rest; they
+// have tests of their own.
+inline QStringList simulation(const QStringList &arguments)
+{
+    QStringList all{QStringLiteral("simulate")};
+    if (arguments.contains(QStringLiteral("verilator")))
+        all.append(QStringLiteral("--no-checks"));
+    return all + arguments;
+}
+
 // A configuration to which options can be added.
 inline const QByteArray plain("[General]\ntarget_device=TV2KR-18C-QFN88P-C8/I7\n"
                               "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n");

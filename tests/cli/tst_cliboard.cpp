@@ -442,8 +442,7 @@ private:
     {
         QProcess process;
         process.setWorkingDirectory(m_dir->path());
-        process.start(QStringLiteral(TARVO_COMMAND),
-                      QStringList{QStringLiteral("simulate")} + arguments);
+        process.start(QStringLiteral(TARVO_COMMAND), simulation(arguments));
         return SimulateProcess::finish(process);
     }
 

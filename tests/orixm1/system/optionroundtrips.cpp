@@ -60,6 +60,11 @@ QString drawnText(const Option &option, Lot &lot)
         return option.choices.at(lot.below(option.choices.size()));
     if (option.type == OptionType::Int)
         return QString::number(option.minimum + lot.below(option.maximum - option.minimum + 1));
+    if (option.key == Key::namePrefix) {
+        static const QStringList prefixes = {QString(), QStringLiteral("cpu0_"),
+                                             QStringLiteral("a_b_")};
+        return prefixes.at(lot.below(prefixes.size()));
+    }
     static const QStringList texts = {QString(), QStringLiteral("fw"), QStringLiteral("a, b; c=d"),
                                       QStringLiteral("/srv/fw \u00fc\u2026\\\"%20\"")};
     return texts.at(lot.below(texts.size()));
