@@ -11,6 +11,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace TARVOORIXM1
@@ -194,7 +195,12 @@ bool GenerationRecord::finish(const Run *run, QString *error)
     if (!run) {
         if (m_before)
             manifest.synthesis = m_before->synthesis;
-        manifest.pendingFiles = standing(m_left);
+        // The include files are all replaced.
+        const QVector<DigestedFile> left = standing(m_left);
+        std::copy_if(left.begin(), left.end(), std::back_inserter(manifest.pendingFiles),
+                     [&manifest](const DigestedFile &file) {
+                         return !manifest.includeFiles.contains(file);
+                     });
         return write(manifest, error);
     }
     SynthesisRecord record;

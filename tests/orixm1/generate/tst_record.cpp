@@ -176,6 +176,11 @@ void tst_Record::tellsTheTruthWhereverRunsEnd()
             };
             const GenerationState state = generationState(next, plan, tool, sha256, false);
             QVERIFY2(state.manifest, tell(state.messages.join(u' ')));
+            // All include files are those of a run that has ended.
+            for (const DigestedFile &file : state.manifest->pendingFiles)
+                QVERIFY2(!state.manifest->isFinished ||
+                             !state.manifest->includeFiles.contains(file),
+                         tell(file.name));
             for (const FileState &file : state.files) {
                 ++states[file.state];
                 if (file.state == FileState::Edited)

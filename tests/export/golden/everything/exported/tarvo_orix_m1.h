@@ -950,9 +950,10 @@ TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_UART_Type, sizeof(UART_Type) == 0x100
 
 /* RTC: Real-time clock: counts seconds of an external clock, which is sampled with PCLK and
  * must be slower than PCLK / 4. Time, calibration, alarm and flags go on through every reset
- * but power-on; a system reset clears the bits that enable interrupts, TICK, and what
- * SUBSECOND holds. Bytes and halfwords: any write to SECONDS begins a second, and any write to
- * ALARM sets the alarm, with the whole of the register. Set the time with whole words. */
+ * but that of the pin hwRstn, which power-on is; a system reset clears the bits that enable
+ * interrupts, TICK, and what SUBSECOND holds. Bytes and halfwords: any write to SECONDS begins
+ * a second, and any write to ALARM sets the alarm, with the whole of the register. Set the
+ * time with whole words. */
 #define RTC_BASE                                 0x50006000u /* time of day and alarm */
 
 /* Time. Reading it also takes the sub-second that belongs to it to SUBSECOND. Writing it also
@@ -1052,7 +1053,7 @@ TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_UART_Type, sizeof(UART_Type) == 0x100
 /* State. */
 #define RTC_STATUS_OFFSET                        0x28u
 #define RTC_STATUS_RESET                         0x00000000u
-#define RTC_STATUS_SET_Pos                       0u /* SECONDS was written since power-on */
+#define RTC_STATUS_SET_Pos                       0u /* SECONDS was written since hwRstn was low */
 #define RTC_STATUS_SET_Msk                       0x00000001u
 #define RTC_STATUS_SET_NO                        0u /* the time means nothing */
 #define RTC_STATUS_SET_YES                       1u /* the time was set */

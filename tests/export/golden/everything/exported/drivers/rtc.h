@@ -1,6 +1,6 @@
 /*
  * Real-time clock: counts seconds of an external clock, which must be slower than a quarter of the
- * bus clock. Time, calibration and alarm go on through every reset but power-on; interrupts and
+ * bus clock. Time, calibration and alarm go on through every reset but hwRstn's; interrupts and
  * ticks are off after each.
  *
  * Times are in seconds, 32 bits, from a beginning that the program chooses. A time lies ahead of
@@ -30,8 +30,8 @@ bool rtc_start(RTC_Type *rtc, uint32_t source_hz);
 /* Stops the clock and switches interrupts off; the time stays. */
 void rtc_stop(RTC_Type *rtc);
 
-/* Whether the time was set since power-on, by any of the functions here: a program that begins
- * again after a reset then need not. */
+/* Whether the time was set since hwRstn was low, by any of the functions here: a program that
+ * begins again after a reset then need not. */
 bool rtc_is_set(const RTC_Type *rtc);
 
 /* Sets the time; a whole second passes before the next one. An alarm that is set stays. */
