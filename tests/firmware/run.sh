@@ -53,7 +53,7 @@ compile() { # FOLDER: the program from the files of an export
 }
 
 play() { # ARGUMENT…: prints what the simulation prints
-    timeout 100 vvp -n -M "$modules" -m cortexm1core board "$@"
+    timeout 400 vvp -n -M "$modules" -m cortexm1core board "$@"
 }
 
 memories() { # the kinds of memory in the last simulation
