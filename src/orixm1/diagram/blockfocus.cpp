@@ -56,6 +56,13 @@ bool BlockFocus::step(bool next)
     return m_block;
 }
 
+void BlockFocus::goOn()
+{
+    const QList<IPItem *> blocks = reachable();
+    if (IPItem *next = blocks.value(blocks.indexOf(m_block) + 1))
+        set(next);
+}
+
 void BlockFocus::enter(bool atStart)
 {
     const QList<IPItem *> blocks = reachable();

@@ -34,6 +34,8 @@ public:
     void set(IPItem *block);
     // From block to block among those that can be clicked; false, and none, at the end.
     bool step(bool next);
+    // The next one, or that which it is at the end.
+    void goOn();
     // To the first of them, or the last.
     void enter(bool atStart);
 

@@ -215,47 +215,92 @@ void IPView::open(QLatin1String dialog)
         Q_EMIT optionsChanged();
 }
 
-void IPView::toggle(IPItem *item)
+bool IPView::toggle(IPItem *item)
 {
     const Block *block = blockOfBox(item->text());
     const int index = block ? switchOfBox(*block, item->text()) : -1;
     if (index >= 0)
-        switchIn(item, {index}, Switching::Toggle);
-    else if (block)
-        say(tr("%1 has a switch for each port: its dialog switches one, its menu all of them.")
+        return switchIn(item, {index}, Switching::Toggle);
+    if (block)
+        say(tr("%1 has a switch for each port: its dialog switches one, + and - all of them.")
                 .arg(item->text()),
             item);
     else
         say(tr("%1 cannot be switched off.").arg(item->text()), item);
+    return false;
 }
 
-void IPView::switchPorts(IPItem *item, Switching switching)
+bool IPView::switchPorts(IPItem *item, Switching switching)
 {
     const Block *block = blockOfBox(item->text());
     QVector<int> all;
     for (int i = 0; block && i < block->switches.size(); ++i)
         all.append(i);
-    if (!all.isEmpty())
-        switchIn(item, all, switching);
+    return !all.isEmpty() && switchIn(item, all, switching);
 }
 
-void IPView::switchIn(const IPItem *item, const QVector<int> &switches, Switching switching)
+bool IPView::switchIn(const IPItem *item, const QVector<int> &switches, Switching switching)
 {
     const Block &block = *blockOfBox(item->text());
     if (!switchInBlockDialog(block.dialog, switches, switching, m_options, this)) {
         say(tr("%1 cannot be switched on: %2 cannot have it.")
                 .arg(item->text(), textOf(*m_options, Key::ipDevice)),
             item);
-        return;
+        return false;
     }
     updateView();
-    if (!m_focus.hasState(m_blockByLabel.value(item->text()))) {
-        const bool on = isOn(*m_options, block.switches[switches.first()].key());
-        say(on ? tr("%1 is switched on.").arg(item->text())
-               : tr("%1 is switched off.").arg(item->text()),
-            item);
-    }
+    if (!m_focus.hasState(m_blockByLabel.value(item->text())))
+        sayState(item, isOn(*m_options, block.switches[switches.first()].key()));
     Q_EMIT optionsChanged();
+    return true;
+}
+
+// What was switched is no longer in focus then, so it is said.
+void IPView::toggleAndGoOn()
+{
+    IPItem *item = m_focus.block();
+    if (!toggle(item))
+        return;
+    const Block *block = blockOfBox(item->text());
+    m_focus.goOn();
+    sayState(item, isOn(*m_options, block->switches[switchOfBox(*block, item->text())].key()));
+}
+
+void IPView::switchFocused(Switching switching)
+{
+    IPItem *item = m_focus.block();
+    const Block *block = blockOfBox(item->text());
+    if (!block) {
+        say(tr("%1 cannot be switched off.").arg(item->text()), item);
+        return;
+    }
+    const int index = switchOfBox(*block, item->text());
+    const bool on = switching == Switching::On;
+    bool isSo = true;
+    for (int i = 0; i < block->switches.size(); ++i) {
+        if (block->hasPorts() || i == index)
+            isSo = isSo && isShownOn(*block, i) == on &&
+                   isOn(*m_options, block->switches[i].key()) == on;
+    }
+    if (isSo)
+        sayState(item, on);
+    else if (block->hasPorts())
+        switchPorts(item, switching);
+    else if (index >= 0)
+        switchIn(item, {index}, switching);
+}
+
+bool IPView::isShownOn(const Block &block, int index) const
+{
+    return dialogValue(*m_options, block.switches[index].key(), textOf(*m_options, Key::ipDevice))
+        .toBool();
+}
+
+void IPView::sayState(const IPItem *item, bool isOn)
+{
+    say(isOn ? tr("%1 is switched on.").arg(item->text())
+             : tr("%1 is switched off.").arg(item->text()),
+        item);
 }
 
 void IPView::say(const QString &text, const IPItem *about)
@@ -274,26 +319,22 @@ void IPView::addBlockActions(QMenu *menu, IPItem *item)
     connect(open, &QAction::triggered, item, &IPItem::doubleClicked);
     const Block *block = blockOfBox(item->text());
     const int index = block ? switchOfBox(*block, item->text()) : -1;
-    const QString device = textOf(*m_options, Key::ipDevice);
-    const auto shownOn = [this, block, &device](int i) {
-        return dialogValue(*m_options, block->switches[i].key(), device).toBool();
-    };
     if (block && block->hasPorts()) {
         int on = 0;
         for (int i = 0; i < block->switches.size(); ++i)
-            on += shownOn(i) ? 1 : 0;
-        QAction *all = menu->addAction(tr("Switch All Ports On"));
+            on += isShownOn(*block, i) ? 1 : 0;
+        QAction *all = menu->addAction(tr("Switch All Ports On") + "\t+"_l1);
         all->setEnabled(on < block->switches.size());
         connect(all, &QAction::triggered, this, [this, item] { switchPorts(item, Switching::On); });
-        QAction *none = menu->addAction(tr("Switch All Ports Off"));
+        QAction *none = menu->addAction(tr("Switch All Ports Off") + "\t-"_l1);
         none->setEnabled(on > 0);
         connect(none, &QAction::triggered, this,
                 [this, item] { switchPorts(item, Switching::Off); });
         return;
     }
-    const bool isShownOn = index >= 0 && shownOn(index);
+    const bool isOn = index >= 0 && isShownOn(*block, index);
     QAction *toggled =
-        menu->addAction((isShownOn ? tr("Switch %1 Off") : tr("Switch %1 On")).arg(item->text()) +
+        menu->addAction((isOn ? tr("Switch %1 Off") : tr("Switch %1 On")).arg(item->text()) +
                         (index >= 0 ? "\tSpace"_l1 : ""_l1));
     toggled->setEnabled(index >= 0);
     connect(toggled, &QAction::triggered, this, [this, item] { toggle(item); });
@@ -663,11 +704,20 @@ void IPView::keyPressEvent(QKeyEvent *event)
     }
     if (!m_notice.isEmpty())
         say(QString(), nullptr);
-    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
-        if (m_focus.block())
-            toggle(m_focus.block());
-        else
+    // "+" may need Shift, or be on the keypad.
+    const Qt::KeyboardModifiers further = event->modifiers() & ~Qt::KeypadModifier;
+    const bool isSwitch = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus;
+    const bool isShifted = further == Qt::ShiftModifier;
+    if ((event->key() == Qt::Key_Space || isSwitch) &&
+        (further == Qt::NoModifier || (isShifted && event->key() != Qt::Key_Minus))) {
+        if (!m_focus.block())
             event->ignore();
+        else if (isSwitch)
+            switchFocused(event->key() == Qt::Key_Plus ? Switching::On : Switching::Off);
+        else if (isShifted)
+            toggleAndGoOn();
+        else
+            toggle(m_focus.block());
         return;
     }
     // Those of the actions come here where no window is active.

@@ -25,7 +25,8 @@ struct Block;
 struct FindIndex;
 
 // The picture of the subsystem: a double-click on a block, or Enter on the one that Tab has
-// focused, opens the block's dialog; Space, or the context menu, switches the block without it.
+// focused, opens the block's dialog; Space, or the context menu, switches the block without it,
+// Shift+Space goes on to the next one then, + and - switch it, or all its ports, on and off.
 // Works on the caller's option map, which must outlive it.
 class IPView : public QGraphicsView
 {
@@ -142,10 +143,16 @@ private:
     // Of the class `dialog`.
     void open(QLatin1String dialog);
 
-    // Switches the block that the box stands for, or says why not.
-    void toggle(IPItem *item);
-    void switchPorts(IPItem *item, Switching switching);
-    void switchIn(const IPItem *item, const QVector<int> &switches, Switching switching);
+    // Switch the block that the box stands for; false, and it is said why, where that cannot be.
+    bool toggle(IPItem *item);
+    bool switchPorts(IPItem *item, Switching switching);
+    bool switchIn(const IPItem *item, const QVector<int> &switches, Switching switching);
+    void toggleAndGoOn();
+    // On or off, with all its ports; nothing where it is so.
+    void switchFocused(Switching switching);
+    // What its dialog would show of a switch.
+    bool isShownOn(const Block &block, int index) const;
+    void sayState(const IPItem *item, bool isOn);
     void addBlockActions(QMenu *menu, IPItem *item);
     // Tells people and assistive tools something about the block.
     void say(const QString &text, const IPItem *about);

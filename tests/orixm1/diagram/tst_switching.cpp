@@ -118,6 +118,7 @@ public:
         QCOMPARE(focusedBlock()->text(), label);
     }
     void space() { QTest::keyClick(this, Qt::Key_Space); }
+    void spaceAndOn() { QTest::keyClick(this, Qt::Key_Space, Qt::ShiftModifier); }
 
     // The context menu, by the keyboard or with the mouse.
     QMenu *menu(QContextMenuEvent::Reason reason = QContextMenuEvent::Keyboard,
@@ -168,6 +169,9 @@ private Q_SLOTS:
     void portsGoOnAndOffTogether_data();
     void portsGoOnAndOffTogether();
     void sixBlocksTakeSixKeys();
+    void theLastBlockKeepsTheFocus();
+    void plusAndMinusAreOnAndOff_data();
+    void plusAndMinusAreOnAndOff();
     void whatCannotBeSwitchedSaysWhy();
     void theMenuOffersWhatTheBlockCan();
     void theMenuIsThatOfTheBlockUnderTheMouse();
@@ -288,24 +292,105 @@ void tst_Switching::portsGoOnAndOffTogether()
     }
 }
 
+// From the first of them on, nothing else is pressed.
 void tst_Switching::sixBlocksTakeSixKeys()
 {
     OptionMap map;
     View view(&map);
+    view.focusFromStart(QStringLiteral("UART0"));
     const QSignalSpy changes(&view, &IPView::optionsChanged);
-    int keys = 0;
-    for (const char *label : {"GPIO", "UART0", "UART1", "Timer0", "I2C", "SPI"}) {
-        view.focus(QString::fromLatin1(label));
-        QCOMPARE(view.focusedBlock()->text(), QLatin1String(label));
-        view.space();
-        ++keys;
-        QVERIFY(view.focusedBlock()->isActive());
-        QCOMPARE(view.accessibleName(), QLatin1String(label) + QLatin1String(", switched on"));
+    const QStringList labels = {QStringLiteral("UART0"),     QStringLiteral("UART1"),
+                                QStringLiteral("Timer0"),    QStringLiteral("Timer1"),
+                                QStringLiteral("Watch Dog"), QStringLiteral("RTC")};
+    for (const QString &label : labels) {
+        QCOMPARE(view.focusedBlock()->text(), label);
+        view.spaceAndOn();
+        // What was switched is told, though the focus has gone on.
+        QVERIFY(view.block(label)->isActive());
+        QCOMPARE(view.notice(), label + QStringLiteral(" is switched on."));
+        QCOMPARE(view.accessibleDescription(), view.notice());
     }
-    QCOMPARE(keys, 6);
     QCOMPARE(changes.count(), 6);
+    QCOMPARE(view.accessibleName(), QStringLiteral("TRNG, switched off"));
+    // Space stays.
     view.space();
-    QCOMPARE(view.accessibleName(), QStringLiteral("SPI, switched off"));
+    QCOMPARE(view.accessibleName(), QStringLiteral("TRNG, switched on"));
+    // As much is stored as with Space.
+    OptionMap other;
+    View slow(&other);
+    for (const QString &label : labels) {
+        slow.focusFromStart(label);
+        slow.space();
+    }
+    map.remove(Key::enableTrng);
+    QCOMPARE(exactly(map), exactly(other));
+}
+
+void tst_Switching::theLastBlockKeepsTheFocus()
+{
+    OptionMap map;
+    View view(&map);
+    view.focusFromStart(QStringLiteral("SD-Card"));
+    view.spaceAndOn();
+    QVERIFY(map.value(Key::enableSdCard).toBool());
+    // Where a block has no switch of its own, it is said why, and the focus stays.
+    QCOMPARE(view.focusedBlock()->text(), QStringLiteral("APB Master [1-16]"));
+    const OptionMap before = map;
+    view.spaceAndOn();
+    QCOMPARE(view.focusedBlock()->text(), QStringLiteral("APB Master [1-16]"));
+    QVERIFY(view.notice().contains(QLatin1String("+ and -")));
+    QCOMPARE(map, before);
+    view.focusFromStart(QStringLiteral("Cortex-M1"));
+    view.spaceAndOn();
+    QCOMPARE(view.focusedBlock()->text(), QStringLiteral("Cortex-M1"));
+    QCOMPARE(view.notice(), QStringLiteral("Cortex-M1 cannot be switched off."));
+}
+
+void tst_Switching::plusAndMinusAreOnAndOff_data()
+{
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("a block") << "CAN" << QString(Key::enableCan) << QString(Key::enableCan);
+    QTest::newRow("one of two in a dialog")
+        << "UART1" << QString(Key::enableUart1) << QString(Key::enableUart1);
+    QTest::newRow("all AHB ports") << "AHB Master [1-6]"
+                                   << "Enable_AHB_Master1"
+                                   << "Enable_AHB_Master6";
+    QTest::newRow("all APB ports") << "APB Master [1-16]"
+                                   << "Enable_APB_Master1"
+                                   << "Enable_APB_Master16";
+}
+
+void tst_Switching::plusAndMinusAreOnAndOff()
+{
+    QFETCH(QString, label);
+    QFETCH(QString, first);
+    QFETCH(QString, last);
+    OptionMap map;
+    View view(&map);
+    view.focusFromStart(label);
+    const QSignalSpy changes(&view, &IPView::optionsChanged);
+    QTest::keyClick(&view, Qt::Key_Plus);
+    QVERIFY(map.value(first).toBool() && map.value(last).toBool());
+    QVERIFY(view.focusedBlock()->isActive());
+    const OptionMap on = map;
+    QTest::keyClick(&view, Qt::Key_Plus, Qt::ShiftModifier); // as some keyboards have it
+    QCOMPARE(exactly(map), exactly(on));
+    QCOMPARE(changes.count(), 1); // it is so already: no step
+    QCOMPARE(view.notice(), label + QStringLiteral(" is switched on."));
+    // One port less is not all of them.
+    map.insert(last, false);
+    view.updateView();
+    QTest::keyClick(&view, Qt::Key_Plus, Qt::KeypadModifier);
+    QCOMPARE(exactly(map), exactly(on));
+    QTest::keyClick(&view, Qt::Key_Minus);
+    QVERIFY(!map.value(first).toBool() && !map.value(last).toBool());
+    QVERIFY(!view.focusedBlock()->isActive());
+    QCOMPARE(changes.count(), 3);
+    QTest::keyClick(&view, Qt::Key_Minus, Qt::KeypadModifier);
+    QCOMPARE(changes.count(), 3);
+    QCOMPARE(view.focusedBlock()->text(), label);
 }
 
 void tst_Switching::whatCannotBeSwitchedSaysWhy()
