@@ -84,6 +84,7 @@ private Q_SLOTS:
     void tellsWhyThereAreNoMaps();
     void saysTheSameAsTheCommandLineOfWhatWouldBeGenerated_data();
     void saysTheSameAsTheCommandLineOfWhatWouldBeGenerated();
+    void thePreviewTellsOfAPrefixThatCannotBe();
     void whatItSaysIsWhatOkThenWrites();
     void saysWhyOkWouldWriteNothing();
     void needsNoLibraryThatAHostMayLack();
@@ -1230,15 +1231,21 @@ void tst_Plugin::saysTheSameAsTheCommandLineOfWhatWouldBeGenerated_data()
 {
     QTest::addColumn<bool>("isMade");
     QTest::addColumn<bool>("isEdited");
-    QTest::newRow("nothing has been generated") << false << false;
-    QTest::newRow("something else has been generated") << true << false;
-    QTest::newRow("and edited") << true << true;
+    QTest::addColumn<QString>("prefix");
+    QTest::newRow("nothing has been generated") << false << false << QString();
+    QTest::newRow("something else has been generated") << true << false << QString();
+    QTest::newRow("and edited") << true << true << QString();
+    QTest::newRow("nothing has been generated, with a prefix")
+        << false << false << QStringLiteral("left_");
+    QTest::newRow("something else has been generated, with a prefix")
+        << true << false << QStringLiteral("left_");
 }
 
 void tst_Plugin::saysTheSameAsTheCommandLineOfWhatWouldBeGenerated()
 {
     QFETCH(bool, isMade);
     QFETCH(bool, isEdited);
+    QFETCH(QString, prefix);
     QTemporaryDir dir;
     const QString file = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
     const auto command = [](const QStringList &arguments, QByteArray *out = nullptr) {
@@ -1259,11 +1266,16 @@ void tst_Plugin::saysTheSameAsTheCommandLineOfWhatWouldBeGenerated()
         QVERIFY(TestSupport::write(dir.filePath(QStringLiteral("temp/tv_orix_m1/parameter.vh")),
                                    "// mine\n"));
     QCOMPARE(command({QStringLiteral("set"), file, QStringLiteral("Enable GPIO=true")}), 0);
+    if (!prefix.isEmpty())
+        QCOMPARE(command({QStringLiteral("set"), file, QStringLiteral("Prefix=") + prefix}), 0);
     QByteArray told;
     QCOMPARE(command({QStringLiteral("generate"), file, QStringLiteral("--dry-run"),
                       QStringLiteral("--diff"), QStringLiteral("--no-cache")},
                      &told),
              1);
+    // Beside what there is without one, or why not.
+    const bool isNamed = told.contains("left_tarvo_orix_m1.v");
+    QCOMPARE(isNamed, prefix == QLatin1String("left_"));
 
     QSettings settings(file, QSettings::IniFormat);
     TARVOORIXM1::OptionMap options;
@@ -1331,6 +1343,36 @@ void tst_Plugin::whatItSaysIsWhatOkThenWrites()
     }
     QVERIFY(told > 20);
     QCOMPARE(TestSupport::contentsOf(include + QStringLiteral(".edited")), QByteArray("// mine"));
+}
+
+void tst_Plugin::thePreviewTellsOfAPrefixThatCannotBe()
+{
+    QTemporaryDir dir;
+    const auto notesFor = [&](const char *prefix) {
+        const QVariantMap answer = previewGeneration(
+            {{QStringLiteral("file"), dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"))},
+             {QStringLiteral("header"), QVariantMap{{QStringLiteral("target_device"),
+                                                     QStringLiteral("TV2KR-18C-QFN88P-C8/I7")}}},
+             {QStringLiteral("options"),
+              QVariantMap{{QStringLiteral("Prefix"), QString::fromLatin1(prefix)}}}});
+        const QVariantList files = answer.value(QStringLiteral("files")).toList();
+        int named = 0;
+        for (const QVariant &file : files)
+            named += file.toMap()
+                         .value(QStringLiteral("path"))
+                         .toString()
+                         .startsWith(QLatin1String("left_"));
+        return std::make_pair(named,
+                              answer.value(QStringLiteral("notes")).toStringList().join(u' '));
+    };
+    QCOMPARE(notesFor("").first, 0);
+    QVERIFY(notesFor("left_").first > 0);
+    QVERIFY(!notesFor("left_").second.contains(QLatin1String("left")));
+    for (const char *wrong : {"9", "left", "wire_"}) {
+        const auto told = notesFor(wrong);
+        QCOMPARE(told.first, 0);
+        QVERIFY2(told.second.contains(QLatin1String(wrong)), qPrintable(told.second));
+    }
 }
 
 void tst_Plugin::saysWhyOkWouldWriteNothing()
