@@ -1,22 +1,28 @@
 // Makes the table that estimates come from, and checks it:
 //
-//   estimatetable measure [LAST]      synthesises what the file of measurements lacks: a chosen
-//   list of
-//                                     configurations, and random ones of the seeds up to LAST
-//                                     (400), most of them with few blocks; can be ended at any time
-//                                     and called again
-//   estimatetable fit                 fits the table to the measurements and writes it
-//   estimatetable check N [SEED]      synthesises N random configurations of each series that
-//   nobody has seen
-//                                     and prints how far the estimates are off; fails where less
-//                                     than 98 % hold
+// estimatetable measure [LAST]
+//     synthesises what the file of measurements lacks: a chosen list of configurations, and random
+//     ones of the seeds up to LAST (400), most of them with few blocks; can be ended at any time
+//     and called again
+// estimatetable fit
+//     fits the table to the measurements and writes it
+// estimatetable check N [SEED]
+//     synthesises N random configurations of each series that nobody has seen and prints how far
+//     the estimates are off; fails where less than 98 % hold
+// estimatetable spot N [SEED]
+//     the same for N with few blocks
+// estimatetable fresh [COUNT]
+//     draws COUNT (200) configurations for each series and synthesises each different text once,
+//     into a file that the fit never reads; can be ended at any time and called again
+// estimatetable report
+//     prints for each series how the estimates fare in that file. A netlist counts for each series
+//     in which somebody could have the configuration, so the series' figures are not independent of
+//     each other; the last line counts each netlist once.
 //
-//   estimatetable spot N [SEED]       the same for N with few blocks
-//
-// With FILE= in front of an argument list another file of measurements is taken. One process at a
-// time.
+// With FILE=PATH in front another file of measurements is taken. One process at a time.
 
 #include "fit.h"
+#include "fresh.h"
 #include "measurement.h"
 
 #include <config/blocks.h>
@@ -233,6 +239,122 @@ int measureAll(const QString &path, const DEV::DeviceDb &devices, int last)
     return 0;
 }
 
+// What was drawn for one seed, in the groups that synthesis reads the same text for.
+Utils::Result<QVector<FreshMeasurement>> plannedFresh(int seed, const DEV::DeviceDb &devices)
+{
+    QVector<FreshMeasurement> groups;
+    QHash<QByteArray, QString> known;
+    const QVector<Drawn> drawn = drawForEachSeries(seed, devices);
+    for (const Drawn &one : drawn) {
+        const Utils::Result<QString> digest =
+            textDigest(devices.findDevice(one.device), one.options, &known);
+        if (!digest)
+            return Utils::Failure{digest.reason()};
+        const auto same =
+            std::find_if(groups.begin(), groups.end(), [&digest](const FreshMeasurement &group) {
+                return group.digest == *digest;
+            });
+        if (same != groups.end()) {
+            same->drawn.append(one);
+            continue;
+        }
+        FreshMeasurement group;
+        group.seed = seed;
+        group.digest = *digest;
+        group.drawn.append(one);
+        groups.append(group);
+    }
+    return groups;
+}
+
+// The first seed is far from those that the table is fitted to.
+constexpr int firstFreshSeed = 5000000;
+
+// One of so many netlists is made for a second device as well, which has to give the same.
+constexpr int timesUntilAgain = 10;
+
+int measureFresh(const QString &path, const DEV::DeviceDb &devices, int count)
+{
+    const Utils::Result<QString> rtl = rtlDigest();
+    const Utils::Result<QString> synthesis = synthesisDigest();
+    if (!rtl || !synthesis)
+        return fail(rtl.reason() + synthesis.reason());
+    QString error;
+    if (!QFile::exists(path) &&
+        !Utils::FileUtils::writeFile(path, headLine({*rtl, *synthesis, {}}), &error))
+        return fail(error);
+    const Utils::Result<FreshMeasurements> read = readFresh(path);
+    if (!read)
+        return fail(read.reason());
+    if (read->rtl != *rtl || read->synthesis != *synthesis)
+        return fail(
+            "\""_l1 + path +
+            "\" was measured with other RTL or another synthesis: remove it and begin anew."_l1);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return fail(file.errorString());
+    // What a killed run has left of a line.
+    const int whole = file.readAll().lastIndexOf('\n') + 1;
+    file.resize(whole);
+    file.seek(whole);
+    int made = read->list.size();
+    for (int seed = firstFreshSeed; seed < firstFreshSeed + count; ++seed) {
+        if (read->countOf(seed) == drawForEachSeries(seed, devices).size())
+            continue;
+        Utils::Result<QVector<FreshMeasurement>> plan = plannedFresh(seed, devices);
+        if (!plan)
+            return fail(plan.reason());
+        for (FreshMeasurement &one : *plan) {
+            if (read->contains(seed, one.digest))
+                continue;
+            std::printf("seed %d, for %d series\n", seed, int(one.drawn.size()));
+            std::fflush(stdout);
+            const auto measured = [&](const Drawn &drawn) -> Utils::Result<Measurement> {
+                Measurement measurement;
+                measurement.name = "seed "_l1 + QString::number(seed);
+                measurement.options = drawn.options;
+                const auto done = measure(devices.findDevice(drawn.device), &measurement);
+                if (!done)
+                    return Utils::Failure{done.reason()};
+                return measurement;
+            };
+            const auto first = measured(one.drawn.first());
+            if (!first)
+                return fail(first.reason());
+            one.used = first->used;
+            one.blackBoxes = first->blackBoxes;
+            if (++made % timesUntilAgain == 0 && one.drawn.size() > 1) {
+                const auto second = measured(one.drawn.last());
+                if (!second)
+                    return fail(second.reason());
+                if (second->used != first->used || second->blackBoxes != first->blackBoxes)
+                    return fail(QStringLiteral("seed %1: %2 and %3 read the same, but their "
+                                               "netlists differ.")
+                                    .arg(seed)
+                                    .arg(one.drawn.first().device, one.drawn.last().device));
+                one.again = one.drawn.last().device;
+            }
+            const QByteArray line = lineOf(one);
+            if (file.write(line) != line.size() || !file.flush())
+                return fail(file.errorString());
+        }
+    }
+    return 0;
+}
+
+int reportFresh(const QString &path, const DEV::DeviceDb &devices)
+{
+    const Utils::Result<EstimateTable> table = readEstimateTable(QStringLiteral(TARVO_IP_DATA_DIR));
+    const Utils::Result<FreshMeasurements> read = readFresh(path);
+    if (!table || !read)
+        return fail(table.reason() + read.reason());
+    const QVector<SeriesShare> shares = sharesOf(*read, devices, *table);
+    std::printf("%s", qPrintable(shareText(shares, *table)));
+    for (const QString &miss : shares.last().misses)
+        std::printf("  miss: %s\n", qPrintable(miss));
+    return 0;
+}
+
 // The errors of a list of measurements against a table, as a histogram of each resource; returns
 // how many do not keep the promise.
 int printErrors(const char *title, const EstimateTable &table, const DEV::DeviceDb &devices,
@@ -323,12 +445,18 @@ int main(int argc, char *argv[])
     QCoreApplication application(argc, argv);
     QStringList arguments = application.arguments().mid(1);
     QString path = QStringLiteral(TARVO_MEASUREMENTS);
-    if (!arguments.isEmpty() && arguments.first().startsWith("FILE="_l1))
+    const bool isOtherPath = !arguments.isEmpty() && arguments.first().startsWith("FILE="_l1);
+    if (isOtherPath)
         path = arguments.takeFirst().mid(5);
     const DEV::DeviceDb &devices = DEV::DeviceDb::bundled();
     const QString command = arguments.value(0);
     if (command == "measure"_l1)
         return measureAll(path, devices, arguments.value(1, QStringLiteral("400")).toInt());
+    if (command == "fresh"_l1)
+        return measureFresh(isOtherPath ? path : QStringLiteral(TARVO_FRESH_MEASUREMENTS), devices,
+                            arguments.value(1, QStringLiteral("200")).toInt());
+    if (command == "report"_l1)
+        return reportFresh(isOtherPath ? path : QStringLiteral(TARVO_FRESH_MEASUREMENTS), devices);
     if (command == "fit"_l1)
         return fitTable(path, devices);
     if ((command == "check"_l1 || command == "spot"_l1) && arguments.value(1).toInt() > 0)
@@ -336,5 +464,6 @@ int main(int argc, char *argv[])
                           arguments.value(2, QStringLiteral("1000000")).toInt(),
                           command == "spot"_l1);
     return fail(QStringLiteral(
-        "estimatetable [FILE=PATH] measure [LAST] | fit | check N [SEED] | spot N [SEED]"));
+        "estimatetable [FILE=PATH] measure [LAST] | fit | check N [SEED] | spot N [SEED] | "
+        "fresh [COUNT] | report"));
 }

@@ -41,6 +41,14 @@ QVariant valueFrom(const QString &key, const QJsonValue &value)
 
 } // namespace
 
+OptionMap optionsFrom(const QJsonObject &object)
+{
+    OptionMap options;
+    for (auto it = object.begin(); it != object.end(); ++it)
+        options.insert(it.key(), valueFrom(it.key(), it.value()));
+    return options;
+}
+
 bool Measurements::contains(const Measurement &other) const
 {
     return std::any_of(list.begin(), list.end(), [&other](const Measurement &one) {
@@ -76,9 +84,7 @@ Utils::Result<Measurements> readMeasurements(const QString &path)
         one.name = object.value("name"_l1).toString();
         one.device = object.value("device"_l1).toString();
         one.isHeldOut = object.value("heldOut"_l1).toBool();
-        const QJsonObject options = object.value("options"_l1).toObject();
-        for (auto it = options.begin(); it != options.end(); ++it)
-            one.options.insert(it.key(), valueFrom(it.key(), it.value()));
+        one.options = optionsFrom(object.value("options"_l1).toObject());
         const QJsonObject used = object.value("used"_l1).toObject();
         for (auto it = used.begin(); it != used.end(); ++it)
             one.used.insert(it.key(), it.value().toInt());
@@ -130,15 +136,30 @@ Utils::Result<QString> synthesisDigest()
         filesIn(folder + "/flow"_l1, {QStringLiteral("yosysscript.cpp")}));
 }
 
-Utils::Result<void> measure(const DEV::DeviceArg &device, Measurement *measurement)
+Utils::Result<GenerationPlan> writtenPlan(const DEV::DeviceArg &device, const OptionMap &options,
+                                          const QString &folder)
 {
-    const QTemporaryDir folder;
     const QString data = QStringLiteral(TARVO_IP_DATA_DIR);
     const Utils::Result<QVariantMap> read = Utils::readDescriptor(descriptorPath(data));
     if (!read)
         return Utils::Failure{read.reason()};
     QVariantMap ipInfo = *read;
     addDataFolders(ipInfo, data);
+    const GenerationPlan plan =
+        generationPlan({options, ipInfo, device, Tool::TarvoSynthesis, Language::Verilog, folder});
+    QString error;
+    if (!Utils::FileUtils::makePath(plan.folder, &error))
+        return Utils::Failure{error};
+    for (const IncludeFile &file : plan.includeFiles) {
+        if (!Utils::FileUtils::writeLines(plan.pathOf(file), file.lines, &error))
+            return Utils::Failure{error};
+    }
+    return plan;
+}
+
+Utils::Result<void> measure(const DEV::DeviceArg &device, Measurement *measurement)
+{
+    const QTemporaryDir folder;
     OptionMap options = measurement->options;
     if (options.value(Key::initializeItcm).toBool()) {
         // What the memory holds does not change what is made of it, so any bytes do.
@@ -154,21 +175,15 @@ Utils::Result<void> measure(const DEV::DeviceArg &device, Measurement *measureme
         }
         options.insert(Key::itcmInitializationAbsolutePath, folder.path());
     }
-    const GenerationPlan plan = generationPlan(
-        {options, ipInfo, device, Tool::TarvoSynthesis, Language::Verilog, folder.path()});
-    QString error;
-    if (!Utils::FileUtils::makePath(plan.folder, &error))
-        return Utils::Failure{error};
-    for (const IncludeFile &file : plan.includeFiles) {
-        if (!Utils::FileUtils::writeLines(plan.pathOf(file), file.lines, &error))
-            return Utils::Failure{error};
-    }
+    const Utils::Result<GenerationPlan> plan = writtenPlan(device, options, folder.path());
+    if (!plan)
+        return Utils::Failure{plan.reason()};
     Synthesis::Job job;
-    job.outputDir = plan.request.outputDir;
-    job.ipName = plan.request.ipName;
-    job.targetName = plan.request.targetName;
-    job.device = plan.request.device;
-    job.options = plan.request.options;
+    job.outputDir = plan->request.outputDir;
+    job.ipName = plan->request.ipName;
+    job.targetName = plan->request.targetName;
+    job.device = plan->request.device;
+    job.options = plan->request.options;
     Synthesis::Runner runner;
     runner.setTool(Synthesis::Tool::TarvoSynthesis);
     runner.setJob(job);

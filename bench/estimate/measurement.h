@@ -2,10 +2,12 @@
 
 #include <config/optionmap.h>
 #include <dev/devicearg.h>
+#include <generate/plan.h>
 #include <utils/result.h>
 
 #include <QByteArray>
 #include <QHash>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -35,6 +37,15 @@ struct Measurements {
 Utils::Result<Measurements> readMeasurements(const QString &path);
 QByteArray lineOf(const Measurement &measurement);
 QByteArray headLine(const Measurements &measurements);
+
+// The values of options as a line of a file has them.
+TARVOORIXM1::OptionMap optionsFrom(const QJsonObject &object);
+
+// What a generation into a folder that exists is made from, with the include files written. A
+// failure is a sentence.
+Utils::Result<TARVOORIXM1::GenerationPlan> writtenPlan(const DEV::DeviceArg &device,
+                                                       const TARVOORIXM1::OptionMap &options,
+                                                       const QString &folder);
 
 // The digests of today's RTL, and of the library and the script that synthesis maps it with.
 Utils::Result<QString> rtlDigest();
