@@ -1,5 +1,6 @@
 #include "ipsession.h"
 
+#include "answers.h"
 #include "ipcatalogue.h"
 #include "kept/keptconfigurations.h"
 
@@ -15,7 +16,6 @@
 #include <QFileInfo>
 #include <QMetaMethod>
 #include <QSettings>
-#include <QTemporaryDir>
 
 namespace Workbench
 {
@@ -42,6 +42,9 @@ Stamps ipcStamps(const QString &folder)
     return stamps;
 }
 
+// After a change until it is kept, in milliseconds. Changes come fast while somebody types.
+constexpr int draftDelay = 150;
+
 constexpr const char *configurationMethod = "configuration()";
 
 // What the dialog would store; empty if it does not tell.
@@ -55,20 +58,35 @@ QVariantMap configurationOf(QObject *dialog)
     return thrown.isEmpty() ? configuration : QVariantMap();
 }
 
+// The names of the steps that count, as the dialog tells them; none where it does not.
+QStringList stepsOf(QObject *dialog)
+{
+    QVariantList steps;
+    int current = 0;
+    PluginLoader::thrownBy([&] {
+        QMetaObject::invokeMethod(dialog, "steps", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QVariantList, steps));
+        QMetaObject::invokeMethod(dialog, "currentStep", Qt::DirectConnection,
+                                  Q_RETURN_ARG(int, current));
+    });
+    QStringList names;
+    for (const QVariant &step : steps.mid(0, current)) {
+        QString name;
+        if (Answers::takeText(step.toMap(), QStringLiteral("name"), &name) && !name.isEmpty())
+            names.append(name);
+    }
+    return names;
+}
+
 // As a configuration file.
 QByteArray textOf(const QVariantMap &configuration, QString *error)
 {
-    const QTemporaryDir scratch;
-    const QString path = scratch.filePath(QStringLiteral("configuration.ipc"));
-    QByteArray text;
-    const Utils::Result<void> written = Utils::writeIniFile(
-        path, configuration.value(QStringLiteral("header")).toMap(), QStringLiteral("Config"),
+    const Utils::Result<QByteArray> text = Utils::iniText(
+        configuration.value(QStringLiteral("header")).toMap(), QStringLiteral("Config"),
         configuration.value(QStringLiteral("options")).toMap());
-    if (written)
-        Utils::FileUtils::readFile(path, &text, error);
-    else if (error)
-        *error = written.reason();
-    return text;
+    if (!text)
+        *error = text.reason();
+    return text ? *text : QByteArray();
 }
 
 QStringList filesOf(const QString &folder)
@@ -86,6 +104,9 @@ IpSession::IpSession(IpCatalogue &catalogue, QObject *parent)
     : QObject(parent)
     , m_catalogue(catalogue)
 {
+    m_draftDelay.setSingleShot(true);
+    m_draftDelay.setInterval(draftDelay);
+    connect(&m_draftDelay, &QTimer::timeout, this, &IpSession::keepDraft);
 }
 
 bool IpSession::begin(int ip, QString *error)
@@ -98,6 +119,8 @@ bool IpSession::begin(int ip, QString *error)
     m_ip = ip;
     m_accepted = false;
     m_droppedId.clear();
+    m_draftId.clear();
+    m_hasFailedToKeep = false;
     QCoreApplication::instance()->installEventFilter(this);
     return true;
 }
@@ -105,6 +128,7 @@ bool IpSession::begin(int ip, QString *error)
 void IpSession::end()
 {
     QCoreApplication::instance()->removeEventFilter(this);
+    m_draftDelay.stop();
     m_active = false;
     m_dialog = nullptr;
     m_opened.clear();
@@ -125,34 +149,62 @@ void IpSession::follow(QDialog *dialog)
     m_dialog = dialog;
     m_opened = configurationOf(dialog);
     connect(dialog, &QDialog::finished, this, &IpSession::onDialogFinished);
+    if (Answers::tells(dialog, "configurationChanged()"))
+        connect(dialog, SIGNAL(configurationChanged()), this, SLOT(onConfigurationChanged()));
     Q_EMIT shown(dialog, m_ip);
 }
 
 void IpSession::onDialogFinished(int result)
 {
     m_accepted = result == QDialog::Accepted;
-    if (m_accepted || !m_kept || !m_dialog)
+    m_draftDelay.stop();
+    if (m_accepted) {
+        forgetDraft();
+        return;
+    }
+    m_hasFailedToKeep = false; // the last time, it is told again
+    keepDraft();
+    m_droppedId = m_draftId;
+    m_droppedFile = m_draftFile;
+}
+
+void IpSession::keepDraft()
+{
+    if (!m_kept || !m_dialog)
         return;
     const QVariantMap left = configurationOf(m_dialog);
     const QString file = left.value(QStringLiteral("file")).toString();
-    if (left == m_opened || file.isEmpty())
+    if (left == m_opened || file.isEmpty()) {
+        forgetDraft();
         return;
+    }
     // A value may have changed its type and nothing else.
     QString error;
     const QByteArray text = textOf(left, &error);
-    if (text == textOf(m_opened, &error) && error.isEmpty())
+    if (text == textOf(m_opened, &error) && error.isEmpty()) {
+        forgetDraft();
         return;
+    }
     // OK has stored it before, and a run failed.
     QByteArray stored;
     if (QFileInfo(file).isFile() && Utils::FileUtils::readFile(file, &stored, nullptr) &&
-        stored == text)
+        stored == text) {
+        forgetDraft();
         return;
-    if (error.isEmpty() && m_kept->keep(KeptConfigurations::Dropped, file, text, &error)) {
-        m_droppedId = m_kept->newest().id;
-        m_droppedFile = file;
-    } else {
+    }
+    if (error.isEmpty() && m_kept->keepDraft(file, text, stepsOf(m_dialog), &m_draftId, &error)) {
+        m_draftFile = file;
+    } else if (!m_hasFailedToKeep) {
+        m_hasFailedToKeep = true;
         Q_EMIT keepFailed(error);
     }
+}
+
+void IpSession::forgetDraft()
+{
+    if (m_kept)
+        m_kept->forget(m_draftId);
+    m_draftId.clear();
 }
 
 IpSession::Contents IpSession::contentsIn(const QString &folder) const

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantMap>
 
 #include <functional>
@@ -19,7 +20,8 @@ class IpCatalogue;
 class KeptConfigurations;
 
 // Runs the dialogs of IPs, one at a time. No configuration is lost in them: what is replaced is
-// kept, and so is what was changed in a dialog that is closed without OK, if the dialog tells it.
+// kept, and so is what was changed in a dialog that is left without OK, if the dialog tells it. One
+// that tells its changes is kept while it is open, so that it outlives the program.
 class IpSession : public QObject
 {
     Q_OBJECT
@@ -69,6 +71,9 @@ private:
     void end();
     void follow(QDialog *dialog);
     void onDialogFinished(int result);
+    // Keeps what the dialog has now, or nothing if OK would change nothing.
+    void keepDraft();
+    void forgetDraft();
     Contents contentsIn(const QString &folder) const;
     void keepReplaced(const Contents &before);
 
@@ -81,8 +86,15 @@ private:
     // The dialog that tells its configuration; looked at also while it is taken down.
     QPointer<QObject> m_dialog;
     QVariantMap m_opened; // what it told when it came up
+    QTimer m_draftDelay;
+    QString m_draftId; // of what is kept of the open dialog
+    QString m_draftFile;
+    bool m_hasFailedToKeep = false;
     QString m_droppedId;
     QString m_droppedFile;
+
+private Q_SLOTS:
+    void onConfigurationChanged() { m_draftDelay.start(); }
 };
 
 } // namespace Workbench

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
@@ -23,8 +24,12 @@ const QString pathKey = QStringLiteral("path");
 const QString kindKey = QStringLiteral("kind");
 const QString timeKey = QStringLiteral("time");
 const QString newKey = QStringLiteral("new");
+const QString stepsKey = QStringLiteral("steps");
 const QString replacedKind = QStringLiteral("replaced");
 const QString droppedKind = QStringLiteral("dropped");
+
+// That are told of a draft; the first ones are the oldest.
+constexpr int stepsShown = 3;
 
 // Larger files are no configurations.
 constexpr qint64 sizeLimit = 16 << 20;
@@ -41,9 +46,18 @@ bool readPlain(const QString &path, QByteArray *bytes, QString *error)
 QString KeptConfigurations::Item::description() const
 {
     const QString when = QLocale().toString(time, QLocale::ShortFormat);
-    const QString what = kind == Dropped ? tr("Dialog closed without OK, %1").arg(when)
-                                         : tr("Replaced %1").arg(when);
+    const QString what =
+        kind == Dropped ? tr("Left without OK, %1").arg(when) : tr("Replaced %1").arg(when);
     return device.isEmpty() ? what : tr("%1; for %2").arg(what, device);
+}
+
+QString KeptConfigurations::Item::stepWords() const
+{
+    const int hidden = steps.size() - stepsShown;
+    if (hidden <= 0)
+        return steps.join(QLatin1String(", "));
+    return tr("%1, and %n more before", nullptr, hidden)
+        .arg(steps.mid(hidden).join(QLatin1String(", ")));
 }
 
 KeptConfigurations::KeptConfigurations(const QString &folder, QObject *parent)
@@ -54,6 +68,22 @@ KeptConfigurations::KeptConfigurations(const QString &folder, QObject *parent)
 
 bool KeptConfigurations::keep(Kind kind, const QString &origin, const QByteArray &bytes,
                               QString *error)
+{
+    return store(kind, origin, bytes, {}, {}, error);
+}
+
+bool KeptConfigurations::keepDraft(const QString &origin, const QByteArray &bytes,
+                                   const QStringList &steps, QString *id, QString *error)
+{
+    if (!store(Dropped, origin, bytes, steps, *id, error))
+        return false;
+    *id = m_newest;
+    return true;
+}
+
+// What is replaced goes when the new one is whole.
+bool KeptConfigurations::store(Kind kind, const QString &origin, const QByteArray &bytes,
+                               const QStringList &steps, const QString &replaced, QString *error)
 {
     const QString path = QDir::cleanPath(QFileInfo(origin).absoluteFilePath());
     if (!Utils::FileUtils::makePath(m_folder, error))
@@ -71,10 +101,12 @@ bool KeptConfigurations::keep(Kind kind, const QString &origin, const QByteArray
             return Utils::FileUtils::makePath(m_folder + u'/' + name, error) && false;
     }
     const QString folder = m_folder + u'/' + id;
-    const QJsonObject about{{pathKey, path},
-                            {kindKey, kind == Dropped ? droppedKind : replacedKind},
-                            {timeKey, now.toString(Qt::ISODateWithMs)},
-                            {newKey, kind == Dropped && !QFileInfo::exists(path)}};
+    QJsonObject about{{pathKey, path},
+                      {kindKey, kind == Dropped ? droppedKind : replacedKind},
+                      {timeKey, now.toString(Qt::ISODateWithMs)},
+                      {newKey, kind == Dropped && !QFileInfo::exists(path)}};
+    if (!steps.isEmpty())
+        about.insert(stepsKey, QJsonArray::fromStringList(steps));
     // A folder without the second file is none of a copy.
     if (!Utils::FileUtils::writeFile(folder + u'/' + QFileInfo(path).fileName(), bytes, error) ||
         !Utils::FileUtils::writeFile(folder + u'/' + originFile, QJsonDocument(about).toJson(),
@@ -88,6 +120,7 @@ bool KeptConfigurations::keep(Kind kind, const QString &origin, const QByteArray
             old == bytes)
             drop(item.id);
     }
+    drop(replaced);
     m_newest = id;
     thinOut();
     Q_EMIT changed();
@@ -120,6 +153,7 @@ KeptConfigurations::Item KeptConfigurations::read(const QString &id) const
     item.time =
         QDateTime::fromString(about.value(timeKey).toString(), Qt::ISODateWithMs).toLocalTime();
     item.isNew = about.value(newKey).toBool();
+    item.steps = about.value(stepsKey).toVariant().toStringList();
     item.copy = folder + u'/' + QFileInfo(item.origin).fileName();
     if (item.origin.isEmpty() || !QFileInfo(item.copy).isFile())
         return {};
@@ -180,6 +214,8 @@ bool KeptConfigurations::restore(const QString &id, QString *error)
 
 void KeptConfigurations::forget(const QString &id)
 {
+    if (id.isEmpty())
+        return;
     drop(id);
     Q_EMIT changed();
 }

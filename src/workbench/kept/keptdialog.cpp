@@ -20,7 +20,7 @@ namespace Workbench
 namespace
 {
 
-enum Column { File, What, Time, Device };
+enum Column { File, What, Time, Device, Changes };
 
 } // namespace
 
@@ -32,7 +32,7 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     setWindowTitle(tr("Bring Back a Configuration"));
     auto *intro = new QLabel(tr("Before a configuration is replaced, a copy is kept; and so is "
                                 "what was in a dialog that "
-                                "was closed without OK. The copies are whole files in \"%1\".")
+                                "was left without OK. The copies are whole files in \"%1\".")
                                  .arg(QDir::toNativeSeparators(kept->folder())));
     intro->setTextFormat(Qt::PlainText);
     intro->setWordWrap(true);
@@ -40,7 +40,8 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
 
     m_list->setObjectName(QStringLiteral("keptList"));
     m_list->setAccessibleName(tr("Kept configurations"));
-    m_list->setHeaderLabels({tr("Configuration"), tr("What"), tr("When"), tr("Device")});
+    m_list->setHeaderLabels(
+        {tr("Configuration"), tr("What"), tr("When"), tr("Device"), tr("Changes")});
     m_list->setRootIsDecorated(false);
     m_list->setAlternatingRowColors(true);
     m_list->setUniformRowHeights(true);
@@ -80,13 +81,14 @@ void KeptDialog::fill()
         auto *row = new QTreeWidgetItem(
             m_list,
             {path,
-             item.kind == KeptConfigurations::Dropped ? tr("closed without OK") : tr("replaced"),
-             QLocale().toString(item.time, QLocale::ShortFormat), item.device});
+             item.kind == KeptConfigurations::Dropped ? tr("left without OK") : tr("replaced"),
+             QLocale().toString(item.time, QLocale::ShortFormat), item.device, item.stepWords()});
         row->setIcon(File, symbolIcon(QStringLiteral("ip-file")));
         row->setToolTip(File, path);
+        row->setToolTip(Changes, item.steps.join(QLatin1String(", ")));
         row->setData(File, Qt::UserRole, item.id);
     }
-    for (const int column : {What, Time, Device})
+    for (const int column : {What, Time, Device, Changes})
         m_list->resizeColumnToContents(column);
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(File, QHeaderView::Stretch);

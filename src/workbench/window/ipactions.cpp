@@ -40,7 +40,7 @@ IpActions::IpActions(const Surroundings &with, QWidget *window)
     connect(&m_with.session, &IpSession::dropped, this,
             [this](const QString &id, const QString &file) {
                 m_with.infoBar.showMessage(
-                    tr("The dialog of \"%1\" was closed without OK. Its changes are kept.")
+                    tr("The dialog of \"%1\" was closed without OK. Its changes are kept as a draft.")
                         .arg(QDir::toNativeSeparators(file)),
                     {{tr("&Bring Back…"), [this, id] { bringBack(id); }}});
             });

@@ -37,6 +37,23 @@ LinkButton *makeLink(const QString &text, const QString &description, const QStr
     return new LinkButton(text, description, symbolIcon(icon));
 }
 
+// An empty folder has all.
+bool isIn(const QString &folder, const KeptConfigurations::Item &item)
+{
+    return item.origin.startsWith(folder + u'/');
+}
+
+LinkButton *makeKeptLink(const QString &folder, const KeptConfigurations::Item &item,
+                         const QString &description)
+{
+    const QString name = folder.isEmpty() ? item.origin : item.origin.mid(folder.size() + 1);
+    LinkButton *link = makeLink(StartPage::tr("%1…").arg(QDir::toNativeSeparators(name)),
+                                description, QStringLiteral("ip-file"));
+    link->setObjectName(QStringLiteral("bringBackLink"));
+    link->setProperty("keptId", item.id);
+    return link;
+}
+
 } // namespace
 
 StartPage::StartPage(QWidget *parent)
@@ -56,9 +73,9 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
     auto *page = new QVBoxLayout;
     columns->addLayout(page, 1);
     if (project)
-        showProject(page, *project, catalogue);
+        showProject(page, *project, catalogue, kept);
     else
-        showWelcome(page, recent, examples);
+        showWelcome(page, catalogue, recent, kept, examples);
     showKept(page, project ? project->path() : QString(), kept);
     page->addStretch(1);
     // The old page may be the one whose button is being clicked.
@@ -94,7 +111,8 @@ void StartPage::changeEvent(QEvent *event)
         applyFont();
 }
 
-void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent,
+void StartPage::showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue,
+                            const QStringList &recent, const QList<KeptConfigurations::Item> &kept,
                             const QVector<Example> &examples)
 {
     page->addWidget(makeLabel(tr("Tarvo Workbench"), 1.8, true));
@@ -102,6 +120,7 @@ void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent,
         tr("Configure an IP for a device, generate it, and add the netlist to your design."), 1,
         false));
     page->addSpacing(fontMetrics().height());
+    showDrafts(page, QString(), catalogue, kept);
 
     auto *create = makeLink(tr("New project…"), tr("Choose a folder, a name and a device."),
                             QStringLiteral("new-project"));
@@ -138,13 +157,15 @@ void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent,
     }
 }
 
-void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue)
+void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue,
+                            const QList<KeptConfigurations::Item> &kept)
 {
     const DEV::DeviceArg device = project.device();
     page->addWidget(makeLabel(project.name(), 1.8, true));
     page->addWidget(
         makeLabel(device.isNull() ? tr("No device chosen") : device.partNumber(), 1, false));
     page->addSpacing(fontMetrics().height());
+    showDrafts(page, project.path(), catalogue, kept);
 
     const QStringList ips = project.ipFiles();
     const QDir folder(project.path());
@@ -202,6 +223,30 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
             1, false));
 }
 
+void StartPage::showDrafts(QVBoxLayout *page, const QString &folder, const IpCatalogue &catalogue,
+                           const QList<KeptConfigurations::Item> &kept)
+{
+    int shown = 0;
+    for (const KeptConfigurations::Item &item : kept) {
+        if (item.kind != KeptConfigurations::Dropped || !isIn(folder, item) || shown == keptShown)
+            continue;
+        if (shown++ == 0)
+            page->addWidget(makeLabel(tr("Go on with a draft"), 1.2, true));
+        const int ip = catalogue.indexOf(IpcHead::read(item.copy).type);
+        QStringList lines{item.description()};
+        if (!item.steps.isEmpty())
+            lines.prepend(item.stepWords());
+        LinkButton *link = makeKeptLink(folder, item, lines.join(u'\n'));
+        if (ip >= 0)
+            link->setText(tr("%1: %2").arg(catalogue.entries().at(ip).name, link->text()));
+        connect(link, &QPushButton::clicked, this,
+                [this, id = item.id] { Q_EMIT bringBackRequested(id); });
+        page->addWidget(link);
+    }
+    if (shown > 0)
+        page->addSpacing(fontMetrics().height());
+}
+
 void StartPage::showKept(QVBoxLayout *page, const QString &folder,
                          const QList<KeptConfigurations::Item> &kept)
 {
@@ -211,20 +256,16 @@ void StartPage::showKept(QVBoxLayout *page, const QString &folder,
     page->addWidget(makeLabel(tr("Bring back a configuration"), 1.2, true));
     int shown = 0;
     for (const KeptConfigurations::Item &item : kept) {
-        if (!item.origin.startsWith(folder + u'/') || shown == keptShown)
+        if (item.kind == KeptConfigurations::Dropped || !isIn(folder, item) || shown == keptShown)
             continue;
         ++shown;
-        const QString name = folder.isEmpty() ? item.origin : item.origin.mid(folder.size() + 1);
-        auto *link = makeLink(tr("%1…").arg(QDir::toNativeSeparators(name)), item.description(),
-                              QStringLiteral("ip-file"));
-        link->setObjectName(QStringLiteral("bringBackLink"));
-        link->setProperty("keptId", item.id);
+        LinkButton *link = makeKeptLink(folder, item, item.description());
         connect(link, &QPushButton::clicked, this,
                 [this, id = item.id] { Q_EMIT bringBackRequested(id); });
         page->addWidget(link);
     }
     auto *all = makeLink(tr("All kept configurations…"),
-                         tr("What was replaced, or was in a dialog that was closed without OK."),
+                         tr("What was replaced, or was in a dialog that was left without OK."),
                          QStringLiteral("folder"));
     all->setObjectName(QStringLiteral("allKeptLink"));
     connect(all, &QPushButton::clicked, this, &StartPage::allKeptRequested);

@@ -49,10 +49,14 @@ protected:
 private:
     // Headings are larger than the user's font.
     void applyFont();
-    void showWelcome(QVBoxLayout *page, const QStringList &recent,
-                     const QVector<Example> &examples);
-    void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue);
-    // Those in the folder, which may be empty for all.
+    void showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue, const QStringList &recent,
+                     const QList<KeptConfigurations::Item> &kept, const QVector<Example> &examples);
+    void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue,
+                     const QList<KeptConfigurations::Item> &kept);
+    // Of those in the folder, which may be empty for all, the drafts.
+    void showDrafts(QVBoxLayout *page, const QString &folder, const IpCatalogue &catalogue,
+                    const QList<KeptConfigurations::Item> &kept);
+    // And what was replaced.
     void showKept(QVBoxLayout *page, const QString &folder,
                   const QList<KeptConfigurations::Item> &kept);
 };
