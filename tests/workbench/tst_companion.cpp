@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -375,7 +377,7 @@ private Q_SLOTS:
         QTest::newRow("the device has none") << 2 << 2 << 2 << 0 << "does not fit: 2 too many"
                                              << "2 of 0, does not fit: 2 too many";
         QTest::newRow("nobody knows") << 2 << 1 << 3 << -1 << ""
-                                      << "about 2, between 1 and 3";
+                                      << "about 2, between 1 and 3, of how many is not known";
     }
     void saysWhatDoesNotFit()
     {
@@ -407,6 +409,39 @@ private Q_SLOTS:
         QCOMPARE(dots > 100, !verdict.isEmpty() || !MeterText::range(reading).isEmpty());
     }
 
+    // Then the texts below the bars go beside them.
+    void isSeenWholeWhereThereIsLittleRoom()
+    {
+        openDialog();
+        Companion *companion = m_desk->companion();
+        const auto isWhole = [this] {
+            const auto areas = meter()->findChildren<QScrollArea *>();
+            return areas.first()->verticalScrollBar()->maximum() == 0;
+        };
+        const auto areCompact = [this] { return meter()->bars().first()->isCompact(); };
+        const int around = companion->height() - meter()->height();
+        companion->resize(companion->width(), 2000);
+        QTRY_VERIFY(!areCompact());
+        const int needed = around + meter()->sizeHint().height();
+        const MeterBar *bar = meter()->bars().first();
+        const int saved = meter()->bars().size() * (bar->heightIn(false) - bar->heightIn(true));
+        QVERIFY(saved > 5 * bar->fontMetrics().height());
+        companion->resize(companion->width(), needed + 1);
+        QTRY_VERIFY(isWhole());
+        QVERIFY(!areCompact());
+        companion->resize(companion->width(), needed - saved + 1);
+        QTRY_VERIFY(areCompact());
+        QTRY_VERIFY(isWhole());
+        // What a bar says is still there, the share before the range.
+        const QImage range = meter()->bars().first()->grab().toImage();
+        Q_EMIT m_dialog->pointedAt(QStringLiteral("Bulb"));
+        QTRY_VERIFY(!shares().first().isEmpty());
+        QVERIFY(meter()->bars().first()->grab().toImage() != range);
+        companion->resize(companion->width(), needed + 1);
+        QTRY_VERIFY(!areCompact());
+        QTRY_VERIFY(isWhole());
+    }
+
     void isHeardAsWellAsSeen()
     {
         openDialog();
@@ -430,7 +465,7 @@ private Q_SLOTS:
         openDialog();
         MeterBar *bar = meter()->bars().first();
         m_desk->companion()->resize(800, 800); // without scroll bars that come and go
-        QTRY_VERIFY(bar->width() > 700);
+        QTRY_VERIFY(bar->width() > 700 && !bar->isCompact());
         const QImage without = bar->grab().toImage();
         Q_EMIT m_dialog->pointedAt(QStringLiteral("Bulb"));
         QTRY_COMPARE(

@@ -116,6 +116,11 @@ QString verdict(const ResourceReading &reading)
 
 QString range(const ResourceReading &reading)
 {
+    if (reading.available < 0)
+        return reading.isExact() ? Tr::tr("of how many is not known")
+                                 : Tr::tr("between %1 and %2, of how many is not known")
+                                       .arg(reading.low)
+                                       .arg(reading.high);
     return reading.isExact() ? QString()
                              : Tr::tr("between %1 and %2").arg(reading.low).arg(reading.high);
 }
@@ -203,8 +208,28 @@ QSize MeterBar::sizeHint() const
                                 widthOf(MeterText::range(m_reading), shareText()),
                                 widthOf(MeterText::verdict(m_reading), QString()),
                                 metrics.averageCharWidth() * 52});
-    const int lines = MeterText::verdict(m_reading).isEmpty() ? 3 : 4;
-    return {width + 2 * gap(), lines * lineHeight() + 4 * gap()};
+    return {width + 2 * gap(), heightIn(m_isCompact)};
+}
+
+int MeterBar::heightIn(bool isCompact) const
+{
+    const int lines = (isCompact ? 2 : 3) + (MeterText::verdict(m_reading).isEmpty() ? 0 : 1);
+    return lines * lineHeight() + (isCompact ? 3 : 4) * gap();
+}
+
+void MeterBar::setCompact(bool isCompact)
+{
+    if (isCompact == m_isCompact)
+        return;
+    m_isCompact = isCompact;
+    updateGeometry();
+    update();
+}
+
+QString MeterBar::besideText() const
+{
+    const QString share = shareText();
+    return share.isEmpty() ? MeterText::range(m_reading) : share;
 }
 
 QSize MeterBar::minimumSizeHint() const
@@ -217,8 +242,16 @@ void MeterBar::paintEvent(QPaintEvent * /*event*/)
     QPainter painter(this);
     const QRect inner = rect().adjusted(gap(), gap(), -gap(), -gap());
     const QRect top(inner.left(), inner.top(), inner.width(), lineHeight());
-    const QRect bar(inner.left(), top.bottom() + 1 + gap(), inner.width(), lineHeight());
-    const QRect bottom(inner.left(), bar.bottom() + 1 + gap() / 2, inner.width(), lineHeight());
+    const QString beside = m_isCompact ? besideText() : QString();
+    QRect bar(inner.left(), top.bottom() + 1 + (m_isCompact ? 0 : gap()), inner.width(),
+              lineHeight());
+    QRect bottom(inner.left(), bar.bottom() + 1 + gap() / 2, inner.width(), lineHeight());
+    if (m_isCompact) {
+        // The same part of the width for all, so that the bars can be compared.
+        bar.setWidth(inner.width() / 2);
+        bottom = QRect(bar.right() + 1 + 2 * gap(), bar.top(),
+                       inner.right() - bar.right() - 2 * gap(), lineHeight());
+    }
 
     QFont bold = font();
     bold.setBold(true);
@@ -229,8 +262,14 @@ void MeterBar::paintEvent(QPaintEvent * /*event*/)
     painter.setFont(font());
     drawBar(painter, bar);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(bottom, Qt::AlignRight | Qt::AlignVCenter, shareText());
-    painter.drawText(bottom, Qt::AlignLeft | Qt::AlignVCenter, MeterText::range(m_reading));
+    if (m_isCompact) {
+        painter.drawText(bottom, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(beside, Qt::ElideRight, bottom.width()));
+        bottom.setLeft(inner.left());
+    } else {
+        painter.drawText(bottom, Qt::AlignRight | Qt::AlignVCenter, shareText());
+        painter.drawText(bottom, Qt::AlignLeft | Qt::AlignVCenter, MeterText::range(m_reading));
+    }
     if (const QString verdict = MeterText::verdict(m_reading); !verdict.isEmpty()) {
         painter.setFont(bold);
         painter.setPen(alarmColor(palette()));

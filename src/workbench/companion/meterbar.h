@@ -15,7 +15,8 @@ namespace MeterText
 QString figure(const ResourceReading &reading);
 // "about 1671 of 4608, between 1590 and 1752, does not fit": for somebody who hears it.
 QString spoken(const ResourceReading &reading);
-// "between 1590 and 1752"; empty for a number that is exact.
+// "between 1590 and 1752", and where it is so that nobody knows how many the device has; empty for
+// an exact number of a known one.
 QString range(const ResourceReading &reading);
 // "does not fit: 12 too many", "may not fit"; empty if it fits or nobody knows.
 QString verdict(const ResourceReading &reading);
@@ -32,6 +33,10 @@ public:
 
     void setReading(const ResourceReading &reading);
     const ResourceReading &reading() const { return m_reading; }
+    // With the texts below the bar beside it, and of them the share before the range.
+    void setCompact(bool isCompact);
+    bool isCompact() const { return m_isCompact; }
+    int heightIn(bool isCompact) const;
     // What a block takes; no name: none is pointed at.
     void setShare(const QString &block, int value);
 
@@ -49,6 +54,7 @@ protected:
 
 private:
     void drawBar(QPainter &painter, const QRect &bar) const;
+    QString besideText() const;
     int lineHeight() const;
     int gap() const;
 
@@ -56,6 +62,7 @@ private:
     ResourceReading m_reading;
     QString m_block;
     int m_share = 0;
+    bool m_isCompact = false;
 };
 
 } // namespace Workbench

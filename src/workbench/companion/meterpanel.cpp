@@ -83,6 +83,7 @@ MeterPanel::MeterPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *parent)
     , m_root(pluginRoot)
     , m_window(parent ? parent->window() : this)
     , m_pointing(new QTimer(this))
+    , m_area(new QScrollArea)
     , m_inner(new QWidget)
     , m_state(makeLabel("meterState"))
     , m_error(makeLabel("meterError"))
@@ -90,18 +91,17 @@ MeterPanel::MeterPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *parent)
     , m_barLayout(new QVBoxLayout)
     , m_measuring(makeMeasuring())
 {
-    auto *area = new QScrollArea;
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus); // its contents lead through it
-    area->setWidget(m_inner);
+    m_area->setWidgetResizable(true);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus); // its contents lead through it
+    m_area->setWidget(m_inner);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(area);
+    layout->addWidget(m_area);
     auto *inner = new QVBoxLayout(m_inner);
     inner->addWidget(m_state);
     inner->addWidget(m_error);
-    m_state->setMinimumHeight(2 * m_state->fontMetrics().lineSpacing());
+    m_state->setMinimumHeight(usualStateHeight());
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_barLayout->setSpacing(0);
     inner->addLayout(m_barLayout);
@@ -135,6 +135,7 @@ MeterPanel::MeterPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *parent)
                 endMeasuring();
             });
     m_window->installEventFilter(this);
+    m_area->installEventFilter(this);
     refresh(); // so that its size is known before it is shown
 }
 
@@ -201,7 +202,9 @@ QSize MeterPanel::sizeHint() const
 
 bool MeterPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && event->type() == QEvent::Show) {
+    if (watched == m_area && event->type() == QEvent::Resize) {
+        fitBars();
+    } else if (watched == m_window && event->type() == QEvent::Show) {
         if (m_isStale)
             m_delay.start();
         else
@@ -280,6 +283,7 @@ void MeterPanel::show(const QString &error)
     m_blackBoxes->setVisible(!boxes.isEmpty());
     schedule();
     showState();
+    fitBars();
     Q_EMIT refreshed();
 }
 
@@ -324,6 +328,28 @@ void MeterPanel::showBars()
     for (int i = 0; i < m_bars.size(); ++i)
         m_bars.at(i)->setReading(readings.at(i));
     showShares();
+    fitBars();
+}
+
+void MeterPanel::fitBars()
+{
+    const QLayout *inner = m_inner->layout();
+    const int width = std::max(m_area->width(), inner->minimumSize().width());
+    int height = inner->hasHeightForWidth() ? inner->minimumHeightForWidth(width)
+                                            : inner->minimumSize().height();
+    for (const MeterBar *bar : qAsConst(m_bars))
+        height += bar->heightIn(false) - bar->heightIn(bar->isCompact());
+    if (m_state->minimumHeight() == 0)
+        height += std::max(0, usualStateHeight() - m_state->heightForWidth(m_state->width()));
+    const bool isCompact = height > m_area->height();
+    m_state->setMinimumHeight(isCompact ? 0 : usualStateHeight());
+    for (MeterBar *bar : qAsConst(m_bars))
+        bar->setCompact(isCompact);
+}
+
+int MeterPanel::usualStateHeight() const
+{
+    return 2 * m_state->fontMetrics().lineSpacing();
 }
 
 void MeterPanel::showShares()

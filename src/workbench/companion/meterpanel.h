@@ -13,6 +13,7 @@
 QT_FORWARD_DECLARE_CLASS(QCheckBox)
 QT_FORWARD_DECLARE_CLASS(QDialog)
 QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QScrollArea)
 QT_FORWARD_DECLARE_CLASS(QSettings)
 QT_FORWARD_DECLARE_CLASS(QSpinBox)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
@@ -73,6 +74,10 @@ private:
     void ask(const QVariantMap &configuration);
     void show(const QString &error);
     void showBars();
+    // Makes the bars compact where all of it would not be seen otherwise.
+    void fitBars();
+    // Room for the sentences that come and go, so that nothing moves below them.
+    int usualStateHeight() const;
     void showShares();
     void showState();
     void point();
@@ -107,6 +112,7 @@ private:
     QHash<QByteArray, Uses> m_measured;
     QHash<QByteArray, QString> m_failures;
 
+    QScrollArea *m_area;
     QWidget *m_inner;
     QLabel *m_state;
     QLabel *m_error;
