@@ -22,6 +22,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTreeView>
 
 using namespace Workbench;
@@ -71,6 +72,64 @@ QString pinNames(const ResultPage *page)
     for (const Utils::PinFigure &pin : pins)
         names.append(pin.name());
     return names.join(u' ');
+}
+
+// What somebody does, counted: a click is one action, and so is a key.
+class Person
+{
+public:
+    int actions = 0;
+
+    // Only what is seen and not covered can be clicked.
+    bool click(QWidget *widget, const QPoint &at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QWidget *window = widget->window();
+        if (!widget->isVisible() || !widget->isEnabled() ||
+            window->childAt(widget->mapTo(window, at)) != widget)
+            return false;
+        ++actions;
+        QTest::mouseClick(widget, button, {}, at);
+        return true;
+    }
+    bool click(QWidget *widget) { return click(widget, widget->rect().center()); }
+    bool click(QTabBar *tabs, const QString &title)
+    {
+        for (int i = 0; i < tabs->count(); ++i) {
+            if (tabs->tabText(i).remove(u'&') == title)
+                return click(tabs, tabs->tabRect(i).center());
+        }
+        return false;
+    }
+    // Two clicks.
+    void doubleClick(QWidget *widget, const QPoint &at)
+    {
+        actions += 2;
+        QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+        QTest::mouseDClick(widget, Qt::LeftButton, {}, at);
+    }
+    bool chooseFromMenu(QWidget *widget, const QPoint &at, const char *beginning)
+    {
+        if (!click(widget, at, Qt::RightButton))
+            return false;
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, widget->mapToGlobal(at));
+        QCoreApplication::sendEvent(widget, &event);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        const auto entries = menu ? menu->actions() : QList<QAction *>();
+        for (QAction *entry : entries) {
+            if (!entry->text().startsWith(QLatin1String(beginning)))
+                continue;
+            ++actions;
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+            return true;
+        }
+        return false;
+    }
+};
+
+// Where a block of the diagram is, by its place in the scene.
+QPoint placeOf(const QGraphicsView *view, const QPointF &corner)
+{
+    return view->mapFromScene(corner + QPointF(30, 20));
 }
 
 // A process that has ended but was not waited for is not alive.
@@ -151,6 +210,51 @@ private Q_SLOTS:
         // It stands in the project once.
         QCOMPARE(window()->project()->files(),
                  QStringList(ip + QStringLiteral("/tarvo_orix_m1.v")));
+    }
+
+    // As somebody does who has just made a project.
+    void configuredPreviewedUndoneAndGeneratedInTwelveActions()
+    {
+        window()->openProject(m_bench->makeProject());
+        window()->resize(1280, 800);
+        QVERIFY(QTest::qWaitForWindowExposed(window()));
+        QCoreApplication::processEvents(); // lays out
+        Person person;
+        bool isBegun = false;
+        bool isDone = false;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            // The IP's dialog is the parent of the block's, and comes up again when that goes.
+            if (isIpDialog(modal)) {
+                if (isBegun)
+                    return;
+                isBegun = true;
+                later(modal, [&person, &isDone, modal] {
+                    isDone = configure(modal, &person);
+                    if (!isDone)
+                        qobject_cast<QDialog *>(modal)->reject();
+                });
+            } else if (auto *gpio =
+                           modal->findChild<QCheckBox *>(QStringLiteral("enableGpioCheckBox"))) {
+                later(modal, [&person, modal, gpio] {
+                    QVERIFY(person.click(gpio, QPoint(8, gpio->height() / 2)));
+                    QVERIFY(gpio->isChecked());
+                    QVERIFY(person.click(Bench::ok(modal)));
+                });
+            }
+        });
+        auto *link = window()->findChild<QPushButton *>(QStringLiteral("createIpLink"));
+        QVERIFY(link);
+        QVERIFY(person.click(link));
+        QTRY_VERIFY_WITH_TIMEOUT(window()->tabs()->count() > 0 ||
+                                     (isBegun && !QApplication::activeModalWidget()),
+                                 120000);
+        QVERIFY2(isDone, qPrintable(QString::number(person.actions)));
+        checkResults(window()->project()->path() + QStringLiteral("/tarvo_orix_m1"),
+                     QStringLiteral("gpio"));
+        QVERIFY(
+            !pinNames(window()->results()).contains(QLatin1String("uart"), Qt::CaseInsensitive));
+        QVERIFY2(person.actions <= 12, qPrintable(QString::number(person.actions)));
+        QVERIFY(person.actions > 6); // it was not done behind the user's back
     }
 
     void aChangeOfLanguageTellsWhatIsLeftOver()
@@ -334,6 +438,43 @@ private Q_SLOTS:
 
 private:
     MainWindow *window() const { return m_bench->window.get(); }
+
+    // GPIO on in its dialog, UART0 on in its menu, a look at the preview, UART0 undone, OK.
+    static bool configure(QWidget *dialog, Person *person)
+    {
+        auto *view = dialog->findChild<QGraphicsView *>();
+        person->doubleClick(view->viewport(), placeOf(view, {170, 280}));
+        if (!person->chooseFromMenu(view->viewport(), placeOf(view, {30, 480}), "Switch UART0 On"))
+            return false;
+        QWidget *companion = nullptr;
+        const auto isThere = [&companion] {
+            const auto windows = QApplication::topLevelWidgets();
+            for (QWidget *window : windows) {
+                if (window->objectName() == QLatin1String("companion") && window->isVisible())
+                    companion = window;
+            }
+            return companion != nullptr;
+        };
+        if (!QTest::qWaitFor(isThere, 30000))
+            return false;
+        auto *tabs = companion->findChild<QTabBar *>();
+        if (!person->click(tabs, QStringLiteral("Preview")))
+            return false;
+        const auto isPreviewed = [companion] {
+            const auto labels = companion->findChildren<QLabel *>();
+            return std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+                return label->isVisible() &&
+                       label->text().startsWith(QLatin1String("OK would write"));
+            });
+        };
+        if (!QTest::qWaitFor(isPreviewed, 30000) || !person->click(tabs, QStringLiteral("Steps")))
+            return false;
+        auto *undo = companion->findChild<QPushButton *>(QStringLiteral("undoButton"));
+        QWidget *ok = dialog->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"))
+                          ->button(QDialogButtonBox::Ok);
+        const auto isReady = [undo] { return undo->isVisible() && undo->isEnabled(); };
+        return QTest::qWaitFor(isReady, 30000) && person->click(undo) && person->click(ok);
+    }
 
     void makeProjectByDialog()
     {
