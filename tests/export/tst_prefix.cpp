@@ -1,6 +1,8 @@
 // Names under a prefix: what is renamed and what is not, and that several subsystems stand in one
 // design, one program and one folder.
 
+#include "commandline.h"
+
 #include <drawnoptions.h>
 #include <testsupport.h>
 
@@ -15,7 +17,6 @@
 #include <rules/check.h>
 #include <system/systemmap.h>
 
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -24,33 +25,11 @@
 #include <optional>
 
 using namespace TARVOORIXM1;
+using Exported::run;
+using Exported::Run;
 
 namespace
 {
-
-struct Run {
-    int status = -1;
-    QString said;
-};
-
-Run run(const QString &folder, const QString &line)
-{
-    QProcess shell;
-    shell.setWorkingDirectory(folder);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("PATH"),
-                       QFileInfo(QStringLiteral(TARVO_COMMAND)).absolutePath() + u':' +
-                           environment.value(QStringLiteral("PATH")));
-    for (const char *variable : {"MAKEFLAGS", "MFLAGS", "MAKELEVEL"})
-        environment.remove(QString::fromLatin1(variable));
-    shell.setProcessEnvironment(environment);
-    shell.setProcessChannelMode(QProcess::MergedChannels);
-    shell.setStandardInputFile(QProcess::nullDevice());
-    shell.start(QStringLiteral("bash"), {QStringLiteral("-euc"), line});
-    if (!shell.waitForFinished(240000) || shell.exitStatus() != QProcess::NormalExit)
-        return {-1, QString::fromUtf8(shell.readAll())};
-    return {shell.exitCode(), QString::fromUtf8(shell.readAll())};
-}
 
 // Three configurations that differ in what they have, each with its prefix.
 struct Member {
