@@ -121,6 +121,8 @@ void MainWindow::Actions::addEditMenu()
     edit->addSeparator();
     find = add(edit, tr("&Find…"), QStringLiteral("find"), QKeySequence::Find,
                withPage([](EditorPage *page) { page->findBar()->start(); }));
+    replace = add(edit, tr("Rep&lace…"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_H),
+                  withPage([](EditorPage *page) { page->findBar()->startReplacing(); }));
     findNext = add(edit, tr("Find &Next"), {}, QKeySequence(Qt::Key_F3),
                    withPage([](EditorPage *page) { page->findBar()->findNext(); }));
     findPrevious = add(edit, tr("Find Pre&vious"), {}, QKeySequence(int(Qt::SHIFT) + Qt::Key_F3),
@@ -301,7 +303,7 @@ void MainWindow::Actions::refreshEditor()
         std::any_of(pages.begin(), pages.end(), [](EditorPage *any) { return any->isModified(); }));
     closeTab->setEnabled(tabs->count() > 0);
     startEditing->setEnabled(page && !page->isEditable() && !page->isLoading());
-    for (QAction *action : {find, findNext, findPrevious, goToLine, larger, smaller})
+    for (QAction *action : {find, replace, findNext, findPrevious, goToLine, larger, smaller})
         action->setEnabled(page != nullptr);
     for (QAction *action : {nextTab, previousTab})
         action->setEnabled(tabs->count() > 1);

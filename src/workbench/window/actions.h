@@ -28,6 +28,7 @@ public:
     QAction *startEditing;
     EditActions *editActions;
     QAction *find;
+    QAction *replace;
     QAction *findNext;
     QAction *findPrevious;
     QAction *goToLine;
