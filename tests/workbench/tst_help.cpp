@@ -50,6 +50,20 @@ private Q_SLOTS:
         QCOMPARE(row, headings.size());
     }
 
+    void theContentsFollowTheText()
+    {
+        HelpWindow *help = guide();
+        auto *contents = help->findChild<QTreeWidget *>(QStringLiteral("helpContents"));
+        const auto current = [contents] {
+            return contents->currentItem() ? contents->currentItem()->text(0) : QString();
+        };
+        QTRY_COMPARE(current(), QStringLiteral("User guide"));
+        QUrl url = help->browser()->source();
+        url.setFragment(QStringLiteral("memory-map"));
+        help->browser()->setSource(url);
+        QTRY_COMPARE(current(), QStringLiteral("Memory map"));
+    }
+
     void aSearchListsEveryPlaceAndLeadsThere()
     {
         HelpWindow *help = guide();

@@ -36,7 +36,7 @@ const QVector<Row> &rows()
         {editorTabWidth, Page::Editor, Kind::Number, QT_TRANSLATE_NOOP("Workbench", "&Tab width:"),
          8, 1, 16},
         {editorLineNumbers, Page::Editor, Kind::Toggle,
-         QT_TRANSLATE_NOOP("Workbench", "Show &line numbers"), 1},
+         QT_TRANSLATE_NOOP("Workbench", "Show line &numbers"), 1},
         {editorWrap, Page::Editor, Kind::Toggle, QT_TRANSLATE_NOOP("Workbench", "&Wrap long lines"),
          0},
         {editorExternal, Page::Editor, Kind::Command,
@@ -64,7 +64,7 @@ const QVector<Row> &rows()
         {"companion/measurePause", Page::Program, Kind::Number,
          QT_TRANSLATE_NOOP("Workbench", "Seconds &without a change before it:"), 5, 1, 600},
         {language, Page::Program, Kind::Choice,
-         QT_TRANSLATE_NOOP("Workbench", "&Language, from the next start on:")},
+         QT_TRANSLATE_NOOP("Workbench", "Lan&guage, from the next start on:")},
     };
     return table;
 }

@@ -251,7 +251,6 @@ HelpWindow::HelpWindow(QWidget *parent)
     parts->addWidget(m_browser);
     parts->setStretchFactor(1, 1);
     const int letter = fontMetrics().averageCharWidth();
-    parts->setSizes({letter * 34, letter * 96});
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -262,7 +261,10 @@ HelpWindow::HelpWindow(QWidget *parent)
             &HelpWindow::followScrolling);
     forwardFocus(this, m_browser);
     const QSize wanted(letter * 140, fontMetrics().height() * 46);
-    resize(wanted.boundedTo(IPCore::roomOnScreen(this)));
+    const QSize size = wanted.boundedTo(IPCore::roomOnScreen(this));
+    resize(size);
+    const int side = qMin(letter * 34, size.width() * 3 / 10);
+    parts->setSizes({side, size.width() - side});
 }
 
 void HelpWindow::buildSide()
@@ -325,7 +327,7 @@ void HelpWindow::fillContents()
         above.append({heading.level, item});
     }
     search();
-    followScrolling();
+    QTimer::singleShot(0, this, &HelpWindow::followScrolling); // when the text has its places
 }
 
 // The heading above what is seen is the current one.
@@ -333,8 +335,11 @@ void HelpWindow::followScrolling()
 {
     if (m_contents->hasFocus())
         return;
+    const bool isBegin = m_browser->verticalScrollBar()->value() == 0;
     const int top =
-        m_browser->cursorForPosition(QPoint(m_browser->viewport()->width() / 2, 4)).position();
+        isBegin ? 0
+                : m_browser->cursorForPosition(QPoint(m_browser->viewport()->width() / 2, 4))
+                      .position();
     QTreeWidgetItem *current = nullptr;
     for (QTreeWidgetItemIterator it(m_contents); *it; ++it) {
         if ((*it)->data(0, placeRole).toInt() > top)
