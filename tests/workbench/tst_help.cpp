@@ -57,6 +57,7 @@ private Q_SLOTS:
         const auto current = [contents] {
             return contents->currentItem() ? contents->currentItem()->text(0) : QString();
         };
+        help->browser()->verticalScrollBar()->setValue(0);
         QTRY_COMPARE(current(), QStringLiteral("User guide"));
         QUrl url = help->browser()->source();
         url.setFragment(QStringLiteral("memory-map"));

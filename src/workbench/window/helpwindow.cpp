@@ -335,11 +335,10 @@ void HelpWindow::followScrolling()
 {
     if (m_contents->hasFocus())
         return;
+    // A line below the edge: above a heading is room.
+    const QPoint place(m_browser->viewport()->width() / 2, fontMetrics().height());
     const bool isBegin = m_browser->verticalScrollBar()->value() == 0;
-    const int top =
-        isBegin ? 0
-                : m_browser->cursorForPosition(QPoint(m_browser->viewport()->width() / 2, 4))
-                      .position();
+    const int top = isBegin ? 0 : m_browser->cursorForPosition(place).position();
     QTreeWidgetItem *current = nullptr;
     for (QTreeWidgetItemIterator it(m_contents); *it; ++it) {
         if ((*it)->data(0, placeRole).toInt() > top)
