@@ -126,6 +126,53 @@ void saveDialog(const std::function<void()> &call, const char *name,
     call();
 }
 
+void savePicturesOfSettings(MainWindow &window)
+{
+    for (int page = 0; page < 3; ++page) {
+        const QByteArray name = "workbench-settings" + QByteArray::number(page);
+        saveDialog([&] { action(window, "Settings")->trigger(); }, name.constData(),
+                   [page](QWidget *dialog) {
+                       dialog->findChild<QTabWidget *>()->setCurrentIndex(page);
+                       if (auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("tools/vvp")))
+                           edit->setText(QStringLiteral("/opt/none/vvp"));
+                   });
+    }
+}
+
+// In a file, which is closed again, and in the guide.
+void savePicturesOfSearches(MainWindow &window)
+{
+    const QString file = window.project()->path() + QStringLiteral("/blink.v");
+    write(file, "module blink (input clk, output led);\n  reg [23:0] count;\n"
+                "  always @(posedge clk)\n    count <= count + 1;\n  assign led = count[23];\n"
+                "endmodule\n");
+    window.openPath(file);
+    EditorPage *page = window.tabs()->currentPage();
+    page->startEditing();
+    page->findBar()->startReplacing();
+    const auto type = [page](const char *field, const char *text) {
+        auto *edit = page->findBar()->findChild<QLineEdit *>(QLatin1String(field));
+        edit->setText(QLatin1String(text));
+        Q_EMIT edit->textEdited(edit->text());
+    };
+    type("findEdit", "count");
+    type("replaceEdit", "ticks");
+    page->findBar()->findNext();
+    save(&window, "workbench-replace", false);
+    page->findBar()->findChild<QAbstractButton *>(QStringLiteral("expressionBox"))->click();
+    type("findEdit", "count[");
+    save(&window, "workbench-replace-wrong", false);
+    window.tabs()->closeAll();
+    window.showGuide();
+    window.help()
+        ->findChild<QLineEdit *>(QStringLiteral("helpFindEdit"))
+        ->setText(QStringLiteral("memory map"));
+    save(window.help(), "workbench-guide-contents", false);
+    window.help()->findChild<QTabWidget *>(QStringLiteral("helpSide"))->setCurrentIndex(1);
+    save(window.help(), "workbench-guide-search", false);
+    window.help()->close();
+}
+
 // What stands beside the dialog of an IP, after a step that was taken back and one that was not.
 void savePicturesOfCompanion(MainWindow &window, const QString &ipc)
 {
@@ -284,6 +331,9 @@ int main(int argc, char *argv[])
     saveDialog([&] { action(window, "Device")->trigger(); }, "workbench-device");
     saveDialog([&] { action(window, "Plug-ins")->trigger(); }, "workbench-plugins");
     saveDialog([&] { action(window, "About Tarvo Workbench")->trigger(); }, "workbench-about");
+    savePicturesOfSettings(window);
+    if (all)
+        savePicturesOfSearches(window);
 
     Synthesis::RunReport done;
     QObject::connect(&IPCore::SynthesisMonitor::instance(), &IPCore::SynthesisMonitor::runFinished,

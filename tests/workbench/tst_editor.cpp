@@ -8,11 +8,13 @@
 #include <workbench/editor/editortabs.h>
 #include <workbench/editor/findbar.h>
 #include <workbench/editor/highlighting.h>
+#include <workbench/editor/search.h>
 #include <workbench/editor/textfile.h>
 #include <workbench/editor/unsavedcopy.h>
 #include <workbench/widgets/infobar.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -437,6 +439,329 @@ private Q_SLOTS:
         QVERIFY(page->findBar()->isHidden());
     }
 
+    void tellsWhichOfHowManyAndWhereItContinues()
+    {
+        write(m_path, "alpha\nbeta\nAlpha alphabet\n");
+        EditorPage *page = open();
+        page->findBar()->start();
+        type(page, "findEdit", "alpha");
+        QCOMPARE(state(page), QStringLiteral("1 of 3"));
+        page->findBar()->findNext();
+        page->findBar()->findNext();
+        QCOMPARE(state(page), QStringLiteral("3 of 3"));
+        page->findBar()->findNext();
+        QCOMPARE(state(page), QStringLiteral("1 of 3, continued at the start"));
+        page->findBar()->findPrevious();
+        QCOMPARE(state(page), QStringLiteral("3 of 3, continued at the end"));
+        page->findBar()->findPrevious();
+        QCOMPARE(state(page), QStringLiteral("2 of 3"));
+        page->editor()->moveCursor(QTextCursor::Start);
+        QCOMPARE(state(page), QStringLiteral("Matches: 3"));
+        check(page, "wholeWordsBox", true);
+        QCOMPARE(state(page), QStringLiteral("1 of 2"));
+        check(page, "matchCaseBox", true);
+        QCOMPARE(state(page), QStringLiteral("1 of 1"));
+        type(page, "findEdit", "lph");
+        QCOMPARE(state(page), QStringLiteral("Not found"));
+    }
+
+    void countsFollowTheText()
+    {
+        EditorPage *page = open();
+        page->startEditing();
+        page->findBar()->start();
+        type(page, "findEdit", "two");
+        QCOMPARE(state(page), QStringLiteral("1 of 1"));
+        page->editor()->moveCursor(QTextCursor::End);
+        page->editor()->insertPlainText(QStringLiteral("two two"));
+        QTRY_COMPARE(state(page), QStringLiteral("Matches: 3"));
+    }
+
+    void anExpressionFindsWhatItSays_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("expression");
+        QTest::addColumn<QStringList>("found");
+        const QString text = QStringLiteral("wire [7:0] a;\nwire b;\n\nreg b2;");
+        const auto row = [&](const char *name, const char *expression, const QStringList &found) {
+            QTest::newRow(name) << text << QString::fromUtf8(expression) << found;
+        };
+        row("begin of a line", "^wire", {QStringLiteral("wire"), QStringLiteral("wire")});
+        row("end of a line", "\\w+;$",
+            {QStringLiteral("a;"), QStringLiteral("b;"), QStringLiteral("b2;")});
+        row("empty lines", "^$", {QString()});
+        row("across lines", ";\\nwire", {QStringLiteral(";\nwire")});
+        row("across everything", "w[\\s\\S]*reg", {text.left(text.indexOf(QLatin1String(" b2")))});
+        row("looking back", "(?<=wire )b", {QStringLiteral("b")});
+        row("looking ahead", "b(?=2)", {QStringLiteral("b")});
+        row("the very begin", "\\Awire", {QStringLiteral("wire")});
+        row("the very end", ";\\z", {QStringLiteral(";")});
+        row("a group again", "(\\n)\\1", {QStringLiteral("\n\n")});
+        row("what begins later", "wire \\Kb", {QStringLiteral("b")});
+    }
+    void anExpressionFindsWhatItSays()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, expression);
+        QFETCH(QStringList, found);
+        Search search(text, {expression, false, false, true});
+        while (search.advance(0) == Search::Running)
+            ;
+        QCOMPARE(search.state(), Search::Done);
+        QStringList texts;
+        for (const Search::Place &place : search.places())
+            texts.append(text.mid(place.position, place.length));
+        QCOMPARE(texts, found);
+    }
+
+    // Against the same expression on the whole text at once: no piece is too short for a match.
+    void piecesFindWhatTheWholeTextHas_data()
+    {
+        QTest::addColumn<QString>("expression");
+        for (const char *expression :
+             {"a", "ab+", "b\\nc", "(?<=ab)c", "c[^a]*a", "\\bab\\b", "^a", "c$", "(a|ab)(c|bcd)?",
+              "x{3,}", "b{40,}", "(?:ab)+", "\\s+", "a.*c", "\\x{1F600}", "[^a]"})
+            QTest::newRow(expression) << QString::fromLatin1(expression);
+    }
+    void piecesFindWhatTheWholeTextHas()
+    {
+        QFETCH(QString, expression);
+        QString text;
+        quint32 random = 7;
+        for (int i = 0; i < 40000; ++i) {
+            random = random * 1664525U + 1013904223U;
+            const QStringList pieces{QStringLiteral("a"),  QStringLiteral("b"),
+                                     QStringLiteral("c"),  QStringLiteral(" "),
+                                     QStringLiteral("\n"), QString(int(random >> 8 & 63), u'b'),
+                                     QStringLiteral("x"),  QStringLiteral("\U0001F600")};
+            text += pieces.at(int(random >> 24 & 7));
+        }
+        const SearchFor wanted{expression, true, false, true};
+        Search search(text, wanted);
+        while (search.advance(0) == Search::Running)
+            ;
+        QVector<QPair<int, int>> got;
+        for (const Search::Place &place : search.places())
+            got.append({place.position, place.length});
+        QVector<QPair<int, int>> all;
+        auto matches = wanted.expression().globalMatch(text);
+        while (matches.hasNext()) {
+            const auto match = matches.next();
+            all.append({match.capturedStart(), match.capturedLength()});
+        }
+        QVERIFY(all.size() > 3);
+        QCOMPARE(got, all);
+        // And each is found again when it is replaced.
+        const Replacement same(QStringLiteral("$0"), search.groups());
+        for (int i = 0; i < got.size(); ++i) {
+            const auto edits = search.editsFor(i, same);
+            QCOMPARE(edits.size(), 1);
+            QCOMPARE(edits[0].text, text.mid(got[i].first, got[i].second));
+        }
+    }
+
+    void aWrongExpressionIsToldWithItsPlace()
+    {
+        EditorPage *page = open();
+        page->findBar()->start();
+        check(page, "expressionBox", true);
+        type(page, "findEdit", "mod(ule");
+        const QString told = message(page);
+        QVERIFY2(told.contains(QLatin1String("character 8")), qPrintable(told));
+        QCOMPARE(state(page), QString());
+        type(page, "findEdit", "mod(ule)");
+        QCOMPARE(message(page), QString());
+        QVERIFY(state(page).startsWith(QLatin1String("1 of")));
+    }
+
+    void anExpressionThatTakesForEverIsTold()
+    {
+        write(m_path, "ok\n" + QByteArray("a").repeated(5000) + "\nok\n");
+        EditorPage *page = open();
+        page->startEditing();
+        page->findBar()->startReplacing();
+        check(page, "expressionBox", true);
+        type(page, "findEdit", "(a+)+b|ok");
+        QTRY_VERIFY2_WITH_TIMEOUT(message(page).contains(QLatin1String("line 2")),
+                                  qPrintable(message(page)), 20000);
+        page->findBar()->replaceAll();
+        QTRY_VERIFY(message(page).contains(QLatin1String("Nothing was replaced")));
+        QVERIFY(!page->isModified());
+    }
+
+    void replacesOneAfterTheOther()
+    {
+        write(m_path, "a b a b a\n");
+        EditorPage *page = open();
+        page->startEditing();
+        page->findBar()->startReplacing();
+        type(page, "findEdit", "a");
+        type(page, "replaceEdit", "aa");
+        page->findBar()->replace();
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("aa b a b a\n"));
+        QCOMPARE(state(page), QStringLiteral("3 of 4"));
+        QTest::keyClick(page->findBar()->findChild<QLineEdit *>(QStringLiteral("replaceEdit")),
+                        Qt::Key_Return);
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("aa b aa b a\n"));
+        page->editor()->undo();
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("aa b a b a\n"));
+    }
+
+    void aReplacementKnowsGroups_data()
+    {
+        QTest::addColumn<QString>("replacement");
+        QTest::addColumn<QString>("text"); // empty: refused
+        QTest::newRow("dollar") << QStringLiteral("$2-$1") << QStringLiteral("b-a");
+        QTest::newRow("backslash") << QStringLiteral("\\2-\\1") << QStringLiteral("b-a");
+        QTest::newRow("braces") << QStringLiteral("${2}1") << QStringLiteral("b1");
+        QTest::newRow("everything") << QStringLiteral("<$0|\\0>") << QStringLiteral("<ab|ab>");
+        QTest::newRow("a digit behind") << QStringLiteral("$12") << QStringLiteral("a2");
+        QTest::newRow("dollar itself") << QStringLiteral("$$1") << QStringLiteral("$1");
+        QTest::newRow("backslash itself") << QStringLiteral("\\\\1") << QStringLiteral("\\1");
+        QTest::newRow("line end and tab")
+            << QStringLiteral("1\\n2\\t3") << QStringLiteral("1\n2\t3");
+        QTest::newRow("as it stands")
+            << QStringLiteral("\\q $x ${ $") << QStringLiteral("\\q $x ${ $");
+        QTest::newRow("no such group") << QStringLiteral("$3") << QString();
+        QTest::newRow("no such group in braces") << QStringLiteral("${12}") << QString();
+    }
+    void aReplacementKnowsGroups()
+    {
+        QFETCH(QString, replacement);
+        QFETCH(QString, text);
+        write(m_path, "ab");
+        EditorPage *page = open();
+        page->startEditing();
+        page->findBar()->startReplacing();
+        check(page, "expressionBox", true);
+        type(page, "findEdit", "(a)(b)");
+        type(page, "replaceEdit", replacement);
+        page->findBar()->replaceAll();
+        QCOMPARE(page->editor()->toPlainText(), text.isEmpty() ? QStringLiteral("ab") : text);
+        QCOMPARE(message(page).contains(QLatin1String("names group")), text.isEmpty());
+        // Without an expression every character stands for itself.
+        page->editor()->selectAll();
+        page->editor()->insertPlainText(QStringLiteral("ab"));
+        check(page, "expressionBox", false);
+        type(page, "findEdit", "ab");
+        page->findBar()->replaceAll();
+        QCOMPARE(page->editor()->toPlainText(), replacement);
+    }
+
+    void replacesOnlyWhileEditing()
+    {
+        EditorPage *page = open();
+        page->findBar()->startReplacing();
+        type(page, "findEdit", "two");
+        auto *all = page->findBar()->findChild<QPushButton *>(QStringLiteral("replaceAllButton"));
+        QVERIFY(!all->isEnabled());
+        QVERIFY(message(page).contains(QLatin1String("Ctrl+E")));
+        page->findBar()->replaceAll();
+        page->findBar()->replace();
+        QVERIFY(!page->isModified());
+        page->startEditing();
+        QVERIFY(all->isEnabled());
+        QCOMPARE(message(page), QString());
+        type(page, "replaceEdit", "2");
+        all->click();
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("module a;\n// 2\nendmodule\n"));
+        QVERIFY2(message(page).contains(QLatin1String("1")), qPrintable(message(page)));
+    }
+
+    void upBringsBackWhatWasLookedForInAnyFile()
+    {
+        EditorPage *page = open();
+        page->findBar()->start();
+        for (const char *text : {"first", "two"}) {
+            type(page, "findEdit", text);
+            page->findBar()->findNext();
+        }
+        QString error;
+        const QString other = m_dir->path() + QStringLiteral("/b.v");
+        write(other, "two first\n");
+        EditorPage *second = m_tabs->openFile(other, 0, &error);
+        second->findBar()->start();
+        auto *edit = second->findBar()->findChild<QLineEdit *>(QStringLiteral("findEdit"));
+        QCOMPARE(edit->text(), QStringLiteral("two"));
+        edit->clear();
+        QTest::keyClick(edit, Qt::Key_Up);
+        QCOMPARE(edit->text(), QStringLiteral("two"));
+        QTest::keyClick(edit, Qt::Key_Up);
+        QCOMPARE(edit->text(), QStringLiteral("first"));
+        QCOMPARE(state(second), QStringLiteral("1 of 1"));
+        QTest::keyClick(edit, Qt::Key_Down);
+        QCOMPARE(edit->text(), QStringLiteral("two"));
+    }
+
+    void aSelectionFillsTheField()
+    {
+        write(m_path, "a.b a+b a.b\n");
+        EditorPage *page = open();
+        QTextCursor cursor = page->editor()->textCursor();
+        cursor.setPosition(3, QTextCursor::KeepAnchor);
+        page->editor()->setTextCursor(cursor);
+        page->findBar()->start();
+        QCOMPARE(state(page), QStringLiteral("1 of 2"));
+        check(page, "expressionBox", true);
+        page->findBar()->start(); // as an expression that finds just this
+        QCOMPARE(page->findBar()->findChild<QLineEdit *>()->text(), QStringLiteral("a\\.b"));
+        QCOMPARE(state(page), QStringLiteral("1 of 2"));
+    }
+
+    // 60 MB with a match in each line: the window gets its turn again and again, and all of it is
+    // one step of undo.
+    void aLargeFileIsSearchedAndReplacedInPieces()
+    {
+        QByteArray bytes;
+        const int lines = 300000;
+        bytes.reserve(62 << 20);
+        for (int i = 0; i < lines; ++i)
+            bytes += QByteArray(200, char('c' + i % 20)) + (i % 3 ? "ab\n" : "\n");
+        write(m_path, bytes);
+        EditorPage *page = open();
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
+        page->startEditing();
+        page->findBar()->startReplacing();
+        check(page, "expressionBox", true);
+        type(page, "findEdit", "(a)(b)$");
+        QTRY_COMPARE_WITH_TIMEOUT(state(page),
+                                  QStringLiteral("1 of %1").arg(QLocale().toString(200000)), 60000);
+        type(page, "replaceEdit", "$2$1");
+        page->findBar()->replaceAll();
+        int turns = 0;
+        QTimer ticks;
+        connect(&ticks, &QTimer::timeout, &ticks, [&turns] { ++turns; });
+        ticks.start(0);
+        if (page->findBar()->isReplacing()) {
+            QVERIFY(page->isEditable());
+            QVERIFY(page->editor()->isReadOnly()); // for as long
+            QTRY_VERIFY_WITH_TIMEOUT(!page->findBar()->isReplacing(), 60000);
+            QVERIFY(turns > 3);
+        }
+        QVERIFY(!page->editor()->isReadOnly());
+        QVERIFY(m_tabs->savePage(page));
+        QCOMPARE(contentsOf(m_path), QByteArray(bytes).replace("ab\n", "ba\n"));
+        page->editor()->undo();
+        QVERIFY(m_tabs->savePage(page));
+        QCOMPARE(contentsOf(m_path), bytes);
+    }
+
+    void savingInTheMidstOfReplacingSavesAllOfIt()
+    {
+        write(m_path, QByteArray("a ").repeated(400000));
+        EditorPage *page = open();
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
+        page->startEditing();
+        page->findBar()->startReplacing();
+        type(page, "findEdit", "a");
+        type(page, "replaceEdit", "b");
+        page->findBar()->replaceAll();
+        QTRY_VERIFY_WITH_TIMEOUT(page->isModified(), 60000);
+        QVERIFY(m_tabs->savePage(page));
+        QCOMPARE(contentsOf(m_path), QByteArray("b ").repeated(400000));
+        QVERIFY(!page->findBar()->isReplacing());
+    }
+
     void lineNumbersHaveRoomForAllDigits()
     {
         CodeEditor editor;
@@ -448,6 +773,29 @@ private Q_SLOTS:
     }
 
 private:
+    static void type(EditorPage *page, const char *field, const QString &text)
+    {
+        auto *edit = page->findBar()->findChild<QLineEdit *>(QLatin1String(field));
+        edit->setText(text);
+        Q_EMIT edit->textEdited(text);
+    }
+    static void type(EditorPage *page, const char *field, const char *text)
+    {
+        type(page, field, QString::fromLatin1(text));
+    }
+    static void check(EditorPage *page, const char *box, bool isChecked)
+    {
+        page->findBar()->findChild<QCheckBox *>(QLatin1String(box))->setChecked(isChecked);
+    }
+    static QString state(EditorPage *page)
+    {
+        return page->findBar()->findChild<QLabel *>(QStringLiteral("findState"))->text();
+    }
+    static QString message(EditorPage *page)
+    {
+        return page->findBar()->findChild<QLabel *>(QStringLiteral("findMessage"))->text();
+    }
+
     EditorPage *open()
     {
         QString error;

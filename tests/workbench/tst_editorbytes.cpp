@@ -11,6 +11,7 @@
 #include <workbench/widgets/infobar.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -78,6 +79,15 @@ rc::Gen<QByteArray> anyText()
                                 text += part;
                             return text;
                         });
+}
+
+// Of a line end at that place of a file; 0: there is none.
+int lengthOfLineEnd(const QByteArray &bytes, int at, const TextFormat &format)
+{
+    if (bytes.mid(at, 2) == "\r\n")
+        return 2;
+    const QByteArray one = bytes.mid(at, 1);
+    return one == "\n" || (one == "\r" && format.lineEnd == TextFormat::Cr) ? 1 : 0;
 }
 
 // The lines of a file with their ends.
@@ -425,7 +435,7 @@ private Q_SLOTS:
             page->editor()->moveCursor(QTextCursor::Start);
             edit->setText(text);
             page->findBar()->findNext();
-            return page->findBar()->findChild<QLabel *>()->text().isEmpty();
+            return page->findBar()->findChild<QLabel *>()->text() != QLatin1String("Not found");
         };
         QVERIFY(finds(QStringLiteral("needle")));
         QCOMPARE(page->editor()->currentLine(), 2);
@@ -434,7 +444,113 @@ private Q_SLOTS:
         QVERIFY(!finds(QStringLiteral("noodle")));
     }
 
+    // Every file with every kind of line end and byte: what is found changes, nothing else does.
+    void replacingEverythingChangesNothingElse()
+    {
+        QVERIFY(rc::check([this] {
+            const QByteArray bytes = *anyText();
+            RC_PRE(!bytes.contains('Q'));
+            edit(bytes);
+            const int found = replaceAll("wire", "reg Q", false);
+            QByteArray wanted = bytes;
+            wanted.replace("wire", "reg Q");
+            RC_ASSERT(found == bytes.count("wire"));
+            RC_ASSERT(m_tabs->savePage(m_tabs->currentPage()));
+            RC_ASSERT(contentsOf(m_path) == wanted);
+            RC_ASSERT(replaceAll("reg Q", "wire", false) == found);
+            RC_ASSERT(m_tabs->savePage(m_tabs->currentPage()));
+            RC_ASSERT(contentsOf(m_path) == bytes);
+        }));
+    }
+
+    void replacingExpressionsAndBackGivesTheSameBytes()
+    {
+        QVERIFY(rc::check([this] {
+            const QByteArray bytes = *anyText();
+            RC_PRE(!bytes.contains('Q'));
+            EditorPage *page = edit(bytes);
+            const int found = replaceAll("(a)(.?)$", "Q$1\\2", true);
+            RC_ASSERT(replaceAll("Q(a)", "\\1", true) == found);
+            RC_ASSERT(m_tabs->savePage(page));
+            RC_ASSERT(contentsOf(m_path) == bytes);
+            // Nor do line ends change when whole lines do.
+            const int lines = replaceAll("^(.*)$", "Q$1Q", true);
+            RC_ASSERT(replaceAll("^Q(.*)Q$", "$1", true) == lines);
+            RC_ASSERT(m_tabs->savePage(page));
+            RC_ASSERT(contentsOf(m_path) == bytes);
+            // All of them are one step of undo.
+            RC_ASSERT(replaceAll(".", "<$0>", true) == 0 || page->isModified());
+            if (page->isModified())
+                page->editor()->undo();
+            RC_ASSERT(m_tabs->savePage(page));
+            RC_ASSERT(contentsOf(m_path) == bytes);
+        }));
+    }
+
+    void joinedAndPartedLinesKeepTheOtherEnds()
+    {
+        QVERIFY(rc::check([this] {
+            const QByteArray bytes = *anyText();
+            const TextFormat format = TextFormat::of(bytes);
+            edit(bytes);
+            replaceAll("\\n", "", true);
+            QByteArray wanted = bytes;
+            wanted.replace("\r\n", "");
+            wanted.replace("\n", "");
+            if (format.lineEnd == TextFormat::Cr)
+                wanted.replace("\r", "");
+            RC_ASSERT(m_tabs->savePage(m_tabs->currentPage()));
+            RC_ASSERT(contentsOf(m_path) == wanted);
+
+            // An end that stays one keeps its kind, and so do those of lines that are joined.
+            edit(bytes);
+            replaceAll("(a?)\\n", "$1;\\n", true);
+            RC_ASSERT(m_tabs->savePage(m_tabs->currentPage()));
+            wanted.clear();
+            for (int i = 0; i < bytes.size();) {
+                const int length = lengthOfLineEnd(bytes, i, format);
+                wanted += (length > 0 ? ";" : "") + bytes.mid(i, qMax(1, length));
+                i += qMax(1, length);
+            }
+            RC_ASSERT(contentsOf(m_path) == wanted);
+
+            edit(bytes);
+            replaceAll("a\\n", "a", true);
+            RC_ASSERT(m_tabs->savePage(m_tabs->currentPage()));
+            wanted.clear();
+            for (int i = 0; i < bytes.size(); ++i) {
+                wanted += bytes.at(i);
+                if (bytes.at(i) == 'a')
+                    i += lengthOfLineEnd(bytes, i + 1, format);
+            }
+            RC_ASSERT(contentsOf(m_path) == wanted);
+        }));
+    }
+
 private:
+    // The number that was found.
+    int replaceAll(const char *what, const char *with, bool isExpression)
+    {
+        FindBar *bar = m_tabs->currentPage()->findBar();
+        bar->startReplacing();
+        bar->findChild<QCheckBox *>(QStringLiteral("matchCaseBox"))->setChecked(true);
+        bar->findChild<QCheckBox *>(QStringLiteral("expressionBox"))->setChecked(isExpression);
+        bar->findChild<QLineEdit *>(QStringLiteral("findEdit"))->setText(QLatin1String(what));
+        bar->findChild<QLineEdit *>(QStringLiteral("replaceEdit"))->setText(QLatin1String(with));
+        bar->replaceAll();
+        QElapsedTimer clock;
+        clock.start();
+        auto *told = bar->findChild<QLabel *>(QStringLiteral("findMessage"));
+        auto *state = bar->findChild<QLabel *>(QStringLiteral("findState"));
+        while (told->text().isEmpty() && state->text() != QLatin1String("Not found") &&
+               clock.elapsed() < 10000)
+            QCoreApplication::processEvents();
+        const QString text = told->text();
+        const QString before = QStringLiteral("Replaced matches: ");
+        return text.startsWith(before) ? text.mid(before.size()).remove(u'.').remove(u',').toInt()
+                                       : 0;
+    }
+
     EditorPage *open()
     {
         QString error;

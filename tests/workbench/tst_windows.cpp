@@ -652,9 +652,10 @@ private:
     static void addScenes()
     {
         QTest::addColumn<QString>("scene");
-        for (const char *scene : {"start", "project", "editor", "results", "log", "new project",
-                                  "device", "plug-ins", "about", "line", "guide", "message", "kept",
-                                  "software", "datasheet", "program", "simulation", "example"})
+        for (const char *scene :
+             {"start",    "project", "editor",   "results",   "log",     "new project", "device",
+              "plug-ins", "about",   "settings", "tools",     "replace", "line",        "guide",
+              "message",  "kept",    "software", "datasheet", "program", "simulation",  "example"})
             QTest::newRow(scene) << QString::fromLatin1(scene);
     }
 
@@ -668,6 +669,8 @@ private:
             look(window);
         };
         const ModalWatcher watcher([&](QWidget *modal) {
+            if (scene == QLatin1String("tools"))
+                modal->findChild<QTabWidget *>()->setCurrentIndex(1);
             lookOnce(modal);
             if (auto *dialog = qobject_cast<QDialog *>(modal))
                 dialog->reject();
@@ -682,6 +685,8 @@ private:
             m_bench->action("Plug-ins")->trigger();
         } else if (scene == QLatin1String("about")) {
             m_bench->action("About Tarvo Workbench")->trigger();
+        } else if (scene == QLatin1String("settings") || scene == QLatin1String("tools")) {
+            m_bench->action("Settings")->trigger();
         } else if (scene == QLatin1String("kept")) {
             m_bench->action("Bring Back a Configuration")->trigger();
         } else if (scene == QLatin1String("message")) {
@@ -697,6 +702,8 @@ private:
             window()->resize(smallScreen());
             if (scene == QLatin1String("project"))
                 window()->tabs()->closeAll();
+            if (scene == QLatin1String("replace"))
+                window()->tabs()->currentPage()->findBar()->startReplacing();
             if (scene == QLatin1String("results"))
                 m_bench->action("Results of the Last Run")->trigger();
             if (scene == QLatin1String("software") || scene == QLatin1String("datasheet"))

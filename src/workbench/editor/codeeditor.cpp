@@ -92,6 +92,8 @@ int CodeEditor::currentLine() const
 
 int CodeEditor::lineNumberWidth() const
 {
+    if (!m_hasLineNumbers)
+        return 0;
     const int digits = qMax(3, QString::number(blockCount()).size());
     return fontMetrics().horizontalAdvance(u'9') * (digits + 2);
 }
@@ -100,6 +102,7 @@ void CodeEditor::layoutLineNumbers()
 {
     const int width = lineNumberWidth();
     setViewportMargins(width, 0, 0, 0);
+    setTabStopDistance(m_tabWidth * fontMetrics().horizontalAdvance(u' '));
     const QRect inner = contentsRect();
     m_lineNumbers->setGeometry(inner.left(), inner.top(), width, inner.height());
 }
@@ -124,6 +127,19 @@ void CodeEditor::paintLineNumbers(QPaintEvent *event)
         block = block.next();
         top += height;
     }
+}
+
+void CodeEditor::setLook(const EditorLook &look)
+{
+    const int zoom = m_zoom;
+    m_zoom = 0;
+    m_tabWidth = look.tabWidth;
+    m_hasLineNumbers = look.hasLineNumbers;
+    m_lineNumbers->setVisible(look.hasLineNumbers);
+    setLineWrapMode(look.wraps ? WidgetWidth : NoWrap);
+    setFont(look.font);
+    zoomBy(zoom);
+    layoutLineNumbers();
 }
 
 void CodeEditor::zoomBy(int steps)

@@ -9,6 +9,14 @@ QT_FORWARD_DECLARE_CLASS(QTextBlock)
 namespace Workbench
 {
 
+// How the text is shown, as people choose it.
+struct EditorLook {
+    QFont font;
+    int tabWidth = 8; // characters
+    bool hasLineNumbers = true;
+    bool wraps = false;
+};
+
 // A plain text editor with line numbers and a mark at the line of the cursor. Its text is one of
 // TextFormat: it shows the stand-ins and marks as what they are, and copies and pastes accordingly.
 class CodeEditor : public QPlainTextEdit
@@ -25,6 +33,9 @@ public:
 
     // The text as TextFormat::encode() takes it. toPlainText() changes some characters.
     QString shownText() const { return document()->toRawText(); }
+
+    // What was made larger or smaller stays so.
+    void setLook(const EditorLook &look);
 
     int lineNumberWidth() const;
     void paintLineNumbers(QPaintEvent *event);
@@ -56,6 +67,8 @@ private:
 
     QWidget *m_lineNumbers;
     int m_zoom = 0;
+    int m_tabWidth = 8;
+    bool m_hasLineNumbers = true;
 };
 
 } // namespace Workbench

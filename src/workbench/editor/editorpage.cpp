@@ -52,6 +52,7 @@ QByteArray EditorPage::digestOf(const QByteArray &bytes)
 
 bool EditorPage::load(QString *error)
 {
+    m_findBar->finishReplacing();
     const auto refuse = [this, error](const QString &reason) {
         *error = tr("Cannot show \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), reason);
         return false;
@@ -159,7 +160,7 @@ bool EditorPage::isModified() const
 
 bool EditorPage::isEditable() const
 {
-    return !m_editor->isReadOnly();
+    return !m_editor->isReadOnly() || m_findBar->isReplacing();
 }
 
 void EditorPage::startEditing()
@@ -174,6 +175,7 @@ void EditorPage::startEditing()
     }
     m_infoBar->hide();
     m_editor->setReadOnly(false);
+    m_findBar->setEditable(true);
     m_editor->setFocus();
     Q_EMIT stateChanged();
 }
@@ -188,6 +190,7 @@ void EditorPage::offerEditing()
 
 bool EditorPage::save(QString *error)
 {
+    m_findBar->finishReplacing();
     const QString text = m_editor->shownText();
     const int missing = m_format.firstMissing(text);
     m_needsUtf8 = missing >= 0;
@@ -219,6 +222,7 @@ void EditorPage::convertToUtf8()
 
 QString EditorPage::keepChanges(QString *error) const
 {
+    m_findBar->finishReplacing();
     const QString text = m_editor->shownText();
     TextFormat format = m_format;
     if (!format.canEncode(text))

@@ -57,6 +57,8 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         if (!opened->load(error))
             return nullptr;
         page = opened.release();
+        if (m_look)
+            page->editor()->setLook(*m_look);
         const int index = addTab(page, symbolIcon(QStringLiteral("file")), QString());
         setTabToolTip(index, QDir::toNativeSeparators(plain));
         connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
@@ -76,6 +78,14 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         page->goToLine(line);
     watch();
     return page;
+}
+
+void EditorTabs::setLook(const EditorLook &look)
+{
+    m_look = std::make_unique<EditorLook>(look);
+    const QList<EditorPage *> all = pages();
+    for (EditorPage *page : all)
+        page->editor()->setLook(look);
 }
 
 EditorPage *EditorTabs::currentPage() const

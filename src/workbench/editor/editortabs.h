@@ -1,8 +1,12 @@
 #pragma once
 
+#include "codeeditor.h"
+
 #include <QFileSystemWatcher>
 #include <QTabWidget>
 #include <QTimer>
+
+#include <memory>
 
 namespace Workbench
 {
@@ -25,6 +29,9 @@ public:
     QList<EditorPage *> pages() const;
     // Shows a page that is no file.
     void showPage(QWidget *page, const QIcon &icon, const QString &title);
+
+    // Of the pages that there are and those that come.
+    void setLook(const EditorLook &look);
 
     // Reports a failure in the page and returns false then.
     bool savePage(EditorPage *page);
@@ -51,6 +58,7 @@ private:
     // Asks what to do with unsaved changes of these pages; true if the tabs may go.
     bool settle(const QList<EditorPage *> &changed);
 
+    std::unique_ptr<EditorLook> m_look; // null: as an editor is made
     QFileSystemWatcher m_watcher;
     QTimer m_diskTimer;
 };

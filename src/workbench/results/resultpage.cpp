@@ -145,6 +145,7 @@ ResultPage::ResultPage(QWidget *parent)
 
 void ResultPage::setReport(const Synthesis::RunReport &report, const QMap<QString, int> &before)
 {
+    m_report = report;
     const QString name =
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
     m_heading->setText(tr("%1 for %2").arg(name, report.job.device.partNumber()));

@@ -38,6 +38,8 @@ public:
     // `before`: what each resource was used in the run before of the same IP; empty if there was
     // none, and then nothing is compared.
     void setReport(const Synthesis::RunReport &report, const QMap<QString, int> &before = {});
+    // What setReport() was given.
+    const Synthesis::RunReport &report() const { return m_report; }
     // The files that the IP delivered, shown before those of the run itself. Full paths. With a
     // configuration among them the page offers to change the IP. Those of an earlier run in the
     // other language come last, and the page offers to take them out of `sources`, the project's.
@@ -68,6 +70,7 @@ private:
     // Shows the figure in its whole width, until the user chooses a scale.
     void fitFigure();
 
+    Synthesis::RunReport m_report;
     QLabel *m_heading;
     QLabel *m_summary;
     QLabel *m_age;

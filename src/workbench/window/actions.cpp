@@ -17,6 +17,8 @@
 #include "project/projectpane.h"
 #include "projectactions.h"
 #include "results/lastrun.h"
+#include "results/tablefiles.h"
+#include "settings/settingstable.h"
 #include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
 
@@ -103,6 +105,18 @@ void MainWindow::Actions::addFileMenu()
     closeTab = add(file, tr("&Close Tab"), {}, QKeySequence::Close,
                    [window] { window->m_tabs->closeTab(window->m_tabs->currentIndex()); });
     file->addSeparator();
+    exportMenu = file->addMenu(tr("&Export"));
+    exportDiagram =
+        add(exportMenu, tr("&Block Diagram…"), {}, nothing, [window] { window->exportDiagram(); });
+    exportDiagram->setStatusTip(
+        tr("Writes the diagram of the IP that is selected in the project as SVG, PNG or PDF"));
+    for (const TableFiles::Table table : TableFiles::tables()) {
+        QAction *action = add(exportMenu, TableFiles::titleOf(table), {}, nothing,
+                              [window, table] { window->exportTable(int(table)); });
+        action->setStatusTip(tr("Writes a table of the last run as CSV, JSON or Markdown"));
+        exportTables.append(action);
+    }
+    file->addSeparator();
     add(file, tr("&Quit"), {}, QKeySequence::Quit, [window] { window->close(); });
 }
 
@@ -121,12 +135,20 @@ void MainWindow::Actions::addEditMenu()
     edit->addSeparator();
     find = add(edit, tr("&Find…"), QStringLiteral("find"), QKeySequence::Find,
                withPage([](EditorPage *page) { page->findBar()->start(); }));
+    replace = add(edit, tr("Rep&lace…"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_H),
+                  withPage([](EditorPage *page) { page->findBar()->startReplacing(); }));
     findNext = add(edit, tr("Find &Next"), {}, QKeySequence(Qt::Key_F3),
                    withPage([](EditorPage *page) { page->findBar()->findNext(); }));
     findPrevious = add(edit, tr("Find Pre&vious"), {}, QKeySequence(int(Qt::SHIFT) + Qt::Key_F3),
                        withPage([](EditorPage *page) { page->findBar()->findPrevious(); }));
     goToLine = add(edit, tr("&Go to Line…"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_G),
                    [window] { window->goToLine(); });
+    external = add(edit, tr("Open in E&xternal Editor"), {}, Keys(),
+                   [window] { window->openExternally(); });
+    external->setStatusTip(tr("Starts the program that the settings name, with the file and line"));
+    edit->addSeparator();
+    add(edit, tr("&Settings…"), {}, QKeySequence(int(Qt::CTRL) + Qt::Key_Comma),
+        [window] { window->editSettings(); });
 }
 
 void MainWindow::Actions::addViewMenu()
@@ -287,6 +309,8 @@ void MainWindow::Actions::refresh()
     nextMessage->setEnabled(hasPlaces);
     previousMessage->setEnabled(hasPlaces);
     showResults->setEnabled(m_window->m_lastRun->isThere());
+    for (QAction *action : qAsConst(exportTables))
+        action->setEnabled(m_window->m_lastRun->isThere());
     const int ip = m_window->m_catalogueView->currentIp();
     ipHelp->setEnabled(ip >= 0 && !m_window->m_catalogue.entries().at(ip).help.isEmpty());
 }
@@ -301,11 +325,13 @@ void MainWindow::Actions::refreshEditor()
         std::any_of(pages.begin(), pages.end(), [](EditorPage *any) { return any->isModified(); }));
     closeTab->setEnabled(tabs->count() > 0);
     startEditing->setEnabled(page && !page->isEditable() && !page->isLoading());
-    for (QAction *action : {find, findNext, findPrevious, goToLine, larger, smaller})
+    for (QAction *action : {find, replace, findNext, findPrevious, goToLine, larger, smaller})
         action->setEnabled(page != nullptr);
     for (QAction *action : {nextTab, previousTab})
         action->setEnabled(tabs->count() > 1);
     goToEditor->setEnabled(tabs->count() > 0);
+    external->setEnabled(
+        page && !Settings::textOf(m_window->m_settings, Settings::editorExternal).isEmpty());
 }
 
 void MainWindow::Actions::refreshProject()
@@ -316,6 +342,7 @@ void MainWindow::Actions::refreshProject()
     const QModelIndex selected = m_window->m_projectPane->selected();
     openSelected->setEnabled(!m_window->m_projectPane->selectedFile().isEmpty());
     openAsText->setEnabled(model->isIp(selected));
+    exportDiagram->setEnabled(model->isIp(selected));
     const IpCatalogue &catalogue = m_window->m_catalogue;
     const int ip = model->isIp(selected)
                        ? catalogue.indexOf(selected.data(ProjectModel::TypeRole).toString())

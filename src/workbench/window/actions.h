@@ -2,6 +2,8 @@
 
 #include "mainwindow.h"
 
+#include <QList>
+
 QT_FORWARD_DECLARE_CLASS(QAction)
 QT_FORWARD_DECLARE_CLASS(QMenu)
 
@@ -21,6 +23,10 @@ public:
 
     QMenu *recentMenu;
     QMenu *viewMenu;
+    QMenu *exportMenu;
+    QAction *exportDiagram;
+    QList<QAction *> exportTables;
+    QAction *external;
     QAction *closeProject;
     QAction *save;
     QAction *saveAll;
@@ -28,6 +34,7 @@ public:
     QAction *startEditing;
     EditActions *editActions;
     QAction *find;
+    QAction *replace;
     QAction *findNext;
     QAction *findPrevious;
     QAction *goToLine;

@@ -12,6 +12,34 @@
 namespace Workbench
 {
 
+namespace
+{
+
+// What the guide says of a part of the window; the innermost that has a row counts.
+struct Topic {
+    const char *widget; // its class or its object's name
+    const char *heading;
+};
+
+constexpr Topic topics[] = {
+    {"Workbench::FindBar", "find-and-replace"},
+    {"Workbench::EditorPage", "files-and-projects"},
+    {"Workbench::SoftwarePage", "hand-off"},
+    {"Workbench::SimulationPage", "simulation"},
+    {"Workbench::MapView", "maps"},
+    {"Workbench::ResultPage", "use-the-results"},
+    {"Workbench::Companion", "beside-the-dialog-of-an-ip"},
+    {"Workbench::SettingsDialog", "settings"},
+    {"Workbench::PluginsDialog", "plug-ins"},
+    {"Workbench::MoveDialog", "another-device"},
+    {"Workbench::KeptDialog", "nothing-of-an-ip-is-lost"},
+    {"projectDock", "files-and-projects"},
+    {"catalogueDock", "the-workbench"},
+    {"outputDock", "files-and-projects"},
+};
+
+} // namespace
+
 HelpDesk::HelpDesk(const IpCatalogue &catalogue, QWidget *window)
     : QObject(window)
     , m_catalogue(catalogue)
@@ -25,7 +53,7 @@ HelpWindow *HelpDesk::helpWindow() const
     return m_help;
 }
 
-void HelpDesk::showDocument(const QString &path, const QString &title)
+void HelpDesk::showDocument(const QString &path, const QString &title, const QString &heading)
 {
     QWidget *modal = QApplication::activeModalWidget();
     QWidget *parent = modal ? modal : m_window;
@@ -33,16 +61,36 @@ void HelpDesk::showDocument(const QString &path, const QString &title)
         delete m_help;
     if (!m_help)
         m_help = new HelpWindow(parent);
-    if (!m_help->showDocument(path, title))
+    if (!m_help->showDocument(path, title, heading))
         showError(m_window, tr("\"%1\" cannot be read.").arg(QDir::toNativeSeparators(path)));
 }
 
-void HelpDesk::showGuide()
+QString HelpDesk::headingFor(const QWidget *focus)
+{
+    for (const QWidget *widget = focus; widget; widget = widget->parentWidget()) {
+        for (const Topic &topic : topics) {
+            if (widget->inherits(topic.widget) ||
+                widget->objectName() == QLatin1String(topic.widget))
+                return QLatin1String(topic.heading);
+        }
+    }
+    return {};
+}
+
+QStringList HelpDesk::headings()
+{
+    QStringList result;
+    for (const Topic &topic : topics)
+        result.append(QLatin1String(topic.heading));
+    return result;
+}
+
+void HelpDesk::showGuide(const QString &heading)
 {
     for (const QString &folder : m_catalogue.dataFolders()) {
         const QString path = folder + QLatin1String("/guide/user-guide.md");
         if (QFileInfo(path).isFile()) {
-            showDocument(path, tr("User Guide"));
+            showDocument(path, tr("User Guide"), heading);
             return;
         }
     }
@@ -73,7 +121,7 @@ bool HelpDesk::eventFilter(QObject *watched, QEvent *event)
     if (hasDocument)
         showIp(m_dialogIp);
     else
-        showGuide();
+        showGuide(headingFor(static_cast<QWidget *>(watched)));
     return true;
 }
 

@@ -21,7 +21,12 @@ public:
 
     // Null while there is none.
     HelpWindow *helpWindow() const;
-    void showGuide();
+    // At a heading, as links name it; empty: where it was left, or its begin.
+    void showGuide(const QString &heading = {});
+    // The heading of the guide that is about the place with the focus; empty: about none.
+    static QString headingFor(const QWidget *focus);
+    // All that headingFor() gives.
+    static QStringList headings();
     // The document of an IP of the catalogue.
     void showIp(int ip);
     // Whose dialog is open, for F1; -1: nobody's.
@@ -31,7 +36,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void showDocument(const QString &path, const QString &title);
+    void showDocument(const QString &path, const QString &title, const QString &heading = {});
 
     const IpCatalogue &m_catalogue;
     QWidget *m_window;

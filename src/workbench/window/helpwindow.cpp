@@ -1,6 +1,7 @@
 #include "helpwindow.h"
 
 #include "widgets/focusforward.h"
+#include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
 
 #include <ipcore/screenfit.h>
@@ -10,11 +11,17 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
+#include <QSplitter>
+#include <QTabWidget>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTimer>
 #include <QToolBar>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 namespace Workbench
@@ -24,6 +31,9 @@ namespace
 {
 
 constexpr qint64 sizeLimit = 16 << 20; // bytes
+constexpr int mostResults = 300;
+constexpr int placeRole = Qt::UserRole;
+constexpr int lengthRole = Qt::UserRole + 1;
 
 QByteArray contents(const QUrl &url)
 {
@@ -56,10 +66,49 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     setAccessibleName(tr("Help"));
     setOpenExternalLinks(false);
     document()->setDocumentMargin(fontMetrics().height());
-    // A bar that comes and goes while one document takes the place of another changes the width, and
-    // with it the pictures.
+    // A bar that comes and goes while one document takes the place of another changes the width,
+    // and with it the pictures.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::finishSource);
+}
+
+QVector<HelpBrowser::Heading> HelpBrowser::headings() const
+{
+    QVector<Heading> result;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        if (const int level = block.blockFormat().headingLevel())
+            result.append({level, block.text(), block.position()});
+    }
+    return result;
+}
+
+void HelpBrowser::goTo(int position, int length)
+{
+    QTextCursor cursor(document());
+    const int last = document()->characterCount() - 1;
+    cursor.setPosition(qMin(position, last));
+    cursor.setPosition(qMin(position + length, last), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    verticalScrollBar()->setValue(int(
+        document()->documentLayout()->blockBoundingRect(document()->findBlock(position)).top()));
+    ensureCursorVisible();
+}
+
+void HelpBrowser::zoomBy(int steps)
+{
+    const int wanted = steps == 0 ? 0 : qBound(-5, m_zoom + steps, 20);
+    zoomIn(wanted - m_zoom);
+    m_zoom = wanted;
+}
+
+void HelpBrowser::wheelEvent(QWheelEvent *event)
+{
+    if (event->modifiers() & Qt::ControlModifier) {
+        zoomBy(event->angleDelta().y() > 0 ? 1 : -1);
+        event->accept();
+        return;
+    }
+    QTextBrowser::wheelEvent(event);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl &name)
@@ -96,6 +145,7 @@ void HelpBrowser::finishSource(const QUrl &url)
         colourLinks();
         edit.endEditBlock();
         m_loaded.clear();
+        Q_EMIT documentShown();
     }
     if (url.hasFragment() && !goToHeading(url.fragment()))
         scrollToAnchor(url.fragment());
@@ -129,9 +179,7 @@ bool HelpBrowser::goToHeading(const QString &name)
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0 || linkName(block.text()) != name)
             continue;
-        setTextCursor(QTextCursor(block));
-        verticalScrollBar()->setValue(
-            int(document()->documentLayout()->blockBoundingRect(block).top()));
+        goTo(block.position());
         return true;
     }
     return false;
@@ -152,6 +200,11 @@ void HelpBrowser::resizeEvent(QResizeEvent *event)
 HelpWindow::HelpWindow(QWidget *parent)
     : QWidget(parent, Qt::Window)
     , m_browser(new HelpBrowser)
+    , m_side(new QTabWidget)
+    , m_contents(nullptr)
+    , m_wanted(new QLineEdit)
+    , m_results(nullptr)
+    , m_found(new QLabel)
 {
     setObjectName(QStringLiteral("helpWindow"));
     setWindowIcon(applicationIcon());
@@ -170,23 +223,187 @@ HelpWindow::HelpWindow(QWidget *parent)
     forward->setEnabled(false);
     connect(m_browser, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    bar->addSeparator();
+    const auto addOwn = [&](const QString &text, const QList<QKeySequence> &keys, auto slot) {
+        QAction *action = bar->addAction(text);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    addOwn(tr("&Larger"), keysOf(QKeySequence::ZoomIn), [this] { m_browser->zoomBy(1); });
+    addOwn(tr("&Smaller"), keysOf(QKeySequence::ZoomOut), [this] { m_browser->zoomBy(-1); });
+    addOwn(tr("&Usual Size"), {QKeySequence(int(Qt::CTRL) + Qt::Key_0)},
+           [this] { m_browser->zoomBy(0); });
+    bar->addSeparator();
+    addOwn(tr("&Contents"), {QKeySequence(int(Qt::CTRL) + Qt::Key_1)}, [this] {
+        m_side->setCurrentIndex(0);
+        m_contents->setFocus();
+    });
+    addOwn(tr("F&ind"), keysOf(QKeySequence::Find), [this] {
+        m_side->setCurrentIndex(1);
+        m_wanted->setFocus();
+        m_wanted->selectAll();
+    });
+    buildSide();
+    auto *parts = new QSplitter;
+    parts->setObjectName(QStringLiteral("helpParts"));
+    parts->setChildrenCollapsible(false);
+    parts->addWidget(m_side);
+    parts->addWidget(m_browser);
+    parts->setStretchFactor(1, 1);
+    const int letter = fontMetrics().averageCharWidth();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(bar);
-    layout->addWidget(m_browser, 1);
+    layout->addWidget(parts, 1);
+    connect(m_browser, &HelpBrowser::documentShown, this, &HelpWindow::fillContents);
+    connect(m_browser->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &HelpWindow::followScrolling);
     forwardFocus(this, m_browser);
-    const QSize wanted(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 46);
-    resize(wanted.boundedTo(IPCore::roomOnScreen(this)));
+    const QSize wanted(letter * 140, fontMetrics().height() * 46);
+    const QSize size = wanted.boundedTo(IPCore::roomOnScreen(this));
+    resize(size);
+    const int side = qMin(letter * 34, size.width() * 3 / 10);
+    parts->setSizes({side, size.width() - side});
 }
 
-bool HelpWindow::showDocument(const QString &path, const QString &title)
+void HelpWindow::buildSide()
+{
+    const auto tree = [this](const char *objectName, const QString &name) {
+        auto *result = new QTreeWidget;
+        result->setObjectName(QLatin1String(objectName));
+        result->setAccessibleName(name);
+        result->setHeaderHidden(true);
+        result->setTextElideMode(Qt::ElideRight);
+        result->installEventFilter(this);
+        connect(result, &QTreeWidget::itemActivated, this, &HelpWindow::open);
+        connect(result, &QTreeWidget::itemClicked, this, &HelpWindow::open);
+        return result;
+    };
+    m_contents = tree("helpContents", tr("Contents"));
+    m_results = tree("helpResults", tr("Places in the text"));
+    m_results->setRootIsDecorated(false);
+    m_results->setWordWrap(true);
+    m_wanted->setObjectName(QStringLiteral("helpFindEdit"));
+    m_wanted->setAccessibleName(tr("Find in the text"));
+    m_wanted->setPlaceholderText(tr("Find in the text"));
+    m_wanted->setClearButtonEnabled(true);
+    m_wanted->installEventFilter(this);
+    connect(m_wanted, &QLineEdit::textChanged, this, &HelpWindow::search);
+    connect(m_wanted, &QLineEdit::returnPressed, this, [this] {
+        if (m_results->topLevelItemCount() > 0) {
+            m_results->setCurrentItem(m_results->topLevelItem(0));
+            m_results->setFocus();
+            open(m_results->topLevelItem(0));
+        }
+    });
+    m_found->setObjectName(QStringLiteral("helpFound"));
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(2, 4, 2, 0);
+    layout->addWidget(m_wanted);
+    layout->addWidget(m_found);
+    layout->addWidget(m_results, 1);
+    m_side->setObjectName(QStringLiteral("helpSide"));
+    m_side->setDocumentMode(true);
+    m_side->addTab(m_contents, tr("Contents"));
+    m_side->addTab(page, tr("Find"));
+}
+
+void HelpWindow::fillContents()
+{
+    m_contents->clear();
+    QVector<QPair<int, QTreeWidgetItem *>> above; // with their levels
+    const QVector<HelpBrowser::Heading> headings = m_browser->headings();
+    for (const HelpBrowser::Heading &heading : headings) {
+        while (!above.isEmpty() && above.last().first >= heading.level)
+            above.removeLast();
+        auto *item = above.isEmpty() ? new QTreeWidgetItem(m_contents)
+                                     : new QTreeWidgetItem(above.last().second);
+        item->setText(0, heading.text);
+        item->setToolTip(0, heading.text);
+        item->setData(0, placeRole, heading.position);
+        item->setExpanded(heading.level < 2);
+        above.append({heading.level, item});
+    }
+    search();
+    QTimer::singleShot(0, this, &HelpWindow::followScrolling); // when the text has its places
+}
+
+// The heading above what is seen is the current one.
+void HelpWindow::followScrolling()
+{
+    if (m_contents->hasFocus())
+        return;
+    // A line below the edge: above a heading is room.
+    const QPoint place(m_browser->viewport()->width() / 2, fontMetrics().height());
+    const bool isBegin = m_browser->verticalScrollBar()->value() == 0;
+    const int top = isBegin ? 0 : m_browser->cursorForPosition(place).position();
+    QTreeWidgetItem *current = nullptr;
+    for (QTreeWidgetItemIterator it(m_contents); *it; ++it) {
+        if ((*it)->data(0, placeRole).toInt() > top)
+            break;
+        current = *it;
+    }
+    m_contents->setCurrentItem(current);
+}
+
+void HelpWindow::search()
+{
+    m_results->clear();
+    m_found->clear();
+    const QString wanted = m_wanted->text().simplified();
+    if (wanted.isEmpty())
+        return;
+    QString heading;
+    int count = 0;
+    const QTextDocument *document = m_browser->document();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        const QString text = block.text();
+        if (block.blockFormat().headingLevel() > 0)
+            heading = text;
+        const int at = text.indexOf(wanted, 0, Qt::CaseInsensitive);
+        if (at < 0 || ++count > mostResults)
+            continue;
+        const int start = qMax(0, at - 40);
+        const QString piece = text.mid(start, 120).simplified();
+        auto *item = new QTreeWidgetItem(m_results);
+        item->setText(0, heading == text ? heading : heading + QLatin1String("\n") + piece);
+        item->setToolTip(0, piece);
+        item->setData(0, placeRole, block.position() + at);
+        item->setData(0, lengthRole, wanted.size());
+    }
+    m_found->setText(count == 0            ? tr("Not found")
+                     : count > mostResults ? tr("The first %1 of %2").arg(mostResults).arg(count)
+                                           : tr("Places: %1").arg(count));
+}
+
+void HelpWindow::open(const QTreeWidgetItem *item)
+{
+    if (item)
+        m_browser->goTo(item->data(0, placeRole).toInt(), item->data(0, lengthRole).toInt());
+}
+
+bool HelpWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        m_browser->setFocus();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool HelpWindow::showDocument(const QString &path, const QString &title, const QString &heading)
 {
     if (!QFileInfo(path).isFile() || !QFileInfo(path).isReadable())
         return false;
     setWindowTitle(title);
     show(); // before the text comes: pictures are made for the window's width
-    m_browser->setSource(QUrl::fromLocalFile(path));
+    QUrl url = QUrl::fromLocalFile(path);
+    if (!heading.isEmpty())
+        url.setFragment(heading);
+    m_browser->setSource(url);
     raise();
     activateWindow();
     m_browser->setFocus();

@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 
+#include "aboutdialog.h"
 #include "actions.h"
 #include "catalogue/catalogueview.h"
 #include "catalogue/ipcatalogue.h"
@@ -22,8 +23,13 @@
 #include "newprojectdialog.h"
 #include "project/projectpane.h"
 #include "projectactions.h"
+#include "render/diagramrenderer.h"
 #include "results/lastrun.h"
 #include "results/resultpage.h"
+#include "results/tablefiles.h"
+#include "settings/externaleditor.h"
+#include "settings/settingsdialog.h"
+#include "settings/settingstable.h"
 #include "simulation/exampledialog.h"
 #include "simulation/exampleproject.h"
 #include "simulation/simulationpage.h"
@@ -32,6 +38,7 @@
 #include "software/softwarepages.h"
 #include "startpage.h"
 #include "widgets/errorbox.h"
+#include "widgets/fixedfont.h"
 #include "widgets/infobar.h"
 #include "widgets/symbolicon.h"
 
@@ -47,6 +54,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
@@ -84,6 +92,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_catalogue(catalogue)
     , m_settings(settings)
     , m_recent(settings)
+    , m_toolPaths(QFileInfo(settings.fileName()).absolutePath() + QStringLiteral("/tools"))
     , m_session(new IpSession(catalogue, this))
     , m_closing(new ClosingSequence(*m_session, this))
     , m_kept(new KeptConfigurations(QFileInfo(settings.fileName()).absolutePath() +
@@ -136,6 +145,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     connectStartPage();
     connectHost();
     restoreState();
+    applySettings();
     setProject(nullptr);
     m_plugins->tellFailures(m_messages);
 }
@@ -607,7 +617,7 @@ HelpWindow *MainWindow::help() const
 
 void MainWindow::showGuide()
 {
-    m_help->showGuide();
+    m_help->showGuide(HelpDesk::headingFor(QApplication::focusWidget()));
 }
 
 void MainWindow::showIpHelp(int ip)
@@ -620,17 +630,83 @@ void MainWindow::about()
     QStringList plugins;
     for (const IpEntry &entry : m_catalogue.entries())
         plugins.append(tr("%1 %2").arg(entry.name, entry.version));
-    QMessageBox box(QMessageBox::NoIcon, tr("About Tarvo Workbench"),
-                    tr("Tarvo Workbench %1").arg(QApplication::applicationVersion()),
-                    QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        tr("Configures and generates IPs for FPGA designs.\n\nIPs: %1\nQt %2 (built with %3)\n"
-           "Settings: %4")
-            .arg(plugins.isEmpty() ? tr("none") : plugins.join(QLatin1String(", ")),
-                 QLatin1String(qVersion()), QStringLiteral(QT_VERSION_STR), m_settings.fileName()));
-    box.setIconPixmap(applicationIcon().pixmap(64));
-    box.exec();
+    AboutDialog dialog(QApplication::applicationVersion(), plugins, m_settings.fileName(), this);
+    dialog.exec();
+}
+
+void MainWindow::applySettings()
+{
+    EditorLook look;
+    look.font = fixedFont();
+    const QString family = Settings::textOf(m_settings, Settings::editorFont);
+    if (!family.isEmpty() && QFontDatabase().hasFamily(family))
+        look.font.setFamily(family);
+    if (const int size = Settings::numberOf(m_settings, Settings::editorFontSize))
+        look.font.setPointSize(qMax(6, size));
+    look.tabWidth = Settings::numberOf(m_settings, Settings::editorTabWidth);
+    look.hasLineNumbers = Settings::isOn(m_settings, Settings::editorLineNumbers);
+    look.wraps = Settings::isOn(m_settings, Settings::editorWrap);
+    m_tabs->setLook(look);
+    m_toolPaths.apply(m_settings);
+    showEditorState();
+}
+
+void MainWindow::editSettings()
+{
+    SettingsDialog dialog(m_settings, this);
+    connect(&dialog, &SettingsDialog::changed, this, &MainWindow::applySettings);
+    dialog.exec();
+}
+
+void MainWindow::openExternally()
+{
+    EditorPage *page = m_tabs->currentPage();
+    if (!page)
+        return;
+    QString error;
+    if (!Workbench::openExternally(Settings::textOf(m_settings, Settings::editorExternal),
+                                   page->path(), page->editor()->currentLine(), &error))
+        page->infoBar()->showMessage(error, {});
+}
+
+bool MainWindow::exportDiagramOf(const QString &ipcFile, const QString &path, QString *error)
+{
+    DiagramRenderer renderer(m_catalogue);
+    return renderer.render(ipcFile, path, error);
+}
+
+bool MainWindow::exportTableTo(int table, const QString &path, QString *error)
+{
+    return m_lastRun->prepare(error) &&
+           TableFiles::write(TableFiles::tableOf(results()->report(), TableFiles::Table(table)),
+                             path, error);
+}
+
+void MainWindow::exportDiagram()
+{
+    const QString ipcFile = m_projectPane->selectedFile();
+    if (ipcFile.isEmpty())
+        return;
+    const QString path = QFileDialog::getSaveFileName(this, tr("Export Block Diagram"),
+                                                      QFileInfo(ipcFile).path() + u'/' +
+                                                          QFileInfo(ipcFile).completeBaseName() +
+                                                          QLatin1String(".svg"),
+                                                      tr("Pictures (*.svg *.png *.pdf)"));
+    QString error;
+    if (!path.isEmpty() && !exportDiagramOf(ipcFile, path, &error))
+        showError(this, error);
+}
+
+void MainWindow::exportTable(int table)
+{
+    const QString folder = m_project ? m_project->path() : QDir::homePath();
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Export Table"),
+        folder + u'/' + TableFiles::fileNameOf(TableFiles::Table(table)) + QLatin1String(".csv"),
+        tr("Tables (*.csv *.json *.md)"));
+    QString error;
+    if (!path.isEmpty() && !exportTableTo(table, path, &error))
+        showError(this, error);
 }
 
 void MainWindow::goToLine()

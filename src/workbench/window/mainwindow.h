@@ -3,6 +3,7 @@
 #include "project/project.h"
 #include "recentprojects.h"
 #include "results/runstore.h"
+#include "settings/toolpaths.h"
 
 #include <QMainWindow>
 
@@ -93,6 +94,10 @@ public:
     KeptConfigurations *kept() const { return m_kept; }
     // Where the last successful run of each project is kept; the user's cache at first.
     void setRunStore(const RunStore &store);
+    // Write what the ending of the path says; false, and a sentence in `*error`, if nothing was
+    // written. The table is of the last run, a TableFiles::Table.
+    bool exportDiagramOf(const QString &ipcFile, const QString &path, QString *error);
+    bool exportTableTo(int table, const QString &path, QString *error);
     // The window of the guide and of IPs' documents; null while there is none.
     HelpWindow *help() const;
     // The window beside the dialog of an IP; null while there is none.
@@ -138,6 +143,11 @@ private:
     void restoreState();
     void chooseDevice();
     void about();
+    void applySettings();
+    void editSettings();
+    void openExternally();
+    void exportDiagram();
+    void exportTable(int table);
     void goToLine();
     bool mayEndRuns();
 
@@ -149,6 +159,7 @@ private:
     IpCatalogue &m_catalogue;
     QSettings &m_settings;
     RecentProjects m_recent;
+    ToolPaths m_toolPaths;
     std::unique_ptr<Project> m_project;
     std::unique_ptr<IpActions> m_ips;
     std::unique_ptr<Actions> m_actions;

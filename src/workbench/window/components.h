@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+namespace Workbench
+{
+
+// Something of others that the program is built with or starts, as packaging/components.json has
+// it.
+struct Component {
+    QString name;
+    QString purpose;
+    QString licence;         // an SPDX expression
+    QString package;         // of Debian
+    QString program;         // that is started; empty: a library
+    QString versionArgument; // makes the program tell its version and end
+};
+
+QVector<Component> components();
+
+} // namespace Workbench
