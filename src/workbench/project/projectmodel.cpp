@@ -92,6 +92,11 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
     return entries;
 }
 
+QString ProjectModel::projectFile() const
+{
+    return m_project ? m_project->file() : QString();
+}
+
 QModelIndex ProjectModel::groupIndex(Group group) const
 {
     return m_project ? createIndex(group, 0, groupId) : QModelIndex();

@@ -26,6 +26,8 @@ public:
     // Reads the project and its folder again.
     void refresh();
 
+    // Empty without a project.
+    QString projectFile() const;
     QModelIndex groupIndex(Group group) const;
     // Invalid when the tree does not show the file.
     QModelIndex indexOf(const QString &path) const;

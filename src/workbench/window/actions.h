@@ -21,7 +21,10 @@ public:
 
     QMenu *recentMenu;
     QMenu *viewMenu;
+    QAction *newProject;
+    QAction *open;
     QAction *closeProject;
+    QAction *reopen;
     QAction *save;
     QAction *saveAll;
     QAction *closeTab;
@@ -47,6 +50,8 @@ public:
     QAction *software;
     QAction *simulate;
     QAction *moveToDevice;
+    QAction *openFolder;
+    QAction *copyPath;
     QAction *removeSource;
     QAction *moveUp;
     QAction *moveDown;
@@ -69,6 +74,7 @@ private:
     void addProjectMenu();
     void addSourceActions(QMenu *menu);
     void addHelpMenu();
+    void fillToolBar();
     void refreshEditor();
     void refreshProject();
 

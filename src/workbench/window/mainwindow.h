@@ -13,6 +13,7 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QSettings)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
+QT_FORWARD_DECLARE_CLASS(QToolBar)
 
 namespace IPCore
 {
@@ -42,11 +43,13 @@ class KeptConfigurations;
 class LastRun;
 class LogView;
 class MessageModel;
+class NewProjectDialog;
 class OutputPane;
 class PluginList;
 class ProjectActions;
 class ProjectPane;
 class ResultPage;
+class SessionKeeper;
 class SimulationPage;
 class SimulationPages;
 class SoftwarePage;
@@ -93,6 +96,10 @@ public:
     KeptConfigurations *kept() const { return m_kept; }
     // Where the last successful run of each project is kept; the user's cache at first.
     void setRunStore(const RunStore &store);
+    // Opens what was open last, with its tabs, unless the user does not want that. What cannot be
+    // opened is told once, without a question.
+    void restoreSession();
+    SessionKeeper *session() const { return m_keeper; }
     // The window of the guide and of IPs' documents; null while there is none.
     HelpWindow *help() const;
     // The window beside the dialog of an IP; null while there is none.
@@ -108,6 +115,8 @@ public Q_SLOTS:
     void newProject();
     void open();
     void createSelectedIp(int ip);
+    // From nothing to the dialog of an IP of the catalogue: asks for folder and device only.
+    void newSubsystem(int ip);
     void showGuide();
     // The document of an IP of the catalogue.
     void showIpHelp(int ip);
@@ -117,6 +126,9 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -128,18 +140,26 @@ private:
     void connectParts();
     void connectStartPage();
     void connectHost();
+    void followDocks();
     bool setProject(std::unique_ptr<Project> project);
+    // Closes its tabs; false if the user wants to go on with them.
+    bool leaveProject();
+    void reopenLast();
+    bool canHandOff(const QString &ipcFile) const;
+    bool canSimulate(const QString &ipcFile) const;
+    void tellUnknownDevice();
     void showPlace();
+    void showTitle();
     void showEditorState();
     void showStart();
     void showResults();
     OutputPane *output();
-    void saveState();
     void restoreState();
     void chooseDevice();
     void about();
     void goToLine();
     bool mayEndRuns();
+    bool makeProject(NewProjectDialog *dialog);
 
     void onRunStarted(IPCore::SynthesisHelper *helper);
     void onRunFinished(const Synthesis::RunReport &report);
@@ -169,7 +189,9 @@ private:
     CatalogueView *m_catalogueView;
     PluginList *m_plugins;
     HelpDesk *m_help;
+    SessionKeeper *m_keeper = nullptr;
     CompanionDesk *m_companions;
+    QToolBar *m_toolBar;
     QDockWidget *m_projectDock;
     QDockWidget *m_catalogueDock;
     QDockWidget *m_outputDock;

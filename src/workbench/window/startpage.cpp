@@ -21,6 +21,8 @@ namespace
 
 // More are in the dialog.
 constexpr int keptShown = 3;
+// More are in the catalogue.
+constexpr int subsystemsShown = 4;
 
 QLabel *makeLabel(const QString &text, qreal scale, bool bold)
 {
@@ -58,7 +60,7 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
     if (project)
         showProject(page, *project, catalogue);
     else
-        showWelcome(page, recent, examples);
+        showWelcome(page, catalogue, recent, examples);
     showKept(page, project ? project->path() : QString(), kept);
     page->addStretch(1);
     // The old page may be the one whose button is being clicked.
@@ -94,8 +96,31 @@ void StartPage::changeEvent(QEvent *event)
         applyFont();
 }
 
-void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent,
-                            const QVector<Example> &examples)
+void StartPage::showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,
+                               const QVector<Example> &examples)
+{
+    for (const Example &example : examples) {
+        auto *link = makeLink(tr("Open the example: %1…").arg(example.title), example.purpose,
+                              QStringLiteral("run"));
+        link->setObjectName(QStringLiteral("exampleLink"));
+        connect(link, &QPushButton::clicked, this,
+                [this, example] { Q_EMIT exampleRequested(example.ip, example.number); });
+        page->addWidget(link);
+    }
+    const int count = qMin(catalogue.entries().size(), subsystemsShown);
+    for (int ip = 0; ip < count; ++ip) {
+        const IpEntry &entry = catalogue.entries().at(ip);
+        auto *link = makeLink(tr("New subsystem: %1 %2…").arg(entry.name, entry.version),
+                              tr("Choose a device; then its dialog opens."), QStringLiteral("ip"));
+        link->setObjectName(QStringLiteral("newSubsystemLink"));
+        connect(link, &QPushButton::clicked, this,
+                [this, ip] { Q_EMIT newSubsystemRequested(ip); });
+        page->addWidget(link);
+    }
+}
+
+void StartPage::showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue,
+                            const QStringList &recent, const QVector<Example> &examples)
 {
     page->addWidget(makeLabel(tr("Tarvo Workbench"), 1.8, true));
     page->addWidget(makeLabel(
@@ -114,13 +139,10 @@ void StartPage::showWelcome(QVBoxLayout *page, const QStringList &recent,
     connect(open, &QPushButton::clicked, this, &StartPage::openRequested);
     page->addWidget(create);
     page->addWidget(open);
-    for (const Example &example : examples) {
-        auto *link = makeLink(tr("Open the example: %1…").arg(example.title), example.purpose,
-                              QStringLiteral("run"));
-        link->setObjectName(QStringLiteral("exampleLink"));
-        connect(link, &QPushButton::clicked, this,
-                [this, example] { Q_EMIT exampleRequested(example.ip, example.number); });
-        page->addWidget(link);
+    if (!examples.isEmpty() || !catalogue.entries().isEmpty()) {
+        page->addSpacing(fontMetrics().height());
+        page->addWidget(makeLabel(tr("First steps"), 1.2, true));
+        showFirstSteps(page, catalogue, examples);
     }
 
     if (!recent.isEmpty()) {

@@ -35,6 +35,7 @@ public:
 
 Q_SIGNALS:
     void newProjectRequested();
+    void newSubsystemRequested(int ip);
     void openRequested();
     void openFileRequested(const QString &path);
     void createIpRequested(int ip);
@@ -49,8 +50,10 @@ protected:
 private:
     // Headings are larger than the user's font.
     void applyFont();
-    void showWelcome(QVBoxLayout *page, const QStringList &recent,
+    void showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue, const QStringList &recent,
                      const QVector<Example> &examples);
+    void showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,
+                        const QVector<Example> &examples);
     void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue);
     // Those in the folder, which may be empty for all.
     void showKept(QVBoxLayout *page, const QString &folder,
