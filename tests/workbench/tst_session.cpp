@@ -1,5 +1,6 @@
 #include "hands.h"
 
+#include <workbench/catalogue/answers.h>
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/project/projectmodel.h>
@@ -115,7 +116,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("seed");
         QTest::addColumn<bool>("isKilled");
         QTest::addColumn<bool>("hasProject");
-        for (int seed = 1; seed <= 8; ++seed)
+        for (int seed = 1; seed <= 6; ++seed)
             QTest::addRow("sequence %d", seed) << seed << (seed % 2 == 0) << (seed % 4 != 3);
     }
     void whateverWasOpenComesBackAsItWas()
@@ -131,7 +132,7 @@ private Q_SLOTS:
         write(ipc, "[General]\ntype=fake.blinker\n");
         if (hasProject)
             window()->openProject(project);
-        for (int restart = 0; restart < 3; ++restart) {
+        for (int restart = 0; restart < 2; ++restart) {
             for (int step = 0; step < 12; ++step) {
                 EditorTabs *tabs = window()->tabs();
                 const int tab = tabs->count() > 0 ? below(tabs->count()) : -1;
@@ -599,6 +600,89 @@ private Q_SLOTS:
         QVERIFY(entries.contains(QStringLiteral("Help on This IP")));
     }
 
+    // What is out of date
+
+    void anIpWhosePlugInSaysNothingIsMarkedByTimes()
+    {
+        const QString project = m_bench->makeProject();
+        const QString ipc = m_bench->folder() + QStringLiteral("/board/lamp/lamp.ipc");
+        const QString made = m_bench->folder() + QStringLiteral("/board/lamp/lamp.v");
+        write(ipc, "[General]\ntype=fake.blinker\n");
+        write(made, "x\n");
+        const auto setTime = [](const QString &path, int secondsAgo) {
+            QFile file(path);
+            return file.open(QIODevice::ReadWrite) &&
+                   file.setFileTime(QDateTime::currentDateTime().addSecs(-secondsAgo),
+                                    QFileDevice::FileModificationTime);
+        };
+        QVERIFY(setTime(ipc, 100));
+        QVERIFY(setTime(made, 200));
+        window()->openProject(project);
+        const ProjectModel *model = window()->findChild<ProjectPane *>()->model();
+        const auto isBehind = [&] {
+            return model->indexOf(ipc).data(ProjectModel::BehindRole).toBool();
+        };
+        QTRY_VERIFY(isBehind());
+        for (const int role : {int(Qt::ToolTipRole), int(Qt::AccessibleTextRole)})
+            QVERIFY(model->indexOf(ipc).data(role).toString().contains(QLatin1String("newer")));
+        QVERIFY(setTime(made, 50));
+        QTRY_VERIFY(!isBehind());
+        QVERIFY(setTime(ipc, 10));
+        QTRY_VERIFY(isBehind());
+        write(m_bench->folder() + QStringLiteral("/board/lamp/new.v"), "y\n");
+        QTRY_VERIFY(!isBehind());
+    }
+
+    void whatAPlugInSaysOfItsStateIsTakenWholeOrNotAtAll_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](const char *name, const char *key, const QVariant &value) {
+            QTest::newRow(name) << QString::fromLatin1(key) << value;
+        };
+        const auto file = [](const QVariant &path) {
+            return QVariantList{QVariantMap{{QStringLiteral("path"), path}}};
+        };
+        row("an error", "error", QStringLiteral("It is dark."));
+        row("an error that is no text", "error", 7);
+        row("no state", "state", QString());
+        row("a state that is no text", "state", 3);
+        row("a state of two lines", "state", QStringLiteral("a\nb"));
+        row("reasons that are no texts", "reasons", QVariantList{1, 2});
+        row("a reason with control characters", "reasons", QStringList(QStringLiteral("\x1b[0m")));
+        row("files that are no list", "files", QStringLiteral("/a"));
+        row("a path that is not full", "files", file(QStringLiteral("a.v")));
+        row("a path that is a number", "files", file(7));
+        row("too many files", "files", [&file] {
+            QVariantList list;
+            for (int i = 0; i <= Answers::generatedFileLimit; ++i)
+                list += file(QStringLiteral("/a"));
+            return list;
+        }());
+        row("watched paths that are not full", "watched", QStringList(QStringLiteral("a.v")));
+        row("watched paths that are no list", "watched", 1);
+    }
+    void whatAPlugInSaysOfItsStateIsTakenWholeOrNotAtAll()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, value);
+        QVariantMap answer{
+            {QStringLiteral("error"), QString()},
+            {QStringLiteral("state"), QStringLiteral("stale")},
+            {QStringLiteral("reasons"), QStringList(QStringLiteral("a lamp more"))},
+            {QStringLiteral("files"),
+             QVariantList{QVariantMap{{QStringLiteral("path"), QStringLiteral("/a/lamp.v")}}}},
+            {QStringLiteral("watched"), QStringList(QStringLiteral("/a/lamp.ipc"))}};
+        const auto sound = Answers::ipStateOf(answer);
+        QVERIFY(sound);
+        QVERIFY(sound->isBehind());
+        QCOMPARE(sound->files, QStringList(QStringLiteral("/a/lamp.v")));
+        answer.insert(key, value);
+        const auto taken = Answers::ipStateOf(answer);
+        QVERIFY(!taken);
+        QVERIFY(!taken.reason().isEmpty());
+    }
+
     // First steps
 
     void aNewSubsystemNeedsADeviceAndNothingElse()
@@ -638,8 +722,9 @@ private Q_SLOTS:
     void aNewSubsystemIsNotForADeviceThatCannotHaveIt()
     {
         NewProjectDialog dialog(m_bench->folder());
-        dialog.propose(QStringLiteral("Lamp"), QStringLiteral("lamp"),
-                       QStringLiteral("TV2KR-18C-QFN88P-C8/I7"), [](const DEV::DeviceArg &device) {
+        QVERIFY(QDir(m_bench->folder()).mkdir(QStringLiteral("subsystem")));
+        dialog.propose(QStringLiteral("Lamp"), QStringLiteral("TV2KR-18C-QFN88P-C8/I7"),
+                       [](const DEV::DeviceArg &device) {
                            return device.device().startsWith(QLatin1String("TV5K"))
                                       ? QString()
                                       : QStringLiteral("It is too small.");
@@ -647,7 +732,7 @@ private Q_SLOTS:
         QVERIFY(!Bench::ok(&dialog)->isEnabled());
         QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("hintLabel"))->text(),
                  QStringLiteral("It is too small."));
-        QCOMPARE(dialog.name(), QStringLiteral("lamp"));
+        QCOMPARE(dialog.name(), QStringLiteral("subsystem_2"));
     }
 
 private:

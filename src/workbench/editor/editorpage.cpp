@@ -222,6 +222,7 @@ void EditorPage::startEditing()
     m_editor->setReadOnly(false);
     m_editor->setFocus();
     Q_EMIT stateChanged();
+    Q_EMIT editingStarted();
 }
 
 void EditorPage::offerEditing()

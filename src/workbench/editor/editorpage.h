@@ -79,6 +79,7 @@ public:
 Q_SIGNALS:
     void stateChanged(); // modified, editable, loading
     void openRequested(const QString &path);
+    void editingStarted();
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -67,6 +67,8 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         const int index = addTab(page, symbolIcon(QStringLiteral("file")), QString());
         setTabToolTip(index, QDir::toNativeSeparators(plain));
         connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
+        connect(page, &EditorPage::editingStarted, this,
+                [this, page] { Q_EMIT editingStarted(page); });
         connect(page, &EditorPage::openRequested, this, [this, page](const QString &file) {
             QString reason;
             if (!openFile(file, 0, &reason))

@@ -44,6 +44,7 @@ public:
 Q_SIGNALS:
     void currentStateChanged();
     void countChanged();
+    void editingStarted(Workbench::EditorPage *page);
     // A file was scrolled.
     void placeChanged();
     // By mouse or keys; a place on the screen.

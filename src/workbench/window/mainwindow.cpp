@@ -2,6 +2,7 @@
 
 #include "actions.h"
 #include "catalogue/catalogueview.h"
+#include "catalogue/generationwatch.h"
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/ipsession.h"
 #include "catalogue/mapset.h"
@@ -21,6 +22,7 @@
 #include "messages/outputpane.h"
 #include "newprojectdialog.h"
 #include "project/ipchead.h"
+#include "project/projectmodel.h"
 #include "project/projectpane.h"
 #include "projectactions.h"
 #include "results/lastrun.h"
@@ -107,6 +109,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_catalogueView(new CatalogueView(catalogue))
     , m_plugins(new PluginList(catalogue, settings, *m_infoBar, this))
     , m_help(new HelpDesk(catalogue, this))
+    , m_generation(new GenerationWatch(catalogue, this))
     , m_companions(new CompanionDesk(settings, companionPanels(settings), this))
 {
     IPCore::FocusRing::install();
@@ -220,6 +223,10 @@ void MainWindow::connectParts()
             [this](const QString &ipcFile, const MapDoor &door) {
                 showSoftware(ipcFile)->showPlace(door.document, door.headings);
             });
+    connect(m_generation, &GenerationWatch::changed, this, [this](const QString &ipcFile) {
+        m_projectPane->model()->setState(ipcFile, m_generation->stateOf(ipcFile));
+    });
+    connect(m_tabs, &EditorTabs::editingStarted, this, &MainWindow::warnOfGeneration);
     connect(m_lastRun, &LastRun::changed, this, &MainWindow::showEditorState);
     connect(m_ips.get(), &IpActions::opening, this, [this](int ip) {
         m_lastRun->expect();
@@ -337,6 +344,7 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
     m_projectActions->setProject(project.get());
     m_ips->setProject(project.get());
     m_projectPane->setProject(project.get());
+    m_generation->setProject(project.get());
     m_project = std::move(project);
     if (m_project) {
         Core::ProjectManager::setCurrentProject(m_project.get());
@@ -536,8 +544,7 @@ bool MainWindow::makeProject(NewProjectDialog *dialog)
 void MainWindow::newSubsystem(int ip)
 {
     NewProjectDialog dialog(m_settings.value(locationKey, QDir::homePath()).toString(), this);
-    dialog.propose(m_catalogue.entries().at(ip).name, m_catalogue.targetOf(ip),
-                   m_settings.value(deviceKey).toString(),
+    dialog.propose(m_catalogue.entries().at(ip).name, m_settings.value(deviceKey).toString(),
                    [this, ip](const DEV::DeviceArg &device) {
                        QString reason;
                        return m_catalogue.isSupported(ip, device, &reason) ? QString() : reason;
@@ -693,8 +700,21 @@ void MainWindow::createSelectedIp(int ip)
     createIp(ip, m_project->freeIpFolder(m_catalogue.targetOf(ip)), m_project->device());
 }
 
+void MainWindow::warnOfGeneration(EditorPage *page)
+{
+    const QString ipcFile = m_generation->originOf(page->path());
+    if (ipcFile.isEmpty())
+        return;
+    page->infoBar()->showMessage(
+        tr("This file is generated from \"%1\". The next generation writes it anew, and keeps what "
+           "you change here in a copy beside it.")
+            .arg(QDir::toNativeSeparators(ipcFile)),
+        {{tr("Open the &Configuration"), [this, ipcFile] { openPath(ipcFile); }}});
+}
+
 void MainWindow::onIpClosed(const QStringList &files)
 {
+    m_generation->refresh();
     m_projectPane->refresh();
     QStringList delivered;
     for (const QString &file : files) {

@@ -32,7 +32,9 @@ class CatalogueView;
 class ClosingSequence;
 class Companion;
 class CompanionDesk;
+class EditorPage;
 class EditorTabs;
+class GenerationWatch;
 class HelpDesk;
 class HelpWindow;
 class InfoBar;
@@ -164,6 +166,7 @@ private:
     void onRunStarted(IPCore::SynthesisHelper *helper);
     void onRunFinished(const Synthesis::RunReport &report);
     void onNoticed(const QStringList &notices);
+    void warnOfGeneration(EditorPage *page);
     void onIpClosed(const QStringList &files);
 
     IpCatalogue &m_catalogue;
@@ -190,6 +193,7 @@ private:
     PluginList *m_plugins;
     HelpDesk *m_help;
     SessionKeeper *m_keeper = nullptr;
+    GenerationWatch *m_generation;
     CompanionDesk *m_companions;
     QToolBar *m_toolBar;
     QDockWidget *m_projectDock;

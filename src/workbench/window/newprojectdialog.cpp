@@ -77,20 +77,22 @@ NewProjectDialog::NewProjectDialog(const QString &location, QWidget *parent)
     check();
 }
 
-void NewProjectDialog::propose(const QString &ip, const QString &target, const QString &deviceId,
+void NewProjectDialog::propose(const QString &ip, const QString &deviceId,
                                const std::function<QString(const DEV::DeviceArg &)> &mistake)
 {
     setWindowTitle(tr("New Subsystem: %1").arg(ip));
     m_ok->setText(tr("Create and Configure"));
     m_mistake = mistake;
     m_picker->setDevice(deviceId);
-    const QString base = target.isEmpty() ? QStringLiteral("subsystem") : target;
+    const QString base = QStringLiteral("subsystem"); // names a folder
     QString free = base;
     const QDir location(QDir::fromNativeSeparators(m_location->text()));
     for (int n = 2; QFileInfo::exists(location.filePath(free)); ++n)
         free = QStringLiteral("%1_%2").arg(base).arg(n);
     m_name->setText(free);
     m_name->selectAll();
+    if (device().isNull())
+        m_picker->setFocus();
     check();
 }
 

@@ -25,9 +25,9 @@ public:
     explicit NewProjectDialog(const QString &location, QWidget *parent = nullptr);
 
     // Asks for the project of a new IP instead: fills in what can be guessed, and lets only devices
-    // be chosen of which `mistake`, a sentence, is empty. `target` is the name of the IP's files,
-    // `deviceId` a device that is selected at first; both may be empty.
-    void propose(const QString &ip, const QString &target, const QString &deviceId,
+    // be chosen of which `mistake`, a sentence, is empty. `deviceId` is a device that is selected
+    // at first; it may be empty.
+    void propose(const QString &ip, const QString &deviceId,
                  const std::function<QString(const DEV::DeviceArg &)> &mistake);
 
     QString name() const;
