@@ -129,7 +129,9 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
 
     buildDocks();
     buildStatusBar();
-    m_toolBar = addToolBar(tr("Tool Bar"));
+    // Screens have more room at the side.
+    m_toolBar = new QToolBar(tr("Tool Bar"));
+    addToolBar(Qt::LeftToolBarArea, m_toolBar);
     m_toolBar->setObjectName(QStringLiteral("mainToolBar"));
     m_toolBar->setFloatable(false);
     m_ips = std::make_unique<IpActions>(IpActions::Surroundings{m_catalogue, *m_session, *m_kept,
