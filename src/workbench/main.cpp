@@ -137,6 +137,8 @@ bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &w
             window.openProject(projectFile);
         for (const QString &file : options.files)
             window.openPath(QFileInfo(file).absoluteFilePath());
+        if (projectFile.isEmpty() && options.files.isEmpty() && ip < 0 && !options.isFresh)
+            window.restoreSession();
         if (ip >= 0)
             createIp(window, catalogue, options, ip, dir, device);
     });

@@ -6,6 +6,8 @@
 #include <workbench/editor/editorpage.h>
 #include <workbench/kept/keptconfigurations.h>
 #include <workbench/messages/logview.h>
+#include <workbench/project/projectmodel.h>
+#include <workbench/project/projectpane.h>
 #include <workbench/results/resultpage.h>
 #include <workbench/widgets/infobar.h>
 
@@ -21,6 +23,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTreeView>
@@ -185,11 +188,14 @@ private Q_SLOTS:
         QVERIFY(window()->close());
         m_bench->reopen();
         window()->openProject(folder + QStringLiteral("/sensor.tvproj"));
-        QVERIFY(m_bench->tabTexts().isEmpty());
+        QVERIFY(m_bench->tabTexts().contains(QStringLiteral("Results")));
         auto *tree = window()->findChild<QTreeView *>(QStringLiteral("projectTree"));
         const QModelIndex ipc = tree->model()->index(0, 0, tree->model()->index(0, 0));
         QCOMPARE(ipc.data().toString(), QStringLiteral("tarvo_orix_m1/tarvo_orix_m1.ipc"));
         tree->setCurrentIndex(ipc);
+        checkMarks(ip);
+        if (QTest::currentTestFailed())
+            return;
         const QByteArray before = contentsOf(ip + QStringLiteral("/tarvo_orix_m1.v"));
         {
             const ModalWatcher watcher([](QWidget *modal) {
@@ -474,6 +480,48 @@ private:
                           ->button(QDialogButtonBox::Ok);
         const auto isReady = [undo] { return undo->isVisible() && undo->isEnabled(); };
         return QTest::qWaitFor(isReady, 30000) && person->click(undo) && person->click(ok);
+    }
+
+    // The tree tells what is out of date, whoever changes a file, and who edits what is generated
+    // is told.
+    void checkMarks(const QString &ip)
+    {
+        const QString file = ip + QStringLiteral("/tarvo_orix_m1.ipc");
+        const auto index = [&] {
+            return window()->findChild<ProjectPane *>()->model()->indexOf(file);
+        };
+        const auto isBehind = [&] { return index().data(ProjectModel::BehindRole).toBool(); };
+        const auto set = [&](const char *option) {
+            return QProcess::execute(QStringLiteral(TARVO_COMMAND),
+                                     {QStringLiteral("set"), file, QLatin1String(option)});
+        };
+        const qint64 icon = index().data(Qt::DecorationRole).value<QIcon>().cacheKey();
+        QVERIFY(!isBehind());
+        QCOMPARE(set("Enable I2C=true"), 0);
+        QTRY_VERIFY(isBehind());
+        for (const int role : {int(Qt::ToolTipRole), int(Qt::AccessibleTextRole)}) {
+            const QString told = index().data(role).toString();
+            QVERIFY2(told.contains(QLatin1String("out of date")), qPrintable(told));
+            QVERIFY2(told.contains(QLatin1String("I2C")), qPrintable(told));
+        }
+        QVERIFY(index().data(Qt::DecorationRole).value<QIcon>().cacheKey() != icon);
+        QCOMPARE(set("Enable I2C=false"), 0);
+        QTRY_VERIFY(!isBehind()); // as it was generated
+        const QString header = ip + QStringLiteral("/temp/tv_orix_m1/parameter.vh");
+        const QByteArray text = contentsOf(header);
+        QVERIFY(window()->openPath(header));
+        EditorPage *page = window()->tabs()->currentPage();
+        page->startEditing();
+        QVERIFY(!page->infoBar()->isHidden());
+        QVERIFY2(page->infoBar()->text().contains(file), qPrintable(page->infoBar()->text()));
+        QVERIFY(page->infoBar()->findChild<QPushButton *>()->text().contains(
+            QLatin1String("Configuration")));
+        QTest::keyClicks(page->editor(), QStringLiteral("// mine"));
+        QVERIFY(window()->tabs()->savePage(page));
+        QTRY_VERIFY(isBehind());
+        write(header, text);
+        QTRY_VERIFY(!isBehind());
+        QVERIFY(window()->tabs()->closeTab(window()->tabs()->currentIndex()));
     }
 
     void makeProjectByDialog()

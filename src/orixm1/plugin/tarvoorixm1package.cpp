@@ -3,6 +3,7 @@
 #include "estimateanswer.h"
 #include "exportsoftware.h"
 #include "firmware.h"
+#include "generationanswer.h"
 #include "maps.h"
 #include "measurecommand.h"
 #include "movetodevice.h"
@@ -97,6 +98,14 @@ QVariantMap TarvoOrixM1Package::previewGeneration(const QVariantMap &configurati
     core.initialize();
     return TARVOORIXM1::previewGeneration(configuration, core.information(), dataPath(),
                                           *Core::IdeCore::deviceDataBase());
+}
+
+QVariantMap TarvoOrixM1Package::generationState(const QString &ipcFile) const
+{
+    TarvoOrixM1 core(dataPath());
+    core.initialize();
+    return generationAnswer(ipcFile, core.id(), core.information(),
+                            *Core::IdeCore::deviceDataBase());
 }
 
 QVariantMap TarvoOrixM1Package::estimate(const QVariantMap &configuration) const

@@ -56,6 +56,10 @@ public:
     // is; see previewgeneration.h. Nothing is written.
     Q_INVOKABLE QVariantMap previewGeneration(const QVariantMap &configuration) const;
 
+    // For hosts that ask for it by name: whether what was generated from an .ipc file is still what
+    // a generation would make; see generationanswer.h. Nothing is written.
+    Q_INVOKABLE QVariantMap generationState(const QString &ipcFile) const;
+
     // For hosts that ask for it by name: what a configuration, as configuration() of a dialog tells
     // it, will take of its device, without a run; see estimateanswer.h.
     Q_INVOKABLE QVariantMap estimate(const QVariantMap &configuration) const;

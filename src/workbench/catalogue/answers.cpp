@@ -146,6 +146,40 @@ bool tells(const QObject *object, const char *signal)
     return object && object->metaObject()->indexOfSignal(signal) >= 0;
 }
 
+Utils::Result<IpState> ipStateOf(const QVariantMap &answer)
+{
+    QString error;
+    if (!takeText(answer, QStringLiteral("error"), &error))
+        return Utils::Failure{Tr::tr("its \"error\" is no plain text")};
+    if (!error.isEmpty())
+        return Utils::Failure{error};
+    IpState state;
+    if (!takeText(answer, QStringLiteral("state"), &state.name) || state.name.isEmpty())
+        return Utils::Failure{Tr::tr("its \"state\" is no plain text")};
+    if (!takeLines(answer, QStringLiteral("reasons"), &state.reasons))
+        return Utils::Failure{Tr::tr("its \"reasons\" are no plain texts")};
+    const auto isPath = [](const QString &path) {
+        return path.startsWith(u'/') && path.size() <= textLimit && !path.contains(QChar(0));
+    };
+    QVariantList files;
+    if (!takeList(answer, QStringLiteral("files"), generatedFileLimit, &files))
+        return Utils::Failure{
+            Tr::tr("its \"files\" are no list, or more than %1").arg(generatedFileLimit)};
+    for (const QVariant &entry : qAsConst(files)) {
+        const QVariant path = entry.toMap().value(QStringLiteral("path"));
+        if (path.userType() != QMetaType::QString || !isPath(path.toString()))
+            return Utils::Failure{Tr::tr("%1 is no full path").arg(shown(path.toString()))};
+        state.files.append(path.toString());
+    }
+    const QVariant watched = answer.value(QStringLiteral("watched"));
+    state.watched = watched.toStringList();
+    if ((watched.isValid() && watched.userType() != QMetaType::QStringList) ||
+        state.watched.size() > generatedFileLimit ||
+        !std::all_of(state.watched.begin(), state.watched.end(), isPath))
+        return Utils::Failure{Tr::tr("its \"watched\" are no full paths")};
+    return state;
+}
+
 Utils::Result<Preview> previewOf(const QVariantMap &answer)
 {
     Preview preview;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/ipstate.h"
+
 #include <utils/result.h>
 
 #include <QString>
@@ -34,6 +36,11 @@ QString shown(const QString &text);
 bool offers(const QObject *object, const char *method, int type);
 // Whether the object, which may be null, has this signal.
 bool tells(const QObject *object, const char *signal);
+
+constexpr int generatedFileLimit = 2000;
+// What generationState() of a plug-in has answered, all of it or nothing. A failure is a sentence
+// of the plug-in's or a clause.
+Utils::Result<IpState> ipStateOf(const QVariantMap &answer);
 
 // A file that a generation would be concerned with.
 struct PreviewedFile {

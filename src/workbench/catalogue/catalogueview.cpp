@@ -2,6 +2,7 @@
 
 #include "cataloguemodel.h"
 #include "ipcatalogue.h"
+#include "widgets/contextkeys.h"
 #include "widgets/focusforward.h"
 
 #include <QAction>
@@ -25,6 +26,7 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     , m_tree(new QTreeView)
     , m_details(new QLabel)
     , m_create(new QPushButton(tr("&Create IP…")))
+    , m_createAction(new QAction(tr("Create IP…"), this))
     , m_help(new QAction(tr("Help on This IP"), this))
 {
     m_filter->setSourceModel(m_model);
@@ -80,7 +82,9 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
         if (currentIp() >= 0)
             Q_EMIT helpRequested(currentIp());
     });
-    m_tree->addAction(m_help);
+    connect(m_createAction, &QAction::triggered, m_create, &QPushButton::click);
+    m_tree->addActions({m_createAction, m_help});
+    openContextMenuByKeys(m_tree);
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
 
     auto *layout = new QVBoxLayout(this);
@@ -132,6 +136,7 @@ void CatalogueView::showDetails()
                                ? tr("No plug-in offers an IP. Tools > Plug-ins says why.")
                                : tr("Select an IP to see what it is."));
         m_create->setEnabled(false);
+        m_createAction->setEnabled(false);
         return;
     }
     const QString reason = index.data(CatalogueModel::ReasonRole).toString();
@@ -139,6 +144,7 @@ void CatalogueView::showDetails()
     m_details->setText(reason.isEmpty() ? summary
                                         : QString(summary + QLatin1String("\n\n") + reason));
     m_create->setEnabled(index.data(CatalogueModel::SupportedRole).toBool());
+    m_createAction->setEnabled(m_create->isEnabled());
 }
 
 } // namespace Workbench

@@ -49,6 +49,7 @@ private:
     QTreeView *m_tree;
     QLabel *m_details;
     QPushButton *m_create;
+    QAction *m_createAction;
     QAction *m_help;
 };
 

@@ -38,6 +38,7 @@ constexpr const char *startMethod = "startFromFirmware(QString,QString,bool)";
 constexpr const char *simulateMethod = "simulationCommand(QString)";
 constexpr const char *examplesMethod = "simulationExamples()";
 constexpr const char *mapsMethod = "maps(QString)";
+constexpr const char *stateMethod = "generationState(QString)";
 constexpr int probesAtOnce = 4;
 
 // By library; {"stamp", "reason"}.
@@ -476,6 +477,25 @@ bool IpCatalogue::maps(int index, const QString &ipcFile, QVariantMap *answer, Q
                                              Q_ARG(QString, ipcFile));
         },
         Tr::tr("The plug-in of %1 has no maps.").arg(core.name), error);
+}
+
+bool IpCatalogue::tellsState(int index) const
+{
+    return Answers::offers(m_cores.at(size_t(index)).root, stateMethod, QMetaType::QVariantMap);
+}
+
+bool IpCatalogue::generationState(int index, const QString &ipcFile, QVariantMap *answer,
+                                  QString *error) const
+{
+    const Core &core = m_cores.at(size_t(index));
+    return ask(
+        core, tellsState(index),
+        [&](QObject *root) {
+            return QMetaObject::invokeMethod(root, "generationState", Qt::DirectConnection,
+                                             Q_RETURN_ARG(QVariantMap, *answer),
+                                             Q_ARG(QString, ipcFile));
+        },
+        Tr::tr("The plug-in of %1 does not tell what is up to date.").arg(core.name), error);
 }
 
 bool IpCatalogue::ask(const Core &core, bool isOffered, const std::function<bool(QObject *)> &call,

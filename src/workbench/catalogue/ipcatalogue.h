@@ -120,6 +120,13 @@ public:
     // As above.
     bool maps(int index, const QString &ipcFile, QVariantMap *answer, QString *error) const;
 
+    // Whether the plug-in tells if what was generated from a configuration is up to date: its root
+    // object has the invokable QVariantMap generationState(const QString &ipcFile) const.
+    bool tellsState(int index) const;
+    // As above.
+    bool generationState(int index, const QString &ipcFile, QVariantMap *answer,
+                         QString *error) const;
+
     // The data folder of a plug-in: the first folder beside the library, or in one of `folders`,
     // whose name is the library's ("libMyFineIp.so": "MyFineIp") when upper and lower case,
     // "_" and "-" count for nothing ("my_fine_ip"). Without one it is the library's own folder.

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QScrollBar>
 #include <QSyntaxHighlighter>
+#include <QTextBlock>
 #include <QVBoxLayout>
 
 namespace Workbench
@@ -143,10 +144,55 @@ void EditorPage::finishLoading()
     if (m_wantedLine > 0)
         m_editor->goToLine(m_wantedLine);
     m_wantedLine = 0;
+    if (m_wantedPlace)
+        setPlace(*m_wantedPlace);
+}
+
+EditorPage::Place EditorPage::place() const
+{
+    if (m_wantedPlace)
+        return *m_wantedPlace;
+    Place place;
+    place.line = m_editor->currentLine();
+    place.column = m_editor->textCursor().positionInBlock() + 1;
+    place.top = m_editor->verticalScrollBar()->value() + 1;
+    place.left = m_editor->horizontalScrollBar()->value();
+    return place;
+}
+
+void EditorPage::setPlace(const Place &place)
+{
+    m_wantedPlace = place;
+    if (isLoading())
+        return;
+    showPlace(place);
+    // An editor that comes up scrolls to its cursor.
+    if (isVisible())
+        m_wantedPlace.reset();
+}
+
+void EditorPage::showPlace(const Place &place)
+{
+    const QTextDocument *document = m_editor->document();
+    const QTextBlock block =
+        document->findBlockByNumber(qBound(1, place.line, document->blockCount()) - 1);
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + qBound(1, place.column, block.length()) - 1);
+    m_editor->setTextCursor(cursor);
+    m_editor->verticalScrollBar()->setValue(place.top - 1);
+    m_editor->horizontalScrollBar()->setValue(place.left);
+}
+
+void EditorPage::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_wantedPlace)
+        setPlace(*m_wantedPlace);
 }
 
 void EditorPage::goToLine(int line)
 {
+    m_wantedPlace.reset();
     if (isLoading() && line > m_editor->lineCount())
         m_wantedLine = line;
     else
@@ -178,6 +224,7 @@ void EditorPage::startEditing()
     m_findBar->setEditable(true);
     m_editor->setFocus();
     Q_EMIT stateChanged();
+    Q_EMIT editingStarted();
 }
 
 void EditorPage::offerEditing()

@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
 QT_FORWARD_DECLARE_CLASS(QSyntaxHighlighter)
 
 namespace Workbench
@@ -42,6 +44,16 @@ public:
     bool isLoading() const { return !m_rest.isEmpty(); }
     // Once that line has come.
     void goToLine(int line);
+    // Where one reads, from 1: cursor and first line shown; and the scrolling sideways, in pixels.
+    struct Place {
+        int line = 1;
+        int column = 1;
+        int top = 1;
+        int left = 0;
+    };
+    Place place() const;
+    // What lies outside of the file is bounded. Once the file has been read and the page is shown.
+    void setPlace(const Place &place);
 
     bool isModified() const;
     bool isEditable() const;
@@ -67,13 +79,16 @@ public:
 Q_SIGNALS:
     void stateChanged(); // modified, editable, loading
     void openRequested(const QString &path);
+    void editingStarted();
 
 protected:
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void insertPiece();
     void finishLoading();
+    void showPlace(const Place &place);
     void offerEditing();
     void offerKeptChanges();
     static QByteArray digestOf(const QByteArray &bytes);
@@ -90,6 +105,7 @@ private:
     QString m_rest; // of a file that comes in pieces
     int m_inserted = 0;
     int m_wantedLine = 0;
+    std::optional<Place> m_wantedPlace;
     QTimer m_pieceTimer;
 };
 

@@ -2,13 +2,16 @@
 
 #include "codeeditor.h"
 #include "editorpage.h"
+#include "widgets/contextkeys.h"
 #include "widgets/infobar.h"
 #include "widgets/symbolicon.h"
 
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyle>
 #include <QTabBar>
 #include <QToolButton>
@@ -20,6 +23,8 @@ namespace Workbench
 
 namespace
 {
+
+constexpr const char *pathProperty = "filePath";
 
 // The same file has the same name here, whatever links lead to it.
 QString plainPath(const QString &path)
@@ -38,6 +43,8 @@ EditorTabs::EditorTabs(QWidget *parent)
     setDocumentMode(true);
     setUsesScrollButtons(true);
     setElideMode(Qt::ElideNone);
+    tabBar()->installEventFilter(this);
+    openContextMenuByKeys(tabBar());
     connect(this, &QTabWidget::currentChanged, this, &EditorTabs::currentStateChanged);
     // A file that is replaced is away for a moment, and a run changes many: look when it is quiet.
     m_diskTimer.setSingleShot(true);
@@ -62,6 +69,8 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         const int index = addTab(page, symbolIcon(QStringLiteral("file")), QString());
         setTabToolTip(index, QDir::toNativeSeparators(plain));
         connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
+        connect(page, &EditorPage::editingStarted, this,
+                [this, page] { Q_EMIT editingStarted(page); });
         connect(page, &EditorPage::openRequested, this, [this, page](const QString &file) {
             QString reason;
             if (!openFile(file, 0, &reason))
@@ -69,6 +78,8 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         });
         connect(page->editor(), &QPlainTextEdit::cursorPositionChanged, this,
                 &EditorTabs::currentStateChanged);
+        connect(page->editor()->verticalScrollBar(), &QScrollBar::valueChanged, this,
+                &EditorTabs::placeChanged);
         showState(page);
     } else {
         page->checkDisk();
@@ -114,11 +125,21 @@ QList<EditorPage *> EditorTabs::pages() const
     return result;
 }
 
-void EditorTabs::showPage(QWidget *page, const QIcon &icon, const QString &title)
+void EditorTabs::showPage(QWidget *page, const QIcon &icon, const QString &title,
+                          const QString &path)
 {
+    page->setProperty(pathProperty, path);
     if (indexOf(page) < 0)
         addTab(page, icon, title);
     setCurrentWidget(page);
+}
+
+QString EditorTabs::pathOf(int index) const
+{
+    const QWidget *page = widget(index);
+    if (const auto *file = qobject_cast<const EditorPage *>(page))
+        return file->path();
+    return page ? page->property(pathProperty).toString() : QString();
 }
 
 bool EditorTabs::savePage(EditorPage *page)
@@ -196,21 +217,55 @@ bool EditorTabs::closeTab(int index)
 
 bool EditorTabs::closeAll()
 {
+    QList<QWidget *> all;
+    for (int i = 0; i < count(); ++i)
+        all.append(widget(i));
+    return closePages(all);
+}
+
+bool EditorTabs::closeOthers(int index)
+{
+    QList<QWidget *> others;
+    for (int i = 0; i < count(); ++i) {
+        if (i != index)
+            others.append(widget(i));
+    }
+    return closePages(others);
+}
+
+bool EditorTabs::closePages(const QList<QWidget *> &closing)
+{
     QList<EditorPage *> changed;
-    const QList<EditorPage *> all = pages();
-    for (EditorPage *page : all) {
-        if (page->isModified())
+    for (QWidget *widget : closing) {
+        auto *page = qobject_cast<EditorPage *>(widget);
+        if (page && page->isModified())
             changed.append(page);
     }
     if (!settle(changed))
         return false;
-    while (count() > 0) {
-        auto *page = qobject_cast<EditorPage *>(widget(0));
-        removeTab(0);
+    for (QWidget *widget : closing) {
+        auto *page = qobject_cast<EditorPage *>(widget);
+        removeTab(indexOf(widget));
         if (page)
             page->deleteLater();
     }
     return true;
+}
+
+bool EditorTabs::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == tabBar() && event->type() == QEvent::ContextMenu) {
+        const auto *menu = static_cast<QContextMenuEvent *>(event);
+        // Keys mean the tab in front.
+        const bool isByKeys = menu->reason() == QContextMenuEvent::Keyboard;
+        const int index = isByKeys ? currentIndex() : tabBar()->tabAt(menu->pos());
+        if (index >= 0)
+            Q_EMIT tabMenuRequested(
+                index, isByKeys ? tabBar()->mapToGlobal(tabBar()->tabRect(index).center())
+                                : menu->globalPos());
+        return true;
+    }
+    return QTabWidget::eventFilter(watched, event);
 }
 
 QStringList EditorTabs::keepChanges(QStringList *copies) const

@@ -27,8 +27,11 @@ public:
     EditorPage *currentPage() const;
     EditorPage *pageOf(const QString &path) const;
     QList<EditorPage *> pages() const;
-    // Shows a page that is no file.
-    void showPage(QWidget *page, const QIcon &icon, const QString &title);
+    // Shows a page that is no file; `path` is that of the file that it is about, if there is one.
+    void showPage(QWidget *page, const QIcon &icon, const QString &title,
+                  const QString &path = QString());
+    // The file of a tab, or that it is about; empty: none.
+    QString pathOf(int index) const;
 
     // Of the pages that there are and those that come.
     void setLook(const EditorLook &look);
@@ -39,6 +42,8 @@ public:
     // Asks about unsaved changes; false if the user wants to go on with them.
     bool closeTab(int index);
     bool closeAll();
+    // All but this one.
+    bool closeOthers(int index);
     // Writes the unsaved changes into files of their own, whose paths are appended to `copies` (may
     // be null); returns a sentence for each.
     QStringList keepChanges(QStringList *copies = nullptr) const;
@@ -46,12 +51,20 @@ public:
 Q_SIGNALS:
     void currentStateChanged();
     void countChanged();
+    void editingStarted(Workbench::EditorPage *page);
+    // A file was scrolled.
+    void placeChanged();
+    // By mouse or keys; a place on the screen.
+    void tabMenuRequested(int index, const QPoint &place);
 
 protected:
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    // Closes these, after a question where they have unsaved changes.
+    bool closePages(const QList<QWidget *> &closing);
     void watch();
     void checkDisk();
     void showState(EditorPage *page);

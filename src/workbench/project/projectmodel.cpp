@@ -16,6 +16,8 @@ namespace Workbench
 namespace
 {
 
+constexpr int reasonsShown = 5;
+
 // Internal id of a group; those of entries are their group's number.
 constexpr quintptr groupId = ~quintptr(0);
 
@@ -32,6 +34,7 @@ void ProjectModel::setProject(Project *project)
         m_project->disconnect(this);
     beginResetModel();
     m_project = project;
+    m_states.clear();
     for (QList<Entry> &entries : m_entries)
         entries.clear();
     if (m_project) {
@@ -67,6 +70,29 @@ void ProjectModel::refresh()
     Q_EMIT dataChanged(groupIndex(Ips), groupIndex(Sources));
 }
 
+void ProjectModel::setState(const QString &ipcFile, const IpState &state)
+{
+    m_states.insert(ipcFile, state);
+    const QModelIndex index = indexOf(ipcFile);
+    if (index.isValid())
+        Q_EMIT dataChanged(index, index);
+}
+
+QStringList ProjectModel::remarks(const Entry &file) const
+{
+    QStringList lines;
+    if (!file.explanation.isEmpty())
+        lines.append(file.explanation);
+    const IpState state = m_states.value(file.path);
+    if (file.missing || !state.isBehind())
+        return lines;
+    lines.append(state.sentence());
+    lines += state.reasons.mid(0, reasonsShown);
+    if (state.reasons.size() > reasonsShown)
+        lines.append(tr("and %n more", nullptr, state.reasons.size() - reasonsShown));
+    return lines;
+}
+
 QList<ProjectModel::Entry> ProjectModel::read(Group group) const
 {
     const QStringList paths = group == Ips ? m_project->ipFiles() : m_project->files();
@@ -90,6 +116,11 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
         entries.append(file);
     }
     return entries;
+}
+
+QString ProjectModel::projectFile() const
+{
+    return m_project ? m_project->file() : QString();
 }
 
 QModelIndex ProjectModel::groupIndex(Group group) const
@@ -184,18 +215,22 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
         return file->difference.isEmpty() ? file->text
                                           : tr("%1 (%2)").arg(file->text, file->difference);
     case Qt::AccessibleTextRole:
-        if (file->difference.isEmpty())
+        if (remarks(*file).isEmpty())
             return data(index, Qt::DisplayRole);
-        return tr("%1. %2").arg(file->text, file->explanation);
+        return tr("%1. %2", "a file and what is to be said of it")
+            .arg(file->text, remarks(*file).join(u' '));
     case Qt::ToolTipRole: {
         const QString path = QDir::toNativeSeparators(file->path);
         if (file->missing)
             return tr("%1 does not exist").arg(path);
         if (file->difference.isEmpty())
-            return path;
-        return tr("%1\n%2\nProject > Move to Device… moves it.").arg(path, file->explanation);
+            return QStringList(QStringList(path) + remarks(*file)).join(u'\n');
+        return tr("%1\n%2\nProject > Move to Device… moves it.")
+            .arg(path, remarks(*file).join(u'\n'));
     }
     case Qt::DecorationRole:
+        if (!file->missing && file->difference.isEmpty() && m_states.value(file->path).isBehind())
+            return symbolIcon(QStringLiteral("ip-file-stale"));
         return symbolIcon(file->missing || !file->difference.isEmpty() ? QStringLiteral("warning")
                           : index.internalId() == Ips                  ? QStringLiteral("ip-file")
                                                                        : QStringLiteral("file"));
@@ -207,6 +242,8 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
         return file->path;
     case MissingRole:
         return file->missing;
+    case BehindRole:
+        return !file->missing && m_states.value(file->path).isBehind();
     case TypeRole:
         return file->type;
     case OtherDeviceRole:

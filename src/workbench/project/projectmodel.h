@@ -1,6 +1,9 @@
 #pragma once
 
+#include "ipstate.h"
+
 #include <QAbstractItemModel>
+#include <QHash>
 #include <QPointer>
 #include <QStringList>
 
@@ -17,7 +20,7 @@ class ProjectModel : public QAbstractItemModel
 
 public:
     enum Group { Ips, Sources, GroupCount };
-    enum Role { PathRole = Qt::UserRole, MissingRole, OtherDeviceRole, TypeRole };
+    enum Role { PathRole = Qt::UserRole, MissingRole, OtherDeviceRole, TypeRole, BehindRole };
 
     explicit ProjectModel(QObject *parent = nullptr);
 
@@ -25,7 +28,11 @@ public:
     void setProject(Project *project);
     // Reads the project and its folder again.
     void refresh();
+    // Whether an IP of it has been generated as it is.
+    void setState(const QString &ipcFile, const IpState &state);
 
+    // Empty without a project.
+    QString projectFile() const;
     QModelIndex groupIndex(Group group) const;
     // Invalid when the tree does not show the file.
     QModelIndex indexOf(const QString &path) const;
@@ -55,10 +62,13 @@ private:
     };
 
     QList<Entry> read(Group group) const;
+    // What there is to be told of an IP, a line each; empty: nothing.
+    QStringList remarks(const Entry &file) const;
     const Entry *entry(const QModelIndex &index) const;
 
     QPointer<Project> m_project;
     QList<Entry> m_entries[GroupCount];
+    QHash<QString, IpState> m_states; // by path
 };
 
 } // namespace Workbench

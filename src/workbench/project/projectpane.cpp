@@ -65,10 +65,18 @@ QString ProjectPane::selectedFile() const
     return selected().data(ProjectModel::PathRole).toString();
 }
 
+QString ProjectPane::selectedPlace() const
+{
+    const QString file = selectedFile();
+    return file.isEmpty() && selected().isValid() ? m_model->projectFile() : file;
+}
+
 void ProjectPane::select(const QString &file)
 {
     m_tree->setFocus();
-    m_tree->setCurrentIndex(m_model->indexOf(file));
+    const QModelIndex index = m_model->indexOf(file);
+    m_tree->setCurrentIndex(index);
+    m_tree->scrollTo(index);
 }
 
 void ProjectPane::activateSelected()

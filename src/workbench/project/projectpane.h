@@ -30,6 +30,8 @@ public:
     QModelIndex selected() const;
     // Empty if none is.
     QString selectedFile() const;
+    // The same, or the project's file if none is; empty without a project.
+    QString selectedPlace() const;
     void select(const QString &file);
     // Opens what is selected, as Enter in the tree does.
     void activateSelected();

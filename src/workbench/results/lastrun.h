@@ -34,6 +34,8 @@ public:
     void setStore(const RunStore &store);
     // Forgets what is of another project; null: none is open.
     void setProject(Project *project);
+    // Whether figures and messages of it have been made, for the page or without it.
+    bool isShown() const { return m_page != nullptr; }
     bool isThere() const { return m_report || m_isKept; }
     // Made when it is first asked for.
     ResultPage *page();

@@ -114,10 +114,12 @@ ResultPage::ResultPage(QWidget *parent)
     m_left->addTab(m_figure, tr("Ports"));
     m_left->addTab(m_cellTable, tr("Primitives"));
     auto *right = new QSplitter(Qt::Vertical);
+    right->setObjectName(QStringLiteral("resultTablesSplitter"));
     right->addWidget(makeGroup(tr("Share of the device"), m_resourceTable));
     right->addWidget(makeGroup(tr("Files (double-click to open)"), m_files));
     right->setChildrenCollapsible(false);
     auto *halves = new QSplitter(Qt::Horizontal);
+    halves->setObjectName(QStringLiteral("resultSplitter"));
     halves->addWidget(m_left);
     halves->addWidget(right);
     // Half and half: sizes are shares until the page has one of its own.

@@ -86,6 +86,7 @@ SimulationPage::SimulationPage(const Source &source, const QString &ipcFile,
     connect(m_pins, &PinPanel::switched, this, &SimulationPage::sendPins);
     layout->addWidget(m_pins);
     auto *halves = new QSplitter(Qt::Horizontal);
+    halves->setObjectName(QStringLiteral("simulationSplitter"));
     halves->addWidget(buildLeft());
     halves->addWidget(buildRight());
     // Sizes are shares until the page has one of its own.

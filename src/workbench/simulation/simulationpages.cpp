@@ -72,7 +72,8 @@ SimulationPage *SimulationPages::show(const QString &ipcFile)
     m_tabs.showPage(page, symbolIcon(QStringLiteral("run")),
                     tr("Simulate %1")
                         .arg(QFileInfo(path).completeBaseName())
-                        .replace(u'&', QLatin1String("&&")));
+                        .replace(u'&', QLatin1String("&&")),
+                    path);
     m_tabs.setTabToolTip(m_tabs.indexOf(page), QDir::toNativeSeparators(path));
     page->setFocus();
     return page;

@@ -88,6 +88,7 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     auto *right = new QWidget;
     buildRight(right);
     auto *halves = new QSplitter(Qt::Horizontal);
+    halves->setObjectName(QStringLiteral("handOffSplitter"));
     halves->addWidget(left);
     halves->addWidget(right);
     // Sizes are shares until the page has one of its own.

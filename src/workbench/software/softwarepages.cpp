@@ -120,7 +120,8 @@ SoftwarePage *SoftwarePages::show(const QString &ipcFile)
     m_tabs.showPage(page, symbolIcon(QStringLiteral("ip-file")),
                     tr("Hand-off of %1")
                         .arg(QFileInfo(path).completeBaseName())
-                        .replace(u'&', QLatin1String("&&")));
+                        .replace(u'&', QLatin1String("&&")),
+                    path);
     m_tabs.setTabToolTip(m_tabs.indexOf(page), QDir::toNativeSeparators(path));
     page->setFocus();
     return page;

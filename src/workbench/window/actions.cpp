@@ -19,12 +19,15 @@
 #include "results/lastrun.h"
 #include "results/tablefiles.h"
 #include "settings/settingstable.h"
+#include "sessionkeeper.h"
+#include "widgets/fileplace.h"
 #include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
 
 #include <QApplication>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QToolBar>
 #include <QTreeView>
 
 #include <algorithm>
@@ -57,6 +60,21 @@ MainWindow::Actions::Actions(MainWindow *window)
     QMenu *tools = window->menuBar()->addMenu(tr("&Tools"));
     add(tools, tr("&Plug-ins…"), {}, {}, [window] { window->m_plugins->show(); });
     addHelpMenu();
+    fillToolBar();
+}
+
+void MainWindow::Actions::fillToolBar()
+{
+    QToolBar *bar = m_window->m_toolBar;
+    bar->addActions({newProject, open, save});
+    bar->addSeparator();
+    bar->addActions({startEditing, find});
+    bar->addSeparator();
+    bar->addActions({createIp, software, simulate, showResults});
+    for (QAction *action : {newProject, open, save, startEditing, find, createIp, showResults})
+        action->setToolTip(
+            tr("%1 (%2)", "an action and its key")
+                .arg(action->toolTip(), action->shortcut().toString(QKeySequence::NativeText)));
 }
 
 template <typename Slot>
@@ -87,13 +105,20 @@ void MainWindow::Actions::addFileMenu()
     MainWindow *window = m_window;
     const Keys nothing;
     QMenu *file = m_window->menuBar()->addMenu(tr("&File"));
-    add(file, tr("&New Project…"), QStringLiteral("new-project"), QKeySequence::New,
-        [window] { window->newProject(); });
-    add(file, tr("&Open…"), QStringLiteral("open"), QKeySequence::Open,
-        [window] { window->open(); });
+    newProject = add(file, tr("&New Project…"), QStringLiteral("new-project"), QKeySequence::New,
+                     [window] { window->newProject(); });
+    open = add(file, tr("&Open…"), QStringLiteral("open"), QKeySequence::Open,
+               [window] { window->open(); });
     recentMenu = file->addMenu(tr("Open &Recent"));
     closeProject =
         add(file, tr("Close &Project"), {}, nothing, [window] { window->closeProject(); });
+    reopen = add(file, tr("Reopen the &Last Project at Start"), {}, nothing,
+                 [this] { m_window->m_keeper->store().setWanted(reopen->isChecked()); });
+    reopen->setCheckable(true);
+    reopen->setStatusTip(
+        tr("Comes back to the project and its tabs when the workbench is started"));
+    QObject::connect(file, &QMenu::aboutToShow, window,
+                     [this] { reopen->setChecked(m_window->m_keeper->store().isWanted()); });
     file->addSeparator();
     save = add(file, tr("&Save"), QStringLiteral("save"), QKeySequence::Save, [window] {
         if (EditorPage *page = window->m_tabs->currentPage())
@@ -160,6 +185,9 @@ void MainWindow::Actions::addViewMenu()
     view->addAction(window->m_catalogueDock->toggleViewAction());
     view->addAction(window->m_outputDock->toggleViewAction());
     view->addAction(window->m_companions->action());
+    QAction *toolBar = window->m_toolBar->toggleViewAction();
+    toolBar->setText(tr("Tool &Bar"));
+    view->addAction(toolBar);
     view->addSeparator();
     showResults = add(view, tr("&Results of the Last Run"), QStringLiteral("results"),
                       QKeySequence(int(Qt::CTRL) + Qt::Key_R), [window] { window->showResults(); });
@@ -233,7 +261,7 @@ void MainWindow::Actions::addProjectMenu()
             window->openPath(window->m_projectPane->selectedFile(), 1);
     });
     openAsText->setStatusTip(tr("Shows an IP's configuration in the editor, not in its dialog"));
-    software = add(project, tr("&Hand-off"), {},
+    software = add(project, tr("&Hand-off"), QStringLiteral("hand-off"),
                    QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_E), [window] {
                        if (!window->m_projectPane->selectedFile().isEmpty())
                            window->showSoftware(window->m_projectPane->selectedFile());
@@ -249,6 +277,12 @@ void MainWindow::Actions::addProjectMenu()
     });
     add(project, tr("&Bring Back a Configuration…"), {}, nothing,
         [window] { window->m_ips->showKept(); });
+    project->addSeparator();
+    openFolder = add(project, tr("Open the &Folder"), QStringLiteral("folder"), nothing,
+                     [window] { openFolderOf(window->m_projectPane->selectedPlace(), window); });
+    openFolder->setStatusTip(tr("Shows the folder of what is selected in the file manager"));
+    copyPath = add(project, tr("Copy the &Path"), {}, nothing,
+                   [window] { copyPathOf(window->m_projectPane->selectedPlace()); });
     project->setToolTipsVisible(true); // why an IP cannot be moved
     project->addSeparator();
     addSourceActions(project);
@@ -374,6 +408,8 @@ void MainWindow::Actions::refreshProject()
     moveToDevice->setToolTip(moveTip);
     moveToDevice->setStatusTip(moveTip);
     const bool isSource = model->isSource(selected);
+    for (QAction *action : {openFolder, copyPath})
+        action->setEnabled(!m_window->m_projectPane->selectedPlace().isEmpty());
     removeSource->setEnabled(isSource);
     moveUp->setEnabled(isSource && selected.row() > 0);
     moveDown->setEnabled(isSource && selected.row() + 1 < model->rowCount(selected.parent()));

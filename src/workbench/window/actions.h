@@ -27,7 +27,10 @@ public:
     QAction *exportDiagram;
     QList<QAction *> exportTables;
     QAction *external;
+    QAction *newProject;
+    QAction *open;
     QAction *closeProject;
+    QAction *reopen;
     QAction *save;
     QAction *saveAll;
     QAction *closeTab;
@@ -54,6 +57,8 @@ public:
     QAction *software;
     QAction *simulate;
     QAction *moveToDevice;
+    QAction *openFolder;
+    QAction *copyPath;
     QAction *removeSource;
     QAction *moveUp;
     QAction *moveDown;
@@ -76,6 +81,7 @@ private:
     void addProjectMenu();
     void addSourceActions(QMenu *menu);
     void addHelpMenu();
+    void fillToolBar();
     void refreshEditor();
     void refreshProject();
 

@@ -3,6 +3,7 @@
 #include "aboutdialog.h"
 #include "actions.h"
 #include "catalogue/catalogueview.h"
+#include "catalogue/generationwatch.h"
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/ipsession.h"
 #include "catalogue/mapset.h"
@@ -21,6 +22,8 @@
 #include "messages/messagesview.h"
 #include "messages/outputpane.h"
 #include "newprojectdialog.h"
+#include "project/ipchead.h"
+#include "project/projectmodel.h"
 #include "project/projectpane.h"
 #include "projectactions.h"
 #include "render/diagramrenderer.h"
@@ -30,6 +33,7 @@
 #include "settings/externaleditor.h"
 #include "settings/settingsdialog.h"
 #include "settings/settingstable.h"
+#include "sessionkeeper.h"
 #include "simulation/exampledialog.h"
 #include "simulation/exampleproject.h"
 #include "simulation/simulationpage.h"
@@ -37,6 +41,8 @@
 #include "software/softwarepage.h"
 #include "software/softwarepages.h"
 #include "startpage.h"
+#include "tabmenu.h"
+#include "widgets/contextkeys.h"
 #include "widgets/errorbox.h"
 #include "widgets/fixedfont.h"
 #include "widgets/infobar.h"
@@ -66,6 +72,8 @@
 #include <QStackedWidget>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -76,8 +84,7 @@ namespace
 {
 
 const QString locationKey = QStringLiteral("projectLocation");
-const QString geometryKey = QStringLiteral("window/geometry");
-const QString stateKey = QStringLiteral("window/state");
+const QString deviceKey = QStringLiteral("session/device"); // of the last new project
 constexpr int stateVersion = 1;
 
 bool hasSuffix(const QString &path, const char *suffix)
@@ -111,6 +118,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_catalogueView(new CatalogueView(catalogue))
     , m_plugins(new PluginList(catalogue, settings, *m_infoBar, this))
     , m_help(new HelpDesk(catalogue, this))
+    , m_generation(new GenerationWatch(catalogue, this))
     , m_companions(new CompanionDesk(settings, companionPanels(settings), this))
 {
     IPCore::FocusRing::install();
@@ -130,20 +138,58 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
 
     buildDocks();
     buildStatusBar();
+    // Screens have more room at the side.
+    m_toolBar = new QToolBar(tr("Tool Bar"));
+    addToolBar(Qt::LeftToolBarArea, m_toolBar);
+    m_toolBar->setObjectName(QStringLiteral("mainToolBar"));
+    m_toolBar->setFloatable(false);
     m_ips = std::make_unique<IpActions>(IpActions::Surroundings{m_catalogue, *m_session, *m_kept,
                                                                 *m_tabs, *m_messages, *m_infoBar,
                                                                 *m_closing},
                                         this);
     m_actions = std::make_unique<Actions>(this);
+    const auto separator = [this] {
+        auto *line = new QAction(this);
+        line->setSeparator(true);
+        return line;
+    };
     m_projectPane->tree()->addActions(
         {m_actions->openSelected, m_actions->openAsText, m_actions->software, m_actions->simulate,
-         m_actions->moveToDevice, m_actions->addSources, m_actions->newSource,
-         m_actions->removeSource, m_actions->moveUp, m_actions->moveDown, m_actions->topModule});
+         m_actions->moveToDevice, separator(), m_actions->openFolder, m_actions->copyPath,
+         separator(), m_actions->addSources, m_actions->newSource, m_actions->removeSource,
+         m_actions->moveUp, m_actions->moveDown, m_actions->topModule});
+    openContextMenuByKeys(m_projectPane->tree());
     m_recent.showIn(m_actions->recentMenu);
 
     connectParts();
     connectStartPage();
     connectHost();
+    m_keeper = new SessionKeeper(
+        settings,
+        {*m_tabs, *m_infoBar,
+         [this](const QString &ipcFile) {
+             return canHandOff(ipcFile) && m_software->show(ipcFile) != nullptr;
+         },
+         [this](const QString &ipcFile) {
+             return canSimulate(ipcFile) && m_simulations->show(ipcFile) != nullptr;
+         },
+         [this] {
+             QString error;
+             const bool isThere = m_lastRun->prepare(&error);
+             if (isThere)
+                 showResults();
+             return isThere;
+         },
+         [this] { return m_lastRun->isShown() && !m_outputDock->isHidden(); },
+         [this] {
+             QString error;
+             m_lastRun->prepare(&error);
+         },
+         [this] {
+             return SessionStore::WindowState{saveGeometry(), QMainWindow::saveState(stateVersion)};
+         }},
+        this);
+    followDocks();
     restoreState();
     applySettings();
     setProject(nullptr);
@@ -178,6 +224,9 @@ void MainWindow::connectParts()
     connect(m_messages, &QAbstractItemModel::rowsInserted, this, &MainWindow::showEditorState);
     connect(m_tabs, &EditorTabs::countChanged, this, &MainWindow::showStart);
     connect(m_tabs, &EditorTabs::currentStateChanged, this, &MainWindow::showEditorState);
+    connect(m_tabs, &EditorTabs::tabMenuRequested, this, [this](int index, const QPoint &place) {
+        TabMenu(*m_tabs, *m_projectPane, *m_projectDock, this).exec(index, place);
+    });
     connect(m_simulations, &SimulationPages::openRequested, this, &MainWindow::openPath);
     connect(m_lastRun, &LastRun::openRequested, this, openFile);
     m_lastRun->setMapSource(
@@ -186,6 +235,10 @@ void MainWindow::connectParts()
             [this](const QString &ipcFile, const MapDoor &door) {
                 showSoftware(ipcFile)->showPlace(door.document, door.headings);
             });
+    connect(m_generation, &GenerationWatch::changed, this, [this](const QString &ipcFile) {
+        m_projectPane->model()->setState(ipcFile, m_generation->stateOf(ipcFile));
+    });
+    connect(m_tabs, &EditorTabs::editingStarted, this, &MainWindow::warnOfGeneration);
     connect(m_lastRun, &LastRun::changed, this, &MainWindow::showEditorState);
     connect(m_ips.get(), &IpActions::opening, this, [this](int ip) {
         m_lastRun->expect();
@@ -211,6 +264,8 @@ void MainWindow::connectStartPage()
 {
     connect(m_start, &StartPage::newProjectRequested, this, &MainWindow::newProject);
     connect(m_start, &StartPage::openRequested, this, &MainWindow::open);
+    connect(m_start, &StartPage::newSubsystemRequested, this, &MainWindow::newSubsystem,
+            Qt::QueuedConnection);
     connect(
         m_start, &StartPage::openFileRequested, this,
         [this](const QString &path) { openPath(path); }, Qt::QueuedConnection);
@@ -301,6 +356,7 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
     m_projectActions->setProject(project.get());
     m_ips->setProject(project.get());
     m_projectPane->setProject(project.get());
+    m_generation->setProject(project.get());
     m_project = std::move(project);
     if (m_project) {
         Core::ProjectManager::setCurrentProject(m_project.get());
@@ -308,11 +364,11 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
         connect(m_project.get(), &Project::failed, this,
                 [this](const QString &message) { m_infoBar->showMessage(message, {}); });
         m_recent.add(m_project->file());
-        if (!m_project->deviceId().isEmpty() && m_project->device().isNull())
-            m_infoBar->showMessage(
-                tr("The device \"%1\" of this project is not in the device database.")
-                    .arg(m_project->deviceId()),
-                {{tr("Choose &a Device…"), [this] { chooseDevice(); }}});
+    }
+    m_keeper->setProject(m_project ? m_project->file() : QString());
+    if (m_project) {
+        m_keeper->restoreTabs();
+        tellUnknownDevice();
     }
     m_runLabel->clear();
     showPlace();
@@ -320,12 +376,21 @@ bool MainWindow::setProject(std::unique_ptr<Project> project)
     return true;
 }
 
+void MainWindow::tellUnknownDevice()
+{
+    if (m_project->deviceId().isEmpty() || !m_project->device().isNull())
+        return;
+    const QString text = tr("The device \"%1\" of this project is not in the device database.")
+                             .arg(m_project->deviceId());
+    m_infoBar->showMessage(
+        m_infoBar->isHidden() ? text : QString(m_infoBar->text() + QLatin1String("\n") + text),
+        {{tr("Choose &a Device…"), [this] { chooseDevice(); }}});
+}
+
 // Title, device and catalogue, which follow the project.
 void MainWindow::showPlace()
 {
     const DEV::DeviceArg device = m_project ? m_project->device() : DEV::DeviceArg();
-    setWindowTitle(m_project ? tr("%1 - Tarvo Workbench").arg(m_project->name())
-                             : tr("Tarvo Workbench"));
     m_deviceButton->setVisible(m_project != nullptr);
     QString text = tr(" No device");
     if (!device.isNull())
@@ -338,8 +403,31 @@ void MainWindow::showPlace()
     showStart();
 }
 
+// The file in front, the project, the program. Qt puts its mark of unsaved changes at "[*]".
+void MainWindow::showTitle()
+{
+    const EditorPage *page = m_tabs->currentPage();
+    const auto escaped = [](QString name) {
+        return name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    };
+    const QString file = page ? escaped(QFileInfo(page->path()).fileName()) : QString();
+    const QString project = m_project ? escaped(m_project->name()) : QString();
+    const bool isModified = page && page->isModified();
+    if (!isModified)
+        setWindowModified(false);
+    if (page)
+        setWindowTitle(m_project ? tr("%1[*] - %2 - Tarvo Workbench").arg(file, project)
+                                 : tr("%1[*] - Tarvo Workbench").arg(file));
+    else
+        setWindowTitle(m_project ? tr("%1 - Tarvo Workbench").arg(project) : tr("Tarvo Workbench"));
+    if (isModified)
+        setWindowModified(true);
+}
+
 void MainWindow::showStart()
 {
+    if (m_keeper && m_keeper->isRestoring())
+        return;
     const bool empty = m_tabs->count() == 0;
     if (empty) {
         QVector<StartPage::Example> examples;
@@ -360,6 +448,7 @@ void MainWindow::showEditorState()
     if (!m_actions)
         return;
     m_actions->refresh();
+    showTitle();
     const EditorPage *page = m_tabs->currentPage();
     m_cursorLabel->setVisible(page != nullptr);
     if (page)
@@ -444,19 +533,36 @@ bool MainWindow::openExample(int ip, int number)
 
 void MainWindow::newProject()
 {
-    const QString location = m_settings.value(locationKey, QDir::homePath()).toString();
-    NewProjectDialog dialog(location, this);
-    if (dialog.exec() != QDialog::Accepted || !closeProject())
-        return;
+    NewProjectDialog dialog(m_settings.value(locationKey, QDir::homePath()).toString(), this);
+    makeProject(&dialog);
+}
+
+bool MainWindow::makeProject(NewProjectDialog *dialog)
+{
+    if (dialog->exec() != QDialog::Accepted || !closeProject())
+        return false;
     QString error;
     std::unique_ptr<Project> project =
-        Project::create(dialog.folder(), dialog.name(), dialog.device(), &error);
+        Project::create(dialog->folder(), dialog->name(), dialog->device(), &error);
     if (!project) {
         showError(this, error);
-        return;
+        return false;
     }
     m_settings.setValue(locationKey, QFileInfo(project->path()).path());
-    setProject(std::move(project));
+    m_settings.setValue(deviceKey, project->deviceId());
+    return setProject(std::move(project));
+}
+
+void MainWindow::newSubsystem(int ip)
+{
+    NewProjectDialog dialog(m_settings.value(locationKey, QDir::homePath()).toString(), this);
+    dialog.propose(m_catalogue.entries().at(ip).name, m_settings.value(deviceKey).toString(),
+                   [this, ip](const DEV::DeviceArg &device) {
+                       QString reason;
+                       return m_catalogue.isSupported(ip, device, &reason) ? QString() : reason;
+                   });
+    if (makeProject(&dialog))
+        createSelectedIp(ip);
 }
 
 void MainWindow::open()
@@ -494,15 +600,73 @@ bool MainWindow::openProject(const QString &file)
         showError(this, error);
         return false;
     }
-    return closeProject() && setProject(std::move(project));
+    return leaveProject() && setProject(std::move(project));
 }
 
 bool MainWindow::closeProject()
 {
-    if (!m_tabs->closeAll())
+    const QString file = m_project ? m_project->file() : QString();
+    if (!leaveProject())
         return false;
+    m_keeper->store().forget(file);
+    return true;
+}
+
+bool MainWindow::leaveProject()
+{
+    m_keeper->hold();
+    if (!m_tabs->closeAll()) {
+        m_keeper->release();
+        return false;
+    }
     m_infoBar->hide();
+    m_keeper->save();
     return setProject(nullptr);
+}
+
+bool MainWindow::canHandOff(const QString &ipcFile) const
+{
+    const int ip = m_catalogue.indexOf(IpcHead::read(ipcFile).type);
+    return ip >= 0 && m_catalogue.canExport(ip);
+}
+
+bool MainWindow::canSimulate(const QString &ipcFile) const
+{
+    const int ip = m_catalogue.indexOf(IpcHead::read(ipcFile).type);
+    return ip >= 0 && m_catalogue.canSimulate(ip);
+}
+
+void MainWindow::restoreSession()
+{
+    const SessionStore &store = m_keeper->store();
+    if (!store.isWanted() || (store.last().isEmpty() && store.record({}).tabs.isEmpty()))
+        return;
+    if (store.attempts() < SessionStore::attemptLimit) {
+        reopenLast();
+        return;
+    }
+    m_infoBar->showMessage(tr("The last starts ended while they opened what was open before, so "
+                              "nothing is opened now."),
+                           {{tr("&Open It All the Same"), [this] { reopenLast(); }}});
+}
+
+// A start that does not get through this is counted.
+void MainWindow::reopenLast()
+{
+    SessionStore &store = m_keeper->store();
+    store.setAttempts(store.attempts() + 1);
+    const QString file = store.last();
+    QString error;
+    std::unique_ptr<Project> project = file.isEmpty() ? nullptr : Project::open(file, &error);
+    if (project) {
+        setProject(std::move(project));
+    } else if (file.isEmpty()) {
+        m_keeper->restoreTabs();
+    } else {
+        store.forget(file);
+        m_infoBar->showMessage(tr("The project of the last time is not opened. %1").arg(error), {});
+    }
+    QTimer::singleShot(0, this, [&store] { store.setAttempts(0); });
 }
 
 bool MainWindow::openIp(const QString &ipcFile)
@@ -548,8 +712,21 @@ void MainWindow::createSelectedIp(int ip)
     createIp(ip, m_project->freeIpFolder(m_catalogue.targetOf(ip)), m_project->device());
 }
 
+void MainWindow::warnOfGeneration(EditorPage *page)
+{
+    const QString ipcFile = m_generation->originOf(page->path());
+    if (ipcFile.isEmpty())
+        return;
+    page->infoBar()->showMessage(
+        tr("This file is generated from \"%1\". The next generation writes it anew, and keeps what "
+           "you change here in a copy beside it.")
+            .arg(QDir::toNativeSeparators(ipcFile)),
+        {{tr("Open the &Configuration"), [this, ipcFile] { openPath(ipcFile); }}});
+}
+
 void MainWindow::onIpClosed(const QStringList &files)
 {
+    m_generation->refresh();
     m_projectPane->refresh();
     QStringList delivered;
     for (const QString &file : files) {
@@ -723,23 +900,48 @@ void MainWindow::goToLine()
     page->editor()->setFocus();
 }
 
-void MainWindow::saveState()
+void MainWindow::followDocks()
 {
-    m_settings.setValue(geometryKey, saveGeometry());
-    m_settings.setValue(stateKey, QMainWindow::saveState(stateVersion));
-    m_settings.sync();
+    for (QDockWidget *dock : {m_projectDock, m_catalogueDock, m_outputDock}) {
+        connect(dock, &QDockWidget::visibilityChanged, m_keeper, &SessionKeeper::note);
+        connect(dock, &QDockWidget::topLevelChanged, m_keeper, &SessionKeeper::note);
+        connect(dock, &QDockWidget::dockLocationChanged, m_keeper, &SessionKeeper::note);
+        dock->installEventFilter(this); // its size
+    }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_keeper && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        m_keeper->note();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    if (m_keeper)
+        m_keeper->note();
+}
+
+void MainWindow::moveEvent(QMoveEvent *event)
+{
+    QMainWindow::moveEvent(event);
+    if (m_keeper)
+        m_keeper->note();
 }
 
 void MainWindow::restoreState()
 {
-    const QByteArray geometry = m_settings.value(geometryKey).toByteArray();
-    if (geometry.isEmpty() || !restoreGeometry(geometry)) {
+    const SessionStore::WindowState state = m_keeper->store().windowState();
+    // Brings a window onto a screen that there is.
+    if (state.geometry.isEmpty() || !restoreGeometry(state.geometry)) {
         // The frame around the window needs room as well; how much is not known before it is shown.
         const QSize room = (screen() ? screen()->availableSize() : QSize(1280, 800)) * 0.95;
         resize(room.boundedTo(
             QSize(fontMetrics().averageCharWidth() * 190, fontMetrics().height() * 50)));
     }
-    if (!QMainWindow::restoreState(m_settings.value(stateKey).toByteArray(), stateVersion)) {
+    if (!QMainWindow::restoreState(state.panes, stateVersion)) {
         const int width = fontMetrics().averageCharWidth() * 46;
         resizeDocks({m_projectDock, m_catalogueDock}, {width, width}, Qt::Horizontal);
         resizeDocks({m_outputDock}, {fontMetrics().height() * 8}, Qt::Vertical);
@@ -790,9 +992,13 @@ bool MainWindow::mayEndRuns()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_closing->hasBegun() && (!mayEndRuns() || !m_tabs->closeAll())) {
-        event->ignore();
-        return;
+    if (!m_closing->hasBegun()) {
+        m_keeper->hold();
+        if (!mayEndRuns() || !m_tabs->closeAll()) {
+            m_keeper->release();
+            event->ignore();
+            return;
+        }
     }
     if (m_closing->isHeldUp()) {
         event->ignore();
@@ -800,7 +1006,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_closing->begin();
-    saveState();
+    m_keeper->save();
     QMainWindow::closeEvent(event);
     Q_EMIT closed();
 }
@@ -810,6 +1016,7 @@ void MainWindow::shutDown()
     if (!m_closing->begin())
         return;
     // Not those that stand while a plug-in runs: they go when it returns.
+    m_keeper->hold();
     const QStringList told = m_tabs->keepChanges();
     for (const QString &line : told)
         qWarning("%s", qUtf8Printable(line));

@@ -14,6 +14,7 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QSettings)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
+QT_FORWARD_DECLARE_CLASS(QToolBar)
 
 namespace IPCore
 {
@@ -32,7 +33,9 @@ class CatalogueView;
 class ClosingSequence;
 class Companion;
 class CompanionDesk;
+class EditorPage;
 class EditorTabs;
+class GenerationWatch;
 class HelpDesk;
 class HelpWindow;
 class InfoBar;
@@ -43,11 +46,13 @@ class KeptConfigurations;
 class LastRun;
 class LogView;
 class MessageModel;
+class NewProjectDialog;
 class OutputPane;
 class PluginList;
 class ProjectActions;
 class ProjectPane;
 class ResultPage;
+class SessionKeeper;
 class SimulationPage;
 class SimulationPages;
 class SoftwarePage;
@@ -98,6 +103,10 @@ public:
     // written. The table is of the last run, a TableFiles::Table.
     bool exportDiagramOf(const QString &ipcFile, const QString &path, QString *error);
     bool exportTableTo(int table, const QString &path, QString *error);
+    // Opens what was open last, with its tabs, unless the user does not want that. What cannot be
+    // opened is told once, without a question.
+    void restoreSession();
+    SessionKeeper *session() const { return m_keeper; }
     // The window of the guide and of IPs' documents; null while there is none.
     HelpWindow *help() const;
     // The window beside the dialog of an IP; null while there is none.
@@ -113,6 +122,8 @@ public Q_SLOTS:
     void newProject();
     void open();
     void createSelectedIp(int ip);
+    // From nothing to the dialog of an IP of the catalogue: asks for folder and device only.
+    void newSubsystem(int ip);
     void showGuide();
     // The document of an IP of the catalogue.
     void showIpHelp(int ip);
@@ -122,6 +133,9 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
@@ -133,13 +147,20 @@ private:
     void connectParts();
     void connectStartPage();
     void connectHost();
+    void followDocks();
     bool setProject(std::unique_ptr<Project> project);
+    // Closes its tabs; false if the user wants to go on with them.
+    bool leaveProject();
+    void reopenLast();
+    bool canHandOff(const QString &ipcFile) const;
+    bool canSimulate(const QString &ipcFile) const;
+    void tellUnknownDevice();
     void showPlace();
+    void showTitle();
     void showEditorState();
     void showStart();
     void showResults();
     OutputPane *output();
-    void saveState();
     void restoreState();
     void chooseDevice();
     void about();
@@ -150,10 +171,12 @@ private:
     void exportTable(int table);
     void goToLine();
     bool mayEndRuns();
+    bool makeProject(NewProjectDialog *dialog);
 
     void onRunStarted(IPCore::SynthesisHelper *helper);
     void onRunFinished(const Synthesis::RunReport &report);
     void onNoticed(const QStringList &notices);
+    void warnOfGeneration(EditorPage *page);
     void onIpClosed(const QStringList &files);
 
     IpCatalogue &m_catalogue;
@@ -180,7 +203,10 @@ private:
     CatalogueView *m_catalogueView;
     PluginList *m_plugins;
     HelpDesk *m_help;
+    SessionKeeper *m_keeper = nullptr;
+    GenerationWatch *m_generation;
     CompanionDesk *m_companions;
+    QToolBar *m_toolBar;
     QDockWidget *m_projectDock;
     QDockWidget *m_catalogueDock;
     QDockWidget *m_outputDock;

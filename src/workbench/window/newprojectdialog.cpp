@@ -77,6 +77,25 @@ NewProjectDialog::NewProjectDialog(const QString &location, QWidget *parent)
     check();
 }
 
+void NewProjectDialog::propose(const QString &ip, const QString &deviceId,
+                               const std::function<QString(const DEV::DeviceArg &)> &mistake)
+{
+    setWindowTitle(tr("New Subsystem: %1").arg(ip));
+    m_ok->setText(tr("Create and Configure"));
+    m_mistake = mistake;
+    m_picker->setDevice(deviceId);
+    const QString base = QStringLiteral("subsystem"); // names a folder
+    QString free = base;
+    const QDir location(QDir::fromNativeSeparators(m_location->text()));
+    for (int n = 2; QFileInfo::exists(location.filePath(free)); ++n)
+        free = QStringLiteral("%1_%2").arg(base).arg(n);
+    m_name->setText(free);
+    m_name->selectAll();
+    if (device().isNull())
+        m_picker->setFocus();
+    check();
+}
+
 QString NewProjectDialog::name() const
 {
     return m_name->text();
@@ -109,6 +128,8 @@ void NewProjectDialog::check()
         hint = tr("\"%1\" is a file.").arg(QDir::toNativeSeparators(folder()));
     if (hint.isEmpty() && device().isNull())
         hint = tr("Select a device in the table.");
+    if (hint.isEmpty() && m_mistake)
+        hint = m_mistake(device());
     m_ok->setEnabled(hint.isEmpty());
     if (hint.isEmpty()) {
         hint = tr("Makes the project in %1").arg(QDir::toNativeSeparators(folder()));

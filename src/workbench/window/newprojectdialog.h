@@ -4,6 +4,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
@@ -22,6 +24,12 @@ class NewProjectDialog : public QDialog
 public:
     explicit NewProjectDialog(const QString &location, QWidget *parent = nullptr);
 
+    // Asks for the project of a new IP instead: fills in what can be guessed, and lets only devices
+    // be chosen of which `mistake`, a sentence, is empty. `deviceId` is a device that is selected
+    // at first; it may be empty.
+    void propose(const QString &ip, const QString &deviceId,
+                 const std::function<QString(const DEV::DeviceArg &)> &mistake);
+
     QString name() const;
     // The project's own folder.
     QString folder() const;
@@ -36,6 +44,7 @@ private:
     QLineEdit *m_location;
     DevicePicker *m_picker;
     QLabel *m_hint;
+    std::function<QString(const DEV::DeviceArg &)> m_mistake;
     QPushButton *m_ok;
 };
 

@@ -23,6 +23,7 @@ struct Arguments {
     std::string output;
     std::vector<std::string> pluginDirs;
     std::string settings;
+    bool isFresh = false;
     unsigned timeLimit = 60;
 };
 
@@ -70,8 +71,11 @@ void describe(CLI::App &app, Arguments &arguments)
         ->type_name("DIR")
         ->take_all()
         ->allow_extra_args(false);
+    app.add_flag("--no-restore", arguments.isFresh,
+                 "Do not open the project of the last time; one that is named is opened instead of "
+                 "it anyhow");
     app.add_option("--settings", arguments.settings,
-                   "Keep window state and recent projects in this file")
+                   "Keep window state, tabs and recent projects in this file")
         ->type_name("FILE");
 }
 
@@ -106,6 +110,7 @@ Options::Next Options::parse(int argc, char *argv[], int *status)
     renderDiagram = text(arguments.renderDiagram);
     output = text(arguments.output);
     settings = text(arguments.settings);
+    isFresh = arguments.isFresh;
     timeLimit = arguments.timeLimit;
     *status = 0;
     return Run;

@@ -18,6 +18,7 @@ struct Options {
     QString output;
     QStringList pluginDirs;
     QString settings;
+    bool isFresh = false;    // nothing of the last time is opened
     unsigned timeLimit = 60; // of renderDiagram, in seconds
 
     enum Next { Run, Leave };

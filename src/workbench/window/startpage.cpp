@@ -21,6 +21,8 @@ namespace
 
 // More are in the dialog.
 constexpr int keptShown = 3;
+// More are in the catalogue.
+constexpr int subsystemsShown = 4;
 
 QLabel *makeLabel(const QString &text, qreal scale, bool bold)
 {
@@ -111,6 +113,29 @@ void StartPage::changeEvent(QEvent *event)
         applyFont();
 }
 
+void StartPage::showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,
+                               const QVector<Example> &examples)
+{
+    for (const Example &example : examples) {
+        auto *link = makeLink(tr("Open the example: %1…").arg(example.title), example.purpose,
+                              QStringLiteral("run"));
+        link->setObjectName(QStringLiteral("exampleLink"));
+        connect(link, &QPushButton::clicked, this,
+                [this, example] { Q_EMIT exampleRequested(example.ip, example.number); });
+        page->addWidget(link);
+    }
+    const int count = qMin(catalogue.entries().size(), subsystemsShown);
+    for (int ip = 0; ip < count; ++ip) {
+        const IpEntry &entry = catalogue.entries().at(ip);
+        auto *link = makeLink(tr("New subsystem: %1 %2…").arg(entry.name, entry.version),
+                              tr("Choose a device; then its dialog opens."), QStringLiteral("ip"));
+        link->setObjectName(QStringLiteral("newSubsystemLink"));
+        connect(link, &QPushButton::clicked, this,
+                [this, ip] { Q_EMIT newSubsystemRequested(ip); });
+        page->addWidget(link);
+    }
+}
+
 void StartPage::showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue,
                             const QStringList &recent, const QList<KeptConfigurations::Item> &kept,
                             const QVector<Example> &examples)
@@ -133,13 +158,10 @@ void StartPage::showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue,
     connect(open, &QPushButton::clicked, this, &StartPage::openRequested);
     page->addWidget(create);
     page->addWidget(open);
-    for (const Example &example : examples) {
-        auto *link = makeLink(tr("Open the example: %1…").arg(example.title), example.purpose,
-                              QStringLiteral("run"));
-        link->setObjectName(QStringLiteral("exampleLink"));
-        connect(link, &QPushButton::clicked, this,
-                [this, example] { Q_EMIT exampleRequested(example.ip, example.number); });
-        page->addWidget(link);
+    if (!examples.isEmpty() || !catalogue.entries().isEmpty()) {
+        page->addSpacing(fontMetrics().height());
+        page->addWidget(makeLabel(tr("First steps"), 1.2, true));
+        showFirstSteps(page, catalogue, examples);
     }
 
     if (!recent.isEmpty()) {

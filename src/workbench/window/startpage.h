@@ -35,6 +35,7 @@ public:
 
 Q_SIGNALS:
     void newProjectRequested();
+    void newSubsystemRequested(int ip);
     void openRequested();
     void openFileRequested(const QString &path);
     void createIpRequested(int ip);
@@ -51,6 +52,8 @@ private:
     void applyFont();
     void showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue, const QStringList &recent,
                      const QList<KeptConfigurations::Item> &kept, const QVector<Example> &examples);
+    void showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,
+                        const QVector<Example> &examples);
     void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue,
                      const QList<KeptConfigurations::Item> &kept);
     // Of those in the folder, which may be empty for all, the drafts.

@@ -85,12 +85,16 @@ private Q_SLOTS:
     void saysTheSameAsTheCommandLineOfWhatWouldBeGenerated_data();
     void saysTheSameAsTheCommandLineOfWhatWouldBeGenerated();
     void thePreviewTellsOfAPrefixThatCannotBe();
+    void saysTheSameAsTheCommandLineOfWhatIsStale_data();
+    void saysTheSameAsTheCommandLineOfWhatIsStale();
+    void tellsWhyTheStateCannotBeTold();
     void whatItSaysIsWhatOkThenWrites();
     void saysWhyOkWouldWriteNothing();
     void needsNoLibraryThatAHostMayLack();
 
 private:
     QVariantMap previewGeneration(const QVariantMap &configuration);
+    QVariantMap generationState(const QString &file);
     // As a host calls it: by name.
     QVariantMap moveToDevice(const QString &file, const QString &device, bool write);
     QVariantMap exportSoftware(const QString &file, const QStringList &formats = {});
@@ -1291,6 +1295,103 @@ void tst_Plugin::saysTheSameAsTheCommandLineOfWhatWouldBeGenerated()
     QVERIFY(told.contains("ahb_option_defs.v") && told.contains("+`define TARVO_GPIO_SUPPORT"));
     QCOMPARE(answer.value(QStringLiteral("text")).toString().toUtf8(), told);
     QCOMPARE(treeOf(dir.path()), before);
+}
+
+QVariantMap tst_Plugin::generationState(const QString &file)
+{
+    plugin()->setDataPath(QStringLiteral(TARVO_IP_DATA_DIR));
+    QVariantMap answer;
+    const bool found =
+        QMetaObject::invokeMethod(plugin(), "generationState", Qt::DirectConnection,
+                                  Q_RETURN_ARG(QVariantMap, answer), Q_ARG(QString, file));
+    return found ? answer : QVariantMap{{QStringLiteral("error"), QStringLiteral("no method")}};
+}
+
+void tst_Plugin::saysTheSameAsTheCommandLineOfWhatIsStale_data()
+{
+    QTest::addColumn<bool>("isMade");
+    QTest::addColumn<QStringList>("changed");
+    QTest::addColumn<QString>("edited");
+    const QString header = QStringLiteral("temp/tv_orix_m1/parameter.vh");
+    const QString netlist = QStringLiteral("tarvo_orix_m1.v");
+    const QStringList gpio{QStringLiteral("Enable GPIO=true")};
+    QTest::newRow("nothing has been generated") << false << QStringList() << QString();
+    QTest::newRow("the include files have") << true << QStringList() << QString();
+    QTest::newRow("and the configuration has changed") << true << gpio << QString();
+    QTest::newRow("and a file was edited") << true << QStringList() << header;
+    QTest::newRow("and both") << true << gpio << header;
+    QTest::newRow("a foreign result") << true << QStringList() << netlist;
+    QTest::newRow("in the other language")
+        << true << QStringList{QStringLiteral("LANG=VHDL")} << QString();
+}
+
+void tst_Plugin::saysTheSameAsTheCommandLineOfWhatIsStale()
+{
+    QFETCH(bool, isMade);
+    QFETCH(QStringList, changed);
+    QFETCH(QString, edited);
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("tarvo_orix_m1.ipc"));
+    const auto command = [](const QStringList &arguments) {
+        QProcess process;
+        process.start(QStringLiteral(TARVO_COMMAND), arguments);
+        process.waitForFinished(-1);
+        return process.readAllStandardOutput();
+    };
+    command({QStringLiteral("new"), QStringLiteral("--out"), dir.path(), QStringLiteral("--device"),
+             QStringLiteral("TV2KR-18C-QFN88P-C8/I7")});
+    if (isMade)
+        command({QStringLiteral("generate"), file, QStringLiteral("--no-synth")});
+    if (!edited.isEmpty())
+        QVERIFY(TestSupport::write(dir.filePath(edited), "// mine\n"));
+    for (const QString &option : qAsConst(changed))
+        command({QStringLiteral("set"), file, option});
+    const QMap<QString, QByteArray> before = treeOf(dir.path());
+    const QJsonObject told =
+        QJsonDocument::fromJson(command({QStringLiteral("generate"), file,
+                                         QStringLiteral("--check"), QStringLiteral("--json")}))
+            .object();
+    const QVariantMap answer = generationState(file);
+    QCOMPARE(treeOf(dir.path()), before);
+    QCOMPARE(answer.value(QStringLiteral("error")).toString(), QString());
+    QVERIFY(!told.isEmpty());
+    QCOMPARE(answer.value(QStringLiteral("state")).toString(),
+             told.value(QStringLiteral("state")).toString());
+    QStringList reasons;
+    const QJsonArray changes = told.value(QStringLiteral("changes")).toArray();
+    for (const QJsonValue &change : changes)
+        reasons.append(change.toObject().value(QStringLiteral("text")).toString());
+    const QJsonArray warnings = told.value(QStringLiteral("warnings")).toArray();
+    for (const QJsonValue &warning : warnings)
+        reasons.append(warning.toString());
+    QCOMPARE(answer.value(QStringLiteral("reasons")).toStringList(), reasons);
+    QStringList files;
+    const QJsonArray entries = told.value(QStringLiteral("files")).toArray();
+    for (const QJsonValue &entry : entries)
+        files.append(dir.path() + u'/' + entry[QStringLiteral("path")].toString() + u' ' +
+                     entry[QStringLiteral("state")].toString());
+    QStringList answered;
+    const QVariantList maps = answer.value(QStringLiteral("files")).toList();
+    const QStringList watched = answer.value(QStringLiteral("watched")).toStringList();
+    for (const QVariant &entry : maps) {
+        const QVariantMap map = entry.toMap();
+        answered.append(map.value(QStringLiteral("path")).toString() + u' ' +
+                        map.value(QStringLiteral("state")).toString());
+        QVERIFY(watched.contains(map.value(QStringLiteral("path")).toString()));
+    }
+    QVERIFY(files.size() > 8);
+    QCOMPARE(answered, files);
+    QVERIFY(watched.contains(file));
+}
+
+void tst_Plugin::tellsWhyTheStateCannotBeTold()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("x.ipc"));
+    QVERIFY(generationState(file).value(QStringLiteral("error")).toString().contains(file));
+    QVERIFY(TestSupport::write(file, "[General]\ntype=another.ip\n"));
+    QVERIFY(generationState(file).value(QStringLiteral("error")).toString().contains(file));
+    QCOMPARE(generationState(file).size(), 1);
 }
 
 // The tool is missing, so that only what it makes does not come true.
