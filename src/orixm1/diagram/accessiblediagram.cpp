@@ -169,12 +169,12 @@ public:
     {
     }
 
-    int childCount() const override { return boxes().size() + QAccessibleWidget::childCount(); }
+    int childCount() const override { return boxes().size() + others().size(); }
     QAccessibleInterface *child(int index) const override
     {
         const QList<IPItem *> boxes = this->boxes();
         return index < boxes.size() ? QAccessible::queryAccessibleInterface(boxes.value(index))
-                                    : QAccessibleWidget::child(index - boxes.size());
+                                    : others().value(index - boxes.size());
     }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
@@ -182,24 +182,18 @@ public:
         const int index = child ? boxes.indexOf(qobject_cast<IPItem *>(child->object())) : -1;
         if (index >= 0)
             return index;
-        const int other = QAccessibleWidget::indexOfChild(child);
+        const int other = others().indexOf(const_cast<QAccessibleInterface *>(child));
         return other < 0 ? other : other + boxes.size();
     }
     QAccessibleInterface *childAt(int x, int y) const override
     {
-        const auto isAt = [x, y](const QAccessibleInterface *child) {
-            return !child->state().invisible && child->rect().contains(x, y);
-        };
         // Buttons and the like lie over the boxes.
-        for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
-            QAccessibleInterface *over = QAccessibleWidget::child(i);
-            if (over && isAt(over) && !(view() && over->object() == view()->viewport()))
-                return over;
-        }
+        QList<QAccessibleInterface *> children = others();
         const QList<IPItem *> boxes = this->boxes();
-        for (IPItem *box : boxes) {
-            QAccessibleInterface *child = QAccessible::queryAccessibleInterface(box);
-            if (isAt(child))
+        for (IPItem *box : boxes)
+            children.append(QAccessible::queryAccessibleInterface(box));
+        for (QAccessibleInterface *child : qAsConst(children)) {
+            if (!child->state().invisible && child->rect().contains(x, y))
                 return child;
         }
         return nullptr;
@@ -219,6 +213,17 @@ public:
 
 private:
     IPView *view() const { return qobject_cast<IPView *>(object()); }
+    // All but the viewport, which the boxes stand for.
+    QList<QAccessibleInterface *> others() const
+    {
+        QList<QAccessibleInterface *> children;
+        for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+            QAccessibleInterface *child = QAccessibleWidget::child(i);
+            if (child && !(view() && child->object() == view()->viewport()))
+                children.append(child);
+        }
+        return children;
+    }
     QList<IPItem *> boxes() const { return view() ? view()->shownBoxes() : QList<IPItem *>(); }
 };
 
