@@ -1,6 +1,7 @@
 #include "findbar.h"
 
 #include "textfile.h"
+#include "widgets/assistance.h"
 #include "widgets/focusforward.h"
 #include "widgets/symbolicon.h"
 
@@ -25,7 +26,7 @@ FindBar::FindBar(QPlainTextEdit *editor, QWidget *parent)
     m_text->setObjectName(QStringLiteral("findEdit"));
     m_text->setPlaceholderText(tr("Find"));
     m_text->setAccessibleName(tr("Find"));
-    m_text->setClearButtonEnabled(true);
+    addClearButton(m_text);
     connect(m_text, &QLineEdit::textEdited, this, [this] { find({}, true); });
     connect(m_matchCase, &QCheckBox::toggled, this, [this] { find({}, true); });
 

@@ -1,5 +1,6 @@
 #include "helpwindow.h"
 
+#include "widgets/colours.h"
 #include "widgets/focusforward.h"
 #include "widgets/symbolicon.h"
 
@@ -56,8 +57,8 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     setAccessibleName(tr("Help"));
     setOpenExternalLinks(false);
     document()->setDocumentMargin(fontMetrics().height());
-    // A bar that comes and goes while one document takes the place of another changes the width, and
-    // with it the pictures.
+    // A bar that comes and goes while one document takes the place of another changes the width,
+    // and with it the pictures.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::finishSource);
 }
@@ -108,7 +109,7 @@ void HelpBrowser::colourLinks()
     if (paper.lightness() > 127)
         return;
     QTextCharFormat format;
-    format.setForeground(palette().color(QPalette::Highlight).lighter(150));
+    format.setForeground(Colours::link(palette()));
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         QVector<QPair<int, int>> links;
         for (auto it = block.begin(); !it.atEnd(); ++it) {
