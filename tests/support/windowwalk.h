@@ -1,14 +1,23 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRadioButton>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -31,7 +40,7 @@ struct TabWalk {
     QList<QRect> places; // in the window; views scroll
 
     // A view that walks among things of its own is one stop, with the look at the first of them.
-    explicit TabWalk(QWidget *window, int limit = 200)
+    explicit TabWalk(QWidget *window, int limit = 200, bool looksToo = true)
     {
         QApplication::setCursorFlashTime(0);
         QApplication::setActiveWindow(window);
@@ -45,7 +54,8 @@ struct TabWalk {
                 stops.append(focus);
                 // Queued changes, such as views that follow the focus, first.
                 QCoreApplication::processEvents();
-                looks.append(window->grab().toImage());
+                if (looksToo)
+                    looks.append(window->grab().toImage());
                 places.append(
                     QRect(focus->mapTo(window, QPoint()), focus->size()).adjusted(-3, -3, 3, 3));
             } else if (focus && stops.size() == 1 && i > 1) {
@@ -82,6 +92,92 @@ struct TabWalk {
         return stops.indexOf(const_cast<QWidget *>(widget));
     }
 };
+
+// What assistive tools call the widget: on Linux a combo box is called what its label is.
+inline QString spokenName(QWidget *widget)
+{
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+    QString name;
+    if (interface && !qobject_cast<QComboBox *>(widget))
+        name = interface->text(QAccessible::Name);
+    if (!interface || !name.isEmpty())
+        return name;
+    for (const auto &relation : interface->relations(QAccessible::Label)) {
+        if (relation.first && (relation.second & QAccessible::Label))
+            name = relation.first->text(QAccessible::Name);
+    }
+    return name;
+}
+
+// Whether people do something with it, other than looking and scrolling.
+inline bool isInteractive(const QWidget *widget)
+{
+    if (qobject_cast<const QScrollBar *>(widget) || qobject_cast<const QLabel *>(widget))
+        return false;
+    // Parts of others, which have name and keys for them.
+    const QWidget *parent = widget->parentWidget();
+    if (qobject_cast<const QComboBox *>(parent) || qobject_cast<const QAbstractSpinBox *>(parent) ||
+        (widget->focusProxy() && parent) || parent->inherits("QComboBoxPrivateContainer"))
+        return false;
+    // A page that a click anywhere in it activates is no stop of its own.
+    return (widget->focusPolicy() & Qt::TabFocus) != 0 ||
+           qobject_cast<const QAbstractButton *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget) ||
+           (qobject_cast<const QAbstractItemView *>(widget) &&
+            !qobject_cast<const QHeaderView *>(widget)) ||
+           qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget);
+}
+
+// What can be used in the window as it is shown now.
+inline QList<QWidget *> interactiveWidgets(const QWidget *window)
+{
+    QList<QWidget *> result;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() && widget->window() == window && isInteractive(widget))
+            result.append(widget);
+    }
+    return result;
+}
+
+// Those without a name, with one that says nothing, or without a role.
+inline QStringList unnamed(const QWidget *window)
+{
+    QStringList result;
+    for (QWidget *widget : interactiveWidgets(window)) {
+        const QString name = spokenName(widget).trimmed();
+        const bool isNothing =
+            name.isEmpty() || name == widget->objectName() || widget->inherits(qPrintable(name));
+        const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        if (isNothing || !interface || interface->role() == QAccessible::NoRole)
+            result.append(nameOf(widget));
+    }
+    return result;
+}
+
+// Those that can be used and the walk, which began in their window, does not come to, nor arrow
+// keys from one of its stops.
+inline QStringList unreached(const QWidget *window, const TabWalk &walk)
+{
+    QStringList result;
+    for (QWidget *widget : interactiveWidgets(window)) {
+        bool isReached = !widget->isEnabled() || walk.stops.contains(widget);
+        // Its neighbour stands for all of a row that arrow keys walk along.
+        for (const QWidget *stop : walk.stops)
+            isReached = isReached || (stop->parentWidget() == widget->parentWidget() &&
+                                      stop->metaObject() == widget->metaObject() &&
+                                      (qobject_cast<QRadioButton *>(widget) ||
+                                       widget->property("walkedByArrows").toBool()));
+        // Tabs scroll, docks close and the text of a field goes by keys as well.
+        const QWidget *parent = widget->parentWidget();
+        isReached = isReached || qobject_cast<const QTabBar *>(parent) ||
+                    qobject_cast<const QDockWidget *>(parent) ||
+                    qobject_cast<const QLineEdit *>(parent);
+        if (!isReached)
+            result.append(nameOf(widget));
+    }
+    return result;
+}
 
 inline QChar mnemonicOf(const QString &text)
 {

@@ -460,6 +460,21 @@ private Q_SLOTS:
         QTRY_COMPARE(bar->text(QAccessible::Description), approximately("80", "Bulb "));
     }
 
+    void everyWidgetHasANameAndIsReachedByTab()
+    {
+        openDialog();
+        QWidget *window = m_desk->companion();
+        auto *tabs = window->findChild<QTabWidget *>();
+        QVERIFY(tabs && tabs->count() >= 2);
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            QCoreApplication::processEvents();
+            QCOMPARE(unnamed(window).join(u';'), QString());
+            const TabWalk walk(window, 200, false);
+            QCOMPARE(unreached(window, walk).join(u';'), QString());
+        }
+    }
+
     void showsTheShareOfTheBlockThatIsPointedAt()
     {
         openDialog();

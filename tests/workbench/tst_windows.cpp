@@ -11,6 +11,7 @@
 #include <workbench/simulation/simulationrun.h>
 #include <workbench/software/programpart.h>
 #include <workbench/software/softwarepage.h>
+#include <workbench/widgets/colours.h>
 #include <workbench/widgets/infobar.h>
 #include <workbench/window/helpwindow.h>
 #include <workbench/window/startpage.h>
@@ -21,10 +22,12 @@
 #include <QClipboard>
 #include <QCommandLinkButton>
 #include <QDialog>
+#include <QDirIterator>
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTextBlock>
@@ -85,6 +88,88 @@ private Q_SLOTS:
             QVERIFY(!walk.stops.isEmpty());
             QCOMPARE(walk.unseen().join(u';'), QString());
         });
+    }
+
+    void everyWidgetHasANameAndIsReachedByTab_data() { addScenes(); }
+    void everyWidgetHasANameAndIsReachedByTab()
+    {
+        show([](QWidget *window) {
+            QVERIFY(!interactiveWidgets(window).isEmpty());
+            QCOMPARE(unnamed(window).join(u';'), QString());
+            const TabWalk walk(window, 400, false);
+            QCOMPARE(unreached(window, walk).join(u';'), QString());
+        });
+    }
+
+    void linksSayWhatTheyDo()
+    {
+        const auto links = window()->findChild<StartPage *>()->findChildren<QCommandLinkButton *>();
+        QVERIFY(links.size() >= 2);
+        for (QCommandLinkButton *link : links) {
+            QVERIFY(!link->description().isEmpty());
+            QCOMPARE(QAccessible::queryAccessibleInterface(link)->text(QAccessible::Description),
+                     link->description());
+        }
+    }
+
+    void addedColoursCanBeReadInEveryTheme_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::newRow("light") << m_palette;
+        QTest::newRow("dark") << themed(QColor(49, 54, 59), QColor(35, 38, 41),
+                                        QColor(239, 240, 241), QColor(61, 174, 233));
+        QTest::newRow("sepia") << themed(QColor(238, 232, 213), QColor(253, 246, 227),
+                                         QColor(60, 60, 60), QColor(38, 139, 210));
+        QTest::newRow("black") << themed(Qt::black, Qt::black, Qt::white, Qt::yellow);
+        QTest::newRow("white") << themed(Qt::white, Qt::white, Qt::black, Qt::blue);
+    }
+    void addedColoursCanBeReadInEveryTheme()
+    {
+        QFETCH(QPalette, palette);
+        QVERIFY(qAbs(Colours::contrast(Qt::black, Qt::white) - 21) < 0.01);
+        QVERIFY(qAbs(Colours::contrast(QColor(119, 119, 119), Qt::white) - 4.48) < 0.01);
+        const QVector<Colours::Use> uses = Colours::uses(palette);
+        QVERIFY(uses.size() >= 9);
+        for (const Colours::Use &use : uses) {
+            QVERIFY(use.ratio >= Colours::markContrast);
+            QVERIFY2(Colours::contrast(use.ink, use.paper) >= use.ratio, use.name);
+        }
+        // What is always read with the palette's own.
+        for (const auto &[ink, paper] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                         std::pair{QPalette::Text, QPalette::Base},
+                                         std::pair{QPalette::Text, QPalette::AlternateBase},
+                                         std::pair{QPalette::ButtonText, QPalette::Button}})
+            QVERIFY(Colours::contrast(palette.color(ink), palette.color(paper)) >=
+                    Colours::textContrast);
+        QVERIFY(Colours::contrast(palette.color(QPalette::Highlight),
+                                  palette.color(QPalette::Base)) >= Colours::markContrast);
+    }
+
+    // No colour stands in the code of a widget: that of Colours is tried above.
+    void noColourHidesFromTheTable()
+    {
+        const QRegularExpression literal(
+            QStringLiteral("QColor\\s*\\w*[({]\\s*(?:\\d|0x|Qt::)|Qt::(?:dark|light)?(?:[Rr]ed|[Gg]"
+                           "reen|[Bb]lue|[Yy]ellow|"
+                           "[Cc]yan|[Mm]agenta|[Gg]ray)\\b|\"#[0-9a-fA-F]{6}\""));
+        // Paper, and the borders of its tables.
+        const QStringList printed{QStringLiteral("colours.cpp"), QStringLiteral("paper.cpp"),
+                                  QStringLiteral("softwaredocument.cpp"),
+                                  QStringLiteral("softwarebrowser.cpp")};
+        QStringList found;
+        int read = 0;
+        QDirIterator files(QStringLiteral(TARVO_SOURCE_DIR "/src/workbench"),
+                           {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString file = files.next();
+            ++read;
+            const auto match = literal.match(QString::fromUtf8(contentsOf(file)));
+            if (match.hasMatch() && !printed.contains(files.fileName()))
+                found.append(files.fileName() + u' ' + match.captured());
+        }
+        QVERIFY(read > 100);
+        QCOMPARE(found.join(u';'), QString());
     }
 
     void everyButtonIsOnASmallScreenWithALargeFont_data() { addScenes(); }
@@ -537,6 +622,18 @@ private:
     using Look = std::function<void(QWidget *)>;
 
     MainWindow *window() const { return m_bench->window.get(); }
+
+    static QPalette themed(const QColor &window, const QColor &base, const QColor &text,
+                           const QColor &highlight)
+    {
+        QPalette palette(text, window, window.lighter(150), window.darker(150), window.darker(120),
+                         text, text, base, window);
+        palette.setColor(QPalette::AlternateBase, base);
+        palette.setColor(QPalette::Highlight, highlight);
+        palette.setColor(QPalette::Disabled, QPalette::Text, window.lighter(130));
+        palette.setColor(QPalette::Disabled, QPalette::WindowText, window.lighter(130));
+        return palette;
+    }
 
     static void focus(QWidget *widget)
     {

@@ -2,9 +2,11 @@
 
 #include "focusring.h"
 
+#include <QAccessibleWidget>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSvgGenerator>
 #include <QWheelEvent>
@@ -50,11 +52,140 @@ void drawArrowHead(QPainter *painter, const QPointF &tip, int direction, qreal l
     painter->drawPolygon(corners, 3);
 }
 
+// A pin of a figure. The figure's own interface makes and ends it.
+class AccessiblePin : public QAccessibleInterface
+{
+public:
+    AccessiblePin(PinFigureView *view, int index)
+        : m_view(view)
+        , m_index(index)
+    {
+    }
+
+    bool isValid() const override { return m_view && m_index < m_view->pins().size(); }
+    QObject *object() const override { return nullptr; }
+    QAccessibleInterface *parent() const override
+    {
+        return QAccessible::queryAccessibleInterface(m_view);
+    }
+    QAccessibleInterface *child(int /*index*/) const override { return nullptr; }
+    QAccessibleInterface *childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface * /*child*/) const override { return -1; }
+    QWindow *window() const override { return isValid() ? parent()->window() : nullptr; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        if (!isValid()) {
+            state.invalid = true;
+            return state;
+        }
+        state.readOnly = true;
+        state.invisible = !m_view->isVisible();
+        state.offscreen = !m_view->viewport()->rect().intersects(m_view->shownPinRect(m_index));
+        return state;
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (!isValid() || kind != QAccessible::Name)
+            return {};
+        const Utils::PinFigure pin = m_view->pins().at(m_index);
+        switch (pin.direction()) {
+        case Utils::PinFigure::Input:
+            return PinFigureView::tr("%1, input").arg(pin.name());
+        case Utils::PinFigure::Output:
+            return PinFigureView::tr("%1, output").arg(pin.name());
+        default:
+            return PinFigureView::tr("%1, bidirectional").arg(pin.name());
+        }
+    }
+    void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override {}
+    QRect rect() const override
+    {
+        if (!isValid())
+            return {};
+        const QRect place = m_view->shownPinRect(m_index);
+        return {m_view->viewport()->mapToGlobal(place.topLeft()), place.size()};
+    }
+
+private:
+    QPointer<PinFigureView> m_view;
+    int m_index;
+};
+
+// The figure as the list of its pins.
+class AccessibleFigure : public QAccessibleWidget
+{
+public:
+    explicit AccessibleFigure(PinFigureView *view)
+        : QAccessibleWidget(view, QAccessible::List)
+    {
+    }
+    ~AccessibleFigure() override
+    {
+        for (const QAccessible::Id id : qAsConst(m_ids))
+            QAccessible::deleteAccessibleInterface(id);
+    }
+    Q_DISABLE_COPY(AccessibleFigure)
+
+    static QAccessibleInterface *make(const QString &name, QObject *object)
+    {
+        auto *view = qobject_cast<PinFigureView *>(object);
+        return view && name == QLatin1String(PinFigureView::staticMetaObject.className())
+                   ? new AccessibleFigure(view)
+                   : nullptr;
+    }
+
+    int childCount() const override { return view() ? view()->pins().size() : 0; }
+    QAccessibleInterface *child(int index) const override
+    {
+        if (index < 0 || index >= childCount())
+            return nullptr;
+        while (m_ids.size() <= index)
+            m_ids.append(
+                QAccessible::registerAccessibleInterface(new AccessiblePin(view(), m_ids.size())));
+        return QAccessible::accessibleInterface(m_ids.at(index));
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child
+                   ? m_ids.indexOf(QAccessible::uniqueId(const_cast<QAccessibleInterface *>(child)))
+                   : -1;
+    }
+    QAccessibleInterface *childAt(int x, int y) const override
+    {
+        for (int i = 0; i < childCount(); ++i) {
+            if (child(i)->rect().contains(x, y))
+                return child(i);
+        }
+        return nullptr;
+    }
+
+private:
+    // Null while it is being deleted.
+    PinFigureView *view() const { return qobject_cast<PinFigureView *>(object()); }
+
+    mutable QVector<QAccessible::Id> m_ids; // of the pins so far asked for
+};
+
+// Ends with the library.
+class Installation
+{
+public:
+    Installation() { QAccessible::installFactory(&AccessibleFigure::make); }
+    ~Installation() { QAccessible::removeFactory(&AccessibleFigure::make); }
+    Q_DISABLE_COPY(Installation)
+};
+
 } // namespace
 
 PinFigureView::PinFigureView(QWidget *parent)
     : QAbstractScrollArea(parent)
 {
+    static const Installation installation;
+    QAccessible::installFactory(&AccessibleFigure::make); // an application forgets it when it ends
     FocusRing::install();
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Base);
@@ -145,6 +276,13 @@ void PinFigureView::relayout()
 QRect PinFigureView::pinRect(int index) const
 {
     return m_layout.rows.value(index);
+}
+
+QRect PinFigureView::shownPinRect(int index) const
+{
+    const QRect row = pinRect(index);
+    return QRectF(QPointF(row.topLeft()) * m_zoom + origin(), QSizeF(row.size()) * m_zoom)
+        .toAlignedRect();
 }
 
 QPointF PinFigureView::origin() const

@@ -40,6 +40,8 @@ public:
     QSize figureSize() const { return m_layout.size; }
     // Where a pin's row is at scale 1; null for an index out of range.
     QRect pinRect(int index) const;
+    // The same as it is shown now, in the viewport.
+    QRect shownPinRect(int index) const;
 
     // Writes the figure as SVG in black on white; false if the device cannot be written.
     bool writeSvg(QIODevice *device) const;

@@ -50,8 +50,10 @@ public:
     void updateFrame();
     void drawFrame(QPainter *painter);
 
-private:
+    // Those that step() reaches, in its order.
     QList<IPItem *> reachable() const;
+
+private:
     QRectF frame() const { return m_block ? frameOf(m_block) : QRectF(); }
 
     QGraphicsView *m_view;

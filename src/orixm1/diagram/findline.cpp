@@ -2,6 +2,7 @@
 
 #include "config/latin1literal.h"
 
+#include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,6 +32,8 @@ FindLine::FindLine(QWidget *parent)
     m_edit->setPlaceholderText(tr("Block, option, pin, address or interrupt"));
     m_edit->setAccessibleName(tr("Find a block, an option, a pin, an address or an interrupt"));
     m_edit->setClearButtonEnabled(true);
+    if (auto *clear = m_edit->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
+        clear->setText(tr("Clear the text"));
     m_list->setAccessibleName(tr("What is found"));
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,5 +1,6 @@
 #include "ipview.h"
 
+#include "accessiblediagram.h"
 #include "config/blocks.h"
 #include "config/latin1literal.h"
 #include "config/optionkeys.h"
@@ -10,9 +11,11 @@
 #include "ipitem.h"
 #include "labelfont.h"
 #include "lineitem.h"
+#include "rules/devicerules.h"
 #include "rules/dialogdefaults.h"
 #include "textitem.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -97,6 +100,7 @@ IPView::IPView(OptionMap *options, QWidget *parent)
     , m_scene(new QGraphicsScene(this))
     , m_options(options)
 {
+    installAccessibleDiagram();
     setScene(m_scene);
     setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     setFocusPolicy(Qt::StrongFocus);
@@ -243,9 +247,7 @@ bool IPView::switchIn(const IPItem *item, const QVector<int> &switches, Switchin
 {
     const Block &block = *blockOfBox(item->text());
     if (!switchInBlockDialog(block.dialog, switches, switching, m_options, this)) {
-        say(tr("%1 cannot be switched on: %2 cannot have it.")
-                .arg(item->text(), textOf(*m_options, Key::ipDevice)),
-            item);
+        say(refusal(item), item);
         return false;
     }
     updateView();
@@ -346,6 +348,20 @@ void IPView::contextMenuEvent(QContextMenuEvent *event)
     IPItem *item = byMouse ? topBlockAt(event->pos()) : m_focus.block();
     if (item && (!item->isClickable() || !m_blockByLabel.contains(item->text())))
         item = nullptr;
+    if (item && !byMouse)
+        popUpMenu(item);
+    else
+        popUpMenu(item, event->globalPos());
+    event->accept();
+}
+
+void IPView::popUpMenu(IPItem *item)
+{
+    popUpMenu(item, viewport()->mapToGlobal(mapFromScene(item->sceneBoundingRect().bottomLeft())));
+}
+
+void IPView::popUpMenu(IPItem *item, const QPoint &at)
+{
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (item) {
@@ -353,11 +369,7 @@ void IPView::contextMenuEvent(QContextMenuEvent *event)
         menu->addSeparator();
     }
     menu->addActions(actions());
-    QPoint at = event->globalPos();
-    if (item && !byMouse)
-        at = viewport()->mapToGlobal(mapFromScene(item->sceneBoundingRect().bottomLeft()));
     menu->popup(at);
-    event->accept();
 }
 
 void IPView::onBlock()
@@ -378,6 +390,7 @@ void IPView::updateView()
         entry.block->onConfigured(any);
     }
     m_focus.announce();
+    tellStates();
 }
 
 void IPView::setCanAvailable(bool available)
@@ -427,8 +440,14 @@ void IPView::setAvailable(QLatin1String key, bool available)
         if (block == m_pointed)
             pointAt(QString());
     }
+    const bool changes = available != block->isVisible();
     block->setClickable(available);
     block->setVisible(available);
+    if (changes) {
+        QAccessibleEvent event(block,
+                               available ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+        QAccessible::updateAccessibility(&event);
+    }
     m_dropByLabel.value(label)->setVisible(available);
     updateView();
 }
@@ -508,6 +527,7 @@ void IPView::focusChanged()
         say(QString(), nullptr); // it was about another block
     const IPItem *focused = m_focus.block();
     tellPointed(focused ? focused->text() : m_hovered);
+    tellFocus();
 }
 
 void IPView::tellPointed(const QString &label)
@@ -523,6 +543,103 @@ bool IPView::viewportEvent(QEvent *event)
     if (event->type() == QEvent::Leave)
         hover(nullptr);
     return QGraphicsView::viewportEvent(event);
+}
+
+// Assistive tools
+
+QList<IPItem *> IPView::shownBoxes() const
+{
+    QList<IPItem *> boxes = m_focus.reachable();
+    // Not the frames, which have no label.
+    for (const DiagramRow &row : diagramRows()) {
+        IPItem *box = row.kind == DiagramRow::Block ? m_boxByLabel.value(row.text) : nullptr;
+        if (box && box->isVisible() && !box->isClickable() && !boxes.contains(box))
+            boxes.append(box);
+    }
+    return boxes;
+}
+
+QRect IPView::placeOf(const IPItem *item) const
+{
+    return mapFromScene(item->sceneBoundingRect()).boundingRect();
+}
+
+bool IPView::hasSwitch(const IPItem *item) const
+{
+    const Block *block = blockOfBox(item->text());
+    return block && switchOfBox(*block, item->text()) >= 0;
+}
+
+bool IPView::isSwitchedOn(const IPItem *item) const
+{
+    const Block *block = blockOfBox(item->text());
+    const int index = block ? switchOfBox(*block, item->text()) : -1;
+    return index >= 0 && isOn(*m_options, block->switches[index].key());
+}
+
+QString IPView::stateText(const IPItem *item) const
+{
+    const Block *block = blockOfBox(item->text());
+    if (!block)
+        return {};
+    if (!block->hasPorts())
+        return isSwitchedOn(item) ? tr("switched on") : tr("switched off");
+    int on = 0;
+    for (const SwitchRow &row : block->switches)
+        on += isOn(*m_options, row.key()) ? 1 : 0;
+    return tr("%1 of %2 ports switched on").arg(on).arg(block->switches.size());
+}
+
+QString IPView::refusal(const IPItem *item) const
+{
+    return tr("%1 cannot be switched on: %2 cannot have it.")
+        .arg(item->text(), textOf(*m_options, Key::ipDevice));
+}
+
+QString IPView::remarkOn(const IPItem *item) const
+{
+    const Block *block = blockOfBox(item->text());
+    const bool isLocked = block && block->switches[0].key() == Key::enableDdr3 &&
+                          isDdr3Locked(textOf(*m_options, Key::ipDevice));
+    return !item->isVisible() || isLocked ? refusal(item) : item->toolTip();
+}
+
+void IPView::focusOn(IPItem *item)
+{
+    setFocus(Qt::OtherFocusReason);
+    if (item->isClickable() && item->isVisible())
+        m_focus.set(item);
+}
+
+void IPView::tellFocus() const
+{
+    if (!hasFocus() || !m_focus.block())
+        return;
+    QAccessibleEvent event(m_focus.block(), QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+void IPView::tellStates()
+{
+    const bool isFirst = m_toldStates.isEmpty();
+    for (IPItem *box : qAsConst(m_blockByLabel)) {
+        QString &told = m_toldStates[box];
+        const QString text = stateText(box);
+        if (text == told)
+            continue;
+        told = text;
+        if (isFirst)
+            continue;
+        if (hasSwitch(box)) {
+            QAccessible::State changed;
+            changed.checked = true;
+            QAccessibleStateChangeEvent event(box, changed);
+            QAccessible::updateAccessibility(&event);
+        } else {
+            QAccessibleValueChangeEvent event(box, text);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
 }
 
 // Zoom
@@ -684,6 +801,8 @@ void IPView::focusInEvent(QFocusEvent *event)
         m_focus.enter(event->reason() == Qt::TabFocusReason);
     else
         m_focus.updateFrame();
+    // After Qt has told that the view has it.
+    QMetaObject::invokeMethod(this, &IPView::tellFocus, Qt::QueuedConnection);
 }
 
 void IPView::focusOutEvent(QFocusEvent *event)

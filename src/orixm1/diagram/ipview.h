@@ -62,6 +62,25 @@ public:
     // Why the last key or command did nothing, or what it did where the diagram does not show it.
     QString notice() const { return m_notice; }
 
+    // The boxes with a label that are shown: those on the keyboard's way in its order, then the
+    // others.
+    QList<IPItem *> shownBoxes() const;
+    // Where the box is in the viewport.
+    QRect placeOf(const IPItem *item) const;
+    // Whether the box stands for one switch, which toggle() switches, and whether that is on.
+    bool hasSwitch(const IPItem *item) const;
+    bool isSwitchedOn(const IPItem *item) const;
+    // In words whether the box is switched on, or how many of its ports; empty: it has no state.
+    QString stateText(const IPItem *item) const;
+    // What else is to be known: why it cannot be switched, or its tool tip.
+    QString remarkOn(const IPItem *item) const;
+    // Gives the keyboard to the block.
+    void focusOn(IPItem *item);
+    // Switches the block that the box stands for; false, and it is said why, where that cannot be.
+    bool toggle(IPItem *item);
+    // The menu that the context menu's key opens on the block.
+    void popUpMenu(IPItem *item);
+
     // Draws the whole diagram as it is now, without the focus frame, into `target`, keeping its
     // proportions.
     void renderDiagram(QPainter *painter, const QRectF &target) const;
@@ -143,8 +162,6 @@ private:
     // Of the class `dialog`.
     void open(QLatin1String dialog);
 
-    // Switch the block that the box stands for; false, and it is said why, where that cannot be.
-    bool toggle(IPItem *item);
     bool switchPorts(IPItem *item, Switching switching);
     bool switchIn(const IPItem *item, const QVector<int> &switches, Switching switching);
     void toggleAndGoOn();
@@ -154,6 +171,12 @@ private:
     bool isShownOn(const Block &block, int index) const;
     void sayState(const IPItem *item, bool isOn);
     void addBlockActions(QMenu *menu, IPItem *item);
+    void popUpMenu(IPItem *item, const QPoint &at);
+    // Why the device keeps it from being switched on, a sentence.
+    QString refusal(const IPItem *item) const;
+    // To assistive tools: those of the states that have changed, and where the keyboard is.
+    void tellStates();
+    void tellFocus() const;
     // Tells people and assistive tools something about the block.
     void say(const QString &text, const IPItem *about);
     // Null: the mouse is over none.
@@ -190,6 +213,7 @@ private:
     std::function<FindIndex()> m_findIndex;
     FindLine *m_findLine = nullptr; // made by the first search
     IPItem *m_focusedBefore = nullptr;
+    QHash<const IPItem *, QString> m_toldStates;
 };
 
 } // namespace TARVOORIXM1

@@ -6,6 +6,7 @@
 #include "rules/dialogdefaults.h"
 #include "rules/pins.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QScrollArea>
 
@@ -25,6 +26,11 @@ PeripheralDlg::PeripheralDlg(QLatin1String name, OptionMap *options, QWidget *pa
 
 void PeripheralDlg::start()
 {
+    // Qt takes what a form makes within a disabled widget for plain widgets, and keeps to that.
+    const QList<QWidget *> fields = m_area->findChildren<QWidget *>();
+    for (QWidget *field : fields)
+        QAccessible::deleteAccessibleInterface(
+            QAccessible::uniqueId(QAccessible::queryAccessibleInterface(field)));
     m_switches = m_area->findChildren<QCheckBox *>();
     Q_ASSERT(m_switches.size() == m_block.switches.size());
     connectOptions();

@@ -1,6 +1,7 @@
 #include "cataloguemodel.h"
 
 #include "ipcatalogue.h"
+#include "widgets/colours.h"
 #include "widgets/symbolicon.h"
 
 #include <QGuiApplication>
@@ -149,10 +150,14 @@ QVariant CatalogueModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return node->supported ? entry.summary : QString(entry.summary + u'\n' + node->reason);
     case Qt::DecorationRole:
-        return index.column() == Name ? symbolIcon(QStringLiteral("ip")) : QVariant();
+        return index.column() == Name
+                   ? symbolIcon(node->supported ? QStringLiteral("ip") : QStringLiteral("warning"))
+                   : QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return node->reason;
     case Qt::ForegroundRole:
         if (!node->supported)
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return Colours::quietOnBase(QGuiApplication::palette());
         return {};
     case SupportedRole:
         return node->supported;

@@ -2,6 +2,7 @@
 
 #include "cataloguemodel.h"
 #include "ipcatalogue.h"
+#include "widgets/assistance.h"
 #include "widgets/contextkeys.h"
 #include "widgets/focusforward.h"
 
@@ -39,7 +40,7 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     m_text->setAccessibleName(tr("Filter of the IP catalogue"));
     connect(m_text, &QLineEdit::textChanged, this, [this](const QString &text) {
         // Loading the button's picture takes a while: not before there is something to clear.
-        m_text->setClearButtonEnabled(true);
+        addClearButton(m_text);
         m_filter->setFilterFixedString(text);
         m_tree->expandAll();
     });

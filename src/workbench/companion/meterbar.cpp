@@ -1,6 +1,7 @@
 #include "meterbar.h"
 
 #include "tr.h"
+#include "widgets/colours.h"
 
 #include <synthesis/runreport.h>
 
@@ -75,12 +76,6 @@ void installAccessibleBars()
 }
 
 // On the background that the palette has.
-QColor alarmColor(const QPalette &palette)
-{
-    return palette.color(QPalette::Base).lightness() < 128 ? QColor(255, 110, 100)
-                                                           : QColor(190, 20, 20);
-}
-
 } // namespace
 
 namespace MeterText
@@ -272,7 +267,7 @@ void MeterBar::paintEvent(QPaintEvent * /*event*/)
     }
     if (const QString verdict = MeterText::verdict(m_reading); !verdict.isEmpty()) {
         painter.setFont(bold);
-        painter.setPen(alarmColor(palette()));
+        painter.setPen(Colours::alarm(palette()));
         painter.drawText(bottom.translated(0, lineHeight()), Qt::AlignLeft | Qt::AlignVCenter,
                          verdict);
     }
@@ -306,7 +301,7 @@ void MeterBar::drawBar(QPainter &painter, const QRect &bar) const
         painter.fillRect(part(m_reading.low, m_reading.high), pale);
         painter.fillRect(part(0, fits), color);
         if (m_reading.value > fits)
-            painter.fillRect(part(fits, m_reading.value), alarmColor(palette()));
+            painter.fillRect(part(fits, m_reading.value), Colours::alarm(palette()));
         if (m_share > 0) {
             const QRect share = part(std::max(0, m_reading.value - m_share), m_reading.value);
             const QRect seen = share.width() >= 3 ? share : share.adjusted(-2, 0, 1, 0);

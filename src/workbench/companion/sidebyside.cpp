@@ -98,15 +98,6 @@ QVector<SideRow> sideRows(const QString &before, const QString &after)
     return rows;
 }
 
-SideColors sideColors(const QPalette &palette)
-{
-    if (palette.color(QPalette::Base).lightness() < 128)
-        return {QColor(0x67, 0x22, 0x26), QColor(0x14, 0x4d, 0x28), QColor(0x3a, 0x3a, 0x3e),
-                QColor(0xff, 0xff, 0xff)};
-    return {QColor(0xff, 0xd6, 0xd6), QColor(0xc8, 0xf2, 0xd0), QColor(0xe6, 0xe6, 0xe9),
-            QColor(0x10, 0x10, 0x10)};
-}
-
 SideBySide::SideBySide(QWidget *parent)
     : QWidget(parent)
     , m_pages(new QStackedLayout(this))

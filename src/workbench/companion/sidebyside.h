@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "widgets/colours.h"
+
 #include <QPalette>
 #include <QString>
 #include <QVector>
@@ -35,13 +36,11 @@ struct SideRow {
 QVector<SideRow> sideRows(const QString &before, const QString &after);
 
 // The colours of changed lines on a palette's base: text can be read on both (at least 4.5:1).
-struct SideColors {
-    QColor removed;
-    QColor added;
-    QColor missing; // where the other text has a line
-    QColor text;    // on all of them
-};
-SideColors sideColors(const QPalette &palette);
+using SideColors = Colours::Sides;
+inline SideColors sideColors(const QPalette &palette)
+{
+    return Colours::sides(palette);
+}
 
 // Two texts beside each other, read-only: what is removed has a "-" in front of it, what is added a
 // "+". Long texts are told and not shown.

@@ -1,5 +1,6 @@
 #include "devicepicker.h"
 
+#include "widgets/assistance.h"
 #include "widgets/focusforward.h"
 #include "widgets/shortcuts.h"
 #include <core/idecore.h>
@@ -32,7 +33,7 @@ DevicePicker::DevicePicker(QWidget *parent)
 
     m_text->setObjectName(QStringLiteral("deviceFilterEdit"));
     m_text->setPlaceholderText(tr("Filter, for example: 2kr qfn88p c8"));
-    m_text->setClearButtonEnabled(true);
+    addClearButton(m_text);
     m_text->setAccessibleName(tr("Filter of the devices"));
     m_text->installEventFilter(this);
     connect(m_text, &QLineEdit::textChanged, m_filter, &DeviceFilter::setText);

@@ -1,6 +1,7 @@
 #include "codeeditor.h"
 
 #include "textfile.h"
+#include "widgets/colours.h"
 #include "widgets/fixedfont.h"
 
 #include <QHelpEvent>
@@ -119,8 +120,8 @@ void CodeEditor::paintLineNumbers(QPaintEvent *event)
         const qreal height = blockBoundingRect(block).height();
         if (top + height >= event->rect().top()) {
             const bool current = block.blockNumber() == textCursor().blockNumber();
-            painter.setPen(palette().color(current ? QPalette::Active : QPalette::Disabled,
-                                           QPalette::WindowText));
+            painter.setPen(current ? palette().color(QPalette::WindowText)
+                                   : Colours::quietOnWindow(palette()));
             painter.drawText(QRectF(0, top, right, fontMetrics().height()), Qt::AlignRight,
                              QString::number(block.blockNumber() + 1));
         }

@@ -2,6 +2,7 @@
 
 #include "codeeditor.h"
 #include "textfile.h"
+#include "widgets/assistance.h"
 #include "widgets/focusforward.h"
 #include "widgets/symbolicon.h"
 
@@ -112,7 +113,7 @@ void FindBar::buildRows()
     name(m_text, "findEdit", tr("Find"));
     m_text->setPlaceholderText(tr("Find"));
     m_text->setToolTip(tr("Up and Down bring back what was looked for before"));
-    m_text->setClearButtonEnabled(true);
+    addClearButton(m_text);
     m_text->installEventFilter(this);
     name(m_newText, "replaceEdit", tr("Replace with"));
     m_newText->setPlaceholderText(tr("Replace with"));

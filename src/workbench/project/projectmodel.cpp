@@ -2,6 +2,7 @@
 
 #include "ipchead.h"
 #include "project.h"
+#include "widgets/colours.h"
 #include "widgets/symbolicon.h"
 
 #include <QDir>
@@ -236,7 +237,7 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
                                                                        : QStringLiteral("file"));
     case Qt::ForegroundRole:
         if (file->missing)
-            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return Colours::quietOnBase(QGuiApplication::palette());
         return {};
     case PathRole:
         return file->path;

@@ -27,6 +27,7 @@ public:
         setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::ClickFocus);
         setAutoDefault(false);
+        setProperty("walkedByArrows", true); // Tab stops at one of them
     }
 
 protected:

@@ -1,6 +1,8 @@
 #include "pinswitch.h"
 
-#include <QAccessible>
+#include "widgets/colours.h"
+
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -9,11 +11,66 @@
 namespace Workbench
 {
 
+namespace
+{
+
+// Qt's own for a check box switches between two of the three states.
+class AccessibleSwitch : public QAccessibleWidget
+{
+public:
+    explicit AccessibleSwitch(PinSwitch *pin)
+        : QAccessibleWidget(pin, QAccessible::CheckBox)
+    {
+    }
+
+    static QAccessibleInterface *make(const QString &name, QObject *object)
+    {
+        auto *pin = qobject_cast<PinSwitch *>(object);
+        return pin && name == QLatin1String(PinSwitch::staticMetaObject.className())
+                   ? new AccessibleSwitch(pin)
+                   : nullptr;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = box()->checkState() == Qt::Checked;
+        state.checkStateMixed = box()->checkState() == Qt::PartiallyChecked;
+        return state;
+    }
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (box()->isEnabled())
+            names.prepend(toggleAction());
+        return names;
+    }
+    void doAction(const QString &action) override
+    {
+        if (action == toggleAction())
+            box()->click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+    QStringList keyBindingsForAction(const QString &action) const override
+    {
+        return action == toggleAction() ? QStringList(QStringLiteral("Space")) : QStringList();
+    }
+
+private:
+    PinSwitch *box() const { return static_cast<PinSwitch *>(object()); }
+};
+
+} // namespace
+
 PinSwitch::PinSwitch(int number, QWidget *parent)
     : QCheckBox(parent)
     , m_number(number)
 {
+    QAccessible::installFactory(&AccessibleSwitch::make);
     setTristate(true);
+    setProperty("walkedByArrows", true); // Tab may stop at one of them
     setCheckState(Qt::PartiallyChecked);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QCheckBox::stateChanged, this, &PinSwitch::describe);
@@ -87,15 +144,14 @@ void PinSwitch::changeEvent(QEvent *event)
 void PinSwitch::paintLamp(QPainter *painter, const QRectF &place) const
 {
     const QColor text = palette().color(QPalette::WindowText);
-    const QColor lit(255, 190, 40);
     QPen ring(text, m_isDriven ? place.width() / 12 : place.width() / 24);
     if (!m_isDriven)
         ring.setStyle(Qt::DotLine);
     painter->setPen(ring);
-    painter->setBrush(m_isHigh ? lit : palette().color(QPalette::Base));
+    painter->setBrush(m_isHigh ? QColor(Colours::lamp) : palette().color(QPalette::Base));
     const qreal edge = place.width() / 16;
     painter->drawEllipse(place.adjusted(edge, edge, -edge, -edge));
-    painter->setPen(m_isHigh ? QColor(Qt::black) : palette().color(QPalette::Text));
+    painter->setPen(m_isHigh ? QColor(Colours::onLamp) : palette().color(QPalette::Text));
     painter->drawText(place, Qt::AlignCenter, QString::number(m_number));
 }
 

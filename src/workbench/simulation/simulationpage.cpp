@@ -6,6 +6,7 @@
 #include "pinswitch.h"
 #include "simulationrun.h"
 #include "terminalview.h"
+#include "widgets/assistance.h"
 #include "widgets/infobar.h"
 
 #include <QCheckBox>
@@ -128,7 +129,6 @@ void SimulationPage::buildHead(QBoxLayout *layout)
 void SimulationPage::buildChoice(QBoxLayout *layout)
 {
     m_input->setObjectName(QStringLiteral("inputCombo"));
-    m_input->setAccessibleName(tr("What the simulation starts from"));
     fillCombo(m_input, 8);
     m_files->setObjectName(QStringLiteral("inputEdit"));
     m_files->setAccessibleName(tr("Files that the simulation starts from"));
@@ -136,7 +136,6 @@ void SimulationPage::buildChoice(QBoxLayout *layout)
     m_browse->setObjectName(QStringLiteral("inputButton"));
     m_browse->setAccessibleName(tr("Choose what the simulation starts from"));
     m_engine->setObjectName(QStringLiteral("engineCombo"));
-    m_engine->setAccessibleName(tr("Simulator"));
     fillCombo(m_engine, 9);
     m_hasWaves->setObjectName(QStringLiteral("wavesBox"));
     connect(m_input, qOverload<int>(&QComboBox::activated), this, [this] {
@@ -155,12 +154,13 @@ void SimulationPage::buildChoice(QBoxLayout *layout)
     row->addWidget(m_engine);
     row->addWidget(m_hasWaves);
     layout->addLayout(row);
+    labelUnseen(m_input, tr("What the simulation starts from"));
+    labelUnseen(m_engine, tr("Simulator"));
 }
 
 QWidget *SimulationPage::buildLeft()
 {
     m_output->setObjectName(QStringLiteral("outputCombo"));
-    m_output->setAccessibleName(tr("Terminal that is shown"));
     fillCombo(m_output, 8);
     m_line->setObjectName(QStringLiteral("lineEdit"));
     m_line->setAccessibleName(tr("Line for the UART"));
@@ -181,6 +181,7 @@ QWidget *SimulationPage::buildLeft()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_terminals, 1);
     layout->addLayout(row);
+    labelUnseen(m_output, tr("Terminal that is shown"));
     return left;
 }
 

@@ -115,7 +115,7 @@ Utils::Result<QByteArray> pdfOf(SoftwareDocument *document)
         document->documentLayout()->draw(&painter, context);
         painter.restore();
         painter.setFont(small);
-        painter.setPen(Qt::darkGray);
+        painter.setPen(QColor(96, 96, 96));
         const QRectF line(margin, page.height() - margin - metrics.height(), room.width(),
                           metrics.height());
         const QString number = Tr::tr("Page %1 of %2").arg(i + 1).arg(count);

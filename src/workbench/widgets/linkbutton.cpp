@@ -18,6 +18,7 @@ LinkButton::LinkButton(const QString &text, const QString &description, const QI
                        QWidget *parent)
     : QCommandLinkButton(QString(text).replace(u'&', QLatin1String("&&")), description, parent)
 {
+    setAccessibleDescription(description);
     setIcon(icon);
     setIconSize({iconSide(), iconSide()});
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);

@@ -144,7 +144,6 @@ void VectorPictures::drawObject(QPainter *painter, const QRectF &place,
         return;
     }
     painter->save();
-    painter->setPen(Qt::gray);
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(place);
     painter->drawText(place, Qt::AlignCenter, Tr::tr("This picture cannot be shown."));

@@ -1,5 +1,6 @@
 #include "helpwindow.h"
 
+#include "widgets/colours.h"
 #include "widgets/focusforward.h"
 #include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
@@ -158,7 +159,7 @@ void HelpBrowser::colourLinks()
     if (paper.lightness() > 127)
         return;
     QTextCharFormat format;
-    format.setForeground(palette().color(QPalette::Highlight).lighter(150));
+    format.setForeground(Colours::link(palette()));
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         QVector<QPair<int, int>> links;
         for (auto it = block.begin(); !it.atEnd(); ++it) {

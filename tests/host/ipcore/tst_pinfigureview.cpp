@@ -435,6 +435,31 @@ void tst_PinFigureView::tellsAssistiveTools()
     QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Pins of CAN"));
     QCOMPARE(interface->text(QAccessible::Description),
              QStringLiteral("1 inputs, 2 outputs, 1 bidirectional"));
+    QCOMPARE(interface->role(), QAccessible::List);
+    view.show();
+    QCOMPARE(interface->childCount(), 4);
+    QVERIFY(!interface->child(4));
+    QStringList names;
+    for (int i = 0; i < 4; ++i) {
+        QAccessibleInterface *child = interface->child(i);
+        QCOMPARE(child->role(), QAccessible::ListItem);
+        QCOMPARE(child->parent(), interface);
+        QCOMPARE(interface->indexOfChild(child), i);
+        const QPoint middle = child->rect().center();
+        QCOMPARE(interface->childAt(middle.x(), middle.y()), child);
+        names.append(child->text(QAccessible::Name));
+    }
+    QCOMPARE(names, (QStringList{QStringLiteral("a, input"), QStringLiteral("b, output"),
+                                 QStringLiteral("c, output"), QStringLiteral("d, bidirectional")}));
+    const QRect before = interface->child(3)->rect();
+    view.setZoom(2, {});
+    QCOMPARE(interface->child(3)->rect().height(), 2 * before.height());
+
+    // A client that holds the last pin.
+    const QAccessible::Id held = QAccessible::uniqueId(interface->child(3));
+    view.setPins({pin(QStringLiteral("x"), 0)});
+    QVERIFY(!QAccessible::accessibleInterface(held)->isValid());
+    QVERIFY(QAccessible::accessibleInterface(held)->state().invalid);
 }
 
 QTEST_MAIN(tst_PinFigureView)

@@ -82,6 +82,8 @@ private Q_SLOTS:
     void focusIsSeenWhereverTabLeads_data() { addDialogs(); }
     void focusIsSeenWhereverTabLeads();
     void focusIsSeenAfterAClickOnTheDiagram();
+    void everyWidgetHasANameAndIsReachedByTab_data() { addDialogs(); }
+    void everyWidgetHasANameAndIsReachedByTab();
     void noKeyIsMarkedTwice_data() { addDialogs(); }
     void noKeyIsMarkedTwice();
     void everyButtonIsOnASmallScreenWithALargeFont_data() { addDialogs(); }
@@ -192,6 +194,23 @@ void TestDialogKeys::focusIsSeenAfterAClickOnTheDiagram()
     QVERIFY(view->grab().toImage() != without);
     edit->setFocus();
     QVERIFY(view->grab().toImage() == without);
+}
+
+void TestDialogKeys::everyWidgetHasANameAndIsReachedByTab()
+{
+    QFETCH(QString, name);
+    OptionMap options;
+    const auto dialog = makeDialog(name, &options);
+    dialog->show();
+    const auto *tabs = dialog->findChild<QTabWidget *>();
+    for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
+        if (tabs)
+            dialog->findChild<QTabWidget *>()->setCurrentIndex(page);
+        QVERIFY(interactiveWidgets(dialog.get()).size() > 3);
+        QCOMPARE(unnamed(dialog.get()).join(u';'), QString());
+        const TabWalk walk(dialog.get(), 200, false);
+        QCOMPARE(unreached(dialog.get(), walk).join(u';'), QString());
+    }
 }
 
 void TestDialogKeys::noKeyIsMarkedTwice()
