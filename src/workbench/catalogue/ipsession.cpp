@@ -95,6 +95,7 @@ bool IpSession::begin(int ip, QString *error)
         return false;
     }
     m_active = true;
+    m_texts.emplace();
     m_ip = ip;
     m_accepted = false;
     m_droppedId.clear();
@@ -106,6 +107,7 @@ void IpSession::end()
 {
     QCoreApplication::instance()->removeEventFilter(this);
     m_active = false;
+    m_texts.reset();
     m_dialog = nullptr;
     m_opened.clear();
 }

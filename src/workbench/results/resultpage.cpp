@@ -159,7 +159,7 @@ void ResultPage::setReport(const Synthesis::RunReport &report, const QMap<QStrin
     m_figure->setPins(pinsOf(report.ports));
     fitFigure();
     m_left->setTabText(0, tr("Ports (%1)").arg(report.ports.size()));
-    m_left->setTabText(1, tr("Primitives (%1 kinds)").arg(report.cells.size()));
+    m_left->setTabText(1, tr("Primitives (%n kinds)", nullptr, report.cells.size()));
     m_resources->setResources(report.resources, before);
     m_cells->setCells(report.cells);
     m_made = report.files;

@@ -18,6 +18,7 @@ struct Options {
     QString output;
     QStringList pluginDirs;
     QString settings;
+    QString language; // a code of Languages
     unsigned timeLimit = 60; // of renderDiagram, in seconds
 
     enum Next { Run, Leave };
