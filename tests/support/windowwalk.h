@@ -192,12 +192,15 @@ inline QStringList cutTexts(const QWidget *window)
         if (const auto *label = qobject_cast<const QLabel *>(widget)) {
             if (label->text().isEmpty())
                 continue;
+            // What lies between lines may be missing.
             if (label->wordWrap())
-                tell(label, label->text(), label->heightForWidth(label->width()), label->height());
+                tell(label, label->text(),
+                     label->heightForWidth(label->width()) - label->fontMetrics().height() / 8,
+                     label->height());
             else
                 tell(label, label->text(), label->sizeHint().width(), label->width());
         } else if (const auto *link = qobject_cast<const QCommandLinkButton *>(widget)) {
-            tell(link, link->text(), link->heightForWidth(link->width()), link->height());
+            tell(link, link->text(), widget->heightForWidth(link->width()), link->height());
         } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
             if (!button->text().isEmpty())
                 tell(button, button->text(), button->sizeHint().width(), button->width());

@@ -3,6 +3,13 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 
+// The resources are in a static library, where nothing else refers to them; the macro wants to
+// stand outside of namespaces.
+static void haveTranslations()
+{
+    Q_INIT_RESOURCE(translations);
+}
+
 namespace Workbench
 {
 
@@ -71,6 +78,7 @@ QLocale Languages::locale()
 Languages::Languages(const QString &wish, const QString &qtTexts)
     : m_code(chosen(wish, QLocale::system().uiLanguages()))
 {
+    haveTranslations();
     // The system's country counts as long as its language is the one of the texts.
     if (m_code == wish && !isFor(m_code.toLatin1().constData(), m_before))
         QLocale::setDefault(QLocale(m_code));

@@ -48,6 +48,7 @@ QTableView *makeTable(QAbstractItemModel *model, const QString &name)
     table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    table->horizontalHeader()->setMinimumSectionSize(table->horizontalHeader()->sectionSizeHint(0));
     return table;
 }
 

@@ -806,7 +806,7 @@
     </message>
     <message>
         <source>Copy &amp;Part Number</source>
-        <translation>Bestell&amp;nummer kopieren</translation>
+        <translation>Bestellnummer &amp;kopieren</translation>
     </message>
     <message>
         <source>Copy Part Number</source>
@@ -2678,7 +2678,7 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
     </message>
     <message>
         <source>&amp;Waves</source>
-        <translation>&amp;Wellenformen</translation>
+        <translation>Wellenf&amp;ormen</translation>
     </message>
     <message>
         <source>Sen&amp;d</source>
