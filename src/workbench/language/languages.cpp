@@ -38,13 +38,6 @@ bool isFor(const char *code, const QLocale &locale)
 
 int PluginTexts::s_count = 0;
 
-QString Languages::QtTranslator::translate(const char *context, const char *text,
-                                           const char *disambiguation, int n) const
-{
-    return PluginTexts::areShown() ? QString()
-                                   : m_texts.translate(context, text, disambiguation, n);
-}
-
 QVector<Languages::Choice> Languages::available()
 {
     QVector<Choice> result;

@@ -9,6 +9,22 @@
 namespace Workbench
 {
 
+// While a plug-in shows its dialogs, Qt's own texts in them (such as those of standard buttons)
+// are English like the plug-in's. Texts that are shown already stay as they are. Nests.
+class PluginTexts
+{
+public:
+    PluginTexts() { ++s_count; }
+    PluginTexts(const PluginTexts &) = delete;
+    PluginTexts &operator=(const PluginTexts &) = delete;
+    ~PluginTexts() { --s_count; }
+
+    static bool areShown() { return s_count > 0; }
+
+private:
+    static int s_count;
+};
+
 // The language of the workbench's own texts, from construction to destruction; at most one at a
 // time, before the first window. What is generated, written or printed is the same in every
 // language, and so are the texts of plug-ins.
@@ -46,7 +62,11 @@ private:
     public:
         bool read(const QString &file) { return m_texts.load(file); }
         QString translate(const char *context, const char *text, const char *disambiguation,
-                          int n) const override;
+                          int n) const override
+        {
+            return PluginTexts::areShown() ? QString()
+                                           : m_texts.translate(context, text, disambiguation, n);
+        }
         bool isEmpty() const override { return false; }
 
     private:
@@ -57,22 +77,6 @@ private:
     QLocale m_before;
     QTranslator m_texts;
     QtTranslator m_qtTexts;
-};
-
-// While a plug-in shows its dialogs, Qt's own texts in them (such as those of standard buttons)
-// are English like the plug-in's. Texts that are shown already stay as they are. Nests.
-class PluginTexts
-{
-public:
-    PluginTexts() { ++s_count; }
-    PluginTexts(const PluginTexts &) = delete;
-    PluginTexts &operator=(const PluginTexts &) = delete;
-    ~PluginTexts() { --s_count; }
-
-    static bool areShown() { return s_count > 0; }
-
-private:
-    static int s_count;
 };
 
 } // namespace Workbench
