@@ -1,8 +1,8 @@
 #include "catalogue/ipcatalogue.h"
 #include "catalogue/pluginlist.h"
+#include "language/languages.h"
 #include "project/project.h"
 #include "render/diagramrenderer.h"
-#include "tr.h"
 #include "widgets/symbolicon.h"
 #include "window/exitguard.h"
 #include "window/mainwindow.h"
@@ -24,6 +24,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <optional>
 
 using namespace Workbench;
 
@@ -108,24 +109,24 @@ bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &w
             QStringList names;
             for (const IpEntry &entry : catalogue.entries())
                 names.append(entry.name);
-            fail(Tr::tr("No plug-in offers the IP \"%1\"; there are: %2")
+            fail(QStringLiteral("No plug-in offers the IP \"%1\"; there are: %2")
                      .arg(options.newIp, names.join(QLatin1String(", "))));
             return false;
         }
         device = findDevice(options.device);
         if (!options.device.isEmpty() && device.isNull()) {
-            fail(Tr::tr("Unknown device \"%1\".").arg(options.device));
+            fail(QStringLiteral("Unknown device \"%1\".").arg(options.device));
             return false;
         }
         if (options.device.isEmpty() && projectFile.isEmpty()) {
-            fail(Tr::tr("--new-ip needs --device, because \"%1\" is in no project.")
+            fail(QStringLiteral("--new-ip needs --device, because \"%1\" is in no project.")
                      .arg(QDir::toNativeSeparators(dir)));
             return false;
         }
     }
     for (const QString &file : options.files) {
         if (!QFileInfo::exists(file)) {
-            fail(Tr::tr("\"%1\" does not exist.").arg(file));
+            fail(QStringLiteral("\"%1\" does not exist.").arg(file));
             return false;
         }
         if (file.endsWith(QLatin1String(".ipc")) && projectFile.isEmpty())
@@ -169,7 +170,7 @@ int main(int argc, char *argv[])
     if (!hasDisplay() && !given(argc, argv, "-platform")) {
         if (options.parse(argc, argv, &status) == Options::Leave)
             return status;
-        return fail(Tr::tr(
+        return fail(QStringLiteral(
             "There is no display to open the window on; only --render-diagram works without one."));
     }
 
@@ -185,7 +186,7 @@ int main(int argc, char *argv[])
 
     // QSettings would wait for ever for what a pipe has to say.
     if (const QFileInfo file(options.settings); file.exists() && !file.isFile())
-        return fail(Tr::tr("\"%1\" cannot hold the settings: it is not a plain file.")
+        return fail(QStringLiteral("\"%1\" cannot hold the settings: it is not a plain file.")
                         .arg(QDir::toNativeSeparators(options.settings)));
     QSettings settings(options.settings.isEmpty()
                            ? QSettings(QSettings::IniFormat, QSettings::UserScope,
@@ -194,6 +195,12 @@ int main(int argc, char *argv[])
                            : QFileInfo(options.settings).absoluteFilePath(),
                        QSettings::IniFormat);
     ExitGuard guard;
+    // What is printed is English.
+    std::optional<Languages> languages;
+    if (!rendering)
+        languages.emplace(options.language.isEmpty()
+                              ? settings.value(QStringLiteral("language")).toString()
+                              : options.language);
     IpCatalogue catalogue;
     loadPlugins(catalogue, options, settings);
     if (rendering) {
@@ -219,5 +226,5 @@ int main(int argc, char *argv[])
         return status;
     // Somebody else has ended the event loop.
     window.keepUnsaved();
-    return fail(Tr::tr("A plug-in has ended the program."));
+    return fail(QStringLiteral("A plug-in has ended the program."));
 }

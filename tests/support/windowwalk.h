@@ -5,8 +5,10 @@
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QCommandLinkButton>
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QGroupBox>
@@ -257,6 +259,69 @@ inline QStringList cutOff(QWidget *window, const QSize &room)
         if (!window->rect().contains(whole) ||
             button->visibleRegion().boundingRect().size() != button->size())
             result.append(nameOf(button));
+    }
+    return result;
+}
+
+// The texts of the program in a window that is shown which have less room than they need. Views
+// shorten what they show of others' texts; their headers do not.
+inline QStringList cutTexts(const QWidget *window)
+{
+    QStringList result;
+    const auto tell = [&result](const QWidget *widget, const QString &text, int needed, int room) {
+        if (needed > room)
+            result.append(QStringLiteral("%1 \"%2\": %3 of %4")
+                              .arg(nameOf(widget), text.left(60))
+                              .arg(room)
+                              .arg(needed));
+    };
+    const auto widthOf = [](const QWidget *widget, const QString &text) {
+        return widget->fontMetrics().size(Qt::TextShowMnemonic, text).width();
+    };
+    const auto widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisibleTo(window) || widget->window() != window)
+            continue;
+        if (const auto *label = qobject_cast<const QLabel *>(widget)) {
+            if (label->text().isEmpty())
+                continue;
+            // What lies between lines may be missing.
+            if (label->wordWrap())
+                tell(label, label->text(),
+                     label->heightForWidth(label->width()) - label->fontMetrics().height() / 8,
+                     label->height());
+            else
+                tell(label, label->text(), label->sizeHint().width(), label->width());
+        } else if (const auto *link = qobject_cast<const QCommandLinkButton *>(widget)) {
+            tell(link, link->text(), widget->heightForWidth(link->width()), link->height());
+        } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
+            if (!button->text().isEmpty())
+                tell(button, button->text(), button->sizeHint().width(), button->width());
+        } else if (const auto *box = qobject_cast<const QGroupBox *>(widget)) {
+            tell(box, box->title(), widthOf(box, box->title()), box->width());
+        } else if (const auto *bar = qobject_cast<const QMenuBar *>(widget)) {
+            const auto actions = bar->actions();
+            for (QAction *action : actions)
+                tell(bar, action->text(), widthOf(bar, action->text()),
+                     bar->actionGeometry(action).intersected(bar->rect()).width());
+        } else if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                tell(tabs, tabs->tabText(i), widthOf(tabs, tabs->tabText(i)),
+                     tabs->tabRect(i).width());
+        } else if (const auto *dock = qobject_cast<const QDockWidget *>(widget)) {
+            tell(dock, dock->windowTitle(), widthOf(dock, dock->windowTitle()), dock->width());
+        } else if (const auto *edit = qobject_cast<const QLineEdit *>(widget)) {
+            tell(edit, edit->placeholderText(), widthOf(edit, edit->placeholderText()),
+                 edit->width());
+        } else if (const auto *number = qobject_cast<const QAbstractSpinBox *>(widget)) {
+            tell(number, number->text(), number->minimumSizeHint().width(), number->width());
+        } else if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
+            for (int i = 0; header->orientation() == Qt::Horizontal && i < header->count(); ++i) {
+                const QString text = header->model()->headerData(i, Qt::Horizontal).toString();
+                if (!header->isSectionHidden(i))
+                    tell(header, text, widthOf(header, text), header->sectionSize(i));
+            }
+        }
     }
     return result;
 }

@@ -63,18 +63,24 @@ public:
     // The menu entry with this text, without its "&" and "…".
     QAction *action(const char *text) const
     {
-        const auto actions = window->findChildren<QAction *>();
-        for (QAction *candidate : actions) {
-            if (candidate->parent() != window.get())
-                continue; // of a context menu
-            QString name = candidate->text();
+        const QStringList names = englishNames.isEmpty() ? namesOfActions() : englishNames;
+        const int index = names.indexOf(QLatin1String(text));
+        if (index < 0 || index >= actions().size())
+            qFatal("there is no action \"%s\"", text);
+        return actions().at(index);
+    }
+
+    // What action() finds in the window as it is.
+    QStringList namesOfActions() const
+    {
+        QStringList names;
+        for (const QAction *action : actions()) {
+            QString name = action->text();
             name.remove(u'&');
             name.remove(QChar(0x2026));
-            if (name == QLatin1String(text))
-                return candidate;
+            names.append(name);
         }
-        qFatal("there is no action \"%s\"", text);
-        return nullptr;
+        return names;
     }
 
     QStringList tabTexts() const
@@ -94,9 +100,16 @@ public:
     }
 
 private:
+    QList<QAction *> actions() const
+    {
+        // Others are of context menus.
+        return window->findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);
+    }
+
     QTemporaryDir m_dir;
 
 public:
+    QStringList englishNames; // of a window in another language, the names of a new one's actions
     QSettings settings;
     Workbench::IpCatalogue catalogue;
     std::unique_ptr<Workbench::MainWindow> window;

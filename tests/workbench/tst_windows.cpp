@@ -1,10 +1,13 @@
 #include "hands.h"
 
+#include <longertexts.h>
 #include <windowwalk.h>
 
+#include <workbench/catalogue/pluginlist.h>
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/findbar.h>
+#include <workbench/language/languages.h>
 #include <workbench/messages/logview.h>
 #include <workbench/results/resultpage.h>
 #include <workbench/simulation/simulationpage.h>
@@ -45,6 +48,8 @@ private Q_SLOTS:
     void cleanup()
     {
         m_bench.reset();
+        m_longerTexts.reset();
+        m_languages.reset();
         QApplication::setFont(m_font);
     }
 
@@ -77,6 +82,53 @@ private Q_SLOTS:
                 }
             }
             QCOMPARE(sharedMnemonics(texts).join(u';'), QString());
+        });
+    }
+
+    void noLanguageMarksAKeyTwice_data()
+    {
+        QTest::addColumn<QString>("scene");
+        QTest::addColumn<QString>("language");
+        for (const Languages::Choice &language : Languages::available()) {
+            for (const char *scene : scenes)
+                QTest::addRow("%s, %s", qPrintable(language.code), scene)
+                    << QString::fromLatin1(scene) << language.code;
+        }
+    }
+    void noLanguageMarksAKeyTwice()
+    {
+        QFETCH(QString, scene);
+        QFETCH(QString, language);
+        speak([&] { m_languages = std::make_unique<Languages>(language); });
+        show([](QWidget *window) {
+            QCOMPARE(sharedMnemonics(mnemonicTexts(window)).join(u';'), QString());
+        });
+        if (scene != QLatin1String("results"))
+            return;
+        QMetaObject::invokeMethod(m_bench->action("New Project"), "hover"); // menus are made
+        const auto menus = window()->findChildren<QMenu *>();
+        QVERIFY(menus.size() >= 7);
+        for (QMenu *menu : menus) {
+            Q_EMIT menu->aboutToShow();
+            QStringList texts;
+            for (const QAction *action : menu->actions())
+                texts.append(action->text());
+            QCOMPARE(sharedMnemonics(texts).join(u';'), QString());
+        }
+    }
+
+    void noWindowCutsALongerText_data() { addScenes(); }
+    void noWindowCutsALongerText()
+    {
+        speak([this] {
+            m_longerTexts = std::make_unique<LongerTexts>();
+            QCoreApplication::installTranslator(m_longerTexts.get());
+        });
+        show([](QWidget *window) {
+            QStringList cut = cutOff(window, smallScreen());
+            QCoreApplication::processEvents(); // labels that break their lines
+            cut += cutTexts(window);
+            QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u'\n')));
         });
     }
 
@@ -690,7 +742,7 @@ private:
         QVERIFY(!page->infoBar()->isHidden());
         window()->infoBar()->showMessage(
             QStringLiteral("A message of the window. ").repeated(6) + name,
-            {{QStringLiteral("Choose &a Device…"), [] {}}, {QStringLiteral("Detai&ls"), [] {}}});
+            {{MainWindow::tr("Choose &a Device…"), [] {}}, {PluginList::tr("Detai&ls"), [] {}}});
         QCoreApplication::processEvents();
     }
 
@@ -746,14 +798,26 @@ private:
         QCoreApplication::processEvents();
     }
 
+    static constexpr const char *scenes[] = {
+        "start",     "project", "editor",     "results", "log",      "new project", "device",
+        "plug-ins",  "about",   "line",       "guide",   "message",  "kept",        "software",
+        "datasheet", "program", "simulation", "example", "settings", "tools",       "replace"};
+
     static void addScenes()
     {
         QTest::addColumn<QString>("scene");
-        for (const char *scene :
-             {"start",    "project", "editor",   "results",   "log",     "new project", "device",
-              "plug-ins", "about",   "settings", "tools",     "replace", "line",        "guide",
-              "message",  "kept",    "software", "datasheet", "program", "simulation",  "example"})
+        for (const char *scene : scenes)
             QTest::newRow(scene) << QString::fromLatin1(scene);
+    }
+
+    // Has a new window come up in the language that `install` brings.
+    void speak(const std::function<void()> &install)
+    {
+        const QStringList names = m_bench->namesOfActions();
+        m_bench.reset();
+        install();
+        m_bench = std::make_unique<Bench>("taking");
+        m_bench->englishNames = names;
     }
 
     // Brings about the scene of the row and lets `look` see its window.
@@ -816,6 +880,8 @@ private:
         QVERIFY(seen);
     }
 
+    std::unique_ptr<LongerTexts> m_longerTexts;
+    std::unique_ptr<Languages> m_languages;
     std::unique_ptr<Bench> m_bench;
     const QFont m_font = QApplication::font();
     const QPalette m_palette = QApplication::palette();

@@ -49,6 +49,7 @@ ErrorDialog::ErrorDialog(const QString &title, const QStringList &details, QWidg
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     QPushButton *close = buttons->button(QDialogButtonBox::Close);
+    close->setText(tr("Close")); // whatever language Qt speaks
     auto *copy = buttons->addButton(tr("Cop&y"), QDialogButtonBox::ActionRole);
     copy->setObjectName(QStringLiteral("copyButton"));
     connect(copy, &QPushButton::clicked, this, &ErrorDialog::copyAll);

@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace IPCore
 {
@@ -30,6 +31,7 @@ void report(QWidget *parent, const QString &message)
                     parent ? parent : Core::ViewManager::dialogParent());
     // Messages hold paths of the user, which must never be taken for mark-up.
     box.setTextFormat(Qt::PlainText);
+    box.button(QMessageBox::Ok)->setText(Tr::tr("OK")); // whatever language Qt speaks
     const WritingLocks::Pause pause;
     box.exec();
 }

@@ -47,6 +47,7 @@ ProgressDialog::ProgressDialog(QWidget *parent)
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_cancel = buttons->button(QDialogButtonBox::Cancel);
+    m_cancel->setText(tr("Cancel")); // whatever language Qt speaks
     m_cancel->setAutoDefault(false); // Enter is for the window before this one
     connect(buttons, &QDialogButtonBox::rejected, this, &ProgressDialog::reject);
     m_hint->setObjectName(QStringLiteral("hintLabel"));

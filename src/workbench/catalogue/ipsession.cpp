@@ -116,6 +116,7 @@ bool IpSession::begin(int ip, QString *error)
         return false;
     }
     m_active = true;
+    m_texts.emplace();
     m_ip = ip;
     m_accepted = false;
     m_droppedId.clear();
@@ -130,6 +131,7 @@ void IpSession::end()
     QCoreApplication::instance()->removeEventFilter(this);
     m_draftDelay.stop();
     m_active = false;
+    m_texts.reset();
     m_dialog = nullptr;
     m_opened.clear();
 }

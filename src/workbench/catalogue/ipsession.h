@@ -1,5 +1,7 @@
 #pragma once
 
+#include "language/languages.h"
+
 #include <dev/devicearg.h>
 
 #include <QHash>
@@ -10,6 +12,7 @@
 #include <QVariantMap>
 
 #include <functional>
+#include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QDialog)
 
@@ -81,6 +84,7 @@ private:
     KeptConfigurations *m_kept = nullptr;
     std::function<QStringList()> m_knownFiles;
     bool m_active = false;
+    std::optional<PluginTexts> m_texts; // while it is active
     int m_ip = -1;
     bool m_accepted = false;
     // The dialog that tells its configuration; looked at also while it is taken down.

@@ -45,7 +45,7 @@ void PluginList::tellFailures(MessageModel *messages)
     const QString name = QFileInfo(failures.first().library).fileName();
     m_infoBar.showMessage(failures.size() == 1
                               ? tr("The plug-in \"%1\" cannot be used.").arg(name)
-                              : tr("%1 plug-ins cannot be used.").arg(failures.size()),
+                              : tr("%n plug-ins cannot be used.", nullptr, failures.size()),
                           {{tr("Detai&ls"), [this] { show(); }}});
 }
 

@@ -1,7 +1,5 @@
 #include "pluginprobe.h"
 
-#include "tr.h"
-
 #include <core/editormanager.h>
 
 #include <QDir>
@@ -104,21 +102,23 @@ PluginProbe::~PluginProbe()
         m_process->end();
 }
 
+// What is found is kept for the next start, whose language may be another one: it is English, as
+// what the process says is.
 QString PluginProbe::stepWords(int step)
 {
     switch (step) {
     case PluginLoader::Loading:
-        return Tr::tr("while it was loaded");
+        return QStringLiteral("while it was loaded");
     case PluginLoader::Starting:
-        return Tr::tr("while it was started");
+        return QStringLiteral("while it was started");
     case PluginLoader::Listing:
-        return Tr::tr("when it was asked for its IPs");
+        return QStringLiteral("when it was asked for its IPs");
     case PluginLoader::Describing:
-        return Tr::tr("when it was asked what its IPs are");
+        return QStringLiteral("when it was asked what its IPs are");
     case PluginLoader::Supporting:
-        return Tr::tr("when it was asked about devices");
+        return QStringLiteral("when it was asked about devices");
     case PluginLoader::Releasing:
-        return Tr::tr("when its IPs were released");
+        return QStringLiteral("when its IPs were released");
     default:
         return {};
     }
@@ -157,17 +157,21 @@ PluginProbe::Result PluginProbe::wait()
     }
     const QString when = stepWords(step);
     if (tooMuch && step >= 0)
-        return {Tr::tr("It did not stop printing %1.").arg(when), true};
+        return {QStringLiteral("It did not stop printing %1.").arg(when), true};
     if (blocked && step >= 0)
-        return {Tr::tr("It did not answer within %1 s %2.").arg(m_timeLimit / 1000).arg(when),
-                true};
+        return {
+            QStringLiteral("It did not answer within %1 s %2.").arg(m_timeLimit / 1000).arg(when),
+            true};
     // Nothing of the plug-in has run: that is not its fault.
     if (step < 0)
         return {};
     if (m_process->exitStatus() == QProcess::CrashExit)
-        return {Tr::tr("It crashed %1 (signal %2).").arg(when).arg(m_process->exitCode()), false};
+        return {QStringLiteral("It crashed %1 (signal %2).").arg(when).arg(m_process->exitCode()),
+                false};
     if (told.isEmpty())
-        return {Tr::tr("It ended the program %1 (status %2).").arg(when).arg(m_process->exitCode()),
+        return {QStringLiteral("It ended the program %1 (status %2).")
+                    .arg(when)
+                    .arg(m_process->exitCode()),
                 false};
     if (!told.value(QLatin1String("ips")).toArray().isEmpty())
         return {};

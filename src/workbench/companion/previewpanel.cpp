@@ -245,8 +245,9 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
         m_files->setCurrentItem(next);
     }
     QStringList summary{
-        changes == 0 ? tr("OK would change no file.")
-                     : tr("OK would write %1 of %2 files.").arg(changes).arg(preview.files.size())};
+        changes == 0
+            ? tr("OK would change no file.")
+            : tr("OK would write %1 of %n files.", nullptr, preview.files.size()).arg(changes)};
     m_summary->setText((summary + preview.notes).join(u'\n'));
 
     m_differences->clear();

@@ -178,13 +178,13 @@ bool EditorTabs::settle(const QList<EditorPage *> &changed)
     QStringList names;
     for (const EditorPage *page : changed)
         names.append(QFileInfo(page->path()).fileName());
-    QMessageBox box(QMessageBox::Question, tr("Unsaved changes"),
-                    changed.size() == 1
-                        ? tr("\"%1\" has changes that are not saved.").arg(names.first())
-                        : tr("%1 files have changes that are not saved: %2.")
-                              .arg(changed.size())
-                              .arg(names.join(QLatin1String(", "))),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, window());
+    QMessageBox box(
+        QMessageBox::Question, tr("Unsaved changes"),
+        changed.size() == 1
+            ? tr("\"%1\" has changes that are not saved.").arg(names.first())
+            : tr("%n files have changes that are not saved: %1.", nullptr, changed.size())
+                  .arg(names.join(QLatin1String(", "))),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, window());
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();

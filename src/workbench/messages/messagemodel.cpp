@@ -37,7 +37,7 @@ void MessageModel::setReport(const Synthesis::RunReport &report)
                 continue;
             }
             const QString text = message.count > 1
-                                     ? tr("%1 (%2 times)").arg(message.text).arg(message.count)
+                                     ? tr("%1 (%n times)", nullptr, message.count).arg(message.text)
                                      : message.text;
             m_rows.append({severity == Synthesis::Message::Error ? Error : Warning, text,
                            message.file, message.line, false});

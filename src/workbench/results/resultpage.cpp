@@ -48,6 +48,7 @@ QTableView *makeTable(QAbstractItemModel *model, const QString &name)
     table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    table->horizontalHeader()->setMinimumSectionSize(table->horizontalHeader()->sectionSizeHint(0));
     return table;
 }
 
@@ -162,7 +163,7 @@ void ResultPage::setReport(const Synthesis::RunReport &report, const QMap<QStrin
     m_figure->setPins(pinsOf(report.ports));
     fitFigure();
     m_left->setTabText(0, tr("Ports (%1)").arg(report.ports.size()));
-    m_left->setTabText(1, tr("Primitives (%1 kinds)").arg(report.cells.size()));
+    m_left->setTabText(1, tr("Primitives (%n kinds)", nullptr, report.cells.size()));
     m_resources->setResources(report.resources, before);
     m_cells->setCells(report.cells);
     m_made = report.files;

@@ -1,8 +1,7 @@
 #include "simulationstate.h"
 
+#include "language/languages.h"
 #include "tr.h"
-
-#include <QLocale>
 
 namespace Workbench
 {
@@ -10,15 +9,10 @@ namespace Workbench
 namespace
 {
 
-// As the texts around them are.
-QString number(quint64 count)
+QString cycles(qulonglong count)
 {
-    return QLocale(QLocale::English, QLocale::UnitedStates).toString(qulonglong(count));
-}
-
-QString cycles(quint64 count)
-{
-    return count == 1 ? Tr::tr("1 clock cycle") : Tr::tr("%1 clock cycles").arg(number(count));
+    return count == 1 ? Tr::tr("1 clock cycle")
+                      : Tr::tr("%1 clock cycles").arg(Languages::locale().toString(count));
 }
 
 QString headline(const LiveEvent &end)
@@ -72,7 +66,7 @@ void SimulationState::take(const LiveEvent &event)
 QString SimulationState::simulatedTime(quint64 clockCycles, int clock)
 {
     const double seconds = double(clockCycles) / clock;
-    const QLocale locale(QLocale::English, QLocale::UnitedStates);
+    const QLocale locale = Languages::locale();
     if (seconds < 1e-3)
         return Tr::tr("%1 µs").arg(locale.toString(seconds * 1e6, 'f', 2));
     if (seconds < 1)

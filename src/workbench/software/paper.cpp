@@ -118,7 +118,8 @@ Utils::Result<QByteArray> pdfOf(SoftwareDocument *document)
         painter.setPen(QColor(96, 96, 96));
         const QRectF line(margin, page.height() - margin - metrics.height(), room.width(),
                           metrics.height());
-        const QString number = Tr::tr("Page %1 of %2").arg(i + 1).arg(count);
+        // As the document is, in English.
+        const QString number = QStringLiteral("Page %1 of %2").arg(i + 1).arg(count);
         const qreal left = line.width() - metrics.horizontalAdvance(number) - metrics.height();
         painter.drawText(line, Qt::AlignLeft | Qt::TextSingleLine,
                          metrics.elidedText(document->title(), Qt::ElideRight, left));

@@ -441,7 +441,7 @@ void SoftwarePage::showFile(const SoftwareFile &file)
     }
     QString text = QString::fromUtf8(file.bytes.left(previewLimit));
     if (file.bytes.size() > previewLimit)
-        text += u'\n' + tr("… and %1 more bytes").arg(file.bytes.size() - previewLimit);
+        text += u'\n' + tr("… and %n more bytes", nullptr, file.bytes.size() - previewLimit);
     m_document->forget();
     m_text->setPlainText(text);
     m_preview->setCurrentWidget(m_text);
@@ -501,7 +501,7 @@ void SoftwarePage::tell(const QStringList &sentences)
     constexpr int room = 3;
     QStringList shown = sentences.mid(0, room);
     if (sentences.size() > room)
-        shown.last() += u' ' + tr("%1 more in the tool tip.").arg(sentences.size() - room);
+        shown.last() += u' ' + tr("%n more in the tool tip.", nullptr, sentences.size() - room);
     m_told->setText(shown.join(u'\n'));
     m_told->setToolTip(sentences.size() > room
                            ? QLatin1String("<p>") + sentences.join(u'\n').toHtmlEscaped().replace(
@@ -560,12 +560,12 @@ bool SoftwarePage::exportFiles()
     const int written =
         report->count(State::Missing) + report->count(State::Stale) + report->count(State::Edited);
     QStringList sentences;
-    sentences.append(written == 0 ? tr("All files were there already; nothing is written.")
-                                  : tr("%1 files are written, %2 were there already.")
-                                        .arg(written)
-                                        .arg(report->count(State::Fresh)));
+    sentences.append(written == 0
+                         ? tr("All files were there already; nothing is written.")
+                         : tr("%n files are written, %1 were there already.", nullptr, written)
+                               .arg(report->count(State::Fresh)));
     if (removed > 0)
-        sentences.append(tr("%1 files of earlier exports are removed.").arg(removed));
+        sentences.append(tr("%n files of earlier exports are removed.", nullptr, removed));
     sentences.append(report->messages);
     tell(sentences);
     return true;

@@ -1,7 +1,5 @@
 #include "exitguard.h"
 
-#include "tr.h"
-
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
@@ -70,8 +68,7 @@ void ExitGuard::setDeadline(unsigned seconds, const QString &file)
     if (seconds == 0)
         return;
     const QByteArray message =
-        Tr::tr("tarvo-workbench: the plug-in of \"%1\" did not answer within "
-               "%2 s.\n")
+        QStringLiteral("tarvo-workbench: the plug-in of \"%1\" did not answer within %2 s.\n")
             .arg(file, QString::number(seconds))
             .toUtf8()
             .right(int(sizeof deadlineMessage));

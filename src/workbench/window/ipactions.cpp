@@ -264,7 +264,8 @@ void IpActions::tellOfOtherDevices(const QStringList &files)
     const InfoBar::Action show{tr("&Show"), [this, first] { Q_EMIT showRequested(first); }};
     if (files.size() > 1) {
         m_with.infoBar.showMessage(
-            tr("%1 IPs of this project are made for other devices.").arg(files.size()), {show});
+            tr("%n IPs of this project are made for other devices.", nullptr, files.size()),
+            {show});
         return;
     }
     const IpcHead head = IpcHead::read(first);

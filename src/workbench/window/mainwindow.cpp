@@ -743,8 +743,8 @@ void MainWindow::onRunStarted(IPCore::SynthesisHelper *helper)
 {
     m_messages->clear();
     const Synthesis::RunReport begun = helper->report();
-    log()->start(
-        tr("Synthesis of %1 for %2").arg(begun.job.targetName, begun.job.device.partNumber()));
+    log()->start(QStringLiteral("Synthesis of %1 for %2")
+                     .arg(begun.job.targetName, begun.job.device.partNumber()));
     m_runLabel->setText(tr("Synthesis: starting"));
     m_outputDock->show();
     output()->showLog();

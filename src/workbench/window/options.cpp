@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "language/languages.h"
+
 #include <CLI/CLI.hpp>
 
 namespace Workbench
@@ -24,6 +26,7 @@ struct Arguments {
     std::vector<std::string> pluginDirs;
     std::string settings;
     bool isFresh = false;
+    std::string language;
     unsigned timeLimit = 60;
 };
 
@@ -77,6 +80,13 @@ void describe(CLI::App &app, Arguments &arguments)
     app.add_option("--settings", arguments.settings,
                    "Keep window state, tabs and recent projects in this file")
         ->type_name("FILE");
+    std::vector<std::string> codes;
+    for (const Languages::Choice &language : Languages::available())
+        codes.push_back(language.code.toStdString());
+    app.add_option("--language", arguments.language,
+                   "Language of the window (default: as in the settings, or else the system's)")
+        ->type_name("CODE")
+        ->check(CLI::IsMember(codes));
 }
 
 } // namespace
@@ -111,6 +121,7 @@ Options::Next Options::parse(int argc, char *argv[], int *status)
     output = text(arguments.output);
     settings = text(arguments.settings);
     isFresh = arguments.isFresh;
+    language = text(arguments.language);
     timeLimit = arguments.timeLimit;
     *status = 0;
     return Run;

@@ -19,6 +19,7 @@ struct Options {
     QStringList pluginDirs;
     QString settings;
     bool isFresh = false;    // nothing of the last time is opened
+    QString language; // a code of Languages
     unsigned timeLimit = 60; // of renderDiagram, in seconds
 
     enum Next { Run, Leave };
