@@ -28,7 +28,7 @@ for package in *.deb; do
     name=${package%%_*}
     dpkg-deb --fsys-tarfile "$package" | tar --list --verbose --numeric-owner >"$scratch/$name.list"
     awk '$1 !~ /^d/ { sub(/^\.\//, "", $6); print $6 }' "$scratch/$name.list" |
-        grep -vE "^usr/share/doc/$name/(COPYRIGHT(\.gz)?|copyright|changelog\.gz)$|^usr/share/lintian/overrides/$name$" >"$scratch/$name.files"
+        grep -vE "^usr/share/doc/$name/(COPYRIGHT|copyright|changelog\.gz)$|^usr/share/lintian/overrides/$name$" >"$scratch/$name.files"
     grep -E "^$name " "$source/tests/packaging/contents.txt" | cut -d' ' -f2- >"$scratch/$name.patterns" || fail "contents.txt says nothing of $name"
     while read -r pattern; do
         grep -qE "^$pattern$" "$scratch/$name.files" || fail "$name has no file $pattern"
@@ -38,7 +38,7 @@ for package in *.deb; do
     wrong=$(awk '$2 != "0/0" || ($1 !~ /^(-rw-r--r--|-rwxr-xr-x|drwxr-xr-x|lrwxrwxrwx)$/)' "$scratch/$name.list")
     [[ -z $wrong ]] || fail "$name holds files with other owners or rights: $wrong"
     for name_in_docs in COPYRIGHT copyright; do
-        grep -q " \./usr/share/doc/$name/$name_in_docs" "$scratch/$name.list" || fail "$name has no $name_in_docs"
+        grep -q " \./usr/share/doc/$name/$name_in_docs$" "$scratch/$name.list" || fail "$name has no $name_in_docs"
     done
     dpkg-deb --extract "$package" "$scratch/installed"
 done
