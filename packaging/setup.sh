@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# packaging/setup.sh [--tests]: installs the Debian packages of debian-packages.txt that this machine lacks, with --tests
-# those for the tests too. Prints nothing when there is nothing to do.
+# packaging/setup.sh [--tests] [--packages]: installs the Debian packages of debian-packages.txt that this machine lacks,
+# with --tests those for the tests too, with --packages those that packages are made with. Prints nothing when there is
+# nothing to do.
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 mapfile -t wanted < <(sed 's/#.*//' "$here/debian-packages.txt" |
-    awk -v tests="${1:-}" 'NF == 1 || (NF == 2 && $2 == "tests" && tests == "--tests") { print $1 }')
+    awk -v marks=" $* " '{ take = NF == 1; for (i = 2; i <= NF; ++i) if (index(marks, " --" $i " ")) take = 1 } take { print $1 }')
 
 find_missing() {
     missing=()
