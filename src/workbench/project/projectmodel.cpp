@@ -4,6 +4,7 @@
 #include "project.h"
 #include "widgets/symbolicon.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
@@ -70,7 +71,7 @@ void ProjectModel::refresh()
 QList<ProjectModel::Entry> ProjectModel::read(Group group) const
 {
     const QStringList paths = group == Ips ? m_project->ipFiles() : m_project->files();
-    const DEV::DeviceArg device = m_project->device();
+    const QString deviceId = m_project->device().id();
     const QDir folder(m_project->path());
     const QString inside = m_project->path() + u'/';
     QList<Entry> entries;
@@ -80,16 +81,29 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
         file.path = path;
         file.text = QDir::toNativeSeparators(
             path.startsWith(inside) ? path.mid(inside.size()) : folder.relativeFilePath(path));
-        file.missing = !QFileInfo::exists(path);
-        if (group == Ips && !file.missing) {
-            const IpcHead head = IpcHead::read(path);
-            file.type = head.type;
-            file.difference = head.difference(device);
-            file.explanation = head.differenceSentence(device);
-        }
+        const QFileInfo info(path);
+        file.missing = !info.exists();
+        if (group == Ips && !file.missing)
+            file.state = QStringLiteral("%1 %2 ").arg(
+                             QString::number(info.size()),
+                             QString::number(info.lastModified().toMSecsSinceEpoch())) +
+                         deviceId;
+        else
+            file.isRead = true;
         entries.append(file);
     }
     return entries;
+}
+
+const ProjectModel::Head &ProjectModel::headOf(const Entry &entry) const
+{
+    if (!entry.isRead && m_project) {
+        const IpcHead head = IpcHead::read(entry.path);
+        const DEV::DeviceArg device = m_project->device();
+        entry.head = {head.type, head.difference(device), head.differenceSentence(device)};
+        entry.isRead = true;
+    }
+    return entry.head;
 }
 
 QModelIndex ProjectModel::groupIndex(Group group) const
@@ -181,24 +195,27 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         if (file->missing)
             return tr("%1 (missing)").arg(file->text);
-        return file->difference.isEmpty() ? file->text
-                                          : tr("%1 (%2)").arg(file->text, file->difference);
+        return headOf(*file).difference.isEmpty()
+                   ? file->text
+                   : tr("%1 (%2)").arg(file->text, headOf(*file).difference);
     case Qt::AccessibleTextRole:
-        if (file->difference.isEmpty())
+        if (headOf(*file).difference.isEmpty())
             return data(index, Qt::DisplayRole);
-        return tr("%1. %2").arg(file->text, file->explanation);
+        return tr("%1. %2").arg(file->text, headOf(*file).explanation);
     case Qt::ToolTipRole: {
         const QString path = QDir::toNativeSeparators(file->path);
         if (file->missing)
             return tr("%1 does not exist").arg(path);
-        if (file->difference.isEmpty())
+        if (headOf(*file).difference.isEmpty())
             return path;
-        return tr("%1\n%2\nProject > Move to Device… moves it.").arg(path, file->explanation);
+        return tr("%1\n%2\nProject > Move to Device… moves it.")
+            .arg(path, headOf(*file).explanation);
     }
     case Qt::DecorationRole:
-        return symbolIcon(file->missing || !file->difference.isEmpty() ? QStringLiteral("warning")
-                          : index.internalId() == Ips                  ? QStringLiteral("ip-file")
-                                                                       : QStringLiteral("file"));
+        return symbolIcon(file->missing || !headOf(*file).difference.isEmpty()
+                              ? QStringLiteral("warning")
+                          : index.internalId() == Ips ? QStringLiteral("ip-file")
+                                                      : QStringLiteral("file"));
     case Qt::ForegroundRole:
         if (file->missing)
             return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
@@ -208,9 +225,9 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
     case MissingRole:
         return file->missing;
     case TypeRole:
-        return file->type;
+        return headOf(*file).type;
     case OtherDeviceRole:
-        return !file->difference.isEmpty();
+        return !headOf(*file).difference.isEmpty();
     default:
         return {};
     }
