@@ -3,6 +3,8 @@
 #include "language/languages.h"
 #include "project/project.h"
 #include "render/diagramrenderer.h"
+#include "widgets/fontconfiguration.h"
+#include "widgets/programstyle.h"
 #include "widgets/symbolicon.h"
 #include "window/exitguard.h"
 #include "window/mainwindow.h"
@@ -177,6 +179,8 @@ int main(int argc, char *argv[])
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
+    std::future<void> fonts = readFontConfiguration();
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setOrganizationName(QStringLiteral("tarvo"));
     QApplication::setApplicationName(QStringLiteral("tarvo-workbench"));
     QApplication::setApplicationVersion(QStringLiteral(TARVO_VERSION));
@@ -210,6 +214,7 @@ int main(int argc, char *argv[])
         return renderer.render(options.renderDiagram, options.output, &error) ? 0 : fail(error);
     }
 
+    fonts.wait();
     QApplication::setWindowIcon(applicationIcon());
     MainWindow window(catalogue, settings);
     if (!prepare(options, catalogue, window, &status))

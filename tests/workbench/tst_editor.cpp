@@ -26,6 +26,19 @@
 using namespace Workbench;
 using namespace TestSupport;
 
+namespace
+{
+
+QByteArray manyLines(int size)
+{
+    QByteArray text;
+    while (text.size() < size)
+        text += "assign a" + QByteArray::number(text.size()) + " = b;\n";
+    return text;
+}
+
+} // namespace
+
 class TestEditor : public QObject
 {
     Q_OBJECT
@@ -408,6 +421,78 @@ private Q_SLOTS:
         QVERIFY(page->infoBar()->isHidden());
         page->startEditing();
         QVERIFY(page->isEditable());
+    }
+
+    void theEditorTakesNoMoreThanAPieceOfALargeFileInATurn()
+    {
+        write(m_path, manyLines(3 * EditorPage::pieceLimit));
+        EditorPage *page = open();
+        int before = page->editor()->document()->characterCount();
+        QVERIFY(before <= EditorPage::pieceSize + 1);
+        int most = 0;
+        connect(page->editor(), &QPlainTextEdit::textChanged, page, [&] {
+            const int now = page->editor()->document()->characterCount();
+            most = qMax(most, now - before);
+            before = now;
+        });
+        QTRY_VERIFY(!page->isLoading());
+        QVERIFY2(most <= EditorPage::pieceSize, qPrintable(QString::number(most)));
+        QVERIFY(most > 0);
+    }
+
+    void aLargeFileThatChangesOnDiskIsShownAsItIsThen()
+    {
+        QByteArray text = manyLines(2 * EditorPage::pieceLimit);
+        write(m_path, text);
+        EditorPage *page = open();
+        QTRY_VERIFY(!page->isLoading());
+        page->goToLine(2000);
+        text.replace(text.size() / 2, 1, "#");
+        text += "// the end\n";
+        write(m_path, text);
+        page->checkDisk();
+        QTRY_COMPARE(page->editor()->toPlainText().size(), text.size());
+        QTRY_VERIFY(!page->isBusy());
+        QCOMPARE(page->editor()->toPlainText(), QString::fromLatin1(text));
+        QCOMPARE(page->editor()->currentLine(), 2000);
+        QVERIFY(!page->isModified());
+        QVERIFY(page->infoBar()->isHidden());
+        write(m_path, "short\n");
+        page->checkDisk();
+        QTRY_COMPARE(page->editor()->toPlainText(), QStringLiteral("short\n"));
+        QVERIFY(page->findChild<QSyntaxHighlighter *>());
+    }
+
+    void aLargeFileWithChangesIsNotReadOverThem()
+    {
+        const QByteArray text = manyLines(2 * EditorPage::pieceLimit);
+        write(m_path, text);
+        EditorPage *page = open();
+        QTRY_VERIFY(!page->isLoading());
+        page->startEditing();
+        page->editor()->insertPlainText(QStringLiteral("mine"));
+        write(m_path, text + "theirs\n");
+        page->checkDisk();
+        QTRY_VERIFY(!page->infoBar()->isHidden());
+        QVERIFY(page->isModified());
+        // What a comparison has read before the text is saved is no news afterwards.
+        page->checkDisk();
+        QString error;
+        QVERIFY2(page->save(&error), qPrintable(error));
+        QTRY_VERIFY(!page->isBusy());
+        QVERIFY(page->editor()->toPlainText().startsWith(QLatin1String("mine")));
+    }
+
+    void whatIsNoTextFarFromTheBeginningIsTold()
+    {
+        write(m_path, manyLines(2 * EditorPage::pieceLimit) + '\0');
+        EditorPage *page = open();
+        QTRY_VERIFY(!page->isLoading());
+        QVERIFY2(page->infoBar()->text().contains(QLatin1String("not a text")),
+                 qPrintable(page->infoBar()->text()));
+        page->startEditing();
+        QVERIFY(!page->isEditable());
+        QVERIFY(!page->isModified());
     }
 
     void closingALargeFileWhileItIsReadAsksNothing()

@@ -82,6 +82,22 @@ private Q_SLOTS:
         QTRY_VERIFY(!opened.isEmpty());
     }
 
+    void startPageShowsTheFirstOfManyIps()
+    {
+        const QString file = m_bench->makeProject();
+        for (int i = 0; i < 40; ++i)
+            write(QFileInfo(file).path() + QStringLiteral("/ip%1.ipc").arg(i), "[General]\n");
+        window()->openProject(file);
+        int shown = 0;
+        const auto all = window()->findChildren<QCommandLinkButton *>();
+        for (QCommandLinkButton *link : all)
+            shown += link->property("path").toString().endsWith(QLatin1String(".ipc")) ? 1 : 0;
+        QCOMPARE(shown, 12);
+        const auto *more = window()->findChild<QLabel *>(QStringLiteral("moreIpsLabel"));
+        QVERIFY(more);
+        QCOMPARE(more->text(), QStringLiteral("28 more are in the tree of the project."));
+    }
+
     void startPageLeadsToRecentProjects()
     {
         const QString file = m_bench->makeProject();

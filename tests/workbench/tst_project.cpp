@@ -42,6 +42,23 @@ private Q_SLOTS:
         QVERIFY(QFileInfo::exists(project->file()));
     }
 
+    void readsAnIpWhenItIsAskedFor()
+    {
+        QString error;
+        const auto project = Project::create(m_folder, QStringLiteral("p"), device(), &error);
+        const QString path = m_folder + QStringLiteral("/a.ipc");
+        write(path, "[General]\ntype=one\n");
+        ProjectModel model;
+        model.setProject(project.get());
+        write(path, "[General]\ntype=two\n");
+        QCOMPARE(model.indexOf(path).data(ProjectModel::TypeRole).toString(),
+                 QStringLiteral("two"));
+        write(path, "[General]\ntype=three\n");
+        model.refresh();
+        QCOMPARE(model.indexOf(path).data(ProjectModel::TypeRole).toString(),
+                 QStringLiteral("three"));
+    }
+
     void doesNotReplaceAProject()
     {
         QString error;

@@ -7,7 +7,9 @@
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QPlainTextDocumentLayout>
 #include <QTextBlock>
+#include <QThreadPool>
 #include <QToolTip>
 
 namespace Workbench
@@ -18,6 +20,9 @@ namespace
 
 // A selection as it is shown, with the bytes that no other program would take.
 const QString ownFormat = QStringLiteral("application/x-tarvo-shown-text");
+
+// From so many on, deleting a text takes a while.
+constexpr int manyLines = 10000;
 
 class LineNumbers : public QWidget
 {
@@ -91,6 +96,26 @@ int CodeEditor::currentLine() const
     return textCursor().blockNumber() + 1;
 }
 
+void CodeEditor::renewDocument()
+{
+    QTextDocument *old = document();
+    auto *fresh = new QTextDocument(this);
+    fresh->setDocumentLayout(new QPlainTextDocumentLayout(fresh));
+    fresh->setDefaultFont(old->defaultFont());
+    fresh->setDefaultTextOption(old->defaultTextOption());
+    // So that the editor does not delete it; nothing here may know it from now on.
+    old->setParent(nullptr);
+    setDocument(fresh);
+    markCurrentLine(); // its cursor was one of the old text's
+    layoutLineNumbers();
+    if (old->blockCount() < manyLines) {
+        delete old;
+        return;
+    }
+    old->moveToThread(nullptr);
+    QThreadPool::globalInstance()->start([old] { delete old; });
+}
+
 int CodeEditor::lineNumberWidth() const
 {
     if (!m_hasLineNumbers)
@@ -102,7 +127,8 @@ int CodeEditor::lineNumberWidth() const
 void CodeEditor::layoutLineNumbers()
 {
     const int width = lineNumberWidth();
-    setViewportMargins(width, 0, 0, 0);
+    if (viewportMargins().left() != width)
+        setViewportMargins(width, 0, 0, 0);
     setTabStopDistance(m_tabWidth * fontMetrics().horizontalAdvance(u' '));
     const QRect inner = contentsRect();
     m_lineNumbers->setGeometry(inner.left(), inner.top(), width, inner.height());

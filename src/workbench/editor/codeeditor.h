@@ -31,6 +31,9 @@ public:
     int currentLine() const; // from 1
     int lineCount() const { return blockCount(); }
 
+    // Begins with an empty text. What a large one took is given back in another thread.
+    void renewDocument();
+
     // The text as TextFormat::encode() takes it. toPlainText() changes some characters.
     QString shownText() const { return document()->toRawText(); }
 

@@ -11,8 +11,10 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
 #include <QVBoxLayout>
@@ -46,16 +48,47 @@ EditorPage::EditorPage(const QString &path, QWidget *parent)
     forwardFocus(this, m_editor);
 }
 
+EditorPage::~EditorPage()
+{
+    // Nobody is to hear of it: those who listen may be half gone.
+    const QSignalBlocker silent(this);
+    const QSignalBlocker silentEditor(m_editor);
+    m_editor->renewDocument();
+}
+
 QByteArray EditorPage::digestOf(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+}
+
+EditorPage::Content EditorPage::read(const QString &path, const QByteArray &known)
+{
+    Content content;
+    QByteArray bytes;
+    if (!Utils::FileUtils::readFile(path, &bytes, &content.error))
+        return content;
+    content.isLarge = bytes.size() > pieceLimit;
+    content.digest = digestOf(bytes);
+    if (content.digest == known)
+        return content;
+    content.mistake = TextFormat::mistakeOf(bytes);
+    if (!content.mistake.isEmpty())
+        return content;
+    content.format = TextFormat::of(bytes);
+    content.text = content.format.decode(bytes);
+    return content;
+}
+
+QString EditorPage::refusal(const QString &mistake) const
+{
+    return tr("Cannot show \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), mistake);
 }
 
 bool EditorPage::load(QString *error)
 {
     m_findBar->finishReplacing();
     const auto refuse = [this, error](const QString &reason) {
-        *error = tr("Cannot show \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), reason);
+        *error = refusal(reason);
         return false;
     };
     const QFileInfo info(m_path);
@@ -63,49 +96,108 @@ bool EditorPage::load(QString *error)
         return refuse(info.isDir() ? tr("it is a folder") : tr("it is not a plain file"));
     if (info.size() > sizeLimit)
         return refuse(tr("it has more than %1 MB").arg(sizeLimit >> 20));
-    QByteArray bytes;
-    if (!Utils::FileUtils::readFile(m_path, &bytes, error))
+    if (info.size() > pieceLimit)
+        return begin(error);
+    const Content content = read(m_path);
+    if (!content.error.isEmpty()) {
+        *error = content.error;
         return false;
-    const QString mistake = TextFormat::mistakeOf(bytes);
-    if (!mistake.isEmpty())
-        return refuse(mistake);
+    }
+    if (!content.mistake.isEmpty())
+        return refuse(content.mistake);
+    m_background.drop();
+    show(content);
+    return true;
+}
 
-    const int line = m_editor->currentLine();
-    const int scrolled = m_editor->verticalScrollBar()->value();
-    const bool wasShown = !m_digest.isEmpty();
-    m_format = TextFormat::of(bytes);
-    m_digest = digestOf(bytes);
-    m_deleted = false;
+// Shows how a large file begins, while all of it is read elsewhere.
+bool EditorPage::begin(QString *error)
+{
+    QFile file(m_path);
+    QByteArray head;
+    if (!file.open(QIODevice::ReadOnly))
+        return Utils::FileUtils::readFile(m_path, &head, error); // which has the words for it
+    head = file.read(pieceSize);
+    const QString mistake = TextFormat::mistakeOf(head);
+    if (!mistake.isEmpty()) {
+        *error = refusal(mistake);
+        return false;
+    }
     m_pieceTimer.stop();
-    m_inserted = 0;
-    delete m_highlighter;
-    m_highlighter = nullptr;
-    if (bytes.size() <= pieceLimit) {
-        const QString original = UnsavedCopy::originalOf(m_path);
-        m_highlighter = Highlighting::attach(m_editor->document(),
-                                             original.isEmpty() ? m_path : original, palette());
-    }
-
-    const QString text = m_format.decode(bytes);
-    if (wasShown)
-        m_wantedLine = line;
-    if (bytes.size() > pieceLimit) {
-        m_rest = text;
+    m_rest.clear();
+    m_isLoading = true;
+    tellOfSize();
+    if (m_digest.isEmpty()) {
+        m_format = TextFormat::of(head);
+        const QString text = m_format.decode(head.left(head.lastIndexOf('\n') + 1));
         m_editor->setUndoRedoEnabled(false);
-        m_editor->clear();
-        insertPiece();
-        m_pieceTimer.start();
-    } else {
-        m_rest.clear();
         m_editor->setPlainText(text);
-        finishLoading();
-        if (wasShown)
-            m_editor->verticalScrollBar()->setValue(scrolled);
+        m_inserted = text.size();
     }
-    if (!wasShown)
-        offerKeptChanges();
+    m_background.start([path = m_path] { return read(path); },
+                       [this](const Content &content) {
+                           if (content.error.isEmpty() && content.mistake.isEmpty()) {
+                               show(content);
+                               return;
+                           }
+                           m_isLoading = false;
+                           m_infoBar->showMessage(
+                               content.mistake.isEmpty() ? content.error : refusal(content.mistake),
+                               {});
+                           Q_EMIT stateChanged();
+                       });
     Q_EMIT stateChanged();
     return true;
+}
+
+void EditorPage::tellOfSize()
+{
+    m_infoBar->showMessage(tr("This file is large: it is being read, and is shown without "
+                              "colours."),
+                           {});
+}
+
+void EditorPage::show(const Content &content)
+{
+    const bool wasShown = !m_digest.isEmpty();
+    const int line = m_editor->currentLine();
+    const int scrolled = m_editor->verticalScrollBar()->value();
+    if (wasShown && m_wantedLine == 0) // unless this is the reading of a reading
+        m_wantedLine = line;
+    m_format = content.format;
+    m_digest = content.digest;
+    m_deleted = false;
+    m_pieceTimer.stop();
+    delete m_highlighter;
+    m_highlighter = nullptr;
+    if (content.isLarge) {
+        // What stands there is the beginning of it, or of another text.
+        const bool begun = !wasShown && content.text.startsWith(m_editor->shownText().replace(
+                                            QChar(QChar::ParagraphSeparator), QChar(u'\n')));
+        if (!begun) {
+            m_editor->renewDocument();
+            m_inserted = 0;
+        }
+        m_isLoading = true;
+        tellOfSize();
+        m_rest = content.text;
+        m_editor->setUndoRedoEnabled(false);
+        insertPiece();
+        m_pieceTimer.start();
+        Q_EMIT stateChanged();
+        return;
+    }
+    const QString original = UnsavedCopy::originalOf(m_path);
+    m_highlighter = Highlighting::attach(m_editor->document(),
+                                         original.isEmpty() ? m_path : original, palette());
+    m_rest.clear();
+    m_isLoading = false;
+    m_editor->setUndoRedoEnabled(true);
+    m_editor->setPlainText(content.text);
+    finishLoading();
+    if (wasShown)
+        m_editor->verticalScrollBar()->setValue(scrolled);
+    Q_EMIT stateChanged();
 }
 
 void EditorPage::insertPiece()
@@ -122,16 +214,13 @@ void EditorPage::insertPiece()
     const bool first = m_inserted == 0;
     cursor.insertText(m_rest.mid(m_inserted, end - m_inserted));
     m_inserted = end;
-    if (first) {
+    if (first)
         m_editor->moveCursor(QTextCursor::Start);
-        m_infoBar->showMessage(tr("This file is large: it is being read, and is shown without "
-                                  "colours."),
-                               {});
-    }
     if (m_inserted < m_rest.size())
         return;
     m_pieceTimer.stop();
     m_rest.clear();
+    m_isLoading = false;
     m_infoBar->hide();
     m_editor->setUndoRedoEnabled(true);
     finishLoading();
@@ -188,6 +277,9 @@ void EditorPage::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (m_wantedPlace)
         setPlace(*m_wantedPlace);
+    if (m_isNew)
+        offerKeptChanges();
+    m_isNew = false;
 }
 
 void EditorPage::goToLine(int line)
@@ -211,7 +303,7 @@ bool EditorPage::isEditable() const
 
 void EditorPage::startEditing()
 {
-    if (isEditable() || isLoading())
+    if (isEditable() || isLoading() || m_digest.isEmpty())
         return;
     const QFileInfo info(m_path);
     if (info.exists() && !info.isWritable()) {
@@ -251,6 +343,7 @@ bool EditorPage::save(QString *error)
     const QByteArray bytes = m_format.encode(text);
     if (!Utils::FileUtils::writeFile(m_path, bytes, error))
         return false;
+    m_background.drop(); // what stood there before
     m_digest = digestOf(bytes);
     m_deleted = false;
     m_infoBar->hide();
@@ -313,9 +406,28 @@ void EditorPage::checkDisk()
         Q_EMIT stateChanged();
         return;
     }
-    QByteArray bytes;
-    QString error;
-    if (!Utils::FileUtils::readFile(m_path, &bytes, &error) || digestOf(bytes) == m_digest) {
+    if (m_isLoading) {
+        QString reason;
+        if (!load(&reason))
+            m_infoBar->showMessage(reason, {});
+        return;
+    }
+    const qint64 size = QFileInfo(m_path).size();
+    if (size > sizeLimit) {
+        m_infoBar->showMessage(refusal(tr("it has more than %1 MB").arg(sizeLimit >> 20)), {});
+        return;
+    }
+    if (size <= pieceLimit) {
+        compare(read(m_path, m_digest));
+        return;
+    }
+    m_background.start([path = m_path, known = m_digest] { return read(path, known); },
+                       [this](const Content &content) { compare(content); });
+}
+
+void EditorPage::compare(const Content &content)
+{
+    if (!content.error.isEmpty() || content.digest == m_digest) {
         if (m_deleted) { // it is back as it was
             m_deleted = false;
             m_infoBar->hide();
@@ -328,13 +440,16 @@ void EditorPage::checkDisk()
         if (!load(&reason))
             m_infoBar->showMessage(reason, {});
     };
-    if (!m_editor->document()->isModified() || isLoading()) {
+    if (!m_editor->document()->isModified()) {
         m_infoBar->hide();
-        reload();
+        if (content.mistake.isEmpty())
+            show(content);
+        else
+            m_infoBar->showMessage(refusal(content.mistake), {});
         return;
     }
     m_deleted = false;
-    m_digest = digestOf(bytes); // asked once for each change
+    m_digest = content.digest; // asked once for each change
     m_infoBar->showMessage(
         tr("This file was changed by another program. You have changes of your own here."),
         {{tr("&Read Again (loses yours)"), reload}, {tr("&Keep Mine"), [] {}}});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "textfile.h"
+#include "widgets/background.h"
 
 #include <QByteArray>
 #include <QTimer>
@@ -26,11 +27,12 @@ class EditorPage : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int pieceSize = 1 << 18;  // in characters
+    static constexpr int pieceSize = 1 << 17;  // in characters, and bytes of the first
     static constexpr int pieceLimit = 1 << 20; // in bytes
     static constexpr qint64 sizeLimit = 256 << 20;
 
     explicit EditorPage(const QString &path, QWidget *parent = nullptr);
+    ~EditorPage() override;
 
     QString path() const { return m_path; }
     CodeEditor *editor() const { return m_editor; }
@@ -41,7 +43,9 @@ public:
     // shown; the page keeps what it had.
     bool load(QString *error);
     // Whether pieces of the file are still to come.
-    bool isLoading() const { return !m_rest.isEmpty(); }
+    bool isLoading() const { return m_isLoading; }
+    // The same, or whether the file on disk is being compared with what is shown.
+    bool isBusy() const { return m_isLoading || m_background.isBusy(); }
     // Once that line has come.
     void goToLine(int line);
     // Where one reads, from 1: cursor and first line shown; and the scrolling sideways, in pixels.
@@ -74,6 +78,7 @@ public:
     QString keepChanges(QString *error) const;
 
     // Compares with the disk: what was not changed here is read again, otherwise the info bar asks.
+    // Of a large file this is only begun.
     void checkDisk();
 
 Q_SIGNALS:
@@ -86,6 +91,22 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    // What is in a file. A mistake is a clause that says why it cannot be shown.
+    struct Content {
+        QString error;
+        QString mistake;
+        bool isLarge = false;
+        QByteArray digest;
+        TextFormat format;
+        QString text;
+    };
+    // Needs no page. With the digest `known` there is no more than that.
+    static Content read(const QString &path, const QByteArray &known = {});
+    QString refusal(const QString &mistake) const;
+    bool begin(QString *error);
+    void tellOfSize();
+    void show(const Content &content);
+    void compare(const Content &content);
     void insertPiece();
     void finishLoading();
     void showPlace(const Place &place);
@@ -102,8 +123,11 @@ private:
     QByteArray m_digest; // of the bytes that were read or written last
     bool m_deleted = false;
     bool m_needsUtf8 = false;
-    QString m_rest; // of a file that comes in pieces
-    int m_inserted = 0;
+    bool m_isNew = true; // until it has been read for the first time
+    bool m_isLoading = false;
+    QString m_rest;     // of a file that comes in pieces: all of it, until everything is inserted
+    int m_inserted = 0; // characters of it; before it is there, those of the beginning
+    Background m_background;
     int m_wantedLine = 0;
     std::optional<Place> m_wantedPlace;
     QTimer m_pieceTimer;

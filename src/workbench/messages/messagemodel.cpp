@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace Workbench
 {
 
@@ -15,65 +13,89 @@ MessageModel::MessageModel(QObject *parent)
 {
 }
 
+void MessageModel::add(const Row &row)
+{
+    m_rows.append(row);
+    ++(row.isHeadline ? m_counts[row.severity].headlines : m_counts[row.severity].others);
+    m_places += row.line > 0 ? 1 : 0;
+}
+
 void MessageModel::setReport(const Synthesis::RunReport &report)
 {
     beginResetModel();
-    m_rows.clear();
+    forget();
     const QString name =
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
-    m_rows.append({report.exitCode == 0 || report.cancelled ? Summary : Error,
-                   name.isEmpty() ? report.summary : tr("%1: %2").arg(name, report.summary),
-                   report.logFile, 0, true});
+    Row headline{report.exitCode == 0 || report.cancelled ? Summary : Error,
+                 name.isEmpty() ? report.summary : tr("%1: %2").arg(name, report.summary),
+                 report.logFile, 0, true};
+    QList<Row> rows;
     for (const auto severity : {Synthesis::Message::Error, Synthesis::Message::Warning}) {
         for (const Synthesis::Message &message : report.messages) {
             if (message.severity != severity)
                 continue;
             // One cause is one message: the headline gets the place.
             if (message.text == report.summary && report.exitCode != 0) {
-                if (!message.file.isEmpty() && m_rows.first().line == 0) {
-                    m_rows.first().file = message.file;
-                    m_rows.first().line = message.line;
+                if (!message.file.isEmpty() && headline.line == 0) {
+                    headline.file = message.file;
+                    headline.line = message.line;
                 }
                 continue;
             }
             const QString text = message.count > 1
                                      ? tr("%1 (%n times)", nullptr, message.count).arg(message.text)
                                      : message.text;
-            m_rows.append({severity == Synthesis::Message::Error ? Error : Warning, text,
-                           message.file, message.line, false});
+            rows.append({severity == Synthesis::Message::Error ? Error : Warning, text,
+                         message.file, message.line, false});
         }
     }
+    add(headline);
+    for (const Row &row : qAsConst(rows))
+        add(row);
     endResetModel();
 }
 
 void MessageModel::append(Severity severity, const QString &text, const QString &file, int line)
 {
     beginInsertRows({}, m_rows.size(), m_rows.size());
-    m_rows.append({severity, text, file, line, false});
+    add({severity, text, file, line, false});
+    endInsertRows();
+}
+
+void MessageModel::append(Severity severity, const QStringList &texts)
+{
+    if (texts.isEmpty())
+        return;
+    beginInsertRows({}, m_rows.size(), m_rows.size() + texts.size() - 1);
+    for (const QString &text : texts)
+        add({severity, text, {}, 0, false});
     endInsertRows();
 }
 
 void MessageModel::clear()
 {
     beginResetModel();
-    m_rows.clear();
+    forget();
     endResetModel();
+}
+
+void MessageModel::forget()
+{
+    m_rows.clear();
+    m_places = 0;
+    for (Count &count : m_counts)
+        count = {};
 }
 
 int MessageModel::count(Severity severity) const
 {
-    const auto headline = std::count_if(m_rows.begin(), m_rows.end(), [severity](const Row &row) {
-        return row.severity == severity && row.isHeadline;
-    });
-    const auto others = std::count_if(m_rows.begin(), m_rows.end(), [severity](const Row &row) {
-        return row.severity == severity && !row.isHeadline;
-    });
-    return int(others > 0 ? others : headline);
+    const Count &counted = m_counts[severity];
+    return counted.others > 0 ? counted.others : counted.headlines;
 }
 
 bool MessageModel::hasPlaces() const
 {
-    return std::any_of(m_rows.begin(), m_rows.end(), [](const Row &row) { return row.line > 0; });
+    return m_places > 0;
 }
 
 QString MessageModel::nameOf(Severity severity)

@@ -24,6 +24,7 @@ public:
     // Puts a message that is of no run of synthesis at the end; line 0: none.
     void append(Severity severity, const QString &text, const QString &file = QString(),
                 int line = 0);
+    void append(Severity severity, const QStringList &texts);
     void clear();
     // The headline of a run that failed is an error of its own only if nothing explains it.
     int count(Severity severity) const;
@@ -48,7 +49,16 @@ private:
     };
     static QString nameOf(Severity severity);
 
+    struct Count {
+        int headlines = 0;
+        int others = 0;
+    };
+    void add(const Row &row);
+    void forget();
+
     QList<Row> m_rows;
+    Count m_counts[Note + 1]; // by severity
+    int m_places = 0;
 };
 
 } // namespace Workbench

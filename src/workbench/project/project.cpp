@@ -7,10 +7,12 @@
 #include <utils/fileutils.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace Workbench
 {
@@ -35,18 +37,33 @@ int indexOf(const QStringList &entries, const QString &entry)
     return -1;
 }
 
-void collectIpFiles(const QDir &folder, int depth, QStringList *found)
+// Looks once at each folder, and not beyond `limit` files: there may be thousands.
+void collectIpFiles(const QString &folder, int depth, int limit, QStringList *found)
 {
-    const QStringList files =
-        folder.entryList({QStringLiteral("*.ipc")}, QDir::Files, QDir::Name | QDir::LocaleAware);
-    for (const QString &name : files)
-        found->append(folder.filePath(name));
-    if (depth == 0)
-        return;
-    const QStringList folders =
-        folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
-    for (const QString &name : folders)
-        collectIpFiles(QDir(folder.filePath(name)), depth - 1, found);
+    QStringList files;
+    QStringList folders;
+    QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        const QFileInfo info = entries.fileInfo();
+        if (!info.isDir()) {
+            if (info.fileName().endsWith(QLatin1String(".ipc"), Qt::CaseInsensitive))
+                files.append(info.fileName());
+        } else if (depth > 0 && !info.isSymLink()) {
+            folders.append(info.fileName());
+        }
+    }
+    std::sort(files.begin(), files.end(), [](const QString &left, const QString &right) {
+        return QString::localeAwareCompare(left, right) < 0;
+    });
+    std::sort(folders.begin(), folders.end());
+    const QString inside = folder.endsWith(u'/') ? folder : QString(folder + u'/');
+    for (const QString &name : qAsConst(files))
+        found->append(inside + name);
+    for (const QString &name : qAsConst(folders)) {
+        if (found->size() < limit)
+            collectIpFiles(inside + name, depth - 1, limit, found);
+    }
 }
 
 } // namespace
@@ -211,8 +228,13 @@ void Project::moveFile(const QString &path, int steps)
 
 QStringList Project::ipFiles() const
 {
+    return someIpFiles(std::numeric_limits<int>::max());
+}
+
+QStringList Project::someIpFiles(int limit) const
+{
     QStringList found;
-    collectIpFiles(QDir(path()), ipSearchDepth, &found);
+    collectIpFiles(path(), ipSearchDepth, limit, &found);
     QSet<QString> known(found.begin(), found.end());
     const QStringList listed = files();
     for (const QString &file : listed) {
@@ -294,7 +316,7 @@ void Project::watch()
         QDir(path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks).mid(0, 100);
     for (const QString &folder : folders)
         wanted.append(QDir(path()).filePath(folder));
-    const QStringList ips = ipFiles().mid(0, 100);
+    const QStringList ips = someIpFiles(100).mid(0, 100);
     for (const QString &ip : ips) {
         const QString folder = QFileInfo(ip).path();
         if (!wanted.contains(folder) && QFileInfo::exists(folder))

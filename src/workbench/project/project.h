@@ -76,6 +76,8 @@ private:
     void change(const Operation &operation);
     Utils::Result<void> writePending();
     void show(const ProjectFile &content);
+    // The first ones; more than the limit only if they share a folder.
+    QStringList someIpFiles(int limit) const;
     void watch();
     void onFileChanged();
     QString relative(const QString &path) const;

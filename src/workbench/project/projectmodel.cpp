@@ -5,6 +5,7 @@
 #include "widgets/colours.h"
 #include "widgets/symbolicon.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
@@ -82,8 +83,9 @@ void ProjectModel::setState(const QString &ipcFile, const IpState &state)
 QStringList ProjectModel::remarks(const Entry &file) const
 {
     QStringList lines;
-    if (!file.explanation.isEmpty())
-        lines.append(file.explanation);
+    const QString explanation = headOf(file).explanation;
+    if (!explanation.isEmpty())
+        lines.append(explanation);
     const IpState state = m_states.value(file.path);
     if (file.missing || !state.isBehind())
         return lines;
@@ -97,7 +99,7 @@ QStringList ProjectModel::remarks(const Entry &file) const
 QList<ProjectModel::Entry> ProjectModel::read(Group group) const
 {
     const QStringList paths = group == Ips ? m_project->ipFiles() : m_project->files();
-    const DEV::DeviceArg device = m_project->device();
+    const QString deviceId = m_project->device().id();
     const QDir folder(m_project->path());
     const QString inside = m_project->path() + u'/';
     QList<Entry> entries;
@@ -107,13 +109,15 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
         file.path = path;
         file.text = QDir::toNativeSeparators(
             path.startsWith(inside) ? path.mid(inside.size()) : folder.relativeFilePath(path));
-        file.missing = !QFileInfo::exists(path);
-        if (group == Ips && !file.missing) {
-            const IpcHead head = IpcHead::read(path);
-            file.type = head.type;
-            file.difference = head.difference(device);
-            file.explanation = head.differenceSentence(device);
-        }
+        const QFileInfo info(path);
+        file.missing = !info.exists();
+        if (group == Ips && !file.missing)
+            file.state = QStringLiteral("%1 %2 ").arg(
+                             QString::number(info.size()),
+                             QString::number(info.lastModified().toMSecsSinceEpoch())) +
+                         deviceId;
+        else
+            file.isRead = true;
         entries.append(file);
     }
     return entries;
@@ -122,6 +126,17 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
 QString ProjectModel::projectFile() const
 {
     return m_project ? m_project->file() : QString();
+}
+
+const ProjectModel::Head &ProjectModel::headOf(const Entry &entry) const
+{
+    if (!entry.isRead && m_project) {
+        const IpcHead head = IpcHead::read(entry.path);
+        const DEV::DeviceArg device = m_project->device();
+        entry.head = {head.type, head.difference(device), head.differenceSentence(device)};
+        entry.isRead = true;
+    }
+    return entry.head;
 }
 
 QModelIndex ProjectModel::groupIndex(Group group) const
@@ -213,8 +228,9 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         if (file->missing)
             return tr("%1 (missing)").arg(file->text);
-        return file->difference.isEmpty() ? file->text
-                                          : tr("%1 (%2)").arg(file->text, file->difference);
+        return headOf(*file).difference.isEmpty()
+                   ? file->text
+                   : tr("%1 (%2)").arg(file->text, headOf(*file).difference);
     case Qt::AccessibleTextRole:
         if (remarks(*file).isEmpty())
             return data(index, Qt::DisplayRole);
@@ -224,17 +240,19 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
         const QString path = QDir::toNativeSeparators(file->path);
         if (file->missing)
             return tr("%1 does not exist").arg(path);
-        if (file->difference.isEmpty())
+        if (headOf(*file).difference.isEmpty())
             return QStringList(QStringList(path) + remarks(*file)).join(u'\n');
         return tr("%1\n%2\nProject > Move to Device… moves it.")
             .arg(path, remarks(*file).join(u'\n'));
     }
     case Qt::DecorationRole:
-        if (!file->missing && file->difference.isEmpty() && m_states.value(file->path).isBehind())
+        if (!file->missing && headOf(*file).difference.isEmpty() &&
+            m_states.value(file->path).isBehind())
             return symbolIcon(QStringLiteral("ip-file-stale"));
-        return symbolIcon(file->missing || !file->difference.isEmpty() ? QStringLiteral("warning")
-                          : index.internalId() == Ips                  ? QStringLiteral("ip-file")
-                                                                       : QStringLiteral("file"));
+        return symbolIcon(file->missing || !headOf(*file).difference.isEmpty()
+                              ? QStringLiteral("warning")
+                          : index.internalId() == Ips ? QStringLiteral("ip-file")
+                                                      : QStringLiteral("file"));
     case Qt::ForegroundRole:
         if (file->missing)
             return Colours::quietOnBase(QGuiApplication::palette());
@@ -246,9 +264,9 @@ QVariant ProjectModel::data(const QModelIndex &index, int role) const
     case BehindRole:
         return !file->missing && m_states.value(file->path).isBehind();
     case TypeRole:
-        return file->type;
+        return headOf(*file).type;
     case OtherDeviceRole:
-        return !file->difference.isEmpty();
+        return !headOf(*file).difference.isEmpty();
     default:
         return {};
     }

@@ -47,17 +47,23 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
 private:
+    // What the file of an IP says.
+    struct Head {
+        QString type;
+        QString difference; // of its device
+        QString explanation;
+    };
     struct Entry {
         QString path;
         QString text; // relative to the project's folder
         bool missing = false;
-        QString type;       // of an IP
-        QString difference; // of an IP's device
-        QString explanation;
+        QString state;               // of an IP: what its head depends on
+        mutable bool isRead = false; // the head: when it is asked for, since there may be many
+        mutable Head head;
         bool operator==(const Entry &other) const
         {
             return path == other.path && text == other.text && missing == other.missing &&
-                   type == other.type && difference == other.difference;
+                   state == other.state;
         }
     };
 
@@ -65,6 +71,7 @@ private:
     // What there is to be told of an IP, a line each; empty: nothing.
     QStringList remarks(const Entry &file) const;
     const Entry *entry(const QModelIndex &index) const;
+    const Head &headOf(const Entry &entry) const;
 
     QPointer<Project> m_project;
     QList<Entry> m_entries[GroupCount];

@@ -27,6 +27,7 @@ ProjectPane::ProjectPane(QWidget *parent)
     // Scrolls to what is wider, such as an IP's device and the project's.
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_tree->header()->setResizeContentsPrecision(100); // rows: each IP's file has to be read
     m_tree->setUniformRowHeights(true);
     m_tree->setFrameShape(QFrame::NoFrame);
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);

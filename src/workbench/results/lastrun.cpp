@@ -4,8 +4,18 @@
 #include "project/project.h"
 #include "resultpage.h"
 
+#include <QFileInfo>
+
 namespace Workbench
 {
+
+namespace
+{
+
+// In bytes: a few hundredths of a second.
+constexpr qint64 readAtOnce = 8 << 20;
+
+} // namespace
 
 LastRun::LastRun(MessageModel &messages, QWidget *window)
     : QObject(window)
@@ -27,6 +37,7 @@ void LastRun::setProject(Project *project)
     if (m_page)
         m_page->deleteLater(); // its button may be what closes the project
     m_page = nullptr;
+    m_comparison.drop();
     m_report.reset();
     m_earlier = {};
     m_project = project;
@@ -62,11 +73,22 @@ bool LastRun::prepare(QString *error)
     if (!m_store.load(m_project ? m_project->file() : QString(), &run, error))
         return false;
     m_messages.setReport(run.report);
-    const QStringList changed = run.changedFiles();
     page()->setReport(run.report, run.before);
+    if (run.size() <= readAtOnce) {
+        showAsKept(run, run.changedFiles());
+        return true;
+    }
+    page()->setDelivered(run.delivered, sources());
+    page()->setMaps({});
+    m_comparison.start([run] { return run.changedFiles(); },
+                       [this, run](const QStringList &changed) { showAsKept(run, changed); });
+    return true;
+}
+
+void LastRun::showAsKept(const KeptRun &run, const QStringList &changed)
+{
     showDelivered(run.delivered, changed);
     page()->showAge(run.when, changed);
-    return true;
 }
 
 void LastRun::showDelivered(const QStringList &files, const QStringList &changed)
@@ -92,6 +114,7 @@ void LastRun::setReport(const Synthesis::RunReport &report)
     if (m_project && m_store.has(m_project->file()) &&
         m_store.load(m_project->file(), &earlier, nullptr))
         m_earlier = earlier;
+    m_comparison.drop();
     page()->setReport(report, m_earlier.figures.value(RunStore::ipOf(report)));
     page()->setMaps({});
     m_report = std::make_unique<Synthesis::RunReport>(report);
@@ -113,16 +136,34 @@ void LastRun::keep(const QStringList &delivered)
 {
     if (!m_report || !m_project)
         return;
-    KeptRun run = KeptRun::of(*m_report, delivered);
     const QString ip = RunStore::ipOf(*m_report);
-    run.figures = m_earlier.figures;
-    run.before = run.figures.value(ip);
+    KeptRun told;
+    told.figures = m_earlier.figures;
+    told.before = told.figures.value(ip);
     for (const Synthesis::ResourceUse &use : m_report->resources)
-        run.figures[ip].insert(use.resource, use.used);
-    QString error;
-    if (!m_store.keep(m_project->file(), run, &error))
-        m_messages.append(MessageModel::Warning,
-                          tr("The results cannot be shown after a restart. %1").arg(error));
+        told.figures[ip].insert(use.resource, use.used);
+    const auto keep = [store = m_store, project = m_project->file(), report = *m_report, delivered,
+                       told] {
+        KeptRun run = KeptRun::of(report, delivered);
+        run.figures = told.figures;
+        run.before = told.before;
+        QString error;
+        return store.keep(project, run, &error) ? QString() : error;
+    };
+    const auto tell = [this](const QString &error) {
+        if (!error.isEmpty())
+            m_messages.append(MessageModel::Warning,
+                              tr("The results cannot be shown after a restart. %1").arg(error));
+    };
+    qint64 size = 0;
+    for (const QStringList &files : {delivered, m_report->files}) {
+        for (const QString &file : files)
+            size += QFileInfo(file).size();
+    }
+    if (size <= readAtOnce)
+        tell(keep());
+    else
+        m_keeping.start(keep, tell);
 }
 
 } // namespace Workbench

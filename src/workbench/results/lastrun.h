@@ -2,6 +2,7 @@
 
 #include "mappicture.h"
 #include "runstore.h"
+#include "widgets/background.h"
 
 #include <utils/result.h>
 
@@ -61,6 +62,9 @@ private:
     // `changed`: files that are no longer as the run left them.
     void showDelivered(const QStringList &files, const QStringList &changed = {});
 
+    // The same, and how old it is.
+    void showAsKept(const KeptRun &run, const QStringList &changed);
+
     MessageModel &m_messages;
     QWidget *m_window;
     QPointer<Project> m_project;
@@ -71,6 +75,8 @@ private:
     std::unique_ptr<Synthesis::RunReport> m_report; // since the start
     bool m_isKept = false;                          // from before the start
     bool m_isNew = false;
+    Background m_comparison; // of a kept run with the disk
+    Background m_keeping;
 };
 
 } // namespace Workbench

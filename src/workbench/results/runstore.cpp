@@ -65,6 +65,14 @@ KeptRun KeptRun::of(const Synthesis::RunReport &report, const QStringList &deliv
     return run;
 }
 
+qint64 KeptRun::size() const
+{
+    qint64 sum = 0;
+    for (auto it = digests.begin(); it != digests.end(); ++it)
+        sum += QFileInfo(it.key()).size();
+    return sum;
+}
+
 QStringList KeptRun::changedFiles() const
 {
     QStringList changed;

@@ -22,6 +22,8 @@ struct KeptRun {
     // The same of the last run of each IP, by RunStore::ipOf().
     QMap<QString, QMap<QString, int>> figures;
 
+    // Of its files together, in bytes.
+    qint64 size() const;
     static KeptRun of(const Synthesis::RunReport &report, const QStringList &delivered);
     // Those of its files that are gone or hold something else now.
     QStringList changedFiles() const;

@@ -43,30 +43,37 @@ int LinkButton::iconSide() const
     return fontMetrics().height() * 5 / 4;
 }
 
-QRect LinkButton::titleRect(int width) const
+LinkButton::Places LinkButton::places(int width) const
 {
+    if (m_placesTitle != text() || m_placesDescription != description())
+        m_places.clear();
+    m_placesTitle = text();
+    m_placesDescription = description();
+    const auto known = m_places.constFind(width);
+    if (known != m_places.constEnd())
+        return *known;
     const int left = 2 * gap() + iconSide();
     const QRect room(left, gap(), qMax(1, width - left - gap()), 0x4000);
-    QRect result = QFontMetrics(titleFont()).boundingRect(room, textFlags, title());
-    result.setWidth(room.width()); // so that it breaks in the same places when it is drawn
-    return result;
-}
-
-QRect LinkButton::descriptionRect(int width) const
-{
-    const QRect above = titleRect(width);
-    const int left = 2 * gap() + iconSide();
-    const QRect room(left, above.bottom() + 1 + gap() / 3, qMax(1, width - left - gap()), 0x4000);
-    if (description().isEmpty())
-        return {room.left(), above.bottom() + 1, 0, 0};
-    QRect result = fontMetrics().boundingRect(room, textFlags, description());
-    result.setWidth(room.width());
+    Places result;
+    result.title = QFontMetrics(titleFont()).boundingRect(room, textFlags, title());
+    result.title.setWidth(room.width()); // so that it breaks in the same places when it is drawn
+    const int below = result.title.bottom() + 1;
+    if (description().isEmpty()) {
+        result.description = {left, below, 0, 0};
+    } else {
+        result.description = fontMetrics().boundingRect(
+            room.translated(0, below + gap() / 3 - gap()), textFlags, description());
+        result.description.setWidth(room.width());
+    }
+    if (m_places.size() > 16) // a window that is being resized
+        m_places.clear();
+    m_places.insert(width, result);
     return result;
 }
 
 int LinkButton::heightForWidth(int width) const
 {
-    const int text = descriptionRect(width).bottom() + 1 + gap();
+    const int text = places(width).description.bottom() + 1 + gap();
     return qMax(text, iconSide() + 2 * gap());
 }
 
@@ -88,6 +95,7 @@ void LinkButton::changeEvent(QEvent *event)
 {
     QCommandLinkButton::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_places.clear();
         setIconSize({iconSide(), iconSide()});
         updateGeometry();
     }
@@ -106,11 +114,12 @@ void LinkButton::paintEvent(QPaintEvent * /*event*/)
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     icon().paint(&painter, QRect(gap(), gap(), iconSide(), iconSide()), Qt::AlignCenter, mode);
     painter.setFont(titleFont());
-    painter.drawItemText(titleRect(width()), textFlags, option.palette, isEnabled(), title(),
+    const Places at = places(width());
+    painter.drawItemText(at.title, textFlags, option.palette, isEnabled(), title(),
                          QPalette::ButtonText);
     painter.setFont(font());
-    painter.drawItemText(descriptionRect(width()), textFlags, option.palette, isEnabled(),
-                         description(), QPalette::ButtonText);
+    painter.drawItemText(at.description, textFlags, option.palette, isEnabled(), description(),
+                         QPalette::ButtonText);
 }
 
 } // namespace Workbench

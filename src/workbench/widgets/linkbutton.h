@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCommandLinkButton>
+#include <QHash>
 
 namespace Workbench
 {
@@ -30,9 +31,17 @@ private:
     QString title() const;
     int iconSide() const;
     int gap() const { return fontMetrics().height() / 2; }
-    // Of the texts, for a button of this width.
-    QRect titleRect(int width) const;
-    QRect descriptionRect(int width) const;
+    // Where the texts stand, in a button of this width.
+    struct Places {
+        QRect title;
+        QRect description;
+    };
+    Places places(int width) const;
+
+    // By width, since a layout asks for the same few again and again; of these texts.
+    mutable QHash<int, Places> m_places;
+    mutable QString m_placesTitle;
+    mutable QString m_placesDescription;
 };
 
 } // namespace Workbench

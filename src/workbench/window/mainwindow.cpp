@@ -770,8 +770,7 @@ void MainWindow::onRunFinished(const Synthesis::RunReport &report)
 
 void MainWindow::onNoticed(const QStringList &notices)
 {
-    for (const QString &notice : notices)
-        m_messages->append(MessageModel::Warning, notice);
+    m_messages->append(MessageModel::Warning, notices);
     m_outputDock->show();
     output()->showMessages();
 }

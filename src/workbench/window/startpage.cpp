@@ -23,6 +23,8 @@ namespace
 constexpr int keptShown = 3;
 // More are in the catalogue.
 constexpr int subsystemsShown = 4;
+// More are in the project's tree.
+constexpr int ipsShown = 12;
 
 QLabel *makeLabel(const QString &text, qreal scale, bool bold)
 {
@@ -193,8 +195,9 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
     const QDir folder(project.path());
     if (!ips.isEmpty())
         page->addWidget(makeLabel(tr("Change an IP of this project"), 1.2, true));
-    for (const QString &path : ips) {
-        const QString difference = IpcHead::read(path).differenceSentence(device);
+    for (const QString &path : ips.mid(0, ipsShown)) {
+        const IpcHead head = IpcHead::read(path);
+        const QString difference = head.differenceSentence(device);
         auto *link = makeLink(
             QDir::toNativeSeparators(folder.relativeFilePath(path)),
             difference.isEmpty() ? tr("Opens its dialog again; OK there generates it anew.")
@@ -204,7 +207,7 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
         connect(link, &QPushButton::clicked, this,
                 [this, path] { Q_EMIT openFileRequested(path); });
         page->addWidget(link);
-        const int ip = catalogue.indexOf(IpcHead::read(path).type);
+        const int ip = catalogue.indexOf(head.type);
         if (ip < 0 || !catalogue.canSimulate(ip))
             continue;
         auto *simulate =
@@ -214,6 +217,13 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
         connect(simulate, &QPushButton::clicked, this,
                 [this, path] { Q_EMIT simulationRequested(path); });
         page->addWidget(simulate);
+    }
+    if (ips.size() > ipsShown) {
+        auto *more =
+            makeLabel(tr("%n more are in the tree of the project.", nullptr, ips.size() - ipsShown),
+                      1, false);
+        more->setObjectName(QStringLiteral("moreIpsLabel"));
+        page->addWidget(more);
     }
     if (!ips.isEmpty())
         page->addSpacing(fontMetrics().height());

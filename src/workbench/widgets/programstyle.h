@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace Workbench
+{
+
+// The style of the desktop, with pictures of our own for what the window shows from the beginning:
+// the style's are read from files, for which the library loads every reader of pictures that there
+// is, and they have no colour for a dark palette.
+class ProgramStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
+};
+
+} // namespace Workbench
