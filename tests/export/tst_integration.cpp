@@ -1,6 +1,8 @@
 // The formats that hand the subsystem on to tools for hardware: what holds of them for any
 // configuration, and that a copy of the folder is all that those tools need.
 
+#include "commandline.h"
+
 #include <drawnoptions.h>
 #include <testsupport.h>
 
@@ -13,12 +15,13 @@
 #include <generate/plan.h>
 #include <system/systemmap.h>
 
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using namespace TARVOORIXM1;
+using Exported::run;
+using Exported::Run;
 
 namespace
 {
@@ -63,30 +66,6 @@ QString rangeOf(const Port &port, const char *form)
 
 // A folder with the first contents of a memory that no text may name.
 const char *const nowhere = "/nowhere/on/this/machine";
-
-struct Run {
-    int status = -1;
-    QString said;
-};
-
-Run run(const QString &folder, const QString &line)
-{
-    QProcess shell;
-    shell.setWorkingDirectory(folder);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("PATH"),
-                       QFileInfo(QStringLiteral(TARVO_COMMAND)).absolutePath() + u':' +
-                           environment.value(QStringLiteral("PATH")));
-    for (const char *variable : {"MAKEFLAGS", "MFLAGS", "MAKELEVEL"})
-        environment.remove(QString::fromLatin1(variable));
-    shell.setProcessEnvironment(environment);
-    shell.setProcessChannelMode(QProcess::MergedChannels);
-    shell.setStandardInputFile(QProcess::nullDevice());
-    shell.start(QStringLiteral("bash"), {QStringLiteral("-euc"), line});
-    if (!shell.waitForFinished(240000) || shell.exitStatus() != QProcess::NormalExit)
-        return {-1, QString::fromUtf8(shell.readAll())};
-    return {shell.exitCode(), QString::fromUtf8(shell.readAll())};
-}
 
 } // namespace
 

@@ -1,6 +1,8 @@
 // Names under a prefix: what is renamed and what is not, and that several subsystems stand in one
 // design, one program and one folder.
 
+#include "commandline.h"
+
 #include <drawnoptions.h>
 #include <testsupport.h>
 
@@ -15,7 +17,6 @@
 #include <rules/check.h>
 #include <system/systemmap.h>
 
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -24,33 +25,11 @@
 #include <optional>
 
 using namespace TARVOORIXM1;
+using Exported::run;
+using Exported::Run;
 
 namespace
 {
-
-struct Run {
-    int status = -1;
-    QString said;
-};
-
-Run run(const QString &folder, const QString &line)
-{
-    QProcess shell;
-    shell.setWorkingDirectory(folder);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("PATH"),
-                       QFileInfo(QStringLiteral(TARVO_COMMAND)).absolutePath() + u':' +
-                           environment.value(QStringLiteral("PATH")));
-    for (const char *variable : {"MAKEFLAGS", "MFLAGS", "MAKELEVEL"})
-        environment.remove(QString::fromLatin1(variable));
-    shell.setProcessEnvironment(environment);
-    shell.setProcessChannelMode(QProcess::MergedChannels);
-    shell.setStandardInputFile(QProcess::nullDevice());
-    shell.start(QStringLiteral("bash"), {QStringLiteral("-euc"), line});
-    if (!shell.waitForFinished(240000) || shell.exitStatus() != QProcess::NormalExit)
-        return {-1, QString::fromUtf8(shell.readAll())};
-    return {shell.exitCode(), QString::fromUtf8(shell.readAll())};
-}
 
 // Three configurations that differ in what they have, each with its prefix.
 struct Member {
@@ -100,6 +79,7 @@ private Q_SLOTS:
     void oneProgramHasTheHeadersOfThree();
     void threeModelsStandInOneVhdlLibrary();
     void aGenerationLeavesASetBesideItsOwn();
+    void threeConfigurationsPlayInOneVhdlLibrary();
 
 private:
     // A folder with the exports of all members.
@@ -624,17 +604,32 @@ void tst_Prefix::aGenerationLeavesASetBesideItsOwn()
                                             QLatin1String("--check || echo $?"));
     QVERIFY2(missing.said.contains(QLatin1String("a_tarvo_orix_m1.vho: missing\n1\n")),
              qPrintable(missing.said));
-    // The benches of both play on the models, in one library.
-    const Run played = run(
-        dir.path(),
-        generate + QLatin1String("; for p in a_ b_; do orixm1 export ip/*.ipc testbench blackbox "
-                                 "--out out --prefix $p; done > log; cd out; "
-                                 "ghdl -a a_tarvo_orix_m1.vho b_tarvo_orix_m1.vho "
-                                 "sim/{a_,b_}cortex_m1_core_bfm.vhd {a_,b_}tarvo_orix_m1_pkg.vhd "
-                                 "sim/{a_,b_}tarvo_orix_m1_tb.vhd; "
-                                 "for p in a_ b_; do ghdl -r ${p}tarvo_orix_m1_tb; done"));
-    QVERIFY2(played.status == 0 && played.said.endsWith(QLatin1String("PASS\nPASS\n")),
-             qPrintable(played.said));
+}
+
+void tst_Prefix::threeConfigurationsPlayInOneVhdlLibrary()
+{
+    const QTemporaryDir dir;
+    QString line;
+    for (const Member &one : members) {
+        // The scripts are read where the simulation runs.
+        line += QStringLiteral("orixm1 new --device %1 --language vhdl %2 --out %3ip\n"
+                               "orixm1 generate %3ip/*.ipc --out %3 --prefix %3 > log 2>&1\n"
+                               "orixm1 export %3ip/*.ipc testbench blackbox --out . --prefix %3\n")
+                    .arg(QLatin1String(one.device), QLatin1String(one.settings),
+                         QLatin1String(one.prefix));
+    }
+    const Run made = run(dir.path(), line);
+    QVERIFY2(made.status == 0, qPrintable(made.said));
+    const Run analysed =
+        run(dir.path(), QStringLiteral("ghdl -a */*_tarvo_orix_m1.vho sim/*_bfm.vhd *_pkg.vhd "
+                                       "sim/*_tb.vhd"));
+    QVERIFY2(analysed.status == 0 && analysed.said.isEmpty(), qPrintable(analysed.said));
+    for (const Member &one : members) {
+        const Run played =
+            run(dir.path(), QStringLiteral("ghdl -r %1tarvo_orix_m1_tb").arg(quoted(one.prefix)));
+        QVERIFY2(played.status == 0 && played.said == QLatin1String("PASS\n"),
+                 qPrintable(quoted(one.prefix) + played.said));
+    }
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Prefix)
