@@ -1,9 +1,10 @@
-// Runs the synthesis of "orixm1 generate" on one module with its default parameters, and prints
-// what it takes of a device: "LUT4 …, flip-flops …, distributed RAM …, block RAM …, carry …, depth
-// …" (numbers only, in this order, separated by blanks).
+// Runs the synthesis of "orixm1 generate" on one module, and prints what it takes of a device:
+// "LUT4 …, flip-flops …, distributed RAM …, block RAM …, carry …, depth …" (numbers only, in this
+// order, separated by blanks).
 //
-//   synthesizemodule MODULE OUTPUT-FOLDER SOURCE…
+//   synthesizemodule MODULE OUTPUT-FOLDER [NAME=VALUE…] SOURCE…
 //
+// The first source is that of the module; its parameters have their default values, or VALUE.
 // Leaves the netlists as OUTPUT-FOLDER/MODULE.vg and .vhg. LUT4 counts the tables alone;
 // distributed RAM are the memories of 16 words of 4 bits in tables' cells (four each). The depth is
 // the number of tables, reads of distributed RAM included, on the longest way between flip-flops,
@@ -19,6 +20,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -67,6 +69,31 @@ int weight(const QString &type)
 bool isThrough(const QString &type, const QString &port)
 {
     return type != QLatin1String("TV_RAMD") || port == QLatin1String("RADDR");
+}
+
+// A copy of the source in which a parameter has another default value.
+QString withParameters(const QString &source, const QStringList &assignments, const QString &folder)
+{
+    QFile file(source);
+    if (!file.open(QIODevice::ReadOnly))
+        fail(file.errorString());
+    QString text = QString::fromUtf8(file.readAll());
+    const int from = text.indexOf(QLatin1String("\nmodule ")) + 1;
+    const int to = text.indexOf(QLatin1String(") ("), from);
+    QString declarations = text.mid(from, to - from);
+    for (const QString &assignment : assignments) {
+        const QString name = assignment.section(u'=', 0, 0);
+        const QRegularExpression declaration(QStringLiteral("(\\b%1\\s*=\\s*)[^,\\s]+").arg(name));
+        if (declarations.count(declaration) != 1)
+            fail(source + QStringLiteral(" has no parameter ") + name);
+        declarations.replace(declaration, QStringLiteral("\\1") + assignment.section(u'=', 1));
+    }
+    text.replace(from, to - from, declarations);
+    const QString path = QDir(folder).filePath(QFileInfo(source).fileName());
+    QFile copy(path);
+    if (!copy.open(QIODevice::WriteOnly) || copy.write(text.toUtf8()) < 0)
+        fail(copy.errorString());
+    return path;
 }
 
 class Depth
@@ -170,14 +197,21 @@ int main(int argc, char *argv[])
     const QCoreApplication app(argc, argv);
     const QStringList arguments = app.arguments();
     if (arguments.size() < 4)
-        fail(QStringLiteral("synthesizemodule MODULE OUTPUT-FOLDER SOURCE..."));
+        fail(QStringLiteral("synthesizemodule MODULE OUTPUT-FOLDER [NAME=VALUE...] SOURCE..."));
     const QString top = arguments.at(1);
     const QString folder = QFileInfo(arguments.at(2)).absoluteFilePath();
     if (!QDir().mkpath(folder))
         fail(folder + QStringLiteral(" cannot be made"));
-    QStringList sources;
-    for (const QString &source : arguments.mid(3))
-        sources << QFileInfo(source).absoluteFilePath();
+    QStringList sources, assignments;
+    for (const QString &argument : arguments.mid(3)) {
+        if (argument.contains(u'='))
+            assignments << argument;
+        else
+            sources << QFileInfo(argument).absoluteFilePath();
+    }
+    const QTemporaryDir copies;
+    if (!assignments.isEmpty() && !sources.isEmpty())
+        sources[0] = withParameters(sources[0], assignments, copies.path());
 
     const Synthesis::RunReport report = synthesized(top, folder, sources);
     const auto used = [&report](const char *resource) {

@@ -2,10 +2,10 @@
 // Registers: registers/gpio.json.
 // The interrupt is the OR of INTPEND & INTEN.
 //   FILTER  1: pins have a filter, which costs no time where it is switched off; 0: they have none
+//   FULL    sum of what is there: 1 interrupts at both edges (INTBOTH), 2 OUTTGL and OUTMASK; ID has ones for the others in bits 30, 31
 `include "static_macro_define.vh"
-
 module ahb_gpio #(
-    parameter FILTER = 1
+    parameter FILTER = 1, FULL = 3
 ) (
     input  wire        HCLK,
     input  wire        HRESETn,
@@ -19,13 +19,13 @@ module ahb_gpio #(
     output wire [31:0] HRDATA,
     output wire        HREADYOUT,
     output wire        HRESP,
-
     input  wire [15:0] gpio_in,
     output reg  [15:0] gpio_out,
     output reg  [15:0] gpio_outen,
     output wire        irq
 );
-    localparam [31:0] ID = 32'h00100201 + (FILTER << 24);
+    localparam [1:0] HAS = FULL;
+    localparam [31:0] ID = {~HAS, 30'h00100201} + (FILTER << 24);
 
     reg       active;
     reg       write;
@@ -91,9 +91,9 @@ module ahb_gpio #(
                     4'd5: for (n = 0; n < 2; n = n + 1) if (lanes[n]) inten[8*n +: 8] <= w[8*n +: 8];
                     4'd6: for (n = 0; n < 2; n = n + 1) if (lanes[n]) intedge[8*n +: 8] <= w[8*n +: 8];
                     4'd7: for (n = 0; n < 2; n = n + 1) if (lanes[n]) intpol[8*n +: 8] <= w[8*n +: 8];
-                    4'd9: gpio_out   <= gpio_out ^ w;
-                    4'd10: for (n = 0; n < 2; n = n + 1) if (lanes[n]) intboth[8*n +: 8] <= w[8*n +: 8];
-                    4'd13: if (&lanes) gpio_out <= (gpio_out & ~HWDATA[31:16]) | (HWDATA[15:0] & HWDATA[31:16]);
+                    4'd9: gpio_out   <= HAS[1] ? gpio_out ^ w : gpio_out;
+                    4'd10: for (n = 0; n < 2; n = n + 1) if (lanes[n]) intboth[8*n +: 8] <= HAS[0] ? w[8*n +: 8] : 8'd0;
+                    4'd13: if (&lanes) gpio_out <= HAS[1] ? (gpio_out & ~HWDATA[31:16]) | (HWDATA[15:0] & HWDATA[31:16]) : gpio_out;
                     default: ;
                 endcase
         end

@@ -8,13 +8,13 @@
 // A transfer that has waited for `timeout` cycles (0: no limit) and is not ready in the next one either gets the two-cycle
 // error response.  `late` is high in that next cycle.  The slave is abandoned then, unless it is a bridge: it is not
 // selected any more, and accesses to it get the error response at once, until its HREADYOUT is 1 again.  The same becomes
-// of a slave that begins an error response and does not end it in the second cycle.
-//
+// of a slave that begins an error response and does not end it in the second cycle.  That all is FULL = 1; with 0 a slave
+// may wait for ever, and ends its error responses by itself.
 // In simulation a ready or error signal that is unknown or floats counts as 0, so that the bus goes on.
 `include "static_macro_define.vh"
 
 module ahb_interconnect #(
-    parameter [15:0] ENABLE  = 16'hFFFF,
+    parameter FULL = 1, parameter [15:0] ENABLE  = 16'hFFFF,
     parameter [15:0] BRIDGES = 16'h0000
 ) (
     input  wire         HCLK,
@@ -101,7 +101,7 @@ module ahb_interconnect #(
 
     // The second cycle of an error response comes whatever the slave does.
     wire none = data_sel == 16'd0;
-    wire over = late & ~slave_ready & ~slave_error;
+    wire over = FULL == 0 ? 1'b0 : late & ~slave_ready & ~slave_error;
     reg  second;
     reg  timed_out;   // the reason of it
     assign HRDATA = rdata;
@@ -118,10 +118,10 @@ module ahb_interconnect #(
             second    <= 1'b0;
             timed_out <= 1'b0;
         end else begin
-            left      <= HREADY ? timeout : left - {17'd0, |left};
-            late      <= ~HREADY & (left == 18'd1);
-            second    <= ~none & ~HREADY & HRESP;
-            timed_out <= ~none & over;
+            left      <= FULL == 0 ? 18'd0 : HREADY ? timeout : left - {17'd0, |left};
+            late      <= FULL == 0 ? 1'b0 : ~HREADY & (left == 18'd1);
+            second    <= FULL == 0 ? 1'b0 : ~none & ~HREADY & HRESP;
+            timed_out <= FULL == 0 ? 1'b0 : ~none & over;
         end
 
     // A slave whose access ends without it gets none in that cycle already.
@@ -134,7 +134,7 @@ module ahb_interconnect #(
         else
             for (k = 0; k < 16; k = k + 1)
                 if (hreadyout_s[k])
-                    abandoned[k] <= 1'b0;
+                    abandoned[k] <= FULL != 0 ? 1'b0 : abandoned[k];
                 else if (left_behind[k] | (data_sel[k] & ~BRIDGES[k] & over))
-                    abandoned[k] <= 1'b1;
+                    abandoned[k] <= FULL != 0 ? 1'b1 : abandoned[k];
 endmodule

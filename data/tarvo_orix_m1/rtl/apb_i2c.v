@@ -3,9 +3,11 @@
 // A line is pulled low with its enable output at 1 and its value output at 0; it is released with the enable at 0.
 //   LOG_DEPTH  words of each FIFO = 2 ** LOG_DEPTH, up to 6; 0: the master has none, those of the target have two words
 //   TARGET     1: with the target
+//   FULL       sum of what is there: 1 time-out, 2 filter, 4 other masters (without them arbitration is lost in bytes that are
+//              sent only), 8 abort and recovery; ID has ones for the others in bits 28 to 31
 module apb_i2c #(
     parameter LOG_DEPTH = 4,
-    parameter TARGET    = 1
+    parameter TARGET    = 1, FULL = 15
 ) (
     input  wire        PCLK,
     input  wire        PRESETn,
@@ -18,7 +20,6 @@ module apb_i2c #(
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
-
     input  wire        scl_in,
     output wire        scl_out,
     output wire        scl_outen,
@@ -36,12 +37,11 @@ module apb_i2c #(
     localparam [3:0] HIGH2 = 4'd6;
     localparam [3:0] HOLD1 = 4'd7;   // behind the edge of SDA of a start or stop
     localparam [3:0] HOLD2 = 4'd8;
-
     localparam [1:0] START = 2'd0;   // what goes over the bus in LOW1 to HOLD2
     localparam [1:0] DATA  = 2'd1;   // one of eight data bits or the acknowledge bit
     localparam [1:0] STOP  = 2'd2;
 
-    localparam FIFO     = LOG_DEPTH > 0;
+    localparam [3:0] HAS = FULL; localparam [0:0] HAS_TIMEOUT = HAS[0], HAS_FILTER = HAS[1], HAS_OTHERS = HAS[2], HAS_WAY_OUT = HAS[3], FIFO = LOG_DEPTH > 0;
     localparam T_DEPTH  = FIFO ? LOG_DEPTH : 1;
     localparam [0:0] ID_TARGET = TARGET != 0;
 
@@ -68,13 +68,13 @@ module apb_i2c #(
                     if (PSTRB[0]) prescale[7:0]  <= PWDATA[7:0];
                     if (PSTRB[1]) prescale[15:8] <= PWDATA[15:8];
                 end
-                12'h004: if (PSTRB[0]) ctrl   <= PWDATA[2:0];
+                12'h004: if (PSTRB[0]) ctrl   <= {HAS_OTHERS ? PWDATA[2] : 1'b0, PWDATA[1:0]};
                 12'h008: if (PSTRB[0]) txdata <= PWDATA[7:0];
                 12'h018: begin
-                    if (PSTRB[0]) timeout[7:0]  <= PWDATA[7:0];
-                    if (PSTRB[1]) timeout[15:8] <= PWDATA[15:8];
+                    if (PSTRB[0]) timeout[7:0]  <= HAS_TIMEOUT ? PWDATA[7:0] : timeout[7:0];
+                    if (PSTRB[1]) timeout[15:8] <= HAS_TIMEOUT ? PWDATA[15:8] : timeout[15:8];
                 end
-                12'h01C: if (PSTRB[0]) filter <= PWDATA[3:0];
+                12'h01C: if (PSTRB[0]) filter <= HAS_FILTER ? PWDATA[3:0] : filter;
                 default: ;
             endcase
     wire enabled = ctrl[0];
@@ -86,8 +86,8 @@ module apb_i2c #(
     cdc_synchronizer #(.RESET(1'b1)) u_sync_sda (.clk(PCLK), .rstn(PRESETn), .d(sda_in), .q(sda_sync));
     reg       scl_was, sda_was;      // the levels of the cycle before
     reg [3:0] scl_for, sda_for;      // cycles for which the pin has had the other level
-    wire scl = scl_for == filter ? scl_sync : scl_was;
-    wire sda = sda_for == filter ? sda_sync : sda_was;
+    wire scl = !HAS_FILTER ? scl_sync : scl_for == filter ? scl_sync : scl_was;
+    wire sda = !HAS_FILTER ? sda_sync : sda_for == filter ? sda_sync : sda_was;
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             scl_was <= 1'b1;
@@ -97,8 +97,8 @@ module apb_i2c #(
         end else begin
             scl_was <= scl;
             sda_was <= sda;
-            scl_for <= (scl_sync == scl) ? 4'd0 : scl_for + 4'd1;
-            sda_for <= (sda_sync == sda) ? 4'd0 : sda_for + 4'd1;
+            scl_for <= !HAS_FILTER ? 4'd0 : (scl_sync == scl) ? 4'd0 : scl_for + 4'd1;
+            sda_for <= !HAS_FILTER ? 4'd0 : (sda_sync == sda) ? 4'd0 : sda_for + 4'd1;
         end
     wire start_seen = scl & scl_was & ~sda & sda_was;
     wire stop_seen  = scl & scl_was & sda & ~sda_was;
@@ -139,37 +139,37 @@ module apb_i2c #(
 
     wire busy    = (state != IDLE) | q_waits | again;
     wire command = store & (offset == 12'h010) & PSTRB[0];
-    wire abort   = command & PWDATA[6];
-    wire accept  = command & ~busy & enabled & ~PWDATA[6];
+    wire abort   = HAS_WAY_OUT ? command & PWDATA[6] : 1'b0;
+    wire accept  = HAS_WAY_OUT ? command & ~busy & enabled & ~PWDATA[6] : command & ~busy & enabled;
     wire halted  = arblost | stuck | expired | aborted | refused | nack_error;
 
     // The command that begins.
-    wire begins   = (state == IDLE) & (accept ? (|PWDATA[3:0] | PWDATA[5]) : (q_ready & ~again));
+    wire begins   = (state == IDLE) & (accept ? (HAS_WAY_OUT ? |PWDATA[3:0] | PWDATA[5] : |PWDATA[3:0]) : (q_ready & ~again));
     wire n_queue  = ~accept;
-    wire n_heal   = accept & PWDATA[5];
+    wire n_heal   = HAS_WAY_OUT ? accept & PWDATA[5] : 1'b0;
     wire n_start  = (accept ? PWDATA[0] : q_start) & ~n_heal;
     wire n_read   = (accept ? PWDATA[2] : q_read) | n_heal;
     wire n_byte   = n_read | ~accept | PWDATA[1];
     wire n_stop   = (accept ? PWDATA[3] : q_stop) | n_heal;
     wire n_nack   = accept ? PWDATA[4] | n_heal : q_nack;
-    wire n_refuse = ~open & (n_start ? taken & refuse : n_queue | (taken & n_byte & ~n_read));
+    wire n_refuse = !HAS_OTHERS ? ~open & ~n_start & n_queue : ~open & (n_start ? taken & refuse : n_queue | (taken & n_byte & ~n_read));
 
     reg        late;         // the time-out is over
     wire       tick    = count == 16'd0;
     wire       settled = settle == 5'd0;
     // Another master that ends the high time ends it for all.
     wire       is_high  = (state == HIGH1) | (state == HIGH2);
-    wire       cut      = is_high & ~scl;
+    wire       cut      = HAS_OTHERS ? is_high & ~scl : 1'b0;
     wire       end_high = cut | ((state == HIGH2) & tick);
     wire       level    = cut ? sda_was : sda;
     // Another master shows itself: it pulls SDA where this one has released it, or begins or ends a transfer within a bit.
-    wire       mine     = reading ? (bits == 4'd0) & from_device & open : bits != 4'd0;
-    wire       fought   = (kind == DATA) & ~recovering
+    wire       mine     = !HAS_OTHERS ? ~reading & (bits != 4'd0) : reading ? (bits == 4'd0) & from_device & open : bits != 4'd0;
+    wire       fought   = !HAS_OTHERS ? (kind == DATA) & mine & shift_out[8] & ~level & end_high : (kind == DATA) & ~recovering
                         & ((mine & shift_out[8] & ~level & (end_high | (state == HIGH2)))
                            | (is_high & open & (start_seen | stop_seen)));
-    wire       beaten   = ((kind == START) & (cut | ((state == RISE) & scl & ~sda))) | ((kind == STOP) & cut);
-    wire       unstopped = (state == HOLD2) & (kind == STOP) & tick & settled & ~stopped & ~stop_seen;
-    wire       blocked  = (state == WAIT) & quiet[6] & ~sda;
+    wire       beaten   = !HAS_OTHERS ? 1'b0 : ((kind == START) & (cut | ((state == RISE) & scl & ~sda))) | ((kind == STOP) & cut);
+    wire       unstopped = !HAS_OTHERS ? 1'b0 : (state == HOLD2) & (kind == STOP) & tick & settled & ~stopped & ~stop_seen;
+    wire       blocked  = !HAS_OTHERS ? 1'b0 : (state == WAIT) & quiet[6] & ~sda;
     wire       lost     = fought | beaten | unstopped | blocked;
     wire       byte_end = (kind == DATA) & end_high & (bits == 4'd0);
     wire       failed   = byte_end & ~reading & queued & level;
@@ -219,26 +219,26 @@ module apb_i2c #(
 
             count  <= tick ? prescale : count - 16'd1;
             if (!settled)
-                settle <= settle - 5'd1;
+                settle <= HAS_FILTER ? settle - 5'd1 : {3'd0, settle[1:0] - 2'd1};
             if (stop_seen)
-                stopped <= 1'b1;
+                stopped <= HAS_OTHERS ? 1'b1 : stopped;
 
             case (state)
                 IDLE, WAIT: begin
-                    if (!scl || scl != scl_was || sda != sda_was) begin
-                        quiet <= 7'd0;
+                    if (!HAS_OTHERS ? 1'b0 : !scl || scl != scl_was || sda != sda_was) begin
+                        quiet <= HAS_OTHERS ? 7'd0 : quiet;
                         count <= prescale;
                     end else if (tick && !quiet[6])
-                        quiet <= quiet + 7'd1;
+                        quiet <= HAS_OTHERS ? quiet + 7'd1 : quiet;
                     if (!scl || !sda) begin
-                        taken   <= 1'b1;
-                        stopped <= 1'b0;
+                        taken   <= HAS_OTHERS ? 1'b1 : taken;
+                        stopped <= HAS_OTHERS ? 1'b0 : stopped;
                     end else if (quiet[6] || (stopped && quiet[1]))
-                        taken <= 1'b0;
+                        taken <= HAS_OTHERS ? 1'b0 : taken;
                     if (state == WAIT && !taken && scl && sda) begin
                         sda_low <= 1'b1;
-                        taken   <= 1'b1;
-                        quiet   <= 7'd0;
+                        taken   <= HAS_OTHERS ? 1'b1 : taken;
+                        quiet   <= HAS_OTHERS ? 7'd0 : quiet;
                         count   <= prescale;
                         state   <= HOLD1;
                     end
@@ -262,10 +262,10 @@ module apb_i2c #(
                 HIGH1, HIGH2: begin
                     if (tick)
                         state <= HIGH2;
-                    if (end_high || (kind == START && start_seen)) begin
+                    if (HAS_OTHERS ? end_high || (kind == START && start_seen) : end_high) begin
                         count   <= prescale;
                         settle  <= {1'b0, filter} + 5'd3;
-                        stopped <= 1'b0;
+                        stopped <= HAS_OTHERS ? 1'b0 : stopped;
                         case (kind)
                             START: begin
                                 sda_low <= 1'b1;
@@ -283,9 +283,9 @@ module apb_i2c #(
                                 if (bits != 4'd0)
                                     shift_in <= {shift_in[6:0], level};
                                 else begin
-                                    first <= 1'b0;
+                                    first <= HAS_OTHERS ? 1'b0 : first;
                                     if (first && !reading)
-                                        from_device <= shift_in[0];
+                                        from_device <= HAS_OTHERS ? shift_in[0] : from_device;
                                     if (!reading)
                                         nacked <= level;
                                     else if (!recovering)
@@ -309,8 +309,8 @@ module apb_i2c #(
                         count <= 16'd0;
                         if (settled) begin
                             open     <= 1'b0;
-                            taken    <= ~scl | ~sda;
-                            quiet    <= 7'd0;
+                            taken    <= HAS_OTHERS ? ~scl | ~sda : taken;
+                            quiet    <= HAS_OTHERS ? 7'd0 : quiet;
                             count    <= prescale;
                             complete <= ~queued | q_last;
                             state    <= IDLE;
@@ -319,10 +319,10 @@ module apb_i2c #(
                 end
             endcase
             // A start has been made, or another master goes on with the clock already.
-            if (kind == START && ((state == HOLD2 && tick) || ((state == HOLD1 || state == HOLD2) && !scl))) begin
+            if (HAS_OTHERS ? kind == START && ((state == HOLD2 && tick) || ((state == HOLD1 || state == HOLD2) && !scl)) : kind == START && state == HOLD2 && tick) begin
                 scl_low <= 1'b1;
                 open    <= 1'b1;
-                first   <= 1'b1;
+                first   <= HAS_OTHERS ? 1'b1 : first;
                 count   <= prescale;
                 settle  <= {1'b0, filter} + 5'd3;
                 kind    <= has_byte ? DATA : STOP;
@@ -336,7 +336,7 @@ module apb_i2c #(
                 refused    <= refused | n_refuse;
                 arblost    <= arblost | n_refuse;
                 reading    <= n_read;
-                recovering <= n_heal;
+                recovering <= HAS_WAY_OUT ? n_heal : recovering;
                 has_byte   <= n_byte;
                 has_stop   <= n_stop;
                 bits       <= 4'd8;
@@ -364,16 +364,16 @@ module apb_i2c #(
                 complete <= 1'b1;
                 scl_low  <= 1'b0;
                 sda_low  <= 1'b0;
-                stopped  <= 1'b0;
-                quiet    <= 7'd0;
+                stopped  <= HAS_OTHERS ? 1'b0 : stopped;
+                quiet    <= HAS_OTHERS ? 7'd0 : quiet;
                 if (abort)
-                    aborted <= 1'b1;
+                    aborted <= HAS_WAY_OUT ? 1'b1 : aborted;
                 else if (late)
-                    expired <= 1'b1;
+                    expired <= HAS_TIMEOUT;
                 else begin
                     arblost <= 1'b1;
                     if (unstopped | blocked)
-                        stuck <= 1'b1;
+                        stuck <= HAS_OTHERS ? 1'b1 : stuck;
                 end
             end
         end
@@ -465,10 +465,10 @@ module apb_i2c #(
             passed <= 24'd0;
             late   <= 1'b0;
         end else begin
-            passed <= (passing & ~late & ~(store & (offset == 12'h018))) ? passed + 24'd1 : 24'd0;
-            late   <= passing & ~late & (state != IDLE) & (timeout != 16'd0) & (passed[23:8] == timeout);
+            passed <= !HAS_TIMEOUT ? 24'd0 : (passing & ~late & ~(store & (offset == 12'h018))) ? passed + 24'd1 : 24'd0;
+            late   <= !HAS_TIMEOUT ? 1'b0 : passing & ~late & (state != IDLE) & (timeout != 16'd0) & (passed[23:8] == timeout);
         end
-    wire t_late = passing & t_busy & (timeout != 16'd0) & (passed[23:8] == timeout);
+    wire t_late = !HAS_TIMEOUT ? 1'b0 : passing & t_busy & (timeout != 16'd0) & (passed[23:8] == timeout);
 
     // ---- target
     wire        t_scl_low, t_sda_low;
@@ -678,7 +678,7 @@ module apb_i2c #(
         if (!PRESETn)
             wanted <= 7'd0;
         else if (store && offset == 12'h034 && PSTRB[0])
-            wanted <= PWDATA[6:0];
+            wanted <= FIFO || TARGET != 0 ? PWDATA[6:0] : wanted;
 
     always @*
         case (offset)
@@ -700,7 +700,7 @@ module apb_i2c #(
             12'h040: PRDATA = t_addr_rdata;
             12'h044: PRDATA = t_data_rdata;
             12'h048: PRDATA = t_status_rdata;
-            12'hFFC: PRDATA = {11'd0, ID_TARGET, LOG_DEPTH[3:0], 8'd2, 8'd7};
+            12'hFFC: PRDATA = {~HAS, 7'd0, ID_TARGET, LOG_DEPTH[3:0], 8'd2, 8'd7};
             default: PRDATA = 32'd0;
         endcase
 

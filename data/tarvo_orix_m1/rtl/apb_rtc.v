@@ -3,9 +3,10 @@
 // Registers: registers/rtc.json.
 //   CALIBRATION  1: calibration; 0: its register reads 0
 //   REPEAT       1: mask and step of the alarm; 0: their registers read all ones and 0
+//   FULL         sum of what is there: 1 ticks, 2 SUBSECOND, 4 LATE; the others read 0, and ID has ones in bits 29 to 31
 module apb_rtc #(
     parameter CALIBRATION = 1,
-    parameter REPEAT      = 1
+    parameter REPEAT      = 1, FULL = 7
 ) (
     input  wire        PCLK,
     input  wire        PRESETn,     // of what a program switches on for itself: interrupts, ticks, reading
@@ -19,14 +20,13 @@ module apb_rtc #(
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
-
     input  wire        rtc_clk,
     output wire        irq
 );
     localparam [7:0] BLOCK = 8'd5, REVISION = 8'd2;
     localparam [6:0] CALIBRATION_PERIOD = CALIBRATION != 0 ? 7'd20 : 7'd0;   // as a power of two, in source clock cycles
-    localparam [0:0] HAS_REPEAT = REPEAT != 0;
-
+    localparam [2:0] HAS = FULL;
+    localparam [0:0] HAS_REPEAT = REPEAT != 0, HAS_TICKS = HAS[0], HAS_SUBSECOND = HAS[1], HAS_LATE = HAS[2];
     wire store = PSEL & PENABLE & PWRITE;
     wire fetch = PSEL & PENABLE & ~PWRITE;
     wire [11:0] offset = {PADDR[11:2], 2'b00};
@@ -125,10 +125,10 @@ module apb_rtc #(
                 armed <= again;
             if (alarm_now & again)
                 alarm <= alarm + step;
-            reached <= ~ahead[31];
-            moved   <= set_seconds | set_alarm | alarm_now;
+            reached <= HAS_LATE ? ~ahead[31] : 1'b0;
+            moved   <= HAS_LATE ? set_seconds | set_alarm | alarm_now : 1'b0;
             if (set_seconds) begin
-                part    <= staged ? subsecond : 24'd0;
+                part    <= HAS_SUBSECOND ? (staged ? subsecond : 24'd0) : 24'd0;
                 was_set <= 1'b1;
             end
             if (set_alarm)
@@ -137,7 +137,7 @@ module apb_rtc #(
                 case (offset)
                     12'h000: for (n = 0; n < 4; n = n + 1) if (PSTRB[n]) seconds[8*n +: 8] <= PWDATA[8*n +: 8];
                     12'h004: for (n = 0; n < 4; n = n + 1) if (PSTRB[n]) alarm[8*n +: 8] <= PWDATA[8*n +: 8];
-                    12'h008: if (PSTRB[0]) ctrl <= {PWDATA[4], PWDATA[0]};
+                    12'h008: if (PSTRB[0]) ctrl <= {HAS_LATE ? PWDATA[4] : 1'b0, PWDATA[0]};
                     12'h00C: if (PSTRB[0]) pend <= pend & ~PWDATA[2:0];
                     12'h010: for (n = 0; n < 3; n = n + 1) if (PSTRB[n]) prescale[8*n +: 8] <= PWDATA[8*n +: 8];
                     default: ;
@@ -147,7 +147,7 @@ module apb_rtc #(
             if (alarm_now)
                 pend[0] <= 1'b1;
             if (ticks)
-                pend[2] <= 1'b1;
+                pend[2] <= HAS_TICKS;
         end
 
     generate
@@ -186,25 +186,25 @@ module apb_rtc #(
             subsecond <= 24'd0;
             staged    <= 1'b0;
         end else begin
-            restart <= store & (offset == 12'h024);
+            restart <= HAS_TICKS ? store & (offset == 12'h024) : 1'b0;
             if (ticks | restart)
                 rest <= period;
             else if (tick)
-                rest <= rest - 16'd1;
+                rest <= HAS_TICKS ? rest - 16'd1 : 16'd0;
             if (fetch & (offset == 12'h000)) begin
-                subsecond <= part;
+                subsecond <= HAS_SUBSECOND ? part : subsecond;
                 staged    <= 1'b0;
             end
             if (set_seconds)
                 staged <= 1'b0;
             if (store)
                 case (offset)
-                    12'h008: if (PSTRB[0]) enable <= PWDATA[3:1];
+                    12'h008: if (PSTRB[0]) enable <= HAS_TICKS ? PWDATA[3:1] : {1'b0, PWDATA[2:1]};
                     12'h014: begin
-                        staged <= 1'b1;
-                        for (m = 0; m < 3; m = m + 1) if (PSTRB[m]) subsecond[8*m +: 8] <= PWDATA[8*m +: 8];
+                        staged <= HAS_SUBSECOND;
+                        for (m = 0; m < 3; m = m + 1) if (PSTRB[m]) subsecond[8*m +: 8] <= HAS_SUBSECOND ? PWDATA[8*m +: 8] : subsecond[8*m +: 8];
                     end
-                    12'h024: for (m = 0; m < 2; m = m + 1) if (PSTRB[m]) period[8*m +: 8] <= PWDATA[8*m +: 8];
+                    12'h024: for (m = 0; m < 2; m = m + 1) if (PSTRB[m]) period[8*m +: 8] <= HAS_TICKS ? PWDATA[8*m +: 8] : period[8*m +: 8];
                     default: ;
                 endcase
         end
@@ -222,7 +222,7 @@ module apb_rtc #(
             12'h020: PRDATA = step;
             12'h024: PRDATA = {16'd0, period};
             12'h028: PRDATA = {30'd0, armed, was_set};
-            12'hFFC: PRDATA = {8'd0, HAS_REPEAT, CALIBRATION_PERIOD, REVISION, BLOCK};
+            12'hFFC: PRDATA = {~HAS, 5'd0, HAS_REPEAT, CALIBRATION_PERIOD, REVISION, BLOCK};
             default: PRDATA = 32'd0;
         endcase
 

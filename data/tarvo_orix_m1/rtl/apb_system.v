@@ -4,12 +4,12 @@
 //   BLOCKS   register BLOCKS: a bit for each block that the configuration has
 //   CONFIG   register CONFIG: interrupts and sizes of memories of the configuration
 //   PORTS    register PORTS: a bit for each APB extension port
-//
+//   FULL     1: limit of wait states; 0: the interconnect has none, BUSTIMEOUT reads 0, and ID has a one in bit 31
 // What tells of the past lives in the power-on domain, so that a program can read it after the reset that it led to.
 // The pin hwRstn makes every power-on reset.  The first one since the device was configured is told from the others by a
 // flip-flop that no reset reaches and whose initial value is 0.
 module apb_system #(
-    parameter [17:0] TIMEOUT = 18'h3FFFF,
+    parameter FULL = 1, parameter [17:0] TIMEOUT = 18'h3FFFF,
     parameter [31:0] BLOCKS  = 32'd0,
     parameter [31:0] CONFIG  = 32'd0,
     parameter [15:0] PORTS   = 16'd0
@@ -43,7 +43,7 @@ module apb_system #(
     output wire        lockup_reset_req,
     output wire        irq
 );
-    localparam [31:0] ID = {16'd0, 8'd2, 8'd11};
+    localparam [31:0] ID = {FULL == 0, 15'd0, 8'd2, 8'd11};
 
     wire        store  = PSEL & PENABLE & PWRITE;
     wire [11:0] offset = {PADDR[11:2], 2'b00};
@@ -80,12 +80,12 @@ module apb_system #(
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             ctrl    <= 2'd0;
-            timeout <= TIMEOUT;
+            timeout <= FULL != 0 ? TIMEOUT : 18'd0;
         end else begin
             if (store & (offset == 12'h004) & PSTRB[0])
                 ctrl <= PWDATA[1:0];
             if (store & (offset == 12'h008))
-                timeout <= (timeout & ~mask[17:0]) | data[17:0];
+                timeout <= FULL != 0 ? (timeout & ~mask[17:0]) | data[17:0] : timeout;
         end
 
     // The transfer of the data phase, and the last one that failed.

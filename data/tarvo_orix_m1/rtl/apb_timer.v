@@ -4,9 +4,10 @@
 // The external input is synchronised to PCLK.
 //   COMPARE  1: compare value; 0: its register and its bits read 0
 //   CAPTURE  1: capture; 0: its register and its bits read 0
+//   FULL     sum of what is there: 1 prescaler, 2 one-shot; the others read 0, and ID has ones for them in the bits 30 and 31
 module apb_timer #(
     parameter COMPARE = 1,
-    parameter CAPTURE = 1
+    parameter CAPTURE = 1, FULL = 3
 ) (
     input  wire        PCLK,
     input  wire        PRESETn,
@@ -19,14 +20,13 @@ module apb_timer #(
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
-
     input  wire        extin,
     output wire        irq
 );
     localparam [7:0] BLOCK = 8'd3, REVISION = 8'd2, WIDTH = 8'd24;
     localparam [0:0] HAS_COMPARE = COMPARE != 0, HAS_CAPTURE = CAPTURE != 0;
-    localparam [9:0] CTRL_BITS = {{2{HAS_CAPTURE}}, HAS_CAPTURE, {2{HAS_COMPARE}}, 5'h1F};
-
+    localparam [1:0] HAS = FULL; localparam [0:0] HAS_PRESCALE = HAS[0], HAS_ONESHOT = HAS[1];
+    localparam [9:0] CTRL_BITS = {{2{HAS_CAPTURE}}, HAS_CAPTURE, {2{HAS_COMPARE}}, HAS_ONESHOT, 4'hF};
     wire store = PSEL & PENABLE & PWRITE;
     wire [11:0] offset = {PADDR[11:2], 2'b00};
 
@@ -69,7 +69,7 @@ module apb_timer #(
             pend     <= 4'd0;
         end else begin
             if (step)
-                part <= count ? prescale : part - 16'd1;
+                part <= HAS_PRESCALE ? (count ? prescale : part - 16'd1) : 16'd0;
             if (stops)
                 ctrl[0] <= 1'b0;
             if (begins)
@@ -85,7 +85,7 @@ module apb_timer #(
                     12'h004: for (n = 0; n < 3; n = n + 1) if (PSTRB[n]) value[8*n +: 8] <= PWDATA[8*n +: 8];
                     12'h008: for (n = 0; n < 3; n = n + 1) if (PSTRB[n]) reload[8*n +: 8] <= PWDATA[8*n +: 8];
                     12'h00C: if (PSTRB[0]) pend <= pend & ~PWDATA[3:0];
-                    12'h010: for (n = 0; n < 2; n = n + 1) if (PSTRB[n]) prescale[8*n +: 8] <= PWDATA[8*n +: 8];
+                    12'h010: for (n = 0; n < 2; n = n + 1) if (PSTRB[n]) prescale[8*n +: 8] <= HAS_PRESCALE ? PWDATA[8*n +: 8] : 8'd0;
                     default: ;
                 endcase
             if (start)
@@ -93,11 +93,11 @@ module apb_timer #(
             if (wrap)
                 pend[0] <= 1'b1;
             if (match)
-                pend[1] <= 1'b1;
+                pend[1] <= HAS_COMPARE;
             if (captured) begin
-                pend[2] <= 1'b1;
+                pend[2] <= HAS_CAPTURE;
                 if (pend[2])
-                    pend[3] <= 1'b1;
+                    pend[3] <= HAS_CAPTURE;
             end
         end
 
@@ -146,7 +146,7 @@ module apb_timer #(
             12'h010: PRDATA = {16'd0, prescale};
             12'h014: PRDATA = {8'd0, compare};
             12'h018: PRDATA = {8'd0, capture};
-            12'hFFC: PRDATA = {6'd0, HAS_CAPTURE, HAS_COMPARE, WIDTH, REVISION, BLOCK};
+            12'hFFC: PRDATA = {~HAS, 4'd0, HAS_CAPTURE, HAS_COMPARE, WIDTH, REVISION, BLOCK};
             default: PRDATA = 32'd0;
         endcase
 

@@ -3,9 +3,10 @@
 // Registers: registers/uart.json.
 //   LOG_DEPTH  characters in each FIFO = 2 ** LOG_DEPTH, 1 to 7
 //   TIMEOUT    1: the receive time-out is there; 0: its register reads 0
+//   FULL       sum of what is there: 1 FORMAT (else 8N1), 2 breaks, 4 loop-back, 8 fraction; ID has ones for absent 1, 2, 4 in bits 29 to 31
 module apb_uart #(
     parameter LOG_DEPTH = 4,
-    parameter TIMEOUT   = 1
+    parameter TIMEOUT   = 1, FULL = 15
 ) (
     input  wire        PCLK,
     input  wire        PRESETn,
@@ -18,14 +19,13 @@ module apb_uart #(
     output reg  [31:0] PRDATA,
     output wire        PREADY,
     output wire        PSLVERR,
-
     input  wire        rxd,    // any clock
     output reg         txd,
     output wire        irq     // level
 );
+    localparam [0:0] HAS_FORMAT = (FULL & 1) != 0, HAS_BREAK = (FULL & 2) != 0, HAS_LOOP = (FULL & 4) != 0, HAS_FRACTION = (FULL & 8) != 0;
     localparam FRACTION_BITS = 6;
-    localparam [31:0] ID = (TIMEOUT != 0 ? 32'h10000000 : 32'd0) | (FRACTION_BITS << 22) | (LOG_DEPTH << 16) | 32'h0202;
-
+    localparam [31:0] ID = {~HAS_LOOP, ~HAS_BREAK, ~HAS_FORMAT, TIMEOUT != 0, 28'h202} | (HAS_FRACTION ? FRACTION_BITS << 22 : 0) | (LOG_DEPTH << 16);
     wire store = PSEL & PENABLE & PWRITE;
     wire fetch = PSEL & PENABLE & ~PWRITE;
     wire [11:0] offset = {PADDR[11:2], 2'b00};
@@ -72,17 +72,17 @@ module apb_uart #(
             tx_threshold <= {LOG_DEPTH{1'b0}};
         end else if (store) begin
             if (at_ctrl) begin
-                if (PSTRB[0]) ctrl[7:0] <= PWDATA[7:0];
-                if (PSTRB[1]) ctrl[9:8] <= PWDATA[9:8];
+                if (PSTRB[0]) ctrl[7:0] <= {PWDATA[7], HAS_BREAK ? PWDATA[6] : 1'b0, PWDATA[5:0]};
+                if (PSTRB[1]) ctrl[9:8] <= {HAS_LOOP ? PWDATA[9] : 1'b0, HAS_BREAK ? PWDATA[8] : 1'b0};
             end
             if (at_baud) begin
                 if (PSTRB[0]) divider[7:0] <= PWDATA[7:0];
                 if (PSTRB[1]) divider[15:8] <= PWDATA[15:8];
-                if (PSTRB[2]) {fraction[3:0], divider[19:16]} <= PWDATA[23:16];
-                if (PSTRB[3]) fraction[5:4] <= PWDATA[25:24];
+                if (PSTRB[2]) {fraction[3:0], divider[19:16]} <= {HAS_FRACTION ? PWDATA[23:20] : fraction[3:0], PWDATA[19:16]};
+                if (PSTRB[3]) fraction[5:4] <= HAS_FRACTION ? PWDATA[25:24] : fraction[5:4];
             end
             if (at_format & PSTRB[0])
-                format <= PWDATA[7:0];
+                format <= HAS_FORMAT ? PWDATA[7:0] : format;
             if (at_threshold) begin
                 if (PSTRB[0]) rx_threshold <= PWDATA[LOG_DEPTH-1:0];
                 if (PSTRB[1]) tx_threshold <= PWDATA[8 +: LOG_DEPTH];
@@ -128,7 +128,7 @@ module apb_uart #(
         end else begin
             txd <= tx_line | loop;
             if (store & at_ctrl & PSTRB[1] & PWDATA[8] & ~hold_break)
-                break_due <= 1'b1;
+                break_due <= HAS_BREAK;
             else if (tx_free)
                 break_due <= 1'b0;
             if (tx_begins | (~tx_idle & tx_next)) begin
@@ -137,8 +137,8 @@ module apb_uart #(
             end else
                 tx_count <= tx_count - 20'd1;
             if (tx_begins) begin
-                tx_break  <= break_due;
-                tx_shift  <= tx_data;
+                tx_break  <= HAS_BREAK ? break_due : tx_break;
+                tx_shift  <= {HAS_FORMAT ? tx_data[8] : 1'b0, tx_data[7:0]};
                 tx_parity <= is_odd;
                 tx_bits   <= break_due ? 4'd14 : after_start + 4'd1 + {3'd0, two_stops};
                 tx_line   <= 1'b0;
@@ -185,9 +185,9 @@ module apb_uart #(
     wire rx_begins  = rx_on & (~rx_active | rx_done) & rx_late & ~rx;
     wire [8:0] rx_top = 9'h010 << extra_bits;   // where bits come in
     wire rx_at_parity = has_parity & (rx_left == 4'd1);
-    wire [FRACTION_BITS+4:0] rx_sum_next = {1'b0, rx_sum | {(FRACTION_BITS+4){rx_begins}}} + {1'b0, bauddiv[3:0], fraction};
+    wire [FRACTION_BITS+4:0] rx_sum_next = {1'b0, rx_sum | {{4{rx_begins}}, {FRACTION_BITS{HAS_FRACTION ? rx_begins : 1'b0}}}} + {1'b0, bauddiv[3:0], fraction};
     wire is_frame   = ~rx_bit;
-    wire is_break   = is_frame & ~rx_ones;
+    wire is_break   = HAS_BREAK ? is_frame & ~rx_ones : 1'b0;
     wire is_wrong   = ~is_frame & has_parity & rx_parity;
     wire rx_store   = rx_done & (keeps | ~(is_frame | is_wrong));
     wire [11:0] rx_data;     // {lost before, frame, parity or break with frame, character}
@@ -235,7 +235,7 @@ module apb_uart #(
                 rx_first <= 1'b0;
                 rx_left  <= rx_left - 4'd1;
                 if (!rx_first) begin
-                    rx_ones   <= rx_ones | rx_bit;
+                    rx_ones   <= HAS_BREAK ? rx_ones | rx_bit : rx_ones;
                     rx_parity <= rx_parity ^ (rx_bit & (rx_at_parity | ~is_stuck));
                     if (!rx_at_parity)
                         for (i = 0; i < 9; i = i + 1)
@@ -260,7 +260,7 @@ module apb_uart #(
             rx_frame <= (rx_frame & ~(clear & PWDATA[4])) | (rx_done & is_frame);
             tx_over  <= (tx_over & ~(clear & PWDATA[5])) | (push & tx_full & ~tx_load);
             rx_wrong <= (rx_wrong & ~(clear & PWDATA[6])) | (rx_done & is_wrong);
-            rx_break <= (rx_break & ~(clear & PWDATA[7])) | (rx_done & is_break);
+            rx_break <= !HAS_BREAK ? 1'b0 : (rx_break & ~(clear & PWDATA[7])) | (rx_done & is_break);
             if (rx_store)
                 rx_lost <= rx_full & ~pop;
         end
@@ -298,7 +298,7 @@ module apb_uart #(
             12'h004: PRDATA[9:0] = status;
             12'h008: PRDATA[9:0] = ctrl;
             12'h00C: PRDATA[25:0] = {fraction, bauddiv};
-            12'h010: PRDATA[7:0] = format;
+            12'h010: PRDATA[7:0] = HAS_FORMAT ? format : 8'd0;
             12'h014: begin
                 PRDATA[LOG_DEPTH:0]       = rx_level;
                 PRDATA[8 +: LOG_DEPTH + 1] = tx_level;

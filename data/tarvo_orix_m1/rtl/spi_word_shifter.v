@@ -1,7 +1,7 @@
 // Shifts words over SPI as master, from a FIFO and to one, and drives the automatic select.
 // A word is taken bit by bit from the head of the FIFO, which is popped with its last bit.  Words follow each other without
 // a gap while they are there in time; `half` = 0 gives an SCLK of half the clock.
-//   LOG_WIDTH  a word has at most 2 ** LOG_WIDTH bits: 3, 4 or 5
+//   LOG_WIDTH  a word has at most 2 ** LOG_WIDTH bits: 3, 4 or 5; 0: 8, and no automatic select nor delay
 module spi_word_shifter #(
     parameter LOG_WIDTH = 5
 ) (
@@ -13,7 +13,7 @@ module spi_word_shifter #(
     input  wire                        cpha,       // 0: sample at the first edge, 1: at the second
     input  wire                        lsb_first,
     input  wire                        loop,       // hears itself instead of miso
-    input  wire [LOG_WIDTH-1:0]        top_bit,    // bits of a word - 1, at least 3
+    input  wire [(LOG_WIDTH != 0 ? LOG_WIDTH : 3)-1:0] top_bit,    // bits of a word - 1, at least 3
     input  wire [1:0]                  delay,      // cycles from an edge of sclk to its sample
     input  wire [15:0]                 half,       // cycles of half a period of sclk - 1
     input  wire                        auto_select, // selects on its own
@@ -22,31 +22,31 @@ module spi_word_shifter #(
     input  wire [7:0]                  hold,
     input  wire [7:0]                  idle,
 
-    input  wire [(1<<LOG_WIDTH)-1:0]   tx_word,
+    input  wire [(8<<(LOG_WIDTH != 0 ? LOG_WIDTH - 3 : 0))-1:0] tx_word,
     input  wire                        tx_waiting,
     output wire                        tx_take,
-    output reg  [(1<<LOG_WIDTH)-1:0]   rx_word,    // bits above those of a word are 0
+    output reg  [(8<<(LOG_WIDTH != 0 ? LOG_WIDTH - 3 : 0))-1:0] rx_word,    // bits above those of a word are 0
     output reg                         rx_done,    // rx_word is complete, for one cycle
     output wire                        active,
 
     output reg                         sclk,
     output reg                         mosi,
     input  wire                        miso,
-    output reg                         selected
-);
+    output reg                         selected);
+    localparam LOG = LOG_WIDTH != 0 ? LOG_WIDTH : 3, PLAIN = LOG_WIDTH == 0;
     localparam [2:0] REST = 3'd0, SETUP = 3'd1, RUN = 3'd2, HOLD = 3'd3, IDLE = 3'd4;
     reg [2:0]           state;
     reg [15:0]          count;
     reg                 second;     // the next edge of sclk is the second one of its bit
     reg                 final_bit;  // the last bit of a word is on its way
     reg                 ended;      // the last edge has been made, half a period is left
-    reg [LOG_WIDTH-1:0] tx_index;
-    reg [LOG_WIDTH-1:0] rx_index;
+    reg [LOG-1:0]       tx_index;
+    reg [LOG-1:0]       rx_index;
     reg [3:1]           due;        // samples to come, by the cycles that are left
 
-    wire [LOG_WIDTH-1:0] first_index = lsb_first ? {LOG_WIDTH{1'b0}} : top_bit;
-    wire [LOG_WIDTH-1:0] last_index  = lsb_first ? top_bit : {LOG_WIDTH{1'b0}};
-    wire [LOG_WIDTH-1:0] one_further = {{(LOG_WIDTH - 1){~lsb_first}}, 1'b1};    // +1 or -1
+    wire [LOG-1:0] first_index = PLAIN ? {LOG{1'b0}} : lsb_first ? {LOG{1'b0}} : top_bit;
+    wire [LOG-1:0] last_index  = PLAIN ? {LOG{1'b1}} : lsb_first ? top_bit : {LOG{1'b0}};
+    wire [LOG-1:0] one_further = {{(LOG - 1){PLAIN ? 1'b0 : ~lsb_first}}, 1'b1};    // +1 or -1
 
     wire tick  = count == 16'd0;
     wire late  = |due;
@@ -69,13 +69,13 @@ module spi_word_shifter #(
             second    <= 1'b0;
             final_bit <= 1'b0;
             ended     <= 1'b0;
-            tx_index  <= {LOG_WIDTH{1'b0}};
+            tx_index  <= {LOG{1'b0}};
             sclk      <= 1'b0;
             mosi      <= 1'b0;
             selected  <= 1'b0;
         end else begin
             if (state == REST)
-                count <= auto_select ? {8'd0, setup} : half;
+                count <= PLAIN ? half : auto_select ? {8'd0, setup} : half;
             else if (!tick)
                 count <= count - 16'd1;
             else if (over)
@@ -89,13 +89,13 @@ module spi_word_shifter #(
             end else
                 case (state)
                     REST: if (go) begin
-                        state    <= auto_select ? SETUP : RUN;
+                        state    <= PLAIN ? RUN : auto_select ? SETUP : RUN;
                         selected <= auto_select;
                     end
-                    SETUP: if (tick) state <= RUN;
-                    RUN: if (over) state <= selected ? HOLD : REST;
+                    SETUP: if (tick) state <= PLAIN ? REST : RUN;
+                    RUN: if (over) state <= PLAIN ? REST : selected ? HOLD : REST;
                     HOLD: if (tick) begin
-                        state    <= IDLE;
+                        state    <= PLAIN ? REST : IDLE;
                         selected <= 1'b0;
                     end
                     default: if (tick) state <= REST;
@@ -115,7 +115,7 @@ module spi_word_shifter #(
                 sclk <= ~sclk;
 
             if (place)
-                mosi <= tx_word[tx_index];
+                mosi <= tx_word[PLAIN ? tx_index ^ {LOG{~lsb_first}} : tx_index];
             if (state == REST && !begun)
                 tx_index <= first_index;
             else if (place)
@@ -130,13 +130,13 @@ module spi_word_shifter #(
     wire [1:0] wait_for = loop ? 2'd0 : delay;
     wire edge_in        = step & ~(second ^ cpha);
     wire sample         = due[1] | (edge_in & (wait_for == 2'd0));
-    wire rx_last        = rx_index == last_index;
+    wire rx_last        = PLAIN ? final_bit : rx_index == last_index;
     integer n;
     always @(posedge clk or negedge rstn)
         if (!rstn) begin
             due      <= 3'd0;
-            rx_index <= {LOG_WIDTH{1'b0}};
-            rx_word  <= {(1 << LOG_WIDTH){1'b0}};
+            rx_index <= {LOG{1'b0}};
+            rx_word  <= {(1 << LOG){1'b0}};
             rx_done  <= 1'b0;
         end else begin
             due[3]  <= edge_in & (wait_for == 2'd3) & ~stop;
@@ -144,13 +144,13 @@ module spi_word_shifter #(
             due[1]  <= (due[2] | (edge_in & (wait_for == 2'd1))) & ~stop;
             rx_done <= sample & rx_last & ~stop;
             if ((state == REST && !late) || (sample && rx_last))
-                rx_index <= first_index;
+                rx_index <= PLAIN ? {LOG{1'b0}} : first_index;
             else if (sample)
-                rx_index <= rx_index + one_further;
-            for (n = 0; n < (1 << LOG_WIDTH); n = n + 1)
-                if (begun)
-                    rx_word[n] <= 1'b0;
-                else if (sample && rx_index == n[LOG_WIDTH-1:0])
-                    rx_word[n] <= loop ? mosi : miso;
+                rx_index <= PLAIN ? {LOG{1'b0}} : rx_index + one_further;
+            for (n = 0; n < (1 << LOG); n = n + 1)
+                if (PLAIN ? 1'b0 : begun) rx_word[n] <= 1'b0;
+                else if (PLAIN ? sample : sample && rx_index == n[LOG-1:0])
+                    rx_word[n] <= PLAIN ? (lsb_first ? (n == 7 ? (loop ? mosi : miso) : rx_word[n == 7 ? 0 : n + 1])
+                                          : n == 0 ? (loop ? mosi : miso) : rx_word[n == 0 ? 0 : n - 1]) : loop ? mosi : miso;
         end
 endmodule
