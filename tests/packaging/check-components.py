@@ -20,7 +20,7 @@ def read_components(source, problems):
     rows = json.loads((source / "packaging/components.json").read_text(encoding="utf-8"))["components"]
     for row in rows:
         name = row.get("name", "a component without a name")
-        if not FIELDS <= row.keys() <= FIELDS | {"libraries", "parts"}:
+        if not FIELDS <= row.keys() <= FIELDS | {"libraries", "parts", "program", "versionArgument"}:
             problems.append(f"{name}: fields are missing or unknown: {sorted(row)}")
         elif row["use"] not in USES or any(not row[field].strip() or "|" in row[field] for field in FIELDS):
             problems.append(f"{name}: a field has no meaning")

@@ -1,5 +1,6 @@
 #include "settingstable.h"
 
+#include "language/languages.h"
 #include "tr.h"
 
 #include <QSettings>
@@ -11,12 +12,6 @@ namespace Workbench::Settings
 
 namespace
 {
-
-std::function<Choices()> &languageSource()
-{
-    static std::function<Choices()> source;
-    return source;
-}
 
 bool isNumber(const QVariant &value, int *number)
 {
@@ -100,15 +95,11 @@ Choices choicesOf(const Row &row)
 {
     if (row.kind != Kind::Choice)
         return {};
-    if (languageSource())
-        return languageSource()();
-    return {{QString(), Tr::tr("That of the system")},
-            {QStringLiteral("en"), QStringLiteral("English")}};
-}
-
-void setLanguages(const std::function<Choices()> &languages)
-{
-    languageSource() = languages;
+    Choices choices = {{QString(), Tr::tr("That of the system")}};
+    const QVector<Languages::Choice> languages = Languages::available();
+    for (const Languages::Choice &one : languages)
+        choices.append({one.code, one.name});
+    return choices;
 }
 
 QVariant standardOf(const Row &row)

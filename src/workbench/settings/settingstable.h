@@ -5,8 +5,6 @@
 #include <QVariant>
 #include <QVector>
 
-#include <functional>
-
 QT_FORWARD_DECLARE_CLASS(QSettings)
 
 // What people choose in the dialog of settings, one row each, and how it is read. A value of the
@@ -44,8 +42,6 @@ QString titleOf(Page page);
 // Values and names of a choice, the default first.
 using Choices = QVector<QPair<QString, QString>>;
 Choices choicesOf(const Row &row);
-// Where the languages come from; the system's and English until it is set.
-void setLanguages(const std::function<Choices()> &languages);
 
 QVariant standardOf(const Row &row);
 QVariant valueOf(const QSettings &settings, const Row &row);

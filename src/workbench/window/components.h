@@ -6,13 +6,13 @@
 namespace Workbench
 {
 
-// Something of others that the program is built with or starts, as packaging/components.json has
-// it.
+// Something of others that the program is linked with, loads or starts, as
+// packaging/components.json has it.
 struct Component {
     QString name;
     QString purpose;
     QString licence;         // an SPDX expression
-    QString package;         // of Debian
+    QString package;         // of Debian, with which it is built or called
     QString program;         // that is started; empty: a library
     QString versionArgument; // makes the program tell its version and end
 };
