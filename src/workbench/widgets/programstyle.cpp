@@ -11,6 +11,8 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption *opt
     switch (picture) {
     case SP_ToolBarHorizontalExtensionButton: // what a menu bar has no room for
         return symbolIcon(QStringLiteral("more"));
+    case SP_ToolBarVerticalExtensionButton: // or a tool bar
+        return symbolIcon(QStringLiteral("more-below"));
     case SP_TitleBarCloseButton:
     case SP_DockWidgetCloseButton:
         return symbolIcon(QStringLiteral("close"));
