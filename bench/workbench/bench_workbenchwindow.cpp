@@ -30,15 +30,8 @@ int main(int argc, char *argv[])
     Workbench::MainWindow window(catalogue, settings);
     window.resize(1280, 800);
     // As the program does with what its command line names.
-    if (argc > 1) {
-        watcher.setReady(false);
-        QTimer::singleShot(0, &window, [&] {
-            watcher.setReady(true);
-            if (!window.openProject(QFile::decodeName(argv[1])))
-                ::_exit(1);
-            window.update();
-        });
-    }
+    if (argc > 1 && !window.beginWith(QFile::decodeName(argv[1])))
+        return 1;
     window.show();
     return QApplication::exec();
 }

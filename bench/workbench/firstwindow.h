@@ -11,21 +11,14 @@
 // next key or click would be answered at once.
 class FirstWindow : public QObject
 {
-public:
-    // Until it is called with true, nothing that is painted counts.
-    void setReady(bool ready) { m_ready = ready; }
-
 protected:
     bool eventFilter(QObject *object, QEvent *event) override
     {
         const auto *widget = qobject_cast<QWidget *>(object);
-        if (m_ready && event->type() == QEvent::Paint && widget && widget->isWindow()) {
+        if (event->type() == QEvent::Paint && widget && widget->isWindow()) {
             // Behind the paint event itself and what was queued before it.
             QTimer::singleShot(0, [] { ::_exit(0); });
         }
         return false;
     }
-
-private:
-    bool m_ready = true;
 };

@@ -94,8 +94,9 @@ void createIp(MainWindow &window, const IpCatalogue &catalogue, const Options &o
                     device.isNull() && project ? project->device() : device);
 }
 
-// Opens what the command line names. False if there is something wrong that no window needs to
-// open for.
+// Opens what the command line names, or what was open last. A project is there before the window
+// is, which then begins with it; what may need a question or a dialog comes when the window is
+// shown. False if there is something wrong that no window needs to open for.
 bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &window, int *status)
 {
     *status = 2;
@@ -135,13 +136,20 @@ bool prepare(const Options &options, const IpCatalogue &catalogue, MainWindow &w
             projectFile = Project::fileAbove(QFileInfo(file).absolutePath());
     }
     *status = 0;
-    QTimer::singleShot(0, &window, [&window, &catalogue, options, ip, device, dir, projectFile] {
-        if (!projectFile.isEmpty())
+    QStringList files;
+    for (const QString &file : options.files)
+        files.append(QFileInfo(file).absoluteFilePath());
+    if (projectFile.isEmpty() && files.isEmpty() && ip < 0 && !options.isFresh)
+        window.restoreSession();
+    if (projectFile.isEmpty() && !files.isEmpty() &&
+        files.first().endsWith(QLatin1String(".") + QLatin1String(ProjectFile::suffix)))
+        projectFile = files.takeFirst();
+    const bool isOpen = !projectFile.isEmpty() && window.beginWith(projectFile);
+    QTimer::singleShot(0, &window, [=, &window, &catalogue] {
+        if (!isOpen && !projectFile.isEmpty())
             window.openProject(projectFile);
-        for (const QString &file : options.files)
-            window.openPath(QFileInfo(file).absoluteFilePath());
-        if (projectFile.isEmpty() && options.files.isEmpty() && ip < 0 && !options.isFresh)
-            window.restoreSession();
+        for (const QString &file : files)
+            window.openPath(file);
         if (ip >= 0)
             createIp(window, catalogue, options, ip, dir, device);
     });
@@ -217,12 +225,12 @@ int main(int argc, char *argv[])
     fonts.wait();
     QApplication::setWindowIcon(applicationIcon());
     MainWindow window(catalogue, settings);
+    guard.setLastDeed([&window] { window.keepUnsaved(); });
     if (!prepare(options, catalogue, window, &status))
         return status;
     const Utils::Interrupt interrupt;
     QObject::connect(&interrupt, &Utils::Interrupt::received, &window, &MainWindow::shutDown);
     window.show();
-    guard.setLastDeed([&window] { window.keepUnsaved(); });
     bool closed = false;
     QObject::connect(&window, &MainWindow::closed, &window, [&closed] { closed = true; });
     status = QApplication::exec();

@@ -19,6 +19,8 @@
 #include <QTextBlock>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace Workbench
 {
 
@@ -36,6 +38,8 @@ EditorPage::EditorPage(const QString &path, QWidget *parent)
     m_editor->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     connect(m_editor, &CodeEditor::editRefused, this, &EditorPage::offerEditing);
     connect(m_editor, &QPlainTextEdit::modificationChanged, this, &EditorPage::stateChanged);
+    connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &EditorPage::cursorMoved);
+    connect(m_editor->verticalScrollBar(), &QScrollBar::valueChanged, this, &EditorPage::scrolled);
     m_pieceTimer.setInterval(0);
     connect(&m_pieceTimer, &QTimer::timeout, this, &EditorPage::insertPiece);
 
@@ -84,9 +88,8 @@ QString EditorPage::refusal(const QString &mistake) const
     return tr("Cannot show \"%1\": %2.").arg(QDir::toNativeSeparators(m_path), mistake);
 }
 
-bool EditorPage::load(QString *error)
+bool EditorPage::canLoad(QString *error) const
 {
-    m_findBar->finishReplacing();
     const auto refuse = [this, error](const QString &reason) {
         *error = refusal(reason);
         return false;
@@ -96,15 +99,66 @@ bool EditorPage::load(QString *error)
         return refuse(info.isDir() ? tr("it is a folder") : tr("it is not a plain file"));
     if (info.size() > sizeLimit)
         return refuse(tr("it has more than %1 MB").arg(sizeLimit >> 20));
-    if (info.size() > pieceLimit)
+    QFile file(m_path);
+    QByteArray none;
+    // Which has the words for it.
+    return file.open(QIODevice::ReadOnly) || Utils::FileUtils::readFile(m_path, &none, error);
+}
+
+bool EditorPage::loadLater(QString *error)
+{
+    m_isUnread = canLoad(error);
+    return m_isUnread;
+}
+
+void EditorPage::readNow()
+{
+    if (!m_isUnread)
+        return;
+    QString error;
+    m_isTried = !load(&error);
+    if (m_isTried)
+        m_infoBar->showMessage(error, {});
+}
+
+CodeEditor *EditorPage::editor() const
+{
+    // Nobody can tell that it was not there before.
+    if (!m_isTried)
+        const_cast<EditorPage *>(this)->readNow();
+    return m_editor;
+}
+
+void EditorPage::setLook(const EditorLook &look)
+{
+    m_editor->setLook(look);
+}
+
+bool EditorPage::load(QString *error)
+{
+    // Those who hear of the new state ask for the text.
+    const bool wasUnread = std::exchange(m_isUnread, false);
+    const bool isLoaded = tryToLoad(error);
+    m_isUnread = wasUnread && !isLoaded;
+    return isLoaded;
+}
+
+bool EditorPage::tryToLoad(QString *error)
+{
+    m_findBar->finishReplacing();
+    if (!canLoad(error))
+        return false;
+    if (QFileInfo(m_path).size() > pieceLimit)
         return begin(error);
     const Content content = read(m_path);
     if (!content.error.isEmpty()) {
         *error = content.error;
         return false;
     }
-    if (!content.mistake.isEmpty())
-        return refuse(content.mistake);
+    if (!content.mistake.isEmpty()) {
+        *error = refusal(content.mistake);
+        return false;
+    }
     m_background.drop();
     show(content);
     return true;
@@ -116,7 +170,7 @@ bool EditorPage::begin(QString *error)
     QFile file(m_path);
     QByteArray head;
     if (!file.open(QIODevice::ReadOnly))
-        return Utils::FileUtils::readFile(m_path, &head, error); // which has the words for it
+        return Utils::FileUtils::readFile(m_path, &head, error);
     head = file.read(pieceSize);
     const QString mistake = TextFormat::mistakeOf(head);
     if (!mistake.isEmpty()) {
@@ -252,7 +306,7 @@ EditorPage::Place EditorPage::place() const
 void EditorPage::setPlace(const Place &place)
 {
     m_wantedPlace = place;
-    if (isLoading())
+    if (isLoading() || m_isUnread)
         return;
     showPlace(place);
     // An editor that comes up scrolls to its cursor.
@@ -275,6 +329,7 @@ void EditorPage::showPlace(const Place &place)
 void EditorPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
+    readNow();
     if (m_wantedPlace)
         setPlace(*m_wantedPlace);
     if (m_isNew)
@@ -284,6 +339,7 @@ void EditorPage::showEvent(QShowEvent *event)
 
 void EditorPage::goToLine(int line)
 {
+    readNow();
     m_wantedPlace.reset();
     if (isLoading() && line > m_editor->lineCount())
         m_wantedLine = line;
@@ -303,6 +359,7 @@ bool EditorPage::isEditable() const
 
 void EditorPage::startEditing()
 {
+    readNow();
     if (isEditable() || isLoading() || m_digest.isEmpty())
         return;
     const QFileInfo info(m_path);
@@ -329,6 +386,10 @@ void EditorPage::offerEditing()
 
 bool EditorPage::save(QString *error)
 {
+    readNow();
+    // There is no text that could be written.
+    if (m_isUnread)
+        return load(error);
     m_findBar->finishReplacing();
     const QString text = m_editor->shownText();
     const int missing = m_format.firstMissing(text);
@@ -397,6 +458,11 @@ void EditorPage::offerKeptChanges()
 
 void EditorPage::checkDisk()
 {
+    if (m_isUnread) {
+        if (isVisible())
+            readNow();
+        return;
+    }
     if (!QFileInfo::exists(m_path)) {
         if (m_deleted)
             return;

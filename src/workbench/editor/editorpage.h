@@ -15,6 +15,7 @@ namespace Workbench
 {
 
 class CodeEditor;
+struct EditorLook;
 class FindBar;
 class InfoBar;
 
@@ -35,13 +36,21 @@ public:
     ~EditorPage() override;
 
     QString path() const { return m_path; }
-    CodeEditor *editor() const { return m_editor; }
+    // Of a page that is to be read later this is the time.
+    CodeEditor *editor() const;
     FindBar *findBar() const { return m_findBar; }
     InfoBar *infoBar() const { return m_infoBar; }
 
     // Reads the file, in place of what is shown. False and a sentence in `*error` if it cannot be
     // shown; the page keeps what it had.
     bool load(QString *error);
+    // Has the file read as soon as the page is seen or its text is asked for, where the info bar
+    // says what may be wrong. False, and a sentence in `*error`, if it is clear now that the file
+    // cannot be shown.
+    bool loadLater(QString *error);
+    // Whether the file is still to be read.
+    bool isUnread() const { return m_isUnread; }
+    void setLook(const EditorLook &look);
     // Whether pieces of the file are still to come.
     bool isLoading() const { return m_isLoading; }
     // The same, or whether the file on disk is being compared with what is shown.
@@ -85,6 +94,8 @@ Q_SIGNALS:
     void stateChanged(); // modified, editable, loading
     void openRequested(const QString &path);
     void editingStarted();
+    void cursorMoved();
+    void scrolled();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -103,6 +114,10 @@ private:
     // Needs no page. With the digest `known` there is no more than that.
     static Content read(const QString &path, const QByteArray &known = {});
     QString refusal(const QString &mistake) const;
+    // Sees nothing of what is in the file.
+    bool canLoad(QString *error) const;
+    bool tryToLoad(QString *error);
+    void readNow();
     bool begin(QString *error);
     void tellOfSize();
     void show(const Content &content);
@@ -124,6 +139,8 @@ private:
     bool m_deleted = false;
     bool m_needsUtf8 = false;
     bool m_isNew = true; // until it has been read for the first time
+    bool m_isUnread = false;
+    bool m_isTried = false; // to read, without success
     bool m_isLoading = false;
     QString m_rest;     // of a file that comes in pieces: all of it, until everything is inserted
     int m_inserted = 0; // characters of it; before it is there, those of the beginning

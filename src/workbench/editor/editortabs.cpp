@@ -64,23 +64,10 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
         if (!opened->load(error))
             return nullptr;
         page = opened.release();
-        if (m_look)
-            page->editor()->setLook(*m_look);
-        const int index = addTab(page, symbolIcon(QStringLiteral("file")), QString());
-        setTabToolTip(index, QDir::toNativeSeparators(plain));
-        connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
-        connect(page, &EditorPage::editingStarted, this,
-                [this, page] { Q_EMIT editingStarted(page); });
-        connect(page, &EditorPage::openRequested, this, [this, page](const QString &file) {
-            QString reason;
-            if (!openFile(file, 0, &reason))
-                page->infoBar()->showMessage(reason, {});
-        });
-        connect(page->editor(), &QPlainTextEdit::cursorPositionChanged, this,
-                &EditorTabs::currentStateChanged);
-        connect(page->editor()->verticalScrollBar(), &QScrollBar::valueChanged, this,
-                &EditorTabs::placeChanged);
-        showState(page);
+        add(page);
+    } else if (page->isUnread()) {
+        if (!page->load(error))
+            return nullptr;
     } else {
         page->checkDisk();
     }
@@ -91,12 +78,49 @@ EditorPage *EditorTabs::openFile(const QString &path, int line, QString *error)
     return page;
 }
 
-void EditorTabs::setLook(const EditorLook &look)
+EditorPage *EditorTabs::openLater(const QString &path, QString *error)
 {
-    m_look = std::make_unique<EditorLook>(look);
+    const QString plain = plainPath(path);
+    if (EditorPage *page = pageOf(plain))
+        return page;
+    auto opened = std::make_unique<EditorPage>(plain);
+    if (!opened->loadLater(error))
+        return nullptr;
+    EditorPage *page = opened.release();
+    add(page);
+    watch();
+    return page;
+}
+
+void EditorTabs::add(EditorPage *page)
+{
+    if (!m_look && m_lookSource)
+        m_look = std::make_unique<EditorLook>(m_lookSource());
+    if (m_look)
+        page->setLook(*m_look);
+    connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
+    connect(page, &EditorPage::editingStarted, this, [this, page] { Q_EMIT editingStarted(page); });
+    connect(page, &EditorPage::openRequested, this, [this, page](const QString &file) {
+        QString reason;
+        if (!openFile(file, 0, &reason))
+            page->infoBar()->showMessage(reason, {});
+    });
+    connect(page, &EditorPage::cursorMoved, this, &EditorTabs::currentStateChanged);
+    connect(page, &EditorPage::scrolled, this, &EditorTabs::placeChanged);
+    const int index = addTab(page, symbolIcon(QStringLiteral("file")), QString());
+    setTabToolTip(index, QDir::toNativeSeparators(page->path()));
+    showState(page);
+}
+
+void EditorTabs::setLook(const std::function<EditorLook()> &look)
+{
+    m_lookSource = look;
+    m_look.reset();
     const QList<EditorPage *> all = pages();
+    if (!all.isEmpty())
+        m_look = std::make_unique<EditorLook>(look());
     for (EditorPage *page : all)
-        page->editor()->setLook(look);
+        page->setLook(*m_look);
 }
 
 EditorPage *EditorTabs::currentPage() const

@@ -6,6 +6,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 namespace Workbench
@@ -24,6 +25,8 @@ public:
     // Opens a file or brings its tab to the front, and goes to the line if that is above 0. Null
     // and a sentence in `*error` if it cannot be shown.
     EditorPage *openFile(const QString &path, int line, QString *error);
+    // Adds its tab, unless there is one, and has the file read when it is seen.
+    EditorPage *openLater(const QString &path, QString *error);
     EditorPage *currentPage() const;
     EditorPage *pageOf(const QString &path) const;
     QList<EditorPage *> pages() const;
@@ -33,8 +36,9 @@ public:
     // The file of a tab, or that it is about; empty: none.
     QString pathOf(int index) const;
 
-    // Of the pages that there are and those that come.
-    void setLook(const EditorLook &look);
+    // Of the pages that there are and those that come; asked for with the first of them, since
+    // finding its font takes a while.
+    void setLook(const std::function<EditorLook()> &look);
 
     // Reports a failure in the page and returns false then.
     bool savePage(EditorPage *page);
@@ -63,6 +67,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void add(EditorPage *page);
     // Closes these, after a question where they have unsaved changes.
     bool closePages(const QList<QWidget *> &closing);
     void watch();
@@ -71,7 +76,8 @@ private:
     // Asks what to do with unsaved changes of these pages; true if the tabs may go.
     bool settle(const QList<EditorPage *> &changed);
 
-    std::unique_ptr<EditorLook> m_look; // null: as an editor is made
+    std::unique_ptr<EditorLook> m_look; // null: not asked for
+    std::function<EditorLook()> m_lookSource;
     QFileSystemWatcher m_watcher;
     QTimer m_diskTimer;
 };

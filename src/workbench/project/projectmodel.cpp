@@ -123,6 +123,14 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
     return entries;
 }
 
+QStringList ProjectModel::ipFiles() const
+{
+    QStringList paths;
+    for (const Entry &file : m_entries[Ips])
+        paths.append(file.path);
+    return paths;
+}
+
 QString ProjectModel::projectFile() const
 {
     return m_project ? m_project->file() : QString();

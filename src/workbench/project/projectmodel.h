@@ -33,6 +33,7 @@ public:
 
     // Empty without a project.
     QString projectFile() const;
+    QStringList ipFiles() const;
     QModelIndex groupIndex(Group group) const;
     // Invalid when the tree does not show the file.
     QModelIndex indexOf(const QString &path) const;

@@ -186,7 +186,10 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
              m_lastRun->prepare(&error);
          },
          [this] {
-             return SessionStore::WindowState{saveGeometry(), QMainWindow::saveState(stateVersion)};
+             // Before it is shown it has not settled.
+             return isVisible() ? SessionStore::WindowState{saveGeometry(),
+                                                            QMainWindow::saveState(stateVersion)}
+                                : m_keeper->store().windowState();
          }},
         this);
     followDocks();
@@ -212,7 +215,11 @@ void MainWindow::connectParts()
     connect(&m_recent, &RecentProjects::chosen, this, &MainWindow::openProject);
     connect(m_projectPane, &ProjectPane::openRequested, this, openFile);
     connect(m_projectPane, &ProjectPane::selectionChanged, this, &MainWindow::showEditorState);
-    connect(m_projectPane, &ProjectPane::contentChanged, this, &MainWindow::showStart);
+    // The project, which has changed, mostly follows.
+    connect(m_projectPane, &ProjectPane::contentChanged, this, [this] {
+        m_start->outdate(true);
+        showEditorState();
+    });
     connect(m_catalogueView, &CatalogueView::activated, this, &MainWindow::createSelectedIp);
     connect(m_catalogueView, &CatalogueView::helpRequested, this, &MainWindow::showIpHelp);
     connect(m_catalogueView, &CatalogueView::selectionChanged, this, &MainWindow::showEditorState);
@@ -262,6 +269,7 @@ void MainWindow::connectParts()
 // Queued: the page is built anew, and with it the button that asked.
 void MainWindow::connectStartPage()
 {
+    m_start->setFiller([this] { fillStart(); });
     connect(m_start, &StartPage::newProjectRequested, this, &MainWindow::newProject);
     connect(m_start, &StartPage::openRequested, this, &MainWindow::open);
     connect(m_start, &StartPage::newSubsystemRequested, this, &MainWindow::newSubsystem,
@@ -343,6 +351,7 @@ void MainWindow::buildStatusBar()
 
 bool MainWindow::setProject(std::unique_ptr<Project> project)
 {
+    const StartPage::Hold hold(m_start);
     if (m_project || m_lastRun->isThere()) {
         // What a run said belongs to its project.
         m_messages->clear();
@@ -428,24 +437,28 @@ void MainWindow::showStart()
 {
     if (m_keeper && m_keeper->isRestoring())
         return;
-    const bool empty = m_tabs->count() == 0;
-    if (empty) {
-        QVector<StartPage::Example> examples;
-        for (int ip = 0; !m_project && ip < m_catalogue.entries().size(); ++ip) {
-            const QVector<SimulationExample> own = m_simulations->examplesOf(ip);
-            for (int number = 0; number < own.size(); ++number)
-                examples.append({ip, number, own.at(number).title, own.at(number).purpose});
-        }
-        m_start->showState(m_project.get(), m_catalogue, m_recent.files(), m_kept->items(),
-                           examples);
-    }
-    m_stack->setCurrentWidget(empty ? static_cast<QWidget *>(m_start) : m_tabs);
+    m_start->outdate();
+    m_stack->setCurrentWidget(m_tabs->count() == 0 ? static_cast<QWidget *>(m_start) : m_tabs);
+    m_start->fill();
     showEditorState();
+}
+
+void MainWindow::fillStart()
+{
+    QVector<StartPage::Example> examples;
+    for (int ip = 0; !m_project && ip < m_catalogue.entries().size(); ++ip) {
+        const QVector<SimulationExample> own = m_simulations->examplesOf(ip);
+        for (int number = 0; number < own.size(); ++number)
+            examples.append({ip, number, own.at(number).title, own.at(number).purpose});
+    }
+    m_start->showState(m_project.get(), m_projectPane->model()->ipFiles(), m_catalogue,
+                       m_recent.files(), m_kept->items(), examples);
 }
 
 void MainWindow::showEditorState()
 {
-    if (!m_actions)
+    // While tabs come back, none of them is in front for good.
+    if (!m_actions || (m_keeper && m_keeper->isRestoring()))
         return;
     m_actions->refresh();
     showTitle();
@@ -590,6 +603,13 @@ bool MainWindow::openPath(const QString &path, int line)
     return false;
 }
 
+bool MainWindow::beginWith(const QString &projectFile)
+{
+    QString error;
+    std::unique_ptr<Project> project = Project::open(projectFile, &error);
+    return project && setProject(std::move(project));
+}
+
 bool MainWindow::openProject(const QString &file)
 {
     QString error;
@@ -600,6 +620,7 @@ bool MainWindow::openProject(const QString &file)
         showError(this, error);
         return false;
     }
+    const StartPage::Hold hold(m_start);
     return leaveProject() && setProject(std::move(project));
 }
 
@@ -614,6 +635,7 @@ bool MainWindow::closeProject()
 
 bool MainWindow::leaveProject()
 {
+    const StartPage::Hold hold(m_start);
     m_keeper->hold();
     if (!m_tabs->closeAll()) {
         m_keeper->release();
@@ -810,7 +832,7 @@ void MainWindow::about()
     dialog.exec();
 }
 
-void MainWindow::applySettings()
+EditorLook MainWindow::editorLook() const
 {
     EditorLook look;
     look.font = fixedFont();
@@ -822,7 +844,12 @@ void MainWindow::applySettings()
     look.tabWidth = Settings::numberOf(m_settings, Settings::editorTabWidth);
     look.hasLineNumbers = Settings::isOn(m_settings, Settings::editorLineNumbers);
     look.wraps = Settings::isOn(m_settings, Settings::editorWrap);
-    m_tabs->setLook(look);
+    return look;
+}
+
+void MainWindow::applySettings()
+{
+    m_tabs->setLook([this] { return editorLook(); });
     m_toolPaths.apply(m_settings);
     showEditorState();
 }

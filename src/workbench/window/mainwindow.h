@@ -33,6 +33,7 @@ class CatalogueView;
 class ClosingSequence;
 class Companion;
 class CompanionDesk;
+struct EditorLook;
 class EditorPage;
 class EditorTabs;
 class GenerationWatch;
@@ -78,6 +79,9 @@ public:
     ResultPage *results();
     InfoBar *infoBar() const { return m_infoBar; }
 
+    // Before the window is shown, which then begins with the project: false, without a word, if the
+    // project cannot be opened.
+    bool beginWith(const QString &projectFile);
     // Report what is wrong in a message box, and return false then.
     bool openProject(const QString &file);
     bool closeProject();
@@ -159,11 +163,13 @@ private:
     void showTitle();
     void showEditorState();
     void showStart();
+    void fillStart();
     void showResults();
     OutputPane *output();
     void restoreState();
     void chooseDevice();
     void about();
+    EditorLook editorLook() const;
     void applySettings();
     void editSettings();
     void openExternally();

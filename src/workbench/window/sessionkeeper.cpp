@@ -122,24 +122,29 @@ void SessionKeeper::setProject(const QString &projectFile)
     note();
 }
 
-bool SessionKeeper::restoreTab(const SessionTab &tab)
+QWidget *SessionKeeper::restoreTab(const SessionTab &tab, bool isInFront)
 {
+    bool isShown = false;
     switch (tab.kind) {
     case SessionTab::File: {
         QString error;
-        EditorPage *page = m_with.tabs.openFile(tab.path, 0, &error);
+        EditorPage *page = isInFront ? m_with.tabs.openFile(tab.path, 0, &error)
+                                     : m_with.tabs.openLater(tab.path, &error);
         if (page)
             page->setPlace({tab.line, tab.column, tab.top, tab.left});
         return page;
     }
     case SessionTab::HandOff:
-        return m_with.showHandOff(tab.path);
+        isShown = m_with.showHandOff(tab.path);
+        break;
     case SessionTab::Simulation:
-        return m_with.showSimulation(tab.path);
+        isShown = m_with.showSimulation(tab.path);
+        break;
     case SessionTab::Results:
+        isShown = m_with.showResults();
         break;
     }
-    return m_with.showResults();
+    return isShown ? m_with.tabs.currentWidget() : nullptr;
 }
 
 void SessionKeeper::restoreTabs()
@@ -153,18 +158,20 @@ void SessionKeeper::restoreTabs()
         m_with.prepareRun();
     QStringList gone;
     QWidget *current = nullptr;
+    QWidget *last = nullptr;
     for (int i = 0; i < record.tabs.size(); ++i) {
         const SessionTab &tab = record.tabs.at(i);
         const bool isThere = tab.path.isEmpty() || QFileInfo::exists(tab.path);
-        if (!isThere || !restoreTab(tab)) {
-            if (!tab.path.isEmpty() && !gone.contains(tab.path))
-                gone.append(tab.path);
-        } else if (i == record.current) {
-            current = m_with.tabs.currentWidget();
-        }
+        QWidget *page = isThere ? restoreTab(tab, i == record.current) : nullptr;
+        if (page)
+            last = page;
+        else if (!tab.path.isEmpty() && !gone.contains(tab.path))
+            gone.append(tab.path);
+        if (i == record.current)
+            current = page;
     }
-    if (current)
-        m_with.tabs.setCurrentWidget(current);
+    if (current || last)
+        m_with.tabs.setCurrentWidget(current ? current : last);
     m_isRestoring = false;
     Q_EMIT m_with.tabs.countChanged();
     tellGone(gone);

@@ -56,7 +56,8 @@ public Q_SLOTS:
 
 private:
     SessionRecord capture() const;
-    bool restoreTab(const SessionTab &tab);
+    // Null: the page cannot be.
+    QWidget *restoreTab(const SessionTab &tab, bool isInFront);
     void followSplitters();
     void tellGone(const QStringList &gone);
 

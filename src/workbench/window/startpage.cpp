@@ -66,18 +66,63 @@ StartPage::StartPage(QWidget *parent)
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, &StartPage::fill);
 }
 
-void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
-                          const QStringList &recent, const QList<KeptConfigurations::Item> &kept,
+StartPage::Hold::Hold(StartPage *page)
+    : m_page(page)
+{
+    ++m_page->m_holds;
+}
+
+StartPage::Hold::~Hold()
+{
+    --m_page->m_holds;
+    m_page->fill();
+}
+
+void StartPage::outdate(bool soon)
+{
+    m_isOutdated = true;
+    if (soon)
+        m_soon.start(0);
+}
+
+void StartPage::fill()
+{
+    if (!m_isOutdated || m_holds > 0 || !isVisible())
+        return;
+    m_isOutdated = false;
+    m_soon.stop();
+    if (m_filler)
+        m_filler();
+}
+
+void StartPage::showEvent(QShowEvent *event)
+{
+    QScrollArea::showEvent(event);
+    fill();
+}
+
+void StartPage::showState(const Project *project, const QStringList &ips,
+                          const IpCatalogue &catalogue, const QStringList &recent,
+                          const QList<KeptConfigurations::Item> &kept,
                           const QVector<Example> &examples)
 {
+    QStringList state = stateOf(project, ips, catalogue, kept);
+    state += recent;
+    for (const Example &example : examples)
+        state << example.title << example.purpose;
+    if (widget() && state == m_state)
+        return;
+    m_state = state;
     auto *content = new QWidget;
     auto *columns = new QHBoxLayout(content);
     auto *page = new QVBoxLayout;
     columns->addLayout(page, 1);
     if (project)
-        showProject(page, *project, catalogue, kept);
+        showProject(page, *project, ips, catalogue, kept);
     else
         showWelcome(page, catalogue, recent, kept, examples);
     showKept(page, project ? project->path() : QString(), kept);
@@ -85,17 +130,37 @@ void StartPage::showState(const Project *project, const IpCatalogue &catalogue,
     // The old page may be the one whose button is being clicked.
     if (QWidget *old = takeWidget())
         old->deleteLater();
+    applyFont(content);
+    // Its texts are broken into lines for this width only.
+    content->resize(viewport()->size());
     setWidget(content);
-    applyFont();
 }
 
-void StartPage::applyFont()
+QStringList StartPage::stateOf(const Project *project, const QStringList &ips,
+                               const IpCatalogue &catalogue,
+                               const QList<KeptConfigurations::Item> &kept)
 {
-    if (!widget())
-        return;
+    QStringList state;
+    for (const IpEntry &entry : catalogue.entries())
+        state << entry.name << entry.version << entry.summary;
+    for (const KeptConfigurations::Item &item : kept)
+        state << item.id << item.origin << item.description() << item.stepWords();
+    if (!project)
+        return state;
+    const DEV::DeviceArg device = project->device();
+    state << project->file() << device.partNumber() << QString::number(ips.size());
+    for (const QString &path : ips.mid(0, ipsShown)) {
+        const IpcHead head = IpcHead::read(path);
+        state << path << head.type << head.differenceSentence(device);
+    }
+    return state;
+}
+
+void StartPage::applyFont(QWidget *content) const
+{
     const int gap = fontMetrics().height();
-    widget()->layout()->setContentsMargins(2 * gap, gap, 2 * gap, gap);
-    const QList<QLabel *> labels = widget()->findChildren<QLabel *>();
+    content->layout()->setContentsMargins(2 * gap, gap, 2 * gap, gap);
+    const QList<QLabel *> labels = content->findChildren<QLabel *>();
     for (QLabel *label : labels) {
         QFont scaled = font();
         const qreal scale = label->property("scale").toReal();
@@ -111,8 +176,8 @@ void StartPage::applyFont()
 void StartPage::changeEvent(QEvent *event)
 {
     QScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        applyFont();
+    if (event->type() == QEvent::FontChange && widget())
+        applyFont(widget());
 }
 
 void StartPage::showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,
@@ -181,7 +246,8 @@ void StartPage::showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue,
     }
 }
 
-void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue,
+void StartPage::showProject(QVBoxLayout *page, const Project &project, const QStringList &ips,
+                            const IpCatalogue &catalogue,
                             const QList<KeptConfigurations::Item> &kept)
 {
     const DEV::DeviceArg device = project.device();
@@ -191,7 +257,6 @@ void StartPage::showProject(QVBoxLayout *page, const Project &project, const IpC
     page->addSpacing(fontMetrics().height());
     showDrafts(page, project.path(), catalogue, kept);
 
-    const QStringList ips = project.ipFiles();
     const QDir folder(project.path());
     if (!ips.isEmpty())
         page->addWidget(makeLabel(tr("Change an IP of this project"), 1.2, true));

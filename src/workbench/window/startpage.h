@@ -3,6 +3,9 @@
 #include "kept/keptconfigurations.h"
 
 #include <QScrollArea>
+#include <QTimer>
+
+#include <functional>
 
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 
@@ -13,7 +16,7 @@ class IpCatalogue;
 class Project;
 
 // What an empty window says: what can be done next, from no project at all to an IP that is there
-// to be changed.
+// to be changed. It is filled when it is seen, once for all that has changed since.
 class StartPage : public QScrollArea
 {
     Q_OBJECT
@@ -29,9 +32,30 @@ public:
         QString purpose;
     };
 
-    // `project` may be null. Nothing is kept of the arguments.
-    void showState(const Project *project, const IpCatalogue &catalogue, const QStringList &recent,
-                   const QList<KeptConfigurations::Item> &kept, const QVector<Example> &examples);
+    // How it is filled: by a call of showState().
+    void setFiller(const std::function<void()> &filler) { m_filler = filler; }
+    // What it shows is no longer so. It is filled anew when it comes up, or is there and fill() is
+    // called, or, if `soon`, when the event loop has its turn.
+    void outdate(bool soon = false);
+    // At once, if it is seen and there is anything new.
+    void fill();
+
+    // Nothing is filled while one of these lives, and what is new when the last goes.
+    class Hold
+    {
+    public:
+        explicit Hold(StartPage *page);
+        ~Hold();
+        Q_DISABLE_COPY(Hold)
+
+    private:
+        StartPage *m_page;
+    };
+
+    // `project` may be null, with the paths of its configurations. What is shown already stays.
+    void showState(const Project *project, const QStringList &ips, const IpCatalogue &catalogue,
+                   const QStringList &recent, const QList<KeptConfigurations::Item> &kept,
+                   const QVector<Example> &examples);
 
 Q_SIGNALS:
     void newProjectRequested();
@@ -46,22 +70,33 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
+    // All that is shown, apart from what is handed on as it is.
+    static QStringList stateOf(const Project *project, const QStringList &ips,
+                               const IpCatalogue &catalogue,
+                               const QList<KeptConfigurations::Item> &kept);
     // Headings are larger than the user's font.
-    void applyFont();
+    void applyFont(QWidget *content) const;
     void showWelcome(QVBoxLayout *page, const IpCatalogue &catalogue, const QStringList &recent,
                      const QList<KeptConfigurations::Item> &kept, const QVector<Example> &examples);
     void showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,
                         const QVector<Example> &examples);
-    void showProject(QVBoxLayout *page, const Project &project, const IpCatalogue &catalogue,
-                     const QList<KeptConfigurations::Item> &kept);
+    void showProject(QVBoxLayout *page, const Project &project, const QStringList &ips,
+                     const IpCatalogue &catalogue, const QList<KeptConfigurations::Item> &kept);
     // Of those in the folder, which may be empty for all, the drafts.
     void showDrafts(QVBoxLayout *page, const QString &folder, const IpCatalogue &catalogue,
                     const QList<KeptConfigurations::Item> &kept);
     // And what was replaced.
     void showKept(QVBoxLayout *page, const QString &folder,
                   const QList<KeptConfigurations::Item> &kept);
+
+    std::function<void()> m_filler;
+    QTimer m_soon;
+    QStringList m_state; // that is shown
+    bool m_isOutdated = false;
+    int m_holds = 0;
 };
 
 } // namespace Workbench
