@@ -4,6 +4,7 @@
 #include <windowwalk.h>
 
 #include <workbench/catalogue/pluginlist.h>
+#include <workbench/companion/companion.h>
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/findbar.h>
@@ -799,9 +800,10 @@ private:
     }
 
     static constexpr const char *scenes[] = {
-        "start",     "project", "editor",     "results", "log",      "new project", "device",
-        "plug-ins",  "about",   "line",       "guide",   "message",  "kept",        "software",
-        "datasheet", "program", "simulation", "example", "settings", "tools",       "replace"};
+        "start",    "project",  "editor",    "results",   "log",        "new project",
+        "device",   "plug-ins", "about",     "line",      "guide",      "message",
+        "kept",     "software", "datasheet", "program",   "simulation", "example",
+        "settings", "tools",    "replace",   "subsystem", "companion"};
 
     static void addScenes()
     {
@@ -832,7 +834,9 @@ private:
         const ModalWatcher watcher([&](QWidget *modal) {
             if (scene == QLatin1String("tools"))
                 modal->findChild<QTabWidget *>()->setCurrentIndex(1);
-            lookOnce(modal);
+            QTRY_VERIFY(scene != QLatin1String("companion") ||
+                        (window()->companion() && window()->companion()->isVisible()));
+            lookOnce(scene == QLatin1String("companion") ? window()->companion() : modal);
             if (auto *dialog = qobject_cast<QDialog *>(modal))
                 dialog->reject();
         });
@@ -840,6 +844,11 @@ private:
             openEverything();
         if (scene == QLatin1String("new project")) {
             window()->newProject();
+        } else if (scene == QLatin1String("subsystem")) {
+            window()->newSubsystem(0);
+        } else if (scene == QLatin1String("companion")) {
+            m_bench->settings.setValue(QStringLiteral("companion/measure"), false);
+            window()->createSelectedIp(0);
         } else if (scene == QLatin1String("device")) {
             m_bench->action("Device")->trigger();
         } else if (scene == QLatin1String("plug-ins")) {
