@@ -32,6 +32,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTextBlock>
@@ -252,6 +253,20 @@ private Q_SLOTS:
         QVERIFY(label->font().pointSizeF() > heading * 1.9);
         // Both of its texts are as large as the others are.
         QVERIFY(link->heightForWidth(2000) >= 2 * QFontMetrics(large).height());
+    }
+
+    void theStartPageHasTheLargerPartOfASmallWindow()
+    {
+        QFont large = m_font;
+        large.setPointSizeF(m_font.pointSizeF() * 1.25);
+        QApplication::setFont(large);
+        m_bench = std::make_unique<Bench>("taking");
+        QCoreApplication::processEvents();
+        QVERIFY(window()->width() <= window()->screen()->size().width());
+        const auto *dock = window()->findChild<QDockWidget *>(QStringLiteral("catalogueDock"));
+        const auto *page = window()->findChild<StartPage *>();
+        QVERIFY2(page->width() > dock->width() * 4 / 3,
+                 qPrintable(QStringLiteral("%1, %2").arg(page->width()).arg(dock->width())));
     }
 
     void selectedMessagesKeepTheirIcons_data()

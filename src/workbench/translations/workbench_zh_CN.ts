@@ -1385,27 +1385,27 @@
     </message>
     <message>
         <source>More than %1</source>
-        <translation>多于 %1</translation>
+        <translation>多于 %1 处匹配</translation>
     </message>
     <message>
         <source>Matches: %1</source>
-        <translation>匹配：%1</translation>
+        <translation>匹配：%1 处</translation>
     </message>
     <message>
         <source>%1 of more than %2</source>
-        <translation>%1，共 %2 以上</translation>
+        <translation>第 %1 处，共 %2 处以上</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1，共 %2</translation>
+        <translation>第 %1 处，共 %2 处</translation>
     </message>
     <message>
         <source>%1 of %2, continued at the end</source>
-        <translation>%1，共 %2，已从末尾继续</translation>
+        <translation>第 %1 处，共 %2 处，已从末尾继续</translation>
     </message>
     <message>
         <source>%1 of %2, continued at the start</source>
-        <translation>%1，共 %2，已从开头继续</translation>
+        <translation>第 %1 处，共 %2 处，已从开头继续</translation>
     </message>
     <message>
         <source>This file is open for reading. Press Ctrl+E to edit it.</source>
@@ -1425,7 +1425,7 @@
     </message>
     <message>
         <source>Replaced matches: %1.</source>
-        <translation>已替换的匹配：%1。</translation>
+        <translation>已替换 %1 处匹配。</translation>
     </message>
 </context>
 <context>
