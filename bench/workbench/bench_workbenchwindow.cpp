@@ -20,7 +20,8 @@ int main(int argc, char *argv[])
     QApplication::setStyle(new Workbench::ProgramStyle);
     FirstWindow watcher;
     application.installEventFilter(&watcher);
-    QSettings settings(QStringLiteral("/nonexistent/settings.ini"), QSettings::IniFormat);
+    QSettings settings(QCoreApplication::applicationFilePath() + QStringLiteral(".ini"),
+                       QSettings::IniFormat);
     Workbench::IpCatalogue catalogue;
     catalogue.setDataFolders({QStringLiteral(TARVO_SHARE)});
     catalogue.setProbeCache(QCoreApplication::applicationFilePath() + QStringLiteral(".plugins"));

@@ -13,10 +13,12 @@ tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 cd "$tmp"
 fail() { echo "FAILED: $*"; exit 1; }
-# The rules of the buses are held: what breaks one is printed. The runs that are about memories have the same transfers, and are spared
-# the time. Their program has to fit into small ones.
+# The rules of the buses are held: what breaks one is printed. The runs that are about memories or mistakes of a program have the same
+# transfers, and are spared the time. The program of the former has to fit into small memories.
 checkers=$data/simulation/checkers
-watch=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
+rules=(-s bus_watch -DWATCHED=board.dut "-I$checkers" "-y$checkers")
+watch=()
+[[ $case != blocks ]] || watch=("${rules[@]}")
 size=()
 if [[ $case == memor* ]]; then
     watch=(-DFEW_BLOCKS)
@@ -43,7 +45,7 @@ build() { # [FOLDER]: the example's RTL, or that of another sensor-node.ipc, in 
         board=no-debug.v
     fi
     iverilog -g2012 -s board "${watch[@]}" "-I${1:-.}/temp/tv_orix_m1" "-I$data/data/debug" -o board "${sources[@]}" \
-        "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$board"
+        ${watch[0]+"$checkers/bus_watch.v"} "$model/cortex_m1_core_isa.v" "$board"
 }
 
 compile() { # FOLDER: the program from the files of an export
@@ -190,7 +192,7 @@ breaks() { # RULE FILE EXPRESSION: a change of the RTL that breaks a rule of a b
     done
     sed -E "$3" "${sources[i]}" > broken.v
     ! cmp -s broken.v "${sources[i]}" || fail "$3 changes nothing in $2"
-    iverilog -g2012 -s board "${watch[@]}" -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
+    iverilog -g2012 -s board "${rules[@]}" -Itemp/tv_orix_m1 "-I$data/data/debug" -o board "${sources[@]:0:i}" broken.v \
         "${sources[@]:i+1}" "$checkers/bus_watch.v" "$model/cortex_m1_core_isa.v" "$here/board.v"
     result=$(play +firmware=program.elf)
     [[ $result == *"failed: bus rule: $1 ("* ]] || fail "$3 in $2 does not break \"$1\""

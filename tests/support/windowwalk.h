@@ -5,7 +5,7 @@
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QAccessible>
-#include <QAbstractSpinBox>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QCommandLinkButton>
@@ -22,6 +22,11 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <algorithm>
 
 // Looks at a whole window as somebody without a mouse does.
 namespace TestSupport
@@ -60,8 +65,9 @@ struct TabWalk {
                     looks.append(window->grab().toImage());
                 places.append(
                     QRect(focus->mapTo(window, QPoint()), focus->size()).adjusted(-3, -3, 3, 3));
-            } else if (focus && stops.size() == 1 && i > 1) {
-                return; // the only one
+            } else if (focus && stops.size() == 1 &&
+                       i > (qobject_cast<QTextBrowser *>(focus) ? limit - 2 : 1)) {
+                return; // the only one; its links come first
             }
             QTest::keyClick(focus ? focus : window, Qt::Key_Tab);
         }
@@ -153,8 +159,29 @@ inline QStringList unnamed(const QWidget *window)
         const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
         if (isNothing || !interface || interface->role() == QAccessible::NoRole)
             result.append(nameOf(widget));
+        // The button appears with a text.
+        const auto *edit = qobject_cast<QLineEdit *>(widget);
+        const auto *clear =
+            edit && edit->isClearButtonEnabled()
+                ? edit->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction"))
+                : nullptr;
+        if (clear && clear->text().isEmpty())
+            result.append(QStringLiteral("the button that clears ") + nameOf(widget));
     }
     return result;
+}
+
+// Whether a button of a tool bar does what a key or a menu does as well.
+inline bool isShortWay(const QWidget *widget)
+{
+    const auto *button = qobject_cast<const QToolButton *>(widget);
+    if (!button || !button->defaultAction() || !qobject_cast<QToolBar *>(button->parentWidget()))
+        return false;
+    const QAction *action = button->defaultAction();
+    const auto places = action->associatedWidgets();
+    return !action->shortcuts().isEmpty() ||
+           std::any_of(places.begin(), places.end(),
+                       [](QWidget *place) { return qobject_cast<QMenu *>(place); });
 }
 
 // Those that can be used and the walk, which began in their window, does not come to, nor arrow
@@ -163,7 +190,7 @@ inline QStringList unreached(const QWidget *window, const TabWalk &walk)
 {
     QStringList result;
     for (QWidget *widget : interactiveWidgets(window)) {
-        bool isReached = !widget->isEnabled() || walk.stops.contains(widget);
+        bool isReached = !widget->isEnabled() || walk.stops.contains(widget) || isShortWay(widget);
         // Its neighbour stands for all of a row that arrow keys walk along.
         for (const QWidget *stop : walk.stops)
             isReached = isReached || (stop->parentWidget() == widget->parentWidget() &&
@@ -295,7 +322,10 @@ inline QStringList cutTexts(const QWidget *window)
         } else if (const auto *link = qobject_cast<const QCommandLinkButton *>(widget)) {
             tell(link, link->text(), widget->heightForWidth(link->width()), link->height());
         } else if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
-            if (!button->text().isEmpty())
+            const auto *tool = qobject_cast<const QToolButton *>(button);
+            const bool isShown =
+                !tool || tool->icon().isNull() || tool->toolButtonStyle() != Qt::ToolButtonIconOnly;
+            if (isShown && !button->text().isEmpty())
                 tell(button, button->text(), button->sizeHint().width(), button->width());
         } else if (const auto *box = qobject_cast<const QGroupBox *>(widget)) {
             tell(box, box->title(), widthOf(box, box->title()), box->width());

@@ -2,10 +2,12 @@
 
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
+#include <workbench/language/languages.h>
 #include <workbench/settings/externaleditor.h>
 #include <workbench/settings/settingsdialog.h>
 #include <workbench/settings/settingstable.h>
 #include <workbench/settings/toolpaths.h>
+#include <workbench/widgets/assistance.h>
 #include <workbench/widgets/infobar.h>
 
 #include <QCheckBox>
@@ -49,6 +51,27 @@ private Q_SLOTS:
             QVERIFY2(!field->accessibleName().isEmpty() || qobject_cast<QCheckBox *>(field),
                      row.key);
             QCOMPARE(Settings::valueOf(*m_settings, row), Settings::standardOf(row));
+        }
+    }
+
+    // Some languages have the mark of a key in brackets behind the words.
+    void namesAreWordsInEveryLanguage()
+    {
+        static const QRegularExpression mark(QStringLiteral("[&:\\x{ff1a}]|\\([A-Z]\\)"));
+        QCOMPARE(spokenLabel(QStringLiteral("E&xternal editor:")),
+                 QStringLiteral("External editor"));
+        QCOMPARE(spokenLabel(QStringLiteral("Program (of others)")),
+                 QStringLiteral("Program (of others)"));
+        for (const Languages::Choice &choice : Languages::available()) {
+            const Languages language(choice.code);
+            SettingsDialog dialog(*m_settings, nullptr);
+            for (const Settings::Row &row : Settings::rows()) {
+                const auto *field = dialog.findChild<QWidget *>(QLatin1String(row.key));
+                if (qobject_cast<const QCheckBox *>(field))
+                    continue; // its text is its name
+                const QString name = field->accessibleName();
+                QVERIFY2(!name.isEmpty() && !mark.match(name).hasMatch(), qPrintable(name));
+            }
         }
     }
 

@@ -4,6 +4,7 @@
 #include <windowwalk.h>
 
 #include <workbench/catalogue/pluginlist.h>
+#include <workbench/companion/companion.h>
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/findbar.h>
@@ -31,6 +32,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTextBlock>
@@ -251,6 +253,20 @@ private Q_SLOTS:
         QVERIFY(label->font().pointSizeF() > heading * 1.9);
         // Both of its texts are as large as the others are.
         QVERIFY(link->heightForWidth(2000) >= 2 * QFontMetrics(large).height());
+    }
+
+    void theStartPageHasTheLargerPartOfASmallWindow()
+    {
+        QFont large = m_font;
+        large.setPointSizeF(m_font.pointSizeF() * 1.25);
+        QApplication::setFont(large);
+        m_bench = std::make_unique<Bench>("taking");
+        QCoreApplication::processEvents();
+        QVERIFY(window()->width() <= window()->screen()->size().width());
+        const auto *dock = window()->findChild<QDockWidget *>(QStringLiteral("catalogueDock"));
+        const auto *page = window()->findChild<StartPage *>();
+        QVERIFY2(page->width() > dock->width() * 4 / 3,
+                 qPrintable(QStringLiteral("%1, %2").arg(page->width()).arg(dock->width())));
     }
 
     void selectedMessagesKeepTheirIcons_data()
@@ -799,9 +815,10 @@ private:
     }
 
     static constexpr const char *scenes[] = {
-        "start",     "project", "editor",     "results", "log",      "new project", "device",
-        "plug-ins",  "about",   "line",       "guide",   "message",  "kept",        "software",
-        "datasheet", "program", "simulation", "example", "settings", "tools",       "replace"};
+        "start",    "project",  "editor",    "results",   "log",        "new project",
+        "device",   "plug-ins", "about",     "line",      "guide",      "message",
+        "kept",     "software", "datasheet", "program",   "simulation", "example",
+        "settings", "tools",    "replace",   "subsystem", "companion"};
 
     static void addScenes()
     {
@@ -832,7 +849,9 @@ private:
         const ModalWatcher watcher([&](QWidget *modal) {
             if (scene == QLatin1String("tools"))
                 modal->findChild<QTabWidget *>()->setCurrentIndex(1);
-            lookOnce(modal);
+            QTRY_VERIFY(scene != QLatin1String("companion") ||
+                        (window()->companion() && window()->companion()->isVisible()));
+            lookOnce(scene == QLatin1String("companion") ? window()->companion() : modal);
             if (auto *dialog = qobject_cast<QDialog *>(modal))
                 dialog->reject();
         });
@@ -840,6 +859,11 @@ private:
             openEverything();
         if (scene == QLatin1String("new project")) {
             window()->newProject();
+        } else if (scene == QLatin1String("subsystem")) {
+            window()->newSubsystem(0);
+        } else if (scene == QLatin1String("companion")) {
+            m_bench->settings.setValue(QStringLiteral("companion/measure"), false);
+            window()->createSelectedIp(0);
         } else if (scene == QLatin1String("device")) {
             m_bench->action("Device")->trigger();
         } else if (scene == QLatin1String("plug-ins")) {

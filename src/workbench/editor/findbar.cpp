@@ -119,7 +119,7 @@ void FindBar::buildRows()
     m_newText->setPlaceholderText(tr("Replace with"));
     m_newText->setToolTip(tr("With a regular expression: $1 or \\1 is its first group, $0 all of "
                              "it, \\n a line end, \\t a tab"));
-    m_newText->setClearButtonEnabled(true);
+    addClearButton(m_newText);
     m_newText->installEventFilter(this);
     name(m_replace, "replaceButton", tr("Replace"));
     name(m_replaceAll, "replaceAllButton", tr("Replace All"));

@@ -1,6 +1,7 @@
 #include "settingsdialog.h"
 
 #include "toolpaths.h"
+#include "widgets/assistance.h"
 
 #include <ipcore/screenfit.h>
 
@@ -98,8 +99,7 @@ void SettingsDialog::addRow(QFormLayout *form, const Settings::Row &row)
     }
     QWidget *named = field->focusProxy() ? field->focusProxy() : field;
     named->setObjectName(QLatin1String(row.key));
-    QString name = label;
-    named->setAccessibleName(name.remove(u'&').remove(u':'));
+    named->setAccessibleName(spokenLabel(label));
     auto *title = new QLabel(label);
     title->setBuddy(named);
     form->addRow(title, field);
@@ -194,9 +194,7 @@ QWidget *SettingsDialog::makeProgram(const Settings::Row &row)
         if (!file.isEmpty())
             edit->setText(isCommand && file.contains(u' ') ? u'"' + file + u'"' : file);
     });
-    QString label = Settings::labelOf(row);
-    label.remove(u'&').remove(u':');
-    browse->setAccessibleName(tr("Browse for %1").arg(label));
+    browse->setAccessibleName(tr("Browse for %1").arg(spokenLabel(Settings::labelOf(row))));
     m_setters.append([edit](const QVariant &value) { edit->setText(value.toString()); });
     auto *line = new QHBoxLayout;
     line->addWidget(edit, 1);

@@ -675,6 +675,293 @@
         <source>This picture cannot be shown.</source>
         <translation>Dieses Bild kann nicht angezeigt werden.</translation>
     </message>
+    <message>
+        <source>its &quot;state&quot; is no plain text</source>
+        <translation>„state“ ist kein reiner Text</translation>
+    </message>
+    <message>
+        <source>its &quot;reasons&quot; are no plain texts</source>
+        <translation>„reasons“ besteht nicht aus reinen Texten</translation>
+    </message>
+    <message>
+        <source>%1 is no full path</source>
+        <translation>%1 ist kein vollständiger Pfad</translation>
+    </message>
+    <message>
+        <source>its &quot;watched&quot; are no full paths</source>
+        <translation>„watched“ besteht nicht aus vollständigen Pfaden</translation>
+    </message>
+    <message>
+        <source>The plug-in of %1 does not tell what is up to date.</source>
+        <translation>Das Plug-in von %1 sagt nicht, was aktuell ist.</translation>
+    </message>
+    <message>
+        <source>of how many is not known</source>
+        <translation>Gesamtzahl nicht bekannt</translation>
+    </message>
+    <message>
+        <source>between %1 and %2, of how many is not known</source>
+        <translation>zwischen %1 und %2, Gesamtzahl nicht bekannt</translation>
+    </message>
+    <message>
+        <source>The expression is wrong at character %1: %2.</source>
+        <translation>Der Ausdruck ist bei Zeichen %1 fehlerhaft: %2.</translation>
+    </message>
+    <message>
+        <source>The expression cannot be searched for as whole words: %1.</source>
+        <translation>Nach dem Ausdruck kann nicht als ganzem Wort gesucht werden: %1.</translation>
+    </message>
+    <message>
+        <source>The replacement names group %1; groups of the expression: %2.</source>
+        <translation>Der Ersatz nennt die Gruppe %1; Gruppen des Ausdrucks: %2.</translation>
+    </message>
+    <message>
+        <source>Not all of its files have been generated.</source>
+        <translation>Nicht alle ihrer Dateien sind generiert.</translation>
+    </message>
+    <message>
+        <source>Its generated files are out of date.</source>
+        <translation>Ihre generierten Dateien sind veraltet.</translation>
+    </message>
+    <message>
+        <source>Generated files were changed by hand.</source>
+        <translation>Generierte Dateien wurden von Hand geändert.</translation>
+    </message>
+    <message>
+        <source>Files that no generation is known to have made stand where its results belong.</source>
+        <translation>Am Ort ihrer Ergebnisse liegen Dateien, die von keiner bekannten Generierung stammen.</translation>
+    </message>
+    <message>
+        <source>It is newer than the files that were generated from it.</source>
+        <translation>Sie ist neuer als die Dateien, die aus ihr generiert wurden.</translation>
+    </message>
+    <message>
+        <source>The state of its generated files: %1.</source>
+        <translation>Zustand ihrer generierten Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Resources…</source>
+        <translation>&amp;Ressourcen…</translation>
+    </message>
+    <message>
+        <source>&amp;Cells…</source>
+        <translation>&amp;Zellen…</translation>
+    </message>
+    <message>
+        <source>&amp;Ports…</source>
+        <translation>&amp;Ports…</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; must end in .csv, .json or .md.</source>
+        <translation>Der Name der Tabelle „%1“ muss auf .csv, .json oder .md enden.</translation>
+    </message>
+    <message>
+        <source>No command is set for it.</source>
+        <translation>Es ist kein Befehl für ihn eingestellt.</translation>
+    </message>
+    <message>
+        <source>The program &quot;%1&quot; does not start.</source>
+        <translation>Das Programm „%1“ startet nicht.</translation>
+    </message>
+    <message>
+        <source>Cannot open the external editor. %1</source>
+        <translation>Der externe Editor kann nicht geöffnet werden. %1</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Schriftart:</translation>
+    </message>
+    <message>
+        <source>Font si&amp;ze:</source>
+        <translation>Schrift&amp;größe:</translation>
+    </message>
+    <message>
+        <source>&amp;Tab width:</source>
+        <translation>&amp;Tabulatorbreite:</translation>
+    </message>
+    <message>
+        <source>Show line &amp;numbers</source>
+        <translation>Zeilen&amp;nummern anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Wrap long lines</source>
+        <translation>Lange Zeilen &amp;umbrechen</translation>
+    </message>
+    <message>
+        <source>E&amp;xternal editor:</source>
+        <translation>E&amp;xterner Editor:</translation>
+    </message>
+    <message>
+        <source>&amp;Yosys:</source>
+        <translation>&amp;Yosys:</translation>
+    </message>
+    <message>
+        <source>&amp;Synplify Pro:</source>
+        <translation>&amp;Synplify Pro:</translation>
+    </message>
+    <message>
+        <source>&amp;Icarus Verilog, compiler:</source>
+        <translation>&amp;Icarus Verilog, Compiler:</translation>
+    </message>
+    <message>
+        <source>Icarus Verilog, &amp;run time:</source>
+        <translation>Icarus Verilog, &amp;Laufzeitprogramm:</translation>
+    </message>
+    <message>
+        <source>&amp;Verilator:</source>
+        <translation>&amp;Verilator:</translation>
+    </message>
+    <message>
+        <source>C co&amp;mpiler for Arm:</source>
+        <translation>&amp;C-Compiler für Arm:</translation>
+    </message>
+    <message>
+        <source>Viewer of &amp;waves:</source>
+        <translation>&amp;Betrachter für Wellenformen:</translation>
+    </message>
+    <message>
+        <source>&amp;Open at the start what was open at the end</source>
+        <translation>Beim Start &amp;öffnen, was am Ende offen war</translation>
+    </message>
+    <message>
+        <source>Run the &amp;synthesis in the background beside the dialog of an IP</source>
+        <translation>Neben dem Dialog einer IP im Hintergrund die &amp;Synthese ausführen</translation>
+    </message>
+    <message>
+        <source>Seconds &amp;without a change before it:</source>
+        <translation>Sekunden ohne Änderung da&amp;vor:</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage, from the next start on:</source>
+        <translation>Sp&amp;rache, ab dem nächsten Start:</translation>
+    </message>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>&amp;Editor</translation>
+    </message>
+    <message>
+        <source>Too&amp;ls</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>&amp;Programm</translation>
+    </message>
+    <message>
+        <source>That of the system</source>
+        <translation>Die des Systems</translation>
+    </message>
+    <message>
+        <source>This is not the whole path of a program.</source>
+        <translation>Dies ist kein vollständiger Pfad eines Programms.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>This is no file.</source>
+        <translation>Dies ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>This file is no program: it may not be executed.</source>
+        <translation>Diese Datei ist kein Programm: Sie darf nicht ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>No program &quot;%1&quot; was found on PATH.</source>
+        <translation>Auf dem PATH wurde kein Programm „%1“ gefunden.</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation>Text löschen</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist.</source>
+        <translation>Der Ordner „%1“ existiert nicht.</translation>
+    </message>
+    <message>
+        <source>No program of the desktop shows the folder &quot;%1&quot;.</source>
+        <translation>Kein Programm des Desktops zeigt den Ordner „%1“ an.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::AboutDialog</name>
+    <message>
+        <source>About Tarvo Workbench</source>
+        <translation>Über Tarvo Workbench</translation>
+    </message>
+    <message>
+        <source>Tarvo Workbench %1</source>
+        <translation>Tarvo Workbench %1</translation>
+    </message>
+    <message>
+        <source>Configures and generates IPs for FPGA designs.</source>
+        <translation>Konfiguriert und generiert IPs für FPGA-Entwürfe.</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2), %3</source>
+        <translation>Qt %1 (gebaut mit %2), %3</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>IPs: none</source>
+        <translation>IPs: keine</translation>
+    </message>
+    <message>
+        <source>IP: %1</source>
+        <translation>IP: %1</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>Komponenten</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Komponente</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Zweck</translation>
+    </message>
+    <message>
+        <source>Debian package</source>
+        <translation>Debian-Paket</translation>
+    </message>
+    <message>
+        <source>&amp;Components and their licences:</source>
+        <translation>&amp;Komponenten und ihre Lizenzen:</translation>
+    </message>
+    <message>
+        <source>Co&amp;py All</source>
+        <translation>&amp;Alles kopieren</translation>
+    </message>
+    <message>
+        <source>Puts all of this on the clipboard as text, for a report</source>
+        <translation>Legt dies alles als Text in die Zwischenablage, für einen Bericht</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
+    </message>
+    <message>
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message>
+        <source>does not tell</source>
+        <translation>keine Angabe</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CatalogueModel</name>
@@ -720,6 +1007,10 @@
     <message>
         <source>Select an IP to see what it is.</source>
         <translation>Wählen Sie eine IP aus, um zu sehen, was sie ist.</translation>
+    </message>
+    <message>
+        <source>Create IP…</source>
+        <translation>IP erzeugen…</translation>
     </message>
 </context>
 <context>
@@ -1054,8 +1345,88 @@
         <translation>Nicht gefunden</translation>
     </message>
     <message>
-        <source>Continued at the other end</source>
-        <translation>Am anderen Ende fortgesetzt</translation>
+        <source>&amp;Replace</source>
+        <translation>E&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Ganze Wörter</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Up and Down bring back what was looked for before</source>
+        <translation>Auf und Ab holen frühere Suchtexte zurück</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>With a regular expression: $1 or \1 is its first group, $0 all of it, \n a line end, \t a tab</source>
+        <translation>Bei einem regulären Ausdruck: $1 oder \1 ist die erste Gruppe, $0 der ganze Treffer, \n ein Zeilenende, \t ein Tabulator</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>The search ends at line %1: there the expression takes too many steps.</source>
+        <translation>Die Suche endet in Zeile %1: Dort braucht der Ausdruck zu viele Schritte.</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>Suche läuft…</translation>
+    </message>
+    <message>
+        <source>More than %1</source>
+        <translation>Mehr als %1</translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation>Treffer: %1</translation>
+    </message>
+    <message>
+        <source>%1 of more than %2</source>
+        <translation>%1 von mehr als %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2, continued at the end</source>
+        <translation>%1 von %2, vom Ende her fortgesetzt</translation>
+    </message>
+    <message>
+        <source>%1 of %2, continued at the start</source>
+        <translation>%1 von %2, am Anfang fortgesetzt</translation>
+    </message>
+    <message>
+        <source>This file is open for reading. Press Ctrl+E to edit it.</source>
+        <translation>Diese Datei ist zum Lesen geöffnet. Mit Strg+E bearbeiten Sie sie.</translation>
+    </message>
+    <message>
+        <source>Nothing was replaced: there are more than %1 matches.</source>
+        <translation>Nichts wurde ersetzt: Es gibt mehr als %1 Treffer.</translation>
+    </message>
+    <message>
+        <source>Nothing was replaced: at line %1 the expression takes too many steps.</source>
+        <translation>Nichts wurde ersetzt: In Zeile %1 braucht der Ausdruck zu viele Schritte.</translation>
+    </message>
+    <message>
+        <source>Replacing…</source>
+        <translation>Ersetzung läuft…</translation>
+    </message>
+    <message>
+        <source>Replaced matches: %1.</source>
+        <translation>Ersetzte Treffer: %1.</translation>
     </message>
 </context>
 <context>
@@ -1094,6 +1465,54 @@
         <source>&amp;Forward</source>
         <translation>&amp;Vorwärts</translation>
     </message>
+    <message>
+        <source>&amp;Larger</source>
+        <translation>&amp;Größer</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller</source>
+        <translation>&amp;Kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;Usual Size</source>
+        <translation>&amp;Normale Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Places in the text</source>
+        <translation>Fundstellen im Text</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>Im Text suchen</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2</source>
+        <translation>Die ersten %1 von %2</translation>
+    </message>
+    <message>
+        <source>Places: %1</source>
+        <translation>Fundstellen: %1</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::InfoBar</name>
@@ -1108,10 +1527,6 @@
 </context>
 <context>
     <name>Workbench::IpActions</name>
-    <message>
-        <source>The dialog of &quot;%1&quot; was closed without OK. Its changes are kept.</source>
-        <translation>Der Dialog von „%1“ wurde ohne OK geschlossen. Die Änderungen sind aufbewahrt.</translation>
-    </message>
     <message>
         <source>&amp;Bring Back…</source>
         <translation>&amp;Zurückholen…</translation>
@@ -1217,6 +1632,10 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
         <source>&quot;%1&quot; is still made for the device %2.</source>
         <translation>„%1“ ist noch für den Baustein %2.</translation>
     </message>
+    <message>
+        <source>The dialog of &quot;%1&quot; was closed without OK. Its changes are kept as a draft.</source>
+        <translation>Der Dialog von „%1“ wurde ohne OK geschlossen. Seine Änderungen sind als Zwischenstand aufbewahrt.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::IpSession</name>
@@ -1240,10 +1659,6 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
 <context>
     <name>Workbench::KeptConfigurations</name>
     <message>
-        <source>Dialog closed without OK, %1</source>
-        <translation>Dialog ohne OK geschlossen, %1</translation>
-    </message>
-    <message>
         <source>Replaced %1</source>
         <translation>Ersetzt, %1</translation>
     </message>
@@ -1259,16 +1674,23 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
         <source>The copy is gone.</source>
         <translation>Die Kopie ist nicht mehr da.</translation>
     </message>
+    <message>
+        <source>Left without OK, %1</source>
+        <translation>Ohne OK verlassen, %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more before</source>
+        <translation>
+            <numerusform>%1, davor %n weiterer</numerusform>
+            <numerusform>%1, davor %n weitere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Workbench::KeptDialog</name>
     <message>
         <source>Bring Back a Configuration</source>
         <translation>Konfiguration zurückholen</translation>
-    </message>
-    <message>
-        <source>Before a configuration is replaced, a copy is kept; and so is what was in a dialog that was closed without OK. The copies are whole files in &quot;%1&quot;.</source>
-        <translation>Bevor eine Konfiguration ersetzt wird, wird eine Kopie aufbewahrt; ebenso, was in einem Dialog stand, der ohne OK geschlossen wurde. Die Kopien sind ganze Dateien in „%1“.</translation>
     </message>
     <message>
         <source>Kept configurations</source>
@@ -1299,12 +1721,20 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
         <translation>&amp;Löschen</translation>
     </message>
     <message>
-        <source>closed without OK</source>
-        <translation>ohne OK geschlossen</translation>
-    </message>
-    <message>
         <source>replaced</source>
         <translation>ersetzt</translation>
+    </message>
+    <message>
+        <source>Before a configuration is replaced, a copy is kept; and so is what was in a dialog that was left without OK. The copies are whole files in &quot;%1&quot;.</source>
+        <translation>Bevor eine Konfiguration ersetzt wird, wird eine Kopie aufbewahrt; ebenso der Inhalt eines Dialogs, der ohne OK verlassen wurde. Die Kopien sind vollständige Dateien in „%1“.</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>left without OK</source>
+        <translation>ohne OK verlassen</translation>
     </message>
 </context>
 <context>
@@ -1684,30 +2114,6 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>About Tarvo Workbench</source>
-        <translation>Über Tarvo Workbench</translation>
-    </message>
-    <message>
-        <source>Tarvo Workbench %1</source>
-        <translation>Tarvo Workbench %1</translation>
-    </message>
-    <message>
-        <source>Configures and generates IPs for FPGA designs.
-
-IPs: %1
-Qt %2 (built with %3)
-Settings: %4</source>
-        <translation>Konfiguriert und generiert IPs für FPGA-Entwürfe.
-
-IPs: %1
-Qt %2 (gebaut mit %3)
-Einstellungen: %4</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keine</translation>
-    </message>
-    <message>
         <source>Go to Line</source>
         <translation>Gehe zu Zeile</translation>
     </message>
@@ -1730,6 +2136,115 @@ Einstellungen: %4</translation>
     <message>
         <source>&amp;Keep Running</source>
         <translation>&amp;Weiterlaufen lassen</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>an action and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reopen the &amp;Last Project at Start</source>
+        <translation>Beim Start letztes &amp;Projekt wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Comes back to the project and its tabs when the workbench is started</source>
+        <translation>Kehrt beim Start der Workbench zum Projekt und seinen Tabs zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Block Diagram…</source>
+        <translation>&amp;Blockdiagramm…</translation>
+    </message>
+    <message>
+        <source>Writes the diagram of the IP that is selected in the project as SVG, PNG or PDF</source>
+        <translation>Schreibt das Diagramm der im Projekt ausgewählten IP als SVG, PNG oder PDF</translation>
+    </message>
+    <message>
+        <source>Writes a table of the last run as CSV, JSON or Markdown</source>
+        <translation>Schreibt eine Tabelle des letzten Laufs als CSV, JSON oder Markdown</translation>
+    </message>
+    <message>
+        <source>Rep&amp;lace…</source>
+        <translation>Erse&amp;tzen…</translation>
+    </message>
+    <message>
+        <source>Open in E&amp;xternal Editor</source>
+        <translation>Im e&amp;xternen Editor öffnen</translation>
+    </message>
+    <message>
+        <source>Starts the program that the settings name, with the file and line</source>
+        <translation>Startet das Programm aus den Einstellungen mit Datei und Zeile</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>E&amp;instellungen…</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>&amp;Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Folder</source>
+        <translation>Or&amp;dner öffnen</translation>
+    </message>
+    <message>
+        <source>Shows the folder of what is selected in the file manager</source>
+        <translation>Zeigt den Ordner der Auswahl im Dateimanager</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>%1[*] - %2 - Tarvo Workbench</source>
+        <translation>%1[*] - %2 - Tarvo Workbench</translation>
+    </message>
+    <message>
+        <source>%1[*] - Tarvo Workbench</source>
+        <translation>%1[*] - Tarvo Workbench</translation>
+    </message>
+    <message>
+        <source>The last starts ended while they opened what was open before, so nothing is opened now.</source>
+        <translation>Die letzten Starts endeten beim Öffnen dessen, was zuvor offen war; daher wird jetzt nichts geöffnet.</translation>
+    </message>
+    <message>
+        <source>&amp;Open It All the Same</source>
+        <translation>Trotzdem ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>The project of the last time is not opened. %1</source>
+        <translation>Das Projekt vom letzten Mal wird nicht geöffnet. %1</translation>
+    </message>
+    <message>
+        <source>This file is generated from &quot;%1&quot;. The next generation writes it anew, and keeps what you change here in a copy beside it.</source>
+        <translation>Diese Datei ist aus „%1“ generiert. Die nächste Generierung schreibt sie neu und bewahrt Ihre Änderungen in einer Kopie daneben auf.</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Configuration</source>
+        <translation>&amp;Konfiguration öffnen</translation>
+    </message>
+    <message>
+        <source>Export Block Diagram</source>
+        <translation>Blockdiagramm exportieren</translation>
+    </message>
+    <message>
+        <source>Pictures (*.svg *.png *.pdf)</source>
+        <translation>Bilder (*.svg *.png *.pdf)</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Tabelle exportieren</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv *.json *.md)</source>
+        <translation>Tabellen (*.csv *.json *.md)</translation>
     </message>
 </context>
 <context>
@@ -1970,6 +2485,14 @@ Einstellungen: %4</translation>
     <message>
         <source>Makes the project in the existing folder %1; its files stay as they are</source>
         <translation>Legt das Projekt im vorhandenen Ordner %1 an; dessen Dateien bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>New Subsystem: %1</source>
+        <translation>Neues Subsystem: %1</translation>
+    </message>
+    <message>
+        <source>Create and Configure</source>
+        <translation>Anlegen und konfigurieren</translation>
     </message>
 </context>
 <context>
@@ -2460,10 +2983,6 @@ Klick oder Leertaste: auf high, auf low oder gar nicht treiben</translation>
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>%1. %2</source>
-        <translation>%1. %2</translation>
-    </message>
-    <message>
         <source>%1 does not exist</source>
         <translation>%1 existiert nicht</translation>
     </message>
@@ -2474,6 +2993,18 @@ Project &gt; Move to Device… moves it.</source>
         <translation>%1
 %2
 Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>a file and what is to be said of it</comment>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
@@ -2641,6 +3172,78 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
     <message>
         <source>%1 (of an earlier run)</source>
         <translation>%1 (aus einem früheren Lauf)</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SessionKeeper</name>
+    <message numerus="yes">
+        <source>%n tab(s) of the last time cannot be shown again: %1, …</source>
+        <translation>
+            <numerusform>%n Tab vom letzten Mal kann nicht wieder angezeigt werden: %1, …</numerusform>
+            <numerusform>%n Tabs vom letzten Mal können nicht wieder angezeigt werden: %1, …</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tab(s) of the last time cannot be shown again: %1.</source>
+        <translation>
+            <numerusform>%n Tab vom letzten Mal kann nicht wieder angezeigt werden: %1.</numerusform>
+            <numerusform>%n Tabs vom letzten Mal können nicht wieder angezeigt werden: %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Restore &amp;Defaults</source>
+        <translation>Stan&amp;dardwerte wiederherstellen</translation>
+    </message>
+    <message>
+        <source>That of the desktop</source>
+        <translation>Die des Desktops</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>The fixed font of the desktop</source>
+        <translation>Die Festbreitenschrift des Desktops</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>%1 The program on PATH is used.</source>
+        <translation>%1 Das Programm auf dem PATH wird verwendet.</translation>
+    </message>
+    <message>
+        <source>%f stands for the file, %l for the line</source>
+        <translation>%f steht für die Datei, %l für die Zeile</translation>
+    </message>
+    <message>
+        <source>No program &quot;%1&quot; is on PATH</source>
+        <translation>Kein Programm „%1“ auf dem PATH</translation>
+    </message>
+    <message>
+        <source>From PATH: %1</source>
+        <translation>Vom PATH: %1</translation>
+    </message>
+    <message>
+        <source>This program is used</source>
+        <translation>Dieses Programm wird verwendet</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Browse for %1</source>
+        <translation>Durchsuchen: %1</translation>
     </message>
 </context>
 <context>
@@ -3130,8 +3733,35 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
         <translation>Alle aufbewahrten Konfigurationen…</translation>
     </message>
     <message>
-        <source>What was replaced, or was in a dialog that was closed without OK.</source>
-        <translation>Was ersetzt wurde oder in einem Dialog stand, der ohne OK geschlossen wurde.</translation>
+        <source>New subsystem: %1 %2…</source>
+        <translation>Neues Subsystem: %1 %2…</translation>
+    </message>
+    <message>
+        <source>Choose a device; then its dialog opens.</source>
+        <translation>Wählen Sie einen Baustein; dann öffnet sich der Dialog.</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>Erste Schritte</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more are in the tree of the project.</source>
+        <translation>
+            <numerusform>%n weitere ist im Baum des Projekts.</numerusform>
+            <numerusform>%n weitere sind im Baum des Projekts.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on with a draft</source>
+        <translation>Mit einem Zwischenstand weiterarbeiten</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>What was replaced, or was in a dialog that was left without OK.</source>
+        <translation>Was ersetzt wurde oder in einem Dialog stand, der ohne OK verlassen wurde.</translation>
     </message>
 </context>
 <context>
@@ -3194,6 +3824,29 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
     <message>
         <source>The dialog cannot go there now.</source>
         <translation>Der Dialog kann jetzt nicht dorthin gehen.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::TabMenu</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Close the &amp;Others</source>
+        <translation>&amp;Andere schließen</translation>
+    </message>
+    <message>
+        <source>Show in the P&amp;roject</source>
+        <translation>Im P&amp;rojekt anzeigen</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Folder</source>
+        <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
     </message>
 </context>
 </TS>

@@ -22,6 +22,16 @@
     </message>
 </context>
 <context>
+    <name>Workbench::KeptConfigurations</name>
+    <message numerus="yes">
+        <source>%1, and %n more before</source>
+        <translation>
+            <numerusform>%1, and %n more before</numerusform>
+            <numerusform>%1, and %n more before</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Workbench::MessageModel</name>
     <message numerus="yes">
         <source>%1 (%n times)</source>
@@ -52,12 +62,39 @@
     </message>
 </context>
 <context>
+    <name>Workbench::ProjectModel</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Workbench::ResultPage</name>
     <message numerus="yes">
         <source>Primitives (%n kinds)</source>
         <translation>
             <numerusform>Primitives (%n kind)</numerusform>
             <numerusform>Primitives (%n kinds)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SessionKeeper</name>
+    <message numerus="yes">
+        <source>%n tab(s) of the last time cannot be shown again: %1, …</source>
+        <translation>
+            <numerusform>%n tab of the last time cannot be shown again: %1, …</numerusform>
+            <numerusform>%n tabs of the last time cannot be shown again: %1, …</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tab(s) of the last time cannot be shown again: %1.</source>
+        <translation>
+            <numerusform>%n tab of the last time cannot be shown again: %1.</numerusform>
+            <numerusform>%n tabs of the last time cannot be shown again: %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -89,6 +126,16 @@
         <translation>
             <numerusform>%n file of an earlier export is removed.</numerusform>
             <numerusform>%n files of earlier exports are removed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::StartPage</name>
+    <message numerus="yes">
+        <source>%n more are in the tree of the project.</source>
+        <translation>
+            <numerusform>%n more is in the tree of the project.</numerusform>
+            <numerusform>%n more are in the tree of the project.</numerusform>
         </translation>
     </message>
 </context>

@@ -675,6 +675,293 @@
         <source>This picture cannot be shown.</source>
         <translation>此图片无法显示。</translation>
     </message>
+    <message>
+        <source>its &quot;state&quot; is no plain text</source>
+        <translation>其 “state” 不是纯文本</translation>
+    </message>
+    <message>
+        <source>its &quot;reasons&quot; are no plain texts</source>
+        <translation>其 “reasons” 不是纯文本</translation>
+    </message>
+    <message>
+        <source>%1 is no full path</source>
+        <translation>%1 不是完整路径</translation>
+    </message>
+    <message>
+        <source>its &quot;watched&quot; are no full paths</source>
+        <translation>其 “watched” 不是完整路径</translation>
+    </message>
+    <message>
+        <source>The plug-in of %1 does not tell what is up to date.</source>
+        <translation>%1 的插件没有说明哪些内容是最新的。</translation>
+    </message>
+    <message>
+        <source>of how many is not known</source>
+        <translation>总数未知</translation>
+    </message>
+    <message>
+        <source>between %1 and %2, of how many is not known</source>
+        <translation>%1 至 %2 之间，总数未知</translation>
+    </message>
+    <message>
+        <source>The expression is wrong at character %1: %2.</source>
+        <translation>表达式在第 %1 个字符处有误：%2。</translation>
+    </message>
+    <message>
+        <source>The expression cannot be searched for as whole words: %1.</source>
+        <translation>无法按全词搜索该表达式：%1。</translation>
+    </message>
+    <message>
+        <source>The replacement names group %1; groups of the expression: %2.</source>
+        <translation>替换文本引用了第 %1 组；表达式的组数：%2。</translation>
+    </message>
+    <message>
+        <source>Not all of its files have been generated.</source>
+        <translation>它的文件尚未全部生成。</translation>
+    </message>
+    <message>
+        <source>Its generated files are out of date.</source>
+        <translation>它生成的文件已过时。</translation>
+    </message>
+    <message>
+        <source>Generated files were changed by hand.</source>
+        <translation>生成的文件已被手工修改。</translation>
+    </message>
+    <message>
+        <source>Files that no generation is known to have made stand where its results belong.</source>
+        <translation>在其结果的位置有并非由任何已知的生成所写的文件。</translation>
+    </message>
+    <message>
+        <source>It is newer than the files that were generated from it.</source>
+        <translation>它比由它生成的文件更新。</translation>
+    </message>
+    <message>
+        <source>The state of its generated files: %1.</source>
+        <translation>它生成的文件的状态：%1。</translation>
+    </message>
+    <message>
+        <source>&amp;Resources…</source>
+        <translation>资源(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cells…</source>
+        <translation>单元(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Ports…</source>
+        <translation>端口(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>The table &quot;%1&quot; must end in .csv, .json or .md.</source>
+        <translation>表格 “%1” 必须以 .csv、.json 或 .md 结尾。</translation>
+    </message>
+    <message>
+        <source>No command is set for it.</source>
+        <translation>没有为其设置命令。</translation>
+    </message>
+    <message>
+        <source>The program &quot;%1&quot; does not start.</source>
+        <translation>程序 “%1” 无法启动。</translation>
+    </message>
+    <message>
+        <source>Cannot open the external editor. %1</source>
+        <translation>无法打开外部编辑器。%1</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>字体(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Font si&amp;ze:</source>
+        <translation>字号(&amp;Z)：</translation>
+    </message>
+    <message>
+        <source>&amp;Tab width:</source>
+        <translation>制表符宽度(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Show line &amp;numbers</source>
+        <translation>显示行号(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Wrap long lines</source>
+        <translation>长行自动换行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>E&amp;xternal editor:</source>
+        <translation>外部编辑器(&amp;X)：</translation>
+    </message>
+    <message>
+        <source>&amp;Yosys:</source>
+        <translation>&amp;Yosys：</translation>
+    </message>
+    <message>
+        <source>&amp;Synplify Pro:</source>
+        <translation>&amp;Synplify Pro：</translation>
+    </message>
+    <message>
+        <source>&amp;Icarus Verilog, compiler:</source>
+        <translation>Icarus Verilog 编译器(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>Icarus Verilog, &amp;run time:</source>
+        <translation>Icarus Verilog 运行程序(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Verilator:</source>
+        <translation>&amp;Verilator：</translation>
+    </message>
+    <message>
+        <source>C co&amp;mpiler for Arm:</source>
+        <translation>Arm 的 C 编译器(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Viewer of &amp;waves:</source>
+        <translation>波形查看器(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>&amp;Open at the start what was open at the end</source>
+        <translation>启动时打开上次结束时打开的内容(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Run the &amp;synthesis in the background beside the dialog of an IP</source>
+        <translation>在 IP 的对话框旁于后台运行综合(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Seconds &amp;without a change before it:</source>
+        <translation>此前无改动的秒数(&amp;W)：</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage, from the next start on:</source>
+        <translation>语言，下次启动起生效(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>&amp;Editor</source>
+        <translation>编辑器(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Too&amp;ls</source>
+        <translation>工具(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Program</source>
+        <translation>程序(&amp;P)</translation>
+    </message>
+    <message>
+        <source>That of the system</source>
+        <translation>系统的语言</translation>
+    </message>
+    <message>
+        <source>This is not the whole path of a program.</source>
+        <translation>这不是程序的完整路径。</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>没有这个文件。</translation>
+    </message>
+    <message>
+        <source>This is no file.</source>
+        <translation>这不是文件。</translation>
+    </message>
+    <message>
+        <source>This file is no program: it may not be executed.</source>
+        <translation>此文件不是程序：不允许执行。</translation>
+    </message>
+    <message>
+        <source>No program &quot;%1&quot; was found on PATH.</source>
+        <translation>在 PATH 中没有找到程序 “%1”。</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation>清除文字</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist.</source>
+        <translation>文件夹 “%1” 不存在。</translation>
+    </message>
+    <message>
+        <source>No program of the desktop shows the folder &quot;%1&quot;.</source>
+        <translation>桌面没有能显示文件夹 “%1” 的程序。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::AboutDialog</name>
+    <message>
+        <source>About Tarvo Workbench</source>
+        <translation>关于 Tarvo Workbench</translation>
+    </message>
+    <message>
+        <source>Tarvo Workbench %1</source>
+        <translation>Tarvo Workbench %1</translation>
+    </message>
+    <message>
+        <source>Configures and generates IPs for FPGA designs.</source>
+        <translation>为 FPGA 设计配置并生成 IP。</translation>
+    </message>
+    <message>
+        <source>Qt %1 (built with %2), %3</source>
+        <translation>Qt %1（构建时为 %2），%3</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>设置：%1</translation>
+    </message>
+    <message>
+        <source>IPs: none</source>
+        <translation>IP：无</translation>
+    </message>
+    <message>
+        <source>IP: %1</source>
+        <translation>IP：%1</translation>
+    </message>
+    <message>
+        <source>Components</source>
+        <translation>组件</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>组件</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>许可证</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>用途</translation>
+    </message>
+    <message>
+        <source>Debian package</source>
+        <translation>Debian 软件包</translation>
+    </message>
+    <message>
+        <source>&amp;Components and their licences:</source>
+        <translation>组件及其许可证(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Co&amp;py All</source>
+        <translation>全部复制(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Puts all of this on the clipboard as text, for a report</source>
+        <translation>把以上全部内容作为文本放入剪贴板，供报告使用</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message>
+        <source>does not tell</source>
+        <translation>未说明</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CatalogueModel</name>
@@ -720,6 +1007,10 @@
     <message>
         <source>Select an IP to see what it is.</source>
         <translation>选择一个 IP 以查看其说明。</translation>
+    </message>
+    <message>
+        <source>Create IP…</source>
+        <translation>创建 IP…</translation>
     </message>
 </context>
 <context>
@@ -1053,8 +1344,88 @@
         <translation>未找到</translation>
     </message>
     <message>
-        <source>Continued at the other end</source>
-        <translation>已从另一端继续</translation>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>全部替换</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>全词匹配</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>正则表达式</translation>
+    </message>
+    <message>
+        <source>Up and Down bring back what was looked for before</source>
+        <translation>用上、下方向键取回以前查找的内容</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>替换为</translation>
+    </message>
+    <message>
+        <source>With a regular expression: $1 or \1 is its first group, $0 all of it, \n a line end, \t a tab</source>
+        <translation>使用正则表达式时：$1 或 \1 是其第一组，$0 是整个匹配，\n 是行尾，\t 是制表符</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>The search ends at line %1: there the expression takes too many steps.</source>
+        <translation>搜索在第 %1 行结束：表达式在该处所需步骤过多。</translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message>
+        <source>More than %1</source>
+        <translation>多于 %1 处匹配</translation>
+    </message>
+    <message>
+        <source>Matches: %1</source>
+        <translation>匹配：%1 处</translation>
+    </message>
+    <message>
+        <source>%1 of more than %2</source>
+        <translation>第 %1 处，共 %2 处以上</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 处，共 %2 处</translation>
+    </message>
+    <message>
+        <source>%1 of %2, continued at the end</source>
+        <translation>第 %1 处，共 %2 处，已从末尾继续</translation>
+    </message>
+    <message>
+        <source>%1 of %2, continued at the start</source>
+        <translation>第 %1 处，共 %2 处，已从开头继续</translation>
+    </message>
+    <message>
+        <source>This file is open for reading. Press Ctrl+E to edit it.</source>
+        <translation>此文件以只读方式打开。按 Ctrl+E 进行编辑。</translation>
+    </message>
+    <message>
+        <source>Nothing was replaced: there are more than %1 matches.</source>
+        <translation>没有替换任何内容：匹配多于 %1 处。</translation>
+    </message>
+    <message>
+        <source>Nothing was replaced: at line %1 the expression takes too many steps.</source>
+        <translation>没有替换任何内容：表达式在第 %1 行所需步骤过多。</translation>
+    </message>
+    <message>
+        <source>Replacing…</source>
+        <translation>正在替换…</translation>
+    </message>
+    <message>
+        <source>Replaced matches: %1.</source>
+        <translation>已替换 %1 处匹配。</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1464,54 @@
         <source>&amp;Forward</source>
         <translation>前进(&amp;F)</translation>
     </message>
+    <message>
+        <source>&amp;Larger</source>
+        <translation>放大(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller</source>
+        <translation>缩小(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Usual Size</source>
+        <translation>正常大小(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>目录(&amp;C)</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>查找(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+    <message>
+        <source>Places in the text</source>
+        <translation>文中的位置</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>在文中查找</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>The first %1 of %2</source>
+        <translation>前 %1 处，共 %2 处</translation>
+    </message>
+    <message>
+        <source>Places: %1</source>
+        <translation>位置：%1</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::InfoBar</name>
@@ -1107,10 +1526,6 @@
 </context>
 <context>
     <name>Workbench::IpActions</name>
-    <message>
-        <source>The dialog of &quot;%1&quot; was closed without OK. Its changes are kept.</source>
-        <translation>“%1” 的对话框未按“OK”而关闭。其中的修改已保留。</translation>
-    </message>
     <message>
         <source>&amp;Bring Back…</source>
         <translation>恢复(&amp;B)…</translation>
@@ -1215,6 +1630,10 @@ A copy of the present configuration is kept as well.</source>
         <source>&quot;%1&quot; is still made for the device %2.</source>
         <translation>“%1” 仍用于器件 %2。</translation>
     </message>
+    <message>
+        <source>The dialog of &quot;%1&quot; was closed without OK. Its changes are kept as a draft.</source>
+        <translation>“%1” 的对话框未按“OK”即关闭。其中的修改保留为草稿。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::IpSession</name>
@@ -1238,10 +1657,6 @@ A copy of the present configuration is kept as well.</source>
 <context>
     <name>Workbench::KeptConfigurations</name>
     <message>
-        <source>Dialog closed without OK, %1</source>
-        <translation>对话框未按“OK”而关闭，%1</translation>
-    </message>
-    <message>
         <source>Replaced %1</source>
         <translation>被替换，%1</translation>
     </message>
@@ -1257,16 +1672,22 @@ A copy of the present configuration is kept as well.</source>
         <source>The copy is gone.</source>
         <translation>副本已不存在。</translation>
     </message>
+    <message>
+        <source>Left without OK, %1</source>
+        <translation>未按“OK”离开，%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more before</source>
+        <translation>
+            <numerusform>%1，此前还有 %n 处</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Workbench::KeptDialog</name>
     <message>
         <source>Bring Back a Configuration</source>
         <translation>恢复配置</translation>
-    </message>
-    <message>
-        <source>Before a configuration is replaced, a copy is kept; and so is what was in a dialog that was closed without OK. The copies are whole files in &quot;%1&quot;.</source>
-        <translation>配置被替换之前会保留一个副本；未按“OK”而关闭的对话框中的内容也会保留。副本是 “%1” 中的完整文件。</translation>
     </message>
     <message>
         <source>Kept configurations</source>
@@ -1297,12 +1718,20 @@ A copy of the present configuration is kept as well.</source>
         <translation>删除(&amp;D)</translation>
     </message>
     <message>
-        <source>closed without OK</source>
-        <translation>未按“OK”而关闭</translation>
-    </message>
-    <message>
         <source>replaced</source>
         <translation>被替换</translation>
+    </message>
+    <message>
+        <source>Before a configuration is replaced, a copy is kept; and so is what was in a dialog that was left without OK. The copies are whole files in &quot;%1&quot;.</source>
+        <translation>替换配置之前会保留一个副本；未按“OK”离开的对话框中的内容也会保留。这些副本是 “%1” 中的完整文件。</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>修改</translation>
+    </message>
+    <message>
+        <source>left without OK</source>
+        <translation>未按“OK”离开</translation>
     </message>
 </context>
 <context>
@@ -1682,30 +2111,6 @@ A copy of the present configuration is kept as well.</source>
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>About Tarvo Workbench</source>
-        <translation>关于 Tarvo Workbench</translation>
-    </message>
-    <message>
-        <source>Tarvo Workbench %1</source>
-        <translation>Tarvo Workbench %1</translation>
-    </message>
-    <message>
-        <source>Configures and generates IPs for FPGA designs.
-
-IPs: %1
-Qt %2 (built with %3)
-Settings: %4</source>
-        <translation>为 FPGA 设计配置和生成 IP。
-
-IP：%1
-Qt %2（编译时 %3）
-设置：%4</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>无</translation>
-    </message>
-    <message>
         <source>Go to Line</source>
         <translation>转到行</translation>
     </message>
@@ -1728,6 +2133,115 @@ Qt %2（编译时 %3）
     <message>
         <source>&amp;Keep Running</source>
         <translation>继续运行(&amp;K)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>an action and its key</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Reopen the &amp;Last Project at Start</source>
+        <translation>启动时重新打开上次的项目(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Comes back to the project and its tabs when the workbench is started</source>
+        <translation>启动 Workbench 时回到该项目及其标签页</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>导出(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Block Diagram…</source>
+        <translation>框图(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Writes the diagram of the IP that is selected in the project as SVG, PNG or PDF</source>
+        <translation>把项目中所选 IP 的框图写成 SVG、PNG 或 PDF</translation>
+    </message>
+    <message>
+        <source>Writes a table of the last run as CSV, JSON or Markdown</source>
+        <translation>把上次运行的表格写成 CSV、JSON 或 Markdown</translation>
+    </message>
+    <message>
+        <source>Rep&amp;lace…</source>
+        <translation>替换(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Open in E&amp;xternal Editor</source>
+        <translation>在外部编辑器中打开(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Starts the program that the settings name, with the file and line</source>
+        <translation>启动设置中指定的程序，并传入文件和行号</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>设置(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>工具栏(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Shows the folder of what is selected in the file manager</source>
+        <translation>在文件管理器中显示所选项的文件夹</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;Path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>%1[*] - %2 - Tarvo Workbench</source>
+        <translation>%1[*] - %2 - Tarvo Workbench</translation>
+    </message>
+    <message>
+        <source>%1[*] - Tarvo Workbench</source>
+        <translation>%1[*] - Tarvo Workbench</translation>
+    </message>
+    <message>
+        <source>The last starts ended while they opened what was open before, so nothing is opened now.</source>
+        <translation>最近几次启动在打开以前的内容时中断，因此现在不打开任何内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Open It All the Same</source>
+        <translation>仍然打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>The project of the last time is not opened. %1</source>
+        <translation>没有打开上次的项目。%1</translation>
+    </message>
+    <message>
+        <source>This file is generated from &quot;%1&quot;. The next generation writes it anew, and keeps what you change here in a copy beside it.</source>
+        <translation>此文件由 “%1” 生成。下次生成时会重新写入，并把您在此处的修改保存在旁边的副本中。</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Configuration</source>
+        <translation>打开配置(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Export Block Diagram</source>
+        <translation>导出框图</translation>
+    </message>
+    <message>
+        <source>Pictures (*.svg *.png *.pdf)</source>
+        <translation>图片 (*.svg *.png *.pdf)</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>导出表格</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv *.json *.md)</source>
+        <translation>表格 (*.csv *.json *.md)</translation>
     </message>
 </context>
 <context>
@@ -1967,6 +2481,14 @@ Qt %2（编译时 %3）
     <message>
         <source>Makes the project in the existing folder %1; its files stay as they are</source>
         <translation>在现有文件夹 %1 中建立项目；其中的文件保持不变</translation>
+    </message>
+    <message>
+        <source>New Subsystem: %1</source>
+        <translation>新建子系统：%1</translation>
+    </message>
+    <message>
+        <source>Create and Configure</source>
+        <translation>建立并配置</translation>
     </message>
 </context>
 <context>
@@ -2455,10 +2977,6 @@ Click or press Space to drive it high, low, or not at all</source>
         <translation>%1 (%2)</translation>
     </message>
     <message>
-        <source>%1. %2</source>
-        <translation>%1。%2</translation>
-    </message>
-    <message>
         <source>%1 does not exist</source>
         <translation>%1 不存在</translation>
     </message>
@@ -2469,6 +2987,17 @@ Project &gt; Move to Device… moves it.</source>
         <translation>%1
 %2
 可用“项目 &gt; 移到其他器件…”移动它。</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>还有 %n 项</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <comment>a file and what is to be said of it</comment>
+        <translation>%1。%2</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +3164,76 @@ Project &gt; Move to Device… moves it.</source>
     <message>
         <source>%1 (of an earlier run)</source>
         <translation>%1（来自以前的运行）</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SessionKeeper</name>
+    <message numerus="yes">
+        <source>%n tab(s) of the last time cannot be shown again: %1, …</source>
+        <translation>
+            <numerusform>上次的 %n 个标签页无法再次显示：%1，…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tab(s) of the last time cannot be shown again: %1.</source>
+        <translation>
+            <numerusform>上次的 %n 个标签页无法再次显示：%1。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Restore &amp;Defaults</source>
+        <translation>恢复默认值(&amp;D)</translation>
+    </message>
+    <message>
+        <source>That of the desktop</source>
+        <translation>桌面的字号</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> 磅</translation>
+    </message>
+    <message>
+        <source>The fixed font of the desktop</source>
+        <translation>桌面的等宽字体</translation>
+    </message>
+    <message>
+        <source>Browse…</source>
+        <translation>浏览…</translation>
+    </message>
+    <message>
+        <source>%1 The program on PATH is used.</source>
+        <translation>%1 将使用 PATH 中的程序。</translation>
+    </message>
+    <message>
+        <source>%f stands for the file, %l for the line</source>
+        <translation>%f 代表文件，%l 代表行号</translation>
+    </message>
+    <message>
+        <source>No program &quot;%1&quot; is on PATH</source>
+        <translation>PATH 中没有程序 “%1”</translation>
+    </message>
+    <message>
+        <source>From PATH: %1</source>
+        <translation>来自 PATH：%1</translation>
+    </message>
+    <message>
+        <source>This program is used</source>
+        <translation>使用此程序</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>程序</translation>
+    </message>
+    <message>
+        <source>Browse for %1</source>
+        <translation>浏览：%1</translation>
     </message>
 </context>
 <context>
@@ -3120,8 +3719,34 @@ Project &gt; Move to Device… moves it.</source>
         <translation>所有保留的配置…</translation>
     </message>
     <message>
-        <source>What was replaced, or was in a dialog that was closed without OK.</source>
-        <translation>被替换的内容，或未按“OK”而关闭的对话框中的内容。</translation>
+        <source>New subsystem: %1 %2…</source>
+        <translation>新建子系统：%1 %2…</translation>
+    </message>
+    <message>
+        <source>Choose a device; then its dialog opens.</source>
+        <translation>选择器件，然后打开其对话框。</translation>
+    </message>
+    <message>
+        <source>First steps</source>
+        <translation>入门</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more are in the tree of the project.</source>
+        <translation>
+            <numerusform>项目树中还有 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Go on with a draft</source>
+        <translation>继续处理草稿</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>What was replaced, or was in a dialog that was left without OK.</source>
+        <translation>被替换的配置，或未按“OK”离开的对话框中的内容。</translation>
     </message>
 </context>
 <context>
@@ -3184,6 +3809,29 @@ Project &gt; Move to Device… moves it.</source>
     <message>
         <source>The dialog cannot go there now.</source>
         <translation>对话框现在无法转到那里。</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench::TabMenu</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close the &amp;Others</source>
+        <translation>关闭其他(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show in the P&amp;roject</source>
+        <translation>在项目中显示(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Open the &amp;Folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Copy the &amp;Path</source>
+        <translation>复制路径(&amp;P)</translation>
     </message>
 </context>
 </TS>

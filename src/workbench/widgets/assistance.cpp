@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace Workbench
 {
@@ -25,6 +26,14 @@ void addClearButton(QLineEdit *field)
     field->setClearButtonEnabled(true);
     if (auto *clear = field->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
         clear->setText(Tr::tr("Clear the text"));
+}
+
+QString spokenLabel(const QString &label)
+{
+    static const QRegularExpression behind(QStringLiteral("\\s*\\(&\\w\\)"));
+    static const QRegularExpression colon(QStringLiteral("\\s*[:\\x{ff1a}]$"));
+    QString result = label;
+    return result.remove(behind).remove(u'&').remove(colon);
 }
 
 } // namespace Workbench

@@ -16,4 +16,7 @@ void labelUnseen(QComboBox *field, const QString &text);
 // A button in the field that clears it, and has a name.
 void addClearButton(QLineEdit *field);
 
+// What a label says: without the mark of its key, wherever a language has it, and without a colon.
+QString spokenLabel(const QString &label);
+
 } // namespace Workbench

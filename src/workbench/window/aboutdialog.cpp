@@ -106,7 +106,7 @@ void AboutDialog::addComponent(const Component &component)
         item->setToolTip(column, item->text(column));
     if (!component.program.isEmpty())
         ask(item, component);
-    else if (component.package.startsWith(QLatin1String("libqt5")))
+    else if (component.name.startsWith(QLatin1String("Qt 5")))
         item->setText(Version, QLatin1String(qVersion()));
 }
 

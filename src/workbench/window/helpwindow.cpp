@@ -1,5 +1,6 @@
 #include "helpwindow.h"
 
+#include "widgets/assistance.h"
 #include "widgets/colours.h"
 #include "widgets/focusforward.h"
 #include "widgets/shortcuts.h"
@@ -288,7 +289,7 @@ void HelpWindow::buildSide()
     m_wanted->setObjectName(QStringLiteral("helpFindEdit"));
     m_wanted->setAccessibleName(tr("Find in the text"));
     m_wanted->setPlaceholderText(tr("Find in the text"));
-    m_wanted->setClearButtonEnabled(true);
+    addClearButton(m_wanted);
     m_wanted->installEventFilter(this);
     connect(m_wanted, &QLineEdit::textChanged, this, &HelpWindow::search);
     connect(m_wanted, &QLineEdit::returnPressed, this, [this] {

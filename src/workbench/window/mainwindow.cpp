@@ -941,7 +941,8 @@ void MainWindow::restoreState()
             QSize(fontMetrics().averageCharWidth() * 190, fontMetrics().height() * 50)));
     }
     if (!QMainWindow::restoreState(state.panes, stateVersion)) {
-        const int width = fontMetrics().averageCharWidth() * 46;
+        // The page has the larger part of a small window.
+        const int width = qMin(fontMetrics().averageCharWidth() * 46, this->width() * 3 / 8);
         resizeDocks({m_projectDock, m_catalogueDock}, {width, width}, Qt::Horizontal);
         resizeDocks({m_outputDock}, {fontMetrics().height() * 8}, Qt::Vertical);
     }
