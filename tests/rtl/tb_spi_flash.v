@@ -1,4 +1,12 @@
 // SPI-Flash: the window in every mode, commands, registers, errors and resets against a flash that works on the pins alone.
+// FULL: without commands, with what FULL has and nothing else.
+`ifdef FULL
+`define PARAMETERS (.COMMANDS(0), .FULL(`FULL))
+`define BARE
+`else
+`define FULL 15
+`define WHOLE
+`endif
 
 `include "flash_model.v"
 
@@ -34,6 +42,7 @@ module tb;
     localparam [31:0] PREFETCH = 1, CONTINUOUS = 2, QUAD = 4;
     localparam [31:0] ALONE = 32'h00003C00, SENDS = 32'h00400C00, ANSWERS = 32'h00000C00, PLACED = 32'h00003000;
 
+    localparam [3:0] HAS = `FULL;   // other forms, four bytes of address, continuous and leading back, prefetch
     integer n, m, took, clocks, first, opcodes, stall;
     reg [31:0] a, got;
 
@@ -112,6 +121,103 @@ module tb;
         end
     endtask
 
+`ifndef WHOLE
+    // Alone on the bus: an opcode by hand.
+    task by_hand(input [7:0] opcode);
+        begin
+            ahb_write(SELECT, 1);
+            ahb_write(DATA, opcode);
+            ahb_write(SELECT, 0);
+        end
+    endtask
+    task what_is_there;
+        begin
+            ahb_expect(ID, {~HAS[3], ~HAS[2], ~HAS[1], ~HAS[0], 6'd0, HAS[3] ? 6'd3 : 6'd0, 16'h020A}, "ID tells what is not there");
+            for (m = 0; m < 6; m = m + 1) begin
+                ahb_write(ADDRESS + 4 * m, 32'hFFFFFFFF);
+                ahb_expect(ADDRESS + 4 * m, 0, "no registers of commands");
+            end
+            check(csn === 1'b1, "nothing begins");
+            chip.high = 8'h02;
+            for (stall = 0; stall < 4; stall = stall + 1) begin
+                ahb_write(DIV, stall == 0 ? 3 : stall == 1 ? 1 : 0);
+                a = (HAS[0] && stall == 3 ? 32'h10 : 0) | HAS[3];
+                stream(SINGLE, a, 32'h100, 32, "1-1-1");
+                if (HAS[0]) begin
+                    stream(FAST, a, 32'h200, 32, "1-1-1 fast");
+                    stream(DUAL_OUT, a, 32'h300, 16, "1-1-2");
+                    stream(DUAL_IO, a, 32'h400, 16, "1-2-2");
+                    stream(QUAD_OUT, a | QUAD, 32'h500, 8, "1-1-4");
+                    stream(QUAD_IO, a | QUAD, 32'h600, 8, "1-4-4");
+                end
+            end
+            settings(QUAD_IO & 32'h00FFFFFF | 32'hA0000000, CONTINUOUS | QUAD | (HAS[0] ? 32'h0 : 32'h0730));
+            opcodes = chip.opcodes; n = chip.reads; clocks = chip.clocks;
+            if (HAS[0] && HAS[2]) begin
+                for (m = 0; m < 4; m = m + 1) expect_word(32'h900 * m, 32'h900 * m, "continuous read");
+                check(chip.opcodes == opcodes + 1 && chip.reads == n + 4 && chip.going, "one opcode for all reads");
+                ahb_write(CTRL, 0);
+                check(!chip.going, "ended before something else");
+            end else if (!HAS[0]) begin
+                for (m = 0; m < 4; m = m + 1) expect_word(32'h900 * m, 32'h900 * m, "no other form");
+                check(chip.opcodes == opcodes + 4 && chip.reads == n + 4 && chip.clocks == clocks + 256, "64 clocks each");
+            end
+            // Four bytes of address.
+            settings(SINGLE, 0);
+            if (HAS[1]) begin
+                by_hand(8'hB7);
+                ahb_write(UPPER, 8'h5A);
+                settings(SINGLE | LONG, 0);
+                expect_word(32'h123454, 32'h5A123454, "word far up");
+                if (HAS[0]) begin
+                    settings(QUAD_IO | LONG, QUAD);
+                    expect_word(32'h123458, 32'h5A123458, "word far up over four lanes");
+                end
+                by_hand(8'hE9);
+                settings(SINGLE, 0);
+            end else begin
+                ahb_write(UPPER, 8'h5A);
+                ahb_write(READ, SINGLE | LONG);
+            end
+            expect_word(32'h123454, 32'h123454, "three bytes of address");
+            check(chip.wrong == 0, "nothing wrong on the pins");
+            // A word behind a reset in the middle of one.
+            for (stall = 1; stall < 64; stall = stall + 9) begin
+                haddr = BASE + 32'h800; htrans = 2'b10; hwrite = 0;
+                cycles(1);
+                htrans = 0;
+                repeat (stall) @(posedge fclk);
+                #3;
+                rstn = 0;
+                cycles(3);
+                rstn = 1;
+                cycles(2);
+                check(csn === 1'b1 && fclk === 1'b0, "pins rest after a reset");
+                n = chip.resets;
+                expect_word(32'h1234, 32'h1234, "first word after a reset");
+                check(chip.resets == n + HAS[2], "the flash is led back");
+                expect_word(32'h1238, 32'h1238, "second word after a reset");
+                check(chip.resets == n + HAS[2], "once");
+            end
+            // Prefetch.
+            ahb_write(CTRL, PREFETCH | 32'h00020000);
+            opcodes = chip.opcodes;
+            for (m = 0; m < 12; m = m + 1) expect_word(32'h40 + 4 * m, 32'h40 + 4 * m, "words in their order");
+            check(chip.opcodes == opcodes + (HAS[3] ? 1 : 12), "opcodes of twelve words");
+            check(csn === ~HAS[3], "selected while words may follow");
+            cycles(1500);
+            check(csn === 1'b1, "deselected when nobody reads on");
+            // Write protection and bytes by hand go on.
+            ahb_write(CTRL, 0);
+            by_hand(8'h06);
+            check(chip.writable, "a command by hand");
+            ahb_write(RECOVER, 3);
+            n = chip.resets;
+            expect_word(32'h20, 32'h20, "a word at the end");
+            check(chip.resets == n + HAS[2], "led back where that is there");
+        end
+    endtask
+`endif
     localparam SLOWEST = `ROUNDS(255, 7);
     initial begin
         reset;
@@ -122,15 +228,15 @@ module tb;
         ahb_expect(PROTECT, 1, "reset PROTECT");
         ahb_expect(DATA, 0, "reset DATA");
         ahb_expect(CTRL, 0, "reset CTRL");
-        ahb_expect(READ, 3, "reset READ");
-        ahb_expect(RECOVER, 32'h2003, "reset RECOVER");
+        ahb_expect(READ, HAS[0] ? 3 : 0, "reset READ");
+        ahb_expect(RECOVER, HAS[2] ? 32'h2003 : 0, "reset RECOVER");
 `ifndef BARE
         ahb_expect(ID, 32'h0103020A, "reset ID");
 `endif
         // The first read resets the flash.
         expect_word(0, 0, "first word");
-        check(chip.resets == 1, "the flash is reset");
-        check(waits > 2630 && waits <= 2645, "bound of the first read");
+        check(chip.resets == HAS[2], "the flash is reset");
+        check(HAS[2] ? waits > 2630 && waits <= 2645 : waits < 280 && chip.clocks == 64, "bound of the first read");
         chip.reads = 0; chip.opcodes = 0;
         for (n = 0; n < 12; n = n + 1) begin
             a = (32'h13579C * n) & 32'hFFFFFC;
@@ -207,10 +313,12 @@ module tb;
         check(csn === 1'b0, "still selected");
         ahb_transfer(SELECT, 1'b1, 3'd1, 32'd0);
         check(csn === 1'b1, "deselected by a halfword");
-        ahb_transfer(READ + 3, 1'b1, 3'd0, 32'hA5A5A5A5);
-        ahb_expect(READ, 32'hA5000003, "the mode byte alone");
-        ahb_transfer(READ + 2, 1'b1, 3'd1, 32'h00000000);
-        ahb_expect(READ, 32'h00000003, "a halfword alone");
+        if (HAS[0]) begin
+            ahb_transfer(READ + 3, 1'b1, 3'd0, 32'hA5A5A5A5);
+            ahb_expect(READ, 32'hA5000003, "the mode byte alone");
+            ahb_transfer(READ + 2, 1'b1, 3'd1, 32'h00000000);
+            ahb_expect(READ, 32'h00000003, "a halfword alone");
+        end
         // What looks like a register further up is none.
         clocks = chip.clocks;
         ahb_write(SELECT + 64, 1);
@@ -220,6 +328,9 @@ module tb;
         check(waits == 0 && chip.clocks == clocks, "nothing is sent there");
         ahb_expect(DIV + 64, 0, "reads as 0");
 
+`ifndef WHOLE
+        what_is_there;
+`else
         // ---- modes of the window
         ahb_transfer(BASE, 1'b0, 3'd2, 0);
         settings(QUAD_IO, PREFETCH);
@@ -550,11 +661,14 @@ module tb;
         end
         check(csn === 1'b1, "nothing begins");
 `endif
+`endif
         // Registers by their parts.
         reset;
-        ahb_parts(DIV, 32'h000000FF, 0); ahb_parts(PROTECT, 32'h00000001, 0); ahb_parts(CTRL, 32'h00FF0737, 0);
-        ahb_parts(READ, 32'hFF3FFFFF, 0); ahb_parts(UPPER, 32'h000000FF, 0);
-        ahb_parts(RECOVER, 32'h0000FF03, 0);
+        ahb_parts(DIV, 32'h000000FF, 0); ahb_parts(PROTECT, 32'h00000001, 0);
+        ahb_parts(CTRL, {8'd0, {8{HAS[3]}}, 5'd0, {3{HAS[0]}}, 2'd0, {2{HAS[0]}}, 1'b0, HAS[0], HAS[0] & HAS[2], HAS[3]}, 0);
+        ahb_parts(READ, (HAS[0] ? 32'hFF3FBFFF : 32'h0) | (HAS[1] ? LONG : 32'h0), 0);
+        ahb_parts(UPPER, HAS[1] ? 32'h000000FF : 32'h0, 0);
+        ahb_parts(RECOVER, HAS[2] ? 32'h0000FF03 : 32'h0, 0);
 `ifndef BARE
         ahb_parts(ADDRESS, 32'hFFFFFFFF, 0); ahb_parts(LENGTH, 32'h000001FF, 0); ahb_parts(POLL, 32'h0000FFFF, 0);
 `endif

@@ -4,13 +4,13 @@
 // something else is asked for.  A write in the window, and a read while a command runs or SELECT is 1, get the error response.
 // COMMAND sends everything that is no read: opcode, address, mode byte, dummy clocks and data through the same FIFO.
 // Before the chip is used for the first time after a reset it is led back to its state after power-on.
-// The serial clock idles low (mode 0).  Lanes: 0 MOSI, 1 MISO, 2 WPN, 3 HOLDN.
-// Registers: registers/spi_flash.json.  They stand at the start of the upper 16 MB.
+// The clock idles low (mode 0).  Lanes: 0 MOSI, 1 MISO, 2 WPN, 3 HOLDN.  Registers: registers/spi_flash.json.  They begin the upper 16 MB.
 //   LOG_DEPTH  words of the FIFO = 2 ** LOG_DEPTH, 1 to 4
 //   COMMANDS   0: without ADDRESS, LENGTH, POLL, STATUS, COMMAND and FIFO, which then read as 0
+//   FULL       sum of what is there: 1 reads but 0x03, 2 four bytes of address, 4 continuous reads and leading back, 8 prefetch; ID has ones for the rest
 module ahb_spi_flash #(
     parameter LOG_DEPTH = 3,
-    parameter COMMANDS  = 1
+    parameter COMMANDS  = 1, FULL = 15
 ) (
     input  wire        HCLK,
     input  wire        HRESETn,
@@ -38,7 +38,7 @@ module ahb_spi_flash #(
     localparam [2:0] READY  = 3'd4;   // last cycle of a waited data phase
     localparam [2:0] ERROR1 = 3'd5;
     localparam [2:0] ERROR2 = 3'd6;
-
+    localparam [0:0] HAS_FORMAT = (FULL & 1) != 0, HAS_UPPER = (FULL & 2) != 0, HAS_BACK = (FULL & 4) != 0, HAS_PREFETCH = (FULL & 8) != 0;
     // What the pins do.
     localparam [3:0] REST   = 4'd0;
     localparam [3:0] OPCODE = 4'd1;
@@ -53,7 +53,7 @@ module ahb_spi_flash #(
     localparam [3:0] RESETS = 4'd10;  // the chip resets itself
     localparam [3:0] HAND   = 4'd11;  // a byte of DATA
     localparam [3:0] HANDED = 4'd12;
-
+    localparam [0:0] HAS_FORM = HAS_FORMAT || COMMANDS != 0, HAS_FIFO = HAS_PREFETCH || COMMANDS != 0;   // reads or commands need them
     localparam [3:0] R_DATA    = 4'd0;
     localparam [3:0] R_SELECT  = 4'd1;
     localparam [3:0] R_DIV     = 4'd2;
@@ -131,7 +131,7 @@ module ahb_spi_flash #(
     wire access  = bus == REGS;
     wire writing = access & write;
     wire uses    = listed & lanes[0] & ((index == R_SELECT) | ((index == R_COMMAND) & (COMMANDS != 0)));
-    wire calm    = (engine == REST) & ~continues & ~streamed & ~(pending & uses & ~select);
+    wire calm    = (engine == REST) & ~continues & (HAS_FIFO ? ~streamed : 1'b1) & ~(pending & uses & ~select);
     wire store   = writing & listed & calm & ~running;
     wire early   = writing & listed & running;   // while a command runs
     wire by_hand = store & lanes[0] & (index == R_DATA);
@@ -150,9 +150,9 @@ module ahb_spi_flash #(
 
     wire match = streamed & same;
     wire open  = reading & ((engine == OPCODE) | (engine == PLACE) | (engine == MODE) | (engine == DUMMY) | (engine == DATA));
-    wire serve = sure & match & ~empty & (prefetch | flash_csn);
-    wire skip  = (bus == WINDOW) & sure & streamed & ~match & ~empty & ~tried;
-    wire miss  = (bus == WINDOW) & sure & ~refused & ~serve & ~skip & ~(match & (open | ~empty));
+    wire serve = HAS_FIFO ? sure & match & ~empty & (prefetch | flash_csn) : streamed & flash_csn;
+    wire skip  = HAS_FIFO ? (bus == WINDOW) & sure & streamed & ~match & ~empty & ~tried : 1'b0;
+    wire miss  = HAS_FIFO ? (bus == WINDOW) & sure & ~refused & ~serve & ~skip & ~(match & (open | ~empty)) : (bus == WINDOW) & ~refused & ~streamed;
     wire start = miss & (engine == REST) & ~pending;
 
     always @(posedge HCLK or negedge HRESETn)
@@ -228,7 +228,7 @@ module ahb_spi_flash #(
                                    : prefetch ? fits : ~fetched;
     wire [31:0] at       = running ? place : {upper, word, 2'b00};
     wire        quiet    = engine == GAP;
-    wire        stop     = (engine == CLOSE) & ~special;
+    wire        stop     = HAS_FIFO ? (engine == CLOSE) & ~special : 1'b0;
 
     reg       valid;
     reg [7:0] tx;
@@ -255,28 +255,28 @@ module ahb_spi_flash #(
                 over  = form[11:10];
             end
             MODE: begin
-                valid = has_mode;
+                valid = HAS_FORM ? has_mode : quiet;
                 tx    = form[29:22];
                 over  = form[11:10];
             end
             DUMMY: begin
-                valid = has_rest;
+                valid = HAS_FORM ? has_rest : quiet;
                 over  = form[13:12] & {2{has_data}};
             end
             DATA: begin
                 valid = more;
                 case (ask_byte)
-                    2'd3: tx = oldest[31:24];
-                    2'd2: tx = oldest[23:16];
-                    2'd1: tx = oldest[15:8];
-                    2'd0: tx = oldest[7:0];
+                    2'd3: tx = HAS_FIFO ? oldest[31:24] : 8'd0;
+                    2'd2: tx = HAS_FIFO ? oldest[23:16] : 8'd0;
+                    2'd1: tx = HAS_FIFO ? oldest[15:8] : 8'd0;
+                    2'd0: tx = HAS_FIFO ? oldest[7:0] : 8'd0;
                 endcase
                 over  = form[13:12];
             end
             ONES: begin
-                valid = 1'b1;
-                tx    = 8'hFF;
-                over  = 2'd2;
+                valid = HAS_BACK ? 1'b1 : quiet;
+                tx    = HAS_BACK ? 8'hFF : 8'd0;
+                over  = HAS_BACK ? 2'd2 : 2'd0;
             end
             HAND: begin
                 valid = 1'b1;
@@ -286,10 +286,10 @@ module ahb_spi_flash #(
                 valid = quiet;
         endcase
         case (engine)
-            DUMMY:   clocks = form[21:16] - 6'd1;
+            DUMMY:   clocks = HAS_FORM ? form[21:16] - 6'd1 : 6'd7;
             GAP:     clocks = {3'd0, gap};
             // An address and a mode byte: of 3 and 4 bytes on four lanes, and on two.
-            ONES:    clocks = step[1] ? (step[0] ? 6'd19 : 6'd15) : (step[0] ? 6'd9 : 6'd7);
+            ONES:    clocks = HAS_BACK ? step[1] ? (step[0] ? 6'd19 : 6'd15) : (step[0] ? 6'd9 : 6'd7) : 6'd7;
             default: clocks = over[1] ? 6'd1 : over[0] ? 6'd3 : 6'd7;
         endcase
     end
@@ -298,7 +298,7 @@ module ahb_spi_flash #(
         .clk(HCLK), .rstn(HRESETn), .div(div), .delay(delay),
         .valid(valid), .take(take), .tx(tx), .lanes(over), .drives(sends | ((engine != DATA) & (engine != DUMMY))),
         .samples((engine == HAND) | ((engine == DATA) & ~sends)), .quiet(quiet), .clocks(clocks),
-        .stop(stop), .rest(engine == REST), .busy(busy), .receiving(receiving), .rx(rx), .rx_done(rx_done),
+        .stop(stop), .rest(HAS_FORM || HAS_BACK ? engine == REST : 1'b0), .busy(busy), .receiving(receiving), .rx(rx), .rx_done(rx_done),
         .wpn(~protect), .holdn(1'b1), .sclk(flash_clk), .out(flash_out), .outen(outen), .in(flash_in)
     );
 
@@ -308,7 +308,7 @@ module ahb_spi_flash #(
 
     wire in_flight = busy | receiving | complete;
     wire arrives   = rx_done & (engine == DATA) & (reading | ~(outwards | polling));
-    wire drop      = (miss | writing) & ~running;       // the open read is of no use any more
+    wire drop      = HAS_FIFO ? (miss | writing) & ~running : 1'b0;       // the open read is of no use any more
     wire timed     = timer[13:6] == ((engine == RESETS) ? reset_time : patience);
     wire done      = running ? (polling & has_data ? matched : ~((remains & has_data) | in_flight | (store_byte != 2'd0)))
                              : drop | (prefetch ? timed & (patience != 8'd0) & ~in_flight : fetched & ~in_flight);
@@ -319,7 +319,7 @@ module ahb_spi_flash #(
             engine     <= REST;
             flash_csn  <= 1'b1;
             select     <= 1'b0;
-            pending    <= 1'b1;
+            pending    <= HAS_BACK;
             running    <= 1'b0;
             aborting   <= 1'b0;
             reading    <= 1'b0;
@@ -332,7 +332,7 @@ module ahb_spi_flash #(
             step       <= 3'd0;
             timer      <= 14'd0;
         end else begin
-            timer <= ((engine == RESETS) | (open & (engine == DATA) & ~busy)) ? timer + 14'd1 : 14'd0;
+            timer <= (HAS_BACK || HAS_PREFETCH ? (engine == RESETS) | (open & (engine == DATA) & ~busy) : 1'b0) ? timer + 14'd1 : 14'd0;
             if (abort)
                 aborting <= 1'b1;
             case (engine)
@@ -342,8 +342,8 @@ module ahb_spi_flash #(
                     place_byte <= {1'b1, form[14]};
                     if (running) begin
                         if (aborting) begin
-                            running  <= 1'b0;
-                            aborting <= 1'b0;
+                            running  <= COMMANDS != 0 ? 1'b0 : running;
+                            aborting <= COMMANDS != 0 ? 1'b0 : aborting;
                         end else begin
                             flash_csn <= 1'b0;
                             engine    <= OPCODE;
@@ -373,17 +373,17 @@ module ahb_spi_flash #(
                         engine <= special ? CLOSE : PLACE;
                 PLACE:
                     if (~has_at | (take & (place_byte == 2'd0)))
-                        engine <= MODE;
+                        engine <= HAS_FORM ? MODE : DATA;
                     else if (take)
                         place_byte <= place_byte - 2'd1;
                 MODE:
-                    if (take | ~has_mode)
+                    if (HAS_FORM ? take | ~has_mode : 1'b0)
                         engine <= DUMMY;
                 DUMMY:
-                    if (take | ~has_rest)
+                    if (HAS_FORM ? take | ~has_rest : 1'b0)
                         engine <= DATA;
                 DATA: begin
-                    continues <= reading & continuous & has_mode & (format[11] ^ format[10]);
+                    continues <= HAS_BACK ? reading & continuous & has_mode & (format[11] ^ format[10]) : 1'b0;
                     if (take) begin
                         ask_byte <= ask_byte + 2'd1;
                         if (ask_byte == 2'd3)
@@ -396,8 +396,8 @@ module ahb_spi_flash #(
                     if (~busy) begin
                         flash_csn <= 1'b1;
                         reading   <= 1'b0;
-                        running   <= 1'b0;
-                        aborting  <= 1'b0;
+                        running   <= COMMANDS != 0 ? 1'b0 : running;
+                        aborting  <= COMMANDS != 0 ? 1'b0 : aborting;
                         engine    <= GAP;
                     end
                 GAP:
@@ -407,7 +407,7 @@ module ahb_spi_flash #(
                     if (~busy) begin
                         engine <= REST;
                         if (special) begin
-                            step <= step + 3'd1;
+                            step <= HAS_BACK ? step + 3'd1 : 3'd0;
                             if (last_step) begin
                                 special    <= 1'b0;
                                 recovering <= 1'b0;
@@ -423,10 +423,10 @@ module ahb_spi_flash #(
                         end
                     end
                 ONES:
-                    if (take)
+                    if (HAS_BACK ? take : 1'b0)
                         engine <= CLOSE;
                 RESETS:
-                    if (timed) begin
+                    if (HAS_BACK ? timed : 1'b0) begin
                         special    <= 1'b0;
                         recovering <= 1'b0;
                         pending    <= 1'b0;
@@ -452,12 +452,12 @@ module ahb_spi_flash #(
                 flash_csn <= ~HWDATA[0];
             end
             if (store & lanes[0] & (index == R_RECOVER))
-                pending <= HWDATA[0];
+                pending <= HAS_BACK ? HWDATA[0] : 1'b0;
         end
 
     // ---- words
     wire flush = (aborting & outwards) | start | (begin_command & ~sent_out) |
-                 (writing & ~running & streamed & (engine == REST)) | ((bus == READY) & from_window & ~prefetch);
+                 (HAS_FIFO ? writing & ~running & streamed & (engine == REST) : 1'b0) | ((bus == READY) & from_window & ~prefetch);
     wire [31:0] reached = {{8{lanes[3]}}, {8{lanes[2]}}, {8{lanes[1]}}, {8{lanes[0]}}};
     wire        last_byte = (ask_byte == 2'd3) | (left == 9'd1);
     sync_fifo #(.WIDTH(32), .LOG_DEPTH(LOG_DEPTH)) u_fifo (
@@ -481,15 +481,15 @@ module ahb_spi_flash #(
                 head <= {1'b0, word};
             else if (skip)
                 head <= head + 23'd1;
-            complete <= ~stop & ((arrives & (store_byte == 2'd3)) |
-                                 ((engine == DATA) & running & ~(remains | in_flight | aborting) & (store_byte != 2'd0)));
+            complete <= HAS_FIFO ? ~stop & ((arrives & (store_byte == 2'd3)) |
+                                 ((engine == DATA) & running & ~(remains | in_flight | aborting) & (store_byte != 2'd0))) : 1'b0;
             if ((engine == REST) | complete)
                 store_byte <= 2'd0;
             else if (arrives)
                 store_byte <= store_byte + 2'd1;
             if (arrives)
                 case (store_byte)
-                    2'd0: assembled        <= {24'd0, rx};
+                    2'd0: assembled        <= {HAS_FIFO ? 24'd0 : assembled[31:8], rx};
                     2'd1: assembled[15:8]  <= rx;
                     2'd2: assembled[23:16] <= rx;
                     2'd3: assembled[31:24] <= rx;
@@ -509,8 +509,8 @@ module ahb_spi_flash #(
             patience   <= 8'd0;
             format     <= 32'h00000003;
             upper      <= 8'd0;
-            with_reset <= 1'b1;
-            reset_time <= 8'd32;
+            with_reset <= HAS_BACK;
+            reset_time <= HAS_BACK ? 8'd32 : 8'd0;
         end else if (store)
             case (index)
                 R_DIV:
@@ -518,16 +518,16 @@ module ahb_spi_flash #(
                 R_PROTECT:
                     if (lanes[0]) protect <= HWDATA[0];
                 R_CTRL: begin
-                    if (lanes[0]) {delay, quad, continuous, prefetch} <= {HWDATA[5:4], HWDATA[2:0]};
-                    if (lanes[1]) gap <= HWDATA[10:8];
-                    if (lanes[2]) patience <= HWDATA[23:16];
+                    if (lanes[0]) {delay, quad, continuous, prefetch} <= {HAS_FORMAT ? {HWDATA[5:4], HWDATA[2]} : 3'd0, HAS_FORMAT && HAS_BACK ? HWDATA[1] : 1'b0, HAS_PREFETCH ? HWDATA[0] : 1'b0};
+                    if (lanes[1]) gap <= HAS_FORMAT ? HWDATA[10:8] : 3'd0;
+                    if (lanes[2]) patience <= HAS_PREFETCH ? HWDATA[23:16] : 8'd0;
                 end
-                R_READ: format <= merged(format, HWDATA, lanes) & 32'hFF3FFFFF;
+                R_READ: format <= HAS_FORMAT ? merged(format, HWDATA, lanes) & (HAS_UPPER ? 32'hFF3FFFFF : 32'hFF3FBFFF) : {17'd0, !HAS_UPPER ? 1'b0 : lanes[1] ? HWDATA[14] : format[14], 14'd3};
                 R_UPPER:
-                    if (lanes[0]) upper <= HWDATA[7:0];
+                    if (lanes[0]) upper <= HAS_UPPER ? HWDATA[7:0] : 8'd0;
                 R_RECOVER: begin
-                    if (lanes[0]) with_reset <= HWDATA[1];
-                    if (lanes[1]) reset_time <= HWDATA[15:8];
+                    if (lanes[0]) with_reset <= HAS_BACK ? HWDATA[1] : 1'b0;
+                    if (lanes[1]) reset_time <= HAS_BACK ? HWDATA[15:8] : 8'd0;
                 end
                 default: ;
             endcase
@@ -618,8 +618,8 @@ module ahb_spi_flash #(
         assign of_commands   = 32'd0;
     end endgenerate
 
-    localparam [31:0] WORDS = LOG_DEPTH;
-    localparam [31:0] ID = {7'd0, (COMMANDS != 0), 2'd0, WORDS[5:0], 8'd2, 8'd10};
+    localparam [31:0] WORDS = HAS_FIFO ? LOG_DEPTH : 0;
+    localparam [31:0] ID = {~HAS_PREFETCH, ~HAS_BACK, ~HAS_UPPER, ~HAS_FORMAT, 3'd0, (COMMANDS != 0), 2'd0, WORDS[5:0], 8'd2, 8'd10};
     reg [31:0] value;
     always @*
         case (index)
@@ -628,10 +628,10 @@ module ahb_spi_flash #(
             R_DIV:     value = {24'd0, div};
             R_PROTECT: value = {31'd0, protect};
             R_CTRL:    value = {8'd0, patience, 5'd0, gap, 2'd0, delay, 1'b0, quad, continuous, prefetch};
-            R_READ:    value = format;
+            R_READ:    value = HAS_FORMAT ? format : {17'd0, format[14], 14'd0};
             R_UPPER:   value = {24'd0, upper};
             R_RECOVER: value = {16'd0, reset_time, 6'd0, with_reset, pending};
             default:   value = of_commands;
         endcase
-    assign HRDATA = from_window ? oldest : listed ? value : is_id ? ID : 32'd0;
+    assign HRDATA = from_window ? (HAS_FIFO ? oldest : assembled) : listed ? value : is_id ? ID : 32'd0;
 endmodule

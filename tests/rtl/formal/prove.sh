@@ -16,7 +16,14 @@ trap 'rm -rf "$tmp"' EXIT
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
 row=$(grep -E "^$subject " "$here/subjects.txt") || fail "no such subject: $subject"
-read -r _ harness waits files <<< "$row"
+read -r _ harness waits words <<< "$row"
+files= parameters=
+for word in $words; do
+    case $word in
+        *=*) parameters+=" -set ${word%%=*} ${word#*=}" ;;
+        *) files+=${files:+ }$word ;;
+    esac
+done
 if [[ ${1:-} == all || ${1:-} == first ]]; then
     mapfile -t changes < <(awk -v name="$subject" '/^[^ #]/ { on = $1 == name; next } on && /^ / { sub(/^ +/, ""); print }' \
         "$here/subjects.txt")
@@ -38,6 +45,7 @@ prove() { # FOLDER with the sources, and what ABC tries; sets verdict
     {
         echo "read_verilog -formal -DMODULE=$module -DMOST_WAITS=$waits$defines -I$here -I$checkers -I$folder \
 $checkers/apb_checker.v $checkers/ahb_lite_checker.v $here/$harness.v $(printf " $folder/%s" $files)"
+        [[ -z $parameters ]] || echo "chparam$parameters $module"
         cat << 'END'
 hierarchy -check -top proof
 proc
