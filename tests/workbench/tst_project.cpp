@@ -53,8 +53,10 @@ private Q_SLOTS:
         write(path, "[General]\ntype=two\n");
         QCOMPARE(model.indexOf(path).data(ProjectModel::TypeRole).toString(),
                  QStringLiteral("two"));
+        const QPersistentModelIndex selected = model.indexOf(path);
         write(path, "[General]\ntype=three\n");
         model.refresh();
+        QVERIFY(selected.isValid());
         QCOMPARE(model.indexOf(path).data(ProjectModel::TypeRole).toString(),
                  QStringLiteral("three"));
     }

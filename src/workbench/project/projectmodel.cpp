@@ -12,6 +12,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include <algorithm>
+
 namespace Workbench
 {
 
@@ -55,8 +57,22 @@ void ProjectModel::refresh()
         const QList<Entry> entries = read(Group(group));
         if (entries == m_entries[group])
             continue;
-        // Views keep their groups open: only the rows below change.
         const QModelIndex parent = groupIndex(Group(group));
+        const bool isSameList = std::equal(
+            entries.begin(), entries.end(), m_entries[group].begin(), m_entries[group].end(),
+            [](const Entry &one, const Entry &other) { return one.path == other.path; });
+        // What is selected stays so while files change.
+        if (isSameList) {
+            for (int row = 0; row < entries.size(); ++row) {
+                if (entries.at(row) == m_entries[group].at(row))
+                    continue;
+                m_entries[group][row] = entries.at(row);
+                const QModelIndex changed = index(row, 0, parent);
+                Q_EMIT dataChanged(changed, changed);
+            }
+            continue;
+        }
+        // Views keep their groups open: only the rows below change.
         if (!m_entries[group].isEmpty()) {
             beginRemoveRows(parent, 0, m_entries[group].size() - 1);
             m_entries[group].clear();
