@@ -141,7 +141,7 @@ case ${case[0]} in
             count=$((count + 1))
         done <<'END'
 hello ahb_to_apb.v s/(assign PWDATA += HWDATA)/\1 \& 32'hFFFFFFEF/
-hello apb_uart.v s/tx_shift  <= tx_data/tx_shift  <= tx_data | 9'h004/
+hello apb_uart.v s/tx_shift  <= [{]HAS_FORMAT.*[}]/& | 9'h004/
 echo apb_uart.v s/is_break \| is_wrong, rx_shift/is_break | is_wrong, rx_shift | 9'h020/
 echo apb_uart.v s/\(ctrl\[3\] & rx_reached\)/1'b0/
 echo apb_uart.v s/(assign timed_out = ).*;/\11'b0;/
@@ -158,10 +158,10 @@ watchdog apb_watchdog.v s/reset_req <= expire/reset_req <= 1'b0/
 watchdog apb_watchdog.v s/(assign nmi += )pend/\11'b0/
 watchdog apb_system.v s/[{]reset_cause, /{4'd0, /
 watchdog apb_system.v s/scratch <= [(]scratch & ~mask[)]/scratch <= 32'd0;\/\/ /
-loopback apb_spi.v s/= rx_oldest/= rx_oldest | 8'h10/
+loopback apb_spi.v s/[?] rx_oldest/& | 8'h10/
 loopback apb_spi.v s/top_bit <= top_written/top_bit <= top_written \& 6'h3E/
-loopback spi_word_shifter.v s/(loop \? mosi : )miso/\11'b0/
-loopback spi_word_shifter.v s/(loop \? )mosi/\11'b1/
+loopback spi_word_shifter.v s/(loop \? mosi : )miso/\11'b0/g
+loopback spi_word_shifter.v s/(loop \? )mosi/\11'b1/g
 timers apb_dual_timer.v s/value - 32'd1/(value - 32'd1) | 32'h00000040/
 timers apb_dual_timer.v s/oneshot, ie, en\} <= PWDATA\[2:0\]/oneshot, ie, en} <= PWDATA[2:0] \& 3'b011/
 i2c-eeprom apb_i2c.v s/wdata\(shift_in\)/wdata(shift_in | 8'h08)/
