@@ -151,7 +151,10 @@ QStringList StartPage::stateOf(const Project *project, const QStringList &ips,
     state << project->file() << device.partNumber() << QString::number(ips.size());
     for (const QString &path : ips.mid(0, ipsShown)) {
         const IpcHead head = IpcHead::read(path);
-        state << path << head.type << head.differenceSentence(device);
+        const int ip = catalogue.indexOf(head.type);
+        const bool canSimulate = ip >= 0 && catalogue.canSimulate(ip);
+        state << path << head.type << head.differenceSentence(device)
+              << QString::number(int(canSimulate));
     }
     return state;
 }
