@@ -32,6 +32,7 @@ namespace
 QByteArray manyLines(int size)
 {
     QByteArray text;
+    text.reserve(size + 100); // which the sum of parts would do for each line
     while (text.size() < size)
         text += "assign a" + QByteArray::number(text.size()) + " = b;\n";
     return text;
