@@ -2,6 +2,7 @@
 # the level rule (a target links only targets of its own level or below, a folder includes none above it) live here once.
 
 include_guard(GLOBAL)
+include(TarvoPrecompile)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -154,6 +155,7 @@ function(tarvo_add_test name)
     add_executable(${name} ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
     target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_test_flags)
+    set_property(GLOBAL APPEND PROPERTY TARVO_TESTS ${name})
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
