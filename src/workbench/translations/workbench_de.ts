@@ -1479,7 +1479,7 @@
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation>&amp;Inhalt</translation>
+        <translation>I&amp;nhalt</translation>
     </message>
     <message>
         <source>F&amp;ind</source>
@@ -1958,10 +1958,6 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>&amp;User Guide</source>
-        <translation>&amp;Benutzerhandbuch</translation>
-    </message>
-    <message>
         <source>Help on the Selected &amp;IP</source>
         <translation>Hilfe zur ausgewählten &amp;IP</translation>
     </message>
@@ -2245,6 +2241,14 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
     <message>
         <source>Tables (*.csv *.json *.md)</source>
         <translation>Tabellen (*.csv *.json *.md)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>I&amp;nhalt</translation>
+    </message>
+    <message>
+        <source>The user guide, at what it says of the place with the focus</source>
+        <translation>Das Benutzerhandbuch bei dem, was es zur Stelle mit dem Fokus sagt</translation>
     </message>
 </context>
 <context>

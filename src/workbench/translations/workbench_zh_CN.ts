@@ -1955,10 +1955,6 @@ A copy of the present configuration is kept as well.</source>
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>&amp;User Guide</source>
-        <translation>用户指南(&amp;U)</translation>
-    </message>
-    <message>
         <source>Help on the Selected &amp;IP</source>
         <translation>关于所选 IP 的帮助(&amp;I)</translation>
     </message>
@@ -2242,6 +2238,14 @@ A copy of the present configuration is kept as well.</source>
     <message>
         <source>Tables (*.csv *.json *.md)</source>
         <translation>表格 (*.csv *.json *.md)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>目录(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The user guide, at what it says of the place with the focus</source>
+        <translation>用户指南中与当前焦点位置有关的部分</translation>
     </message>
 </context>
 <context>

@@ -325,7 +325,9 @@ void MainWindow::Actions::addHelpMenu()
     MainWindow *window = m_window;
     const Keys nothing;
     QMenu *help = m_window->menuBar()->addMenu(tr("&Help"));
-    add(help, tr("&User Guide"), {}, QKeySequence::HelpContents, [window] { window->showGuide(); });
+    add(help, tr("&Contents"), {}, QKeySequence::HelpContents, [window] {
+        window->showGuide();
+    })->setStatusTip(tr("The user guide, at what it says of the place with the focus"));
     ipHelp = add(help, tr("Help on the Selected &IP"), {}, nothing,
                  [window] { window->showIpHelp(window->m_catalogueView->currentIp()); });
     ipHelp->setStatusTip(tr("The document of the IP that is selected in the catalogue"));
