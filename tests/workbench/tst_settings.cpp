@@ -241,6 +241,51 @@ private Q_SLOTS:
         QCOMPARE(externalCommand(command, QStringLiteral("/a %l b.v"), 7), words);
     }
 
+    // The menu has one of the settings as well.
+    void theMenuAndTheDialogFollowEachOther()
+    {
+        Bench bench;
+        QAction *reopen = bench.action("Reopen the Last Project at Start");
+        QVERIFY(reopen->isChecked());
+        int seen = 0;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            auto *dialog = qobject_cast<SettingsDialog *>(modal);
+            QVERIFY(dialog);
+            auto *box = dialog->findChild<QCheckBox *>(QLatin1String(Settings::restoreSession));
+            QCOMPARE(box->isChecked(), reopen->isChecked());
+            box->click();
+            QCOMPARE(reopen->isChecked(), box->isChecked());
+            reopen->trigger();
+            QCOMPARE(box->isChecked(), reopen->isChecked());
+            box->click();
+            ++seen;
+            if (seen == 1)
+                Bench::ok(dialog)->click();
+            else
+                dialog->reject();
+        });
+        bench.action("Settings")->trigger();
+        QVERIFY(!reopen->isChecked());
+        QVERIFY(!Settings::isOn(bench.settings, Settings::restoreSession));
+        reopen->trigger();
+        QVERIFY(Settings::isOn(bench.settings, Settings::restoreSession));
+        bench.action("Settings")->trigger(); // changes it and takes that back
+        QVERIFY(reopen->isChecked());
+        QCOMPARE(seen, 2);
+    }
+
+    // Whatever stands there, both read it alike.
+    void theMenuReadsABrokenValueAsTheDialogDoes()
+    {
+        Bench bench;
+        for (const char *value : {"false", "true", "no", "", "0"}) {
+            bench.settings.setValue(QLatin1String(Settings::restoreSession), QLatin1String(value));
+            bench.reopen();
+            QCOMPARE(bench.action("Reopen the Last Project at Start")->isChecked(),
+                     Settings::isOn(bench.settings, Settings::restoreSession));
+        }
+    }
+
     void theWindowFollowsTheSettings()
     {
         Bench bench;

@@ -117,8 +117,6 @@ void MainWindow::Actions::addFileMenu()
     reopen->setCheckable(true);
     reopen->setStatusTip(
         tr("Comes back to the project and its tabs when the workbench is started"));
-    QObject::connect(file, &QMenu::aboutToShow, window,
-                     [this] { reopen->setChecked(m_window->m_keeper->store().isWanted()); });
     file->addSeparator();
     save = add(file, tr("&Save"), QStringLiteral("save"), QKeySequence::Save, [window] {
         if (EditorPage *page = window->m_tabs->currentPage())
@@ -339,6 +337,7 @@ void MainWindow::Actions::addHelpMenu()
 void MainWindow::Actions::refresh()
 {
     editActions->refresh();
+    reopen->setChecked(Settings::isOn(m_window->m_settings, Settings::restoreSession));
     refreshEditor();
     refreshProject();
     const bool hasPlaces = m_window->m_messages->hasPlaces();

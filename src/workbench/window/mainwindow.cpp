@@ -858,6 +858,7 @@ void MainWindow::editSettings()
 {
     SettingsDialog dialog(m_settings, this);
     connect(&dialog, &SettingsDialog::changed, this, &MainWindow::applySettings);
+    connect(m_actions->reopen, &QAction::triggered, &dialog, &SettingsDialog::showSettings);
     dialog.exec();
 }
 
