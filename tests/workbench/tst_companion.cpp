@@ -7,6 +7,7 @@
 #include <workbench/companion/companiondesk.h>
 #include <workbench/companion/meterbar.h>
 #include <workbench/companion/meterpanel.h>
+#include <workbench/companion/previewpanel.h>
 #include <workbench/companion/stepspanel.h>
 #include <workbench/render/diagramrenderer.h>
 
@@ -34,6 +35,27 @@ class SilentDialog : public QDialog
 
 public:
     Q_INVOKABLE QVariantMap configuration() const { return {}; }
+};
+
+// What it would generate is a text.
+class PreviewingRoot : public LampRoot
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE QVariantMap previewGeneration(const QVariantMap &configuration) const
+    {
+        Q_UNUSED(configuration)
+        const QVariantMap file{{QStringLiteral("path"), QStringLiteral("lamps.v")},
+                               {QStringLiteral("state"), QStringLiteral("changed")},
+                               {QStringLiteral("notes"), QStringList()},
+                               {QStringLiteral("before"), QStringLiteral("off\n")},
+                               {QStringLiteral("after"), QStringLiteral("on\n")}};
+        return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("files"), QVariantList{file}},
+                {QStringLiteral("differences"), QVariantList()},
+                {QStringLiteral("notes"), QStringList()}};
+    }
 };
 
 Companion *companionOnScreen()
@@ -808,6 +830,48 @@ private Q_SLOTS:
         QCOMPARE(m_dialog->current, current);
         QCOMPARE(steps()->model().current(), current);
         QVERIFY(stepTexts().at(current).endsWith(QLatin1String("(now)")));
+    }
+
+    // Also where a text has the focus, and beside a dialog that has the same keys for itself: a
+    // dialog's shortcuts reach its tool windows.
+    void theKeysOfUndoAreTheSameInEveryTab()
+    {
+        m_root = std::make_unique<PreviewingRoot>();
+        auto *own = new QAction(m_dialog.get());
+        own->setShortcuts({QKeySequence(Qt::CTRL + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+        connect(own, &QAction::triggered, m_dialog.get(), [] { QFAIL("the dialog took the key"); });
+        m_dialog->addAction(own);
+        openDialog();
+        QTest::keyClick(m_dialog->edit, Qt::Key_F6);
+        QTRY_COMPARE(QApplication::activeWindow(), m_desk->companion());
+        QTabWidget *tabs = m_desk->companion()->tabs();
+        QCOMPARE(tabs->count(), 3);
+        int tried = 0;
+        int texts = 0;
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            auto *preview = qobject_cast<PreviewPanel *>(tabs->widget(tab));
+            if (preview)
+                preview->refresh();
+            const auto places = tabs->widget(tab)->findChildren<QWidget *>() << tabs->tabBar();
+            for (QWidget *place : places) {
+                if (!(place->focusPolicy() & Qt::TabFocus) || !place->isVisible() ||
+                    !place->isEnabled() || place->inherits("QAbstractSpinBox"))
+                    continue;
+                place->setFocus();
+                QTRY_COMPARE(QApplication::focusWidget(), place);
+                m_dialog->goToStep(2);
+                QTRY_COMPARE(steps()->model().current(), 2);
+                QTest::keyClick(place, Qt::Key_Z, Qt::ControlModifier);
+                QVERIFY2(m_dialog->current == 1, place->metaObject()->className());
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Y, Qt::ControlModifier);
+                QVERIFY2(m_dialog->current == 2, place->metaObject()->className());
+                ++tried;
+                texts += place->inherits("QPlainTextEdit");
+            }
+        }
+        QVERIFY(tried >= 8);
+        QCOMPARE(texts, 2);
     }
 
     void buttonsOfferWhatCanBeDone()
