@@ -1,7 +1,9 @@
 #include "hands.h"
 
+#include <workbench/catalogue/sayings.h>
 #include <workbench/language/languages.h>
 #include <workbench/language/qttexts.h>
+#include <workbench/window/components.h>
 #include <workbench/window/startpage.h>
 
 #include <ipcore/ipcore.h>
@@ -511,6 +513,80 @@ private Q_SLOTS:
             const PluginTexts plugin;
             QCOMPARE(textsOfQt(), english);
         }
+    }
+
+    void purposesOfComponentsAreTranslated()
+    {
+        const QVector<Component> english = components();
+        QVERIFY(english.size() > 15);
+        for (const Languages::Choice &choice : Languages::available()) {
+            if (choice.code == QLatin1String("en"))
+                continue;
+            const Languages language(choice.code);
+            const QVector<Component> shown = components();
+            for (int i = 0; i < english.size(); ++i) {
+                QVERIFY2(shown.at(i).purpose != english.at(i).purpose,
+                         qPrintable(shown.at(i).purpose));
+                QCOMPARE(shown.at(i).licence, english.at(i).licence);
+            }
+        }
+    }
+
+    void whatIsSaidOfAPluginIsTranslatedAndGoesInEnglish()
+    {
+        const QStringList parts{QStringLiteral("%2 (a) It."),
+                                Sayings::told(Sayings::WhenAskedForIps)};
+        for (int i = 0; i < Sayings::Count; ++i) {
+            const QString english = Sayings::told(Sayings::Saying(i), parts);
+            QCOMPARE(Sayings::shown(english), english);
+            const Languages german(QStringLiteral("de"));
+            QCOMPARE(Sayings::told(Sayings::Saying(i), parts), english);
+            const QString shown = Sayings::shown(english);
+            QVERIFY2(shown != english, qPrintable(shown));
+            QCOMPARE(shown.contains(parts.at(0)), english.contains(parts.at(0)));
+            QVERIFY2(!shown.contains(parts.at(1)), qPrintable(shown));
+        }
+        const QString two =
+            Sayings::told(Sayings::IpIsNone) + u' ' + Sayings::told(Sayings::IpTwice);
+        QCOMPARE(Sayings::shown(two), two);
+        const Languages german(QStringLiteral("de"));
+        QCOMPARE(Sayings::shown(two), Sayings::shown(Sayings::told(Sayings::IpIsNone)) + u' ' +
+                                          Sayings::shown(Sayings::told(Sayings::IpTwice)));
+        QCOMPARE(Sayings::shown(QStringLiteral("It is something else.")),
+                 QStringLiteral("It is something else."));
+    }
+
+    void whatTheProbeFindsIsShownTranslatedAndKeptInEnglish_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("english");
+        const auto row = [](const char *kind, const char *english) {
+            QTest::newRow(kind) << QString::fromLatin1(kind) << QString::fromLatin1(english);
+        };
+        row("printing-listing", "It did not stop printing when it was asked for its IPs.");
+        row("crashing-starting", "It crashed while it was started (signal ");
+        row("null", "One of its IPs is no object.");
+    }
+    void whatTheProbeFindsIsShownTranslatedAndKeptInEnglish()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, english);
+        const QTemporaryDir dir;
+        const QString kept = dir.filePath(QStringLiteral("probes.json"));
+        const auto reason = [&] {
+            IpCatalogue catalogue;
+            catalogue.setProbeCache(kept);
+            catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/") + kind, true);
+            return catalogue.failures().isEmpty() ? QString() : catalogue.failures().first().reason;
+        };
+        {
+            const Languages german(QStringLiteral("de"));
+            const QString shown = reason();
+            QVERIFY2(shown.startsWith(QLatin1String("E")) && !shown.startsWith(english),
+                     qPrintable(shown)); // "Es …", "Eine …"
+            QVERIFY2(!shown.contains(QLatin1String(" was ")), qPrintable(shown));
+        }
+        QVERIFY2(reason().startsWith(english), qPrintable(reason()));
     }
 
     void shownNumbersFollowTheChosenLanguage()

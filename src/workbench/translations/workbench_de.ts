@@ -1105,6 +1105,130 @@
         <source>No program of the desktop shows the folder &quot;%1&quot;.</source>
         <translation>Kein Programm des Desktops zeigt den Ordner „%1“ an.</translation>
     </message>
+    <message>
+        <source>while it was loaded</source>
+        <translation>beim Laden</translation>
+    </message>
+    <message>
+        <source>while it was started</source>
+        <translation>beim Starten</translation>
+    </message>
+    <message>
+        <source>when it was asked for its IPs</source>
+        <translation>bei der Frage nach seinen IPs</translation>
+    </message>
+    <message>
+        <source>when it was asked what its IPs are</source>
+        <translation>bei der Frage, was seine IPs sind</translation>
+    </message>
+    <message>
+        <source>when it was asked about devices</source>
+        <translation>bei der Frage nach Bausteinen</translation>
+    </message>
+    <message>
+        <source>when its IPs were released</source>
+        <translation>beim Freigeben seiner IPs</translation>
+    </message>
+    <message>
+        <source>It did not stop printing %1.</source>
+        <translation>Es gab %1 ohne Ende aus.</translation>
+    </message>
+    <message>
+        <source>It did not answer within %1 s %2.</source>
+        <translation>Es hat innerhalb von %1 s nicht geantwortet: %2.</translation>
+    </message>
+    <message>
+        <source>It crashed %1 (signal %2).</source>
+        <translation>Es ist %1 abgestürzt (Signal %2).</translation>
+    </message>
+    <message>
+        <source>It ended the program %1 (status %2).</source>
+        <translation>Es hat %1 das Programm beendet (Status %2).</translation>
+    </message>
+    <message>
+        <source>plug-in mechanism, and everything on screen</source>
+        <translation>Mechanismus der Plug-ins und alles auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>figures, diagram and pictures of documents</source>
+        <translation>Abbildungen, Diagramm und Bilder der Dokumente</translation>
+    </message>
+    <message>
+        <source>the editor&apos;s colours</source>
+        <translation>Farben des Editors</translation>
+    </message>
+    <message>
+        <source>arguments and help texts of the programs</source>
+        <translation>Argumente und Hilfetexte der Programme</translation>
+    </message>
+    <message>
+        <source>digests of files in the command line</source>
+        <translation>Prüfsummen von Dateien in der Befehlszeile</translation>
+    </message>
+    <message>
+        <source>C library, mathematics, dynamic loading</source>
+        <translation>C-Bibliothek, Mathematik, dynamisches Laden</translation>
+    </message>
+    <message>
+        <source>C++ library</source>
+        <translation>C++-Bibliothek</translation>
+    </message>
+    <message>
+        <source>the processor&apos;s instructions in simulation</source>
+        <translation>Befehle des Prozessors in der Simulation</translation>
+    </message>
+    <message>
+        <source>programs in ELF form for the simulated processor</source>
+        <translation>Programme im ELF-Format für den simulierten Prozessor</translation>
+    </message>
+    <message>
+        <source>stacks of simulated instructions that wait for the bus</source>
+        <translation>Stapel simulierter Befehle, die auf den Bus warten</translation>
+    </message>
+    <message>
+        <source>programs in ELF form in command line and plug-in</source>
+        <translation>Programme im ELF-Format in Befehlszeile und Plug-in</translation>
+    </message>
+    <message>
+        <source>lines of C of a program&apos;s addresses</source>
+        <translation>C-Zeilen zu den Adressen eines Programms</translation>
+    </message>
+    <message>
+        <source>synthesis and proofs</source>
+        <translation>Synthese und Beweise</translation>
+    </message>
+    <message>
+        <source>simulation; it loads the simulation component</source>
+        <translation>Simulation; lädt den Bestandteil für Simulation</translation>
+    </message>
+    <message>
+        <source>simulation of what it compiles</source>
+        <translation>Simulation dessen, was es übersetzt</translation>
+    </message>
+    <message>
+        <source>proofs of VHDL netlists</source>
+        <translation>Beweise von VHDL-Netzlisten</translation>
+    </message>
+    <message>
+        <source>jobs of a sweep, and building</source>
+        <translation>Aufträge eines Sweeps und das Bauen</translation>
+    </message>
+    <message>
+        <source>shows waves</source>
+        <translation>zeigt Wellenformen</translation>
+    </message>
+    <message>
+        <source>compiles programs for the simulated processor</source>
+        <translation>übersetzt Programme für den simulierten Prozessor</translation>
+    </message>
+    <message>
+        <source>C library of programs for the processor</source>
+        <translation>C-Bibliothek von Programmen für den Prozessor</translation>
+    </message>
+    <message>
+        <source>debugs programs in simulation; the user starts it</source>
+        <translation>Fehlersuche in Programmen in der Simulation; der Benutzer startet es</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>

@@ -1105,6 +1105,130 @@
         <source>No program of the desktop shows the folder &quot;%1&quot;.</source>
         <translation>桌面没有能显示文件夹 “%1” 的程序。</translation>
     </message>
+    <message>
+        <source>while it was loaded</source>
+        <translation>在加载时</translation>
+    </message>
+    <message>
+        <source>while it was started</source>
+        <translation>在启动时</translation>
+    </message>
+    <message>
+        <source>when it was asked for its IPs</source>
+        <translation>在被询问有哪些 IP 时</translation>
+    </message>
+    <message>
+        <source>when it was asked what its IPs are</source>
+        <translation>在被询问其 IP 的信息时</translation>
+    </message>
+    <message>
+        <source>when it was asked about devices</source>
+        <translation>在被询问器件时</translation>
+    </message>
+    <message>
+        <source>when its IPs were released</source>
+        <translation>在释放其 IP 时</translation>
+    </message>
+    <message>
+        <source>It did not stop printing %1.</source>
+        <translation>它%1不停地输出。</translation>
+    </message>
+    <message>
+        <source>It did not answer within %1 s %2.</source>
+        <translation>它%2未在 %1 秒内应答。</translation>
+    </message>
+    <message>
+        <source>It crashed %1 (signal %2).</source>
+        <translation>它%1崩溃（信号 %2）。</translation>
+    </message>
+    <message>
+        <source>It ended the program %1 (status %2).</source>
+        <translation>它%1结束了程序（状态 %2）。</translation>
+    </message>
+    <message>
+        <source>plug-in mechanism, and everything on screen</source>
+        <translation>插件机制以及屏幕上的一切</translation>
+    </message>
+    <message>
+        <source>figures, diagram and pictures of documents</source>
+        <translation>插图、框图和文档中的图片</translation>
+    </message>
+    <message>
+        <source>the editor&apos;s colours</source>
+        <translation>编辑器的着色</translation>
+    </message>
+    <message>
+        <source>arguments and help texts of the programs</source>
+        <translation>程序的参数和帮助文本</translation>
+    </message>
+    <message>
+        <source>digests of files in the command line</source>
+        <translation>命令行中的文件摘要</translation>
+    </message>
+    <message>
+        <source>C library, mathematics, dynamic loading</source>
+        <translation>C 库、数学函数、动态加载</translation>
+    </message>
+    <message>
+        <source>C++ library</source>
+        <translation>C++ 库</translation>
+    </message>
+    <message>
+        <source>the processor&apos;s instructions in simulation</source>
+        <translation>仿真中处理器的指令</translation>
+    </message>
+    <message>
+        <source>programs in ELF form for the simulated processor</source>
+        <translation>供仿真处理器使用的 ELF 格式程序</translation>
+    </message>
+    <message>
+        <source>stacks of simulated instructions that wait for the bus</source>
+        <translation>等待总线的仿真指令的栈</translation>
+    </message>
+    <message>
+        <source>programs in ELF form in command line and plug-in</source>
+        <translation>命令行和插件中的 ELF 格式程序</translation>
+    </message>
+    <message>
+        <source>lines of C of a program&apos;s addresses</source>
+        <translation>程序地址对应的 C 代码行</translation>
+    </message>
+    <message>
+        <source>synthesis and proofs</source>
+        <translation>综合与证明</translation>
+    </message>
+    <message>
+        <source>simulation; it loads the simulation component</source>
+        <translation>仿真；它加载仿真组件</translation>
+    </message>
+    <message>
+        <source>simulation of what it compiles</source>
+        <translation>对其编译结果的仿真</translation>
+    </message>
+    <message>
+        <source>proofs of VHDL netlists</source>
+        <translation>VHDL 网表的证明</translation>
+    </message>
+    <message>
+        <source>jobs of a sweep, and building</source>
+        <translation>扫描的作业以及构建</translation>
+    </message>
+    <message>
+        <source>shows waves</source>
+        <translation>显示波形</translation>
+    </message>
+    <message>
+        <source>compiles programs for the simulated processor</source>
+        <translation>为仿真处理器编译程序</translation>
+    </message>
+    <message>
+        <source>C library of programs for the processor</source>
+        <translation>处理器程序的 C 库</translation>
+    </message>
+    <message>
+        <source>debugs programs in simulation; the user starts it</source>
+        <translation>调试仿真中的程序；由用户启动</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>
