@@ -11,6 +11,7 @@
 #include <workbench/editor/search.h>
 #include <workbench/editor/textfile.h>
 #include <workbench/editor/unsavedcopy.h>
+#include <workbench/widgets/colours.h>
 #include <workbench/widgets/infobar.h>
 
 #include <QApplication>
@@ -792,6 +793,61 @@ private Q_SLOTS:
         page->findBar()->start(); // as an expression that finds just this
         QCOMPARE(page->findBar()->findChild<QLineEdit *>()->text(), QStringLiteral("a\\.b"));
         QCOMPARE(state(page), QStringLiteral("1 of 2"));
+    }
+
+    // Whatever the themes of the languages have.
+    void coloursOfALanguageCanBeRead_data()
+    {
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("text");
+        QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black);
+        QTest::newRow("dark") << QColor(35, 38, 41) << QColor(239, 240, 241);
+        QTest::newRow("sepia") << QColor(253, 246, 227) << QColor(60, 60, 60);
+    }
+    void coloursOfALanguageCanBeRead()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, text);
+        QPalette palette;
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Text, text);
+        int letters = 0;
+        QSet<QRgb> inks;
+        const std::pair<const char *, const char *> programs[] = {
+            {"a.v", "// two\n`define A 1\nmodule a #(parameter B = 8'hff) (input wire c);\n"
+                    "/* TODO FIXME */ initial $display(\"x\\n\");\nendmodule\n"},
+            {"a.vhd", "-- one\nlibrary ieee;\nentity a is port (b : in std_logic := '0');\nend;\n"},
+            {"a.ipc", "[General]\ntype=a.b\n; note\nx=true\n"},
+            {"a.json", "{\"a\": [1, 2.5, true, null, \"x\", bad]}\n"},
+            {"a.log", "ERROR: bad\nWARNING: so so\nINFO: good\n2020-01-01 debug\n"},
+            {"a.tcl", "# c\nset a [expr {1 + 2}]\nputs \"$a\"\n"},
+            {"a.c", "#include <stdio.h>\n/* a */ int main(void) { return 0x1f; } // b\n"},
+        };
+        for (const auto &[name, program] : programs) {
+            QTextDocument document;
+            document.setPlainText(QString::fromLatin1(program));
+            QSyntaxHighlighter *highlighter =
+                Highlighting::attach(&document, QString::fromLatin1(name), palette);
+            QVERIFY2(highlighter, name);
+            highlighter->rehighlight();
+            for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+                const auto formats = block.layout()->formats();
+                for (const QTextLayout::FormatRange &range : formats) {
+                    const QTextCharFormat &format = range.format;
+                    QVERIFY2(!format.hasProperty(QTextFormat::BackgroundBrush), name);
+                    if (!format.hasProperty(QTextFormat::ForegroundBrush))
+                        continue;
+                    const QColor ink = format.foreground().color();
+                    inks.insert(ink.rgb());
+                    ++letters;
+                    for (const QColor &paper : {base, Colours::cursorLine(palette)})
+                        QVERIFY2(Colours::contrast(ink, paper) >= Colours::textContrast,
+                                 qPrintable(QString::fromLatin1(name) + u' ' + ink.name()));
+                }
+            }
+        }
+        QVERIFY(letters > 30);
+        QVERIFY(inks.size() > 5); // they still tell something apart
     }
 
     // 60 MB with a match in each line: the window gets its turn again and again, and all of it is

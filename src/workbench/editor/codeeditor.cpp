@@ -348,9 +348,7 @@ void CodeEditor::wheelEvent(QWheelEvent *event)
 void CodeEditor::markCurrentLine()
 {
     QTextEdit::ExtraSelection line;
-    QColor color = palette().color(QPalette::Highlight);
-    color.setAlphaF(0.12);
-    line.format.setBackground(color);
+    line.format.setBackground(Colours::cursorLine(palette()));
     line.format.setProperty(QTextFormat::FullWidthSelection, true);
     line.cursor = textCursor();
     line.cursor.clearSelection();
