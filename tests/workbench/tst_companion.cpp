@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -128,6 +129,39 @@ private Q_SLOTS:
     {
         QCOMPARE(Companion::placeBeside({0, 0, 200, 3000}, {5000, 3000}, {0, 0, 800, 600}),
                  QRect(0, 0, 800, 600));
+    }
+
+    void comesBackWhereItWasPut()
+    {
+        openDialog();
+        m_dialog->hide();
+        QVERIFY(!m_settings->contains(QStringLiteral("window/companion"))); // nobody has put it
+        const auto again = [this] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            m_meter = nullptr;
+            openDialog();
+        };
+        again();
+        const QSize size = m_desk->companion()->size() + QSize(30, -20);
+        const QPoint place(40, 30);
+        m_desk->companion()->resize(size);
+        m_desk->companion()->move(place);
+        m_dialog->hide();
+        again();
+        QCOMPARE(m_desk->companion()->size(), size);
+        QCOMPARE(m_desk->companion()->pos(), place);
+        m_dialog->hide();
+        // A screen that is gone, and what is none.
+        m_settings->setValue(QStringLiteral("window/companion"), QRect(90000, -5000, 9000, 9000));
+        again();
+        const QRect screen = m_dialog->screen()->availableGeometry();
+        QVERIFY(screen.contains(m_desk->companion()->geometry()));
+        QVERIFY(!(m_desk->companion()->geometry() & screen).isEmpty());
+        m_dialog->hide();
+        m_settings->setValue(QStringLiteral("window/companion"), QStringLiteral("here"));
+        again();
+        QVERIFY(screen.contains(m_desk->companion()->geometry()));
+        m_dialog->hide();
     }
 
     void aDialogThatOffersNothingGetsNone_data()

@@ -117,7 +117,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_projectActions(new ProjectActions(*m_tabs, this))
     , m_catalogueView(new CatalogueView(catalogue))
     , m_plugins(new PluginList(catalogue, settings, *m_infoBar, this))
-    , m_help(new HelpDesk(catalogue, this))
+    , m_help(new HelpDesk(settings, catalogue, this))
     , m_generation(new GenerationWatch(catalogue, this))
     , m_companions(new CompanionDesk(settings, companionPanels(settings), this))
 {
