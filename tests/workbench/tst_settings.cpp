@@ -2,6 +2,7 @@
 
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
+#include <workbench/editor/findbar.h>
 #include <workbench/language/languages.h>
 #include <workbench/settings/externaleditor.h>
 #include <workbench/settings/settingsdialog.h>
@@ -284,6 +285,34 @@ private Q_SLOTS:
             QCOMPARE(bench.action("Reopen the Last Project at Start")->isChecked(),
                      Settings::isOn(bench.settings, Settings::restoreSession));
         }
+    }
+
+    void howIsLookedForIsRemembered()
+    {
+        Bench bench;
+        const QString first = bench.folder() + QStringLiteral("/a.v");
+        const QString second = bench.folder() + QStringLiteral("/b.v");
+        write(first, "module a;\n");
+        write(second, "module b;\n");
+        const auto box = [&bench](const char *name) {
+            return bench.window->tabs()->currentPage()->findBar()->findChild<QCheckBox *>(
+                QLatin1String(name));
+        };
+        bench.window->openPath(second);
+        bench.window->openPath(first);
+        bench.window->tabs()->currentPage()->findBar()->start();
+        for (const char *name : {"matchCaseBox", "wholeWordsBox", "expressionBox"})
+            QVERIFY(!box(name)->isChecked());
+        box("matchCaseBox")->click();
+        box("expressionBox")->click();
+        bench.window->openPath(second); // was open before
+        QVERIFY(box("matchCaseBox")->isChecked());
+        QVERIFY(box("expressionBox")->isChecked());
+        bench.reopen();
+        bench.window->openPath(first);
+        QVERIFY(box("matchCaseBox")->isChecked());
+        QVERIFY(!box("wholeWordsBox")->isChecked());
+        QVERIFY(box("expressionBox")->isChecked());
     }
 
     void theWindowFollowsTheSettings()
