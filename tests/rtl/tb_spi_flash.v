@@ -236,7 +236,7 @@ module tb;
         // The first read resets the flash.
         expect_word(0, 0, "first word");
         check(chip.resets == HAS[2], "the flash is reset");
-        check(HAS[2] ? waits > 2630 && waits <= 2645 : waits < 280 && chip.clocks == 64, "bound of the first read");
+        check(HAS[2] ? waits > 2630 && waits <= 2646 : waits < 280 && chip.clocks == 64, "bound of the first read");
         chip.reads = 0; chip.opcodes = 0;
         for (n = 0; n < 12; n = n + 1) begin
             a = (32'h13579C * n) & 32'hFFFFFC;

@@ -2621,16 +2621,16 @@ TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_SYS_Type, sizeof(SYS_Type) == 0x1000u
  * meanwhile. While a command runs, only FIFO and STATUS take writes. While the pins work the
  * bus waits. With H = DIV.CYCLES + 1, G = CTRL.GAP + 1 and C, the clocks of opcode, address,
  * mode byte, DUMMY and 32 bits of data, a read of the window takes at most 2 H (C + G) +
- * CTRL.DELAY + 12 clock cycles, and a write of a register H (2 G + 1) + 5. A write that ends a
- * continuous read takes 2 H (E + G) + 4 more, with an E of 8 or 16 for addresses of three
- * bytes on four or two lanes, 10 or 20 for those of four bytes; one that sends a byte 16 H +
- * CTRL.DELAY + 3 more. What RECOVER takes comes on top. As after a reset, a read takes at most
- * 272 and the first one 2645; with the slowest settings 77327 and 154084. The serial clock
- * idles low (mode 0). Lanes: 0 MOSI, 1 MISO, 2 WPN, 3 HOLDN; of 8 bits that use several lanes,
- * the highest are on the highest lane. Bytes and halfwords: a byte is sent only by a write
- * that reaches the lowest byte of DATA, a command only by one that reaches the lowest byte of
- * COMMAND. FIFO takes a word from a write that reaches its lowest byte, with 0 in the bytes
- * beside it, and gives one to a read that begins there. */
+ * CTRL.DELAY + 12 clock cycles, 1 more where READ has no opcode, and a write of a register H
+ * (2 G + 1) + 5. A write that ends a continuous read takes 2 H (E + G) + 4 more, with an E of
+ * 8 or 16 for addresses of three bytes on four or two lanes, 10 or 20 for those of four bytes;
+ * one that sends a byte 16 H + CTRL.DELAY + 3 more. What RECOVER adds comes on top. As after a
+ * reset, a read takes at most 272 and the first one 2646; with the slowest settings 77327 and
+ * 154085. The serial clock idles low (mode 0). Lanes: 0 MOSI, 1 MISO, 2 WPN, 3 HOLDN; of 8
+ * bits that use several lanes, the highest are on the highest lane. Bytes and halfwords: a
+ * byte is sent only by a write that reaches the lowest byte of DATA, a command only by one
+ * that reaches the lowest byte of COMMAND. FIFO takes a word from a write that reaches its
+ * lowest byte, with 0 in the bytes beside it, and gives one to a read that begins there. */
 #define SPIFLASH_BASE                            0x69000000u /* commands to the serial flash, such as erasing and programming */
 
 /* Bytes to and from the flash. */
@@ -2844,8 +2844,8 @@ TARVO_ORIX_M1_ASSERT(tarvo_orix_m1_size_of_SYS_Type, sizeof(SYS_Type) == 0x1000u
 /* Brings the flash from whatever it was in before a reset into the state after power-on:
  * before it is selected for the first time, clocks with all lanes high end continuous reads on
  * four and on two lanes with addresses of three and of four bytes, and the opcodes 66h and 99h
- * reset it. With H and G as for the waits of the bus, that takes at most 2 H (70 + 6 G) + 64
- * WAIT + 21 clock cycles, without RESET 2 H (54 + 4 G) + 12; as after a reset 2373. */
+ * reset it. With H and G as for the waits of the bus, that adds at most 2 H (70 + 6 G) + 64
+ * WAIT + 22 clock cycles to them, without RESET 2 H (54 + 4 G) + 13; as after a reset 2374. */
 #define SPIFLASH_RECOVER_OFFSET                  0x38u
 #define SPIFLASH_RECOVER_RESET                   0x00002003u
 #define SPIFLASH_RECOVER_PENDING_Pos             0u /* 1: done before the next read of the window, command or write of SELECT; becomes 0 then */
