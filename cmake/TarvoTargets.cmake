@@ -2,7 +2,7 @@
 # the level rule (a target links only targets of its own level or below, a folder includes none above it) live here once.
 
 include_guard(GLOBAL)
-include(TarvoPrecompile)
+include(${CMAKE_CURRENT_LIST_DIR}/TarvoPrecompile.cmake)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
