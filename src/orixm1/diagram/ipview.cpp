@@ -790,7 +790,8 @@ void IPView::mouseDoubleClickEvent(QMouseEvent *event)
 
 bool IPView::focusNextPrevChild(bool next)
 {
-    return m_focus.step(next) || QGraphicsView::focusNextPrevChild(next);
+    // A button inside the view asks it, too.
+    return (hasFocus() && m_focus.step(next)) || QGraphicsView::focusNextPrevChild(next);
 }
 
 void IPView::focusInEvent(QFocusEvent *event)

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void pressOpensTheDialogAndAnswersAtOnce();
     void showsTheMenuOfTheBlock();
     void takesTheKeyboard();
+    void tabLeavesAButtonAtOnce();
     void isWhereItIsSeenAtAnyZoom_data();
     void isWhereItIsSeenAtAnyZoom();
     void findsWhatIsAtAPoint();
@@ -234,6 +235,27 @@ void tst_AccessibleDiagram::takesTheKeyboard()
     QVERIFY(box("RTC")->state().focused);
     QVERIFY(!diagram()->state().focused);
     QCOMPARE(diagram()->focusChild(), box("RTC"));
+}
+
+// Whatever blocks are left that Tab would have gone to.
+void tst_AccessibleDiagram::tabLeavesAButtonAtOnce()
+{
+    m_view->show();
+    m_view->activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), m_view->window());
+    const auto buttons = m_view->findChildren<QAbstractButton *>();
+    QVERIFY(buttons.size() > 1);
+    for (QAbstractButton *button : buttons) {
+        if (!button->isVisible())
+            continue;
+        for (const Qt::KeyboardModifier back : {Qt::NoModifier, Qt::ShiftModifier}) {
+            m_view->setFocus(Qt::TabFocusReason);
+            button->setFocus();
+            QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(button));
+            QTest::keyClick(button, back ? Qt::Key_Backtab : Qt::Key_Tab, back);
+            QVERIFY2(QApplication::focusWidget() != button, qPrintable(button->accessibleName()));
+        }
+    }
 }
 
 void tst_AccessibleDiagram::isWhereItIsSeenAtAnyZoom_data()
