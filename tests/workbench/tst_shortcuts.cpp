@@ -23,6 +23,59 @@ private Q_SLOTS:
     void init() { m_bench = std::make_unique<Bench>(); }
     void cleanup() { m_bench.reset(); }
 
+    // As it is in dialogs; wherever the button stands.
+    void enterPressesTheButtonThatHasTheFocus_data()
+    {
+        QTest::addColumn<QString>("place"); // its widget
+        QTest::addColumn<bool>("floats");
+        QTest::newRow("a page") << QStringLiteral("Workbench::StartPage") << false;
+        QTest::newRow("a dock") << QStringLiteral("Workbench::CatalogueView") << false;
+        QTest::newRow("a dock that floats") << QStringLiteral("Workbench::CatalogueView") << true;
+        QTest::newRow("the guide") << QStringLiteral("Workbench::HelpWindow") << false;
+    }
+
+    void enterPressesTheButtonThatHasTheFocus()
+    {
+        QFETCH(QString, place);
+        QFETCH(bool, floats);
+        m_bench->action("Contents")->trigger();
+        QWidget *parent = nullptr;
+        const auto widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            if (QString::fromLatin1(widget->metaObject()->className()) == place)
+                parent = widget;
+        }
+        QVERIFY(parent);
+        if (floats) {
+            auto *dock = qobject_cast<QDockWidget *>(parent->parentWidget());
+            QVERIFY(dock);
+            dock->setFloating(true);
+        }
+        QPushButton button(parent);
+        QToolButton other(parent);
+        int pressed = 0;
+        for (QAbstractButton *one :
+             {static_cast<QAbstractButton *>(&button), static_cast<QAbstractButton *>(&other)}) {
+            connect(one, &QAbstractButton::clicked, this, [&pressed] { ++pressed; });
+            one->setFocusPolicy(Qt::StrongFocus);
+            one->show();
+            one->window()->activateWindow();
+            QTRY_COMPARE(QApplication::activeWindow(), one->window());
+            one->setFocus();
+            QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget *>(one));
+            pressed = 0;
+            QTest::keyClick(one, Qt::Key_Return);
+            QCOMPARE(pressed, 1);
+            QTest::keyClick(one, Qt::Key_Enter, Qt::KeypadModifier);
+            QCOMPARE(pressed, 2);
+            QTest::keyClick(one, Qt::Key_Return, Qt::ControlModifier);
+            QCOMPARE(pressed, 2);
+            one->setEnabled(false);
+            QTest::keyClick(one->window(), Qt::Key_Return);
+            QCOMPARE(pressed, 2);
+        }
+    }
+
     void theDesktopHasNoKeysHere()
     {
         QVERIFY(QKeySequence::keyBindings(QKeySequence::Copy).isEmpty());

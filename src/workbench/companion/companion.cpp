@@ -1,5 +1,6 @@
 #include "companion.h"
 
+#include "widgets/enterkey.h"
 #include "widgets/windowplace.h"
 
 #include <ipcore/screenfit.h>
@@ -119,7 +120,7 @@ void Companion::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier && m_dialog)
         m_dialog->activateWindow();
-    else
+    else if (!pressFocusedButton(event))
         QWidget::keyPressEvent(event);
 }
 

@@ -2,6 +2,7 @@
 
 #include "widgets/assistance.h"
 #include "widgets/colours.h"
+#include "widgets/enterkey.h"
 #include "widgets/focusforward.h"
 #include "widgets/shortcuts.h"
 #include "widgets/symbolicon.h"
@@ -419,7 +420,7 @@ void HelpWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
         close();
-    else
+    else if (!pressFocusedButton(event))
         QWidget::keyPressEvent(event);
 }
 

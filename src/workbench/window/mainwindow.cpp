@@ -43,6 +43,7 @@
 #include "startpage.h"
 #include "tabmenu.h"
 #include "widgets/contextkeys.h"
+#include "widgets/enterkey.h"
 #include "widgets/errorbox.h"
 #include "widgets/fixedfont.h"
 #include "widgets/infobar.h"
@@ -961,7 +962,16 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (m_keeper && (event->type() == QEvent::Resize || event->type() == QEvent::Move))
         m_keeper->note();
+    // What nothing in a dock has taken; one that floats is a window.
+    if (event->type() == QEvent::KeyPress && pressFocusedButton(static_cast<QKeyEvent *>(event)))
+        return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (!pressFocusedButton(event))
+        QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::resizeEvent(QResizeEvent *event)
