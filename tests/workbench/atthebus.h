@@ -8,8 +8,13 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QProcess>
+#include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
 
 // A workbench as a screen reader's user has it: nothing but the accessibility bus (AT-SPI), and a
 // keyboard.
@@ -25,7 +30,15 @@ inline QString latin1(const char *text)
 }
 
 // Bits of a state as the bus has them.
-enum State { Checked = 4, Enabled = 8, Focusable = 11, Focused = 12, Sensitive = 24, Showing = 25 };
+enum State {
+    Active = 1,
+    Checked = 4,
+    Enabled = 8,
+    Focusable = 11,
+    Focused = 12,
+    Sensitive = 24,
+    Showing = 25
+};
 
 // An object of the program, as the bus names it.
 struct Node {
@@ -85,6 +98,99 @@ private:
     int m_focusCount = 0;
 };
 
+// What a window manager does for the keyboard: it goes to the window that has come up last, unless
+// that does not want it.
+class Focus : public QObject
+{
+public:
+    explicit Focus(const QString &display)
+        : m_connection(xcb_connect(qPrintable(display), nullptr))
+        , m_notifier(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read)
+    {
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+        const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+        xcb_change_window_attributes(m_connection, root, XCB_CW_EVENT_MASK, &mask);
+        xcb_flush(m_connection);
+        connect(&m_notifier, &QSocketNotifier::activated, this, [this] { readEvents(); });
+        // A program may have given it to a window that went.
+        connect(&m_check, &QTimer::timeout, this, &Focus::give);
+        m_check.start(200);
+    }
+
+    ~Focus() override { xcb_disconnect(m_connection); }
+
+private:
+    struct Freed {
+        void operator()(void *memory) const { std::free(memory); }
+    };
+
+    void readEvents()
+    {
+        if (xcb_connection_has_error(m_connection)) {
+            m_notifier.setEnabled(false);
+            return;
+        }
+        const QVector<xcb_window_t> before = m_windows;
+        while (const std::unique_ptr<xcb_generic_event_t, Freed> event{
+            xcb_poll_for_event(m_connection)}) {
+            const int kind = event->response_type & 0x7f;
+            if (kind == XCB_MAP_NOTIFY) {
+                const auto *map = reinterpret_cast<xcb_map_notify_event_t *>(event.get());
+                if (map->override_redirect)
+                    continue;
+                m_shown.insert(map->window);
+                if (wantsKeys(map->window))
+                    m_windows.append(map->window);
+            } else if (kind == XCB_UNMAP_NOTIFY) {
+                const auto window =
+                    reinterpret_cast<xcb_unmap_notify_event_t *>(event.get())->window;
+                m_windows.removeAll(window);
+                m_shown.remove(window);
+            }
+        }
+        if (m_windows != before)
+            m_given = XCB_NONE;
+    }
+
+    void give()
+    {
+        readEvents(); // that came with an answer
+        if (m_windows.isEmpty() || xcb_connection_has_error(m_connection))
+            return;
+        const std::unique_ptr<xcb_get_input_focus_reply_t, Freed> has(
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        // Where the program has led it to is its own matter.
+        if (m_given == m_windows.last() && has && m_shown.contains(has->focus))
+            return;
+        m_given = m_windows.last();
+        xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_given, XCB_CURRENT_TIME);
+        xcb_flush(m_connection);
+    }
+
+    // Not one with the time 0 of its user's last action, by the rules of window managers.
+    bool wantsKeys(xcb_window_t window) const
+    {
+        static const char name[] = "_NET_WM_USER_TIME";
+        const std::unique_ptr<xcb_intern_atom_reply_t, Freed> atom(xcb_intern_atom_reply(
+            m_connection, xcb_intern_atom(m_connection, 0, sizeof(name) - 1, name), nullptr));
+        if (!atom)
+            return true;
+        const std::unique_ptr<xcb_get_property_reply_t, Freed> time(xcb_get_property_reply(
+            m_connection,
+            xcb_get_property(m_connection, 0, window, atom->atom, XCB_ATOM_CARDINAL, 0, 1),
+            nullptr));
+        return !time || xcb_get_property_value_length(time.get()) != sizeof(std::uint32_t) ||
+               *static_cast<std::uint32_t *>(xcb_get_property_value(time.get())) != 0;
+    }
+
+    xcb_connection_t *m_connection;
+    QSocketNotifier m_notifier;
+    QTimer m_check;
+    QVector<xcb_window_t> m_windows; // that want keys, the last one on top
+    QSet<xcb_window_t> m_shown;      // all
+    xcb_window_t m_given = XCB_NONE;
+};
+
 // A display, a session bus and an accessibility bus of its own, which end with it, and the
 // workbench on them: TARVO_TEST_WORKBENCH, words with blanks between, in its place where that is
 // set. Folders are made below TARVO_TEST_WORKBENCH_FOLDER then, if that is set; they must have the
@@ -113,6 +219,7 @@ public:
     {
         QDBusConnection::disconnectFromBus(latin1("accessibility"));
         QDBusConnection::disconnectFromBus(latin1("session"));
+        m_focus.reset();
         // The launcher of the accessibility bus ends with the session's.
         for (QProcess *process : {&m_program, &m_bus, &m_display}) {
             process->terminate();
@@ -133,6 +240,7 @@ public:
         if (display.isEmpty())
             return QStringLiteral("Xvfb does not start: ") + m_display.errorString();
         m_environment.insert(QStringLiteral("DISPLAY"), u':' + display);
+        m_focus = std::make_unique<Focus>(u':' + display);
         const QString address = firstLine(m_bus, QStringLiteral("dbus-daemon"),
                                           {QStringLiteral("--session"), QStringLiteral("--nofork"),
                                            QStringLiteral("--print-address=1")});
@@ -199,6 +307,7 @@ private:
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
     QProcess m_display;
+    std::unique_ptr<Focus> m_focus;
     QProcess m_bus;
     QProcess m_program;
 };
@@ -315,6 +424,15 @@ inline Node await(const char *role, const char *name, int milliseconds = patienc
     return awaited([=] { return findAnywhere(role, name); }, milliseconds);
 }
 
+// A window, as soon as it gets the keys.
+inline Node awaitWindow(const char *role, const char *name)
+{
+    return awaited([=] {
+        const Node window = findAnywhere(role, name);
+        return !window.isNull() && is(window, Active) ? window : Node();
+    });
+}
+
 // False where there is no such action. Does not wait for what it opens.
 inline bool act(const Node &node, const char *name)
 {
@@ -338,6 +456,20 @@ inline bool act(const Node &node, const char *name)
     return found >= 0 && QDBusConnection(latin1("accessibility"))
                              .send(message(node, action, "DoAction", {found}));
 }
+
+inline bool setText(const Node &node, const QString &text)
+{
+    return ask(node, "org.a11y.atspi.EditableText", "SetTextContents", {text}).toBool();
+}
+
+inline QString textOf(const Node &node)
+{
+    constexpr char text[] = "org.a11y.atspi.Text";
+    return ask(node, text, "GetText", {0, property(node, text, "CharacterCount").toInt()})
+        .toString();
+}
+
+} // namespace Bus
 
 // Types, with the keyboard of the display, as the registry does it for who asks: the window with
 // the focus gets real key events. Keys are X11's key symbols.
@@ -391,19 +523,5 @@ inline bool type(const QString &text)
 }
 
 } // namespace Keyboard
-
-inline bool setText(const Node &node, const QString &text)
-{
-    return ask(node, "org.a11y.atspi.EditableText", "SetTextContents", {text}).toBool();
-}
-
-inline QString textOf(const Node &node)
-{
-    constexpr char text[] = "org.a11y.atspi.Text";
-    return ask(node, text, "GetText", {0, property(node, text, "CharacterCount").toInt()})
-        .toString();
-}
-
-} // namespace Bus
 
 } // namespace TestSupport
