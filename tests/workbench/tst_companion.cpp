@@ -53,6 +53,7 @@ public:
                                {QStringLiteral("before"), QStringLiteral("off\n")},
                                {QStringLiteral("after"), QStringLiteral("on\n")}};
         return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("text"), QStringLiteral("lamps.v: changed\n")},
                 {QStringLiteral("files"), QVariantList{file}},
                 {QStringLiteral("differences"), QVariantList()},
                 {QStringLiteral("notes"), QStringList()}};
@@ -889,7 +890,8 @@ private Q_SLOTS:
             const auto places = tabs->widget(tab)->findChildren<QWidget *>() << tabs->tabBar();
             for (QWidget *place : places) {
                 if (!(place->focusPolicy() & Qt::TabFocus) || !place->isVisible() ||
-                    !place->isEnabled() || place->inherits("QAbstractSpinBox"))
+                    !place->isEnabled() || place->focusProxy() ||
+                    place->inherits("QAbstractSpinBox"))
                     continue;
                 place->setFocus();
                 QTRY_COMPARE(QApplication::focusWidget(), place);
