@@ -1009,12 +1009,13 @@ private:
             bool wasOn = false;
             for (int i = block.position(); i < block.position() + block.length() - 1; ++i) {
                 const int x = (rectAt(i).center().x() + rectAt(i + 1).center().x()) / 2;
-                int rows = 0;
-                for (int y = qMax(0, top - 1); x < image.width() && y < top + 3; ++y)
-                    rows += image.pixelColor(x, y) == colour;
-                if (rows >= width && !wasOn)
+                int rows = 0; // more of them are the background of the selection
+                while (image.rect().contains(x, top + rows) &&
+                       image.pixelColor(x, top + rows) == colour)
+                    ++rows;
+                if (rows == width && !wasOn)
                     result.append(i);
-                wasOn = rows >= width;
+                wasOn = rows == width;
             }
         }
         return result;

@@ -175,28 +175,42 @@ private Q_SLOTS:
         help = m_bench->window->help();
         QCOMPARE(help->browser()->zoom(), 0);
         const QRect screen = help->screen()->availableGeometry();
-        QVERIFY(screen.contains(help->geometry()));
+        QVERIFY(screen.contains(help->frameGeometry()));
     }
 
     void aPlaceIsOnAScreenThatThereIs_data()
     {
         QTest::addColumn<QRect>("kept");
+        QTest::addColumn<QSize>("least");
         QTest::addColumn<QRect>("place");
-        QTest::newRow("as it was") << QRect(10, 20, 300, 200) << QRect(10, 20, 300, 200);
-        QTest::newRow("on the second") << QRect(1100, 20, 300, 200) << QRect(1100, 20, 300, 200);
+        const QSize none;
+        QTest::newRow("as it was") << QRect(10, 20, 300, 200) << none << QRect(10, 20, 300, 200);
+        QTest::newRow("in a corner")
+            << QRect(700, 550, 300, 200) << none << QRect(700, 550, 300, 200);
+        QTest::newRow("on the second")
+            << QRect(1100, 20, 300, 200) << none << QRect(1100, 20, 300, 200);
         QTest::newRow("mostly on the second")
-            << QRect(900, 20, 300, 200) << QRect(1000, 20, 300, 200);
-        QTest::newRow("on none") << QRect(5000, 5000, 300, 200) << QRect(700, 550, 300, 200);
-        QTest::newRow("above") << QRect(10, -30, 300, 200) << QRect(10, 0, 300, 200);
-        QTest::newRow("too large") << QRect(10, 20, 3000, 2000) << QRect(0, 0, 1000, 750);
+            << QRect(900, 20, 300, 200) << none << QRect(1000, 20, 300, 200);
+        QTest::newRow("on none") << QRect(5000, 5000, 300, 200) << none
+                                 << QRect(690, 510, 300, 200);
+        QTest::newRow("above") << QRect(10, -30, 300, 200) << none << QRect(10, 0, 300, 200);
+        QTest::newRow("too large") << QRect(10, 20, 3000, 2000) << none << QRect(0, 0, 990, 710);
         QTest::newRow("too high for the second")
-            << QRect(1100, 20, 300, 700) << QRect(1100, 0, 300, 600);
+            << QRect(1100, 20, 300, 700) << none << QRect(1100, 0, 300, 560);
+        QTest::newRow("too small for itself")
+            << QRect(10, 20, 30, 20) << QSize(300, 200) << QRect(10, 20, 300, 200);
+        QTest::newRow("too small in a corner")
+            << QRect(900, 700, 30, 20) << QSize(300, 200) << QRect(690, 510, 300, 200);
+        QTest::newRow("larger than all screens")
+            << QRect(1300, 700, 30, 20) << QSize(2000, 200) << QRect(0, 510, 2000, 200);
     }
     void aPlaceIsOnAScreenThatThereIs()
     {
         QFETCH(QRect, kept);
+        QFETCH(QSize, least);
         QFETCH(QRect, place);
-        QCOMPARE(WindowPlace::onScreen(kept, {{0, 0, 1000, 750}, {1000, 0, 800, 600}}), place);
+        const QVector<QRect> screens{{0, 0, 1000, 750}, {1000, 0, 800, 600}};
+        QCOMPARE(WindowPlace::onScreen(kept, QSize(10, 40), least, screens), place);
     }
 
     void everyComponentHasALicenceAndStandsOnce()

@@ -202,11 +202,12 @@ QStringList textsOfBoxes(const std::function<void()> &call)
     return texts;
 }
 
-// What the menu says that a widget shows at a right click, without the keys.
+// What the menu says that a widget shows at a right click, without the keys. Some widgets wait for
+// the menu to be closed, the others leave it open.
 QStringList textsOfMenu(QWidget *widget)
 {
     QStringList texts;
-    QTimer::singleShot(0, widget, [&texts] {
+    const auto closeMenu = [&texts] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         if (!menu)
             return;
@@ -214,10 +215,15 @@ QStringList textsOfMenu(QWidget *widget)
         for (const QAction *action : actions)
             texts.append(action->text().section(u'\t', 0, 0));
         menu->close();
-    });
+    };
+    QTimer whileItWaits;
+    whileItWaits.setSingleShot(true);
+    QObject::connect(&whileItWaits, &QTimer::timeout, closeMenu);
+    whileItWaits.start(0);
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2),
                             widget->mapToGlobal(QPoint(2, 2)));
     QApplication::sendEvent(widget, &event);
+    closeMenu();
     texts.removeAll(QString());
     return texts;
 }

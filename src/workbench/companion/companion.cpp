@@ -91,10 +91,8 @@ void Companion::goBeside()
 {
     const QSize room = IPCore::roomOnScreen(m_dialog);
     const QSize size(sizeHint().width(), std::max(sizeHint().height(), m_dialog->height()));
-    const QRect place = placeBeside(m_dialog->frameGeometry(), size.boundedTo(room),
-                                    m_dialog->screen()->availableGeometry());
-    resize(place.size());
-    move(place.topLeft());
+    const QRect screen(m_dialog->screen()->availableGeometry().topLeft(), room);
+    WindowPlace::put(this, placeBeside(m_dialog->frameGeometry(), size, screen));
 }
 
 void Companion::rememberPlace(QSettings &settings)

@@ -56,34 +56,36 @@ public:
     static QLocale locale();
 
 private:
-    // The workbench's texts, and Qt's that come with them, these except while PluginTexts lives.
-    class OwnTranslator : public QTranslator
+    // The texts of a file, without those of Qt while PluginTexts lives.
+    class Texts : public QTranslator
     {
     public:
-        QString translate(const char *context, const char *text, const char *disambiguation,
-                          int n) const override;
-    };
-    // Qt's own translations, with the same exception.
-    class QtTranslator : public QTranslator
-    {
-    public:
+        // Of which contexts the texts are Qt's.
+        using IsOfQt = bool (*)(const char *context);
+        explicit Texts(IsOfQt isOfQt)
+            : m_isOfQt(isOfQt)
+        {
+        }
+
         bool read(const QString &file) { return m_texts.load(file); }
         QString translate(const char *context, const char *text, const char *disambiguation,
                           int n) const override
         {
-            return PluginTexts::areShown() ? QString()
-                                           : m_texts.translate(context, text, disambiguation, n);
+            return PluginTexts::areShown() && m_isOfQt(context)
+                       ? QString()
+                       : m_texts.translate(context, text, disambiguation, n);
         }
         bool isEmpty() const override { return false; }
 
     private:
+        const IsOfQt m_isOfQt;
         QTranslator m_texts;
     };
 
     QString m_code;
     QLocale m_before;
-    OwnTranslator m_texts;
-    QtTranslator m_qtTexts;
+    Texts m_texts; // the workbench's, and those of Qt's that come with them
+    Texts m_qtTexts;
 };
 
 } // namespace Workbench

@@ -1,7 +1,10 @@
 #include "windowplace.h"
 
+#include <ipcore/screenfit.h>
+
 #include <QEvent>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QScreen>
 #include <QSettings>
 #include <QWidget>
@@ -44,33 +47,47 @@ WindowPlace::WindowPlace(QSettings &settings, const QString &key, QWidget *windo
     window->installEventFilter(this);
 }
 
-QRect WindowPlace::onScreen(const QRect &wanted, const QVector<QRect> &screens)
+QRect WindowPlace::onScreen(const QRect &wanted, const QSize &frame, const QSize &least,
+                            const QVector<QRect> &screens)
 {
     const QRect screen = *std::max_element(screens.begin(), screens.end(),
                                            [&wanted](const QRect &one, const QRect &other) {
                                                return shared(one, wanted) < shared(other, wanted);
                                            });
-    const QSize size = wanted.size().boundedTo(screen.size());
-    const auto within = [](int first, int least, int room) {
-        return std::clamp(first, least, least + room);
-    };
-    return {QPoint(within(wanted.left(), screen.left(), screen.width() - size.width()),
-                   within(wanted.top(), screen.top(), screen.height() - size.height())),
+    const QRect grown(wanted.topLeft(), wanted.size().expandedTo(least));
+    if (screen.contains(grown))
+        return grown;
+    const QSize size = wanted.size().boundedTo(screen.size() - frame).expandedTo(least);
+    const QSize room = (screen.size() - frame - size).expandedTo(QSize(0, 0));
+    return {QPoint(std::clamp(wanted.left(), screen.left(), screen.left() + room.width()),
+                   std::clamp(wanted.top(), screen.top(), screen.top() + room.height())),
             size};
+}
+
+void WindowPlace::put(QWidget *window, const QRect &wanted)
+{
+    QVector<QRect> screens;
+    const QList<QScreen *> all = QGuiApplication::screens(); // the primary one first
+    for (const QScreen *screen : all)
+        screens.append(screen->availableGeometry());
+    if (screens.isEmpty())
+        return;
+    // A layout says only now, or when the window is shown, what it needs.
+    window->ensurePolished();
+    if (window->layout())
+        window->layout()->activate();
+    const QSize frame = window->screen()->availableSize() - IPCore::roomOnScreen(window);
+    const QRect place = onScreen(wanted, frame, window->minimumSize(), screens);
+    window->resize(place.size());
+    window->move(place.topLeft());
 }
 
 bool WindowPlace::restore()
 {
     const QRect kept = m_settings.value(m_key).toRect();
-    const QList<QScreen *> all = QGuiApplication::screens(); // the primary one first
-    if (!isSound(kept) || all.isEmpty())
+    if (!isSound(kept))
         return false;
-    QVector<QRect> screens;
-    for (const QScreen *screen : all)
-        screens.append(screen->availableGeometry());
-    const QRect place = onScreen(kept, screens);
-    m_window->resize(place.size());
-    m_window->move(place.topLeft());
+    put(m_window, kept);
     return true;
 }
 

@@ -23,9 +23,14 @@ public:
 
     // False if nothing is remembered.
     bool restore();
-    // A rectangle on one of the screens, of which there must be one: the screen that has most of
-    // it, or the first; it is moved there, and made smaller if it is larger.
-    static QRect onScreen(const QRect &wanted, const QVector<QRect> &screens);
+    // Puts a window that is still hidden there, as onScreen() says.
+    static void put(QWidget *window, const QRect &wanted);
+    // Where a window comes up that was there, with its frame's place and its own size: as it was,
+    // if that is on a screen. Otherwise on the screen that has most of it, or the first, with its
+    // frame, and smaller where that has no room for it, but not smaller than the least size. There
+    // must be a screen.
+    static QRect onScreen(const QRect &wanted, const QSize &frame, const QSize &least,
+                          const QVector<QRect> &screens);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
