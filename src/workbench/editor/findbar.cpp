@@ -24,8 +24,8 @@ namespace Workbench
 namespace
 {
 
-constexpr int atOnce = 100;  // milliseconds that nobody notices
-constexpr int oneSlice = 15; // milliseconds, then the window gets its turn
+constexpr int atOnce = 16;  // milliseconds that nobody notices
+constexpr int oneSlice = 8; // milliseconds, then the window gets its turn
 constexpr int afterChange = 200;
 constexpr int longestHistory = 30;
 
@@ -294,7 +294,7 @@ Search *FindBar::search()
     }
     const int revision = m_editor->document()->revision();
     if (!m_search || !(m_searched == now) || m_revision != revision) {
-        m_search = std::make_unique<Search>(m_editor->shownText(), now);
+        m_search = std::make_unique<Search>(std::make_unique<TextCopy>(m_editor->document()), now);
         m_searched = now;
         m_revision = revision;
     }
@@ -520,18 +520,22 @@ void FindBar::finishReplacing()
         replaceSome(-1);
 }
 
+void FindBar::forget()
+{
+    m_goOn.stop();
+    m_search.reset();
+    m_jump = Nowhere;
+    m_wantsAll = false;
+}
+
 void FindBar::leave()
 {
     remember();
     hide();
     m_newRow->hide();
     m_changed.stop();
-    if (!isReplacing()) {
-        m_goOn.stop();
-        m_search.reset(); // it holds the text
-        m_jump = Nowhere;
-        m_wantsAll = false;
-    }
+    if (!isReplacing())
+        forget(); // it holds the text
     m_editor->setFocus();
 }
 
