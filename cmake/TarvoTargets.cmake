@@ -2,6 +2,7 @@
 # the level rule (a target links only targets of its own level or below, a folder includes none above it) live here once.
 
 include_guard(GLOBAL)
+include(TarvoPrecompile)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -125,26 +126,41 @@ function(tarvo_add_program name)
     tarvo_set_level(${name} ${ARG_LEVEL})
 endfunction()
 
-# Results that tests share; what is kept there is known by the programs that made it.
+# What tests share: results, which are known by what they were made from, a synthesis tool that takes those of equal designs, and a
+# compiler of simulations that does so too and spares the optimising.
 set(TARVO_TEST_CACHE ${CMAKE_BINARY_DIR}/tests/cache)
+set(TARVO_TEST_ENVIRONMENT XDG_CACHE_HOME=${TARVO_TEST_CACHE} TARVO_TEST_CACHE=${TARVO_TEST_CACHE} OPT_FAST=-O0 OPT_GLOBAL=-O0)
+find_program(TARVO_CCACHE ccache)
+if(TARVO_CCACHE)
+    list(APPEND TARVO_TEST_ENVIRONMENT OBJCACHE=${TARVO_CCACHE} CCACHE_DIR=${TARVO_TEST_CACHE}/ccache)
+endif()
+
+# tarvo_share_results(TEST …): tests that make simulations or netlists, not those that are about the tools themselves.
+function(tarvo_share_results)
+    foreach(test IN LISTS ARGN)
+        set_property(TEST ${test} APPEND PROPERTY ENVIRONMENT "${TARVO_TEST_ENVIRONMENT}")
+        set_property(TEST ${test} PROPERTY ENVIRONMENT_MODIFICATION PATH=path_list_prepend:${PROJECT_SOURCE_DIR}/tests/tools)
+    endforeach()
+endfunction()
 
 # Tests wait for the compiler more than for the code that it makes of them.
 add_library(tarvo_test_flags INTERFACE)
 target_link_libraries(tarvo_test_flags INTERFACE tarvo_flags)
 target_compile_options(tarvo_test_flags INTERFACE "$<$<CONFIG:Release>:-O1>")
 
-# tarvo_add_test(NAME SOURCES … [LINK …] [TIMEOUT seconds]): a QtTest program and the test that runs it.
+# tarvo_add_test(NAME SOURCES … [LINK …] [TIMEOUT seconds] [OWN_TOOLS]): a QtTest program and the test that runs it. OWN_TOOLS: it
+# counts on the tools as they are.
 function(tarvo_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "OWN_TOOLS" "TIMEOUT" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
     target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_test_flags)
+    set_property(GLOBAL APPEND PROPERTY TARVO_TESTS ${name})
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false"
-        XDG_CACHE_HOME=${TARVO_TEST_CACHE})
+    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false")
     if(TARVO_SANITIZE)
         # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
         list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0
@@ -152,7 +168,13 @@ function(tarvo_add_test name)
             # The test's own limit counts, not that of a function of it, in milliseconds.
             QTEST_FUNCTION_TIMEOUT=1800000)
     endif()
+    if(ARG_OWN_TOOLS)
+        list(APPEND environment XDG_CACHE_HOME=${TARVO_TEST_CACHE})
+    endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
+    if(NOT ARG_OWN_TOOLS)
+        tarvo_share_results(${name})
+    endif()
 endfunction()
 
 # tarvo_order_folders(FOLDER …): the folders of the calling one that hold sources, lowest first. Remembered for

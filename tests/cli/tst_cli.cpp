@@ -121,7 +121,8 @@ void tst_Cli::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     m_environment = QProcessEnvironment::systemEnvironment();
-    // Every generation synthesises, none takes the results of another one.
+    // Every generation synthesises, none takes the results of another one. What the tool has mapped
+    // already is remembered for it.
     m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), QStringLiteral("/dev/null"));
     // No display and no platform plug-in: the command must not miss them.
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
@@ -555,19 +556,31 @@ void tst_Cli::generatedModelCompiles()
 void tst_Cli::takesOddPaths_data()
 {
     QTest::addColumn<QString>("folder");
-    QTest::newRow("blank") << QStringLiteral("a b");
-    QTest::newRow("quotes") << QStringLiteral("a \"b\" 'c'");
-    QTest::newRow("percent") << QStringLiteral("%1 %2 %n");
-    QTest::newRow("umlaut") << QString::fromUtf8("\xc3\xbc\xe6\x97\xa5");
-    QTest::newRow("dollar, brackets, star") << QStringLiteral("$HOME [x] {y} *");
-    QTest::newRow("backslash") << QStringLiteral("a\\b");
-    QTest::newRow("leading minus") << QStringLiteral("-out");
-    QTest::newRow("hash and semicolon") << QStringLiteral("a#b;c");
+    QTest::addColumn<bool>("maps"); // whether the tool itself maps the design there
+    const QVector<QPair<const char *, QString>> folders = {
+        {"blank", QStringLiteral("a b")},
+        {"quotes", QStringLiteral("a \"b\" 'c'")},
+        {"percent", QStringLiteral("%1 %2 %n")},
+        {"umlaut", QString::fromUtf8("\xc3\xbc\xe6\x97\xa5")},
+        {"dollar, brackets, star", QStringLiteral("$HOME [x] {y} *")},
+        {"backslash", QStringLiteral("a\\b")},
+        {"leading minus", QStringLiteral("-out")},
+        {"hash and semicolon", QStringLiteral("a#b;c")},
+    };
+    QStringList all;
+    for (const auto &[name, folder] : folders) {
+        QTest::newRow(name) << folder << false;
+        all.append(folder);
+    }
+    QTest::newRow("each in the one before") << all.join(u'/') << true;
 }
 
 void tst_Cli::takesOddPaths()
 {
     QFETCH(QString, folder);
+    QFETCH(bool, maps);
+    if (maps)
+        m_environment.remove(QStringLiteral("TARVO_TEST_CACHE"));
     const QString inFolder = path("") + folder;
     QVERIFY(QDir().mkpath(inFolder));
     QVERIFY(QFile::rename(config("ITCM_Size=0\nDTCM_Size=0\n"),

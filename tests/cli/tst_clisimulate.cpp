@@ -174,8 +174,9 @@ private Q_SLOTS:
         TestSupport::write(path("bin/g++"), "#!/bin/sh\necho \"no compiler today\"\nexit 1\n");
         QFile::setPermissions(path("bin/g++"), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
         const QString withoutCompiler = path("bin:") + qEnvironmentVariable("PATH");
-        QVERIFY2(simulate(arguments).status == 0, "built");
-        Run run = simulate(arguments, withoutCompiler);
+        const QString own = path("own");
+        QVERIFY2(simulate(arguments, {}, own).status == 0, "built");
+        Run run = simulate(arguments, withoutCompiler, own);
         QVERIFY2(run.status == 0, qPrintable(run.err));
         QCOMPARE(run.out, QByteArray("hello, world\n"));
 
@@ -187,7 +188,7 @@ private Q_SLOTS:
         // Of that only what is exported could be compiled.
         QCOMPARE(QDir(path("elsewhere/tarvo/simulate")).entryList(QDir::Files).size(), 1);
 
-        const QString kept = m_cache.filePath(QStringLiteral("tarvo/simulate"));
+        const QString kept = own + QLatin1String("/tarvo/simulate");
         const QString copies = path("copies/tarvo/simulate");
         QVERIFY(QDir().mkpath(copies));
         const QStringList entries = QDir(kept).entryList(QDir::Files);
@@ -908,8 +909,8 @@ private Q_SLOTS:
         process.setWorkingDirectory(m_dir->path());
         process.start(
             QStringLiteral(TARVO_COMMAND),
-            words({"simulate", "--c", "main.c", "--timeout", "1000000000", "--waves", "run.fst"})
-                << QStringLiteral("--engine") << engine << example);
+            simulation(words({"--c", "main.c", "--timeout", "1000000000", "--waves", "run.fst"})
+                       << QStringLiteral("--engine") << engine << example));
         QTRY_VERIFY_WITH_TIMEOUT(
             process.bytesAvailable() > 0 || process.state() == QProcess::NotRunning, 60000);
         QCOMPARE(process.readAllStandardOutput(), QByteArray("semihosting: begun\n"));
@@ -941,13 +942,13 @@ private:
         return QJsonDocument::fromJson(TestSupport::contentsOf(path(name))).object();
     }
 
-    // `tools`: PATH; `cache`: folder of what is kept. Empty: as it is, and one for all tests.
+    // `tools`: PATH; `cache`: folder of what is kept. Empty: as it is.
     QProcessEnvironment environmentOf(const QString &tools, const QString &cache = {}) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("TMPDIR"), path("scratch"));
-        environment.insert(QStringLiteral("XDG_CACHE_HOME"),
-                           cache.isEmpty() ? m_cache.path() : cache);
+        if (!cache.isEmpty())
+            environment.insert(QStringLiteral("XDG_CACHE_HOME"), cache);
         if (!tools.isEmpty())
             environment.insert(QStringLiteral("PATH"), tools);
         return environment;
@@ -963,7 +964,6 @@ private:
         return SimulateProcess::finish(process);
     }
 
-    QTemporaryDir m_cache;
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 

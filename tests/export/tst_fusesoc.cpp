@@ -353,9 +353,10 @@ void tst_Fusesoc::toolsTakeTheFilesOfEachTarget()
         }
         // Its make cannot build in a folder with a blank in its name.
         const QTemporaryDir made;
-        arguments += QStringList{QStringLiteral("--Mdir"), made.path(), QStringLiteral("-o"),
-                                 QStringLiteral("made"), QStringLiteral("-CFLAGS"),
-                                 QStringLiteral("-O0")};
+        arguments += QStringList{
+            QStringLiteral("--Mdir"),     made.path(),
+            QStringLiteral("-o"),         QStringLiteral("made"),
+            QStringLiteral("-MAKEFLAGS"), QStringLiteral("OPT_FAST=-O0 OPT_GLOBAL=-O0")};
         run(QStringLiteral("verilator"), arguments);
         const QString played = run(made.filePath(QStringLiteral("made")), plusArguments);
         QVERIFY2(hasPassed(played), qPrintable(played));

@@ -1,8 +1,8 @@
 /* Reads and writes each block of the sensor node by the exported header and drivers, on the board
  * of board.v. It runs three times: after power-on, after a reset that it requests itself, and after
  * one by the watchdog. What differs from what is expected is said by semihosting, and how many did
- * is the exit status. With FEW_BLOCKS serial lines, timer and clock are left out, for small
- * memories. */
+ * is the exit status; with ENDS_AT_A_FAILURE the first one ends it. With FEW_BLOCKS serial lines,
+ * timer and clock are left out, for small memories. */
 #include "tarvo_orix_m1.h"
 
 #include "gpio.h"
@@ -74,6 +74,9 @@ static void check(const char *what, uint32_t value, uint32_t expected)
     say(", expected ");
     say_number(expected);
     say("\n");
+#ifdef ENDS_AT_A_FAILURE
+    finish();
+#endif
 }
 
 /* ---- exceptions */

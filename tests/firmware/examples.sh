@@ -22,7 +22,7 @@ fail() { echo "FAILED: $*"; exit 1; }
 
 mkdir bin
 ln -s "$orixm1" bin/orixm1
-export PATH=$tmp/bin:$PATH XDG_CACHE_HOME=$tmp/cache
+export PATH=$tmp/bin:$PATH XDG_CACHE_HOME=${TARVO_TEST_CACHE:-$tmp/cache}
 ln -s "$root/examples" examples
 guide=$root/docs/user-guide.md
 

@@ -48,10 +48,12 @@ build() { # [FOLDER]: the example's RTL, or that of another sensor-node.ipc, in 
         ${watch[0]+"$checkers/bus_watch.v"} "$model/cortex_m1_core_isa.v" "$board"
 }
 
-compile() { # FOLDER: the program from the files of an export
+compile() { # FOLDER [OPTION…]: the program from the files of an export
+    local folder=$1
+    shift
     arm-none-eabi-gcc -mcpu=cortex-m1 -mthumb -std=c99 -Os -g -ffreestanding -nostdlib -Wall -Wextra -Werror \
-        "${size[@]}" "-I$1" "-I$1/drivers" -L "$1" -T tarvo_orix_m1.ld -o program.elf \
-        "$here/blocks.c" "$1"/*.c "$1"/drivers/*.c -lgcc
+        "${size[@]}" "$@" "-I$folder" "-I$folder/drivers" -L "$folder" -T tarvo_orix_m1.ld -o program.elf \
+        "$here/blocks.c" "$folder"/*.c "$folder"/drivers/*.c -lgcc
 }
 
 play() { # ARGUMENT…: prints what the simulation prints
@@ -166,7 +168,7 @@ mistake() { # FILE EXPRESSION: a change of an exported file that the program mus
     cp -r exported changed
     sed -i -E "$2" "changed/$1"
     ! cmp -s "changed/$1" "exported/$1" || fail "$2 changes nothing in $1"
-    compile changed 2> log || { cat log; fail "$2 does not compile"; }
+    compile changed -DENDS_AT_A_FAILURE 2> log || { cat log; fail "$2 does not compile"; }
     result=$(play +firmware=program.elf)
     [[ $result != *"BOARD PASS"* ]] || fail "$2 is not noticed in $1"
 }

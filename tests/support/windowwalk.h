@@ -19,6 +19,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
@@ -171,17 +172,51 @@ inline QStringList unnamed(const QWidget *window)
     return result;
 }
 
-// Whether a button of a tool bar does what a key or a menu does as well.
+// Whether the menu bar of the window leads to the action.
+inline bool isInMenuBar(const QWidget *window, const QAction *action)
+{
+    QList<QMenu *> menus;
+    for (const QMenuBar *bar : window->findChildren<QMenuBar *>()) {
+        for (const QAction *entry : bar->actions())
+            menus.append(entry->menu());
+    }
+    for (int i = 0; i < menus.size(); ++i) {
+        if (!menus.at(i))
+            continue;
+        for (const QAction *entry : menus.at(i)->actions()) {
+            if (entry == action)
+                return true;
+            menus.append(entry->menu()); // the list grows
+        }
+    }
+    return false;
+}
+
+// Whether keys alone trigger the action wherever the focus is in the window: nothing else there has
+// the same ones.
+inline bool hasKeyOfItsOwn(const QWidget *window, const QAction *action)
+{
+    if (action->shortcutContext() != Qt::WindowShortcut &&
+        action->shortcutContext() != Qt::ApplicationShortcut)
+        return false;
+    const auto keys = action->shortcuts();
+    const auto actions = window->findChildren<QAction *>();
+    return std::any_of(keys.begin(), keys.end(), [&](const QKeySequence &key) {
+        return std::none_of(actions.begin(), actions.end(), [&](const QAction *other) {
+            return other != action && other->isEnabled() && other->shortcuts().contains(key) &&
+                   other->shortcutContext() != Qt::WidgetShortcut;
+        });
+    });
+}
+
+// Whether a button of a tool bar does what a key or the menu bar does as well.
 inline bool isShortWay(const QWidget *widget)
 {
     const auto *button = qobject_cast<const QToolButton *>(widget);
     if (!button || !button->defaultAction() || !qobject_cast<QToolBar *>(button->parentWidget()))
         return false;
-    const QAction *action = button->defaultAction();
-    const auto places = action->associatedWidgets();
-    return !action->shortcuts().isEmpty() ||
-           std::any_of(places.begin(), places.end(),
-                       [](QWidget *place) { return qobject_cast<QMenu *>(place); });
+    return hasKeyOfItsOwn(button->window(), button->defaultAction()) ||
+           isInMenuBar(button->window(), button->defaultAction());
 }
 
 // Those that can be used and the walk, which began in their window, does not come to, nor arrow
@@ -350,6 +385,66 @@ inline QStringList cutTexts(const QWidget *window)
                 const QString text = header->model()->headerData(i, Qt::Horizontal).toString();
                 if (!header->isSectionHidden(i))
                     tell(header, text, widthOf(header, text), header->sectionSize(i));
+            }
+        }
+    }
+    return result;
+}
+
+// Pages that scroll sideways: what is on them breaks its lines instead.
+inline QStringList sidewaysPages(const QWidget *window)
+{
+    QStringList result;
+    const auto pages = window->findChildren<QScrollArea *>();
+    for (const QScrollArea *page : pages) {
+        const int hidden = page->horizontalScrollBar()->maximum();
+        if (page->isVisible() && page->window() == window && hidden > 0)
+            result.append(QStringLiteral("%1 scrolls sideways: %2 of %3")
+                              .arg(nameOf(page))
+                              .arg(page->viewport()->width())
+                              .arg(page->viewport()->width() + hidden));
+    }
+    return result;
+}
+
+inline QList<QWidget *> widgetsIn(const QLayout *layout)
+{
+    QList<QWidget *> result;
+    for (int i = 0; i < layout->count(); ++i) {
+        if (QWidget *widget = layout->itemAt(i)->widget())
+            result.append(widget);
+        else if (const QLayout *inner = layout->itemAt(i)->layout())
+            result += widgetsIn(inner);
+    }
+    return result;
+}
+
+// What a layout has put outside of its widget or over something else.
+inline QStringList misplaced(const QWidget *window)
+{
+    QStringList result;
+    QList<const QWidget *> parents{window};
+    const auto children = window->findChildren<QWidget *>();
+    for (const QWidget *child : children)
+        parents.append(child);
+    for (const QWidget *parent : qAsConst(parents)) {
+        // The parts of a main window keep out of each other's way by themselves.
+        if (!parent->isVisible() || parent->window() != window || !parent->layout() ||
+            parent->inherits("QMainWindow"))
+            continue;
+        QList<QWidget *> placed;
+        for (QWidget *widget : widgetsIn(parent->layout())) {
+            if (widget->isVisible() && !widget->size().isEmpty())
+                placed.append(widget);
+        }
+        for (int i = 0; i < placed.size(); ++i) {
+            if (!parent->rect().contains(placed.at(i)->geometry()))
+                result.append(nameOf(placed.at(i)) + QStringLiteral(" reaches out of ") +
+                              nameOf(parent));
+            for (int j = i + 1; j < placed.size(); ++j) {
+                if (placed.at(i)->geometry().intersects(placed.at(j)->geometry()))
+                    result.append(nameOf(placed.at(i)) + QStringLiteral(" lies over ") +
+                                  nameOf(placed.at(j)));
             }
         }
     }

@@ -7,6 +7,7 @@
 #include <workbench/companion/companiondesk.h>
 #include <workbench/companion/meterbar.h>
 #include <workbench/companion/meterpanel.h>
+#include <workbench/companion/previewpanel.h>
 #include <workbench/companion/stepspanel.h>
 #include <workbench/render/diagramrenderer.h>
 
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -34,6 +36,27 @@ class SilentDialog : public QDialog
 
 public:
     Q_INVOKABLE QVariantMap configuration() const { return {}; }
+};
+
+// What it would generate is a text.
+class PreviewingRoot : public LampRoot
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE QVariantMap previewGeneration(const QVariantMap &configuration) const
+    {
+        Q_UNUSED(configuration)
+        const QVariantMap file{{QStringLiteral("path"), QStringLiteral("lamps.v")},
+                               {QStringLiteral("state"), QStringLiteral("changed")},
+                               {QStringLiteral("notes"), QStringList()},
+                               {QStringLiteral("before"), QStringLiteral("off\n")},
+                               {QStringLiteral("after"), QStringLiteral("on\n")}};
+        return {{QStringLiteral("error"), QString()},
+                {QStringLiteral("files"), QVariantList{file}},
+                {QStringLiteral("differences"), QVariantList()},
+                {QStringLiteral("notes"), QStringList()}};
+    }
 };
 
 Companion *companionOnScreen()
@@ -106,6 +129,39 @@ private Q_SLOTS:
     {
         QCOMPARE(Companion::placeBeside({0, 0, 200, 3000}, {5000, 3000}, {0, 0, 800, 600}),
                  QRect(0, 0, 800, 600));
+    }
+
+    void comesBackWhereItWasPut()
+    {
+        openDialog();
+        m_dialog->hide();
+        QVERIFY(!m_settings->contains(QStringLiteral("window/companion"))); // nobody has put it
+        const auto again = [this] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            m_meter = nullptr;
+            openDialog();
+        };
+        again();
+        const QSize size = m_desk->companion()->size() + QSize(30, -20);
+        const QPoint place(40, 30);
+        m_desk->companion()->resize(size);
+        m_desk->companion()->move(place);
+        m_dialog->hide();
+        again();
+        QCOMPARE(m_desk->companion()->size(), size);
+        QCOMPARE(m_desk->companion()->pos(), place);
+        m_dialog->hide();
+        // A screen that is gone, and what is none.
+        m_settings->setValue(QStringLiteral("window/companion"), QRect(90000, -5000, 9000, 9000));
+        again();
+        const QRect screen = m_dialog->screen()->availableGeometry();
+        QVERIFY(screen.contains(m_desk->companion()->geometry()));
+        QVERIFY(!(m_desk->companion()->geometry() & screen).isEmpty());
+        m_dialog->hide();
+        m_settings->setValue(QStringLiteral("window/companion"), QStringLiteral("here"));
+        again();
+        QVERIFY(screen.contains(m_desk->companion()->geometry()));
+        m_dialog->hide();
     }
 
     void aDialogThatOffersNothingGetsNone_data()
@@ -808,6 +864,48 @@ private Q_SLOTS:
         QCOMPARE(m_dialog->current, current);
         QCOMPARE(steps()->model().current(), current);
         QVERIFY(stepTexts().at(current).endsWith(QLatin1String("(now)")));
+    }
+
+    // Also where a text has the focus, and beside a dialog that has the same keys for itself: a
+    // dialog's shortcuts reach its tool windows.
+    void theKeysOfUndoAreTheSameInEveryTab()
+    {
+        m_root = std::make_unique<PreviewingRoot>();
+        auto *own = new QAction(m_dialog.get());
+        own->setShortcuts({QKeySequence(Qt::CTRL + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+        connect(own, &QAction::triggered, m_dialog.get(), [] { QFAIL("the dialog took the key"); });
+        m_dialog->addAction(own);
+        openDialog();
+        QTest::keyClick(m_dialog->edit, Qt::Key_F6);
+        QTRY_COMPARE(QApplication::activeWindow(), m_desk->companion());
+        QTabWidget *tabs = m_desk->companion()->tabs();
+        QCOMPARE(tabs->count(), 3);
+        int tried = 0;
+        int texts = 0;
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            auto *preview = qobject_cast<PreviewPanel *>(tabs->widget(tab));
+            if (preview)
+                preview->refresh();
+            const auto places = tabs->widget(tab)->findChildren<QWidget *>() << tabs->tabBar();
+            for (QWidget *place : places) {
+                if (!(place->focusPolicy() & Qt::TabFocus) || !place->isVisible() ||
+                    !place->isEnabled() || place->inherits("QAbstractSpinBox"))
+                    continue;
+                place->setFocus();
+                QTRY_COMPARE(QApplication::focusWidget(), place);
+                m_dialog->goToStep(2);
+                QTRY_COMPARE(steps()->model().current(), 2);
+                QTest::keyClick(place, Qt::Key_Z, Qt::ControlModifier);
+                QVERIFY2(m_dialog->current == 1, place->metaObject()->className());
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Y, Qt::ControlModifier);
+                QVERIFY2(m_dialog->current == 2, place->metaObject()->className());
+                ++tried;
+                texts += place->inherits("QPlainTextEdit");
+            }
+        }
+        QVERIFY(tried >= 8);
+        QCOMPARE(texts, 2);
     }
 
     void buttonsOfferWhatCanBeDone()

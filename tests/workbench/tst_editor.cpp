@@ -12,6 +12,7 @@
 #include <workbench/editor/textcopy.h>
 #include <workbench/editor/textfile.h>
 #include <workbench/editor/unsavedcopy.h>
+#include <workbench/widgets/colours.h>
 #include <workbench/widgets/infobar.h>
 
 #include <QApplication>
@@ -1043,6 +1044,137 @@ private Q_SLOTS:
         QCOMPARE(state(page), QStringLiteral("1 of 2"));
     }
 
+    void everyMatchThatIsSeenHasAFrame()
+    {
+        write(m_path, "alpha beta alpha\nbeta\nalpha\n");
+        EditorPage *page = open();
+        CodeEditor *editor = page->editor();
+        const QColor usual = Colours::match(editor->palette());
+        const QColor current = editor->palette().color(QPalette::Text);
+        QVERIFY(usual != current);
+        QCOMPARE(framed(editor, usual), QVector<int>());
+        page->findBar()->start();
+        type(page, "findEdit", "alpha");
+        QCOMPARE(editor->textCursor().selectionStart(), 0);
+        QTRY_COMPARE(framed(editor, usual), (QVector<int>{11, 22}));
+        QCOMPARE(framed(editor, current, 2), (QVector<int>{0}));
+        page->findBar()->findNext();
+        QCOMPARE(framed(editor, usual), (QVector<int>{0, 22}));
+        QCOMPARE(framed(editor, current, 2), (QVector<int>{11}));
+        type(page, "findEdit", "b");
+        QTRY_COMPARE(framed(editor, usual).size() + framed(editor, current, 2).size(), 2);
+        QTest::keyClick(page->findBar(), Qt::Key_Escape);
+        QCOMPARE(framed(editor, usual), QVector<int>());
+    }
+
+    // As they are typed, and behind the last that is counted.
+    void matchesAreFramedWhereTheSearchHasNotCome()
+    {
+        QByteArray text;
+        for (int i = 0; i < 11000; ++i)
+            text += QByteArray(100, 'a') + '\n';
+        write(m_path, text + "b\n");
+        EditorPage *page = open();
+        QTRY_VERIFY(!page->isLoading());
+        CodeEditor *editor = page->editor();
+        page->findBar()->start();
+        type(page, "findEdit", "a");
+        QTRY_VERIFY(state(page).contains(QLatin1String("more than")));
+        editor->moveCursor(QTextCursor::End);
+        const int last = 10999 * 101;
+        QVERIFY(framed(editor, Colours::match(editor->palette())).contains(last));
+        page->startEditing();
+        editor->insertPlainText(QStringLiteral("a"));
+        const int typed = 11000 * 101 + 2;
+        QVERIFY(framed(editor, Colours::match(editor->palette())).contains(typed));
+    }
+
+    // However long the text or a line of it is.
+    void onlyWhatIsSeenIsAskedForMatches_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("many lines") << QStringLiteral("some words\n").repeated(50000);
+        QTest::newRow("a long line") << QStringLiteral("some words ").repeated(50000);
+    }
+    void onlyWhatIsSeenIsAskedForMatches()
+    {
+        QFETCH(QString, text);
+        CodeEditor editor;
+        editor.resize(600, 400);
+        editor.setPlainText(text);
+        int asked = 0;
+        int calls = 0;
+        editor.setMarkedPlaces([&](int from, int to) {
+            asked += to - from;
+            ++calls;
+            return QVector<CodeEditor::Place>();
+        });
+        editor.show();
+        for (const QTextCursor::MoveOperation place : {QTextCursor::Start, QTextCursor::End}) {
+            editor.moveCursor(place);
+            asked = 0;
+            calls = 0;
+            editor.viewport()->grab();
+            QVERIFY(calls > 0);
+            QVERIFY2(calls < 100 && asked < 1000, qPrintable(QString::number(asked)));
+        }
+    }
+
+    // Whatever the themes of the languages have.
+    void coloursOfALanguageCanBeRead_data()
+    {
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("text");
+        QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black);
+        QTest::newRow("dark") << QColor(35, 38, 41) << QColor(239, 240, 241);
+        QTest::newRow("sepia") << QColor(253, 246, 227) << QColor(60, 60, 60);
+    }
+    void coloursOfALanguageCanBeRead()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, text);
+        QPalette palette;
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Text, text);
+        int letters = 0;
+        QSet<QRgb> inks;
+        const std::pair<const char *, const char *> programs[] = {
+            {"a.v", "// two\n`define A 1\nmodule a #(parameter B = 8'hff) (input wire c);\n"
+                    "/* TODO FIXME */ initial $display(\"x\\n\");\nendmodule\n"},
+            {"a.vhd", "-- one\nlibrary ieee;\nentity a is port (b : in std_logic := '0');\nend;\n"},
+            {"a.ipc", "[General]\ntype=a.b\n; note\nx=true\n"},
+            {"a.json", "{\"a\": [1, 2.5, true, null, \"x\", bad]}\n"},
+            {"a.log", "ERROR: bad\nWARNING: so so\nINFO: good\n2020-01-01 debug\n"},
+            {"a.tcl", "# c\nset a [expr {1 + 2}]\nputs \"$a\"\n"},
+            {"a.c", "#include <stdio.h>\n/* a */ int main(void) { return 0x1f; } // b\n"},
+        };
+        for (const auto &[name, program] : programs) {
+            QTextDocument document;
+            document.setPlainText(QString::fromLatin1(program));
+            QSyntaxHighlighter *highlighter =
+                Highlighting::attach(&document, QString::fromLatin1(name), palette);
+            QVERIFY2(highlighter, name);
+            highlighter->rehighlight();
+            for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+                const auto formats = block.layout()->formats();
+                for (const QTextLayout::FormatRange &range : formats) {
+                    const QTextCharFormat &format = range.format;
+                    QVERIFY2(!format.hasProperty(QTextFormat::BackgroundBrush), name);
+                    if (!format.hasProperty(QTextFormat::ForegroundBrush))
+                        continue;
+                    const QColor ink = format.foreground().color();
+                    inks.insert(ink.rgb());
+                    ++letters;
+                    for (const QColor &paper : {base, Colours::cursorLine(palette)})
+                        QVERIFY2(Colours::contrast(ink, paper) >= Colours::textContrast,
+                                 qPrintable(QString::fromLatin1(name) + u' ' + ink.name()));
+                }
+            }
+        }
+        QVERIFY(letters > 30);
+        QVERIFY(inks.size() > 5); // they still tell something apart
+    }
+
     // 60 MB with a match in each line: the window gets its turn again and again, and all of it is
     // one step of undo.
     void aLargeFileIsSearchedAndReplacedInPieces()
@@ -1136,6 +1268,34 @@ private:
         while (page->isSaving() && page->editor()->document()->isModified())
             QCoreApplication::processEvents();
         return page->isSaving();
+    }
+    // Where frames of this colour and width begin, of the lines that are seen; two that touch count
+    // as one.
+    static QVector<int> framed(CodeEditor *editor, const QColor &colour, int width = 1)
+    {
+        const QImage image = editor->viewport()->grab().toImage();
+        QVector<int> result;
+        QTextCursor cursor = editor->cursorForPosition(QPoint(0, 0));
+        const auto rectAt = [&](int position) {
+            cursor.setPosition(position);
+            return editor->cursorRect(cursor);
+        };
+        for (QTextBlock block = cursor.block(); block.isValid(); block = block.next()) {
+            const int top = rectAt(block.position()).top();
+            if (top + 3 > image.height())
+                break;
+            bool wasOn = false;
+            for (int i = block.position(); i < block.position() + block.length() - 1; ++i) {
+                const int x = (rectAt(i).center().x() + rectAt(i + 1).center().x()) / 2;
+                int rows = 0;
+                for (int y = qMax(0, top - 1); x < image.width() && y < top + 3; ++y)
+                    rows += image.pixelColor(x, y) == colour;
+                if (rows >= width && !wasOn)
+                    result.append(i);
+                wasOn = rows >= width;
+            }
+        }
+        return result;
     }
     static void type(EditorPage *page, const char *field, const QString &text)
     {

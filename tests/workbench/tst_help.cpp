@@ -3,6 +3,7 @@
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/findbar.h>
 #include <workbench/results/tablefiles.h>
+#include <workbench/widgets/windowplace.h>
 #include <workbench/window/aboutdialog.h>
 #include <workbench/window/helpdesk.h>
 #include <workbench/window/helpwindow.h>
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTreeWidget>
@@ -140,9 +142,61 @@ private Q_SLOTS:
         page->findBar()->start();
         auto *edit = page->findBar()->findChild<QLineEdit *>();
         QTRY_VERIFY(edit->hasFocus());
-        m_bench->action("User Guide")->trigger();
+        QVERIFY(m_bench->action("Contents")->shortcuts().contains(QKeySequence(Qt::Key_F1)));
+        m_bench->action("Contents")->trigger();
         QCOMPARE(m_bench->window->help()->browser()->textCursor().block().text(),
                  QStringLiteral("Find and replace"));
+    }
+
+    void theWindowComesBackWhereItWasAndAsLarge()
+    {
+        m_bench->action("Contents")->trigger();
+        HelpWindow *help = m_bench->window->help();
+        const QSize size = help->size() - QSize(50, 40);
+        const QPoint place(37, 21);
+        help->resize(size);
+        help->move(place);
+        help->browser()->zoomBy(1);
+        help->browser()->zoomBy(2);
+        QCOMPARE(help->browser()->zoom(), 3);
+        const int points = help->browser()->font().pointSize();
+        help->close();
+        m_bench->reopen();
+        m_bench->action("Contents")->trigger();
+        help = m_bench->window->help();
+        QCOMPARE(help->size(), size);
+        QCOMPARE(help->pos(), place);
+        QCOMPARE(help->browser()->zoom(), 3);
+        QCOMPARE(help->browser()->font().pointSize(), points);
+        help->browser()->zoomBy(0);
+        m_bench->settings.setValue(QStringLiteral("window/help"), QRect(-70000, 5, 300, 99000));
+        m_bench->reopen();
+        m_bench->action("Contents")->trigger();
+        help = m_bench->window->help();
+        QCOMPARE(help->browser()->zoom(), 0);
+        const QRect screen = help->screen()->availableGeometry();
+        QVERIFY(screen.contains(help->geometry()));
+    }
+
+    void aPlaceIsOnAScreenThatThereIs_data()
+    {
+        QTest::addColumn<QRect>("kept");
+        QTest::addColumn<QRect>("place");
+        QTest::newRow("as it was") << QRect(10, 20, 300, 200) << QRect(10, 20, 300, 200);
+        QTest::newRow("on the second") << QRect(1100, 20, 300, 200) << QRect(1100, 20, 300, 200);
+        QTest::newRow("mostly on the second")
+            << QRect(900, 20, 300, 200) << QRect(1000, 20, 300, 200);
+        QTest::newRow("on none") << QRect(5000, 5000, 300, 200) << QRect(700, 550, 300, 200);
+        QTest::newRow("above") << QRect(10, -30, 300, 200) << QRect(10, 0, 300, 200);
+        QTest::newRow("too large") << QRect(10, 20, 3000, 2000) << QRect(0, 0, 1000, 750);
+        QTest::newRow("too high for the second")
+            << QRect(1100, 20, 300, 700) << QRect(1100, 0, 300, 600);
+    }
+    void aPlaceIsOnAScreenThatThereIs()
+    {
+        QFETCH(QRect, kept);
+        QFETCH(QRect, place);
+        QCOMPARE(WindowPlace::onScreen(kept, {{0, 0, 1000, 750}, {1000, 0, 800, 600}}), place);
     }
 
     void everyComponentHasALicenceAndStandsOnce()

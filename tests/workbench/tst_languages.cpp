@@ -1,6 +1,9 @@
 #include "hands.h"
 
+#include <workbench/catalogue/sayings.h>
 #include <workbench/language/languages.h>
+#include <workbench/language/qttexts.h>
+#include <workbench/window/components.h>
 #include <workbench/window/startpage.h>
 
 #include <ipcore/ipcore.h>
@@ -14,11 +17,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QMetaMethod>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScrollBar>
+#include <QSpinBox>
 #include <QTabBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QXmlStreamReader>
 
 #include <clocale>
@@ -192,6 +199,80 @@ QStringList textsOfBoxes(const std::function<void()> &call)
         static_cast<QDialog *>(modal)->reject();
     });
     call();
+    return texts;
+}
+
+// What the menu says that a widget shows at a right click, without the keys.
+QStringList textsOfMenu(QWidget *widget)
+{
+    QStringList texts;
+    QTimer::singleShot(0, widget, [&texts] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        const auto actions = menu->actions();
+        for (const QAction *action : actions)
+            texts.append(action->text().section(u'\t', 0, 0));
+        menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(2, 2),
+                            widget->mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(widget, &event);
+    texts.removeAll(QString());
+    return texts;
+}
+
+// Context and text of all that Qt's buttons and context menus say.
+QList<QPair<QString, QString>> textsOfQt()
+{
+    QList<QPair<QString, QString>> texts;
+    const auto add = [&texts](const char *context, const QStringList &shown) {
+        for (const QString &text : shown)
+            texts.append({QString::fromLatin1(context), text});
+    };
+    QDialogButtonBox::StandardButtons all;
+    for (int bit = QDialogButtonBox::FirstButton; bit <= QDialogButtonBox::LastButton; bit <<= 1)
+        all |= QDialogButtonBox::StandardButton(bit);
+    const QDialogButtonBox box(all);
+    QStringList buttons;
+    for (int bit = QDialogButtonBox::FirstButton; bit <= QDialogButtonBox::LastButton; bit <<= 1) {
+        if (const auto *button = box.button(QDialogButtonBox::StandardButton(bit)))
+            buttons.append(button->text());
+    }
+    add("QPlatformTheme", buttons);
+    QMessageBox message;
+    message.setDetailedText(QStringLiteral("more"));
+    QStringList details;
+    for (int turn = 0; turn < 2; ++turn) {
+        const auto buttonsOfMessage = message.buttons();
+        for (QAbstractButton *button : buttonsOfMessage) {
+            if (message.buttonRole(button) != QMessageBox::ActionRole)
+                continue;
+            details.append(button->text());
+            QTimer::singleShot(0, &message, &QDialog::reject);
+            button->click();
+        }
+    }
+    add("QMessageBox", details);
+    QLineEdit line;
+    line.show();
+    add("QLineEdit", textsOfMenu(&line));
+    for (const bool isEditable : {true, false}) {
+        QTextBrowser text;
+        text.setReadOnly(!isEditable);
+        text.show();
+        add("QWidgetTextControl", textsOfMenu(text.viewport()));
+    }
+    QSpinBox number;
+    number.show();
+    const QStringList ofSpinBox = textsOfMenu(&number);
+    add("QAbstractSpinBox", ofSpinBox.mid(ofSpinBox.size() - 3));
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        QScrollBar bar(orientation);
+        bar.resize(bar.sizeHint() * 3);
+        bar.show();
+        add("QScrollBar", textsOfMenu(&bar));
+    }
     return texts;
 }
 
@@ -404,6 +485,108 @@ private Q_SLOTS:
         }
         QCOMPARE(seen.size(), choices.size());
         QCOMPARE(StartPage::tr("Recent projects"), QStringLiteral("Recent projects"));
+    }
+
+    // Qt's translations are a package of their own, which may be absent.
+    void buttonsAndMenusOfQtSpeakTheLanguageWithoutItsPackage()
+    {
+        const QTemporaryDir nothing;
+        const auto english = textsOfQt();
+        QVERIFY(english.size() > 40);
+        for (const QtText &text : qtTexts())
+            QVERIFY2(english.contains(
+                         {QString::fromLatin1(text.context), QString::fromLatin1(text.text)}),
+                     text.text);
+        for (const Languages::Choice &choice : Languages::available()) {
+            if (choice.code == QLatin1String("en"))
+                continue;
+            QHash<QPair<QString, QString>, QString> translated;
+            const QList<Text> ours =
+                textsOf(translations + QStringLiteral("workbench_%1.ts").arg(choice.code));
+            for (const Text &text : ours)
+                translated.insert({text.context, text.source}, text.forms.value(0));
+            const Languages language(choice.code, nothing.path());
+            const auto shown = textsOfQt();
+            QCOMPARE(shown.size(), english.size());
+            for (int i = 0; i < shown.size(); ++i)
+                QCOMPARE(shown.at(i).second, translated.value(english.at(i)));
+            const PluginTexts plugin;
+            QCOMPARE(textsOfQt(), english);
+        }
+    }
+
+    void purposesOfComponentsAreTranslated()
+    {
+        const QVector<Component> english = components();
+        QVERIFY(english.size() > 15);
+        for (const Languages::Choice &choice : Languages::available()) {
+            if (choice.code == QLatin1String("en"))
+                continue;
+            const Languages language(choice.code);
+            const QVector<Component> shown = components();
+            for (int i = 0; i < english.size(); ++i) {
+                QVERIFY2(shown.at(i).purpose != english.at(i).purpose,
+                         qPrintable(shown.at(i).purpose));
+                QCOMPARE(shown.at(i).licence, english.at(i).licence);
+            }
+        }
+    }
+
+    void whatIsSaidOfAPluginIsTranslatedAndGoesInEnglish()
+    {
+        const QStringList parts{QStringLiteral("%2 (a) It."),
+                                Sayings::told(Sayings::WhenAskedForIps)};
+        for (int i = 0; i < Sayings::Count; ++i) {
+            const QString english = Sayings::told(Sayings::Saying(i), parts);
+            QCOMPARE(Sayings::shown(english), english);
+            const Languages german(QStringLiteral("de"));
+            QCOMPARE(Sayings::told(Sayings::Saying(i), parts), english);
+            const QString shown = Sayings::shown(english);
+            QVERIFY2(shown != english, qPrintable(shown));
+            QCOMPARE(shown.contains(parts.at(0)), english.contains(parts.at(0)));
+            QVERIFY2(!shown.contains(parts.at(1)), qPrintable(shown));
+        }
+        const QString two =
+            Sayings::told(Sayings::IpIsNone) + u' ' + Sayings::told(Sayings::IpTwice);
+        QCOMPARE(Sayings::shown(two), two);
+        const Languages german(QStringLiteral("de"));
+        QCOMPARE(Sayings::shown(two), Sayings::shown(Sayings::told(Sayings::IpIsNone)) + u' ' +
+                                          Sayings::shown(Sayings::told(Sayings::IpTwice)));
+        QCOMPARE(Sayings::shown(QStringLiteral("It is something else.")),
+                 QStringLiteral("It is something else."));
+    }
+
+    void whatTheProbeFindsIsShownTranslatedAndKeptInEnglish_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("english");
+        const auto row = [](const char *kind, const char *english) {
+            QTest::newRow(kind) << QString::fromLatin1(kind) << QString::fromLatin1(english);
+        };
+        row("printing-listing", "It did not stop printing when it was asked for its IPs.");
+        row("crashing-starting", "It crashed while it was started (signal ");
+        row("null", "One of its IPs is no object.");
+    }
+    void whatTheProbeFindsIsShownTranslatedAndKeptInEnglish()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, english);
+        const QTemporaryDir dir;
+        const QString kept = dir.filePath(QStringLiteral("probes.json"));
+        const auto reason = [&] {
+            IpCatalogue catalogue;
+            catalogue.setProbeCache(kept);
+            catalogue.loadFolder(QStringLiteral(TARVO_FAKE_PLUGINS "/") + kind, true);
+            return catalogue.failures().isEmpty() ? QString() : catalogue.failures().first().reason;
+        };
+        {
+            const Languages german(QStringLiteral("de"));
+            const QString shown = reason();
+            QVERIFY2(shown.startsWith(QLatin1String("E")) && !shown.startsWith(english),
+                     qPrintable(shown)); // "Es …", "Eine …"
+            QVERIFY2(!shown.contains(QLatin1String(" was ")), qPrintable(shown));
+        }
+        QVERIFY2(reason().startsWith(english), qPrintable(reason()));
     }
 
     void shownNumbersFollowTheChosenLanguage()

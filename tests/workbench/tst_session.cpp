@@ -333,7 +333,6 @@ private Q_SLOTS:
     {
         window()->openProject(m_bench->makeProject());
         QAction *reopen = m_bench->action("Reopen the Last Project at Start");
-        Q_EMIT qobject_cast<QMenu *>(reopen->associatedWidgets().value(0))->aboutToShow();
         QVERIFY(reopen->isChecked());
         reopen->trigger();
         window()->close();

@@ -2,6 +2,7 @@
 
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
+#include <workbench/editor/findbar.h>
 #include <workbench/language/languages.h>
 #include <workbench/settings/externaleditor.h>
 #include <workbench/settings/settingsdialog.h>
@@ -239,6 +240,79 @@ private Q_SLOTS:
         QFETCH(QString, command);
         QFETCH(QStringList, words);
         QCOMPARE(externalCommand(command, QStringLiteral("/a %l b.v"), 7), words);
+    }
+
+    // The menu has one of the settings as well.
+    void theMenuAndTheDialogFollowEachOther()
+    {
+        Bench bench;
+        QAction *reopen = bench.action("Reopen the Last Project at Start");
+        QVERIFY(reopen->isChecked());
+        int seen = 0;
+        const ModalWatcher watcher([&](QWidget *modal) {
+            auto *dialog = qobject_cast<SettingsDialog *>(modal);
+            QVERIFY(dialog);
+            auto *box = dialog->findChild<QCheckBox *>(QLatin1String(Settings::restoreSession));
+            QCOMPARE(box->isChecked(), reopen->isChecked());
+            box->click();
+            QCOMPARE(reopen->isChecked(), box->isChecked());
+            reopen->trigger();
+            QCOMPARE(box->isChecked(), reopen->isChecked());
+            box->click();
+            ++seen;
+            if (seen == 1)
+                Bench::ok(dialog)->click();
+            else
+                dialog->reject();
+        });
+        bench.action("Settings")->trigger();
+        QVERIFY(!reopen->isChecked());
+        QVERIFY(!Settings::isOn(bench.settings, Settings::restoreSession));
+        reopen->trigger();
+        QVERIFY(Settings::isOn(bench.settings, Settings::restoreSession));
+        bench.action("Settings")->trigger(); // changes it and takes that back
+        QVERIFY(reopen->isChecked());
+        QCOMPARE(seen, 2);
+    }
+
+    // Whatever stands there, both read it alike.
+    void theMenuReadsABrokenValueAsTheDialogDoes()
+    {
+        Bench bench;
+        for (const char *value : {"false", "true", "no", "", "0"}) {
+            bench.settings.setValue(QLatin1String(Settings::restoreSession), QLatin1String(value));
+            bench.reopen();
+            QCOMPARE(bench.action("Reopen the Last Project at Start")->isChecked(),
+                     Settings::isOn(bench.settings, Settings::restoreSession));
+        }
+    }
+
+    void howIsLookedForIsRemembered()
+    {
+        Bench bench;
+        const QString first = bench.folder() + QStringLiteral("/a.v");
+        const QString second = bench.folder() + QStringLiteral("/b.v");
+        write(first, "module a;\n");
+        write(second, "module b;\n");
+        const auto box = [&bench](const char *name) {
+            return bench.window->tabs()->currentPage()->findBar()->findChild<QCheckBox *>(
+                QLatin1String(name));
+        };
+        bench.window->openPath(second);
+        bench.window->openPath(first);
+        bench.window->tabs()->currentPage()->findBar()->start();
+        for (const char *name : {"matchCaseBox", "wholeWordsBox", "expressionBox"})
+            QVERIFY(!box(name)->isChecked());
+        box("matchCaseBox")->click();
+        box("expressionBox")->click();
+        bench.window->openPath(second); // was open before
+        QVERIFY(box("matchCaseBox")->isChecked());
+        QVERIFY(box("expressionBox")->isChecked());
+        bench.reopen();
+        bench.window->openPath(first);
+        QVERIFY(box("matchCaseBox")->isChecked());
+        QVERIFY(!box("wholeWordsBox")->isChecked());
+        QVERIFY(box("expressionBox")->isChecked());
     }
 
     void theWindowFollowsTheSettings()

@@ -68,7 +68,7 @@ private Q_SLOTS:
     {
         for (const char *name :
              {"New Project", "Open", "Save", "Close Tab", "Quit", "Undo", "Redo", "Cut", "Copy",
-              "Paste", "Select All", "Find", "Larger Text", "Smaller Text", "User Guide"})
+              "Paste", "Select All", "Find", "Larger Text", "Smaller Text", "Contents"})
             QVERIFY2(!m_bench->action(name)->shortcut().isEmpty(), name);
     }
 

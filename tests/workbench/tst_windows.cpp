@@ -134,6 +134,23 @@ private Q_SLOTS:
         });
     }
 
+    void theStartPageIsWholeInTheSmallestWindow_data()
+    {
+        QTest::addColumn<QString>("scene");
+        for (const char *scene : {"start", "project"})
+            QTest::newRow(scene) << QString::fromLatin1(scene);
+    }
+    void theStartPageIsWholeInTheSmallestWindow()
+    {
+        show([](QWidget *window) {
+            window->resize(1, 1);
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents(); // what follows a change of the height
+            const QStringList found = sidewaysPages(window) + misplaced(window);
+            QCOMPARE(found.join(u'\n'), QString());
+        });
+    }
+
     void focusIsSeenWhereverTabLeads_data() { addScenes(); }
     void focusIsSeenWhereverTabLeads()
     {

@@ -1,14 +1,14 @@
 // SD card controller in SPI mode: commands with their responses, blocks through a buffer, and bytes one by one.  sd_clk is made
 // from PCLK, or from the source clock sd_spiclk, which is sampled with PCLK and must be slower than PCLK / 4: each of its
-// rising edges is half a period of sd_clk then.
-// Registers: registers/sdcard.json.
+// rising edges is half a period of sd_clk then.  Registers: registers/sdcard.json.
 // A card is present when sd_checkin has been low for a while; sd_checkout shows it to the fabric.  INIT, which sd_card_init
 // shows, is cleared when the card leaves.
 // Bus and card share a buffer of one block RAM.  It has two pointers to be read and written at, and a third one behind which
 // words are no good block yet: the bus sees a block that is read when its CRC was right, and never sees another.
 //   LOG_WORDS  words of the buffer = 2 ** LOG_WORDS, 8 to 15; a block has at most 255
+//   FULL       sum of what is there: 1 several blocks (with 2), 2 blocks (with 4), 4 commands, 8 CLOCK and TIMEOUT; ID has ones for the rest
 module apb_sdcard #(
-    parameter LOG_WORDS = 8
+    parameter LOG_WORDS = 8, FULL = 15
 ) (
     input  wire        PCLK,
     input  wire        PRESETn,
@@ -35,7 +35,7 @@ module apb_sdcard #(
     localparam [3:0] DATA = 4'd0, STATUS = 4'd1, CTRL = 4'd2, CLOCK = 4'd3, TIMEOUT = 4'd4, BLOCKS = 4'd5, ARGUMENT = 4'd6,
                      COMMAND = 4'd7, RESPONSE = 4'd8, VALUE = 4'd9, PROGRESS = 4'd10, EVENTS = 4'd11, ENABLE = 4'd12,
                      ERRORS = 4'd13, ACTION = 4'd14, BUFFER = 4'd15;
-
+    localparam [0:0] HAS_COMMANDS = (FULL & 4) != 0, HAS_BLOCKS = (FULL & 6) == 6, HAS_MULTI = (FULL & 7) == 7, HAS_SETTINGS = (FULL & 8) != 0;
     wire       here   = PADDR[11:6] == 6'd0;
     wire [3:0] number = PADDR[5:2];
     wire       access = PSEL & PENABLE;
@@ -69,7 +69,7 @@ module apb_sdcard #(
     reg [9:0]  stable;
     reg [9:0]  rounds;
     reg [9:0]  filter;
-    wire       settle = (empty_now == card) & (&stable) & (rounds >= filter);   // low for a card that is not known yet
+    wire       settle = (empty_now == card) & (&stable) & (HAS_SETTINGS ? rounds >= filter : 1'b1);   // low for a card that is not known yet
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
             card   <= 1'b0;
@@ -117,14 +117,14 @@ module apb_sdcard #(
     wire write_data = low & (number == DATA);
     wire raw        = write_data & idle;
     // What a running byte or command depends on does not change.
-    wire guarded    = (number == CLOCK) | (number == TIMEOUT) | (number == BLOCKS) | (number == ARGUMENT) | (number == COMMAND);
+    wire guarded    = (HAS_SETTINGS ? number == CLOCK : 1'b0) | (HAS_SETTINGS && HAS_COMMANDS ? number == TIMEOUT : 1'b0) | (HAS_BLOCKS ? number == BLOCKS : 1'b0) | (HAS_COMMANDS ? number == ARGUMENT : 1'b0) | (HAS_COMMANDS ? number == COMMAND : 1'b0);
     wire set        = write & guarded & idle;
     wire refused    = write & guarded & ~idle;
-    wire start      = set & (number == COMMAND) & PSTRB[0];
+    wire start      = HAS_COMMANDS ? set & (number == COMMAND) & PSTRB[0] : 1'b0;
     wire go         = start & card;
     wire new_wake   = PSTRB[1] ? PWDATA[15] : wake;
-    wire abort      = low & (number == ACTION) & PWDATA[0];
-    wire stop       = low & (number == ACTION) & PWDATA[1];
+    wire abort      = HAS_COMMANDS ? low & (number == ACTION) & PWDATA[0] : 1'b0;
+    wire stop       = HAS_MULTI ? low & (number == ACTION) & PWDATA[1] : 1'b0;
     wire clear      = low & (number == ACTION) & PWDATA[2] & (~active | abort);
     wire leaves     = settle & card;
     wire gone       = active & ~card;
@@ -146,8 +146,8 @@ module apb_sdcard #(
     wire [LOG_WORDS+1:0] with_it = {1'b0, used} + {1'b0, block};
     wire               room     = ~with_it[LOG_WORDS+1] & ~(with_it[LOG_WORDS] & (|with_it[LOG_WORDS-1:0]));
     wire               ready    = level >= block;
-    wire               get      = access & ~PWRITE & here & (number == BUFFER) & (PADDR[1:0] == 2'd0);
-    wire               put      = write & (number == BUFFER) & (|PSTRB);
+    wire               get      = HAS_BLOCKS ? access & ~PWRITE & here & (number == BUFFER) & (PADDR[1:0] == 2'd0) : 1'b0;
+    wire               put      = HAS_BLOCKS ? write & (number == BUFFER) & (|PSTRB) : 1'b0;
     wire               do_get   = get & ~is_empty & ~(active & writes);
     wire               do_put   = put & (&PSTRB) & ~used[LOG_WORDS] & ~(active & reads);
     wire               push     = card_push | do_put;
@@ -177,18 +177,18 @@ module apb_sdcard #(
             if (do_get | card_pop)
                 read_at <= read_at + 1'b1;
         end
-
-    // ---- what is told
+    localparam [16:0] NEVER = !HAS_COMMANDS ? 17'h1FFFF : !HAS_BLOCKS ? 17'h19F80 : 17'd0;   // bits of ERRORS, and of EVENTS
+    localparam [3:0]  QUIET = !HAS_COMMANDS ? 4'hF : !HAS_BLOCKS ? 4'h2 : 4'd0;
     wire [16:0] raised = {
         put & ~do_put,
         get & ~do_get,
         card_errors,
         abort & active,
-        refused,
+        HAS_COMMANDS ? refused : 1'b0,
         (start & ~card) | gone
     };
-    wire [6:0]  state_now = {|errors, room, ready, happened};
-    wire [3:0]  begins    = {leaves, settle & ~card, moved_block, finish | (start & ~card)};
+    wire [6:0]  state_now = {|errors, HAS_BLOCKS ? {room, ready} : 2'd0, happened};
+    wire [3:0]  begins    = HAS_COMMANDS ? {leaves, settle & ~card, moved_block, finish | (start & ~card)} : 4'd0;
     wire [16:0] cleared   = {PWDATA[16] & PSTRB[2], PWDATA[15:8] & {8{PSTRB[1]}}, PWDATA[7:0] & {8{PSTRB[0]}}};
     always @(posedge PCLK or negedge PRESETn)
         if (!PRESETn) begin
@@ -236,38 +236,38 @@ module apb_sdcard #(
             end
 
             if (set & (number == CLOCK)) begin
-                if (PSTRB[0]) div <= PWDATA[7:0];
-                if (PSTRB[1]) {late, from_pclk} <= PWDATA[9:8];
-                if (PSTRB[2]) filter[7:0] <= PWDATA[23:16];
-                if (PSTRB[3]) filter[9:8] <= PWDATA[25:24];
+                if (PSTRB[0]) div <= HAS_SETTINGS ? PWDATA[7:0] : 8'd0;
+                if (PSTRB[1]) {late, from_pclk} <= HAS_SETTINGS ? PWDATA[9:8] : 2'd0;
+                if (PSTRB[2]) filter[7:0] <= HAS_SETTINGS ? PWDATA[23:16] : 8'd0;
+                if (PSTRB[3]) filter[9:8] <= HAS_SETTINGS ? PWDATA[25:24] : 2'd0;
             end
             if (set & (number == TIMEOUT)) begin
-                if (PSTRB[0]) token_limit[7:0] <= PWDATA[7:0];
-                if (PSTRB[1]) token_limit[15:8] <= PWDATA[15:8];
-                if (PSTRB[2]) busy_limit[7:0] <= PWDATA[23:16];
-                if (PSTRB[3]) busy_limit[15:8] <= PWDATA[31:24];
+                if (PSTRB[0]) token_limit[7:0] <= HAS_SETTINGS ? PWDATA[7:0] : 8'hFF;
+                if (PSTRB[1]) token_limit[15:8] <= HAS_SETTINGS ? PWDATA[15:8] : 8'hFF;
+                if (PSTRB[2]) busy_limit[7:0] <= HAS_SETTINGS ? PWDATA[23:16] : 8'hFF;
+                if (PSTRB[3]) busy_limit[15:8] <= HAS_SETTINGS ? PWDATA[31:24] : 8'hFF;
             end
             if (set & (number == BLOCKS)) begin
-                if (PSTRB[0]) blocks[7:0] <= PWDATA[7:0];
-                if (PSTRB[1]) blocks[15:8] <= PWDATA[15:8];
-                if (PSTRB[2]) words <= {PWDATA[23:17], PWDATA[16] | (PWDATA[23:17] == 7'd0)};
+                if (PSTRB[0]) blocks[7:0] <= HAS_MULTI ? PWDATA[7:0] : 8'd1;
+                if (PSTRB[1]) blocks[15:8] <= HAS_MULTI ? PWDATA[15:8] : 8'd0;
+                if (PSTRB[2]) words <= HAS_BLOCKS ? {PWDATA[23:17], PWDATA[16] | (PWDATA[23:17] == 7'd0)} : 8'd128;
             end
             if (set & (number == ARGUMENT)) begin
-                if (PSTRB[0]) argument[7:0] <= PWDATA[7:0];
-                if (PSTRB[1]) argument[15:8] <= PWDATA[15:8];
-                if (PSTRB[2]) argument[23:16] <= PWDATA[23:16];
-                if (PSTRB[3]) argument[31:24] <= PWDATA[31:24];
+                if (PSTRB[0]) argument[7:0] <= HAS_COMMANDS ? PWDATA[7:0] : 8'd0;
+                if (PSTRB[1]) argument[15:8] <= HAS_COMMANDS ? PWDATA[15:8] : 8'd0;
+                if (PSTRB[2]) argument[23:16] <= HAS_COMMANDS ? PWDATA[23:16] : 8'd0;
+                if (PSTRB[3]) argument[31:24] <= HAS_COMMANDS ? PWDATA[31:24] : 8'd0;
             end
             if (set & (number == COMMAND)) begin
-                if (PSTRB[0]) index <= PWDATA[5:0];
+                if (PSTRB[0]) index <= HAS_COMMANDS ? PWDATA[5:0] : 6'd0;
                 if (PSTRB[1]) begin
-                    response  <= PWDATA[9:8];
-                    direction <= PWDATA[11:10];
-                    {wake, waits, multi} <= {PWDATA[15], PWDATA[13:12]};
+                    response  <= HAS_COMMANDS ? PWDATA[9:8] : 2'd0;
+                    direction <= HAS_BLOCKS ? PWDATA[11:10] : 2'd0;
+                    {wake, waits, multi} <= {HAS_COMMANDS ? {PWDATA[15], PWDATA[13]} : 2'd0, HAS_MULTI ? PWDATA[12] : 1'b0};
                 end
             end
             if (low & (number == ENABLE))
-                enabled <= PWDATA[6:0];
+                enabled <= !HAS_COMMANDS ? 7'd0 : {PWDATA[6], HAS_BLOCKS ? PWDATA[5:4] : 2'd0, PWDATA[3:2], HAS_BLOCKS ? PWDATA[1] : 1'b0, PWDATA[0]};
 
             if (go)
                 active <= 1'b1;
@@ -275,22 +275,22 @@ module apb_sdcard #(
                 active <= 1'b0;
             if (go & new_wake)
                 ctrl[0] <= 1'b0;
-            happened <= (happened & ~((low & (number == EVENTS)) ? PWDATA[3:0] : 4'd0)) | begins;
-            errors   <= (errors & ~((write & (number == ERRORS)) ? cleared : 17'd0)) | raised;
+            happened <= (happened & ~((low & (number == EVENTS)) ? (HAS_BLOCKS ? PWDATA[3:0] : PWDATA[3:0] | QUIET) : QUIET)) | begins;
+            errors   <= (errors & ~((write & (number == ERRORS)) ? (HAS_BLOCKS ? cleared : cleared | NEVER) : NEVER)) | raised;
         end
 
     wire hold;
-    sd_sequencer u_sequencer (
-        .clk(PCLK), .rstn(PRESETn), .tick(tick), .late(late), .raw(raw), .raw_data(PWDATA[7:0]), .go(go),
-        .halt(abort | gone), .stop(stop), .wake(new_wake), .index(index), .argument(argument),
-        .response(response), .reads(reads), .writes(writes), .multi(multi), .waits(waits), .words(words), .blocks(blocks),
-        .token_limit(token_limit), .busy_limit(busy_limit), .room(room), .ready(ready), .word(oldest), .pop(card_pop),
-        .push(card_push), .push_word(card_word), .keep(keep), .drop(drop), .idle(idle), .waiting(waiting),
-        .finish(finish), .raw_done(raw_done), .moved_block(moved_block), .errors(card_errors), .moved(moved), .r1(r1),
-        .token(token), .value(value), .rx(rx), .moving(moving), .hold(hold), .sclk(sd_clk), .mosi(sd_dataout),
+`define SD_SEQUENCER_PINS \
+        .clk(PCLK), .rstn(PRESETn), .tick(tick), .late(late), .raw(raw), .raw_data(PWDATA[7:0]), .go(go), \
+        .halt(abort | gone), .stop(stop), .wake(new_wake), .index(index), .argument(argument), \
+        .response(response), .reads(reads), .writes(writes), .multi(multi), .waits(waits), .words(words), .blocks(blocks), \
+        .token_limit(token_limit), .busy_limit(busy_limit), .room(room), .ready(ready), .word(oldest), .pop(card_pop), \
+        .push(card_push), .push_word(card_word), .keep(keep), .drop(drop), .idle(idle), .waiting(waiting), \
+        .finish(finish), .raw_done(raw_done), .moved_block(moved_block), .errors(card_errors), .moved(moved), .r1(r1), \
+        .token(token), .value(value), .rx(rx), .moving(moving), .hold(hold), .sclk(sd_clk), .mosi(sd_dataout), \
         .miso(sd_datain)
-    );
-
+    generate if (FULL == 15) begin : u_sequencer sd_sequencer u (`SD_SEQUENCER_PINS); end   // all of it: no parameter is passed
+    else begin : u_sequencer sd_sequencer #(.FULL(FULL)) u (`SD_SEQUENCER_PINS); end endgenerate
     always @* begin
         PRDATA = 32'd0;
         if (here)
@@ -299,21 +299,21 @@ module apb_sdcard #(
                 STATUS:   PRDATA = {25'd0, waiting, active, changed, card, lost, complete, ~idle};
                 CTRL:     PRDATA = {28'd0, ctrl};
                 CLOCK:    PRDATA = {6'd0, filter, 6'd0, late, from_pclk, div};
-                TIMEOUT:  PRDATA = {busy_limit, token_limit};
-                BLOCKS:   PRDATA = {8'd0, words, blocks};
+                TIMEOUT:  PRDATA = {HAS_SETTINGS && HAS_COMMANDS ? busy_limit : 16'd0, HAS_SETTINGS && HAS_BLOCKS ? token_limit : 16'd0};
+                BLOCKS:   PRDATA = {8'd0, HAS_BLOCKS ? words : 8'd0, HAS_MULTI ? blocks : 16'd0};
                 ARGUMENT: PRDATA = argument;
                 COMMAND:  PRDATA = {16'd0, wake, 1'b0, waits, multi, direction, response, 2'd0, index};
                 RESPONSE: PRDATA = {8'd0, token, 8'd0, r1};
                 VALUE:    PRDATA = value;
-                PROGRESS: PRDATA = {{(15 - LOG_WORDS){1'b0}}, level, moved};
+                PROGRESS: PRDATA = {{(15 - LOG_WORDS){1'b0}}, HAS_BLOCKS ? level : {(LOG_WORDS + 1){1'b0}}, HAS_MULTI ? moved : 16'd0};
                 EVENTS:   PRDATA = {25'd0, state_now};
                 ENABLE:   PRDATA = {25'd0, enabled};
                 ERRORS:   PRDATA = {15'd0, errors};
-                BUFFER:   PRDATA = oldest & {32{~is_empty}};
+                BUFFER:   PRDATA = HAS_BLOCKS ? oldest & {32{~is_empty}} : 32'd0;
                 default:  PRDATA = 32'd0;
             endcase
         else if (&PADDR[11:2])
-            PRDATA = {12'd0, LOG_WORDS[3:0], 16'h0209};
+            PRDATA = {~HAS_SETTINGS, ~HAS_COMMANDS, ~HAS_BLOCKS, ~HAS_MULTI, 8'd0, HAS_BLOCKS ? LOG_WORDS[3:0] : 4'd0, 16'h0209};
     end
 
     assign PREADY       = 1'b1;
@@ -323,3 +323,4 @@ module apb_sdcard #(
     assign sd_checkout  = card;
     assign irq          = (complete & ctrl[2]) | (changed & ctrl[3]) | (|(state_now & enabled));
 endmodule
+`undef SD_SEQUENCER_PINS

@@ -1,7 +1,7 @@
 // What is said to an SD card in SPI mode, byte by byte: a command with its response, the blocks behind it and their end.
 // `state` names the byte that is on the line; the next one is chosen while it is.  From rest every byte is 0xFF, but for one
-// of software's own.
-module sd_sequencer (
+// of software's own.  FULL is that of apb_sdcard.
+module sd_sequencer #(parameter FULL = 15) (
     input  wire        clk,
     input  wire        rstn,
     input  wire        tick,        // half a period of sclk
@@ -52,8 +52,8 @@ module sd_sequencer (
     output wire        mosi,
     input  wire        miso
 );
-    localparam [4:0] IDLE  = 5'd0;
-    localparam [4:0] RAW   = 5'd1;
+    localparam [0:0] HAS_COMMANDS = (FULL & 4) != 0, HAS_BLOCKS = (FULL & 6) == 6, HAS_MULTI = (FULL & 7) == 7;
+    localparam [4:0] IDLE  = 5'd0, RAW = 5'd1;   // bit 4 is 0 in all states that there are without blocks
     localparam [4:0] WAKE  = 5'd2;
     localparam [4:0] LEAD  = 5'd3;    // selected, perhaps until the card is not busy
     localparam [4:0] GAP   = 5'd4;    // before a command
@@ -62,15 +62,15 @@ module sd_sequencer (
     localparam [4:0] RESP  = 5'd7;
     localparam [4:0] EXTRA = 5'd8;    // of the response
     localparam [4:0] BUSY  = 5'd9;
-    localparam [4:0] TOKEN = 5'd10;   // waits for that of a block
-    localparam [4:0] RDATA = 5'd11;
-    localparam [4:0] WWAIT = 5'd12;   // for the buffer
-    localparam [4:0] WGAP  = 5'd13;   // before a token
-    localparam [4:0] WTOK  = 5'd14;
-    localparam [4:0] WDATA = 5'd15;
+    localparam [4:0] TOKEN = HAS_BLOCKS ? 5'd10 : 5'd26;   // waits for that of a block
+    localparam [4:0] RDATA = HAS_BLOCKS ? 5'd11 : 5'd27;
+    localparam [4:0] WWAIT = HAS_BLOCKS ? 5'd12 : 5'd28;   // for the buffer
+    localparam [4:0] WGAP  = HAS_BLOCKS ? 5'd13 : 5'd29;   // before a token
+    localparam [4:0] WTOK  = HAS_BLOCKS ? 5'd14 : 5'd30;
+    localparam [4:0] WDATA = HAS_BLOCKS ? 5'd15 : 5'd31;
     localparam [4:0] WRESP = 5'd16;
-    localparam [4:0] TAIL  = 5'd17;   // selected for the last time
-    localparam [4:0] LEAVE = 5'd18;   // not selected, so that the card lets go of its line
+    localparam [4:0] TAIL  = HAS_BLOCKS ? 5'd17 : 5'd10;   // selected for the last time
+    localparam [4:0] LEAVE = HAS_BLOCKS ? 5'd18 : 5'd11;   // not selected, so that the card lets go of its line
 
     localparam [1:0] R1B = 2'd1, R2 = 2'd2;
     localparam [7:0] NOTHING = 8'hFF;
@@ -181,7 +181,7 @@ module sd_sequencer (
             WAKE:    run = k != 4'd9;
             LEAD:    run = ~reads | room;
             TOKEN:   run = room | cut;
-            RDATA:   run = ~last_crc | room | last;
+            RDATA:   run = ~last_crc | room | (HAS_MULTI ? last : 1'b1);
             WWAIT:   run = ready | cut;
             TAIL:    run = 1'b0;
             LEAVE:   run = ~active;
@@ -201,7 +201,7 @@ module sd_sequencer (
     reg         heard;        // a byte of the card, in a state that waits for the right one
     wire [15:0] limit   = in_token ? token_limit : busy_limit;
     wire        again   = done & ~timed_out & ((in_lead & waits & ~ones) | (in_token & ones) | (in_busy & ~ones));
-    wire        expire  = (&part) & (units == limit) & (state != RAW) & (~done | again);
+    wire        expire  = HAS_COMMANDS ? (&part) & (units == limit) & (state != RAW) & (~done | again) : 1'b0;
     wire        stuck   = expire & ~heard;
     wire        restart = idle | ~active | (done & ~again) | expire;
     always @(posedge clk or negedge rstn)
@@ -310,7 +310,7 @@ module sd_sequencer (
                 hold  <= 1'b0;
             end else if (done) begin
                 k <= k + 4'd1;
-                case (state)
+                case (HAS_BLOCKS ? state : HAS_COMMANDS ? {1'b0, state[3:0]} : {4'd0, state[0]})
                     RAW:   state <= IDLE;
                     WAKE:  if (k == 4'd9)
                                state <= IDLE;
@@ -350,10 +350,10 @@ module sd_sequencer (
                     EXTRA: if ((response == R2) | (k == 4'd3))
                                state <= TAIL;
                     BUSY:  if (ended_busy) begin
-                               if (timed_out | ending | ~writes | ((last | failed) & ~multi))
+                               if (timed_out | ending | ~writes | (((HAS_MULTI ? last : 1'b1) | failed) & ~multi))
                                    state <= TAIL;
-                               else if (last | failed) begin
-                                   ending <= 1'b1;
+                               else if ((HAS_MULTI ? last : 1'b1) | failed) begin
+                                   ending <= HAS_MULTI;
                                    state  <= WGAP;
                                end else
                                    state <= next_write;
@@ -364,7 +364,7 @@ module sd_sequencer (
                            end else if (arrived)
                                state <= RDATA;
                     RDATA: if (last_crc) begin
-                               if (bad_crc | last) begin
+                               if (bad_crc | (HAS_MULTI ? last : 1'b1)) begin
                                    ending <= multi;
                                    state  <= after_read;
                                end else

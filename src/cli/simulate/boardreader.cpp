@@ -1,6 +1,7 @@
 #include "boardreader.h"
 
 #include "listener.h"
+#include "shellword.h"
 
 #include <QRegularExpression>
 
@@ -12,12 +13,6 @@ namespace
 
 constexpr int mostUartBytes = 16 << 20; // kept of each UART
 constexpr QChar eventMark(0x1E);
-
-// As a shell reads it back.
-QString shellWord(QString text)
-{
-    return u'\'' + text.replace(QLatin1String("'"), QLatin1String("'\\''")) + u'\'';
-}
 
 } // namespace
 

@@ -12,7 +12,7 @@ namespace Cli
 class BuildCache
 {
 public:
-    static constexpr int mostEntries = 30;
+    static constexpr int mostEntries = 200;
     static constexpr qint64 mostBytes = 512 << 20; // of all entries
 
     // For simulations, below the user's folder for such things (XDG_CACHE_HOME).

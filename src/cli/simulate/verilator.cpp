@@ -1,6 +1,7 @@
 #include "verilator.h"
 
 #include "buildcache.h"
+#include "shellword.h"
 #include "simulation.h"
 
 #include <utils/boundedfile.h>
@@ -19,8 +20,16 @@ constexpr qint64 mostSource = 256 << 20; // bytes
 constexpr qint64 mostProgram = BuildCache::mostBytes;
 
 // What make and the wrapper take from the environment.
-constexpr const char *heededVariables[] = {"VERILATOR_ROOT", "CPPFLAGS", "CXXFLAGS",
-                                           "LDFLAGS",        "LDLIBS",   "OPT_FAST"};
+constexpr const char *heededVariables[] = {"VERILATOR_ROOT", "CPPFLAGS", "CXXFLAGS", "LDFLAGS",
+                                           "LDLIBS"};
+
+// How the compiler optimises the design and Verilator's own sources, unless the environment says
+// it. Null: as Verilator has it.
+struct Optimisation {
+    const char *variable;
+    const char *usual;
+};
+constexpr Optimisation optimisations[] = {{"OPT_FAST", "-O2"}, {"OPT_GLOBAL", nullptr}};
 
 // The design is two-state, so what is unknown may be what is fastest.
 QStringList optionsOf(const Design &design)
@@ -33,8 +42,14 @@ QStringList optionsOf(const Design &design)
         QStringLiteral("-Wno-lint"),   QStringLiteral("-Wno-style"),
         QStringLiteral("--prefix"),    QStringLiteral("Vboard"),
         QStringLiteral("-CFLAGS"),     QStringLiteral("-DVL_USER_FINISH"),
-        QStringLiteral("-MAKEFLAGS"),  QStringLiteral("OPT_FAST=-O2"),
     };
+    for (const Optimisation &optimisation : optimisations) {
+        const char *variable = optimisation.variable;
+        if (qEnvironmentVariableIsSet(variable) || optimisation.usual)
+            options << QStringLiteral("-MAKEFLAGS")
+                    << shellWord(QLatin1String(variable) + u'=' +
+                                 qEnvironmentVariable(variable, QLatin1String(optimisation.usual)));
+    }
     if (design.hasWaves)
         options.append(QStringLiteral("--trace-fst"));
     return options;

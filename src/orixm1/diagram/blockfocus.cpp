@@ -8,8 +8,30 @@
 #include <QGraphicsView>
 #include <QPainter>
 
+#include <cmath>
+
 namespace TARVOORIXM1
 {
+
+namespace
+{
+
+// A colour that is seen on the diagram's paper, white in every theme: a contrast of 3 at least,
+// with the luminance that WCAG 2 defines.
+QColor onPaper(QColor color)
+{
+    const auto linear = [](qreal value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    constexpr qreal brightest = 1.05 / 3 - 0.05;
+    while (0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF()) >
+           brightest)
+        color = color.darker(110);
+    return color;
+}
+
+} // namespace
 
 BlockFocus::BlockFocus(QGraphicsView *view)
     : m_view(view)
@@ -102,8 +124,10 @@ void BlockFocus::drawFrame(QPainter *painter)
     painter->setBrush(Qt::NoBrush);
     // Made anew with another palette only: frames come fast while panning.
     const QColor &highlight = m_view->palette().color(QPalette::Highlight);
-    if (m_pen.color() != highlight)
-        m_pen = QPen(highlight, 2);
+    if (m_highlight != highlight) {
+        m_highlight = highlight;
+        m_pen = QPen(onPaper(highlight), 2);
+    }
     painter->setPen(m_pen);
     painter->drawRoundedRect(frame(), 3, 3);
 }

@@ -61,6 +61,7 @@ private:
     QSet<IPItem *> m_stateless;
     IPItem *m_block = nullptr;
     std::function<void()> m_listener;
+    QColor m_highlight; // that the pen is made of
     QPen m_pen{Qt::black, 2};
 };
 

@@ -28,11 +28,11 @@ constexpr InkRow inkRows[] = {
     {Ink::Lost, "lost"_l1, "#b3261e"_l1, "#ff8a80"_l1},
     {Ink::On, "on"_l1, "#dbe9fb"_l1, "#1f3a5f"_l1},
     {Ink::TightMemory, "tight"_l1, "#cfe3ff"_l1, "#1f3a5f"_l1},
-    {Ink::ExternalMemory, "external"_l1, "#d5f0df"_l1, "#1d4532"_l1},
+    {Ink::ExternalMemory, "external"_l1, "#d5f0df"_l1, "#1a402e"_l1},
     {Ink::MemoryDevice, "device"_l1, "#e8defb"_l1, "#3d2f5e"_l1},
     {Ink::Window, "window"_l1, "#fdf0c4"_l1, "#4a4016"_l1},
     {Ink::Registers, "registers"_l1, "#eef1f5"_l1, "#2b3138"_l1},
-    {Ink::BlackBox, "blackbox"_l1, "#dfe2e6"_l1, "#484d54"_l1},
+    {Ink::BlackBox, "blackbox"_l1, "#dfe2e6"_l1, "#383c42"_l1},
     {Ink::Port, "port"_l1, "#fbe2d5"_l1, "#562f1d"_l1},
 };
 

@@ -2,6 +2,7 @@
 
 #include "answers.h"
 #include "pluginprobe.h"
+#include "sayings.h"
 #include "tr.h"
 
 #include <ipcore/ipcore.h>
@@ -512,7 +513,7 @@ bool IpCatalogue::ask(const Core &core, bool isOffered, const std::function<bool
 
 void IpCatalogue::fail(const QString &library, const QString &reason)
 {
-    m_failures.append({library, reason});
+    m_failures.append({library, Sayings::shown(reason)});
 }
 
 } // namespace Workbench

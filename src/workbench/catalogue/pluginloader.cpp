@@ -1,6 +1,6 @@
 #include "pluginloader.h"
 
-#include "tr.h"
+#include "sayings.h"
 
 #include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
@@ -52,9 +52,9 @@ QString PluginLoader::thrownBy(const std::function<void()> &call)
         call();
     } catch (const std::exception &exception) {
         const QString what = QString::fromUtf8(exception.what());
-        return what.isEmpty() ? Tr::tr("an exception without a text") : what;
+        return what.isEmpty() ? Sayings::shown(Sayings::told(Sayings::NoTextThrown)) : what;
     } catch (...) {
-        return Tr::tr("an exception of an unknown type");
+        return Sayings::shown(Sayings::told(Sayings::UnknownThrown));
     }
     return {};
 }
@@ -84,14 +84,14 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
         cores = plugin->ipCoreInterfaces();
     });
     if (!thrown.isEmpty()) {
-        result.mistakes.append(Tr::tr("It failed while it was started: %1.").arg(thrown));
+        result.mistakes.append(Sayings::told(Sayings::FailedAtStart, {thrown}));
         return result;
     }
     if (!plugin) {
         if (loader.isLoaded())
-            result.mistakes.append(Tr::tr("It is a Qt plug-in, but not one for IPs."));
+            result.mistakes.append(Sayings::told(Sayings::NotForIps));
         else if (loader.metaData().isEmpty())
-            result.mistakes.append(Tr::tr("It is no plug-in: %1").arg(loader.errorString()));
+            result.mistakes.append(Sayings::told(Sayings::NoPlugin, {loader.errorString()}));
         else
             result.mistakes.append(loader.errorString());
         return result;
@@ -99,19 +99,18 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
     result.root = plugin;
     if (cores.isEmpty()) {
         result.mistakes.append(
-            Tr::tr("It offers no IP: it finds no usable descriptor in its data folder \"%1\".")
-                .arg(QDir::toNativeSeparators(plugin->dataPath())));
+            Sayings::told(Sayings::OffersNone, {QDir::toNativeSeparators(plugin->dataPath())}));
         return result;
     }
     tell(Describing);
     QSet<BaseIPCoreInterface *> seen;
     for (BaseIPCoreInterface *object : qAsConst(cores)) {
         if (!object) {
-            result.mistakes.append(Tr::tr("One of its IPs is no object."));
+            result.mistakes.append(Sayings::told(Sayings::IpIsNone));
             continue;
         }
         if (seen.contains(object)) {
-            result.mistakes.append(Tr::tr("It offers one object twice."));
+            result.mistakes.append(Sayings::told(Sayings::IpTwice));
             continue;
         }
         seen.insert(object);
@@ -127,10 +126,9 @@ LoadedPlugin PluginLoader::load(const QString &library, const QString &dataFolde
             ip.entry.help = helpOf(*object, dataFolder);
         });
         if (!reason.isEmpty())
-            result.mistakes.append(
-                Tr::tr("It failed when it was asked for an IP: %1.").arg(reason));
+            result.mistakes.append(Sayings::told(Sayings::FailedForIp, {reason}));
         else if (ip.entry.id.isEmpty() || ip.entry.name.isEmpty())
-            result.mistakes.append(Tr::tr("One of its IPs has no id or no name."));
+            result.mistakes.append(Sayings::told(Sayings::IpWithoutName));
         else
             result.ips.push_back(std::move(ip));
     }

@@ -1,5 +1,7 @@
 #include "pluginprobe.h"
 
+#include "sayings.h"
+
 #include <core/editormanager.h>
 
 #include <QDir>
@@ -102,23 +104,21 @@ PluginProbe::~PluginProbe()
         m_process->end();
 }
 
-// What is found is kept for the next start, whose language may be another one: it is English, as
-// what the process says is.
 QString PluginProbe::stepWords(int step)
 {
     switch (step) {
     case PluginLoader::Loading:
-        return QStringLiteral("while it was loaded");
+        return Sayings::told(Sayings::WhileLoaded);
     case PluginLoader::Starting:
-        return QStringLiteral("while it was started");
+        return Sayings::told(Sayings::WhileStarted);
     case PluginLoader::Listing:
-        return QStringLiteral("when it was asked for its IPs");
+        return Sayings::told(Sayings::WhenAskedForIps);
     case PluginLoader::Describing:
-        return QStringLiteral("when it was asked what its IPs are");
+        return Sayings::told(Sayings::WhenAskedWhatTheyAre);
     case PluginLoader::Supporting:
-        return QStringLiteral("when it was asked about devices");
+        return Sayings::told(Sayings::WhenAskedAboutDevices);
     case PluginLoader::Releasing:
-        return QStringLiteral("when its IPs were released");
+        return Sayings::told(Sayings::WhenReleased);
     default:
         return {};
     }
@@ -157,22 +157,18 @@ PluginProbe::Result PluginProbe::wait()
     }
     const QString when = stepWords(step);
     if (tooMuch && step >= 0)
-        return {QStringLiteral("It did not stop printing %1.").arg(when), true};
+        return {Sayings::told(Sayings::PrintedForEver, {when}), true};
     if (blocked && step >= 0)
-        return {
-            QStringLiteral("It did not answer within %1 s %2.").arg(m_timeLimit / 1000).arg(when),
-            true};
+        return {Sayings::told(Sayings::DidNotAnswer, {QString::number(m_timeLimit / 1000), when}),
+                true};
     // Nothing of the plug-in has run: that is not its fault.
     if (step < 0)
         return {};
+    const QString number = QString::number(m_process->exitCode());
     if (m_process->exitStatus() == QProcess::CrashExit)
-        return {QStringLiteral("It crashed %1 (signal %2).").arg(when).arg(m_process->exitCode()),
-                false};
+        return {Sayings::told(Sayings::Crashed, {when, number}), false};
     if (told.isEmpty())
-        return {QStringLiteral("It ended the program %1 (status %2).")
-                    .arg(when)
-                    .arg(m_process->exitCode()),
-                false};
+        return {Sayings::told(Sayings::Ended, {when, number}), false};
     if (!told.value(QLatin1String("ips")).toArray().isEmpty())
         return {};
     const QJsonArray mistakes = told.value(QLatin1String("mistakes")).toArray();

@@ -1,5 +1,7 @@
 #include "companion.h"
 
+#include "widgets/windowplace.h"
+
 #include <ipcore/screenfit.h>
 
 #include <QCloseEvent>
@@ -73,19 +75,30 @@ void Companion::showBeside()
     const bool isFirst = !m_panels.isEmpty();
     if (isFirst) {
         makePanels();
-        const QSize room = IPCore::roomOnScreen(m_dialog);
-        const QRect frame = m_dialog->frameGeometry();
-        const QSize size(sizeHint().width(), std::max(sizeHint().height(), m_dialog->height()));
-        const QRect place =
-            placeBeside(frame, size.boundedTo(room), m_dialog->screen()->availableGeometry());
-        resize(place.size());
-        move(place.topLeft());
+        // Where people have put it, it does not follow the dialog.
+        if (!m_place || !m_place->restore())
+            goBeside();
     }
     show();
     // Not every window system knows that a window can come up without the focus. Whoever works with
     // another program keeps it there.
     if (QGuiApplication::applicationState() == Qt::ApplicationActive)
         m_dialog->activateWindow();
+}
+
+void Companion::goBeside()
+{
+    const QSize room = IPCore::roomOnScreen(m_dialog);
+    const QSize size(sizeHint().width(), std::max(sizeHint().height(), m_dialog->height()));
+    const QRect place = placeBeside(m_dialog->frameGeometry(), size.boundedTo(room),
+                                    m_dialog->screen()->availableGeometry());
+    resize(place.size());
+    move(place.topLeft());
+}
+
+void Companion::rememberPlace(QSettings &settings)
+{
+    m_place = new WindowPlace(settings, QStringLiteral("window/companion"), this);
 }
 
 void Companion::takeFocus()

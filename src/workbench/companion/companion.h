@@ -6,10 +6,13 @@
 #include <QRect>
 #include <QWidget>
 
+QT_FORWARD_DECLARE_CLASS(QSettings)
 QT_FORWARD_DECLARE_CLASS(QTabWidget)
 
 namespace Workbench
 {
+
+class WindowPlace;
 
 // The window beside the dialog of an IP, with a tab for each panel that dialog and plug-in offer
 // something for. It belongs to the dialog, so that the two can be used together though the dialog
@@ -29,7 +32,10 @@ public:
     // room, otherwise over the dialog's upper right corner, and then less high.
     static QRect placeBeside(const QRect &dialog, const QSize &size, const QRect &screen);
 
-    // Beside the dialog, which must be visible and keeps the focus.
+    // From now on; before it is shown. The settings must outlive it.
+    void rememberPlace(QSettings &settings);
+    // Beside the dialog, or where people have put it before. The dialog, which must be visible and
+    // keeps the focus.
     void showBeside();
     // Gives it the keyboard.
     void takeFocus();
@@ -46,11 +52,13 @@ protected:
 
 private:
     void makePanels();
+    void goBeside();
 
     QPointer<QDialog> m_dialog;
     QPointer<QObject> m_root;
     QVector<CompanionPanel> m_panels; // that are not made yet
     QTabWidget *m_tabs;
+    WindowPlace *m_place = nullptr; // where it is not remembered
 };
 
 } // namespace Workbench

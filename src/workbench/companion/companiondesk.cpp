@@ -71,6 +71,7 @@ void CompanionDesk::open()
     if (m_companion || !m_dialog->isVisible())
         return;
     m_companion = new Companion(m_dialog, m_root, Companion::offered(m_panels, m_dialog, m_root));
+    m_companion->rememberPlace(m_settings);
     connect(m_companion, &Companion::closed, this, [this] {
         if (m_dialog && m_dialog->isVisible())
             setWanted(false);

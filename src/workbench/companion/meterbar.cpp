@@ -284,7 +284,7 @@ void MeterBar::paintEvent(QPaintEvent * /*event*/)
 // before the end of the bar.
 void MeterBar::drawBar(QPainter &painter, const QRect &bar) const
 {
-    const QColor frame = palette().color(QPalette::Mid);
+    const QColor frame = Colours::frame(palette());
     painter.fillRect(bar, palette().color(QPalette::Base));
     const int whole = std::max(m_reading.available, m_reading.high);
     const auto part = [&](int from, int to) {
@@ -294,11 +294,15 @@ void MeterBar::drawBar(QPainter &painter, const QRect &bar) const
         return QRect(QPoint(place(from), bar.top()), QPoint(place(to) - 1, bar.bottom()));
     };
     if (m_reading.available >= 0) {
-        const QColor color = palette().color(QPalette::Highlight);
+        const QColor color = Colours::taken(palette());
         QColor pale = color;
         pale.setAlphaF(0.35);
         const int fits = std::min(m_reading.value, m_reading.available);
-        painter.fillRect(part(m_reading.low, m_reading.high), pale);
+        const QRect range = part(m_reading.low, m_reading.high);
+        painter.fillRect(range, pale);
+        painter.setPen(color); // what is pale is hardly seen by itself
+        if (range.width() > 1)
+            painter.drawRect(range.adjusted(0, 0, -1, -1));
         painter.fillRect(part(0, fits), color);
         if (m_reading.value > fits)
             painter.fillRect(part(fits, m_reading.value), Colours::alarm(palette()));

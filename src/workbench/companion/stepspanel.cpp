@@ -5,11 +5,11 @@
 #include "tr.h"
 #include "widgets/shortcuts.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QFont>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QMetaMethod>
@@ -129,14 +129,7 @@ StepsPanel::StepsPanel(QDialog *ipDialog, QObject * /*pluginRoot*/, QWidget *par
     connectButton(m_undo, [this] { return m_model->current() - 1; });
     connectButton(m_redo, [this] { return m_model->current() + 1; });
     connectButton(m_back, [] { return 0; });
-    for (const auto &[key, button] :
-         {std::pair(QKeySequence::Undo, m_undo), std::pair(QKeySequence::Redo, m_redo)}) {
-        auto *action = new QAction(this);
-        action->setShortcuts(keysOf(key));
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, button, &QPushButton::click);
-        addAction(action);
-    }
+    qApp->installEventFilter(this);
     connect(m_list, &QListView::activated, this,
             [this](const QModelIndex &index) { goTo(index.row()); });
 
@@ -145,6 +138,28 @@ StepsPanel::StepsPanel(QDialog *ipDialog, QObject * /*pluginRoot*/, QWidget *par
     connect(&m_delay, &QTimer::timeout, this, &StepsPanel::refresh);
     connect(m_dialog, SIGNAL(configurationChanged()), this, SLOT(onChanged()));
     refresh();
+}
+
+// The keys of undo and redo are the panel's in its whole window, whichever tab is in front. As
+// shortcuts they would be nobody's: texts keep them for themselves, and the dialog, whose shortcuts
+// reach its tool windows, may have the same.
+bool StepsPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if ((event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) ||
+        !watched->isWidgetType() || static_cast<QWidget *>(watched)->window() != window() ||
+        watched->inherits("QLineEdit") || watched->inherits("QAbstractSpinBox"))
+        return QWidget::eventFilter(watched, event);
+    auto *key = static_cast<QKeyEvent *>(event);
+    const QKeySequence pressed(int(key->modifiers()) | key->key());
+    QPushButton *button = keysOf(QKeySequence::Undo).contains(pressed)   ? m_undo
+                          : keysOf(QKeySequence::Redo).contains(pressed) ? m_redo
+                                                                         : nullptr;
+    if (!button)
+        return QWidget::eventFilter(watched, event);
+    key->accept();
+    if (event->type() == QEvent::KeyPress)
+        button->click();
+    return true;
 }
 
 // Not at once: the dialog may be in the middle of it.

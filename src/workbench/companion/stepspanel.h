@@ -65,6 +65,9 @@ Q_SIGNALS:
 private Q_SLOTS:
     void onChanged();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void refresh();
     void goTo(int count);

@@ -283,8 +283,61 @@ void CodeEditor::paintEvent(QPaintEvent *event)
         const QRectF place = blockBoundingGeometry(block).translated(contentOffset());
         if (place.top() > event->rect().bottom())
             break;
-        if (block.isVisible() && place.bottom() >= event->rect().top())
-            paintStandIns(&painter, block, place.topLeft());
+        if (!block.isVisible() || place.bottom() < event->rect().top())
+            continue;
+        paintStandIns(&painter, block, place.topLeft());
+        if (m_markedPlaces)
+            paintMarks(&painter, block, place.topLeft());
+    }
+}
+
+// A frame for each place in the lines that are seen; of a long line only the part that is seen is
+// asked for.
+void CodeEditor::paintMarks(QPainter *painter, const QTextBlock &block, const QPointF &origin)
+{
+    constexpr int longLine = 4096; // characters
+    struct Part {
+        QTextLine line;
+        int from; // in the block
+        int to;
+    };
+    QVector<Part> parts;
+    for (int i = 0; i < block.layout()->lineCount(); ++i) {
+        const QTextLine line = block.layout()->lineAt(i);
+        const qreal top = origin.y() + line.y();
+        if (top > viewport()->height() || top + line.height() < 0)
+            continue;
+        const int to = line.xToCursor(viewport()->width() - origin.x()) + 1;
+        parts.append(
+            {line, line.xToCursor(-origin.x()), qMin(to, line.textStart() + line.textLength())});
+    }
+    if (parts.isEmpty())
+        return;
+    const int start = block.position();
+    const int length = block.length() - 1;
+    const bool isLong = length > longLine;
+    const QVector<Place> places = m_markedPlaces(start + (isLong ? parts.first().from : 0),
+                                                 start + (isLong ? parts.last().to : length));
+    const QTextCursor cursor = textCursor();
+    painter->setBrush(Qt::NoBrush);
+    for (const Place &place : places) {
+        const bool isCurrent = place.position == cursor.selectionStart() &&
+                               place.position + place.length == cursor.selectionEnd();
+        const int width = isCurrent ? 2 : 1;
+        QPen pen(isCurrent ? palette().color(QPalette::Text) : Colours::match(palette()), width);
+        pen.setJoinStyle(Qt::MiterJoin);
+        painter->setPen(pen);
+        for (const Part &part : parts) {
+            const int from = qMax(place.position - start, part.from);
+            const int to = qMin(place.position + place.length - start, part.to);
+            const bool isEmpty = place.length == 0 && from == to;
+            if (from >= to && !isEmpty)
+                continue;
+            const qreal left = part.line.cursorToX(from);
+            const QRectF box(origin.x() + left, origin.y() + part.line.y(),
+                             part.line.cursorToX(to) - left, part.line.height());
+            painter->drawRect(box.adjusted(width / 2.0, width / 2.0, -width / 2.0, -width / 2.0));
+        }
     }
 }
 
@@ -348,9 +401,7 @@ void CodeEditor::wheelEvent(QWheelEvent *event)
 void CodeEditor::markCurrentLine()
 {
     QTextEdit::ExtraSelection line;
-    QColor color = palette().color(QPalette::Highlight);
-    color.setAlphaF(0.12);
-    line.format.setBackground(color);
+    line.format.setBackground(Colours::cursorLine(palette()));
     line.format.setProperty(QTextFormat::FullWidthSelection, true);
     line.cursor = textCursor();
     line.cursor.clearSelection();

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <QVector>
+
+#include <functional>
 
 QT_FORWARD_DECLARE_CLASS(QMimeData)
 QT_FORWARD_DECLARE_CLASS(QPainter)
@@ -40,6 +43,15 @@ public:
     // What was made larger or smaller stays so.
     void setLook(const EditorLook &look);
 
+    // Places of the text to be framed, the selected one thick. They are asked for when they are
+    // painted, line by line of what is seen: from a position to the one behind the last.
+    struct Place {
+        int position;
+        int length;
+    };
+    using MarkedPlaces = std::function<QVector<Place>(int from, int to)>;
+    void setMarkedPlaces(const MarkedPlaces &places) { m_markedPlaces = places; }
+
     int lineNumberWidth() const;
     void paintLineNumbers(QPaintEvent *event);
 
@@ -62,6 +74,7 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    void paintMarks(QPainter *painter, const QTextBlock &block, const QPointF &origin);
     void paintStandIns(QPainter *painter, const QTextBlock &block, const QPointF &origin);
     void insert(const QString &text);
     void layoutLineNumbers();
@@ -72,6 +85,7 @@ private:
     int m_zoom = 0;
     int m_tabWidth = 8;
     bool m_hasLineNumbers = true;
+    MarkedPlaces m_markedPlaces;
 };
 
 } // namespace Workbench

@@ -127,6 +127,11 @@ void EditorTabs::add(EditorPage *page)
         m_look = std::make_unique<EditorLook>(m_lookSource());
     if (m_look)
         page->setLook(*m_look);
+    page->findBar()->setChoices(m_findChoices);
+    connect(page->findBar(), &FindBar::choicesChanged, this, [this, page] {
+        setFindChoices(page->findBar()->choices());
+        Q_EMIT findChoicesChanged(m_findChoices);
+    });
     connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
     connect(page, &EditorPage::saveEnded, this,
             [this, page](const QString &error) { tellSaved(page, error); });
@@ -152,6 +157,16 @@ void EditorTabs::setLook(const std::function<EditorLook()> &look)
         m_look = std::make_unique<EditorLook>(look());
     for (EditorPage *page : all)
         page->setLook(*m_look);
+}
+
+void EditorTabs::setFindChoices(const FindChoices &choices)
+{
+    m_findChoices = choices;
+    const QList<EditorPage *> all = pages();
+    for (const EditorPage *page : all) {
+        if (page->findBar()->isHidden())
+            page->findBar()->setChoices(choices);
+    }
 }
 
 EditorPage *EditorTabs::currentPage() const

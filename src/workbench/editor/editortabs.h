@@ -1,6 +1,7 @@
 #pragma once
 
 #include "codeeditor.h"
+#include "findbar.h"
 
 #include <QFileSystemWatcher>
 #include <QTabWidget>
@@ -40,6 +41,9 @@ public:
     // finding its font takes a while.
     void setLook(const std::function<EditorLook()> &look);
 
+    // How is looked for in the pages that come, and in those whose bar is hidden.
+    void setFindChoices(const FindChoices &choices);
+
     // Reports a failure in the page and returns false then. While a large file is being saved, a
     // dialog says so.
     bool savePage(EditorPage *page);
@@ -62,6 +66,8 @@ Q_SIGNALS:
     void editingStarted(Workbench::EditorPage *page);
     // Of a page that is not in front; the page says so, too.
     void saveFailed(const QString &error);
+    // By somebody's hand, in a page.
+    void findChoicesChanged(const Workbench::FindChoices &choices);
     // A file was scrolled.
     void placeChanged();
     // By mouse or keys; a place on the screen.
@@ -86,6 +92,7 @@ private:
 
     std::unique_ptr<EditorLook> m_look; // null: not asked for
     std::function<EditorLook()> m_lookSource;
+    FindChoices m_findChoices;
     QFileSystemWatcher m_watcher;
     QTimer m_diskTimer;
 };

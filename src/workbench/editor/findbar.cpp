@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPointer>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QToolButton>
@@ -24,8 +25,10 @@ namespace Workbench
 namespace
 {
 
-constexpr int atOnce = 16;  // milliseconds that nobody notices
-constexpr int oneSlice = 8; // milliseconds, then the window gets its turn
+constexpr int atOnce = 16;     // milliseconds that nobody notices
+constexpr int oneSlice = 8;    // milliseconds, then the window gets its turn
+constexpr int atOneLine = 1;   // to be marked while it is painted
+constexpr int mostSeen = 1000; // lines whose marks are remembered
 constexpr int afterChange = 200;
 constexpr int longestHistory = 30;
 
@@ -75,10 +78,17 @@ FindBar::FindBar(CodeEditor *editor, QWidget *parent)
         jump(Here);
     });
     for (const QCheckBox *box : {m_matchCase, m_wholeWords, m_isExpression})
-        connect(box, &QCheckBox::toggled, this, [this] { jump(Here); });
+        connect(box, &QCheckBox::toggled, this, [this] {
+            jump(Here);
+            Q_EMIT choicesChanged();
+        });
+    m_editor->setMarkedPlaces([self = QPointer<FindBar>(this)](int from, int to) {
+        return self ? self->placesWithin(from, to) : QVector<CodeEditor::Place>();
+    });
     connect(m_replace, &QPushButton::clicked, this, &FindBar::replace);
     connect(m_replaceAll, &QPushButton::clicked, this, &FindBar::replaceAll);
     connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &FindBar::showState);
+    connect(m_editor, &QPlainTextEdit::selectionChanged, this, &FindBar::showMarks);
     m_goOn.setInterval(0);
     connect(&m_goOn, &QTimer::timeout, this, [this] {
         if (isReplacing())
@@ -198,6 +208,7 @@ void FindBar::start()
     tell({});
     search();
     goOn(atOnce);
+    showMarks();
 }
 
 void FindBar::startReplacing()
@@ -213,6 +224,67 @@ void FindBar::setEditable(bool isEditable)
                             static_cast<QWidget *>(m_replaceAll)})
         widget->setEnabled(isEditable);
     tell({});
+}
+
+FindChoices FindBar::choices() const
+{
+    return {m_matchCase->isChecked(), m_wholeWords->isChecked(), m_isExpression->isChecked()};
+}
+
+void FindBar::setChoices(const FindChoices &choices)
+{
+    const std::pair<QCheckBox *, bool> boxes[] = {{m_matchCase, choices.matchCase},
+                                                  {m_wholeWords, choices.wholeWords},
+                                                  {m_isExpression, choices.isExpression}};
+    for (const auto &[box, isChecked] : boxes) {
+        const QSignalBlocker blocker(box);
+        box->setChecked(isChecked);
+    }
+}
+
+// A search of the whole text knows them exactly once it has come here. Before that, and of a text
+// that has changed since, what is seen is searched by itself: that is only a few lines.
+QVector<CodeEditor::Place> FindBar::placesWithin(int from, int to)
+{
+    QVector<CodeEditor::Place> result;
+    const SearchFor now = wanted();
+    if (isHidden() || isReplacing() || now.text.isEmpty())
+        return result;
+    const int revision = m_editor->document()->revision();
+    const bool isKnown = m_search && m_searched == now && m_revision == revision &&
+                         (m_search->state() == Search::Done || m_search->knownUpTo() >= to);
+    if (isKnown) {
+        const QVector<Search::Place> &places = m_search->places();
+        // One may begin before.
+        for (int i = qMax(0, m_search->lastBefore(from)); i < places.size(); ++i) {
+            if (places.at(i).position > to)
+                break;
+            if (places.at(i).position + places.at(i).length >= from)
+                result.append({places.at(i).position, places.at(i).length});
+        }
+        return result;
+    }
+    if (m_seenRevision != revision || !(m_seenFor == now) || m_seen.size() > mostSeen)
+        m_seen.clear();
+    if (m_seen.isEmpty())
+        m_isSeenSlow = false;
+    m_seenRevision = revision;
+    m_seenFor = now;
+    const auto seen = m_seen.constFind({from, to});
+    if (seen != m_seen.constEnd())
+        return *seen;
+    if (now.mistake().isEmpty() && !m_isSeenSlow) {
+        QTextCursor part(m_editor->document());
+        part.setPosition(from);
+        part.setPosition(to, QTextCursor::KeepAnchor);
+        Search search(part.selectedText(), now);
+        search.advance(atOneLine);
+        for (const Search::Place &place : search.places())
+            result.append({from + place.position, place.length});
+        m_isSeenSlow = search.state() == Search::TooSlow;
+    }
+    m_seen.insert({from, to}, result);
+    return result;
 }
 
 SearchFor FindBar::wanted() const
@@ -279,6 +351,7 @@ void FindBar::jump(Jump jump, int from)
     else
         m_jump = Nowhere;
     showState();
+    showMarks();
 }
 
 Search *FindBar::search()
@@ -307,10 +380,12 @@ void FindBar::goOn(int milliseconds)
         return;
     const bool isOver = m_search->advance(milliseconds) != Search::Running;
     settleJump();
-    if (isOver)
+    if (isOver) {
         m_goOn.stop();
-    else
+        showMarks();
+    } else {
         m_goOn.start();
+    }
     if (isOver && m_search->state() == Search::TooSlow)
         tell(tr("The search ends at line %1: there the expression takes too many steps.")
                  .arg(m_editor->document()->findBlock(m_search->stoppedAt()).blockNumber() + 1));
@@ -390,6 +465,12 @@ void FindBar::showState()
         m_state->setText(tr("%1 of %2, continued at the end").arg(one, all));
     else
         m_state->setText(tr("%1 of %2, continued at the start").arg(one, all));
+}
+
+void FindBar::showMarks()
+{
+    if (!isHidden())
+        m_editor->viewport()->update();
 }
 
 void FindBar::tell(const QString &message)
@@ -534,6 +615,8 @@ void FindBar::leave()
     hide();
     m_newRow->hide();
     m_changed.stop();
+    m_seen.clear();
+    m_editor->viewport()->update();
     if (!isReplacing())
         forget(); // it holds the text
     m_editor->setFocus();

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "codeeditor.h"
 #include "search.h"
 
+#include <QHash>
+#include <QPair>
 #include <QTimer>
 #include <QWidget>
 
@@ -15,14 +18,18 @@ QT_FORWARD_DECLARE_CLASS(QPushButton)
 namespace Workbench
 {
 
-class CodeEditor;
+struct FindChoices {
+    bool matchCase = false;
+    bool wholeWords = false;
+    bool isExpression = false;
+};
 
 // Searches the text while it is typed, from the cursor on and round the end, and replaces what it
 // finds. Enter: next, Shift+Enter: previous, Up and Down: what was looked for before, Escape: back
 // to the text.
 //
 // Long searches and replacements go on in pieces while the window can be used. While places are
-// replaced in pieces the editor is read-only.
+// replaced in pieces the editor is read-only. While the bar is shown the editor marks every match.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -41,6 +48,10 @@ public:
     // Every match, as one step of undo.
     void replaceAll();
 
+    // How is looked for. Setting it searches with the next start().
+    FindChoices choices() const;
+    void setChoices(const FindChoices &choices);
+
     // Whether the text may be changed.
     void setEditable(bool isEditable);
     bool isReplacing() const { return m_replacing >= 0; }
@@ -48,6 +59,10 @@ public:
     void finishReplacing();
     // What is known of the text; before the editor gets another document.
     void forget();
+
+Q_SIGNALS:
+    // By somebody's hand.
+    void choicesChanged();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -65,6 +80,7 @@ private:
     void goOn(int milliseconds);
     void settleJump();
     void showState();
+    void showMarks();
     void tell(const QString &message);
     void remember();
     void recall(int step);
@@ -72,6 +88,8 @@ private:
     void replaceSome(int milliseconds);
     void apply(const QVector<Search::Edit> &edits);
     void leave();
+    // What CodeEditor::setMarkedPlaces() asks for.
+    QVector<CodeEditor::Place> placesWithin(int from, int to);
 
     CodeEditor *m_editor;
     QLineEdit *m_text;
@@ -86,6 +104,11 @@ private:
     QLabel *m_message;
 
     std::unique_ptr<Search> m_search;
+    // Of lines that are seen, where m_search has not come to or is of another text.
+    QHash<QPair<int, int>, QVector<CodeEditor::Place>> m_seen;
+    SearchFor m_seenFor;
+    int m_seenRevision = -1;
+    bool m_isSeenSlow = false; // the expression takes too many steps
     SearchFor m_searched;
     int m_revision = -1; // of the text that m_search has
     Jump m_jump = Nowhere;

@@ -1,5 +1,7 @@
 #include "languages.h"
 
+#include "qttexts.h"
+
 #include <QCoreApplication>
 #include <QLibraryInfo>
 
@@ -77,11 +79,20 @@ Languages::Languages(const QString &wish, const QString &qtTexts)
         QLocale::setDefault(QLocale(m_code));
     const QString folder =
         qtTexts.isEmpty() ? QLibraryInfo::location(QLibraryInfo::TranslationsPath) : qtTexts;
-    if (m_qtTexts.read(folder + QLatin1String("/qtbase_") + m_code + QLatin1String(".qm")))
-        QCoreApplication::installTranslator(&m_qtTexts);
     if (m_texts.load(QLatin1String(":/workbench/translations/workbench_") + m_code +
                      QLatin1String(".qm")))
         QCoreApplication::installTranslator(&m_texts);
+    // Asked before the one above: Qt's own translations are those of the whole desktop.
+    if (m_qtTexts.read(folder + QLatin1String("/qtbase_") + m_code + QLatin1String(".qm")))
+        QCoreApplication::installTranslator(&m_qtTexts);
+}
+
+QString Languages::OwnTranslator::translate(const char *context, const char *text,
+                                            const char *disambiguation, int n) const
+{
+    return PluginTexts::areShown() && isQtContext(context)
+               ? QString()
+               : QTranslator::translate(context, text, disambiguation, n);
 }
 
 Languages::~Languages()

@@ -56,7 +56,14 @@ public:
     static QLocale locale();
 
 private:
-    // Qt's texts, except while PluginTexts lives.
+    // The workbench's texts, and Qt's that come with them, these except while PluginTexts lives.
+    class OwnTranslator : public QTranslator
+    {
+    public:
+        QString translate(const char *context, const char *text, const char *disambiguation,
+                          int n) const override;
+    };
+    // Qt's own translations, with the same exception.
     class QtTranslator : public QTranslator
     {
     public:
@@ -75,7 +82,7 @@ private:
 
     QString m_code;
     QLocale m_before;
-    QTranslator m_texts;
+    OwnTranslator m_texts;
     QtTranslator m_qtTexts;
 };
 

@@ -1,5 +1,6 @@
 #include "mapview.h"
 
+#include "widgets/colours.h"
 #include "widgets/vectorpicture.h"
 
 #include <QEvent>
@@ -38,7 +39,7 @@ protected:
             return;
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        QColor colour = palette().color(QPalette::Highlight);
+        QColor colour = Colours::door(palette());
         if (isUnderMouse) {
             colour.setAlpha(50);
             painter.setBrush(colour);

@@ -1,5 +1,7 @@
 #include "sessionstore.h"
 
+#include "settings/settingstable.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
@@ -17,7 +19,6 @@ namespace Workbench
 namespace
 {
 
-const QString wantedKey = QStringLiteral("session/restore");
 const QString lastKey = QStringLiteral("session/last");
 const QString attemptsKey = QStringLiteral("session/attempts");
 const QString splittersKey = QStringLiteral("session/splitters");
@@ -67,12 +68,12 @@ void SessionStore::write(const QString &key, const QVariant &value)
 
 bool SessionStore::isWanted() const
 {
-    return m_settings.value(wantedKey, true).toString() != QLatin1String("false");
+    return Settings::isOn(m_settings, Settings::restoreSession);
 }
 
 void SessionStore::setWanted(bool wanted)
 {
-    write(wantedKey, wanted);
+    write(QLatin1String(Settings::restoreSession), wanted);
 }
 
 QString SessionStore::last() const

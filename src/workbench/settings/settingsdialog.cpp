@@ -226,6 +226,13 @@ void SettingsDialog::restoreDefaults()
     }
 }
 
+void SettingsDialog::showSettings()
+{
+    const QVector<Settings::Row> &rows = Settings::rows();
+    for (int i = 0; i < rows.size(); ++i)
+        m_setters.at(i)(Settings::valueOf(m_settings, rows.at(i)));
+}
+
 void SettingsDialog::reject()
 {
     for (const Settings::Row &row : Settings::rows()) {

@@ -23,6 +23,9 @@ public:
     // The settings must outlive the dialog.
     SettingsDialog(QSettings &settings, QWidget *parent);
 
+    // Shows what stands in the settings now, after somebody else has written there.
+    void showSettings();
+
     void reject() override;
 
 Q_SIGNALS:

@@ -2,6 +2,228 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Höher</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Niedriger</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>QMessageBox</name>
+    <message>
+        <source>Show Details...</source>
+        <translation>Einzelheiten zeigen...</translation>
+    </message>
+    <message>
+        <source>Hide Details...</source>
+        <translation>Einzelheiten verbergen...</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Alles speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>J&amp;a zu allem</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>N&amp;ein zu allem</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Abbruch</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Nochmals versuchen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Übergehen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>Vorgaben wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Hierher rollen</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Eine Seite nach links</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Eine Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Eine Seite nach rechts</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Eine Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Nach links rollen</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben rollen</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Nach rechts rollen</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten rollen</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Adresse des &amp;Links kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
     <name>Workbench</name>
     <message>
         <source>it is empty or too long</source>
@@ -883,6 +1105,130 @@
         <source>No program of the desktop shows the folder &quot;%1&quot;.</source>
         <translation>Kein Programm des Desktops zeigt den Ordner „%1“ an.</translation>
     </message>
+    <message>
+        <source>while it was loaded</source>
+        <translation>beim Laden</translation>
+    </message>
+    <message>
+        <source>while it was started</source>
+        <translation>beim Starten</translation>
+    </message>
+    <message>
+        <source>when it was asked for its IPs</source>
+        <translation>bei der Frage nach seinen IPs</translation>
+    </message>
+    <message>
+        <source>when it was asked what its IPs are</source>
+        <translation>bei der Frage, was seine IPs sind</translation>
+    </message>
+    <message>
+        <source>when it was asked about devices</source>
+        <translation>bei der Frage nach Bausteinen</translation>
+    </message>
+    <message>
+        <source>when its IPs were released</source>
+        <translation>beim Freigeben seiner IPs</translation>
+    </message>
+    <message>
+        <source>It did not stop printing %1.</source>
+        <translation>Es gab %1 ohne Ende aus.</translation>
+    </message>
+    <message>
+        <source>It did not answer within %1 s %2.</source>
+        <translation>Es hat innerhalb von %1 s nicht geantwortet: %2.</translation>
+    </message>
+    <message>
+        <source>It crashed %1 (signal %2).</source>
+        <translation>Es ist %1 abgestürzt (Signal %2).</translation>
+    </message>
+    <message>
+        <source>It ended the program %1 (status %2).</source>
+        <translation>Es hat %1 das Programm beendet (Status %2).</translation>
+    </message>
+    <message>
+        <source>plug-in mechanism, and everything on screen</source>
+        <translation>Mechanismus der Plug-ins und alles auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>figures, diagram and pictures of documents</source>
+        <translation>Abbildungen, Diagramm und Bilder der Dokumente</translation>
+    </message>
+    <message>
+        <source>the editor&apos;s colours</source>
+        <translation>Farben des Editors</translation>
+    </message>
+    <message>
+        <source>arguments and help texts of the programs</source>
+        <translation>Argumente und Hilfetexte der Programme</translation>
+    </message>
+    <message>
+        <source>digests of files in the command line</source>
+        <translation>Prüfsummen von Dateien in der Befehlszeile</translation>
+    </message>
+    <message>
+        <source>C library, mathematics, dynamic loading</source>
+        <translation>C-Bibliothek, Mathematik, dynamisches Laden</translation>
+    </message>
+    <message>
+        <source>C++ library</source>
+        <translation>C++-Bibliothek</translation>
+    </message>
+    <message>
+        <source>the processor&apos;s instructions in simulation</source>
+        <translation>Befehle des Prozessors in der Simulation</translation>
+    </message>
+    <message>
+        <source>programs in ELF form for the simulated processor</source>
+        <translation>Programme im ELF-Format für den simulierten Prozessor</translation>
+    </message>
+    <message>
+        <source>stacks of simulated instructions that wait for the bus</source>
+        <translation>Stapel simulierter Befehle, die auf den Bus warten</translation>
+    </message>
+    <message>
+        <source>programs in ELF form in command line and plug-in</source>
+        <translation>Programme im ELF-Format in Befehlszeile und Plug-in</translation>
+    </message>
+    <message>
+        <source>lines of C of a program&apos;s addresses</source>
+        <translation>C-Zeilen zu den Adressen eines Programms</translation>
+    </message>
+    <message>
+        <source>synthesis and proofs</source>
+        <translation>Synthese und Beweise</translation>
+    </message>
+    <message>
+        <source>simulation; it loads the simulation component</source>
+        <translation>Simulation; lädt den Bestandteil für Simulation</translation>
+    </message>
+    <message>
+        <source>simulation of what it compiles</source>
+        <translation>Simulation dessen, was es übersetzt</translation>
+    </message>
+    <message>
+        <source>proofs of VHDL netlists</source>
+        <translation>Beweise von VHDL-Netzlisten</translation>
+    </message>
+    <message>
+        <source>jobs of a sweep, and building</source>
+        <translation>Aufträge eines Sweeps und das Bauen</translation>
+    </message>
+    <message>
+        <source>shows waves</source>
+        <translation>zeigt Wellenformen</translation>
+    </message>
+    <message>
+        <source>compiles programs for the simulated processor</source>
+        <translation>übersetzt Programme für den simulierten Prozessor</translation>
+    </message>
+    <message>
+        <source>C library of programs for the processor</source>
+        <translation>C-Bibliothek von Programmen für den Prozessor</translation>
+    </message>
+    <message>
+        <source>debugs programs in simulation; the user starts it</source>
+        <translation>Fehlersuche in Programmen in der Simulation; der Benutzer startet es</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>
@@ -1483,7 +1829,7 @@
     </message>
     <message>
         <source>&amp;Contents</source>
-        <translation>&amp;Inhalt</translation>
+        <translation>I&amp;nhalt</translation>
     </message>
     <message>
         <source>F&amp;ind</source>
@@ -1966,10 +2312,6 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>&amp;User Guide</source>
-        <translation>&amp;Benutzerhandbuch</translation>
-    </message>
-    <message>
         <source>Help on the Selected &amp;IP</source>
         <translation>Hilfe zur ausgewählten &amp;IP</translation>
     </message>
@@ -2253,6 +2595,14 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
     <message>
         <source>Tables (*.csv *.json *.md)</source>
         <translation>Tabellen (*.csv *.json *.md)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>I&amp;nhalt</translation>
+    </message>
+    <message>
+        <source>The user guide, at what it says of the place with the focus</source>
+        <translation>Das Benutzerhandbuch bei dem, was es zur Stelle mit dem Fokus sagt</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,228 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>全选(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>增大(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>减小(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>QMessageBox</name>
+    <message>
+        <source>Show Details...</source>
+        <translation>显示详情...</translation>
+    </message>
+    <message>
+        <source>Hide Details...</source>
+        <translation>隐藏详情...</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>全部保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>全部选是(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>全部选否(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>忽略</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>恢复默认值</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>滚动到此处</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左边缘</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右边缘</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>左翻一页</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>上翻一页</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>右翻一页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>下翻一页</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>向下滚动</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>复制链接地址(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
     <name>Workbench</name>
     <message>
         <source>it is empty or too long</source>
@@ -882,6 +1104,130 @@
     <message>
         <source>No program of the desktop shows the folder &quot;%1&quot;.</source>
         <translation>桌面没有能显示文件夹 “%1” 的程序。</translation>
+    </message>
+    <message>
+        <source>while it was loaded</source>
+        <translation>在加载时</translation>
+    </message>
+    <message>
+        <source>while it was started</source>
+        <translation>在启动时</translation>
+    </message>
+    <message>
+        <source>when it was asked for its IPs</source>
+        <translation>在被询问有哪些 IP 时</translation>
+    </message>
+    <message>
+        <source>when it was asked what its IPs are</source>
+        <translation>在被询问其 IP 的信息时</translation>
+    </message>
+    <message>
+        <source>when it was asked about devices</source>
+        <translation>在被询问器件时</translation>
+    </message>
+    <message>
+        <source>when its IPs were released</source>
+        <translation>在释放其 IP 时</translation>
+    </message>
+    <message>
+        <source>It did not stop printing %1.</source>
+        <translation>它%1不停地输出。</translation>
+    </message>
+    <message>
+        <source>It did not answer within %1 s %2.</source>
+        <translation>它%2未在 %1 秒内应答。</translation>
+    </message>
+    <message>
+        <source>It crashed %1 (signal %2).</source>
+        <translation>它%1崩溃（信号 %2）。</translation>
+    </message>
+    <message>
+        <source>It ended the program %1 (status %2).</source>
+        <translation>它%1结束了程序（状态 %2）。</translation>
+    </message>
+    <message>
+        <source>plug-in mechanism, and everything on screen</source>
+        <translation>插件机制以及屏幕上的一切</translation>
+    </message>
+    <message>
+        <source>figures, diagram and pictures of documents</source>
+        <translation>插图、框图和文档中的图片</translation>
+    </message>
+    <message>
+        <source>the editor&apos;s colours</source>
+        <translation>编辑器的着色</translation>
+    </message>
+    <message>
+        <source>arguments and help texts of the programs</source>
+        <translation>程序的参数和帮助文本</translation>
+    </message>
+    <message>
+        <source>digests of files in the command line</source>
+        <translation>命令行中的文件摘要</translation>
+    </message>
+    <message>
+        <source>C library, mathematics, dynamic loading</source>
+        <translation>C 库、数学函数、动态加载</translation>
+    </message>
+    <message>
+        <source>C++ library</source>
+        <translation>C++ 库</translation>
+    </message>
+    <message>
+        <source>the processor&apos;s instructions in simulation</source>
+        <translation>仿真中处理器的指令</translation>
+    </message>
+    <message>
+        <source>programs in ELF form for the simulated processor</source>
+        <translation>供仿真处理器使用的 ELF 格式程序</translation>
+    </message>
+    <message>
+        <source>stacks of simulated instructions that wait for the bus</source>
+        <translation>等待总线的仿真指令的栈</translation>
+    </message>
+    <message>
+        <source>programs in ELF form in command line and plug-in</source>
+        <translation>命令行和插件中的 ELF 格式程序</translation>
+    </message>
+    <message>
+        <source>lines of C of a program&apos;s addresses</source>
+        <translation>程序地址对应的 C 代码行</translation>
+    </message>
+    <message>
+        <source>synthesis and proofs</source>
+        <translation>综合与证明</translation>
+    </message>
+    <message>
+        <source>simulation; it loads the simulation component</source>
+        <translation>仿真；它加载仿真组件</translation>
+    </message>
+    <message>
+        <source>simulation of what it compiles</source>
+        <translation>对其编译结果的仿真</translation>
+    </message>
+    <message>
+        <source>proofs of VHDL netlists</source>
+        <translation>VHDL 网表的证明</translation>
+    </message>
+    <message>
+        <source>jobs of a sweep, and building</source>
+        <translation>扫描的作业以及构建</translation>
+    </message>
+    <message>
+        <source>shows waves</source>
+        <translation>显示波形</translation>
+    </message>
+    <message>
+        <source>compiles programs for the simulated processor</source>
+        <translation>为仿真处理器编译程序</translation>
+    </message>
+    <message>
+        <source>C library of programs for the processor</source>
+        <translation>处理器程序的 C 库</translation>
+    </message>
+    <message>
+        <source>debugs programs in simulation; the user starts it</source>
+        <translation>调试仿真中的程序；由用户启动</translation>
     </message>
 </context>
 <context>
@@ -1963,10 +2309,6 @@ A copy of the present configuration is kept as well.</source>
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>&amp;User Guide</source>
-        <translation>用户指南(&amp;U)</translation>
-    </message>
-    <message>
         <source>Help on the Selected &amp;IP</source>
         <translation>关于所选 IP 的帮助(&amp;I)</translation>
     </message>
@@ -2250,6 +2592,14 @@ A copy of the present configuration is kept as well.</source>
     <message>
         <source>Tables (*.csv *.json *.md)</source>
         <translation>表格 (*.csv *.json *.md)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>目录(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The user guide, at what it says of the place with the focus</source>
+        <translation>用户指南中与当前焦点位置有关的部分</translation>
     </message>
 </context>
 <context>

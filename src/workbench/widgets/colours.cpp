@@ -87,6 +87,43 @@ QColor link(const QPalette &palette)
                     textContrast);
 }
 
+QColor match(const QPalette &palette)
+{
+    return taken(palette);
+}
+
+QColor frame(const QPalette &palette)
+{
+    const QColor ink = palette.color(QPalette::WindowText);
+    return readable(
+        readable(palette.color(QPalette::Mid), palette.color(QPalette::Window), ink, markContrast),
+        palette.color(QPalette::Base), ink, markContrast);
+}
+
+QColor taken(const QPalette &palette)
+{
+    return readable(palette.color(QPalette::Highlight), palette.color(QPalette::Base),
+                    palette.color(QPalette::Text), markContrast);
+}
+
+QColor door(const QPalette &palette)
+{
+    return readable(palette.color(QPalette::Highlight), palette.color(QPalette::Base),
+                    palette.color(QPalette::Text), doorContrast);
+}
+
+QColor cursorLine(const QPalette &palette)
+{
+    return mixed(palette.color(QPalette::Base), palette.color(QPalette::Highlight), 0.12);
+}
+
+QColor letter(const QColor &wish, const QPalette &palette)
+{
+    const QColor ink = palette.color(QPalette::Text);
+    return readable(readable(wish, palette.color(QPalette::Base), ink, textContrast),
+                    cursorLine(palette), ink, textContrast);
+}
+
 Sides sides(const QPalette &palette)
 {
     if (isDark(palette))
@@ -107,6 +144,14 @@ QVector<Use> uses(const QPalette &palette)
         {"the number of a line", quietOnWindow(palette), window, textContrast},
         {"a file that is missing", quietOnBase(palette), base, textContrast},
         {"a link", link(palette), base, textContrast},
+        {"the frame of a match", match(palette), base, markContrast},
+        {"the frame of a bar, in a window", frame(palette), window, markContrast},
+        {"the frame of a bar, around its field", frame(palette), base, markContrast},
+        {"what a bar has taken", taken(palette), base, markContrast},
+        {"a door of a picture", door(palette), base, doorContrast},
+        {"a letter of a program", letter(base, palette), base, textContrast},
+        {"the same on the line with the cursor", letter(base, palette), cursorLine(palette),
+         textContrast},
         {"the number of a pin that is high", QColor(onLamp), QColor(lamp), textContrast},
         {"a line that went", both.text, both.removed, textContrast},
         {"a line that came", both.text, both.added, textContrast},

@@ -117,8 +117,6 @@ void MainWindow::Actions::addFileMenu()
     reopen->setCheckable(true);
     reopen->setStatusTip(
         tr("Comes back to the project and its tabs when the workbench is started"));
-    QObject::connect(file, &QMenu::aboutToShow, window,
-                     [this] { reopen->setChecked(m_window->m_keeper->store().isWanted()); });
     file->addSeparator();
     save = add(file, tr("&Save"), QStringLiteral("save"), QKeySequence::Save, [window] {
         if (EditorPage *page = window->m_tabs->currentPage())
@@ -325,7 +323,9 @@ void MainWindow::Actions::addHelpMenu()
     MainWindow *window = m_window;
     const Keys nothing;
     QMenu *help = m_window->menuBar()->addMenu(tr("&Help"));
-    add(help, tr("&User Guide"), {}, QKeySequence::HelpContents, [window] { window->showGuide(); });
+    add(help, tr("&Contents"), {}, QKeySequence::HelpContents, [window] {
+        window->showGuide();
+    })->setStatusTip(tr("The user guide, at what it says of the place with the focus"));
     ipHelp = add(help, tr("Help on the Selected &IP"), {}, nothing,
                  [window] { window->showIpHelp(window->m_catalogueView->currentIp()); });
     ipHelp->setStatusTip(tr("The document of the IP that is selected in the catalogue"));
@@ -337,6 +337,7 @@ void MainWindow::Actions::addHelpMenu()
 void MainWindow::Actions::refresh()
 {
     editActions->refresh();
+    reopen->setChecked(Settings::isOn(m_window->m_settings, Settings::restoreSession));
     refreshEditor();
     refreshProject();
     const bool hasPlaces = m_window->m_messages->hasPlaces();

@@ -10,7 +10,7 @@ namespace Workbench
 // packaging/components.json has it.
 struct Component {
     QString name;
-    QString purpose;
+    QString purpose;         // in the language of the window
     QString licence;         // an SPDX expression
     QString package;         // of Debian, with which it is built or called
     QString program;         // that is started; empty: a library

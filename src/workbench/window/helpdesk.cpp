@@ -3,17 +3,21 @@
 #include "catalogue/ipcatalogue.h"
 #include "helpwindow.h"
 #include "widgets/errorbox.h"
+#include "widgets/windowplace.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QSettings>
 
 namespace Workbench
 {
 
 namespace
 {
+
+const QString zoomKey = QStringLiteral("help/zoom"); // in steps
 
 // What the guide says of a part of the window; the innermost that has a row counts.
 struct Topic {
@@ -40,8 +44,9 @@ constexpr Topic topics[] = {
 
 } // namespace
 
-HelpDesk::HelpDesk(const IpCatalogue &catalogue, QWidget *window)
+HelpDesk::HelpDesk(QSettings &settings, const IpCatalogue &catalogue, QWidget *window)
     : QObject(window)
+    , m_settings(settings)
     , m_catalogue(catalogue)
     , m_window(window)
 {
@@ -57,10 +62,19 @@ void HelpDesk::showDocument(const QString &path, const QString &title, const QSt
 {
     QWidget *modal = QApplication::activeModalWidget();
     QWidget *parent = modal ? modal : m_window;
-    if (m_help && m_help->parentWidget() != parent)
+    if (m_help && m_help->parentWidget() != parent) {
+        m_help->hide(); // so that its place is kept
         delete m_help;
-    if (!m_help)
+    }
+    if (!m_help) {
         m_help = new HelpWindow(parent);
+        (new WindowPlace(m_settings, QStringLiteral("window/help"), m_help))->restore();
+        HelpBrowser *browser = m_help->browser();
+        if (const int zoom = m_settings.value(zoomKey).toInt())
+            browser->zoomBy(zoom);
+        connect(browser, &HelpBrowser::zoomed, this,
+                [this](int zoom) { m_settings.setValue(zoomKey, zoom); });
+    }
     if (!m_help->showDocument(path, title, heading))
         showError(m_window, tr("\"%1\" cannot be read.").arg(QDir::toNativeSeparators(path)));
 }

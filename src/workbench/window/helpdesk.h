@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QPointer>
 
+QT_FORWARD_DECLARE_CLASS(QSettings)
+
 namespace Workbench
 {
 
@@ -16,8 +18,9 @@ class HelpDesk : public QObject
     Q_OBJECT
 
 public:
-    // The catalogue must outlive this. `window`: the parent of what it shows.
-    HelpDesk(const IpCatalogue &catalogue, QWidget *window);
+    // Settings, which remember place and zoom, and catalogue must outlive this. `window`: the
+    // parent of what it shows.
+    HelpDesk(QSettings &settings, const IpCatalogue &catalogue, QWidget *window);
 
     // Null while there is none.
     HelpWindow *helpWindow() const;
@@ -38,6 +41,7 @@ protected:
 private:
     void showDocument(const QString &path, const QString &title, const QString &heading = {});
 
+    QSettings &m_settings;
     const IpCatalogue &m_catalogue;
     QWidget *m_window;
     QPointer<HelpWindow> m_help;

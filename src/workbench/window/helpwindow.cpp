@@ -98,9 +98,12 @@ void HelpBrowser::goTo(int position, int length)
 
 void HelpBrowser::zoomBy(int steps)
 {
-    const int wanted = steps == 0 ? 0 : qBound(-5, m_zoom + steps, 20);
+    const int wanted = steps == 0 ? 0 : qBound(-5, m_zoom + qBound(-100, steps, 100), 20);
+    if (wanted == m_zoom)
+        return;
     zoomIn(wanted - m_zoom);
     m_zoom = wanted;
+    Q_EMIT zoomed(m_zoom);
 }
 
 void HelpBrowser::wheelEvent(QWheelEvent *event)

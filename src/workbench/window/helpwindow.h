@@ -38,6 +38,7 @@ public:
     void setSource(const QUrl &name) override;
 
 Q_SIGNALS:
+    void zoomed(int zoom);
     // Another document is shown, or the same in another form: places are no longer where they were.
     void documentShown();
 

@@ -117,7 +117,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
     , m_projectActions(new ProjectActions(*m_tabs, this))
     , m_catalogueView(new CatalogueView(catalogue))
     , m_plugins(new PluginList(catalogue, settings, *m_infoBar, this))
-    , m_help(new HelpDesk(catalogue, this))
+    , m_help(new HelpDesk(settings, catalogue, this))
     , m_generation(new GenerationWatch(catalogue, this))
     , m_companions(new CompanionDesk(settings, companionPanels(settings), this))
 {
@@ -193,6 +193,7 @@ MainWindow::MainWindow(IpCatalogue &catalogue, QSettings &settings, QWidget *par
          }},
         this);
     followDocks();
+    keepFindChoices();
     restoreState();
     applySettings();
     setProject(nullptr);
@@ -207,6 +208,25 @@ MainWindow::~MainWindow()
     IPCore::SynthesisMonitor::instance().disconnect(this);
     // Their signals must not reach a half-destroyed window.
     m_tabs->disconnect(this);
+}
+
+void MainWindow::keepFindChoices()
+{
+    struct Row {
+        QString key;
+        bool FindChoices::*choice;
+    };
+    static const Row rows[] = {{QStringLiteral("find/matchCase"), &FindChoices::matchCase},
+                               {QStringLiteral("find/wholeWords"), &FindChoices::wholeWords},
+                               {QStringLiteral("find/expression"), &FindChoices::isExpression}};
+    FindChoices choices;
+    for (const Row &row : rows)
+        choices.*row.choice = m_settings.value(row.key).toString() == QLatin1String("true");
+    m_tabs->setFindChoices(choices);
+    connect(m_tabs, &EditorTabs::findChoicesChanged, this, [this](const FindChoices &chosen) {
+        for (const Row &row : rows)
+            m_settings.setValue(row.key, chosen.*row.choice);
+    });
 }
 
 void MainWindow::connectParts()
@@ -860,6 +880,7 @@ void MainWindow::editSettings()
 {
     SettingsDialog dialog(m_settings, this);
     connect(&dialog, &SettingsDialog::changed, this, &MainWindow::applySettings);
+    connect(m_actions->reopen, &QAction::triggered, &dialog, &SettingsDialog::showSettings);
     dialog.exec();
 }
 

@@ -167,6 +167,7 @@ private:
     void showResults();
     OutputPane *output();
     void restoreState();
+    void keepFindChoices();
     void chooseDevice();
     void about();
     EditorLook editorLook() const;

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace Workbench
@@ -134,6 +135,16 @@ void StartPage::showState(const Project *project, const QStringList &ips,
     // Its texts are broken into lines for this width only.
     content->resize(viewport()->size());
     setWidget(content);
+    updateGeometry();
+}
+
+QSize StartPage::minimumSizeHint() const
+{
+    QSize result = QScrollArea::minimumSizeHint();
+    if (widget())
+        result.setWidth(qMax(result.width(), widget()->minimumSizeHint().width() +
+                                                 verticalScrollBar()->sizeHint().width()));
+    return result;
 }
 
 QStringList StartPage::stateOf(const Project *project, const QStringList &ips,
@@ -179,8 +190,10 @@ void StartPage::applyFont(QWidget *content) const
 void StartPage::changeEvent(QEvent *event)
 {
     QScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange && widget())
+    if (event->type() == QEvent::FontChange && widget()) {
         applyFont(widget());
+        updateGeometry();
+    }
 }
 
 void StartPage::showFirstSteps(QVBoxLayout *page, const IpCatalogue &catalogue,

@@ -57,6 +57,9 @@ public:
                    const QStringList &recent, const QList<KeptConfigurations::Item> &kept,
                    const QVector<Example> &examples);
 
+    // Wide enough not to scroll sideways.
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     void newProjectRequested();
     void newSubsystemRequested(int ip);

@@ -5,6 +5,8 @@
 #include <QGraphicsView>
 #include <QtTest>
 
+#include <cmath>
+
 using namespace TARVOORIXM1;
 
 // A view of three blocks; the last one shows no state.
@@ -104,6 +106,41 @@ private Q_SLOTS:
         QVERIFY(drawn());
         m_focus->set(nullptr);
         QVERIFY(!drawn());
+    }
+
+    // The diagram is white in dark themes too, whose highlights are bright.
+    void theFrameIsSeenOnPaper_data()
+    {
+        QTest::addColumn<QColor>("highlight");
+        QTest::newRow("light") << QColor(48, 140, 198);
+        QTest::newRow("dark") << QColor(61, 174, 233);
+        QTest::newRow("yellow") << QColor(Qt::yellow);
+        QTest::newRow("white") << QColor(Qt::white);
+    }
+    void theFrameIsSeenOnPaper()
+    {
+        QFETCH(QColor, highlight);
+        QPalette palette = m_view->palette();
+        palette.setColor(QPalette::Highlight, highlight);
+        m_view->setPalette(palette);
+        m_focus->set(m_blocks[0]);
+        m_view->show();
+        QApplication::setActiveWindow(m_view.get());
+        m_view->setFocus();
+        QTRY_VERIFY(m_view->hasFocus());
+        QImage image(400, 100, QImage::Format_ARGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.translate(10, 10);
+        m_focus->drawFrame(&painter);
+        painter.end();
+        const QColor frame = image.pixelColor(40, 6); // above the block, in its middle
+        const auto linear = [](qreal value) {
+            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        const qreal luminance = 0.2126 * linear(frame.redF()) + 0.7152 * linear(frame.greenF()) +
+                                0.0722 * linear(frame.blueF());
+        QVERIFY2(1.05 / (luminance + 0.05) >= 3, qPrintable(frame.name()));
     }
 
 private:

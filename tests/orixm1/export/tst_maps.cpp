@@ -12,6 +12,9 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace TARVOORIXM1;
 
 namespace
@@ -70,6 +73,64 @@ QVector<QPair<QPoint, QString>> textsOf(const QByteArray &svg)
     return texts;
 }
 
+qreal contrast(const QString &one, const QString &other)
+{
+    const auto luminance = [](const QString &colour) {
+        qreal result = 0.05;
+        const qreal weights[] = {0.2126, 0.7152, 0.0722};
+        for (int i = 0; i < 3; ++i) {
+            const qreal value = colour.midRef(1 + 2 * i, 2).toInt(nullptr, 16) / 255.0;
+            result += weights[i] *
+                      (value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4));
+        }
+        return result;
+    };
+    const qreal a = luminance(one);
+    const qreal b = luminance(other);
+    return std::max(a, b) / std::min(a, b);
+}
+
+// The first text of a drawing that cannot be read on the box below it, or edge that is not seen on
+// the page; empty if there is none. Counts what it has judged.
+QString unseenIn(const QByteArray &svg, int *texts, int *edges)
+{
+    struct Box {
+        QRect place;
+        QString fill;
+    };
+    QVector<Box> boxes;
+    QXmlStreamReader xml(svg);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QXmlStreamAttributes all = xml.attributes();
+        const auto number = [&all](const char *name) {
+            return all.value(QLatin1String(name)).toInt();
+        };
+        const QString fill = all.value(QLatin1String("fill")).toString();
+        const QString stroke = all.value(QLatin1String("stroke")).toString();
+        if (xml.name() == QLatin1String("rect")) {
+            if (stroke.startsWith(u'#')) {
+                ++*edges;
+                if (contrast(stroke, boxes.constFirst().fill) < 3)
+                    return stroke;
+            }
+            if (fill.startsWith(u'#'))
+                boxes.append({{number("x"), number("y"), number("width"), number("height")}, fill});
+        } else if (xml.name() == QLatin1String("text")) {
+            ++*texts;
+            const QPoint place(number("x"), number("y") - 3);
+            const auto below =
+                std::find_if(boxes.crbegin(), boxes.crend(),
+                             [&place](const Box &box) { return box.place.contains(place); });
+            const QString text = xml.readElementText();
+            if (below == boxes.crend() || contrast(fill, below->fill) < 4.5)
+                return text + u' ' + fill;
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 class tst_Maps : public QObject
@@ -86,6 +147,7 @@ private Q_SLOTS:
     void namesWhereADoorLeads();
     void isTheDatasheetsPictureWhereThatHasOneColumn();
     void isTheSameInLightAndDarkButForColours();
+    void everyTextCanBeReadOnItsBox();
 
 private:
     // Calls `judge` for many configurations of any kind; false once it is.
@@ -300,6 +362,27 @@ void tst_Maps::isTheSameInLightAndDarkButForColours()
         }
         return true;
     }));
+}
+
+// In light and dark: texts differ enough from the box that they stand on, boxes' edges from the
+// page (contrasts of WCAG 2).
+void tst_Maps::everyTextCanBeReadOnItsBox()
+{
+    int texts = 0;
+    int edges = 0;
+    QVERIFY(forMany([&](const SystemMap &map) {
+        for (const DoorPicture &picture : doorPictures(map)) {
+            for (const QByteArray &svg : {picture.picture.svg, picture.dark}) {
+                const QString unseen = unseenIn(svg, &texts, &edges);
+                if (!unseen.isEmpty()) {
+                    qWarning("%s", qPrintable(unseen));
+                    return false;
+                }
+            }
+        }
+        return true;
+    }));
+    QVERIFY(texts > 1000 && edges > 1000);
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Maps)
