@@ -20,6 +20,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextDocumentLayout>
 #include <QProcess>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -42,6 +43,29 @@ QByteArray manyLines(int size)
         text += "assign a" + QByteArray::number(text.size()) + " = b;\n";
     return text;
 }
+
+// Sees dialogs before any event gets to them: what ends one of them has not come yet.
+class ShownDialogs : public QObject
+{
+public:
+    explicit ShownDialogs(const std::function<void(QDialog *)> &handle)
+        : m_handle(handle)
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *dialog = qobject_cast<QDialog *>(watched);
+        if (dialog && event->type() == QEvent::Show)
+            m_handle(dialog);
+        return false;
+    }
+
+private:
+    std::function<void(QDialog *)> m_handle;
+};
 
 } // namespace
 
@@ -495,6 +519,7 @@ private Q_SLOTS:
         QRandomGenerator random(7);
         for (int round = 0; round < 20; ++round) {
             QTextDocument document;
+            document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
             document.setPlainText(QString::fromLatin1(manyLines(1 << 20)));
             TextCopy copy(&document);
             for (int edits = round; !copy.advance(0);) {
@@ -574,10 +599,7 @@ private Q_SLOTS:
         if (isWritten)
             QVERIFY(untilItIsWritten(page));
         QStringList told;
-        QTimer::singleShot(0, page, [&told] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
+        const ShownDialogs shown([&told](QDialog *dialog) {
             told.append(dialog->findChild<QLabel *>()->text());
             dialog->reject(); // which it does not do
             QTest::keyClick(dialog, Qt::Key_Escape);

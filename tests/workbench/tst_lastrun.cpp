@@ -140,6 +140,14 @@ private Q_SLOTS:
         m_run->setReport(longReport("lamp", 8));
         QCOMPARE(changes(*m_run).first(), QStringLiteral("+3"));
         QVERIFY(m_run->setDelivered(m_delivered));
+        // Which reads nothing if that has been read meanwhile.
+        m_run->expect();
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+        QVERIFY(QDir(m_dir->filePath(QStringLiteral("runs"))).removeRecursively());
+        m_run->setReport(longReport("lamp", 10));
+        QCOMPARE(changes(*m_run).first(), QStringLiteral("+2"));
+        QVERIFY(m_run->setDelivered(m_delivered));
         // Another project does not get it.
         m_run = make();
         m_run->setProject(m_project.get());

@@ -70,6 +70,7 @@ EditorPage::~EditorPage()
     // Nobody is to hear of it: those who listen may be half gone.
     const QSignalBlocker silent(this);
     const QSignalBlocker silentEditor(m_editor);
+    m_mayHaveChanged = false;
     finishSaving();
     m_editor->renewDocument();
 }

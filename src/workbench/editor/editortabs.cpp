@@ -266,6 +266,9 @@ void EditorTabs::finishSaves(const QList<EditorPage *> &pages)
     for (const EditorPage *page : pages)
         connect(page, &EditorPage::saveEnded, &dialog, look);
     dialog.exec();
+    // If the program ends, the dialog does, too.
+    for (EditorPage *page : pages)
+        page->finishSaving();
 }
 
 bool EditorTabs::settle(const QList<EditorPage *> &changed)

@@ -22,6 +22,7 @@ TextCopy::TextCopy(QTextDocument *document)
     : m_document(document)
 {
     m_text.reserve(document->characterCount());
+    document->documentLayout(); // a text without one does not tell of its changes
     m_connection = QObject::connect(document, &QTextDocument::contentsChange, document,
                                     [this](int position, int, int) {
                                         if (position >= m_text.size())

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <optional>
+#include <utility>
 
 namespace Workbench
 {
@@ -42,6 +43,7 @@ void LastRun::setProject(Project *project)
     m_comparison.drop();
     m_reading.drop();
     m_readingEarlier.drop();
+    m_hasEarlier = false;
     m_report.reset();
     m_earlier = {};
     m_project = project;
@@ -129,9 +131,33 @@ void LastRun::showStored(const Stored &stored)
                        [this, run](const QStringList &changed) { showAsKept(run, changed); });
 }
 
+void LastRun::showAsKept(const KeptRun &run, const QStringList &changed)
+{
+    showDelivered(run.delivered, changed);
+    page()->showAge(run.when, changed);
+}
+
+void LastRun::showDelivered(const QStringList &files, const QStringList &changed)
+{
+    page()->setDelivered(files, sources());
+    const QString ipcFile = page()->configuration();
+    if (ipcFile.isEmpty() || !m_mapSource) {
+        page()->setMaps({});
+        return;
+    }
+    const Utils::Result<QVector<MapPicture>> maps = m_mapSource(ipcFile);
+    if (!maps)
+        m_messages.append(MessageModel::Warning, maps.reason(), ipcFile);
+    page()->setMaps(maps ? *maps : QVector<MapPicture>(),
+                    changed.contains(ipcFile)
+                        ? tr("The configuration has changed since the run; this is how it is now.")
+                        : QString());
+}
+
 void LastRun::expect()
 {
     m_isNew = false;
+    m_hasEarlier = false;
     if (!m_project || m_keeping.isBusy() || !m_store.isLarge(m_project->file()))
         return;
     // Until the run ends there is time.
@@ -142,14 +168,14 @@ void LastRun::expect()
     m_readingEarlier.start(read, [this](const std::optional<Figures> &figures) {
         if (figures)
             m_earlier = *figures;
+        m_hasEarlier = true;
     });
 }
 
 void LastRun::setReport(const Synthesis::RunReport &report)
 {
-    if (m_readingEarlier.isBusy()) {
-        m_readingEarlier.finish();
-    } else if (m_project && m_store.has(m_project->file())) {
+    m_readingEarlier.finish();
+    if (!std::exchange(m_hasEarlier, false) && m_project && m_store.has(m_project->file())) {
         const Stored earlier = read(m_store, m_project->file());
         if (earlier.isThere)
             m_earlier = earlier.run.figures;

@@ -82,7 +82,8 @@ private:
     RunStore m_store;
     MapSource m_mapSource;
     using Figures = QMap<QString, QMap<QString, int>>;
-    Figures m_earlier; // as those of a KeptRun, from before m_report
+    Figures m_earlier;         // as those of a KeptRun, from before m_report
+    bool m_hasEarlier = false; // for the expected run
     ResultPage *m_page = nullptr;
     std::unique_ptr<Synthesis::RunReport> m_report; // since the start
     bool m_isKept = false;                          // from before the start
