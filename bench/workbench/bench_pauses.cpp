@@ -226,8 +226,9 @@ int main(int argc, char *argv[])
         isQuiet);
     const auto isFound = [page] {
         const auto *state = page()->findBar()->findChild<QLabel *>(QStringLiteral("findState"));
-        return state->text().contains(QLatin1String(" of ")) &&
-               !state->text().contains(QLatin1String("more"));
+        const QString told = state->text();
+        return !told.isEmpty() && !told.contains(QLatin1String("ore than")) &&
+               told != FindBar::tr("Searching…");
     };
     turns.measure(
         "netlist: search",
@@ -235,6 +236,7 @@ int main(int argc, char *argv[])
             auto *edit = page()->findBar()->findChild<QLineEdit *>(QStringLiteral("findEdit"));
             edit->setText(QStringLiteral("lut_1"));
             page()->findBar()->start();
+            page()->findBar()->findNext();
         },
         isFound);
     turns.measure("netlist: save and close", [&] {
