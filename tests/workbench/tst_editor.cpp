@@ -443,7 +443,7 @@ private Q_SLOTS:
         page->goToLine(lines);
         page->startEditing();
         QVERIFY(!page->isEditable());
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         QCOMPARE(page->editor()->toPlainText(), QString::fromLatin1(text));
         QCOMPARE(page->editor()->currentLine(), lines);
         QVERIFY(!page->isModified());
@@ -465,7 +465,7 @@ private Q_SLOTS:
             most = qMax(most, now - before);
             before = now;
         });
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         QVERIFY2(most <= EditorPage::pieceSize, qPrintable(QString::number(most)));
         QVERIFY(most > 0);
     }
@@ -475,14 +475,14 @@ private Q_SLOTS:
         QByteArray text = manyLines(2 * EditorPage::pieceLimit);
         write(m_path, text);
         EditorPage *page = open();
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         page->goToLine(2000);
         text.replace(text.size() / 2, 1, "#");
         text += "// the end\n";
         write(m_path, text);
         page->checkDisk();
         QTRY_COMPARE(page->editor()->toPlainText().size(), text.size());
-        QTRY_VERIFY(!page->isBusy());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isBusy(), 60000);
         QCOMPARE(page->editor()->toPlainText(), QString::fromLatin1(text));
         QCOMPARE(page->editor()->currentLine(), 2000);
         QVERIFY(!page->isModified());
@@ -498,7 +498,7 @@ private Q_SLOTS:
         const QByteArray text = manyLines(2 * EditorPage::pieceLimit);
         write(m_path, text);
         EditorPage *page = open();
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         page->startEditing();
         page->editor()->insertPlainText(QStringLiteral("mine"));
         write(m_path, text + "theirs\n");
@@ -509,7 +509,7 @@ private Q_SLOTS:
         page->checkDisk();
         QString error;
         QVERIFY2(page->save(&error), qPrintable(error));
-        QTRY_VERIFY(!page->isBusy());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isBusy(), 60000);
         QVERIFY(page->editor()->toPlainText().startsWith(QLatin1String("mine")));
     }
 
@@ -555,7 +555,7 @@ private Q_SLOTS:
         QVERIFY(page->isModified()); // not on the disk yet
         QVERIFY(m_tabs->tabText(0).endsWith(u'*'));
         type(page, "third ");
-        QTRY_VERIFY(!page->isSaving());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isSaving(), 60000);
         QCOMPARE(contentsOf(m_path), saved);
         QVERIFY(page->isModified());
         page->editor()->undo();
@@ -575,7 +575,7 @@ private Q_SLOTS:
         QVERIFY(untilItIsWritten(page));
         type(page, "second ");
         page->startSaving();
-        QTRY_VERIFY(!page->isSaving());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isSaving(), 60000);
         QCOMPARE(contentsOf(m_path), textOf(page));
         QVERIFY(contentsOf(m_path).startsWith("first second "));
         QVERIFY(!page->isModified());
@@ -636,7 +636,7 @@ private Q_SLOTS:
         page->startSaving();
         QVERIFY(QFile::remove(m_path));
         QVERIFY(QDir().mkdir(m_path));
-        QTRY_VERIFY(!page->isSaving());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isSaving(), 60000);
         QVERIFY2(page->infoBar()->text().contains(m_path), qPrintable(page->infoBar()->text()));
         QVERIFY(page->isModified());
         QVERIFY(m_tabs->tabText(0).endsWith(u'*'));
@@ -654,7 +654,7 @@ private Q_SLOTS:
         QVERIFY(QDir().rmdir(m_path));
         QVERIFY(button(page, "gain"));
         button(page, "gain")->click();
-        QTRY_VERIFY(!page->isSaving());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isSaving(), 60000);
         QCOMPARE(contentsOf(m_path), textOf(page));
         QVERIFY(!page->isModified());
         QVERIFY(page->infoBar()->isHidden());
@@ -681,19 +681,19 @@ private Q_SLOTS:
     {
         write(m_path, manyLines(2 * EditorPage::pieceLimit) + "\xE4\n");
         EditorPage *page = open();
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         const QByteArray before = contentsOf(m_path);
         page->startEditing();
         page->goToLine(2000);
         type(page, "\u20AC");
         page->startSaving();
-        QTRY_VERIFY(!page->isSaving());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isSaving(), 60000);
         QVERIFY(page->needsUtf8());
         QVERIFY2(page->infoBar()->text().contains(QLatin1String("line 2000")),
                  qPrintable(page->infoBar()->text()));
         QCOMPARE(contentsOf(m_path), before);
         button(page, "UTF-8")->click();
-        QTRY_VERIFY(!page->isSaving());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isSaving(), 60000);
         QVERIFY(!page->isModified());
         QVERIFY(contentsOf(m_path).endsWith("\xC3\xA4\n"));
     }
@@ -709,7 +709,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
         }
         type(page, "second ");
-        QTRY_VERIFY(!page->isBusy());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isBusy(), 60000);
         QVERIFY(page->isModified());
         QVERIFY(page->infoBar()->isHidden());
         QVERIFY(textOf(page).startsWith("first second "));
@@ -722,7 +722,7 @@ private Q_SLOTS:
         if (!killed.isEmpty()) {
             m_path = QFile::decodeName(killed);
             EditorPage *page = open();
-            QTRY_VERIFY(!page->isLoading());
+            QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
             page->startEditing();
             for (;;) {
                 type(page, "x");
@@ -760,7 +760,7 @@ private Q_SLOTS:
     {
         write(m_path, manyLines(2 * EditorPage::pieceLimit) + '\0');
         EditorPage *page = open();
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         QVERIFY2(page->infoBar()->text().contains(QLatin1String("not a text")),
                  qPrintable(page->infoBar()->text()));
         page->startEditing();
@@ -1097,7 +1097,7 @@ private Q_SLOTS:
             text += QByteArray(100, 'a') + '\n';
         write(m_path, text + "b\n");
         EditorPage *page = open();
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         CodeEditor *editor = page->editor();
         page->findBar()->start();
         type(page, "findEdit", "a");

@@ -684,7 +684,7 @@ private Q_SLOTS:
         write(file, text);
         window()->openPath(file);
         EditorPage *page = window()->tabs()->currentPage();
-        QTRY_VERIFY(!page->isLoading());
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
         page->startEditing();
         page->editor()->insertPlainText(QStringLiteral("// "));
         m_bench->action("Save")->trigger();

@@ -95,6 +95,8 @@ EditorPage::Content EditorPage::read(const QString &path, const QByteArray &know
         return content;
     content.format = TextFormat::of(bytes);
     content.text = content.format.decode(bytes);
+    if (content.isLarge)
+        content.lines = 1 + content.text.count(u'\n');
     return content;
 }
 
@@ -248,6 +250,7 @@ void EditorPage::show(const Content &content)
             m_editor->renewDocument();
             m_inserted = 0;
         }
+        m_editor->expectLines(content.lines);
         m_isLoading = true;
         tellOfSize();
         m_rest = content.text;
@@ -265,6 +268,7 @@ void EditorPage::show(const Content &content)
     m_isLoading = false;
     m_editor->setUndoRedoEnabled(true);
     m_editor->setPlainText(content.text);
+    m_editor->expectLines(0);
     finishLoading();
     if (wasShown)
         m_editor->verticalScrollBar()->setValue(scrolled);

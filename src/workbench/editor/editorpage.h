@@ -123,6 +123,7 @@ private:
         QString error;
         QString mistake;
         bool isLarge = false;
+        int lines = 0; // if it is large
         QByteArray digest;
         TextFormat format;
         QString text;
