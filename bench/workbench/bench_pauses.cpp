@@ -1,12 +1,14 @@
-// Tells the longest pause of the event loop while the workbench opens, shows and closes much: a
-// netlist of many bytes, a project with many IPs, a run with many messages, the results of such a
-// run. bench_pauses [MEGABYTES] [IPS] [MESSAGES]. A pause is told as time and as what of it this
-// thread had the processor, which other programs do not change much.
+// Tells the longest pause of the event loop while the workbench opens, shows, saves and closes
+// much: a netlist of many bytes, a project with many IPs, a run with many messages, the results of
+// such runs. bench_pauses [MEGABYTES] [IPS] [MESSAGES] [LIMIT]. A pause is told as time and as what
+// of it this thread had the processor, which other programs do not change much; fails if one has
+// more than LIMIT milliseconds of the processor.
 
 #include <workbench/catalogue/ipcatalogue.h>
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/editor/editortabs.h>
+#include <workbench/editor/findbar.h>
 #include <workbench/messages/messagemodel.h>
 #include <workbench/messages/messagesview.h>
 #include <workbench/project/project.h>
@@ -19,6 +21,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -44,7 +48,8 @@ double processorTime()
 class Turns
 {
 public:
-    Turns()
+    explicit Turns(double limit)
+        : m_limit(limit)
     {
         m_timer.setInterval(0);
         QObject::connect(&m_timer, &QTimer::timeout, [this] { turn(); });
@@ -65,10 +70,14 @@ public:
         while (isDone && !isDone())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         settle(200);
-        std::printf("%-48s longest pause %7.1f ms (processor %7.1f ms), done after %7.0f ms\n",
-                    name, m_longest, m_longestOwn, double(whole.elapsed()) - 200);
+        const bool isLong = m_limit > 0 && m_longestOwn > m_limit;
+        std::printf("%-48s longest pause %7.1f ms (processor %7.1f ms), done after %7.0f ms%s\n",
+                    name, m_longest, m_longestOwn, double(whole.elapsed()) - 200,
+                    isLong ? ": above the limit" : "");
         std::fflush(stdout);
+        m_isGood = m_isGood && !isLong;
     }
+    bool isGood() const { return m_isGood; }
 
 private:
     void turn(bool first = false)
@@ -92,6 +101,8 @@ private:
 
     QTimer m_timer;
     QElapsedTimer m_clock;
+    double m_limit;
+    bool m_isGood = true;
     double m_own = 0;
     double m_longest = 0;
     double m_longestOwn = 0;
@@ -130,7 +141,8 @@ int main(int argc, char *argv[])
 {
     const int megabytes = argc > 1 ? std::atoi(argv[1]) : 60;
     const int ips = argc > 2 ? std::atoi(argv[2]) : 1000;
-    const int messages = argc > 3 ? std::atoi(argv[3]) : 100000;
+    const int messages = argc > 3 ? std::atoi(argv[3]) : 10000;
+    const double limit = argc > 4 ? std::atof(argv[4]) : 0;
     ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication application(argc, argv);
     const QTemporaryDir folder;
@@ -174,7 +186,7 @@ int main(int argc, char *argv[])
     window.setRunStore(RunStore(folder.filePath(QStringLiteral("runs"))));
     window.resize(1280, 800);
     window.show();
-    Turns turns;
+    Turns turns(limit);
 
     auto *tabs = window.findChild<EditorTabs *>();
     const auto page = [tabs] { return tabs->currentPage(); };
@@ -196,6 +208,43 @@ int main(int argc, char *argv[])
             page()->checkDisk();
         },
         isQuiet);
+    turns.measure("netlist: a change", [&] {
+        page()->startEditing();
+        page()->editor()->insertPlainText(QStringLiteral("// mine\n"));
+    });
+    turns.measure(
+        "netlist: save", [&] { page()->startSaving(); }, isQuiet);
+    turns.measure(
+        "netlist: save, and type meanwhile",
+        [&] {
+            page()->editor()->insertPlainText(QStringLiteral("// more\n"));
+            page()->startSaving();
+            QTimer::singleShot(20, page(), [&] {
+                page()->editor()->insertPlainText(QStringLiteral("// again\n"));
+            });
+        },
+        isQuiet);
+    const auto isFound = [page] {
+        const auto *state = page()->findBar()->findChild<QLabel *>(QStringLiteral("findState"));
+        const QString told = state->text();
+        return !told.isEmpty() && !told.contains(QLatin1String("ore than")) &&
+               told != FindBar::tr("Searching…");
+    };
+    turns.measure(
+        "netlist: search",
+        [&] {
+            auto *edit = page()->findBar()->findChild<QLineEdit *>(QStringLiteral("findEdit"));
+            edit->setText(QStringLiteral("lut_1"));
+            page()->findBar()->start();
+            page()->findBar()->findNext();
+        },
+        isFound);
+    turns.measure("netlist: save and close", [&] {
+        page()->startSaving();
+        tabs->closeTab(tabs->currentIndex());
+    });
+    turns.measure(
+        "netlist: open again", [&] { window.openPath(netlistFile); }, isQuiet);
     turns.measure("netlist: close", [&] { tabs->closeTab(tabs->currentIndex()); });
 
     auto *model = window.findChild<MessageModel *>();
@@ -220,9 +269,21 @@ int main(int argc, char *argv[])
 
     RunStore store(folder.filePath(QStringLiteral("runs")));
     report.messages = report.messages.mid(0, 1000);
-    store.keep(projectFile, KeptRun::of(report, {}), &error);
+    KeptRun kept = KeptRun::of(report, {});
+    for (int i = 0; i < ips; ++i) {
+        auto &figures = kept.figures[projectFolder + QStringLiteral("/ip%1/a").arg(i)];
+        for (const char *resource : {"LUT", "FF", "CARRY", "BRAM", "DSP", "IO", "PLL", "CLK"})
+            figures.insert(QString::fromLatin1(resource), i);
+    }
+    if (!store.keep(projectFile, kept, &error))
+        qFatal("%s", qPrintable(error));
     window.setRunStore(store);
-    turns.measure("results: of a run before, with that netlist", [&] { showResults(window); });
+    const auto areShown = [&window] {
+        const auto *heading = window.findChild<QLabel *>(QStringLiteral("resultHeading"));
+        return heading && !heading->text().isEmpty();
+    };
+    turns.measure(
+        "results: of the runs before, with that netlist", [&] { showResults(window); }, areShown);
     turns.measure("project with many IPs: close", [&] { window.closeProject(); });
-    return 0;
+    return turns.isGood() ? 0 : 1;
 }

@@ -46,6 +46,7 @@ Times measure(int sources)
     lap();
     ProjectModel model;
     model.setProject(project.get());
+    model.finishReading();
     if (model.rowCount(model.groupIndex(ProjectModel::Sources)) != sources)
         qFatal("sources are missing");
     lap();

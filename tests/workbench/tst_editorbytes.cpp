@@ -575,7 +575,7 @@ private:
 
     QImage pictureOf(const QByteArray &bytes)
     {
-        const EditorPage *page = edit(bytes);
+        EditorPage *page = edit(bytes);
         page->editor()->setCursorWidth(0);
         return page->editor()->viewport()->grab().toImage();
     }

@@ -550,8 +550,7 @@ private:
                               QStringLiteral("tarvo_orix_m1_tmp.v"), QStringLiteral("Results")}));
         QCOMPARE(window()->project()->files(),
                  QStringList(ip + QStringLiteral("/tarvo_orix_m1.v")));
-        const EditorPage *netlist =
-            window()->tabs()->pageOf(ip + QStringLiteral("/tarvo_orix_m1.v"));
+        EditorPage *netlist = window()->tabs()->pageOf(ip + QStringLiteral("/tarvo_orix_m1.v"));
         QVERIFY(netlist);
         QCOMPARE(netlist->editor()->toPlainText().toUtf8(),
                  contentsOf(ip + QStringLiteral("/tarvo_orix_m1.v")));

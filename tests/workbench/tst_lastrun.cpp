@@ -8,9 +8,12 @@
 
 #include <dev/devicedb.h>
 
+#include <QDir>
+#include <QLabel>
 #include <QLocale>
 #include <QTableView>
 #include <QTemporaryDir>
+#include <QThreadPool>
 #include <QtTest>
 
 using namespace Workbench;
@@ -114,6 +117,67 @@ private Q_SLOTS:
                  (QStringList{QChar(0x2212) + QStringLiteral("1"), QStringLiteral("=")}));
     }
 
+    // A large report is read elsewhere.
+    void comesBackLaterIfThereIsMuch()
+    {
+        const Synthesis::RunReport much = longReport("lamp", 5);
+        m_run->setReport(much);
+        QVERIFY(m_run->setDelivered(m_delivered));
+        m_run = make();
+        m_run->setProject(m_project.get());
+        QString error;
+        QVERIFY2(m_run->prepare(&error), qPrintable(error));
+        QCOMPARE(m_run->page()->files(), QStringList());
+        QTRY_COMPARE(m_run->page()->files(), m_delivered);
+        QCOMPARE(m_messages.rowCount(), much.messages.size() + 1);
+        // Who needs it now waits for it.
+        m_run = make();
+        m_run->setProject(m_project.get());
+        QVERIFY2(m_run->complete(&error), qPrintable(error));
+        QCOMPARE(m_run->page()->report().messages.size(), much.messages.size());
+        // And so does the end of the next run, which is compared with it.
+        m_run->expect();
+        m_run->setReport(longReport("lamp", 8));
+        QCOMPARE(changes(*m_run).first(), QStringLiteral("+3"));
+        QVERIFY(m_run->setDelivered(m_delivered));
+        // Which reads nothing if that has been read meanwhile.
+        m_run->expect();
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+        QVERIFY(QDir(m_dir->filePath(QStringLiteral("runs"))).removeRecursively());
+        m_run->setReport(longReport("lamp", 10));
+        QCOMPARE(changes(*m_run).first(), QStringLiteral("+2"));
+        QVERIFY(m_run->setDelivered(m_delivered));
+        // Another project does not get it.
+        m_run = make();
+        m_run->setProject(m_project.get());
+        QVERIFY(m_run->prepare(&error));
+        m_run->setProject(nullptr);
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+        QVERIFY(!m_run->isShown());
+    }
+
+    void saysWhyMuchDoesNotComeBack()
+    {
+        m_run->setReport(longReport("lamp", 5));
+        QVERIFY(m_run->setDelivered(m_delivered));
+        const QString folder = m_dir->filePath(QStringLiteral("runs"));
+        const QStringList kept = QDir(folder).entryList(QDir::Files);
+        QCOMPARE(kept.size(), 1);
+        write(folder + u'/' + kept.first(), QByteArray(1 << 20, 'x'));
+        m_run = make();
+        m_run->setProject(m_project.get());
+        QString error;
+        QVERIFY(m_run->prepare(&error));
+        const auto told = [this] {
+            return m_run->page()->findChild<QLabel *>(QStringLiteral("resultSummary"))->text();
+        };
+        QTRY_VERIFY2(told().contains(kept.first()), qPrintable(told()));
+        QVERIFY(!m_run->complete(&error));
+        QVERIFY2(error.contains(kept.first()), qPrintable(error));
+    }
+
     void isForgottenWithItsProject()
     {
         m_run->setReport(report());
@@ -146,6 +210,18 @@ private:
         report.summary = QStringLiteral("All is made.");
         report.exitCode = 0;
         return report;
+    }
+
+    static Synthesis::RunReport longReport(const char *ip, int luts)
+    {
+        Synthesis::RunReport result = report(ip, luts);
+        for (int i = 0; i < 3000; ++i) {
+            Synthesis::Message message;
+            message.severity = Synthesis::Message::Warning;
+            message.text = QStringLiteral("Wire n%1 is used but has no driver.").arg(i);
+            result.messages.append(message);
+        }
+        return result;
     }
 
     LastRun *make()

@@ -412,7 +412,7 @@ private Q_SLOTS:
         QVERIFY(window()->log()->toPlainText().contains(QLatin1String("first mistake")));
         QVERIFY(!window()->findChild<QDockWidget *>(QStringLiteral("outputDock"))->isHidden());
         m_bench->action("Next Message")->trigger();
-        const EditorPage *page = window()->tabs()->currentPage();
+        EditorPage *page = window()->tabs()->currentPage();
         QVERIFY(page);
         QCOMPARE(page->editor()->currentLine(), 7);
         QCOMPARE(window()->tabs()->tabText(0), QStringLiteral("a.v"));
@@ -674,6 +674,23 @@ private Q_SLOTS:
         QCOMPARE(during, QByteArray("// module a;\n"));
         QVERIFY(!QFileInfo::exists(file + QStringLiteral(".unsaved")));
         QVERIFY(page->isModified());
+    }
+
+    void theWindowClosesWhenALargeFileIsSaved()
+    {
+        m_bench = std::make_unique<Bench>();
+        const QString file = m_bench->folder() + QStringLiteral("/a.v");
+        const QByteArray text = QByteArray("wire a;\n").repeated(EditorPage::pieceLimit / 4);
+        write(file, text);
+        window()->openPath(file);
+        EditorPage *page = window()->tabs()->currentPage();
+        QTRY_VERIFY_WITH_TIMEOUT(!page->isLoading(), 60000);
+        page->startEditing();
+        page->editor()->insertPlainText(QStringLiteral("// "));
+        m_bench->action("Save")->trigger();
+        QVERIFY(page->isSaving());
+        QVERIFY(window()->close());
+        QCOMPARE(contentsOf(file), "// " + text);
     }
 
     void anIpMovesToAnotherDevice()

@@ -428,6 +428,49 @@ private Q_SLOTS:
         QTRY_VERIFY(model.indexOf(deep).data(ProjectModel::OtherDeviceRole).toBool());
     }
 
+    // The first ones are there at once.
+    void modelLooksAtManyFilesElsewhere()
+    {
+        const auto project = make();
+        QStringList sources;
+        for (int i = 0; i < 600; ++i) {
+            sources.append(m_folder + QStringLiteral("/a%1.v").arg(i));
+            if (i % 2)
+                write(sources.last(), "\n");
+        }
+        for (int i = 0; i < 300; ++i)
+            write(m_folder + QStringLiteral("/ip%1/core.ipc").arg(i), "[General]\n");
+        project->addFiles(sources);
+        ProjectModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.setProject(project.get());
+        const QModelIndex ips = model.groupIndex(ProjectModel::Ips);
+        const QPersistentModelIndex group = model.groupIndex(ProjectModel::Sources);
+        QVERIFY(model.rowCount(group) > 0 && model.rowCount(group) < sources.size());
+        QVERIFY(model.rowCount(ips) > 0 && model.rowCount(ips) < 300);
+        const QPersistentModelIndex first = model.index(0, 0, group);
+        QTRY_COMPARE(model.rowCount(group), sources.size());
+        QCOMPARE(model.rowCount(ips), 300);
+        QVERIFY(first.isValid()); // what is selected stays so
+        for (int i = 0; i < sources.size(); ++i) {
+            const QModelIndex index = model.index(i, 0, group);
+            QCOMPARE(index.data(ProjectModel::PathRole).toString(), sources.at(i));
+            QCOMPARE(index.data(ProjectModel::MissingRole).toBool(), i % 2 == 0);
+        }
+        const QString added = m_folder + QStringLiteral("/b.v");
+        project->addFiles({added});
+        model.finishReading();
+        QCOMPARE(model.indexOf(added).row(), sources.size());
+        QVERIFY(first.isValid());
+        project->removeFiles(sources);
+        model.finishReading();
+        QCOMPARE(model.rowCount(group), 1);
+        model.refresh();
+        model.setProject(nullptr); // nor does anything come for it
+        model.finishReading();
+        QCOMPARE(model.rowCount(), 0);
+    }
+
     void modelShowsIpsAndSources()
     {
         const auto project = make();

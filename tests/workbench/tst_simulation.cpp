@@ -717,7 +717,7 @@ private Q_SLOTS:
         list->setCurrentIndex(page->messages()->index(0, 0));
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Return);
-        const EditorPage *editor = m_bench->window->tabs()->currentPage();
+        EditorPage *editor = m_bench->window->tabs()->currentPage();
         QVERIFY(editor);
         QCOMPARE(QFileInfo(editor->path()).canonicalFilePath(), m_program);
         QCOMPARE(editor->editor()->currentLine(), 2);

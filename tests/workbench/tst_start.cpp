@@ -192,7 +192,7 @@ private Q_SLOTS:
         // Looking at the disk or saving everything reads nothing; what is written is the file.
         for (EditorPage *page : tabs->pages())
             page->checkDisk();
-        QVERIFY(tabs->saveAll());
+        tabs->saveAll();
         QCOMPARE(readTabs(tabs), QList<int>{2});
         QString error;
         QVERIFY(tabs->pages().at(4)->save(&error));

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <limits>
 
 namespace Workbench
 {
@@ -20,6 +21,7 @@ namespace
 
 constexpr int quietTime = 150; // in milliseconds
 constexpr int watchLimit = 500;
+constexpr int listedAtOnce = 100; // IPs; each has a folder
 constexpr int neighbourLimit = 2000;
 
 QByteArray stampOf(const QStringList &paths)
@@ -83,6 +85,7 @@ void GenerationWatch::setProject(const Project *project)
         m_project->disconnect(this);
     m_project = project;
     m_known.clear();
+    m_listing.drop();
     m_queue.clear();
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     if (!watched.isEmpty())
@@ -95,9 +98,22 @@ void GenerationWatch::setProject(const Project *project)
 
 void GenerationWatch::refresh()
 {
-    m_queue = m_project ? m_project->ipFiles() : QStringList();
-    if (!m_queue.isEmpty())
-        m_next.start();
+    const auto look = [this](const QStringList &ipFiles) {
+        m_queue = ipFiles;
+        if (!m_queue.isEmpty())
+            m_next.start();
+    };
+    const QStringList first = m_project ? m_project->someIpFiles(listedAtOnce) : QStringList();
+    m_listing.drop();
+    if (first.size() < listedAtOnce) {
+        look(first);
+        return;
+    }
+    m_listing.start(
+        [folder = m_project->path(), sources = m_project->files()] {
+            return Project::ipFilesOf(folder, sources, std::numeric_limits<int>::max());
+        },
+        look);
 }
 
 void GenerationWatch::lookAtNext()

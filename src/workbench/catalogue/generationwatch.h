@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/ipstate.h"
+#include "widgets/background.h"
 
 #include <QFileSystemWatcher>
 #include <QHash>
@@ -52,6 +53,7 @@ private:
     QPointer<const Project> m_project;
     QHash<QString, Known> m_known; // by the configuration's path
     QStringList m_queue;
+    Background m_listing;
     QTimer m_quiet; // a run changes many files
     QTimer m_next;
     QFileSystemWatcher m_watcher;

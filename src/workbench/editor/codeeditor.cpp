@@ -116,11 +116,17 @@ void CodeEditor::renewDocument()
     QThreadPool::globalInstance()->start([old] { delete old; });
 }
 
+void CodeEditor::expectLines(int lines)
+{
+    m_expectedLines = lines;
+    layoutLineNumbers();
+}
+
 int CodeEditor::lineNumberWidth() const
 {
     if (!m_hasLineNumbers)
         return 0;
-    const int digits = qMax(3, QString::number(blockCount()).size());
+    const int digits = qMax(3, QString::number(qMax(blockCount(), m_expectedLines)).size());
     return fontMetrics().horizontalAdvance(u'9') * (digits + 2);
 }
 

@@ -36,6 +36,9 @@ public:
 
     // Begins with an empty text. What a large one took is given back in another thread.
     void renewDocument();
+    // Leaves room for so many line numbers: more room moves, and lays out, all lines that are
+    // there.
+    void expectLines(int lines);
 
     // The text as TextFormat::encode() takes it. toPlainText() changes some characters.
     QString shownText() const { return document()->toRawText(); }
@@ -85,6 +88,7 @@ private:
     int m_zoom = 0;
     int m_tabWidth = 8;
     bool m_hasLineNumbers = true;
+    int m_expectedLines = 0;
     MarkedPlaces m_markedPlaces;
 };
 

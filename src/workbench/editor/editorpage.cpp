@@ -3,6 +3,7 @@
 #include "codeeditor.h"
 #include "findbar.h"
 #include "highlighting.h"
+#include "textcopy.h"
 #include "unsavedcopy.h"
 #include "widgets/focusforward.h"
 #include "widgets/infobar.h"
@@ -11,18 +12,28 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
+#include <QThreadPool>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace Workbench
 {
+
+namespace
+{
+
+constexpr int oneSlice = 8; // milliseconds, of what takes many of them
+
+} // namespace
 
 EditorPage::EditorPage(const QString &path, QWidget *parent)
     : QWidget(parent)
@@ -41,7 +52,9 @@ EditorPage::EditorPage(const QString &path, QWidget *parent)
     connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &EditorPage::cursorMoved);
     connect(m_editor->verticalScrollBar(), &QScrollBar::valueChanged, this, &EditorPage::scrolled);
     m_pieceTimer.setInterval(0);
-    connect(&m_pieceTimer, &QTimer::timeout, this, &EditorPage::insertPiece);
+    connect(&m_pieceTimer, &QTimer::timeout, this, &EditorPage::insertPieces);
+    m_saveTimer.setInterval(0);
+    connect(&m_saveTimer, &QTimer::timeout, this, &EditorPage::goOnSaving);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -57,6 +70,8 @@ EditorPage::~EditorPage()
     // Nobody is to hear of it: those who listen may be half gone.
     const QSignalBlocker silent(this);
     const QSignalBlocker silentEditor(m_editor);
+    m_mayHaveChanged = false;
+    finishSaving();
     m_editor->renewDocument();
 }
 
@@ -80,6 +95,8 @@ EditorPage::Content EditorPage::read(const QString &path, const QByteArray &know
         return content;
     content.format = TextFormat::of(bytes);
     content.text = content.format.decode(bytes);
+    if (content.isLarge)
+        content.lines = 1 + content.text.count(u'\n');
     return content;
 }
 
@@ -121,11 +138,10 @@ void EditorPage::readNow()
         m_infoBar->showMessage(error, {});
 }
 
-CodeEditor *EditorPage::editor() const
+CodeEditor *EditorPage::editor()
 {
-    // Nobody can tell that it was not there before.
     if (!m_isTried)
-        const_cast<EditorPage *>(this)->readNow();
+        readNow();
     return m_editor;
 }
 
@@ -145,6 +161,7 @@ bool EditorPage::load(QString *error)
 
 bool EditorPage::tryToLoad(QString *error)
 {
+    finishSaving();
     m_findBar->finishReplacing();
     if (!canLoad(error))
         return false;
@@ -171,7 +188,7 @@ bool EditorPage::begin(QString *error)
     QByteArray head;
     if (!file.open(QIODevice::ReadOnly))
         return Utils::FileUtils::readFile(m_path, &head, error);
-    head = file.read(pieceSize);
+    head = file.read(headSize);
     const QString mistake = TextFormat::mistakeOf(head);
     if (!mistake.isEmpty()) {
         *error = refusal(mistake);
@@ -229,15 +246,18 @@ void EditorPage::show(const Content &content)
         const bool begun = !wasShown && content.text.startsWith(m_editor->shownText().replace(
                                             QChar(QChar::ParagraphSeparator), QChar(u'\n')));
         if (!begun) {
+            m_findBar->forget();
             m_editor->renewDocument();
             m_inserted = 0;
         }
+        m_editor->expectLines(content.lines);
         m_isLoading = true;
         tellOfSize();
         m_rest = content.text;
         m_editor->setUndoRedoEnabled(false);
-        insertPiece();
-        m_pieceTimer.start();
+        insertPieces();
+        if (m_isLoading)
+            m_pieceTimer.start();
         Q_EMIT stateChanged();
         return;
     }
@@ -248,32 +268,37 @@ void EditorPage::show(const Content &content)
     m_isLoading = false;
     m_editor->setUndoRedoEnabled(true);
     m_editor->setPlainText(content.text);
+    m_editor->expectLines(0);
     finishLoading();
     if (wasShown)
         m_editor->verticalScrollBar()->setValue(scrolled);
     Q_EMIT stateChanged();
 }
 
-void EditorPage::insertPiece()
+void EditorPage::insertPieces()
 {
-    // Whole lines: a piece never parts a line end from its line.
-    int end = qMin(m_rest.size(), m_inserted + pieceSize);
-    if (end < m_rest.size()) {
-        const int lineEnd = m_rest.lastIndexOf(u'\n', end - 1);
-        if (lineEnd > m_inserted)
-            end = lineEnd + 1;
-    }
+    QElapsedTimer clock;
+    clock.start();
     QTextCursor cursor(m_editor->document());
     cursor.movePosition(QTextCursor::End);
     const bool first = m_inserted == 0;
-    cursor.insertText(m_rest.mid(m_inserted, end - m_inserted));
-    m_inserted = end;
+    do {
+        // Whole lines: a piece never parts a line end from its line.
+        int end = qMin(m_rest.size(), m_inserted + pieceSize);
+        if (end < m_rest.size()) {
+            const int lineEnd = m_rest.lastIndexOf(u'\n', end - 1);
+            if (lineEnd > m_inserted)
+                end = lineEnd + 1;
+        }
+        cursor.insertText(m_rest.mid(m_inserted, end - m_inserted));
+        m_inserted = end;
+    } while (m_inserted < m_rest.size() && clock.elapsed() < oneSlice);
     if (first)
         m_editor->moveCursor(QTextCursor::Start);
     if (m_inserted < m_rest.size())
         return;
     m_pieceTimer.stop();
-    m_rest.clear();
+    QThreadPool::globalInstance()->start([rest = std::exchange(m_rest, {})] {}); // it takes a while
     m_isLoading = false;
     m_infoBar->hide();
     m_editor->setUndoRedoEnabled(true);
@@ -349,7 +374,7 @@ void EditorPage::goToLine(int line)
 
 bool EditorPage::isModified() const
 {
-    return !isLoading() && (m_deleted || m_editor->document()->isModified());
+    return !isLoading() && (m_deleted || isSaving() || m_editor->document()->isModified());
 }
 
 bool EditorPage::isEditable() const
@@ -386,31 +411,120 @@ void EditorPage::offerEditing()
 
 bool EditorPage::save(QString *error)
 {
+    startSaving();
+    finishSaving();
+    if (!m_saveError.isEmpty())
+        *error = m_saveError;
+    return m_saveError.isEmpty();
+}
+
+void EditorPage::startSaving()
+{
+    if (isSaving()) {
+        m_wantsSave = m_writing.isBusy(); // the copy still gets what is there
+        return;
+    }
+    m_saveError.clear();
     readNow();
     // There is no text that could be written.
-    if (m_isUnread)
-        return load(error);
-    m_findBar->finishReplacing();
-    const QString text = m_editor->shownText();
-    const int missing = m_format.firstMissing(text);
-    m_needsUtf8 = missing >= 0;
-    if (m_needsUtf8) {
-        const int line = m_editor->document()->findBlock(missing).blockNumber() + 1;
-        *error =
-            tr("\"%1\" is not saved: its text is Latin-1, which has no \"%2\" (line %3).")
-                .arg(QDir::toNativeSeparators(m_path), text.mid(missing, 1), QString::number(line));
-        return false;
+    if (m_isUnread || isLoading()) {
+        if (m_isUnread)
+            load(&m_saveError);
+        Q_EMIT saveEnded(m_saveError);
+        return;
     }
-    const QByteArray bytes = m_format.encode(text);
-    if (!Utils::FileUtils::writeFile(m_path, bytes, error))
-        return false;
-    m_background.drop(); // what stood there before
-    m_digest = digestOf(bytes);
-    m_deleted = false;
-    m_infoBar->hide();
+    m_background.drop(); // what stands there is no news afterwards
+    m_copy = std::make_unique<TextCopy>(m_editor->document());
+    if (m_editor->document()->characterCount() <= pieceLimit)
+        finishSaving();
+    else
+        m_saveTimer.start();
+}
+
+void EditorPage::goOnSaving()
+{
+    // All of a replacement or nothing of it.
+    if (!m_findBar->isReplacing() && m_copy->advance(oneSlice))
+        beginWriting();
+}
+
+void EditorPage::finishSaving()
+{
+    if (m_copy) {
+        m_findBar->finishReplacing();
+        m_copy->advance(-1);
+        beginWriting();
+    }
+    m_writing.finish();
+    // Another one that has waited for it.
+    if (isSaving())
+        finishSaving();
+}
+
+EditorPage::Written EditorPage::write(const QString &path, const TextFormat &format,
+                                      const QString &text)
+{
+    Written written;
+    const int missing = format.firstMissing(text);
+    if (missing >= 0) {
+        written.missing = text.mid(missing, 1);
+        written.line = 1 + int(std::count_if(text.begin(), text.begin() + missing, [](QChar c) {
+                           return c == QChar::ParagraphSeparator;
+                       }));
+        return written;
+    }
+    const QByteArray bytes = format.encode(text);
+    if (Utils::FileUtils::writeFile(path, bytes, &written.error))
+        written.digest = digestOf(bytes);
+    return written;
+}
+
+void EditorPage::beginWriting()
+{
+    m_saveTimer.stop();
+    QString text = m_copy->take();
+    m_copy.reset();
+    if (text.size() < pieceLimit) {
+        const Written written = write(m_path, m_format, text);
+        if (!written.digest.isEmpty())
+            m_editor->document()->setModified(false);
+        endSaving(written);
+        return;
+    }
+    // Nobody else holds the text, so that the other thread gives it back.
+    m_writing.start([path = m_path, format = m_format,
+                     text = std::move(text)] { return write(path, format, text); },
+                    [this](const Written &written) {
+                        if (written.digest.isEmpty())
+                            m_editor->document()->setModified(true);
+                        endSaving(written);
+                    });
+    // Whoever takes back what comes now is at what is being written.
     m_editor->document()->setModified(false);
     Q_EMIT stateChanged();
-    return true;
+}
+
+void EditorPage::endSaving(const Written &written)
+{
+    m_needsUtf8 = !written.missing.isEmpty();
+    m_saveError = written.error;
+    if (m_needsUtf8)
+        m_saveError = tr("\"%1\" is not saved: its text is Latin-1, which has no \"%2\" (line %3).")
+                          .arg(QDir::toNativeSeparators(m_path), written.missing,
+                               QString::number(written.line));
+    if (m_saveError.isEmpty()) {
+        m_digest = written.digest;
+        m_deleted = false;
+        m_infoBar->hide();
+    }
+    Q_EMIT stateChanged();
+    if (std::exchange(m_wantsSave, false) && isModified()) {
+        startSaving();
+        return;
+    }
+    Q_EMIT saveEnded(m_saveError);
+    if (std::exchange(m_mayHaveChanged, false))
+        checkDisk();
 }
 
 void EditorPage::convertToUtf8()
@@ -421,7 +535,7 @@ void EditorPage::convertToUtf8()
     Q_EMIT stateChanged();
 }
 
-QString EditorPage::keepChanges(QString *error) const
+QString EditorPage::keepChanges(QString *error)
 {
     m_findBar->finishReplacing();
     const QString text = m_editor->shownText();
@@ -461,6 +575,10 @@ void EditorPage::checkDisk()
     if (m_isUnread) {
         if (isVisible())
             readNow();
+        return;
+    }
+    if (isSaving()) {
+        m_mayHaveChanged = true;
         return;
     }
     if (!QFileInfo::exists(m_path)) {

@@ -7,15 +7,21 @@
 #include "widgets/symbolicon.h"
 
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
 #include <QTabBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace Workbench
@@ -33,6 +39,29 @@ QString plainPath(const QString &path)
     const QString canonical = info.canonicalFilePath();
     return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
 }
+
+// Ends with what it tells of, not before.
+class SavingDialog : public QDialog
+{
+public:
+    SavingDialog(const QString &text, QWidget *parent)
+        : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+    {
+        setObjectName(QStringLiteral("savingDialog"));
+        auto *label = new QLabel(text);
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        auto *bar = new QProgressBar;
+        bar->setRange(0, 0);
+        bar->setAccessibleName(text);
+        auto *layout = new QVBoxLayout(this);
+        layout->addWidget(label);
+        layout->addWidget(bar);
+    }
+
+protected:
+    void reject() override {}
+};
 
 } // namespace
 
@@ -104,6 +133,8 @@ void EditorTabs::add(EditorPage *page)
         Q_EMIT findChoicesChanged(m_findChoices);
     });
     connect(page, &EditorPage::stateChanged, this, [this, page] { showState(page); });
+    connect(page, &EditorPage::saveEnded, this,
+            [this, page](const QString &error) { tellSaved(page, error); });
     connect(page, &EditorPage::editingStarted, this, [this, page] { Q_EMIT editingStarted(page); });
     connect(page, &EditorPage::openRequested, this, [this, page](const QString &file) {
         QString reason;
@@ -183,31 +214,61 @@ QString EditorTabs::pathOf(int index) const
 
 bool EditorTabs::savePage(EditorPage *page)
 {
-    QString error;
-    const bool saved = page->save(&error);
-    if (!saved && page->needsUtf8()) {
-        page->infoBar()->showMessage(error, {{tr("Save the Whole File as &UTF-8"), [this, page] {
-                                                  page->convertToUtf8();
-                                                  savePage(page);
-                                              }}});
-    } else if (!saved) {
-        page->infoBar()->showMessage(error, {{tr("Try A&gain"), [this, page] { savePage(page); }}});
-    }
-    watch();
-    return saved;
+    page->startSaving();
+    finishSaves({page});
+    return page->saveError().isEmpty();
 }
 
-bool EditorTabs::saveAll()
+void EditorTabs::tellSaved(EditorPage *page, const QString &error)
 {
-    bool saved = true;
+    if (!error.isEmpty() && page->needsUtf8()) {
+        page->infoBar()->showMessage(error, {{tr("Save the Whole File as &UTF-8"), [this, page] {
+                                                  page->convertToUtf8();
+                                                  page->startSaving();
+                                              }}});
+    } else if (!error.isEmpty()) {
+        page->infoBar()->showMessage(error, {{tr("Try A&gain"), [page] { page->startSaving(); }}});
+    }
+    if (!error.isEmpty() && page != currentPage())
+        Q_EMIT saveFailed(error);
+    watch();
+}
+
+void EditorTabs::saveAll()
+{
     const QList<EditorPage *> all = pages();
     for (EditorPage *page : all) {
-        if (page->isModified() && !savePage(page)) {
-            setCurrentWidget(page);
-            saved = false;
-        }
+        if (page->isModified())
+            page->startSaving();
     }
-    return saved;
+}
+
+void EditorTabs::finishSaves()
+{
+    finishSaves(pages());
+}
+
+void EditorTabs::finishSaves(const QList<EditorPage *> &pages)
+{
+    QStringList names;
+    for (const EditorPage *page : pages) {
+        if (page->isSaving())
+            names.append(QFileInfo(page->path()).fileName());
+    }
+    if (names.isEmpty())
+        return;
+    SavingDialog dialog(tr("Saving %1…").arg(names.join(QLatin1String(", "))), window());
+    const auto look = [&dialog, &pages] {
+        if (std::none_of(pages.begin(), pages.end(),
+                         [](const EditorPage *page) { return page->isSaving(); }))
+            dialog.accept();
+    };
+    for (const EditorPage *page : pages)
+        connect(page, &EditorPage::saveEnded, &dialog, look);
+    dialog.exec();
+    // If the program ends, the dialog does, too.
+    for (EditorPage *page : pages)
+        page->finishSaving();
 }
 
 bool EditorTabs::settle(const QList<EditorPage *> &changed)
@@ -231,9 +292,12 @@ bool EditorTabs::settle(const QList<EditorPage *> &changed)
         return true;
     if (answer != QMessageBox::Save)
         return false;
+    for (EditorPage *page : changed)
+        page->startSaving();
+    finishSaves(changed);
     bool saved = true;
     for (EditorPage *page : changed) {
-        if (!savePage(page)) {
+        if (!page->saveError().isEmpty()) {
             setCurrentWidget(page);
             saved = false;
         }
@@ -243,15 +307,7 @@ bool EditorTabs::settle(const QList<EditorPage *> &changed)
 
 bool EditorTabs::closeTab(int index)
 {
-    QWidget *closing = widget(index);
-    auto *page = qobject_cast<EditorPage *>(closing);
-    if (page && page->isModified() && !settle({page}))
-        return false;
-    removeTab(indexOf(closing));
-    // Other pages belong to those who showed them.
-    if (page)
-        page->deleteLater();
-    return true;
+    return closePages({widget(index)});
 }
 
 bool EditorTabs::closeAll()
@@ -274,17 +330,21 @@ bool EditorTabs::closeOthers(int index)
 
 bool EditorTabs::closePages(const QList<QWidget *> &closing)
 {
-    QList<EditorPage *> changed;
+    QList<EditorPage *> files;
     for (QWidget *widget : closing) {
-        auto *page = qobject_cast<EditorPage *>(widget);
-        if (page && page->isModified())
-            changed.append(page);
+        if (auto *page = qobject_cast<EditorPage *>(widget))
+            files.append(page);
     }
+    finishSaves(files);
+    QList<EditorPage *> changed;
+    std::copy_if(files.begin(), files.end(), std::back_inserter(changed),
+                 [](const EditorPage *page) { return page->isModified(); });
     if (!settle(changed))
         return false;
     for (QWidget *widget : closing) {
         auto *page = qobject_cast<EditorPage *>(widget);
         removeTab(indexOf(widget));
+        // Other pages belong to those who showed them.
         if (page)
             page->deleteLater();
     }
@@ -307,11 +367,12 @@ bool EditorTabs::eventFilter(QObject *watched, QEvent *event)
     return QTabWidget::eventFilter(watched, event);
 }
 
-QStringList EditorTabs::keepChanges(QStringList *copies) const
+QStringList EditorTabs::keepChanges(QStringList *copies)
 {
     QStringList told;
     const QList<EditorPage *> all = pages();
-    for (const EditorPage *page : all) {
+    for (EditorPage *page : all) {
+        page->finishSaving();
         if (!page->isModified())
             continue;
         QString error;

@@ -44,9 +44,13 @@ public:
     // How is looked for in the pages that come, and in those whose bar is hidden.
     void setFindChoices(const FindChoices &choices);
 
-    // Reports a failure in the page and returns false then.
+    // Reports a failure in the page and returns false then. While a large file is being saved, a
+    // dialog says so.
     bool savePage(EditorPage *page);
-    bool saveAll();
+    // Begins to save all that is modified; failures are told.
+    void saveAll();
+    // Lets the saves end that are under way, in a dialog with the names of the files.
+    void finishSaves();
     // Asks about unsaved changes; false if the user wants to go on with them.
     bool closeTab(int index);
     bool closeAll();
@@ -54,12 +58,14 @@ public:
     bool closeOthers(int index);
     // Writes the unsaved changes into files of their own, whose paths are appended to `copies` (may
     // be null); returns a sentence for each.
-    QStringList keepChanges(QStringList *copies = nullptr) const;
+    QStringList keepChanges(QStringList *copies = nullptr);
 
 Q_SIGNALS:
     void currentStateChanged();
     void countChanged();
     void editingStarted(Workbench::EditorPage *page);
+    // Of a page that is not in front; the page says so, too.
+    void saveFailed(const QString &error);
     // By somebody's hand, in a page.
     void findChoicesChanged(const Workbench::FindChoices &choices);
     // A file was scrolled.
@@ -74,6 +80,8 @@ protected:
 
 private:
     void add(EditorPage *page);
+    void tellSaved(EditorPage *page, const QString &error);
+    void finishSaves(const QList<EditorPage *> &pages);
     // Closes these, after a question where they have unsaved changes.
     bool closePages(const QList<QWidget *> &closing);
     void watch();

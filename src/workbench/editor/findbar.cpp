@@ -25,8 +25,8 @@ namespace Workbench
 namespace
 {
 
-constexpr int atOnce = 100;    // milliseconds that nobody notices
-constexpr int oneSlice = 15;   // milliseconds, then the window gets its turn
+constexpr int atOnce = 16;     // milliseconds that nobody notices
+constexpr int oneSlice = 8;    // milliseconds, then the window gets its turn
 constexpr int atOneLine = 1;   // to be marked while it is painted
 constexpr int mostSeen = 1000; // lines whose marks are remembered
 constexpr int afterChange = 200;
@@ -367,7 +367,7 @@ Search *FindBar::search()
     }
     const int revision = m_editor->document()->revision();
     if (!m_search || !(m_searched == now) || m_revision != revision) {
-        m_search = std::make_unique<Search>(m_editor->shownText(), now);
+        m_search = std::make_unique<Search>(std::make_unique<TextCopy>(m_editor->document()), now);
         m_searched = now;
         m_revision = revision;
     }
@@ -601,6 +601,14 @@ void FindBar::finishReplacing()
         replaceSome(-1);
 }
 
+void FindBar::forget()
+{
+    m_goOn.stop();
+    m_search.reset();
+    m_jump = Nowhere;
+    m_wantsAll = false;
+}
+
 void FindBar::leave()
 {
     remember();
@@ -609,12 +617,8 @@ void FindBar::leave()
     m_changed.stop();
     m_seen.clear();
     m_editor->viewport()->update();
-    if (!isReplacing()) {
-        m_goOn.stop();
-        m_search.reset(); // it holds the text
-        m_jump = Nowhere;
-        m_wantsAll = false;
-    }
+    if (!isReplacing())
+        forget(); // it holds the text
     m_editor->setFocus();
 }
 

@@ -57,6 +57,8 @@ public:
     bool isReplacing() const { return m_replacing >= 0; }
     // Replaces what is still to be replaced, without a pause.
     void finishReplacing();
+    // What is known of the text; before the editor gets another document.
+    void forget();
 
 Q_SIGNALS:
     // By somebody's hand.

@@ -141,26 +141,67 @@ QString Replacement::textFor(const QRegularExpressionMatch &match) const
     return text;
 }
 
-Search::Search(const QString &shown, const SearchFor &wanted)
-    : m_expression(wanted.expression())
+Search::Search(const SearchFor &wanted, const QString &shown)
+    : m_shown(shown)
+    , m_expression(wanted.expression())
 {
-    m_text.resize(shown.size());
-    QChar *out = m_text.data();
-    int length = 0;
-    for (const QChar c : shown) {
-        if (TextFormat::isMark(c)) {
-            m_marks.append(length);
-            m_markKinds.append(c);
-        } else {
-            out[length++] =
-                c == QChar::ParagraphSeparator || c == QChar::LineSeparator ? QChar(u'\n') : c;
-        }
-    }
-    m_text.resize(length);
     if (wanted.text.isEmpty() || !m_expression.isValid()) {
-        m_at = m_text.size();
+        m_shown.clear();
         m_state = Done;
     }
+}
+
+Search::Search(const QString &shown, const SearchFor &wanted)
+    : Search(wanted, shown)
+{
+}
+
+Search::Search(std::unique_ptr<TextCopy> shown, const SearchFor &wanted)
+    : Search(wanted, QString())
+{
+    if (m_state == Running)
+        m_copy = std::move(shown);
+}
+
+// In steps; true if m_text is complete.
+bool Search::copyText(int milliseconds)
+{
+    QElapsedTimer clock;
+    clock.start();
+    if (m_copy) {
+        if (!m_copy->advance(milliseconds))
+            return false;
+        m_shown = m_copy->take();
+        m_copy.reset();
+    }
+    if (m_stripped == m_shown.size())
+        return true;
+    int length = m_stripped == 0 ? 0 : m_text.size();
+    m_text.reserve(m_shown.size());
+    while (m_stripped < m_shown.size()) {
+        const int end = qMin(m_shown.size(), m_stripped + mostStarts);
+        m_text.resize(length + end - m_stripped);
+        QChar *out = m_text.data();
+        const QChar *in = m_shown.constData();
+        for (; m_stripped < end; ++m_stripped) {
+            const QChar c = in[m_stripped];
+            if (TextFormat::isMark(c)) {
+                m_marks.append(length);
+                m_markKinds.append(c);
+            } else {
+                out[length++] =
+                    c == QChar::ParagraphSeparator || c == QChar::LineSeparator ? QChar(u'\n') : c;
+            }
+        }
+        m_text.resize(length);
+        if (clock.elapsed() >= milliseconds)
+            break;
+    }
+    if (m_stripped < m_shown.size())
+        return false;
+    m_shown.clear();
+    m_stripped = 0;
+    return true;
 }
 
 int Search::shownStart(int seen) const
@@ -215,6 +256,8 @@ Search::State Search::advance(int milliseconds)
 {
     QElapsedTimer clock;
     clock.start();
+    if (m_state == Running && !copyText(milliseconds))
+        return m_state;
     while (m_state == Running) {
         const qint64 begun = clock.nsecsElapsed();
         bool hitEnd = false;

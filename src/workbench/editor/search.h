@@ -1,8 +1,12 @@
 #pragma once
 
+#include "textcopy.h"
+
 #include <QRegularExpression>
 #include <QString>
 #include <QVector>
+
+#include <memory>
 
 namespace Workbench
 {
@@ -71,6 +75,8 @@ public:
 
     // `shown` may end its lines with paragraph separators.
     Search(const QString &shown, const SearchFor &wanted);
+    // Of a text that is still to be copied.
+    Search(std::unique_ptr<TextCopy> shown, const SearchFor &wanted);
 
     // Goes on for about so many milliseconds, at least one step.
     State advance(int milliseconds);
@@ -99,8 +105,14 @@ private:
     int shownStart(int seen) const; // of a character
     int shownEnd(int seen) const;   // behind the character before
 
-    QString m_text;       // without marks, "\n" between lines
-    QVector<int> m_marks; // places in m_text before which a mark was left out
+    Search(const SearchFor &wanted, const QString &shown);
+    bool copyText(int milliseconds);
+
+    std::unique_ptr<TextCopy> m_copy; // until it is complete
+    QString m_shown;                  // until m_text has all of it
+    int m_stripped = 0;               // characters of it that m_text has
+    QString m_text;                   // without marks, "\n" between lines
+    QVector<int> m_marks;             // places in m_text before which a mark was left out
     QVector<QChar> m_markKinds;
     QRegularExpression m_expression;
     QVector<Place> m_places;

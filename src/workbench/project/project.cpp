@@ -233,11 +233,15 @@ QStringList Project::ipFiles() const
 
 QStringList Project::someIpFiles(int limit) const
 {
+    return ipFilesOf(path(), files(), limit);
+}
+
+QStringList Project::ipFilesOf(const QString &folder, const QStringList &sources, int limit)
+{
     QStringList found;
-    collectIpFiles(path(), ipSearchDepth, limit, &found);
+    collectIpFiles(folder, ipSearchDepth, limit, &found);
     QSet<QString> known(found.begin(), found.end());
-    const QStringList listed = files();
-    for (const QString &file : listed) {
+    for (const QString &file : sources) {
         if (file.endsWith(QLatin1String(".ipc")) && !known.contains(file)) {
             known.insert(file);
             found.append(file);
@@ -249,7 +253,8 @@ QStringList Project::someIpFiles(int limit) const
 QString Project::freeIpFolder(const QString &target) const
 {
     const QDir folder(path());
-    if (ipFiles().isEmpty() && (target.isEmpty() || !QFileInfo::exists(folder.filePath(target))))
+    if (someIpFiles(1).isEmpty() &&
+        (target.isEmpty() || !QFileInfo::exists(folder.filePath(target))))
         return path();
     for (int n = 2;; ++n) {
         const QString candidate = folder.filePath(QStringLiteral("ip%1").arg(n));

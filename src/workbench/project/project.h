@@ -56,6 +56,10 @@ public:
     // Absolute paths of the IP configurations (.ipc) in the project's folder, up to two folders
     // deep, and of those among the sources.
     QStringList ipFiles() const;
+    // The first ones; more than the limit only if they share a folder.
+    QStringList someIpFiles(int limit) const;
+    // The same of a project in this folder with these sources, of which nothing else is needed.
+    static QStringList ipFilesOf(const QString &folder, const QStringList &sources, int limit);
     // The folder to make another IP in, below which the folder that the IP's dialog makes is new:
     // the project's own for the first IP, then "ip2", "ip3", … in it, which do not exist.
     // `target` is the name that the IP's files have, as far as it is known.
@@ -76,8 +80,6 @@ private:
     void change(const Operation &operation);
     Utils::Result<void> writePending();
     void show(const ProjectFile &content);
-    // The first ones; more than the limit only if they share a folder.
-    QStringList someIpFiles(int limit) const;
     void watch();
     void onFileChanged();
     QString relative(const QString &path) const;

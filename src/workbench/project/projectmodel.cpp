@@ -13,6 +13,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <limits>
 
 namespace Workbench
 {
@@ -21,6 +22,7 @@ namespace
 {
 
 constexpr int reasonsShown = 5;
+constexpr int readAtOnce = 200; // files; each is looked at
 
 // Internal id of a group; those of entries are their group's number.
 constexpr quintptr groupId = ~quintptr(0);
@@ -36,25 +38,63 @@ void ProjectModel::setProject(Project *project)
 {
     if (m_project)
         m_project->disconnect(this);
+    m_reading.drop();
     beginResetModel();
     m_project = project;
+    m_isLarge = false;
     m_states.clear();
     for (QList<Entry> &entries : m_entries)
         entries.clear();
     if (m_project) {
-        m_entries[Ips] = read(Ips);
-        m_entries[Sources] = read(Sources);
+        const Place place = this->place();
+        const QStringList ips = m_project->someIpFiles(readAtOnce);
+        m_isLarge = ips.size() >= readAtOnce || place.sources.size() >= readAtOnce;
+        m_entries[Ips] = read(Ips, place, ips.mid(0, readAtOnce));
+        m_entries[Sources] = read(Sources, place, place.sources.mid(0, readAtOnce));
         connect(m_project, &Project::changed, this, &ProjectModel::refresh);
     }
     endResetModel();
+    if (m_isLarge)
+        readElsewhere();
+}
+
+ProjectModel::Place ProjectModel::place() const
+{
+    return {m_project->path(), m_project->device().id(), m_project->files()};
+}
+
+ProjectModel::Entries ProjectModel::readAll(const Place &place)
+{
+    const QStringList ips =
+        Project::ipFilesOf(place.folder, place.sources, std::numeric_limits<int>::max());
+    return {{read(Ips, place, ips), read(Sources, place, place.sources)}};
+}
+
+void ProjectModel::readElsewhere()
+{
+    m_reading.start([place = place()] { return readAll(place); },
+                    [this](const Entries &read) { show(read); });
 }
 
 void ProjectModel::refresh()
 {
     if (!m_project)
         return;
+    if (m_isLarge)
+        readElsewhere();
+    else
+        show(readAll(place()));
+    // The top module and the device are part of the texts.
+    Q_EMIT dataChanged(groupIndex(Ips), groupIndex(Sources));
+}
+
+void ProjectModel::show(const Entries &read)
+{
+    if (!m_project)
+        return;
+    m_isLarge = read.of[Ips].size() >= readAtOnce || read.of[Sources].size() >= readAtOnce;
     for (int group = 0; group < GroupCount; ++group) {
-        const QList<Entry> entries = read(Group(group));
+        const QList<Entry> &entries = read.of[group];
         if (entries == m_entries[group])
             continue;
         const QModelIndex parent = groupIndex(Group(group));
@@ -73,8 +113,18 @@ void ProjectModel::refresh()
             continue;
         }
         // Views keep their groups open: only the rows below change.
-        if (!m_entries[group].isEmpty()) {
-            beginRemoveRows(parent, 0, m_entries[group].size() - 1);
+        const int known = m_entries[group].size();
+        const bool isLonger =
+            known > 0 && entries.size() > known &&
+            std::equal(m_entries[group].begin(), m_entries[group].end(), entries.begin());
+        if (isLonger) {
+            beginInsertRows(parent, known, entries.size() - 1);
+            m_entries[group] += entries.mid(known);
+            endInsertRows();
+            continue;
+        }
+        if (known > 0) {
+            beginRemoveRows(parent, 0, known - 1);
             m_entries[group].clear();
             endRemoveRows();
         }
@@ -84,8 +134,6 @@ void ProjectModel::refresh()
             endInsertRows();
         }
     }
-    // The top module and the device are part of the texts.
-    Q_EMIT dataChanged(groupIndex(Ips), groupIndex(Sources));
 }
 
 void ProjectModel::setState(const QString &ipcFile, const IpState &state)
@@ -112,12 +160,11 @@ QStringList ProjectModel::remarks(const Entry &file) const
     return lines;
 }
 
-QList<ProjectModel::Entry> ProjectModel::read(Group group) const
+QList<ProjectModel::Entry> ProjectModel::read(Group group, const Place &place,
+                                              const QStringList &paths)
 {
-    const QStringList paths = group == Ips ? m_project->ipFiles() : m_project->files();
-    const QString deviceId = m_project->device().id();
-    const QDir folder(m_project->path());
-    const QString inside = m_project->path() + u'/';
+    const QDir folder(place.folder);
+    const QString inside = place.folder + u'/';
     QList<Entry> entries;
     entries.reserve(paths.size());
     for (const QString &path : paths) {
@@ -131,7 +178,7 @@ QList<ProjectModel::Entry> ProjectModel::read(Group group) const
             file.state = QStringLiteral("%1 %2 ").arg(
                              QString::number(info.size()),
                              QString::number(info.lastModified().toMSecsSinceEpoch())) +
-                         deviceId;
+                         place.deviceId;
         else
             file.isRead = true;
         entries.append(file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ipstate.h"
+#include "widgets/background.h"
 
 #include <QAbstractItemModel>
 #include <QHash>
@@ -24,10 +25,13 @@ public:
 
     explicit ProjectModel(QObject *parent = nullptr);
 
-    // Not owned; null shows an empty tree.
+    // Not owned; null shows an empty tree. Of many files the first ones are there at once, and all
+    // of them when another thread has looked at them.
     void setProject(Project *project);
-    // Reads the project and its folder again.
+    // Reads the project and its folder again; of many files this is only begun.
     void refresh();
+    // Waits for what is being read.
+    void finishReading() { m_reading.finish(); }
     // Whether an IP of it has been generated as it is.
     void setState(const QString &ipcFile, const IpState &state);
 
@@ -68,7 +72,20 @@ private:
         }
     };
 
-    QList<Entry> read(Group group) const;
+    // What stands in a project, and what is to be known of it to read its files.
+    struct Place {
+        QString folder;
+        QString deviceId;
+        QStringList sources;
+    };
+    struct Entries {
+        QList<Entry> of[GroupCount];
+    };
+    static QList<Entry> read(Group group, const Place &place, const QStringList &paths);
+    static Entries readAll(const Place &place);
+    Place place() const;
+    void readElsewhere();
+    void show(const Entries &read);
     // What there is to be told of an IP, a line each; empty: nothing.
     QStringList remarks(const Entry &file) const;
     const Entry *entry(const QModelIndex &index) const;
@@ -76,6 +93,8 @@ private:
 
     QPointer<Project> m_project;
     QList<Entry> m_entries[GroupCount];
+    bool m_isLarge = false;
+    Background m_reading;
     QHash<QString, IpState> m_states; // by path
 };
 

@@ -75,6 +75,7 @@ QString ProjectPane::selectedPlace() const
 void ProjectPane::select(const QString &file)
 {
     m_tree->setFocus();
+    m_model->finishReading();
     const QModelIndex index = m_model->indexOf(file);
     m_tree->setCurrentIndex(index);
     m_tree->scrollTo(index);
@@ -101,6 +102,7 @@ void ProjectPane::activate(const QModelIndex &index)
 QStringList ProjectPane::ipsOfOtherDevices() const
 {
     QStringList others;
+    m_model->finishReading();
     const QModelIndex ips = m_model->groupIndex(ProjectModel::Ips);
     for (int row = 0; row < m_model->rowCount(ips); ++row) {
         const QModelIndex index = m_model->index(row, 0, ips);

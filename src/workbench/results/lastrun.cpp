@@ -6,6 +6,9 @@
 
 #include <QFileInfo>
 
+#include <optional>
+#include <utility>
+
 namespace Workbench
 {
 
@@ -38,6 +41,9 @@ void LastRun::setProject(Project *project)
         m_page->deleteLater(); // its button may be what closes the project
     m_page = nullptr;
     m_comparison.drop();
+    m_reading.drop();
+    m_readingEarlier.drop();
+    m_hasEarlier = false;
     m_report.reset();
     m_earlier = {};
     m_project = project;
@@ -69,20 +75,60 @@ bool LastRun::prepare(QString *error)
 {
     if (m_report)
         return true;
-    KeptRun run;
-    if (!m_store.load(m_project ? m_project->file() : QString(), &run, error))
+    const QString project = m_project ? m_project->file() : QString();
+    if (m_store.isLarge(project)) {
+        if (!m_page)
+            page()->showRemark(tr("The results of the last run are being read…"));
+        if (!m_reading.isBusy())
+            m_reading.start([store = m_store, project] { return read(store, project); },
+                            [this](const Stored &stored) { showStored(stored); });
+        return true;
+    }
+    const Stored stored = read(m_store, project);
+    if (stored.isThere)
+        showStored(stored);
+    else if (error)
+        *error = stored.error;
+    return stored.isThere;
+}
+
+bool LastRun::complete(QString *error)
+{
+    if (!prepare(error))
         return false;
+    if (!m_reading.isBusy())
+        return true;
+    m_reading.finish();
+    if (!m_mistake.isEmpty())
+        *error = m_mistake;
+    return m_mistake.isEmpty();
+}
+
+LastRun::Stored LastRun::read(const RunStore &store, const QString &project)
+{
+    Stored stored;
+    stored.isThere = store.load(project, &stored.run, &stored.error);
+    return stored;
+}
+
+void LastRun::showStored(const Stored &stored)
+{
+    m_mistake = stored.error;
+    if (!stored.isThere) {
+        page()->showRemark(stored.error);
+        return;
+    }
+    const KeptRun &run = stored.run;
     m_messages.setReport(run.report);
     page()->setReport(run.report, run.before);
     if (run.size() <= readAtOnce) {
         showAsKept(run, run.changedFiles());
-        return true;
+        return;
     }
     page()->setDelivered(run.delivered, sources());
     page()->setMaps({});
     m_comparison.start([run] { return run.changedFiles(); },
                        [this, run](const QStringList &changed) { showAsKept(run, changed); });
-    return true;
 }
 
 void LastRun::showAsKept(const KeptRun &run, const QStringList &changed)
@@ -108,14 +154,35 @@ void LastRun::showDelivered(const QStringList &files, const QStringList &changed
                         : QString());
 }
 
+void LastRun::expect()
+{
+    m_isNew = false;
+    m_hasEarlier = false;
+    if (!m_project || m_keeping.isBusy() || !m_store.isLarge(m_project->file()))
+        return;
+    // Until the run ends there is time.
+    const auto read = [store = m_store, project = m_project->file()] {
+        const Stored stored = LastRun::read(store, project);
+        return stored.isThere ? std::make_optional(stored.run.figures) : std::nullopt;
+    };
+    m_readingEarlier.start(read, [this](const std::optional<Figures> &figures) {
+        if (figures)
+            m_earlier = *figures;
+        m_hasEarlier = true;
+    });
+}
+
 void LastRun::setReport(const Synthesis::RunReport &report)
 {
-    KeptRun earlier;
-    if (m_project && m_store.has(m_project->file()) &&
-        m_store.load(m_project->file(), &earlier, nullptr))
-        m_earlier = earlier;
+    m_readingEarlier.finish();
+    if (!std::exchange(m_hasEarlier, false) && m_project && m_store.has(m_project->file())) {
+        const Stored earlier = read(m_store, m_project->file());
+        if (earlier.isThere)
+            m_earlier = earlier.run.figures;
+    }
+    m_reading.drop();
     m_comparison.drop();
-    page()->setReport(report, m_earlier.figures.value(RunStore::ipOf(report)));
+    page()->setReport(report, m_earlier.value(RunStore::ipOf(report)));
     page()->setMaps({});
     m_report = std::make_unique<Synthesis::RunReport>(report);
     m_isNew = true;
@@ -138,7 +205,7 @@ void LastRun::keep(const QStringList &delivered)
         return;
     const QString ip = RunStore::ipOf(*m_report);
     KeptRun told;
-    told.figures = m_earlier.figures;
+    told.figures = m_earlier;
     told.before = told.figures.value(ip);
     for (const Synthesis::ResourceUse &use : m_report->resources)
         told.figures[ip].insert(use.resource, use.used);

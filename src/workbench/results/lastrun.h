@@ -40,11 +40,14 @@ public:
     bool isThere() const { return m_report || m_isKept; }
     // Made when it is first asked for.
     ResultPage *page();
-    // Fills the page; false and a sentence in `*error` if there is nothing that can be shown.
+    // Fills the page; false and a sentence in `*error` if there is nothing that can be shown. Of a
+    // large report this is only begun, and the page tells what goes wrong.
     bool prepare(QString *error);
+    // The same, and waits for the end.
+    bool complete(QString *error);
 
     // What is delivered from now on is of a run that is still to come.
-    void expect() { m_isNew = false; }
+    void expect();
     void setReport(const Synthesis::RunReport &report);
     // What the IP of the expected run delivered; false if there was no such run.
     bool setDelivered(const QStringList &files);
@@ -58,7 +61,15 @@ Q_SIGNALS:
     void changed();
 
 private:
+    // What a store has of a run.
+    struct Stored {
+        bool isThere = false;
+        QString error;
+        KeptRun run;
+    };
+    static Stored read(const RunStore &store, const QString &project);
     QStringList sources() const;
+    void showStored(const Stored &stored);
     // `changed`: files that are no longer as the run left them.
     void showDelivered(const QStringList &files, const QStringList &changed = {});
 
@@ -70,11 +81,16 @@ private:
     QPointer<Project> m_project;
     RunStore m_store;
     MapSource m_mapSource;
-    KeptRun m_earlier; // of which `figures` count, as before m_report
+    using Figures = QMap<QString, QMap<QString, int>>;
+    Figures m_earlier;         // as those of a KeptRun, from before m_report
+    bool m_hasEarlier = false; // for the expected run
     ResultPage *m_page = nullptr;
     std::unique_ptr<Synthesis::RunReport> m_report; // since the start
     bool m_isKept = false;                          // from before the start
     bool m_isNew = false;
+    QString m_mistake;    // of the last reading
+    Background m_reading; // of a kept run, for the page
+    Background m_readingEarlier;
     Background m_comparison; // of a kept run with the disk
     Background m_keeping;
 };

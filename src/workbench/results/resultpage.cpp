@@ -146,6 +146,11 @@ ResultPage::ResultPage(QWidget *parent)
     forwardFocus(this, m_files);
 }
 
+void ResultPage::showRemark(const QString &text)
+{
+    m_summary->setText(text);
+}
+
 void ResultPage::setReport(const Synthesis::RunReport &report, const QMap<QString, int> &before)
 {
     m_report = report;

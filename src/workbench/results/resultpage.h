@@ -35,6 +35,8 @@ class ResultPage : public QWidget
 public:
     explicit ResultPage(QWidget *parent = nullptr);
 
+    // Instead of a report.
+    void showRemark(const QString &text);
     // `before`: what each resource was used in the run before of the same IP; empty if there was
     // none, and then nothing is compared.
     void setReport(const Synthesis::RunReport &report, const QMap<QString, int> &before = {});

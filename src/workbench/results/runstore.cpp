@@ -21,7 +21,8 @@ namespace
 {
 
 constexpr int formatNumber = 1;
-constexpr qint64 sizeLimit = 16 << 20; // bytes; a report has some hundred thousand at most
+constexpr qint64 sizeLimit = 16 << 20;   // bytes; a report has some hundred thousand at most
+constexpr qint64 readAtOnce = 128 << 10; // bytes; some milliseconds
 
 // Empty for what cannot be read.
 QByteArray digestOf(const QString &path)
@@ -110,6 +111,11 @@ QString RunStore::pathOf(const QString &project) const
 bool RunStore::has(const QString &project) const
 {
     return !project.isEmpty() && QFileInfo(pathOf(project)).isFile();
+}
+
+bool RunStore::isLarge(const QString &project) const
+{
+    return QFileInfo(pathOf(project)).size() > readAtOnce;
 }
 
 bool RunStore::keep(const QString &project, const KeptRun &run, QString *error) const

@@ -44,6 +44,8 @@ public:
     // failure changes nothing about the run and is only told in `*error`.
     bool keep(const QString &project, const KeptRun &run, QString *error) const;
     bool has(const QString &project) const;
+    // Whether reading it would keep a window waiting.
+    bool isLarge(const QString &project) const;
     // False if there is none, or none that can be read.
     bool load(const QString &project, KeptRun *run, QString *error) const;
 

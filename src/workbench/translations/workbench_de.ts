@@ -1624,6 +1624,10 @@
         <source>Close the tab</source>
         <translation>Den Tab schließen</translation>
     </message>
+    <message>
+        <source>Saving %1…</source>
+        <translation>%1 wird gesichert…</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ExampleDialog</name>
@@ -2092,6 +2096,10 @@ Auch von der jetzigen Konfiguration wird eine Kopie aufbewahrt.</translation>
     <message>
         <source>The results cannot be shown after a restart. %1</source>
         <translation>Die Ergebnisse können nach einem Neustart nicht angezeigt werden. %1</translation>
+    </message>
+    <message>
+        <source>The results of the last run are being read…</source>
+        <translation>Die Ergebnisse des letzten Laufs werden gelesen…</translation>
     </message>
 </context>
 <context>

@@ -1623,6 +1623,10 @@
         <source>Close the tab</source>
         <translation>关闭标签页</translation>
     </message>
+    <message>
+        <source>Saving %1…</source>
+        <translation>正在保存 %1…</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::ExampleDialog</name>
@@ -2089,6 +2093,10 @@ A copy of the present configuration is kept as well.</source>
     <message>
         <source>The results cannot be shown after a restart. %1</source>
         <translation>重新启动后无法显示结果。%1</translation>
+    </message>
+    <message>
+        <source>The results of the last run are being read…</source>
+        <translation>正在读取上次运行的结果…</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,9 @@
 #include <QMutexLocker>
 #include <QObject>
 #include <QThreadPool>
+#include <QWaitCondition>
 
+#include <functional>
 #include <memory>
 
 namespace Workbench
@@ -38,15 +40,30 @@ public:
             const QMutexLocker locker(&link->mutex);
             if (!link->owner)
                 return;
-            const auto deliver = [link, result, done] {
+            link->deliver = [link = link.get(), result, done] {
                 Background *owner = link->owner; // only changes in this thread
                 if (!owner)
                     return;
                 owner->drop();
                 done(*result);
             };
-            QMetaObject::invokeMethod(link->owner, deliver, Qt::QueuedConnection);
+            link->ready.wakeAll();
+            QMetaObject::invokeMethod(
+                link->owner, [link] { deliver(link); }, Qt::QueuedConnection);
         });
+    }
+    // Waits for what was started and calls its `done` now.
+    void finish()
+    {
+        const std::shared_ptr<Link> link = m_link;
+        if (!link)
+            return;
+        {
+            const QMutexLocker locker(&link->mutex);
+            while (!link->deliver)
+                link->ready.wait(&link->mutex);
+        }
+        deliver(link);
     }
     // Nobody waits for the result any more.
     void drop()
@@ -63,8 +80,21 @@ public:
 private:
     struct Link {
         QMutex mutex;
+        QWaitCondition ready;
         Background *owner = nullptr;
+        std::function<void()> deliver; // there when the work is done; empty again afterwards
     };
+
+    static void deliver(const std::shared_ptr<Link> &link)
+    {
+        std::function<void()> deed;
+        {
+            const QMutexLocker locker(&link->mutex);
+            deed.swap(link->deliver);
+        }
+        if (deed)
+            deed();
+    }
 
     std::shared_ptr<Link> m_link;
 };

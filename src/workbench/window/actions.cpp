@@ -120,7 +120,7 @@ void MainWindow::Actions::addFileMenu()
     file->addSeparator();
     save = add(file, tr("&Save"), QStringLiteral("save"), QKeySequence::Save, [window] {
         if (EditorPage *page = window->m_tabs->currentPage())
-            window->m_tabs->savePage(page);
+            page->startSaving();
     });
     saveAll =
         add(file, tr("Save &All"), {}, QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + Qt::Key_S),

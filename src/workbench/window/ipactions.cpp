@@ -66,6 +66,8 @@ void IpActions::tellKeepFailed(const QString &message)
 
 bool IpActions::withCopies(const std::function<bool()> &call)
 {
+    // A plug-in may read what is being saved.
+    m_with.tabs.finishSaves();
     QStringList copies;
     m_copiesTold = m_with.tabs.keepChanges(&copies);
     const bool result = call();

@@ -32,7 +32,7 @@ public:
         IpCatalogue &catalogue;
         IpSession &session;
         KeptConfigurations &kept;
-        const EditorTabs &tabs;
+        EditorTabs &tabs;
         MessageModel &messages;
         InfoBar &infoBar;
         const ClosingSequence &closing;

@@ -267,6 +267,8 @@ void MainWindow::connectParts()
         m_projectPane->model()->setState(ipcFile, m_generation->stateOf(ipcFile));
     });
     connect(m_tabs, &EditorTabs::editingStarted, this, &MainWindow::warnOfGeneration);
+    connect(m_tabs, &EditorTabs::saveFailed, this,
+            [this](const QString &error) { m_infoBar->showMessage(error, {}); });
     connect(m_lastRun, &LastRun::changed, this, &MainWindow::showEditorState);
     connect(m_ips.get(), &IpActions::opening, this, [this](int ip) {
         m_lastRun->expect();
@@ -483,7 +485,7 @@ void MainWindow::showEditorState()
         return;
     m_actions->refresh();
     showTitle();
-    const EditorPage *page = m_tabs->currentPage();
+    EditorPage *page = m_tabs->currentPage();
     m_cursorLabel->setVisible(page != nullptr);
     if (page)
         m_cursorLabel->setText(tr("Line %1, column %2   %3   %4")
@@ -902,7 +904,7 @@ bool MainWindow::exportDiagramOf(const QString &ipcFile, const QString &path, QS
 
 bool MainWindow::exportTableTo(int table, const QString &path, QString *error)
 {
-    return m_lastRun->prepare(error) &&
+    return m_lastRun->complete(error) &&
            TableFiles::write(TableFiles::tableOf(results()->report(), TableFiles::Table(table)),
                              path, error);
 }
