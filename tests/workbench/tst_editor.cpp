@@ -1216,6 +1216,7 @@ private Q_SLOTS:
         page->startEditing();
         page->findBar()->startReplacing();
         check(page, "expressionBox", true);
+        page->editor()->moveCursor(QTextCursor::Start); // whatever was looked for before
         type(page, "findEdit", "(a)(b)$");
         QTRY_COMPARE_WITH_TIMEOUT(
             state(page), QStringLiteral("1 of %1").arg(QLocale().toString(lines / 3 * 2)), 60000);
