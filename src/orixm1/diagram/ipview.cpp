@@ -790,8 +790,10 @@ void IPView::mouseDoubleClickEvent(QMouseEvent *event)
 
 bool IPView::focusNextPrevChild(bool next)
 {
-    // A button inside the view asks it, too.
-    return (hasFocus() && m_focus.step(next)) || QGraphicsView::focusNextPrevChild(next);
+    // A button inside the view asks it, too, and is left at once.
+    const QWidget *focused = window()->focusWidget();
+    const bool isInside = focused && focused != this && isAncestorOf(focused);
+    return (!isInside && m_focus.step(next)) || QGraphicsView::focusNextPrevChild(next);
 }
 
 void IPView::focusInEvent(QFocusEvent *event)
