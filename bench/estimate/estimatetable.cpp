@@ -11,9 +11,10 @@
 //     the estimates are off; fails where less than 98 % hold
 // estimatetable spot N [SEED]
 //     the same for N with few blocks
-// estimatetable fresh [COUNT]
+// estimatetable fresh [COUNT [SKIP]]
 //     draws COUNT (200) configurations for each series and synthesises each different text once,
-//     into a file that the fit never reads; can be ended at any time and called again
+//     into a file that the fit never reads; can be ended at any time and called again. The first
+//     SKIP (0) are left to another process, which writes into another file.
 // estimatetable report
 //     prints for each series how the estimates fare in that file. A netlist counts for each series
 //     in which somebody could have the configuration, so the series' figures are not independent of
@@ -273,7 +274,7 @@ constexpr int firstFreshSeed = 5000000;
 // One of so many netlists is made for a second device as well, which has to give the same.
 constexpr int timesUntilAgain = 10;
 
-int measureFresh(const QString &path, const DEV::DeviceDb &devices, int count)
+int measureFresh(const QString &path, const DEV::DeviceDb &devices, int skip, int count)
 {
     const Utils::Result<QString> rtl = rtlDigest();
     const Utils::Result<QString> synthesis = synthesisDigest();
@@ -298,7 +299,7 @@ int measureFresh(const QString &path, const DEV::DeviceDb &devices, int count)
     file.resize(whole);
     file.seek(whole);
     int made = read->list.size();
-    for (int seed = firstFreshSeed; seed < firstFreshSeed + count; ++seed) {
+    for (int seed = firstFreshSeed + skip; seed < firstFreshSeed + count; ++seed) {
         if (read->countOf(seed) == drawForEachSeries(seed, devices).size())
             continue;
         Utils::Result<QVector<FreshMeasurement>> plan = plannedFresh(seed, devices);
@@ -454,6 +455,7 @@ int main(int argc, char *argv[])
         return measureAll(path, devices, arguments.value(1, QStringLiteral("400")).toInt());
     if (command == "fresh"_l1)
         return measureFresh(isOtherPath ? path : QStringLiteral(TARVO_FRESH_MEASUREMENTS), devices,
+                            arguments.value(2).toInt(),
                             arguments.value(1, QStringLiteral("200")).toInt());
     if (command == "report"_l1)
         return reportFresh(isOtherPath ? path : QStringLiteral(TARVO_FRESH_MEASUREMENTS), devices);
@@ -465,5 +467,5 @@ int main(int argc, char *argv[])
                           command == "spot"_l1);
     return fail(QStringLiteral(
         "estimatetable [FILE=PATH] measure [LAST] | fit | check N [SEED] | spot N [SEED] | "
-        "fresh [COUNT] | report"));
+        "fresh [COUNT [SKIP]] | report"));
 }
