@@ -148,6 +148,14 @@ add_library(tarvo_test_flags INTERFACE)
 target_link_libraries(tarvo_test_flags INTERFACE tarvo_flags)
 target_compile_options(tarvo_test_flags INTERFACE "$<$<CONFIG:Release>:-O1>")
 
+# tarvo_add_meta_objects(TEST SOURCE FILE): what the meta-object compiler makes of a source or header, a file that the test includes.
+function(tarvo_add_meta_objects name source file)
+    get_target_property(sources ${name} SOURCES)
+    qt5_generate_moc(${source} ${CMAKE_CURRENT_BINARY_DIR}/${file} TARGET ${name})
+    set_property(SOURCE ${sources} APPEND PROPERTY OBJECT_DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/${file})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+endfunction()
+
 # tarvo_add_test(NAME SOURCES … [LINK …] [TIMEOUT seconds] [OWN_TOOLS]): a QtTest program and the test that runs it. OWN_TOOLS: it
 # counts on the tools as they are.
 function(tarvo_add_test name)
@@ -155,6 +163,11 @@ function(tarvo_add_test name)
     add_executable(${name} ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/bin)
     target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_test_flags)
+    if(ARG_SOURCES MATCHES "^[^;]*tst_[a-z0-9_]*\\.cpp$")
+        # Nothing but the test itself needs the meta-object compiler, and it includes what that makes: spares two steps a program.
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+        tarvo_add_meta_objects(${name} ${ARG_SOURCES} ${name}.moc)
+    endif()
     set_property(GLOBAL APPEND PROPERTY TARVO_TESTS ${name})
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
