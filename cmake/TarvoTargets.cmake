@@ -173,13 +173,12 @@ function(tarvo_add_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false")
+    # The test's own limit counts, not that of a function of it, in milliseconds.
+    set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false" QTEST_FUNCTION_TIMEOUT=1800000)
     if(TARVO_SANITIZE)
         # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
         list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0
-            LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp
-            # The test's own limit counts, not that of a function of it, in milliseconds.
-            QTEST_FUNCTION_TIMEOUT=1800000)
+            LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp)
     endif()
     if(ARG_OWN_TOOLS)
         list(APPEND environment XDG_CACHE_HOME=${TARVO_TEST_CACHE})

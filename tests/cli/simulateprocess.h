@@ -44,7 +44,7 @@ public:
     // The end of a process, whose outputs nobody else has read.
     static Run finish(QProcess &process)
     {
-        if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
             return {-1, {}, QString::fromUtf8(process.readAllStandardError())};
         return {process.exitCode(), process.readAllStandardOutput(),
                 QString::fromUtf8(process.readAllStandardError())};

@@ -62,7 +62,7 @@ private:
         QProcess process;
         process.setWorkingDirectory(m_dir.path());
         process.start(QStringLiteral(TARVO_COMMAND), arguments);
-        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};
@@ -195,7 +195,7 @@ void tst_CliEstimate::aDataFolderWithoutATableHasNoEstimates()
     QProcess copy;
     copy.start(QStringLiteral("cp"),
                {QStringLiteral("-r"), QStringLiteral(TARVO_IP_DATA_DIR), data});
-    QVERIFY(copy.waitForFinished(60000) && copy.exitCode() == 0);
+    QVERIFY(copy.waitForFinished(-1) && copy.exitCode() == 0);
     QVERIFY(QFile::remove(data + QStringLiteral("/estimate.json")));
     QVERIFY(TestSupport::write(path("a.ipc"), configuration(usual, "")));
     QVERIFY(TestSupport::write(path("b.ipc"), configuration(usual, "Enable%20UART0=true\n")));

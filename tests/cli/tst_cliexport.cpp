@@ -517,7 +517,7 @@ private:
         process.setWorkingDirectory(m_dir->path());
         process.start(QStringLiteral(TARVO_COMMAND),
                       QStringList{QStringLiteral("export")} + arguments);
-        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};

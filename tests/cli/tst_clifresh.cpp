@@ -140,7 +140,7 @@ Run tst_CliFresh::run(const QStringList &arguments, const QString &cache) const
         environment.insert(latin1("PATH"), QString::fromLocal8Bit(searchPath));
     process.setProcessEnvironment(environment);
     process.start(latin1(TARVO_COMMAND), arguments);
-    if (!process.waitForFinished(120000))
+    if (!process.waitForFinished(-1))
         return {};
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
             QString::fromUtf8(process.readAllStandardError())};
@@ -528,7 +528,7 @@ void tst_CliFresh::aDryRunSaysWhatARunThenWrites()
     patch.start(latin1("patch"), {latin1("-p1"), latin1("--no-backup-if-mismatch")});
     patch.write(told.out.toUtf8());
     patch.closeWriteChannel();
-    QVERIFY(patch.waitForFinished());
+    QVERIFY(patch.waitForFinished(-1));
     QVERIFY2(patch.exitCode() == 0, qPrintable(told.out));
     const Run made = run(generate(further));
     QVERIFY2(made.status == 0, qPrintable(made.err));
@@ -726,7 +726,7 @@ void tst_CliFresh::twoRunsAtATimeShareTheCache()
         processes[i].start(latin1(TARVO_COMMAND), generate({}, folders[i]));
     }
     for (QProcess &process : processes) {
-        QVERIFY(process.waitForFinished(120000));
+        QVERIFY(process.waitForFinished(-1));
         QVERIFY2(process.exitCode() == 0, process.readAllStandardError().constData());
     }
     for (const char *folder : {"b", "c"})

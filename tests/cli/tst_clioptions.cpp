@@ -89,7 +89,7 @@ private:
         QProcess process;
         process.setWorkingDirectory(m_dir->path());
         process.start(QString::fromUtf8(program), arguments);
-        if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
                 QString::fromUtf8(process.readAllStandardError())};

@@ -643,13 +643,13 @@ private Q_SLOTS:
         QProcess process;
         process.setWorkingDirectory(m_dir->path());
         process.start(QStringLiteral(TARVO_COMMAND), words({"export", "--out", "made"}) << example);
-        QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+        QVERIFY(process.waitForFinished(-1) && process.exitCode() == 0);
         process.start(
             QStringLiteral("arm-none-eabi-gcc"),
             words({"-mcpu=cortex-m1", "-mthumb", "-Os", "-nostartfiles", "-Imade", "-Lmade",
                    "-Ttarvo_orix_m1.ld", "a b.c", "made/startup_tarvo_orix_m1.c",
                    "made/system_tarvo_orix_m1.c", "-o", "a b.elf"}));
-        QVERIFY(process.waitForFinished() && process.exitCode() == 0);
+        QVERIFY(process.waitForFinished(-1) && process.exitCode() == 0);
         const Run run = simulate(QStringList{example} + words({"--firmware", "a b.elf"}));
         QVERIFY2(run.status == 0, qPrintable(run.err));
     }
@@ -934,7 +934,7 @@ private:
     {
         QProcess process;
         process.start(QStringLiteral("fst2vcd"), {QStringLiteral("-f"), path(name)});
-        return process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
+        return process.waitForFinished(-1) ? process.readAllStandardOutput() : QByteArray();
     }
 
     QJsonObject jsonIn(const char *name) const

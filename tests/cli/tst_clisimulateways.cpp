@@ -373,7 +373,7 @@ private Q_SLOTS:
             const qint64 moment = round * length / rounds;
             const bool hasEnded = process->waitForFinished(int(moment));
             killed += !hasEnded && TestSupport::sendSignal(*process, SIGKILL) ? 1 : 0;
-            QVERIFY(process->state() == QProcess::NotRunning || process->waitForFinished());
+            QVERIFY(process->state() == QProcess::NotRunning || process->waitForFinished(-1));
             QTRY_COMPARE_WITH_TIMEOUT(m_process->mark().processes(), QList<qint64>(), 60000);
             QCOMPARE(m_process->scratch(), QStringList());
         }
@@ -397,7 +397,7 @@ private:
         compiler.setWorkingDirectory(path("."));
         const auto isDone = [&](const QString &program, const QStringList &arguments) {
             compiler.start(program, arguments);
-            return compiler.waitForFinished() && compiler.exitCode() == 0;
+            return compiler.waitForFinished(-1) && compiler.exitCode() == 0;
         };
         const QString command = QStringLiteral(TARVO_COMMAND);
         return isDone(command, words({"export", "a b/x.ipc", "--out", "made"})) &&

@@ -46,7 +46,7 @@ Found lupdate(const QString &folder)
                    QStringLiteral("absolute"), folder, QStringLiteral("-extensions"),
                    QStringLiteral("cpp,h,ui"), QStringLiteral("-ts"), ts});
     Found found;
-    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+    if (!process.waitForFinished(-1) || process.exitCode() != 0)
         found.complaints = QStringLiteral("lupdate failed. ");
     found.complaints += QString::fromLocal8Bit(process.readAll());
 

@@ -186,7 +186,7 @@ void tst_Mutate::leavesNothingBehindWhenItIsInterrupted()
     QCOMPARE(process.state(), QProcess::Running);
     QVERIFY(!TestSupport::entriesOf(m_temporary.path()).isEmpty());
     QVERIFY(TestSupport::sendSignal(process, SIGINT));
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(-1));
     QCOMPARE(process.exitCode(), 130);
     QCOMPARE(m_mark.processes(), QList<qint64>());
     QCOMPARE(TestSupport::entriesOf(m_temporary.path()), QStringList());

@@ -694,10 +694,10 @@ QString simulate(const QString &bench, const QStringList &sources)
                               QStringLiteral("-I" RTL_DIR), QStringLiteral("-o"),
                               QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
-    if (!process.waitForFinished(120000) || process.exitCode() != 0)
+    if (!process.waitForFinished(-1) || process.exitCode() != 0)
         return process.errorString() + u'\n' + QString::fromUtf8(process.readAll());
     process.start(QStringLiteral("vvp"), {QStringLiteral("-n"), QStringLiteral("bench")});
-    if (!process.waitForFinished(120000))
+    if (!process.waitForFinished(-1))
         return process.errorString();
     const QString output = QString::fromUtf8(process.readAll());
     return output.trimmed() == QLatin1String("PASS") ? QString() : output.left(4000);
@@ -765,7 +765,7 @@ static QStringList linesOf(const QStringList &arguments)
 {
     QProcess process;
     process.start(QStringLiteral(TARVO_COMMAND), arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
+    if (!process.waitForFinished(-1) || process.exitCode() != 0)
         return {};
     return QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
 }

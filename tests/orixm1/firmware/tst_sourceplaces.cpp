@@ -161,7 +161,7 @@ private:
                                    QStringLiteral("-o"), QStringLiteral("a.elf"),
                                    name.isEmpty() ? file() : name} +
                            flags);
-        if (!compiler.waitForFinished() || compiler.exitCode() != 0) {
+        if (!compiler.waitForFinished(-1) || compiler.exitCode() != 0) {
             QTest::qFail(compiler.readAll().constData(), __FILE__, __LINE__);
             return {};
         }

@@ -426,7 +426,7 @@ void tst_Preview::thePatchTurnsTheFolderIntoWhatIsGenerated()
     process.start(program, {QStringLiteral("-p1"), QStringLiteral("--no-backup-if-mismatch")});
     process.write(patch);
     process.closeWriteChannel();
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(-1));
     const QByteArray told = process.readAll() + process.readAllStandardError();
     QVERIFY2(process.exitCode() == 0, QByteArray(told + patch).constData());
     const Picture patched = pictureOf(out());

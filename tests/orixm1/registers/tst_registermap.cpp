@@ -565,7 +565,7 @@ void tst_RegisterMap::theHeaderCompiles()
     compiler.start(QStringLiteral("cc"),
                    {QStringLiteral("-std=c11"), QStringLiteral("-Wall"), QStringLiteral("-Werror"),
                     QStringLiteral("-c"), QStringLiteral("use.c")});
-    QVERIFY(compiler.waitForFinished());
+    QVERIFY(compiler.waitForFinished(-1));
     QVERIFY2(compiler.exitCode() == 0, compiler.readAllStandardError().constData());
 }
 

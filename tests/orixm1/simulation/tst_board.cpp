@@ -177,7 +177,7 @@ private Q_SLOTS:
         QVERIFY2(
             waitFor("FAIL: it was stopped from outside\n\036board done\n\036board end failed "),
             said.constData());
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(-1));
     }
 #endif
 
@@ -208,7 +208,7 @@ private:
         QProcess process;
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(program, arguments);
-        QVERIFY2(process.waitForFinished(60000), qPrintable(program));
+        QVERIFY2(process.waitForFinished(-1), qPrintable(program));
         const QString said = QString::fromUtf8(process.readAll());
         QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
                  qPrintable(said.left(3000)));

@@ -183,7 +183,7 @@ void tst_SweepTable::picturesAreWellFormed()
     QVERIFY(TestSupport::write(file, svg));
     QProcess process;
     process.start(QStringLiteral("xmllint"), {QStringLiteral("--noout"), file});
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(-1));
     QCOMPARE(process.exitCode(), 0);
 }
 

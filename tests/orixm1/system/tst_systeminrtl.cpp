@@ -439,7 +439,7 @@ QString run(const QString &program, const QStringList &arguments, const QString 
     process.setWorkingDirectory(folder);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
-    if (!process.waitForFinished(120000))
+    if (!process.waitForFinished(-1))
         return process.errorString();
     return QString::fromUtf8(process.readAll());
 }

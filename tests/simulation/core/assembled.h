@@ -53,7 +53,7 @@ inline QByteArray elf(const QByteArray &program, const QByteArrayList &arguments
     QProcess compiler;
     compiler.setProcessChannelMode(QProcess::MergedChannels);
     compiler.start(QStringLiteral(ARM_GCC), all);
-    if (!compiler.waitForFinished() || compiler.exitCode() != 0) {
+    if (!compiler.waitForFinished(-1) || compiler.exitCode() != 0) {
         QTest::qFail(compiler.readAll().constData(), __FILE__, __LINE__);
         return {};
     }

@@ -37,7 +37,7 @@ QByteArray disassembled(const Snippets::Snippet &snippet)
                   {QStringLiteral("-D"), QStringLiteral("-b"), QStringLiteral("binary"),
                    QStringLiteral("-m"), QStringLiteral("arm"), QStringLiteral("-M"),
                    QStringLiteral("force-thumb"), file.fileName()});
-    objdump.waitForFinished();
+    objdump.waitForFinished(-1);
     QByteArray text = objdump.readAllStandardOutput();
     text.remove(0, text.indexOf("<.data>:") + 8);
     for (int i = 0; i < snippet.literals.size(); ++i)

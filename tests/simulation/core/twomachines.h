@@ -90,7 +90,7 @@ inline Outcome runInEmulator(const QByteArray &elf)
     const bool ended = emulator.waitForFinished(90'000);
     if (!ended) {
         emulator.kill();
-        emulator.waitForFinished();
+        emulator.waitForFinished(-1);
     }
     const QByteArray messages = emulator.readAllStandardError();
     Outcome outcome;
