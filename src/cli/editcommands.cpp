@@ -65,7 +65,8 @@ int finishEdit(const IpcDocument &document, const OptionMap &options,
     const QStringList keys = changedKeys(document.options, options);
     const bool writes = !keys.isEmpty() && !arguments.dryRun;
     const Utils::Result<void> written =
-        writes ? writeEdited(document, document.frame, options) : Utils::Result<void>();
+        writes ? writeEdited(document, document.path, document.frame, options)
+               : Utils::Result<void>();
     if (!written) {
         printProblem({written.reason(), {}, arguments.file});
         return Failed;

@@ -68,7 +68,7 @@ Utils::Result<bool> initialise(const IpcDocument &document, const QString &folde
     if (options == document.options)
         return false;
     const Utils::Result<void> written =
-        writeConfiguration(document.path, document.movedHeader(document.deviceText), options);
+        writeEdited(document, document.path, document.movedHeader(document.deviceText), options);
     if (!written)
         return Utils::Failure{written.reason()};
     return true;

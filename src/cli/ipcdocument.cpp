@@ -142,16 +142,18 @@ Utils::Result<void> writeConfiguration(const QString &path, const QVariantMap &h
     return Utils::writeIniFile(path, header, IpcFile::configGroup, options);
 }
 
-Utils::Result<void> writeEdited(const IpcDocument &document, const QVariantMap &frame,
-                                const OptionMap &options)
+Utils::Result<void> writeEdited(const IpcDocument &document, const QString &path,
+                                const QVariantMap &frame, const OptionMap &options)
 {
     const Utils::Result<QByteArray> text = editedIpcText(document.text, frame, options);
     if (!text)
-        return Utils::Failure{QLatin1String("Cannot write \"") + document.path +
-                              QLatin1String("\": ") + text.reason() + u'.'};
+        return Utils::Failure{QLatin1String("Cannot write \"") + path + QLatin1String("\": ") +
+                              text.reason() + u'.'};
     QString error;
-    return Utils::FileUtils::writeFile(document.path, *text, &error) ? Utils::Result<void>()
-                                                                     : Utils::Failure{error};
+    return Utils::FileUtils::makePath(QFileInfo(path).absolutePath(), &error) &&
+                   Utils::FileUtils::writeFile(path, *text, &error)
+               ? Utils::Result<void>()
+               : Utils::Failure{error};
 }
 
 Utils::Result<QVariantMap> readEntries(const QString &path, QByteArray *text)

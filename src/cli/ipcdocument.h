@@ -48,15 +48,15 @@ struct IpcDocument {
 // Where a run puts its results: the folder that the user names, or that of the file.
 QString outputFolder(const IpcDocument &document, const QString &outDir);
 
-// Writes a configuration file and the folder that it is in. A failure is a sentence with path and
-// reason.
+// Writes a new configuration file and the folder that it is in. A failure is a sentence with path
+// and reason.
 Utils::Result<void> writeConfiguration(const QString &path, const QVariantMap &header,
                                        const TARVOORIXM1::OptionMap &options);
 
-// Writes the file of a document with other entries; its comments stay. A failure is a sentence with
-// path and reason.
-Utils::Result<void> writeEdited(const IpcDocument &document, const QVariantMap &frame,
-                                const TARVOORIXM1::OptionMap &options);
+// Writes a document with other entries into its own file or another one, and the folder that this
+// is in; its comments stay. A failure is a sentence with path and reason.
+Utils::Result<void> writeEdited(const IpcDocument &document, const QString &path,
+                                const QVariantMap &frame, const TARVOORIXM1::OptionMap &options);
 
 // Every entry of a configuration file by its full key, whatever its version; `*text`: the file as
 // it is. A failure is a sentence with path and reason.

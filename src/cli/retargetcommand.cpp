@@ -89,7 +89,7 @@ int runRetarget(Environment &environment, const RetargetArguments &arguments)
         printError(note);
     const bool writes = !arguments.dryRun && (changed || !inPlace);
     const Utils::Result<void> written =
-        writes ? writeConfiguration(target, document.movedHeader(device.id()), moved.options)
+        writes ? writeEdited(document, target, document.movedHeader(device.id()), moved.options)
                : Utils::Result<void>();
     if (!written) {
         printProblem({written.reason(), {}, target});

@@ -97,7 +97,7 @@ int runUpgrade(Environment &environment, const UpgradeArguments &arguments)
         QString error;
         const bool isCopied = Utils::FileUtils::writeFile(copy, document.text, &error);
         const Utils::Result<void> written =
-            isCopied ? writeEdited(document, result.frame, result.options)
+            isCopied ? writeEdited(document, document.path, result.frame, result.options)
                      : Utils::Result<void>(Utils::Failure{error});
         if (!written) {
             printProblem({written.reason(), {}, arguments.file});

@@ -88,6 +88,8 @@ private Q_SLOTS:
     void movesNoOtherIp();
     void aDryRunOnlyTells();
     void movesIntoAnotherFile();
+    void whatChangesAFileKeepsItsComments_data();
+    void whatChangesAFileKeepsItsComments();
     void curesAnUnknownDevice();
     void unwritableOutputIsAFailure_data();
     void unwritableOutputIsAFailure();
@@ -909,6 +911,48 @@ void tst_Cli::movesIntoAnotherFile()
     QVERIFY(refused.err.contains(QLatin1String("--force")));
     QCOMPARE(TestSupport::contentsOf(path("other/moved.ipc")), moved);
     QCOMPARE(run(arguments + words({"--force"})).status, 0);
+}
+
+void tst_Cli::whatChangesAFileKeepsItsComments_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("written");
+
+    const auto row = [](const char *name, std::initializer_list<const char *> arguments,
+                        const char *written = "node.ipc") {
+        QTest::newRow(name) << words(arguments) << QString::fromUtf8(written);
+    };
+    row("set", {"set", "node.ipc", "Enable UART0=true"});
+    row("unset", {"unset", "node.ipc", "Enable GPIO"});
+    row("minimize", {"minimize", "node.ipc"});
+    row("upgrade", {"upgrade", "node.ipc", "--fix"});
+    row("retarget", {"retarget", "node.ipc", "--device", "TV1KL-5A-QFN48-C5/I4"});
+    row("retarget into another file",
+        {"retarget", "node.ipc", "--device", "TV1KL-5A-QFN48-C5/I4", "--out", "new/other.ipc"},
+        "new/other.ipc");
+    row("firmware", {"firmware", "app.bin", "node.ipc", "--initialize"});
+}
+
+void tst_Cli::whatChangesAFileKeepsItsComments()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, written);
+
+    // "enable spi" is what an upgrade mends, "Enable CAN" what a minimisation drops.
+    const QByteArray before("; of Ann\n[General]\n; until the board is there\n"
+                            "target_device=TV2KR-18C-QFN88P-C8/I7\n"
+                            "type=tarvo.tarvo_orix_m1\nversion=1.0\n\n[Config]\n"
+                            "Enable%20CAN=false\n; ask Ben\nEnable%20GPIO=true\n"
+                            "enable%20spi=true\n; the end\n");
+    QVERIFY(TestSupport::write(path("node.ipc"), before));
+    QVERIFY(TestSupport::write(path("app.bin"), QByteArray(64, '\0')));
+    const Run result = run(arguments);
+    QVERIFY2(result.status == 0, qPrintable(result.err + result.out));
+    const QByteArray after = TestSupport::contentsOf(m_dir->filePath(written));
+    QVERIFY(after != before);
+    for (const char *kept : {"; of Ann\n", "\n; until the board is there\ntarget_device=",
+                             "\n; ask Ben\n", "\n; the end\n"})
+        QVERIFY2(after.count(kept) == 1, after.constData());
 }
 
 void tst_Cli::curesAnUnknownDevice()
