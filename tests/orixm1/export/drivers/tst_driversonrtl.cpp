@@ -184,7 +184,7 @@ public:
         uc_reg_write(m_engine, UC_ARM_REG_SP, &stack);
         uc_reg_write(m_engine, UC_ARM_REG_LR, &back);
         const uc_err error =
-            uc_emu_start(m_engine, header.e_entry | 1, returnAddress, 60 * UC_SECOND_SCALE, 0);
+            uc_emu_start(m_engine, header.e_entry | 1, returnAddress, 600 * UC_SECOND_SCALE, 0);
         m_bench->sync();
         quint32 at = 0;
         uc_reg_read(m_engine, UC_ARM_REG_PC, &at);
