@@ -73,7 +73,7 @@ time-scales) # none of the board changes what the model does, wherever the board
     play() { # FILES [DEFINE]
         # shellcheck disable=SC2086
         iverilog -g2005 -DHAVE_CortexM1Core "-D${2:-X}" -s sensor_node_tb -o sim $1
-        result=$(timeout 60 vvp -n sim "+script=$examples/sensor-node-tb.play" +finish) || fail "$1: no end"
+        result=$(timeout 250 vvp -n sim "+script=$examples/sensor-node-tb.play" +finish) || fail "$1: no end"
         [[ $result == PASS ]] || fail "$1: $result"
     }
     play "none.v $model $bfm"
@@ -104,7 +104,7 @@ V
     printf 'error 0x%s\n' 41000000 41000004 42000010 70000000 A0000000 5000A000 > script
     echo 'read 0x40000004 0' >> script
     iverilog -g2005 -DHAVE_CortexM1Core -s tb -o sim all/tarvo_orix_m1.vo "$bfm" tb.v
-    result=$(timeout 60 vvp -n sim +script=script +finish) || fail "no end: $result"
+    result=$(timeout 250 vvp -n sim +script=script +finish) || fail "no end: $result"
     [[ $(tail -n 1 <<< "$result") == PASS ]] || fail "$result"
     for said in "u_can: no model of can_core is there, so that an access gets an error response (address 41000004)" \
         "no model of mac is" "no model of PSRAM_Memory_Interface_Top is" "no model of DDR3_Controller_138K is" \
@@ -123,10 +123,10 @@ endmodule
 V
     echo 'read 0x41000000 0xCA9CA000 0xFFFFF000' > script
     iverilog -g2005 -DHAVE_CortexM1Core -DHAVE_can_core -s tb -o sim all/tarvo_orix_m1.vo can.v "$bfm" tb.v
-    [[ $(timeout 60 vvp -n sim +script=script +finish) == PASS ]] || fail "the real module is not there"
+    [[ $(timeout 250 vvp -n sim +script=script +finish) == PASS ]] || fail "the real module is not there"
     # Without a processor there is no access, and that is said.
     iverilog -g2005 -s tb -o sim all/tarvo_orix_m1.vo tb.v
-    timeout 60 vvp -n sim +stop > said
+    timeout 250 vvp -n sim +stop > said
     grep -q "u_core: no model of CortexM1Core is there, so that its outputs are open" said || fail "$(head said)"
     ;;
 vhdl) # two models in one design, and a block that takes the place of an empty one

@@ -27,7 +27,7 @@ else
 fi
 
 play() { # SCRIPT: prints what the simulation prints
-    timeout 120 vvp -n sim "+script=$1" +finish
+    timeout 250 vvp -n sim "+script=$1" +finish
 }
 
 if [[ $case != mistakes ]]; then

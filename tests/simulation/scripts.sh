@@ -27,14 +27,14 @@ analyse() { # STANDARD BOARD.vhd ENTITY...: what stands before the model
 }
 
 verilog() { # SCRIPT
-    timeout 60 vvp -n sim "+script=$1" +finish 2>&1
+    timeout 250 vvp -n sim "+script=$1" +finish 2>&1
 }
 vhdl() { # SCRIPT [STANDARD]
-    timeout 60 ghdl -r "--std=${2:-93}" "--workdir=work${2:-93}" "$top" "-gscript=$1" 2>&1 || fail "$1: the simulation"
+    timeout 250 ghdl -r "--std=${2:-93}" "--workdir=work${2:-93}" "$top" "-gscript=$1" 2>&1 || fail "$1: the simulation"
 }
 
 core() { # SCRIPT [ARGUMENT…]
-    timeout 60 vvp -n -M "$model" -m cortexm1core sim-core "+script=$1" +finish "${@:2}" 2>&1
+    timeout 250 vvp -n -M "$model" -m cortexm1core sim-core "+script=$1" +finish "${@:2}" 2>&1
 }
 # What a bus-functional model prints, as the processor's model says it.
 as_core() { # SCRIPT
