@@ -32,7 +32,7 @@ if [[ ${1:-} == all || ${1:-} == first ]]; then
 fi
 
 prove() { # FOLDER with the sources, and what ABC tries; sets verdict
-    local folder=$tmp/sources way module defines="" port
+    local folder=$tmp/sources way module defines="" port set=proof
     # A stand-in is a black box of netlists, and has an inside here.
     rm -rf "$folder"
     mkdir "$folder"
@@ -45,7 +45,9 @@ prove() { # FOLDER with the sources, and what ABC tries; sets verdict
     {
         echo "read_verilog -formal -DMODULE=$module -DMOST_WAITS=$waits$defines -I$here -I$checkers -I$folder \
 $checkers/apb_checker.v $checkers/ahb_lite_checker.v $here/$harness.v $(printf " $folder/%s" $files)"
-        [[ -z $parameters ]] || echo "chparam$parameters $module"
+        # Surroundings that a parameter changes have it too, and set it.
+        grep -q '^module proof #' "$here/$harness.v" || set=$module
+        [[ -z $parameters ]] || echo "chparam$parameters $set"
         cat << 'END'
 hierarchy -check -top proof
 proc
@@ -85,8 +87,8 @@ END
 
 prove "$rtl" "scorr; pdr"
 [[ $verdict == holds ]] || {
-    [[ -z ${VCD:-} ]] || yosys -Q -T -q -p "read_rtlil $tmp/circuit.il; sat -prove-asserts -set-assumes -set-init-undef -seq 1 \
-        -maxsteps 30 -tempinduct-baseonly -dump_vcd $VCD" > "$tmp/sat.log" 2>&1 || true
+    [[ -z ${VCD:-} ]] || yosys -Q -T -q -p "read_rtlil $tmp/circuit.il; sat -prove-asserts -set-assumes -set-init-zero -seq 1 \
+        -maxsteps 30 -tempinduct-baseonly -show-public -dump_vcd $VCD" > "$tmp/sat.log" 2>&1 || true
     fail "$subject breaks a rule"
 }
 echo "proven: $subject"
