@@ -1,7 +1,11 @@
 // The interconnect with decoder and default slave, whatever the slaves do; only an error without its first cycle is none of theirs.
 // The master sees the bus of one slave, each access ends within the limit that is set, and a slave that did not end its own is not
 // selected until it is ready, which is nothing to the others. What is said of slave n is proven for each.
-module proof (
+// With FULL = 0 nothing ends for a slave: it may wait for ever, whatever limit is set, and is always selected. That it then ends an
+// error response in the second cycle is taken for granted, and nothing else of it.
+module proof #(
+    parameter FULL = 1
+) (
     input wire         clk, rstn, hwrite,
     input wire [31:0]  haddr, hwdata,
     input wire [1:0]   htrans,
@@ -19,7 +23,7 @@ module proof (
     wire        hready, hresp, late;
     wire [1:0]  cause;
     wire [15:0] hsel_s;
-    ahb_interconnect #(.BRIDGES(BRIDGES)) dut (
+    ahb_interconnect #(.FULL(FULL), .BRIDGES(BRIDGES)) dut (
         .HCLK(clk), .HRESETn(rstn), .timeout(timeout), .HADDR_REGION(haddr[31:24]), .HTRANS(htrans),
         .HRDATA(hrdata), .HREADY(hready), .HRESP(hresp), .cause(cause), .late(late),
         .hsel_s(hsel_s), .hrdata_s(hrdata_s), .hreadyout_s(hreadyout_s), .hresp_s(hresp_s), .vacant_s(vacant_s),
@@ -60,7 +64,7 @@ module proof (
             second    <= 1'b0;
             timed_out <= 1'b0;
         end else begin
-            rest      <= hready ? timeout : rest - {17'd0, |rest};
+            rest      <= FULL == 0 ? 18'd0 : hready ? timeout : rest - {17'd0, |rest};
             due       <= ~hready & rest == 18'd1;
             second    <= ~hready & hresp;
             timed_out <= ~hready & due & owner[n] & ~hresp_s[n];
@@ -79,6 +83,8 @@ module proof (
     always @*
         if (rstn) begin
             assume ((owner & hresp_s & hreadyout_s) == 16'd0 || second);
+            if (FULL == 0)
+                assume ((owner & hresp_s & hreadyout_s) == owner || !second);
             // Whatever a slave does.
             assert (late == due);
             assert (!(due && !hready) || hresp);

@@ -4,8 +4,9 @@
 # RTL is the folder of the sources, SUBJECT a row of subjects.txt. CHANGE is "FILE: " and a sed script for that source; each must be
 # noticed: the proof must fail. Where CHANGE is "all" or "first", the row's own changes, the lines below it, or the first one, are made.
 # Each proof holds for any number of clock cycles: Yosys makes one circuit of module, checkers and any surroundings, and the property
-# directed reachability of ABC closes the induction. With VCD=FILE in the environment a proof that fails leaves what it found there,
-# as the shortest run of Yosys' own "sat".
+# directed reachability of ABC closes the induction. Surroundings that look inside the module say which states can be, and one step of
+# induction by Yosys' own "sat" is the proof. With VCD=FILE in the environment a proof that fails leaves what it found there,
+# as the shortest run of "sat".
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 checkers=$here/../../../data/tarvo_orix_m1/simulation/checkers
@@ -32,7 +33,7 @@ if [[ ${1:-} == all || ${1:-} == first ]]; then
 fi
 
 prove() { # FOLDER with the sources, and what ABC tries; sets verdict
-    local folder=$tmp/sources way module defines="" port
+    local folder=$tmp/sources way module defines="" port set=proof
     # A stand-in is a black box of netlists, and has an inside here.
     rm -rf "$folder"
     mkdir "$folder"
@@ -45,7 +46,9 @@ prove() { # FOLDER with the sources, and what ABC tries; sets verdict
     {
         echo "read_verilog -formal -DMODULE=$module -DMOST_WAITS=$waits$defines -I$here -I$checkers -I$folder \
 $checkers/apb_checker.v $checkers/ahb_lite_checker.v $here/$harness.v $(printf " $folder/%s" $files)"
-        [[ -z $parameters ]] || echo "chparam$parameters $module"
+        # Surroundings that a parameter changes have it too, and set it.
+        grep -q '^module proof #' "$here/$harness.v" || set=$module
+        [[ -z $parameters ]] || echo "chparam$parameters $set"
         cat << 'END'
 hierarchy -check -top proof
 proc
@@ -68,6 +71,18 @@ write_aiger -zinit circuit.aig
 END
     } > "$tmp/circuit.ys"
     (cd "$tmp" && yosys -Q -T -q -s circuit.ys > yosys.log 2>&1) || { tail -n 5 "$tmp/yosys.log" >&2; fail "Yosys"; }
+    if grep -q hierconn "$here/$harness.v"; then
+        (cd "$tmp" && timeout 600 yosys -Q -T -p "read_rtlil circuit.il; sat -prove-asserts -set-assumes -tempinduct -seq 1 -maxsteps 1" \
+            > sat.log 2>&1) || true
+        verdict=broken
+        if grep -q '^Induction step proven: SUCCESS' "$tmp/sat.log"; then
+            verdict=holds
+        elif ! grep -qE '^(SAT temporal induction proof finished|Reached maximum number of time steps)' "$tmp/sat.log"; then
+            tail -n 5 "$tmp/sat.log" >&2
+            fail "nothing was decided"
+        fi
+        return
+    fi
     # A short run mostly shows a mistake.
     for way in "${@:2}"; do
         (cd "$tmp" && timeout 300 yosys-abc -c "read_aiger circuit.aig; fold; strash; $way" > abc.log 2>&1) || true
@@ -85,8 +100,8 @@ END
 
 prove "$rtl" "scorr; pdr"
 [[ $verdict == holds ]] || {
-    [[ -z ${VCD:-} ]] || yosys -Q -T -q -p "read_rtlil $tmp/circuit.il; sat -prove-asserts -set-assumes -set-init-undef -seq 1 \
-        -maxsteps 30 -tempinduct-baseonly -dump_vcd $VCD" > "$tmp/sat.log" 2>&1 || true
+    [[ -z ${VCD:-} ]] || yosys -Q -T -q -p "read_rtlil $tmp/circuit.il; sat -prove-asserts -set-assumes -set-init-zero -seq 1 \
+        -maxsteps 30 -tempinduct-baseonly -show-public -dump_vcd $VCD" > "$tmp/sat.log" 2>&1 || true
     fail "$subject breaks a rule"
 }
 echo "proven: $subject"
