@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibrary>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -72,6 +73,43 @@ QList<int> readTabs(const EditorTabs *tabs)
     return read;
 }
 
+// The fonts' library, of which a configuration's files and number of fonts are asked.
+class FontLibrary
+{
+public:
+    struct Configuration;
+
+    template <typename Result, typename... Arguments>
+    Result call(const char *function, Arguments... arguments)
+    {
+        const auto address =
+            reinterpret_cast<Result (*)(Arguments...)>(m_library.resolve(function));
+        if (!address)
+            qFatal("there is no %s", function);
+        return address(arguments...);
+    }
+
+    QList<QByteArray> texts(const char *function, Configuration *configuration)
+    {
+        struct Texts;
+        auto *list = call<Texts *>(function, configuration);
+        QList<QByteArray> result;
+        while (const char *text = call<char *>("FcStrListNext", list))
+            result.append(text);
+        call<void>("FcStrListDone", list);
+        return result;
+    }
+
+    int fontsOf(Configuration *configuration)
+    {
+        constexpr int system = 0;
+        return *call<int *>("FcConfigGetFonts", configuration, system);
+    }
+
+private:
+    QLibrary m_library{QStringLiteral("fontconfig"), 1};
+};
+
 } // namespace
 
 // What a start does is counted here; the benches time it.
@@ -97,6 +135,24 @@ private Q_SLOTS:
         QVERIFY(mapped.contains("libQt5Widgets"));
         for (const char *later : {"/imageformats/", "/iconengines/", "SyntaxHighlighting"})
             QVERIFY2(!mapped.contains(later), later);
+    }
+
+    void theFontsAreTheSystems()
+    {
+        readFontConfiguration().wait();
+        FontLibrary library;
+        using Configuration = FontLibrary::Configuration;
+        auto *current = library.call<Configuration *>("FcConfigGetCurrent");
+        auto *usual = library.call<Configuration *>("FcInitLoadConfigAndFonts");
+        for (const char *list : {"FcConfigGetConfigFiles", "FcConfigGetCacheDirs",
+                                 "FcConfigGetFontDirs", "FcConfigGetConfigDirs"}) {
+            const QList<QByteArray> files = library.texts(list, current);
+            QVERIFY2(!files.isEmpty(), list);
+            QCOMPARE(files, library.texts(list, usual));
+        }
+        QVERIFY(library.fontsOf(current) > 0);
+        QCOMPARE(library.fontsOf(current), library.fontsOf(usual));
+        library.call<void>("FcConfigDestroy", usual);
     }
 
     void theStartPageIsFilledOnceForWhatIsSeen()
