@@ -5,6 +5,7 @@
 #include <workbench/widgets/fontconfiguration.h>
 #include <workbench/widgets/infobar.h>
 #include <workbench/widgets/programstyle.h>
+#include <workbench/widgets/symbolicon.h>
 #include <workbench/window/mainwindow.h>
 #include <workbench/window/startpage.h>
 
@@ -12,7 +13,10 @@
 #include <QDir>
 #include <QFile>
 #include <QLibrary>
+#include <QPainter>
+#include <QRegularExpression>
 #include <QSettings>
+#include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -274,6 +278,50 @@ private Q_SLOTS:
         QVERIFY(write(files.at(0), "back\n"));
         gone->checkDisk();
         QCOMPARE(gone->editor()->toPlainText(), QStringLiteral("back\n"));
+    }
+
+    // What the build takes from a symbol's file is what the file draws.
+    void symbolsLookAsTheirFilesDo()
+    {
+        QVERIFY(!symbolIcon(QStringLiteral("open")).isNull());
+        const QDir folder(QStringLiteral(":/workbench/icons"));
+        const QStringList names = folder.entryList(QDir::Files);
+        QVERIFY(names.size() > 20);
+        const QPalette palette = QGuiApplication::palette();
+        const struct {
+            QIcon::Mode mode;
+            QColor ink;
+        } cases[] = {{QIcon::Normal, palette.color(QPalette::Active, QPalette::WindowText)},
+                     {QIcon::Disabled, palette.color(QPalette::Disabled, QPalette::WindowText)},
+                     {QIcon::Selected, palette.color(QPalette::HighlightedText)}};
+        const QRegularExpression ownColour(QStringLiteral("\"#[0-9a-fA-F]{3,6}\""));
+        for (const QString &name : names) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString svg = QString::fromUtf8(file.readAll());
+            for (const auto &row : cases) {
+                QString coloured = svg;
+                coloured.replace(QLatin1String("currentColor"), row.ink.name());
+                if (row.mode == QIcon::Selected)
+                    coloured.replace(ownColour, u'"' + row.ink.name() + u'"');
+                QSvgRenderer renderer(coloured.toUtf8());
+                for (int side : {12, 16, 20, 24, 25, 32, 48, 64}) {
+                    QImage expected(side, side, QImage::Format_ARGB32_Premultiplied);
+                    expected.fill(Qt::transparent);
+                    QPainter painter(&expected);
+                    renderer.render(&painter, QRectF(0, 0, side, side));
+                    painter.end();
+                    const QImage drawn = symbolIcon(QFileInfo(name).completeBaseName())
+                                             .pixmap(QSize(side, side), row.mode)
+                                             .toImage()
+                                             .convertToFormat(expected.format());
+                    QVERIFY2(drawn == expected, qPrintable(QStringLiteral("%1, mode %2, %3 pixels")
+                                                               .arg(name)
+                                                               .arg(row.mode)
+                                                               .arg(side)));
+                }
+            }
+        }
     }
 
     void theProgramsOwnPicturesAreThere()
