@@ -5,13 +5,18 @@
 #include <workbench/widgets/fontconfiguration.h>
 #include <workbench/widgets/infobar.h>
 #include <workbench/widgets/programstyle.h>
+#include <workbench/widgets/symbolicon.h>
 #include <workbench/window/mainwindow.h>
 #include <workbench/window/startpage.h>
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibrary>
+#include <QPainter>
+#include <QRegularExpression>
 #include <QSettings>
+#include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -72,6 +77,43 @@ QList<int> readTabs(const EditorTabs *tabs)
     return read;
 }
 
+// The fonts' library, of which a configuration's files and number of fonts are asked.
+class FontLibrary
+{
+public:
+    struct Configuration;
+
+    template <typename Result, typename... Arguments>
+    Result call(const char *function, Arguments... arguments)
+    {
+        const auto address =
+            reinterpret_cast<Result (*)(Arguments...)>(m_library.resolve(function));
+        if (!address)
+            qFatal("there is no %s", function);
+        return address(arguments...);
+    }
+
+    QList<QByteArray> texts(const char *function, Configuration *configuration)
+    {
+        struct Texts;
+        auto *list = call<Texts *>(function, configuration);
+        QList<QByteArray> result;
+        while (const char *text = call<char *>("FcStrListNext", list))
+            result.append(text);
+        call<void>("FcStrListDone", list);
+        return result;
+    }
+
+    int fontsOf(Configuration *configuration)
+    {
+        constexpr int system = 0;
+        return *call<int *>("FcConfigGetFonts", configuration, system);
+    }
+
+private:
+    QLibrary m_library{QStringLiteral("fontconfig"), 1};
+};
+
 } // namespace
 
 // What a start does is counted here; the benches time it.
@@ -97,6 +139,24 @@ private Q_SLOTS:
         QVERIFY(mapped.contains("libQt5Widgets"));
         for (const char *later : {"/imageformats/", "/iconengines/", "SyntaxHighlighting"})
             QVERIFY2(!mapped.contains(later), later);
+    }
+
+    void theFontsAreTheSystems()
+    {
+        readFontConfiguration().wait();
+        FontLibrary library;
+        using Configuration = FontLibrary::Configuration;
+        auto *current = library.call<Configuration *>("FcConfigGetCurrent");
+        auto *usual = library.call<Configuration *>("FcInitLoadConfigAndFonts");
+        for (const char *list : {"FcConfigGetConfigFiles", "FcConfigGetCacheDirs",
+                                 "FcConfigGetFontDirs", "FcConfigGetConfigDirs"}) {
+            const QList<QByteArray> files = library.texts(list, current);
+            QVERIFY2(!files.isEmpty(), list);
+            QCOMPARE(files, library.texts(list, usual));
+        }
+        QVERIFY(library.fontsOf(current) > 0);
+        QCOMPARE(library.fontsOf(current), library.fontsOf(usual));
+        library.call<void>("FcConfigDestroy", usual);
     }
 
     void theStartPageIsFilledOnceForWhatIsSeen()
@@ -218,6 +278,50 @@ private Q_SLOTS:
         QVERIFY(write(files.at(0), "back\n"));
         gone->checkDisk();
         QCOMPARE(gone->editor()->toPlainText(), QStringLiteral("back\n"));
+    }
+
+    // What the build takes from a symbol's file is what the file draws.
+    void symbolsLookAsTheirFilesDo()
+    {
+        QVERIFY(!symbolIcon(QStringLiteral("open")).isNull());
+        const QDir folder(QStringLiteral(":/workbench/icons"));
+        const QStringList names = folder.entryList(QDir::Files);
+        QVERIFY(names.size() > 20);
+        const QPalette palette = QGuiApplication::palette();
+        const struct {
+            QIcon::Mode mode;
+            QColor ink;
+        } cases[] = {{QIcon::Normal, palette.color(QPalette::Active, QPalette::WindowText)},
+                     {QIcon::Disabled, palette.color(QPalette::Disabled, QPalette::WindowText)},
+                     {QIcon::Selected, palette.color(QPalette::HighlightedText)}};
+        const QRegularExpression ownColour(QStringLiteral("\"#[0-9a-fA-F]{3,6}\""));
+        for (const QString &name : names) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString svg = QString::fromUtf8(file.readAll());
+            for (const auto &row : cases) {
+                QString coloured = svg;
+                coloured.replace(QLatin1String("currentColor"), row.ink.name());
+                if (row.mode == QIcon::Selected)
+                    coloured.replace(ownColour, u'"' + row.ink.name() + u'"');
+                QSvgRenderer renderer(coloured.toUtf8());
+                for (int side : {12, 16, 20, 24, 25, 32, 48, 64}) {
+                    QImage expected(side, side, QImage::Format_ARGB32_Premultiplied);
+                    expected.fill(Qt::transparent);
+                    QPainter painter(&expected);
+                    renderer.render(&painter, QRectF(0, 0, side, side));
+                    painter.end();
+                    const QImage drawn = symbolIcon(QFileInfo(name).completeBaseName())
+                                             .pixmap(QSize(side, side), row.mode)
+                                             .toImage()
+                                             .convertToFormat(expected.format());
+                    QVERIFY2(drawn == expected, qPrintable(QStringLiteral("%1, mode %2, %3 pixels")
+                                                               .arg(name)
+                                                               .arg(row.mode)
+                                                               .arg(side)));
+                }
+            }
+        }
     }
 
     void theProgramsOwnPicturesAreThere()

@@ -4,6 +4,8 @@
 #include "config/latin1literal.h"
 #include "configuration.h"
 
+#include <reading/filelist.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -116,7 +118,7 @@ QVariantList simulationExamples(const QString &dataPath)
     const QDir firmware(folder.filePath(QStringLiteral("firmware")));
     QStringList files;
     const QStringList names =
-        firmware.entryList({QStringLiteral("*.c"), QStringLiteral("*.h")}, QDir::Files, QDir::Name);
+        Reading::filesEndingIn(firmware, {QLatin1String(".c"), QLatin1String(".h")});
     for (const QString &name : names)
         files.append(firmware.filePath(name));
     QVariantList list;

@@ -5,10 +5,10 @@
 #include "widgets/assistance.h"
 #include "widgets/contextkeys.h"
 #include "widgets/focusforward.h"
+#include "widgets/wrappedlabel.h"
 
 #include <QAction>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
@@ -25,7 +25,7 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     , m_filter(new QSortFilterProxyModel(this))
     , m_text(new QLineEdit)
     , m_tree(new QTreeView)
-    , m_details(new QLabel)
+    , m_details(new WrappedLabel)
     , m_create(new QPushButton(tr("&Create IP…")))
     , m_createAction(new QAction(tr("Create IP…"), this))
     , m_help(new QAction(tr("Help on This IP"), this))
@@ -67,9 +67,6 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
             &CatalogueView::showDetails);
 
     m_details->setObjectName(QStringLiteral("catalogueDetails"));
-    m_details->setTextFormat(Qt::PlainText);
-    m_details->setWordWrap(true);
-    m_details->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_details->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
     m_create->setObjectName(QStringLiteral("createIpButton"));
@@ -133,17 +130,17 @@ void CatalogueView::showDetails()
     Q_EMIT selectionChanged();
     m_help->setEnabled(ip >= 0 && !m_catalogue.entries().at(ip).help.isEmpty());
     if (ip < 0) {
-        m_details->setText(m_catalogue.entries().isEmpty()
-                               ? tr("No plug-in offers an IP. Tools > Plug-ins says why.")
-                               : tr("Select an IP to see what it is."));
+        m_details->showSelectable(m_catalogue.entries().isEmpty()
+                                      ? tr("No plug-in offers an IP. Tools > Plug-ins says why.")
+                                      : tr("Select an IP to see what it is."));
         m_create->setEnabled(false);
         m_createAction->setEnabled(false);
         return;
     }
     const QString reason = index.data(CatalogueModel::ReasonRole).toString();
     const QString summary = m_catalogue.entries().at(ip).summary;
-    m_details->setText(reason.isEmpty() ? summary
-                                        : QString(summary + QLatin1String("\n\n") + reason));
+    m_details->showSelectable(reason.isEmpty() ? summary
+                                               : QString(summary + QLatin1String("\n\n") + reason));
     m_create->setEnabled(index.data(CatalogueModel::SupportedRole).toBool());
     m_createAction->setEnabled(m_create->isEnabled());
 }

@@ -5,7 +5,6 @@
 #include <QWidget>
 
 QT_FORWARD_DECLARE_CLASS(QAction)
-QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QSortFilterProxyModel)
@@ -16,6 +15,7 @@ namespace Workbench
 
 class CatalogueModel;
 class IpCatalogue;
+class WrappedLabel;
 
 // The catalogue with a filter and, below it, what the selected IP is and why it cannot be made.
 class CatalogueView : public QWidget
@@ -47,7 +47,7 @@ private:
     QSortFilterProxyModel *m_filter;
     QLineEdit *m_text;
     QTreeView *m_tree;
-    QLabel *m_details;
+    WrappedLabel *m_details;
     QPushButton *m_create;
     QAction *m_createAction;
     QAction *m_help;

@@ -7,6 +7,7 @@
 
 #include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
+#include <reading/filelist.h>
 #include <utils/fileutils.h>
 
 #include <QCoreApplication>
@@ -312,7 +313,7 @@ bool IpCatalogue::openIp(int index, const QString &folder, const QString &ipcFil
 QString IpCatalogue::targetOf(int index) const
 {
     const QDir folder(m_cores.at(size_t(index)).dataFolder);
-    const QStringList names = folder.entryList({QStringLiteral("*.ipspec")}, QDir::Files);
+    const QStringList names = Reading::filesEndingIn(folder, {QLatin1String(".ipspec")});
     for (const QString &name : names) {
         const QVariantMap descriptor = IPCore::processIPInfoSpec(folder.filePath(name));
         if (descriptor.value(QStringLiteral("ipcore.id")).toString() == m_entries.at(index).id)

@@ -5,6 +5,7 @@
 #include <ipcore/ipcore.h>
 #include <ipplugin/baseipcoreinterface.h>
 #include <ipplugin/ipplugin.h>
+#include <reading/filelist.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,8 +29,7 @@ QString helpOf(BaseIPCoreInterface &core, const QString &dataFolder)
 {
     const QString key = QStringLiteral("ipcore.doc.help");
     QString help = core.getIpinfoMap().value(key).toString();
-    const QStringList names =
-        QDir(dataFolder).entryList({QStringLiteral("*.ipspec")}, QDir::Files, QDir::Name);
+    const QStringList names = Reading::filesEndingIn(dataFolder, {QLatin1String(".ipspec")});
     for (const QString &name : names) {
         if (!help.isEmpty())
             break;

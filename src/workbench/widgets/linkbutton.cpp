@@ -7,13 +7,6 @@
 namespace Workbench
 {
 
-namespace
-{
-
-constexpr int textFlags = int(Qt::AlignLeft) | int(Qt::AlignTop) | int(Qt::TextWordWrap);
-
-} // namespace
-
 LinkButton::LinkButton(const QString &text, const QString &description, const QIcon &icon,
                        QWidget *parent)
     : QCommandLinkButton(QString(text).replace(u'&', QLatin1String("&&")), description, parent)
@@ -43,31 +36,24 @@ int LinkButton::iconSide() const
     return fontMetrics().height() * 5 / 4;
 }
 
+void LinkButton::takeTexts() const
+{
+    m_title.set(title(), titleFont(), layoutDirection());
+    m_description.set(description(), font(), layoutDirection());
+}
+
 LinkButton::Places LinkButton::places(int width) const
 {
-    if (m_placesTitle != text() || m_placesDescription != description())
-        m_places.clear();
-    m_placesTitle = text();
-    m_placesDescription = description();
-    const auto known = m_places.constFind(width);
-    if (known != m_places.constEnd())
-        return *known;
+    takeTexts();
     const int left = 2 * gap() + iconSide();
-    const QRect room(left, gap(), qMax(1, width - left - gap()), 0x4000);
+    const int room = qMax(1, width - left - gap());
     Places result;
-    result.title = QFontMetrics(titleFont()).boundingRect(room, textFlags, title());
-    result.title.setWidth(room.width()); // so that it breaks in the same places when it is drawn
+    result.title = {left, gap(), room, m_title.sizeFor(room).height()};
     const int below = result.title.bottom() + 1;
-    if (description().isEmpty()) {
+    if (description().isEmpty())
         result.description = {left, below, 0, 0};
-    } else {
-        result.description = fontMetrics().boundingRect(
-            room.translated(0, below + gap() / 3 - gap()), textFlags, description());
-        result.description.setWidth(room.width());
-    }
-    if (m_places.size() > 16) // a window that is being resized
-        m_places.clear();
-    m_places.insert(width, result);
+    else
+        result.description = {left, below + gap() / 3, room, m_description.sizeFor(room).height()};
     return result;
 }
 
@@ -79,8 +65,8 @@ int LinkButton::heightForWidth(int width) const
 
 QSize LinkButton::sizeHint() const
 {
-    const int texts = qMax(QFontMetrics(titleFont()).horizontalAdvance(title()),
-                           fontMetrics().horizontalAdvance(description()));
+    takeTexts();
+    const int texts = qMax(m_title.naturalWidth(), m_description.naturalWidth());
     const int width = qMin(texts + 3 * gap() + iconSide() + 1, 60 * fontMetrics().height());
     return {width, heightForWidth(width)};
 }
@@ -95,7 +81,6 @@ void LinkButton::changeEvent(QEvent *event)
 {
     QCommandLinkButton::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        m_places.clear();
         setIconSize({iconSide(), iconSide()});
         updateGeometry();
     }
@@ -113,13 +98,10 @@ void LinkButton::paintEvent(QPaintEvent * /*event*/)
 
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     icon().paint(&painter, QRect(gap(), gap(), iconSide(), iconSide()), Qt::AlignCenter, mode);
-    painter.setFont(titleFont());
     const Places at = places(width());
-    painter.drawItemText(at.title, textFlags, option.palette, isEnabled(), title(),
-                         QPalette::ButtonText);
-    painter.setFont(font());
-    painter.drawItemText(at.description, textFlags, option.palette, isEnabled(), description(),
-                         QPalette::ButtonText);
+    painter.setPen(option.palette.color(QPalette::ButtonText));
+    m_title.draw(&painter, at.title);
+    m_description.draw(&painter, at.description);
 }
 
 } // namespace Workbench

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "wrappedtext.h"
+
 #include <QCommandLinkButton>
-#include <QHash>
 
 namespace Workbench
 {
@@ -38,10 +39,11 @@ private:
     };
     Places places(int width) const;
 
-    // By width, since a layout asks for the same few again and again; of these texts.
-    mutable QHash<int, Places> m_places;
-    mutable QString m_placesTitle;
-    mutable QString m_placesDescription;
+    // Both are as the button's texts and font are.
+    void takeTexts() const;
+
+    mutable WrappedText m_title;
+    mutable WrappedText m_description;
 };
 
 } // namespace Workbench

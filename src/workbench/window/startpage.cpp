@@ -5,6 +5,7 @@
 #include "project/project.h"
 #include "widgets/linkbutton.h"
 #include "widgets/symbolicon.h"
+#include "widgets/wrappedlabel.h"
 
 #include <QDir>
 #include <QEvent>
@@ -29,11 +30,9 @@ constexpr int ipsShown = 12;
 
 QLabel *makeLabel(const QString &text, qreal scale, bool bold)
 {
-    auto *label = new QLabel(text);
+    auto *label = new WrappedLabel(text);
     label->setProperty("scale", scale);
     label->setProperty("bold", bold);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
     return label;
 }
 
