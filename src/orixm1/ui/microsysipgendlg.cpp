@@ -132,13 +132,13 @@ void MicroSysIPGenDlg::setVisible(bool visible)
 {
     if (visible && !m_sized) {
         m_sized = true;
-        // What the title bar takes is not known before it is there. A screen that is not even wide
-        // enough is none of a desktop: there the system decides.
+        // What the title bar takes is not known before it is there.
         const int titleBar = qMax(40, 2 * fontMetrics().height());
         const QSize screenSize = screen()->availableSize();
         const int room = screenSize.height() - titleBar;
-        if (screenSize.width() >= width() && height() > room)
-            resize(width(), room);
+        constexpr int borders = 16;
+        if (height() > room)
+            resize(qMin(width(), screenSize.width() - borders), room);
     }
     QDialog::setVisible(visible);
 }
