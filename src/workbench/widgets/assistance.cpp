@@ -2,10 +2,13 @@
 
 #include "tr.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QRegularExpression>
 
 namespace Workbench
@@ -26,6 +29,25 @@ void addClearButton(QLineEdit *field)
     field->setClearButtonEnabled(true);
     if (auto *clear = field->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
         clear->setText(Tr::tr("Clear the text"));
+}
+
+static QAccessibleInterface *makeWindow(const QString &className, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    const bool isOurs = className.startsWith(QLatin1String("Workbench::"));
+    if (!isOurs || !widget || !widget->isWindow() || qobject_cast<QDialog *>(widget) ||
+        qobject_cast<QMainWindow *>(widget))
+        return nullptr;
+    return new QAccessibleWidget(widget, QAccessible::Window);
+}
+
+void installAccessibleWindows()
+{
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(&makeWindow);
+        return true;
+    }();
+    Q_UNUSED(isInstalled)
 }
 
 QString spokenLabel(const QString &label)

@@ -19,4 +19,8 @@ void addClearButton(QLineEdit *field);
 // What a label says: without the mark of its key, wherever a language has it, and without a colon.
 QString spokenLabel(const QString &label);
 
+// Has assistive tools take our windows that are neither dialogs nor main windows for windows, which
+// to Qt are parts that only fill a place. Each of them calls it.
+void installAccessibleWindows();
+
 } // namespace Workbench

@@ -5,7 +5,7 @@
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPalette>
+#include <QPair>
 #include <QPixmapCache>
 #include <QRegularExpression>
 #include <QSvgRenderer>
@@ -26,8 +26,9 @@ namespace
 class SymbolEngine : public QIconEngine
 {
 public:
-    explicit SymbolEngine(const QString &path)
+    explicit SymbolEngine(const QString &path, QPalette::ColorRole ink = QPalette::WindowText)
         : m_path(path)
+        , m_ink(ink)
     {
     }
 
@@ -70,7 +71,7 @@ public:
         return result;
     }
 
-    QIconEngine *clone() const override { return new SymbolEngine(m_path); }
+    QIconEngine *clone() const override { return new SymbolEngine(m_path, m_ink); }
 
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) const override
     {
@@ -78,28 +79,30 @@ public:
     }
 
 private:
-    static QColor ink(QIcon::Mode mode)
+    QColor ink(QIcon::Mode mode) const
     {
         const QPalette palette = QGuiApplication::palette();
         if (mode == QIcon::Selected)
             return palette.color(QPalette::HighlightedText);
         return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
-                             QPalette::WindowText);
+                             m_ink);
     }
 
     QString m_path;
+    QPalette::ColorRole m_ink;
 };
 
 } // namespace
 
-QIcon symbolIcon(const QString &name)
+QIcon symbolIcon(const QString &name, QPalette::ColorRole ink)
 {
-    static QHash<QString, QIcon> icons;
-    auto found = icons.find(name);
+    static QHash<QPair<QString, int>, QIcon> icons;
+    auto found = icons.find({name, ink});
     if (found == icons.end()) {
         initIcons();
         const QString path = QStringLiteral(":/workbench/icons/%1.svg").arg(name);
-        found = icons.insert(name, QFile::exists(path) ? QIcon(new SymbolEngine(path)) : QIcon());
+        found = icons.insert({name, ink},
+                             QFile::exists(path) ? QIcon(new SymbolEngine(path, ink)) : QIcon());
     }
     return *found;
 }
