@@ -153,7 +153,7 @@ void SoftwarePage::buildLeft(QWidget *left)
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionsMovable(false);
     m_tree->setIndentation(qMin(m_tree->indentation(), fontMetrics().height() * 3 / 4));
-    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
+    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     m_tree->header()->setSectionResizeMode(SoftwareModel::NameColumn, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(SoftwareModel::StateColumn,
                                            QHeaderView::ResizeToContents);

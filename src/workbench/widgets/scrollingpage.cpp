@@ -12,7 +12,7 @@ namespace
 {
 
 // The least that a page is given before it scrolls.
-constexpr int leastLetters = 67;
+constexpr int leastLetters = 64;
 constexpr int leastLines = 6;
 
 } // namespace
@@ -43,6 +43,15 @@ QSize ScrollingPage::minimumSizeHint() const
                      fontMetrics().height() * leastLines);
     const QLayout *layout = widget()->layout();
     return layout ? layout->totalMinimumSize().boundedTo(most) : most;
+}
+
+// The parts may have been laid out for the first time.
+bool ScrollingPage::event(QEvent *event)
+{
+    const bool isDone = QScrollArea::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        fit();
+    return isDone;
 }
 
 bool ScrollingPage::eventFilter(QObject *watched, QEvent *event)
