@@ -164,6 +164,13 @@ private Q_SLOTS:
                          role == QAccessible::AlertMessage,
                      qPrintable(QString::number(role)));
             QVERIFY(!interactiveWidgets(window).isEmpty());
+            const auto parts = window->findChildren<QWidget *>();
+            for (QWidget *part : parts) {
+                if (!part->isWindow() && !part->inherits("QDockWidget"))
+                    QVERIFY2(QAccessible::queryAccessibleInterface(part)->role() !=
+                                 QAccessible::Window,
+                             qPrintable(nameOf(part)));
+            }
             QCOMPARE(unnamed(window).join(u';'), QString());
             const TabWalk walk(window, 400, false);
             QCOMPARE(unreached(window, walk).join(u';'), QString());
@@ -267,6 +274,9 @@ private Q_SLOTS:
             QFETCH(QString, scene);
             if (scene == QLatin1String("replace")) // not all bars at once, and messages
                 this->window()->findChild<QDockWidget *>(QStringLiteral("outputDock"))->hide();
+            QCoreApplication::processEvents();
+            // Texts that break their lines ask for less when they have come up.
+            window->resize(window->size().boundedTo(doubledSmallScreen()));
             QCoreApplication::processEvents();
             QCOMPARE(cutOff(window, doubledSmallScreen()).join(u'\n'), QString());
         });

@@ -27,7 +27,7 @@ Companion::Companion(QDialog *ipDialog, QObject *pluginRoot, const QVector<Compa
     , m_panels(panels)
     , m_tabs(new QTabWidget)
 {
-    installAccessibleWindows();
+    speakAsWindow(this);
     setObjectName(QStringLiteral("companion"));
     setWindowTitle(tr("Companion"));
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -5,10 +5,8 @@
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QComboBox>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QRegularExpression>
 
 namespace Workbench
@@ -31,23 +29,25 @@ void addClearButton(QLineEdit *field)
         clear->setText(Tr::tr("Clear the text"));
 }
 
-static QAccessibleInterface *makeWindow(const QString &className, QObject *object)
+static constexpr char isWindowProperty[] = "spokenAsWindow";
+
+// A widget without a parent may still get one, so that Qt's own word for a window says nothing.
+static QAccessibleInterface *makeWindow(const QString & /*className*/, QObject *object)
 {
     auto *widget = qobject_cast<QWidget *>(object);
-    const bool isOurs = className.startsWith(QLatin1String("Workbench::"));
-    if (!isOurs || !widget || !widget->isWindow() || qobject_cast<QDialog *>(widget) ||
-        qobject_cast<QMainWindow *>(widget))
-        return nullptr;
-    return new QAccessibleWidget(widget, QAccessible::Window);
+    return widget && widget->property(isWindowProperty).toBool()
+               ? new QAccessibleWidget(widget, QAccessible::Window)
+               : nullptr;
 }
 
-void installAccessibleWindows()
+void speakAsWindow(QWidget *window)
 {
     static const bool isInstalled = [] {
         QAccessible::installFactory(&makeWindow);
         return true;
     }();
     Q_UNUSED(isInstalled)
+    window->setProperty(isWindowProperty, true);
 }
 
 QString spokenLabel(const QString &label)

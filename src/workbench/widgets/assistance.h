@@ -5,6 +5,7 @@
 QT_FORWARD_DECLARE_CLASS(QComboBox)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QString)
+QT_FORWARD_DECLARE_CLASS(QWidget)
 
 namespace Workbench
 {
@@ -19,8 +20,8 @@ void addClearButton(QLineEdit *field);
 // What a label says: without the mark of its key, wherever a language has it, and without a colon.
 QString spokenLabel(const QString &label);
 
-// Has assistive tools take our windows that are neither dialogs nor main windows for windows, which
-// to Qt are parts that only fill a place. Each of them calls it.
-void installAccessibleWindows();
+// Has assistive tools take the widget for a window. To Qt one that is neither a dialog nor a main
+// window is a part that only fills a place. Call it first in the constructor.
+void speakAsWindow(QWidget *window);
 
 } // namespace Workbench

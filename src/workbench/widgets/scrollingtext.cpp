@@ -34,7 +34,7 @@ QSize ScrollingText::sizeHint() const
 
 QSize ScrollingText::minimumSizeHint() const
 {
-    const int lines = 2 * fontMetrics().lineSpacing();
+    const int lines = 2 * fontMetrics().lineSpacing() + 4; // and what a label leaves around
     return {fontMetrics().averageCharWidth() * 8, qMin(lines, sizeHint().height())};
 }
 

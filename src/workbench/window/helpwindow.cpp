@@ -212,7 +212,7 @@ HelpWindow::HelpWindow(QWidget *parent)
     , m_results(nullptr)
     , m_found(new QLabel)
 {
-    installAccessibleWindows();
+    speakAsWindow(this);
     setObjectName(QStringLiteral("helpWindow"));
     setWindowIcon(applicationIcon());
     auto *bar = new QToolBar;
