@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -449,6 +450,48 @@ inline QStringList misplaced(const QWidget *window)
         }
     }
     return result;
+}
+
+// Buttons that stick to the field before them.
+inline QStringList stuckButtons(const QWidget *window)
+{
+    QStringList result;
+    const auto fields = window->findChildren<QLineEdit *>();
+    for (const QLineEdit *field : fields) {
+        const auto buttons = field->parentWidget()->findChildren<QPushButton *>(
+            QString(), Qt::FindDirectChildrenOnly);
+        for (const QPushButton *button : buttons) {
+            const int gap = button->x() - field->geometry().right() - 1;
+            const bool isBeside = button->geometry().top() <= field->geometry().center().y() &&
+                                  button->geometry().bottom() >= field->geometry().center().y();
+            if (field->isVisible() && button->isVisible() && isBeside && gap >= 0 && gap < 3)
+                result.append(QStringLiteral("%1: %2").arg(nameOf(button)).arg(gap));
+        }
+    }
+    return result;
+}
+
+// Tables and lists of a dialog of which a part is seen only after scrolling sideways.
+inline QStringList sidewaysViews(const QWidget *window)
+{
+    QStringList result;
+    const auto views = window->findChildren<QAbstractItemView *>();
+    for (const QAbstractItemView *view : views) {
+        const int hidden = view->horizontalScrollBar()->maximum();
+        if (view->isVisible() && view->window() == window && hidden > 0)
+            result.append(QStringLiteral("%1 scrolls sideways: %2 of %3")
+                              .arg(nameOf(view))
+                              .arg(view->viewport()->width())
+                              .arg(view->viewport()->width() + hidden));
+    }
+    return result;
+}
+
+// What a window gets of a screen of 1366x768 on which everything is twice as large, 683x384, below
+// a title bar.
+inline QSize doubledSmallScreen()
+{
+    return {683, 384 - 28};
 }
 
 // The part of a screen of 1366x768 that a window may use: a panel and a title bar take theirs.

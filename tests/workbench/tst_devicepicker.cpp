@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 #include <QtTest>
 
@@ -97,6 +98,26 @@ private Q_SLOTS:
         filter.setValue(DeviceModel::Package, {});
         filter.setValue(DeviceModel::Speed, {});
         QCOMPARE(filter.rowCount(), model.rowCount());
+    }
+
+    void partNumbersAreWholeInAnyWidth()
+    {
+        DevicePicker picker;
+        const auto *table = picker.findChild<QTableView *>();
+        const QAbstractItemView *view = table; // whose hints are public
+        picker.resize(picker.sizeHint().width(), 300);
+        picker.show();
+        QVERIFY(!table->isColumnHidden(DeviceModel::Version));
+        QVERIFY(!table->isColumnHidden(DeviceModel::Series));
+        for (int width = picker.width() + 200; width > picker.width() / 2; width -= 20) {
+            picker.resize(width, 300);
+            QCoreApplication::processEvents();
+            if (picker.width() > width)
+                break; // no narrower
+            QCOMPARE(table->horizontalScrollBar()->maximum(), 0);
+            QVERIFY(table->columnWidth(DeviceModel::PartNumber) >=
+                    view->sizeHintForColumn(DeviceModel::PartNumber));
+        }
     }
 
     void isFilteredWhileTyping()

@@ -9,8 +9,12 @@
 #include <ipcore/ipcore.h>
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QDirIterator>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileSystemModel>
 #include <QGraphicsItem>
 #include <QGraphicsView>
 #include <QGroupBox>
@@ -25,7 +29,9 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTextBrowser>
+#include <QToolButton>
 #include <QXmlStreamReader>
 
 #include <clocale>
@@ -229,6 +235,41 @@ QStringList textsOfMenu(QWidget *widget)
 }
 
 // Context and text of all that Qt's buttons and context menus say.
+template <class Add>
+void addTextsOfFileDialogs(const Add &add)
+{
+    for (const auto &[mode, accepting] :
+         {std::pair(QFileDialog::ExistingFile, QFileDialog::AcceptOpen),
+          std::pair(QFileDialog::AnyFile, QFileDialog::AcceptSave),
+          std::pair(QFileDialog::Directory, QFileDialog::AcceptOpen)}) {
+        QFileDialog dialog;
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.setAcceptMode(accepting);
+        dialog.setFileMode(mode);
+        QStringList texts;
+        for (const char *label : {"lookInLabel", "fileNameLabel", "fileTypeLabel"})
+            texts.append(dialog.findChild<QLabel *>(QLatin1String(label))->text());
+        for (const char *button : {"backButton", "forwardButton", "toParentButton",
+                                   "newFolderButton", "listModeButton", "detailModeButton"})
+            texts.append(dialog.findChild<QToolButton *>(QLatin1String(button))->toolTip());
+        const auto *buttons = dialog.findChild<QDialogButtonBox *>();
+        texts.append(buttons
+                         ->button(accepting == QFileDialog::AcceptSave ? QDialogButtonBox::Save
+                                                                       : QDialogButtonBox::Open)
+                         ->text());
+        add("QFileDialog", texts);
+        const auto *model = dialog.findChild<QFileSystemModel *>();
+        QStringList titles;
+        for (int column = 0; column < model->columnCount(); ++column)
+            titles.append(model->headerData(column, Qt::Horizontal).toString());
+        add("QFileSystemModel", titles);
+    }
+    const QFileIconProvider kinds;
+    QTemporaryFile file(QDir::tempPath() + QStringLiteral("/XXXXXX.%1"));
+    file.open();
+    add("QFileDialog", {kinds.type(QFileInfo(QDir::tempPath())), kinds.type(QFileInfo(file))});
+}
+
 QList<QPair<QString, QString>> textsOfQt()
 {
     QList<QPair<QString, QString>> texts;
@@ -279,6 +320,17 @@ QList<QPair<QString, QString>> textsOfQt()
         bar.show();
         add("QScrollBar", textsOfMenu(&bar));
     }
+    addTextsOfFileDialogs(add);
+    QStringList keys;
+    for (const int modifier : {int(Qt::CTRL), int(Qt::SHIFT), int(Qt::ALT)})
+        keys.append(QKeySequence(modifier | Qt::Key_F1)
+                        .toString(QKeySequence::NativeText)
+                        .section(u'+', 0, 0));
+    for (const Qt::Key key :
+         {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right,
+          Qt::Key_Delete, Qt::Key_Space, Qt::Key_Return})
+        keys.append(QKeySequence(key).toString(QKeySequence::NativeText));
+    add("QShortcut", keys);
     return texts;
 }
 

@@ -1,7 +1,9 @@
 #include <testsupport.h>
 
+#include <workbench/language/languages.h>
 #include <workbench/messages/messagemodel.h>
 #include <workbench/messages/messagesview.h>
+#include <workbench/messages/runsummary.h>
 #include <workbench/results/resultpage.h>
 #include <workbench/results/resulttables.h>
 
@@ -56,6 +58,50 @@ class TestMessages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // What the host says of figures stands in the language of the window; what a tool says stays.
+    void figuresOfARunAreToldInTheLanguageOfTheWindow()
+    {
+        Synthesis::RunReport report;
+        report.resources = {{QStringLiteral("LUT4"), 121, 20000},
+                            {QStringLiteral("Carry"), 0, 10},
+                            {QStringLiteral("Pins"), 3, -1}};
+        const int percent = report.resources.first().percent();
+        report.summary = QStringLiteral("Used 121 LUT4 (%1 %), 3 Pins.").arg(percent);
+        QCOMPARE(shownSummary(report), report.summary);
+        const Languages german(QStringLiteral("de"));
+        QCOMPARE(shownSummary(report),
+                 QStringLiteral("Belegt: 121 LUT4 (%1 %), 3 Pins.").arg(percent));
+        report.cells = {{QStringLiteral("Core"), 1, true}, {QStringLiteral("LUT"), 5, false}};
+        report.summary += QStringLiteral(" Not counted are the contents of black boxes: 1 Core.");
+        QVERIFY(shownSummary(report).endsWith(
+            QStringLiteral("Nicht gezählt ist der Inhalt der Blackboxes: 1 Core.")));
+        MessageModel model;
+        model.setReport(report);
+        QCOMPARE(model.index(0, 0).data().toString(), shownSummary(report));
+        report.summary = QStringLiteral("The tool says no.");
+        QCOMPARE(shownSummary(report), report.summary);
+    }
+
+    void columnsWithoutAWordTakeNoRoom()
+    {
+        MessageModel model;
+        const MessagesView view(&model);
+        const auto *list = view.findChild<QTreeView *>();
+        const auto shown = [list] {
+            return QVector<bool>{!list->isColumnHidden(MessageModel::File),
+                                 !list->isColumnHidden(MessageModel::Line)};
+        };
+        QCOMPARE(shown(), (QVector<bool>{false, false}));
+        model.append(MessageModel::Note, QStringLiteral("said"));
+        QCOMPARE(shown(), (QVector<bool>{false, false}));
+        model.append(MessageModel::Note, QStringLiteral("said"), QStringLiteral("/a.log"));
+        QCOMPARE(shown(), (QVector<bool>{true, false}));
+        model.append(MessageModel::Error, QStringLiteral("wrong"), QStringLiteral("/a.v"), 7);
+        QCOMPARE(shown(), (QVector<bool>{true, true}));
+        model.clear();
+        QCOMPARE(shown(), (QVector<bool>{false, false}));
+    }
+
     void listHasSummaryThenErrorsThenWarnings()
     {
         MessageModel model;

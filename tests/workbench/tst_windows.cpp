@@ -17,6 +17,7 @@
 #include <workbench/software/softwarepage.h>
 #include <workbench/widgets/colours.h>
 #include <workbench/widgets/infobar.h>
+#include <workbench/widgets/programstyle.h>
 #include <workbench/window/helpwindow.h>
 #include <workbench/window/startpage.h>
 
@@ -28,6 +29,7 @@
 #include <QDialog>
 #include <QDirIterator>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -36,6 +38,7 @@
 #include <QScrollBar>
 #include <QTableView>
 #include <QTextBlock>
+#include <QToolButton>
 #include <QTreeView>
 
 using namespace Workbench;
@@ -87,16 +90,7 @@ private Q_SLOTS:
         });
     }
 
-    void noLanguageMarksAKeyTwice_data()
-    {
-        QTest::addColumn<QString>("scene");
-        QTest::addColumn<QString>("language");
-        for (const Languages::Choice &language : Languages::available()) {
-            for (const char *scene : scenes)
-                QTest::addRow("%s, %s", qPrintable(language.code), scene)
-                    << QString::fromLatin1(scene) << language.code;
-        }
-    }
+    void noLanguageMarksAKeyTwice_data() { addScenesInLanguages(); }
     void noLanguageMarksAKeyTwice()
     {
         QFETCH(QString, scene);
@@ -165,7 +159,18 @@ private Q_SLOTS:
     void everyWidgetHasANameAndIsReachedByTab()
     {
         show([](QWidget *window) {
+            const QAccessible::Role role = QAccessible::queryAccessibleInterface(window)->role();
+            QVERIFY2(role == QAccessible::Window || role == QAccessible::Dialog ||
+                         role == QAccessible::AlertMessage,
+                     qPrintable(QString::number(role)));
             QVERIFY(!interactiveWidgets(window).isEmpty());
+            const auto parts = window->findChildren<QWidget *>();
+            for (QWidget *part : parts) {
+                if (!part->isWindow() && !part->inherits("QDockWidget"))
+                    QVERIFY2(QAccessible::queryAccessibleInterface(part)->role() !=
+                                 QAccessible::Window,
+                             qPrintable(nameOf(part)));
+            }
             QCOMPARE(unnamed(window).join(u';'), QString());
             const TabWalk walk(window, 400, false);
             QCOMPARE(unreached(window, walk).join(u';'), QString());
@@ -252,6 +257,133 @@ private Q_SLOTS:
         m_bench = std::make_unique<Bench>("taking");
         show(
             [](QWidget *window) { QCOMPARE(cutOff(window, smallScreen()).join(u';'), QString()); });
+    }
+
+    // On a screen of 1366x768 where everything is twice as large.
+    void everyWindowFitsASmallScreenInTwiceTheSize_data() { addScenesInLanguages(); }
+    void everyWindowFitsASmallScreenInTwiceTheSize()
+    {
+        QFETCH(QString, language);
+        QFont usual = m_font;
+        usual.setPointSize(9); // as displays without a desktop have it
+        speak([&] {
+            QApplication::setFont(usual);
+            m_languages = std::make_unique<Languages>(language);
+        });
+        show([this](QWidget *window) {
+            QFETCH(QString, scene);
+            if (scene == QLatin1String("replace")) // not all bars at once, and messages
+                this->window()->findChild<QDockWidget *>(QStringLiteral("outputDock"))->hide();
+            QCoreApplication::processEvents();
+            // Texts that break their lines ask for less when they have come up.
+            window->resize(window->size().boundedTo(doubledSmallScreen()));
+            QCoreApplication::processEvents();
+            QCOMPARE(cutOff(window, doubledSmallScreen()).join(u'\n'), QString());
+        });
+    }
+
+    void tablesOfDialogsDoNotScrollSideways_data()
+    {
+        QTest::addColumn<QString>("scene");
+        QTest::addColumn<QString>("language");
+        for (const Languages::Choice &language : Languages::available()) {
+            for (const char *scene : {"new project", "subsystem", "device", "about", "kept"})
+                QTest::addRow("%s, %s", qPrintable(language.code), scene)
+                    << QString::fromLatin1(scene) << language.code;
+        }
+    }
+    void tablesOfDialogsDoNotScrollSideways()
+    {
+        QFETCH(QString, language);
+        speak([&] { m_languages = std::make_unique<Languages>(language); });
+        show([](QWidget *window) {
+            for (const QSize &room : {window->size(), doubledSmallScreen()}) {
+                window->resize(room);
+                QCoreApplication::processEvents();
+                QVERIFY(window->findChild<QAbstractItemView *>());
+                QCOMPARE(sidewaysViews(window).join(u'\n'), QString());
+            }
+        });
+    }
+
+    void noButtonSticksToAField_data() { addScenes(); }
+    void noButtonSticksToAField()
+    {
+        show([](QWidget *window) {
+            window->ensurePolished();
+            QCoreApplication::processEvents();
+            QCOMPARE(stuckButtons(window).join(u'\n'), QString());
+        });
+    }
+
+    void namesInTheCatalogueStayWhole()
+    {
+        auto *dock = window()->findChild<QDockWidget *>(QStringLiteral("catalogueDock"));
+        const QAbstractItemView *tree =
+            dock->findChild<QTreeView *>(QStringLiteral("catalogueTree"));
+        const auto *header = static_cast<const QTreeView *>(tree)->header();
+        dock->setFloating(true);
+        const int names = tree->sizeHintForColumn(0);
+        for (const bool isWide : {true, false, true}) {
+            const int width = names + (isWide ? 200 : 40);
+            dock->resize(width, 300);
+            QCoreApplication::processEvents();
+            QCOMPARE(header->isSectionHidden(1), !isWide);
+            QVERIFY2(header->sectionSize(0) >= tree->sizeHintForColumn(0),
+                     qPrintable(QStringLiteral("%1: %2 of %3")
+                                    .arg(width)
+                                    .arg(header->sectionSize(0))
+                                    .arg(tree->sizeHintForColumn(0))));
+        }
+    }
+
+    // The style's have 32 pixels at most, which a large screen shows.
+    void symbolsOfMessageBoxesAreSharpAtAnySize_data()
+    {
+        QTest::addColumn<int>("picture");
+        QTest::newRow("information") << int(QStyle::SP_MessageBoxInformation);
+        QTest::newRow("question") << int(QStyle::SP_MessageBoxQuestion);
+        QTest::newRow("warning") << int(QStyle::SP_MessageBoxWarning);
+        QTest::newRow("critical") << int(QStyle::SP_MessageBoxCritical);
+    }
+    void symbolsOfMessageBoxesAreSharpAtAnySize()
+    {
+        QFETCH(int, picture);
+        const ProgramStyle style;
+        const QIcon icon = style.standardIcon(QStyle::StandardPixmap(picture));
+        for (const int side : {32, 64, 128}) {
+            const QPixmap drawn = icon.pixmap(side);
+            QCOMPARE(drawn.size(), QSize(side, side));
+            const QImage image = drawn.toImage();
+            int seen = 0;
+            for (int x = 0; x < side; ++x) {
+                for (int y = 0; y < side; ++y)
+                    seen += qAlpha(image.pixel(x, y)) > 128;
+            }
+            QVERIFY(seen > side * side / 20);
+        }
+    }
+
+    // The ground of a bar is that of tool tips, which may be dark where windows are light.
+    void theSymbolThatClosesABarIsInTheInkOfItsText()
+    {
+        QPalette palette = m_palette;
+        palette.setColor(QPalette::ToolTipBase, QColor(30, 30, 60));
+        palette.setColor(QPalette::ToolTipText, QColor(250, 250, 20));
+        QApplication::setPalette(palette);
+        InfoBar bar;
+        bar.showMessage(QStringLiteral("text"), {});
+        const auto *close = bar.findChild<QToolButton *>();
+        const QImage image = close->icon().pixmap(64).toImage();
+        QSet<QRgb> inks;
+        for (int x = 0; x < image.width(); ++x) {
+            for (int y = 0; y < image.height(); ++y) {
+                if (qAlpha(image.pixel(x, y)) == 255)
+                    inks.insert(image.pixel(x, y));
+            }
+        }
+        QApplication::setPalette(m_palette);
+        QCOMPARE(inks, QSet<QRgb>{QColor(250, 250, 20).rgb()});
     }
 
     void startPageFollowsTheFont()
@@ -842,6 +974,17 @@ private:
         QTest::addColumn<QString>("scene");
         for (const char *scene : scenes)
             QTest::newRow(scene) << QString::fromLatin1(scene);
+    }
+
+    static void addScenesInLanguages()
+    {
+        QTest::addColumn<QString>("scene");
+        QTest::addColumn<QString>("language");
+        for (const Languages::Choice &language : Languages::available()) {
+            for (const char *scene : scenes)
+                QTest::addRow("%s, %s", qPrintable(language.code), scene)
+                    << QString::fromLatin1(scene) << language.code;
+        }
     }
 
     // Has a new window come up in the language that `install` brings.

@@ -13,6 +13,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -132,13 +133,15 @@ void MicroSysIPGenDlg::setVisible(bool visible)
 {
     if (visible && !m_sized) {
         m_sized = true;
-        // What the title bar takes is not known before it is there. A screen that is not even wide
-        // enough is none of a desktop: there the system decides.
+        // What the title bar takes is not known before it is there. A platform without a display
+        // has no desktop either, and keeps the form as it is where its screen is narrower.
         const int titleBar = qMax(40, 2 * fontMetrics().height());
         const QSize screenSize = screen()->availableSize();
         const int room = screenSize.height() - titleBar;
-        if (screenSize.width() >= width() && height() > room)
-            resize(width(), room);
+        constexpr int borders = 16;
+        const bool isDesktop = QGuiApplication::platformName() != QLatin1String("offscreen");
+        if (height() > room && (isDesktop || screenSize.width() >= width()))
+            resize(qMin(width(), screenSize.width() - borders), room);
     }
     QDialog::setVisible(visible);
 }

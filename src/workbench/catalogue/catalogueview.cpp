@@ -5,6 +5,7 @@
 #include "widgets/assistance.h"
 #include "widgets/contextkeys.h"
 #include "widgets/focusforward.h"
+#include "widgets/scrollingtext.h"
 #include "widgets/wrappedlabel.h"
 
 #include <QAction>
@@ -57,6 +58,9 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     m_tree->hideColumn(CatalogueModel::Summary);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(CatalogueModel::Name, QHeaderView::Stretch);
+    m_tree->setIndentation(qMin(m_tree->indentation(), fontMetrics().height() * 3 / 4));
+    m_tree->header()->setResizeContentsPrecision(-1); // rows: all, seen or not
+    m_tree->viewport()->installEventFilter(this);
     m_tree->header()->setSectionResizeMode(CatalogueModel::Version, QHeaderView::ResizeToContents);
     connect(m_tree, &QTreeView::activated, this, [this](const QModelIndex &index) {
         const int ip = index.data(CatalogueModel::IpRole).toInt();
@@ -88,7 +92,7 @@ CatalogueView::CatalogueView(const IpCatalogue &catalogue, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_text);
     layout->addWidget(m_tree, 1);
-    layout->addWidget(m_details);
+    layout->addWidget(new ScrollingText(m_details, tr("About the selected IP")));
     layout->addWidget(m_create);
     forwardFocus(this, m_tree);
     reload();
@@ -100,6 +104,7 @@ void CatalogueView::reload()
     m_model->reload();
     m_tree->expandAll();
     setCurrentIp(current >= 0 ? current : 0);
+    fitColumns();
     showDetails();
 }
 
@@ -110,6 +115,22 @@ void CatalogueView::setDevice(const DEV::DeviceArg &device)
     m_tree->expandAll();
     setCurrentIp(current);
     showDetails();
+}
+
+// The version gives way to the names.
+bool CatalogueView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_tree->viewport() && event->type() == QEvent::Resize)
+        fitColumns();
+    return QWidget::eventFilter(watched, event);
+}
+
+void CatalogueView::fitColumns()
+{
+    const QAbstractItemView *view = m_tree; // whose hints are public
+    const int version = m_tree->header()->sectionSizeHint(CatalogueModel::Version);
+    const int name = view->sizeHintForColumn(CatalogueModel::Name);
+    m_tree->setColumnHidden(CatalogueModel::Version, name + version > m_tree->viewport()->width());
 }
 
 int CatalogueView::currentIp() const

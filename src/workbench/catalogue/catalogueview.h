@@ -39,7 +39,11 @@ Q_SIGNALS:
     // Its document, from the context menu; the IP has one.
     void helpRequested(int index);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void fitColumns();
     void showDetails();
 
     const IpCatalogue &m_catalogue;

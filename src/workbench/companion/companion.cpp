@@ -1,5 +1,6 @@
 #include "companion.h"
 
+#include "widgets/assistance.h"
 #include "widgets/enterkey.h"
 #include "widgets/windowplace.h"
 
@@ -26,6 +27,7 @@ Companion::Companion(QDialog *ipDialog, QObject *pluginRoot, const QVector<Compa
     , m_panels(panels)
     , m_tabs(new QTabWidget)
 {
+    speakAsWindow(this);
     setObjectName(QStringLiteral("companion"));
     setWindowTitle(tr("Companion"));
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -75,7 +75,6 @@ void installAccessibleBars()
     Q_UNUSED(isInstalled)
 }
 
-// On the background that the palette has.
 } // namespace
 
 namespace MeterText

@@ -117,6 +117,7 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
     lists->addWidget(m_differences);
     lists->setStretchFactor(0, 3);
     lists->setStretchFactor(1, 2);
+    lists->setSizes({3000, 2000}); // shares
     auto *all = new QSplitter(Qt::Vertical);
     all->addWidget(lists);
     all->addWidget(lower);

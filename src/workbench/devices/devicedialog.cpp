@@ -30,6 +30,7 @@ DeviceDialog::DeviceDialog(const QString &title, const QString &currentId, QWidg
     layout->addWidget(buttons);
     const QFontMetrics metrics = fontMetrics();
     resize(QSize(metrics.averageCharWidth() * 108, metrics.height() * 28)
+               .expandedTo({sizeHint().width(), 0})
                .boundedTo(IPCore::roomOnScreen(this)));
 }
 

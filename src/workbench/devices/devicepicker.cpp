@@ -6,6 +6,7 @@
 #include <core/idecore.h>
 #include <dev/devicedb.h>
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
@@ -16,7 +17,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
+
+#include <numeric>
 
 namespace Workbench
 {
@@ -46,10 +50,14 @@ DevicePicker::DevicePicker(QWidget *parent)
         auto *combo = new QComboBox;
         combo->setObjectName(QStringLiteral("column%1Combo").arg(int(column)));
         combo->setAccessibleName(title);
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(3); // more where there is room
         combo->addItem(tr("all"));
         QStringList values = m_model->valuesOf(column);
         values.sort();
         combo->addItems(values);
+        combo->view()->setMinimumWidth(combo->view()->sizeHintForColumn(0) +
+                                       m_table->verticalScrollBar()->sizeHint().width());
         label->setBuddy(combo);
         connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this, combo, column](int index) {
@@ -73,15 +81,14 @@ DevicePicker::DevicePicker(QWidget *parent)
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setSectionResizeMode(DeviceModel::PartNumber,
-                                                      QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(-1, Qt::AscendingOrder); // the database's order until a header is clicked
     m_table->resizeColumnsToContents();
-    const int gap = fontMetrics().averageCharWidth() * 2;
-    for (int column = 0; column < DeviceModel::PartNumber; ++column)
-        m_table->setColumnWidth(column, m_table->columnWidth(column) + gap);
+    for (int column = 0; column < DeviceModel::ColumnCount; ++column)
+        m_needed.append(m_table->columnWidth(column));
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->viewport()->installEventFilter(this);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DevicePicker::deviceChanged);
     connect(m_table, &QTableView::activated, this, &DevicePicker::activated);
@@ -145,9 +152,41 @@ void DevicePicker::copyPartNumber()
         QGuiApplication::clipboard()->setText(device().partNumber());
 }
 
+QSize DevicePicker::sizeHint() const
+{
+    const int columns = std::accumulate(m_needed.begin(), m_needed.end(), 0) +
+                        (DeviceModel::ColumnCount - 1) * gap();
+    const int table =
+        columns + 2 * m_table->frameWidth() + m_table->verticalScrollBar()->sizeHint().width();
+    return QWidget::sizeHint().expandedTo({table, 0});
+}
+
+int DevicePicker::gap() const
+{
+    return fontMetrics().averageCharWidth() * 2;
+}
+
+// The part number, which people copy, is whole. What it gives way to is in other columns too: the
+// version ends the name of the device, the series begins it.
+void DevicePicker::fitColumns()
+{
+    const int room = m_table->viewport()->width();
+    int needed = std::accumulate(m_needed.begin(), m_needed.end(), 0);
+    for (const DeviceModel::Column column : {DeviceModel::Version, DeviceModel::Series}) {
+        m_table->setColumnHidden(column, needed > room);
+        if (needed > room)
+            needed -= m_needed.at(column);
+    }
+    const int more = qBound(0, (room - needed) / (DeviceModel::ColumnCount - 1), gap());
+    for (int column = 0; column < DeviceModel::PartNumber; ++column)
+        m_table->setColumnWidth(column, m_needed.at(column) + more);
+}
+
 // The arrow keys walk through the table while the filter is typed, and Enter takes the device.
 bool DevicePicker::eventFilter(QObject *object, QEvent *event)
 {
+    if (object == m_table->viewport() && event->type() == QEvent::Resize)
+        fitColumns();
     if (object != m_text || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(object, event);
     switch (static_cast<QKeyEvent *>(event)->key()) {

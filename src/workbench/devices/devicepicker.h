@@ -25,6 +25,9 @@ public:
     // Selects and shows a device. Clears a filter that hides it.
     void setDevice(const QString &id);
 
+    // The table with all its columns.
+    QSize sizeHint() const override;
+
 public Q_SLOTS:
     void copyPartNumber();
 
@@ -37,6 +40,8 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    int gap() const; // between columns, where there is room
+    void fitColumns();
     void showCount();
 
     DeviceModel *m_model;
@@ -44,6 +49,7 @@ private:
     QLineEdit *m_text;
     QList<QComboBox *> m_combos;
     QTableView *m_table;
+    QVector<int> m_needed; // widths of the columns
     QLabel *m_count;
 };
 

@@ -48,6 +48,7 @@ CodeEditor::CodeEditor(QWidget *parent)
     : QPlainTextEdit(parent)
     , m_lineNumbers(new LineNumbers(this))
 {
+    setMinimumHeight(fontMetrics().height() * 2); // on a small screen, with all bars
     setLineWrapMode(NoWrap);
     setFont(fixedFont());
     connect(this, &QPlainTextEdit::blockCountChanged, this, &CodeEditor::layoutLineNumbers);

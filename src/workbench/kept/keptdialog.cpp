@@ -45,7 +45,7 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     m_list->setRootIsDecorated(false);
     m_list->setAlternatingRowColors(true);
     m_list->setUniformRowHeights(true);
-    m_list->setTextElideMode(Qt::ElideMiddle);
+    m_list->setTextElideMode(Qt::ElideLeft); // the name matters more than the folders
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &KeptDialog::showState);
     connect(m_list, &QTreeWidget::itemActivated, this, [this] { accept(); });

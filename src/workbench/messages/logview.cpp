@@ -16,6 +16,7 @@ LogView::LogView(QWidget *parent)
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setLineWrapMode(NoWrap);
     setFrameShape(QFrame::NoFrame);
+    setMinimumHeight(fontMetrics().height() * 5 / 2); // on a small screen
     setMaximumBlockCount(100000);
     setFont(fixedFont());
 }

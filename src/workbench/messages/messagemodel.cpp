@@ -1,5 +1,6 @@
 #include "messagemodel.h"
 
+#include "runsummary.h"
 #include "widgets/symbolicon.h"
 
 #include <QDir>
@@ -17,6 +18,7 @@ void MessageModel::add(const Row &row)
 {
     m_rows.append(row);
     ++(row.isHeadline ? m_counts[row.severity].headlines : m_counts[row.severity].others);
+    m_files += row.file.isEmpty() ? 0 : 1;
     m_places += row.line > 0 ? 1 : 0;
 }
 
@@ -27,7 +29,8 @@ void MessageModel::setReport(const Synthesis::RunReport &report)
     const QString name =
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
     Row headline{report.exitCode == 0 || report.cancelled ? Summary : Error,
-                 name.isEmpty() ? report.summary : tr("%1: %2").arg(name, report.summary),
+                 name.isEmpty() ? shownSummary(report)
+                                : tr("%1: %2").arg(name, shownSummary(report)),
                  report.logFile, 0, true};
     QList<Row> rows;
     for (const auto severity : {Synthesis::Message::Error, Synthesis::Message::Warning}) {
@@ -82,6 +85,7 @@ void MessageModel::clear()
 void MessageModel::forget()
 {
     m_rows.clear();
+    m_files = 0;
     m_places = 0;
     for (Count &count : m_counts)
         count = {};
@@ -91,6 +95,11 @@ int MessageModel::count(Severity severity) const
 {
     const Count &counted = m_counts[severity];
     return counted.others > 0 ? counted.others : counted.headlines;
+}
+
+bool MessageModel::hasFiles() const
+{
+    return m_files > 0;
 }
 
 bool MessageModel::hasPlaces() const

@@ -28,6 +28,8 @@ public:
     void clear();
     // The headline of a run that failed is an error of its own only if nothing explains it.
     int count(Severity severity) const;
+    // Whether a message names a file.
+    bool hasFiles() const;
     // Whether a message names a line of a file.
     bool hasPlaces() const;
     // One line for each message, "severity: file:line: text".
@@ -58,6 +60,7 @@ private:
 
     QList<Row> m_rows;
     Count m_counts[Note + 1]; // by severity
+    int m_files = 0;          // rows with one
     int m_places = 0;
 };
 

@@ -30,11 +30,17 @@ MessagesView::MessagesView(MessageModel *model, QWidget *parent)
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setMinimumHeight(fontMetrics().height() * 5 / 2); // on a small screen
     m_list->header()->setStretchLastSection(false);
     m_list->header()->setSectionResizeMode(MessageModel::Text, QHeaderView::Stretch);
     m_list->header()->setSectionResizeMode(MessageModel::File, QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(MessageModel::Line, QHeaderView::ResizeToContents);
     connect(m_list, &QTreeView::activated, this, &MessagesView::open);
+
+    // Columns without a word in them would only take room.
+    connect(model, &QAbstractItemModel::modelReset, this, &MessagesView::showColumns);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &MessagesView::showColumns);
+    showColumns();
 
     auto *copyAction = new QAction(tr("Copy"), m_list);
     m_list->installEventFilter(this); // for its keys, before the window takes them
@@ -48,6 +54,12 @@ MessagesView::MessagesView(MessageModel *model, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
     forwardFocus(this, m_list);
+}
+
+void MessagesView::showColumns()
+{
+    m_list->setColumnHidden(MessageModel::File, !m_model->hasFiles());
+    m_list->setColumnHidden(MessageModel::Line, !m_model->hasPlaces());
 }
 
 bool MessagesView::eventFilter(QObject *watched, QEvent *event)

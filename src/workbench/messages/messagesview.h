@@ -32,6 +32,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void showColumns();
     void open(const QModelIndex &index);
 
     MessageModel *m_model;

@@ -30,6 +30,7 @@ ProjectPane::ProjectPane(QWidget *parent)
     m_tree->header()->setResizeContentsPrecision(100); // rows: each IP's file has to be read
     m_tree->setUniformRowHeights(true);
     m_tree->setFrameShape(QFrame::NoFrame);
+    m_tree->setMinimumHeight(fontMetrics().height() * 3); // on a small screen
     m_tree->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(m_tree, &QTreeView::activated, this, &ProjectPane::activate);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,

@@ -1,9 +1,11 @@
 #include "resultpage.h"
 
 #include "mapview.h"
+#include "messages/runsummary.h"
 #include "resulttables.h"
 #include "widgets/focusforward.h"
 #include "widgets/infobar.h"
+#include "widgets/scrollingpage.h"
 #include "widgets/symbolicon.h"
 
 #include <ipcore/pinfigureview.h>
@@ -137,7 +139,7 @@ ResultPage::ResultPage(QWidget *parent)
     auto *top = new QHBoxLayout;
     top->addWidget(m_heading, 1);
     top->addWidget(m_change);
-    auto *layout = new QVBoxLayout(this);
+    auto *layout = new QVBoxLayout(ScrollingPage::fill(this));
     layout->addLayout(top);
     layout->addWidget(m_summary);
     layout->addWidget(m_age);
@@ -158,9 +160,10 @@ void ResultPage::setReport(const Synthesis::RunReport &report, const QMap<QStrin
         report.job.targetName.isEmpty() ? report.job.ipName : report.job.targetName;
     m_heading->setText(tr("%1 for %2").arg(name, report.job.device.partNumber()));
     const QString seconds = QLocale().toString(double(report.milliseconds) / 1000.0, 'f', 1);
-    QString text = tr("%1 The run took %2 s.").arg(report.summary, seconds);
+    const QString summary = shownSummary(report);
+    QString text = tr("%1 The run took %2 s.").arg(summary, seconds);
     const QString missing = Synthesis::notCountedSentence(report.cells);
-    if (!missing.isEmpty() && !text.contains(missing))
+    if (!missing.isEmpty() && summary == report.summary && !summary.contains(missing))
         text += u'\n' + missing;
     m_summary->setText(text);
     m_age->hide();

@@ -19,6 +19,7 @@
 #include <QSettings>
 #include <QSpinBox>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -197,6 +198,7 @@ QWidget *SettingsDialog::makeProgram(const Settings::Row &row)
     browse->setAccessibleName(tr("Browse for %1").arg(spokenLabel(Settings::labelOf(row))));
     m_setters.append([edit](const QVariant &value) { edit->setText(value.toString()); });
     auto *line = new QHBoxLayout;
+    line->setSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing)); // not the column's
     line->addWidget(edit, 1);
     line->addWidget(browse);
     auto *layout = new QVBoxLayout(field);

@@ -8,6 +8,7 @@
 #include "terminalview.h"
 #include "widgets/assistance.h"
 #include "widgets/infobar.h"
+#include "widgets/scrollingpage.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -80,7 +81,7 @@ SimulationPage::SimulationPage(const Source &source, const QString &ipcFile,
     , m_openWaves(new QPushButton(tr("&Open Waves")))
 {
     setObjectName(QStringLiteral("simulationPage"));
-    auto *layout = new QVBoxLayout(this);
+    auto *layout = new QVBoxLayout(ScrollingPage::fill(this));
     buildHead(layout);
     layout->addWidget(m_infoBar);
     buildChoice(layout);
@@ -110,6 +111,10 @@ void SimulationPage::buildHead(QBoxLayout *layout)
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     m_heading->setFont(large);
+    // A usual name is whole.
+    m_heading->setMinimumWidth(
+        qMin(QFontMetrics(large).horizontalAdvance(QFileInfo(m_ipcFile).fileName()),
+             fontMetrics().averageCharWidth() * 30));
     m_heading->setText(tr("Simulate %1").arg(QFileInfo(m_ipcFile).fileName()));
     m_heading->setToolTip(QDir::toNativeSeparators(m_ipcFile));
     m_progress->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -147,13 +152,18 @@ void SimulationPage::buildChoice(QBoxLayout *layout)
     connect(m_browse, &QPushButton::clicked, this, &SimulationPage::browse);
     connect(m_engine, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &SimulationPage::refresh);
-    auto *row = new QHBoxLayout;
-    row->addWidget(m_input);
-    row->addWidget(m_files, 1);
-    row->addWidget(m_browse);
-    row->addWidget(m_engine);
-    row->addWidget(m_hasWaves);
-    layout->addLayout(row);
+    auto *start = new QHBoxLayout;
+    start->addWidget(m_input);
+    start->addWidget(m_files, 1);
+    start->addWidget(m_browse);
+    auto *how = new QHBoxLayout;
+    how->addWidget(m_engine);
+    how->addWidget(m_hasWaves);
+    how->addStretch();
+    m_choiceRows = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_choiceRows->addLayout(start, 1);
+    m_choiceRows->addLayout(how);
+    layout->addLayout(m_choiceRows);
     labelUnseen(m_input, tr("What the simulation starts from"));
     labelUnseen(m_engine, tr("Simulator"));
 }
@@ -235,6 +245,22 @@ void SimulationPage::focusInEvent(QFocusEvent *event)
     next->setFocus(event->reason());
 }
 
+// What does not stand side by side stands in two rows.
+void SimulationPage::arrangeChoice()
+{
+    int needed = layout()->contentsMargins().left() + layout()->contentsMargins().right();
+    for (int i = 0; i < m_choiceRows->count(); ++i)
+        needed += m_choiceRows->itemAt(i)->minimumSize().width() + 2 * m_choiceRows->spacing();
+    m_choiceRows->setDirection(needed > width() ? QBoxLayout::TopToBottom
+                                                : QBoxLayout::LeftToRight);
+}
+
+void SimulationPage::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    arrangeChoice();
+}
+
 void SimulationPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
@@ -277,6 +303,7 @@ void SimulationPage::showOffer()
     m_pins->setCount(m_offer.pins);
     m_pins->setVisible(m_offer.pins > 0);
     refresh();
+    arrangeChoice();
 }
 
 void SimulationPage::showChoice(const SimulationChoice &choice)

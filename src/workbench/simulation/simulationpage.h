@@ -73,9 +73,11 @@ Q_SIGNALS:
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    void arrangeChoice();
     void buildHead(QBoxLayout *layout);
     void buildChoice(QBoxLayout *layout);
     QWidget *buildLeft();
@@ -117,6 +119,7 @@ private:
     QPushButton *m_run;
     QPushButton *m_stop;
     QComboBox *m_input;
+    QBoxLayout *m_choiceRows = nullptr;
     QLineEdit *m_files;
     QPushButton *m_browse;
     QComboBox *m_engine;

@@ -8,6 +8,8 @@
 #include "widgets/fixedfont.h"
 #include "widgets/focusforward.h"
 #include "widgets/infobar.h"
+#include "widgets/scrollingpage.h"
+#include "widgets/scrollingtext.h"
 
 #include <utils/boundedfile.h>
 #include <utils/filebundle.h>
@@ -81,6 +83,10 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     QFont large = font();
     large.setPointSizeF(large.pointSizeF() * 1.4);
     m_heading->setFont(large);
+    // A usual name is whole.
+    m_heading->setMinimumWidth(
+        qMin(QFontMetrics(large).horizontalAdvance(QFileInfo(ipcFile).fileName()),
+             fontMetrics().averageCharWidth() * 30));
     m_heading->setText(tr("Hand-off of %1").arg(QFileInfo(ipcFile).fileName()));
 
     auto *left = new QWidget;
@@ -108,7 +114,7 @@ SoftwarePage::SoftwarePage(const Source &source, const QString &ipcFile, QWidget
     m_parts->addTab(tr("Pro&gram"));
     m_parts->setTabToolTip(ProgramRow, tr("A program for the memory of the IP"));
     connect(m_parts, &QTabBar::currentChanged, m_stack, &QStackedWidget::setCurrentIndex);
-    auto *layout = new QVBoxLayout(this);
+    auto *layout = new QVBoxLayout(ScrollingPage::fill(this));
     auto *head = new QHBoxLayout; // a row of their own would cost small screens the preview
     head->addWidget(m_heading, 1);
     head->addWidget(m_parts);
@@ -146,7 +152,8 @@ void SoftwarePage::buildLeft(QWidget *left)
     m_tree->setTextElideMode(Qt::ElideMiddle);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionsMovable(false);
-    m_tree->header()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 14);
+    m_tree->setIndentation(qMin(m_tree->indentation(), fontMetrics().height() * 3 / 4));
+    m_tree->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     m_tree->header()->setSectionResizeMode(SoftwareModel::NameColumn, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(SoftwareModel::StateColumn,
                                            QHeaderView::ResizeToContents);
@@ -188,7 +195,7 @@ void SoftwarePage::buildRight(QWidget *right)
     auto *layout = new QVBoxLayout(right);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_title);
-    layout->addWidget(m_purpose);
+    layout->addWidget(new ScrollingText(m_purpose, tr("About the format")));
     layout->addWidget(m_preview, 1);
 }
 

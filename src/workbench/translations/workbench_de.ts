@@ -17,6 +17,88 @@
     </message>
 </context>
 <context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Suchen in:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Datei&amp;name:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Dateityp:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Ordner:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>S&amp;peichern</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Auswählen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Übergeordneter Ordner</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1-Datei</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Geändert</translation>
+    </message>
+</context>
+<context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
@@ -186,6 +268,57 @@
     <message>
         <source>Scroll down</source>
         <translation>Nach unten rollen</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Bild auf</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Runter</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
     </message>
 </context>
 <context>
@@ -1308,6 +1441,10 @@
         <source>does not tell</source>
         <translation>keine Angabe</translation>
     </message>
+    <message>
+        <source>About the component</source>
+        <translation>Über die Komponente</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CatalogueModel</name>
@@ -1357,6 +1494,10 @@
     <message>
         <source>Create IP…</source>
         <translation>IP erzeugen…</translation>
+    </message>
+    <message>
+        <source>About the selected IP</source>
+        <translation>Über die ausgewählte IP</translation>
     </message>
 </context>
 <context>
@@ -1873,6 +2014,10 @@
     <message>
         <source>Close the message</source>
         <translation>Die Meldung schließen</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
     </message>
 </context>
 <context>
@@ -3533,6 +3678,17 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
     </message>
 </context>
 <context>
+    <name>Workbench::RunSummary</name>
+    <message>
+        <source>Used %1.</source>
+        <translation>Belegt: %1.</translation>
+    </message>
+    <message>
+        <source>Not counted are the contents of black boxes: %1.</source>
+        <translation>Nicht gezählt ist der Inhalt der Blackboxes: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::SessionKeeper</name>
     <message numerus="yes">
         <source>%n tab(s) of the last time cannot be shown again: %1, …</source>
@@ -3995,6 +4151,10 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
     <message>
         <source>The document is in &quot;%1&quot;.</source>
         <translation>Das Dokument steht in „%1“.</translation>
+    </message>
+    <message>
+        <source>About the format</source>
+        <translation>Über das Format</translation>
     </message>
 </context>
 <context>

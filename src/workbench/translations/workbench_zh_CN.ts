@@ -17,6 +17,88 @@
     </message>
 </context>
 <context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>查找范围：</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>文件名(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>文件类型：</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>文件夹：</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>选择(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>上级文件夹</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 文件</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>修改时间</translation>
+    </message>
+</context>
+<context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
@@ -186,6 +268,57 @@
     <message>
         <source>Scroll down</source>
         <translation>向下滚动</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>PgUp</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>PgDown</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>↑</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>↓</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>←</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>→</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空格</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>回车</translation>
     </message>
 </context>
 <context>
@@ -1308,6 +1441,10 @@
         <source>does not tell</source>
         <translation>未说明</translation>
     </message>
+    <message>
+        <source>About the component</source>
+        <translation>关于该组件</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::CatalogueModel</name>
@@ -1357,6 +1494,10 @@
     <message>
         <source>Create IP…</source>
         <translation>创建 IP…</translation>
+    </message>
+    <message>
+        <source>About the selected IP</source>
+        <translation>关于所选 IP</translation>
     </message>
 </context>
 <context>
@@ -1872,6 +2013,10 @@
     <message>
         <source>Close the message</source>
         <translation>关闭此消息</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
     </message>
 </context>
 <context>
@@ -3525,6 +3670,17 @@ Project &gt; Move to Device… moves it.</source>
     </message>
 </context>
 <context>
+    <name>Workbench::RunSummary</name>
+    <message>
+        <source>Used %1.</source>
+        <translation>已使用 %1。</translation>
+    </message>
+    <message>
+        <source>Not counted are the contents of black boxes: %1.</source>
+        <translation>未计入黑盒的内容：%1。</translation>
+    </message>
+</context>
+<context>
     <name>Workbench::SessionKeeper</name>
     <message numerus="yes">
         <source>%n tab(s) of the last time cannot be shown again: %1, …</source>
@@ -3981,6 +4137,10 @@ Project &gt; Move to Device… moves it.</source>
     <message>
         <source>The document is in &quot;%1&quot;.</source>
         <translation>文档在 “%1” 中。</translation>
+    </message>
+    <message>
+        <source>About the format</source>
+        <translation>关于该格式</translation>
     </message>
 </context>
 <context>

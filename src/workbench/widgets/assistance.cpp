@@ -2,6 +2,7 @@
 
 #include "tr.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
@@ -26,6 +27,27 @@ void addClearButton(QLineEdit *field)
     field->setClearButtonEnabled(true);
     if (auto *clear = field->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
         clear->setText(Tr::tr("Clear the text"));
+}
+
+static constexpr char isWindowProperty[] = "spokenAsWindow";
+
+// A widget without a parent may still get one, so that Qt's own word for a window says nothing.
+static QAccessibleInterface *makeWindow(const QString & /*className*/, QObject *object)
+{
+    auto *widget = qobject_cast<QWidget *>(object);
+    return widget && widget->property(isWindowProperty).toBool()
+               ? new QAccessibleWidget(widget, QAccessible::Window)
+               : nullptr;
+}
+
+void speakAsWindow(QWidget *window)
+{
+    static const bool isInstalled = [] {
+        QAccessible::installFactory(&makeWindow);
+        return true;
+    }();
+    Q_UNUSED(isInstalled)
+    window->setProperty(isWindowProperty, true);
 }
 
 QString spokenLabel(const QString &label)

@@ -5,6 +5,7 @@
 QT_FORWARD_DECLARE_CLASS(QComboBox)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QString)
+QT_FORWARD_DECLARE_CLASS(QWidget)
 
 namespace Workbench
 {
@@ -18,5 +19,9 @@ void addClearButton(QLineEdit *field);
 
 // What a label says: without the mark of its key, wherever a language has it, and without a colon.
 QString spokenLabel(const QString &label);
+
+// Has assistive tools take the widget for a window. To Qt one that is neither a dialog nor a main
+// window is a part that only fills a place. Call it first in the constructor.
+void speakAsWindow(QWidget *window);
 
 } // namespace Workbench

@@ -1,5 +1,6 @@
 #include "infobar.h"
 
+#include "scrollingtext.h"
 #include "symbolicon.h"
 
 #include <QHBoxLayout>
@@ -22,17 +23,16 @@ InfoBar::InfoBar(QWidget *parent)
     m_text->setForegroundRole(QPalette::ToolTipText);
     m_text->setObjectName(QStringLiteral("infoText"));
     m_text->setTextFormat(Qt::PlainText);
-    m_text->setWordWrap(true);
     m_text->setMinimumWidth(1); // a long path must not push the buttons off the window
     auto *close = new QToolButton;
-    close->setIcon(symbolIcon(QStringLiteral("close")));
+    close->setIcon(symbolIcon(QStringLiteral("close"), QPalette::ToolTipText));
     close->setAutoRaise(true);
     close->setToolTip(tr("Close"));
     close->setAccessibleName(tr("Close the message"));
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 4, 4, 4);
-    layout->addWidget(m_text, 1);
+    layout->addWidget(new ScrollingText(m_text, tr("Message")), 1);
     layout->addLayout(m_buttons);
     layout->addWidget(close);
     hide();

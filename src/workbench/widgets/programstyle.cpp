@@ -2,8 +2,28 @@
 
 #include "symbolicon.h"
 
+#include <ipcore/screenfit.h>
+
+#include <QEvent>
+#include <QFileDialog>
+
 namespace Workbench
 {
+
+void ProgramStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QFileDialog *>(widget))
+        widget->installEventFilter(this);
+}
+
+bool ProgramStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (auto *dialog = qobject_cast<QFileDialog *>(watched);
+        dialog && event->type() == QEvent::Show)
+        dialog->resize(dialog->size().boundedTo(IPCore::roomOnScreen(dialog)));
+    return QProxyStyle::eventFilter(watched, event);
+}
 
 QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption *option,
                                  const QWidget *widget) const
@@ -18,6 +38,14 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption *opt
         return symbolIcon(QStringLiteral("close"));
     case SP_TitleBarNormalButton: // takes a dock out of the window
         return symbolIcon(QStringLiteral("float"));
+    case SP_MessageBoxInformation: // the style's are of one size, which a large screen shows
+        return symbolIcon(QStringLiteral("info"));
+    case SP_MessageBoxQuestion:
+        return symbolIcon(QStringLiteral("question"));
+    case SP_MessageBoxWarning:
+        return symbolIcon(QStringLiteral("warning"));
+    case SP_MessageBoxCritical:
+        return symbolIcon(QStringLiteral("error"));
     case SP_CommandLink:
         return symbolIcon(QStringLiteral("forward"));
     default:

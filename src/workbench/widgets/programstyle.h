@@ -13,6 +13,11 @@ class ProgramStyle : public QProxyStyle
     Q_OBJECT
 
 public:
+    // A file dialog of Qt's asks for a size without a look at the screen.
+    void polish(QWidget *widget) override;
+    using QProxyStyle::polish;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     QIcon standardIcon(StandardPixmap picture, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
 };

@@ -8,7 +8,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
+#include <QPair>
 #include <QPixmapCache>
 #include <QRegularExpression>
 #include <QSvgRenderer>
@@ -97,9 +97,11 @@ void drawShapes(QPainter *painter, const SymbolShapes &shapes, const QColor &col
 class SymbolEngine : public QIconEngine
 {
 public:
-    explicit SymbolEngine(const QString &path, const SymbolShapes *shapes = nullptr)
+    explicit SymbolEngine(const QString &path, const SymbolShapes *shapes = nullptr,
+                          QPalette::ColorRole ink = QPalette::WindowText)
         : m_path(path)
         , m_shapes(shapes)
+        , m_ink(ink)
     {
     }
 
@@ -140,7 +142,7 @@ public:
         return result;
     }
 
-    QIconEngine *clone() const override { return new SymbolEngine(m_path, m_shapes); }
+    QIconEngine *clone() const override { return new SymbolEngine(m_path, m_shapes, m_ink); }
 
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) const override
     {
@@ -161,31 +163,33 @@ private:
         return svg;
     }
 
-    static QColor ink(QIcon::Mode mode)
+    QColor ink(QIcon::Mode mode) const
     {
         const QPalette palette = QGuiApplication::palette();
         if (mode == QIcon::Selected)
             return palette.color(QPalette::HighlightedText);
         return palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active,
-                             QPalette::WindowText);
+                             m_ink);
     }
 
     QString m_path;
     const SymbolShapes *m_shapes;
+    QPalette::ColorRole m_ink;
 };
 
 } // namespace
 
-QIcon symbolIcon(const QString &name)
+QIcon symbolIcon(const QString &name, QPalette::ColorRole ink)
 {
-    static QHash<QString, QIcon> icons;
-    auto found = icons.find(name);
+    static QHash<QPair<QString, int>, QIcon> icons;
+    auto found = icons.find({name, ink});
     if (found == icons.end()) {
         initIcons();
         const QString path = symbolFolder + name + QLatin1String(".svg");
         const SymbolShapes *shapes = shapesOf(name);
         const bool isThere = shapes || QFile::exists(path);
-        found = icons.insert(name, isThere ? QIcon(new SymbolEngine(path, shapes)) : QIcon());
+        found = icons.insert({name, ink},
+                             isThere ? QIcon(new SymbolEngine(path, shapes, ink)) : QIcon());
     }
     return *found;
 }

@@ -1,5 +1,6 @@
 #include "aboutdialog.h"
 
+#include "widgets/scrollingtext.h"
 #include "widgets/symbolicon.h"
 
 #include <ipcore/screenfit.h>
@@ -34,6 +35,7 @@ AboutDialog::AboutDialog(const QString &version, const QStringList &plugins,
                          const QString &settingsFile, QWidget *parent)
     : QDialog(parent)
     , m_components(new QTreeWidget)
+    , m_about(new QLabel)
 {
     setObjectName(QStringLiteral("aboutDialog"));
     setWindowTitle(tr("About Tarvo Workbench"));
@@ -69,9 +71,17 @@ AboutDialog::AboutDialog(const QString &version, const QStringList &plugins,
     const QVector<Component> all = components();
     for (const Component &component : all)
         addComponent(component);
-    for (int column = 0; column < ColumnCount; ++column)
-        m_components->resizeColumnToContents(column);
-    m_components->setColumnWidth(Version, fontMetrics().averageCharWidth() * 24);
+    m_components->resizeColumnToContents(Name);
+    m_components->setColumnWidth(Version, fontMetrics().averageCharWidth() * 16);
+    // What is longer than a column stands below, of the component that is selected.
+    for (const int column : {Purpose, Package})
+        m_components->hideColumn(column);
+    m_about->setObjectName(QStringLiteral("componentAbout"));
+    m_about->setTextFormat(Qt::PlainText);
+    m_about->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    connect(m_components, &QTreeWidget::currentItemChanged, this, &AboutDialog::showComponent);
+    connect(m_components, &QTreeWidget::itemChanged, this,
+            [this] { showComponent(m_components->currentItem()); });
     m_components->setCurrentItem(m_components->topLevelItem(0));
 
     auto *label = new QLabel(tr("&Components and their licences:"));
@@ -87,6 +97,7 @@ AboutDialog::AboutDialog(const QString &version, const QStringList &plugins,
     layout->addLayout(top);
     layout->addWidget(label);
     layout->addWidget(m_components, 1);
+    layout->addWidget(new ScrollingText(m_about, tr("About the component")));
     layout->addWidget(buttons);
     const QFontMetrics metrics = fontMetrics();
     resize(QSize(metrics.averageCharWidth() * 130, metrics.height() * 34)
@@ -108,6 +119,17 @@ void AboutDialog::addComponent(const Component &component)
         ask(item, component);
     else if (component.name.startsWith(QLatin1String("Qt 5")))
         item->setText(Version, QLatin1String(qVersion()));
+}
+
+void AboutDialog::showComponent(const QTreeWidgetItem *item)
+{
+    QStringList lines;
+    for (const int column : {Version, Licence, Purpose, Package}) {
+        if (item && !item->text(column).isEmpty())
+            lines.append(m_components->headerItem()->text(column) + QLatin1String(": ") +
+                         item->text(column));
+    }
+    m_about->setText(lines.join(u'\n'));
 }
 
 void AboutDialog::ask(QTreeWidgetItem *item, const Component &component)

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QTreeWidget)
 QT_FORWARD_DECLARE_CLASS(QTreeWidgetItem)
 
@@ -37,10 +38,12 @@ public:
 
 private:
     void addComponent(const Component &component);
+    void showComponent(const QTreeWidgetItem *item);
     void ask(QTreeWidgetItem *item, const Component &component);
 
     QStringList m_lines;
     QTreeWidget *m_components;
+    QLabel *m_about;
     QTemporaryDir m_folder; // in which the programs run
     std::vector<std::unique_ptr<Synthesis::ToolRun>> m_runs;
 };

@@ -212,6 +212,7 @@ HelpWindow::HelpWindow(QWidget *parent)
     , m_results(nullptr)
     , m_found(new QLabel)
 {
+    speakAsWindow(this);
     setObjectName(QStringLiteral("helpWindow"));
     setWindowIcon(applicationIcon());
     auto *bar = new QToolBar;

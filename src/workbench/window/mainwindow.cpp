@@ -43,6 +43,7 @@
 #include "startpage.h"
 #include "tabmenu.h"
 #include "widgets/contextkeys.h"
+#include "widgets/elidedlabel.h"
 #include "widgets/enterkey.h"
 #include "widgets/errorbox.h"
 #include "widgets/fixedfont.h"
@@ -354,9 +355,9 @@ void MainWindow::buildDocks()
 
 void MainWindow::buildStatusBar()
 {
-    m_runLabel = new QLabel;
+    m_runLabel = new ElidedLabel;
     m_runLabel->setObjectName(QStringLiteral("runLabel"));
-    m_cursorLabel = new QLabel;
+    m_cursorLabel = new ElidedLabel;
     m_cursorLabel->setObjectName(QStringLiteral("cursorLabel"));
     m_deviceButton = new QPushButton;
     m_deviceButton->setObjectName(QStringLiteral("deviceButton"));

@@ -41,7 +41,9 @@ NewProjectDialog::NewProjectDialog(const QString &location, QWidget *parent)
     connect(browseButton, &QPushButton::clicked, this, &NewProjectDialog::browse);
 
     auto *deviceGroup = new QGroupBox(tr("Device"));
+    deviceGroup->setFlat(true); // small screens have the room for more devices
     auto *deviceLayout = new QVBoxLayout(deviceGroup);
+    deviceLayout->setContentsMargins(0, 0, 0, 0);
     deviceLayout->addWidget(m_picker);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -62,6 +64,7 @@ NewProjectDialog::NewProjectDialog(const QString &location, QWidget *parent)
     layout->setRowStretch(2, 1);
     const QFontMetrics metrics = fontMetrics();
     resize(QSize(metrics.averageCharWidth() * 108, metrics.height() * 32)
+               .expandedTo({sizeHint().width(), 0})
                .boundedTo(IPCore::roomOnScreen(this)));
 
     connect(m_name, &QLineEdit::textChanged, this, &NewProjectDialog::check);
