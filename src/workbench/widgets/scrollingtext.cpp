@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 namespace Workbench
@@ -40,20 +41,17 @@ QSize ScrollingText::minimumSizeHint() const
 
 bool ScrollingText::event(QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest) { // another text
-        verticalScrollBar()->setValue(0);
-        updateGeometry();
+    const bool isResized = event->type() == QEvent::Resize;
+    if (isResized || event->type() == QEvent::LayoutRequest) { // another text
+        // QScrollArea would keep a bar because the text is longer beside it.
+        const bool isSeen = m_label->heightForWidth(width()) <= height();
+        setVerticalScrollBarPolicy(isSeen ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+        if (!isResized || width() != static_cast<QResizeEvent *>(event)->oldSize().width()) {
+            verticalScrollBar()->setValue(0);
+            updateGeometry();
+        }
     }
     return QScrollArea::event(event);
-}
-
-void ScrollingText::resizeEvent(QResizeEvent *event)
-{
-    QScrollArea::resizeEvent(event);
-    if (event->size().width() == event->oldSize().width())
-        return;
-    verticalScrollBar()->setValue(0);
-    updateGeometry();
 }
 
 } // namespace Workbench

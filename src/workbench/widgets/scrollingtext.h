@@ -22,7 +22,6 @@ public:
 
 protected:
     bool event(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QLabel *m_label;
