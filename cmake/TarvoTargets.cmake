@@ -165,7 +165,7 @@ function(tarvo_add_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINK} tarvo_testsupport Qt5::Test tarvo_test_flags)
     if(ARG_SOURCES MATCHES "^[^;]*tst_[a-z0-9_]*\\.cpp$")
         # Nothing but the test itself needs the meta-object compiler, and it includes what that makes: spares two steps a program.
-        set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
         tarvo_add_meta_objects(${name} ${ARG_SOURCES} ${name}.moc)
     endif()
     set_property(GLOBAL APPEND PROPERTY TARVO_TESTS ${name})
