@@ -1,20 +1,11 @@
 #include "runsummary.h"
 
-#include <synthesis/runreport.h>
+#include "tr.h"
 
-#include <QCoreApplication>
+#include <synthesis/runreport.h>
 
 namespace Workbench
 {
-
-namespace
-{
-
-struct Tr {
-    Q_DECLARE_TR_FUNCTIONS(Workbench::RunSummary)
-};
-
-} // namespace
 
 QString shownSummary(const Synthesis::RunReport &report)
 {

@@ -1362,6 +1362,14 @@
         <source>debugs programs in simulation; the user starts it</source>
         <translation>Fehlersuche in Programmen in der Simulation; der Benutzer startet es</translation>
     </message>
+    <message>
+        <source>Used %1.</source>
+        <translation>Belegt: %1.</translation>
+    </message>
+    <message>
+        <source>Not counted are the contents of black boxes: %1.</source>
+        <translation>Nicht gezählt ist der Inhalt der Blackboxes: %1.</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>
@@ -3675,17 +3683,6 @@ Projekt &gt; Auf anderen Baustein umstellen… stellt sie um.</translation>
     <message>
         <source>%1 (of an earlier run)</source>
         <translation>%1 (aus einem früheren Lauf)</translation>
-    </message>
-</context>
-<context>
-    <name>Workbench::RunSummary</name>
-    <message>
-        <source>Used %1.</source>
-        <translation>Belegt: %1.</translation>
-    </message>
-    <message>
-        <source>Not counted are the contents of black boxes: %1.</source>
-        <translation>Nicht gezählt ist der Inhalt der Blackboxes: %1.</translation>
     </message>
 </context>
 <context>

@@ -1362,6 +1362,14 @@
         <source>debugs programs in simulation; the user starts it</source>
         <translation>调试仿真中的程序；由用户启动</translation>
     </message>
+    <message>
+        <source>Used %1.</source>
+        <translation>已使用 %1。</translation>
+    </message>
+    <message>
+        <source>Not counted are the contents of black boxes: %1.</source>
+        <translation>未计入黑盒的内容：%1。</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>
@@ -3667,17 +3675,6 @@ Project &gt; Move to Device… moves it.</source>
     <message>
         <source>%1 (of an earlier run)</source>
         <translation>%1（来自以前的运行）</translation>
-    </message>
-</context>
-<context>
-    <name>Workbench::RunSummary</name>
-    <message>
-        <source>Used %1.</source>
-        <translation>已使用 %1。</translation>
-    </message>
-    <message>
-        <source>Not counted are the contents of black boxes: %1.</source>
-        <translation>未计入黑盒的内容：%1。</translation>
     </message>
 </context>
 <context>
