@@ -65,6 +65,8 @@ public:
             throw std::runtime_error("it broke");
         if (!answer.isEmpty())
             return answer;
+        if (!configuration[latin1("keepsComments")].toBool())
+            return {{latin1("error"), latin1("another host")}};
         const int value = configuration[latin1("options")].toMap()[latin1("value")].toInt();
         return made(value);
     }

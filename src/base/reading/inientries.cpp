@@ -2,6 +2,10 @@
 
 #include "tr.h"
 
+#include <QByteArrayList>
+#include <QHash>
+#include <QSet>
+
 #include <algorithm>
 
 namespace Reading
@@ -323,6 +327,12 @@ QString foreignKind(const QString &value)
     return kind.chopped(1);
 }
 
+// Sections and entries are told apart, and of a name that comes twice the last one counts.
+QString anchorOf(const IniPart &part)
+{
+    return (part.kind == IniPart::Section ? u'[' : u'=') + part.name;
+}
+
 } // namespace
 
 QString IniEntry::name() const
@@ -338,6 +348,57 @@ QVector<IniEntry> iniEntries(const QByteArray &text)
 QVector<IniPart> iniParts(const QByteArray &text)
 {
     return Scanner(text).parts();
+}
+
+QByteArray withCommentsOf(const QByteArray &before, const QByteArray &after)
+{
+    const bool isText = std::none_of(before.begin(), before.end(), [](char c) {
+        return uchar(c) < 0x20 && c != '\t' && c != '\r' && c != '\n';
+    });
+    if (!isText)
+        return after;
+    const QVector<IniPart> old = iniParts(before);
+    const QVector<IniPart> now = iniParts(after);
+    QHash<int, QString> anchors; // by line of the new text
+    QSet<QString> present;
+    for (const IniPart &part : now) {
+        anchors.insert(part.line, anchorOf(part));
+        present.insert(anchorOf(part));
+    }
+
+    QHash<QString, QByteArrayList> comments;
+    QByteArrayList waiting;
+    QString last; // what stands in the line
+    int lastLine = 0;
+    for (const IniPart &part : old) {
+        if (part.kind == IniPart::Comment) {
+            if (part.line == lastLine && present.contains(last))
+                comments[last].append(part.text);
+            else
+                waiting.append(part.text);
+            continue;
+        }
+        last = anchorOf(part);
+        lastLine = part.line;
+        if (present.contains(last)) {
+            comments[last] += waiting;
+            waiting.clear();
+        }
+    }
+    if (comments.isEmpty() && waiting.isEmpty())
+        return after;
+
+    QByteArray text;
+    const QList<QByteArray> lines = after.split('\n');
+    for (int i = 0; i + 1 < lines.size(); ++i) {
+        const QByteArrayList above = comments.take(anchors.value(i + 1));
+        for (const QByteArray &comment : above)
+            text += comment + '\n';
+        text += lines.at(i) + '\n';
+    }
+    for (const QByteArray &comment : qAsConst(waiting))
+        text += comment + '\n';
+    return text;
 }
 
 QString foreignIniValue(const QByteArray &text)

@@ -40,6 +40,11 @@ struct IniPart {
 // section nor entry nor comment is left out.
 QVector<IniPart> iniParts(const QByteArray &text);
 
+// The INI file `after` with the comments of `before`: each stays above what it stood above or
+// behind, or above what comes next where that is gone. `after` ends with a line end and has no
+// comments; a `before` that is no text has none either.
+QByteArray withCommentsOf(const QByteArray &before, const QByteArray &after);
+
 // QSettings also stores objects of other kinds than text, and decodes them while it opens a file:
 // "@Variant(…)" may nest as deeply as the file is long. The first entry with a value of such a
 // kind, as a clause with line, entry and kind; empty if there is none. A file is safe for QSettings

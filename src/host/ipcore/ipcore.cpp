@@ -112,7 +112,7 @@ void writeIPConfig(const QString &path, const QVariantMap &header, const QVarian
     if (keep && QFileInfo::exists(path))
         keep(path);
     const Utils::Result<void> written =
-        Utils::writeIniFile(path, header, QStringLiteral("Config"), options);
+        Utils::rewriteIniFile(path, header, QStringLiteral("Config"), options);
     if (!written)
         report(nullptr, written.reason());
 }

@@ -34,7 +34,8 @@ TARVO_IPCORE_EXPORT bool isSupported(const DEV::DeviceArg &device, const QString
                                      const QStringList &supported);
 
 // Replaces an IP configuration file: `header` at the top level, `options` in the group "Config".
-// The keeper, if there is one, is called before. Reports a failure.
+// The comments of the file that it replaces stay (Utils::rewriteIniFile()). The keeper, if there is
+// one, is called before. Reports a failure.
 TARVO_IPCORE_EXPORT void writeIPConfig(const QString &path, const QVariantMap &header,
                                        const QVariantMap &options);
 

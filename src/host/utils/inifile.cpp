@@ -1,5 +1,6 @@
 #include "inifile.h"
 
+#include "boundedfile.h"
 #include "fileutils.h"
 #include "tr.h"
 
@@ -189,14 +190,33 @@ Result<QByteArray> iniText(const QVariantMap &header, const QString &group,
     return draftText(header, group, values);
 }
 
-Result<void> writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
-                          const QVariantMap &values)
+namespace
 {
-    const Result<QByteArray> text = iniText(header, group, values);
+
+Result<void> placeIniText(const QString &path, const QByteArray &before,
+                          const Result<QByteArray> &text)
+{
     if (!text)
         return Failure{Tr::tr("Cannot write \"%1\": %2.").arg(path, text.reason())};
     QString error;
-    return FileUtils::writeFile(path, *text, &error) ? Result<void>() : Failure{error};
+    return FileUtils::writeFile(path, Reading::withCommentsOf(before, *text), &error)
+               ? Result<void>()
+               : Failure{error};
+}
+
+} // namespace
+
+Result<void> writeIniFile(const QString &path, const QVariantMap &header, const QString &group,
+                          const QVariantMap &values)
+{
+    return placeIniText(path, {}, iniText(header, group, values));
+}
+
+Result<void> rewriteIniFile(const QString &path, const QVariantMap &header, const QString &group,
+                            const QVariantMap &values)
+{
+    const Result<QByteArray> before = readConfigurationFile(path);
+    return placeIniText(path, before ? *before : QByteArray(), iniText(header, group, values));
 }
 
 Result<void> checkIniText(const QByteArray &bytes)

@@ -22,6 +22,10 @@ TARVO_UTILS_EXPORT Result<QByteArray> iniText(const QVariantMap &header, const Q
 TARVO_UTILS_EXPORT Result<void> writeIniFile(const QString &path, const QVariantMap &header,
                                              const QString &group, const QVariantMap &values);
 
+// The same, but the comments of the file that it replaces stay (Reading::withCommentsOf()).
+TARVO_UTILS_EXPORT Result<void> rewriteIniFile(const QString &path, const QVariantMap &header,
+                                               const QString &group, const QVariantMap &values);
+
 // Whether `bytes` can be the text of an INI file: every line is blank, a comment, a section or a
 // key with a value whose quotation marks are closed, and no control character stands in it. A
 // failure is a clause with the line number.

@@ -13,6 +13,9 @@
 
 #include <dev/devicedb.h>
 #include <ipcore/ipcore.h>
+#include <reading/inientries.h>
+#include <reading/limits.h>
+#include <reading/plainfile.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -40,7 +43,7 @@ GenerationInput inputOf(const OptionMap &options, const DEV::DeviceArg &device,
             createInPath};
 }
 
-// What the host makes of a configuration, by its own means.
+// What the host makes of a configuration, by its own means, of a file that was not there before.
 Utils::Result<QByteArray> storedText(const QVariantMap &header, const OptionMap &options)
 {
     const QTemporaryDir scratch;
@@ -52,6 +55,15 @@ Utils::Result<QByteArray> storedText(const QVariantMap &header, const OptionMap 
     if (!file.open(QIODevice::ReadOnly))
         return Utils::Failure{shownPath(path) + " cannot be read: "_l1 + file.errorString() + u'.'};
     return file.readAll();
+}
+
+QByteArray withCommentsOfFile(const QString &file, const QByteArray &text)
+{
+    QByteArray standing;
+    QString reason;
+    return Reading::readPlainFile(file, Reading::Limits::configuration, &standing, &reason)
+               ? Reading::withCommentsOf(standing, text)
+               : text;
 }
 
 } // namespace
@@ -73,9 +85,11 @@ QVariantMap previewGeneration(const QVariantMap &configuration, const QVariantMa
         if (!error.isEmpty())
             return failed(error);
     }
-    const Utils::Result<QByteArray> text = storedText(header, options);
+    Utils::Result<QByteArray> text = storedText(header, options);
     if (!text)
         return failed(text.reason());
+    if (configuration.value(QStringLiteral("keepsComments")).toBool())
+        text = withCommentsOfFile(file, *text);
     static DigestMemory memory;
     static QString descriptionPath;
     static Utils::Result<SystemDescription> description = Utils::Failure{QString()};

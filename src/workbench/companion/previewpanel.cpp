@@ -183,6 +183,7 @@ void PreviewPanel::refresh()
         QVariantMap configuration;
         QMetaObject::invokeMethod(m_dialog, "configuration", Qt::DirectConnection,
                                   Q_RETURN_ARG(QVariantMap, configuration));
+        configuration.insert(QStringLiteral("keepsComments"), true); // writeIPConfig() does
         QMetaObject::invokeMethod(m_root, "previewGeneration", Qt::DirectConnection,
                                   Q_RETURN_ARG(QVariantMap, answer),
                                   Q_ARG(QVariantMap, configuration));

@@ -234,14 +234,21 @@ private Q_SLOTS:
     void writesAnIpConfiguration()
     {
         const QString file = path(QStringLiteral("a b.ipc"));
-        QVERIFY(TestSupport::write(file, "[Config]\nold=1\n"));
+        const QByteArray whole("[General]\nversion=\"1.0 \"\n\n[Config]\ngpio=true\nsize=16 KB\n");
         const NextDialog dialog;
-        IPCore::writeIPConfig(
-            file, {{QStringLiteral("version"), QStringLiteral("1.0 ")}},
-            {{QStringLiteral("gpio"), true}, {QStringLiteral("size"), QStringLiteral("16 KB")}});
+        const auto rewritten = [&file](const QByteArray &before) {
+            TestSupport::write(file, before);
+            IPCore::writeIPConfig(file, {{QStringLiteral("version"), QStringLiteral("1.0 ")}},
+                                  {{QStringLiteral("gpio"), true},
+                                   {QStringLiteral("size"), QStringLiteral("16 KB")}});
+            return TestSupport::contentsOf(file);
+        };
+        QCOMPARE(rewritten("[Config]\nold=1\n"), whole);
+        QCOMPARE(rewritten("; of Ann\n[General]\n[Config]\nold=1\n; all of it\nsize=8 KB\n"),
+                 QByteArray("; of Ann\n[General]\nversion=\"1.0 \"\n\n[Config]\ngpio=true\n"
+                            "; all of it\nsize=16 KB\n"));
+        QCOMPARE(rewritten(QByteArray("\0;no text", 9)), whole);
         QVERIFY(!dialog.wasShown());
-        QCOMPARE(TestSupport::contentsOf(file),
-                 QByteArray("[General]\nversion=\"1.0 \"\n\n[Config]\ngpio=true\nsize=16 KB\n"));
     }
 
     void tellsOfAConfigurationBeforeItIsReplaced()

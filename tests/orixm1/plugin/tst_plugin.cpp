@@ -1395,6 +1395,18 @@ void tst_Plugin::tellsWhyTheStateCannotBeTold()
 }
 
 // The tool is missing, so that only what it makes does not come true.
+// What the file whose name has this end is to hold.
+static QByteArray fileOf(const QVariantMap &answer, const char *end)
+{
+    const QVariantList files = answer.value(QStringLiteral("files")).toList();
+    for (const QVariant &file : files) {
+        const QVariantMap map = file.toMap();
+        if (map.value(QStringLiteral("path")).toString().endsWith(QLatin1String(end)))
+            return map.value(QStringLiteral("after")).toString().toUtf8();
+    }
+    return {};
+}
+
 void tst_Plugin::whatItSaysIsWhatOkThenWrites()
 {
     QTemporaryDir dir;
@@ -1408,6 +1420,8 @@ void tst_Plugin::whatItSaysIsWhatOkThenWrites()
     for (const char *story : {"new", "again", "edited"}) {
         if (qstrcmp(story, "edited") == 0)
             QVERIFY(TestSupport::write(include, "// mine"));
+        const QByteArray remark = QByteArray("; ") + story + '\n';
+        QVERIFY(TestSupport::write(file, remark + TestSupport::contentsOf(file)));
         QVariantMap answer;
         QPointer<QWidget> dialog;
         const TestSupport::ModalWatcher watcher([&](QWidget *modal) {
@@ -1421,7 +1435,10 @@ void tst_Plugin::whatItSaysIsWhatOkThenWrites()
             QVariantMap configuration;
             QMetaObject::invokeMethod(modal, "configuration", Qt::DirectConnection,
                                       Q_RETURN_ARG(QVariantMap, configuration));
+            QVERIFY(!fileOf(previewGeneration(configuration), ".ipc").contains(remark));
+            configuration.insert(QStringLiteral("keepsComments"), true);
             answer = previewGeneration(configuration);
+            QVERIFY(fileOf(answer, ".ipc").contains(remark));
             auto *buttons = modal->findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
             buttons->button(QDialogButtonBox::Ok)->click();
         });
