@@ -32,6 +32,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
@@ -335,6 +336,39 @@ private Q_SLOTS:
                                     .arg(header->sectionSize(0))
                                     .arg(tree->sizeHintForColumn(0))));
         }
+    }
+
+    // Whose palette says nothing of it has white light on a dark ground.
+    void disabledEntriesAreFainterThanOthers()
+    {
+        ProgramStyle style;
+        QPalette palette = themed(QColor(49, 54, 59), QColor(35, 38, 41), QColor(239, 240, 241),
+                                  QColor(61, 174, 233));
+        palette.setColor(QPalette::Light, Qt::white);
+        palette.setColor(QPalette::Disabled, QPalette::Text, QColor(110, 115, 120));
+        const auto contrast = [&](bool isEnabled) {
+            QMenu menu;
+            menu.setStyle(&style);
+            menu.setPalette(palette);
+            QAction *action = menu.addAction(QStringLiteral("MMM"));
+            action->setEnabled(isEnabled);
+            menu.ensurePolished();
+            menu.resize(menu.sizeHint());
+            const QRect entry = menu.actionGeometry(action).adjusted(2, 2, -2, -2);
+            const QImage image = menu.grab(entry).toImage();
+            double most = 1;
+            for (int x = 0; x < image.width(); ++x) {
+                for (int y = 0; y < image.height(); ++y)
+                    most = qMax(most,
+                                Colours::contrast(image.pixelColor(x, y), image.pixelColor(0, 0)));
+            }
+            return most;
+        };
+        const double enabled = contrast(true);
+        const double disabled = contrast(false);
+        QVERIFY(enabled > Colours::textContrast);
+        QVERIFY2(disabled > 1.5 && disabled < 0.6 * enabled,
+                 qPrintable(QStringLiteral("%1 of %2").arg(disabled).arg(enabled)));
     }
 
     // The style's have 32 pixels at most, which a large screen shows.

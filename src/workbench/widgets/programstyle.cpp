@@ -53,4 +53,10 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption *opt
     }
 }
 
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                            QStyleHintReturn *returned) const
+{
+    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 } // namespace Workbench

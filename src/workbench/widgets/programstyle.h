@@ -20,6 +20,11 @@ public:
 
     QIcon standardIcon(StandardPixmap picture, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
+    // Behind the text of a disabled entry of a menu the style would draw a light one, which on a
+    // dark ground is what one reads.
+    int styleHint(StyleHint hint, const QStyleOption *option = nullptr,
+                  const QWidget *widget = nullptr,
+                  QStyleHintReturn *returned = nullptr) const override;
 };
 
 } // namespace Workbench
