@@ -328,7 +328,8 @@ int measureFresh(const QString &path, const DEV::DeviceDb &devices, int skip, in
                 const auto second = measured(one.drawn.last());
                 if (!second)
                     return fail(second.reason());
-                if (second->used != first->used || second->blackBoxes != first->blackBoxes)
+                if (second->used != first->used ||
+                    second->blackBoxes.size() != first->blackBoxes.size())
                     return fail(QStringLiteral("seed %1: %2 and %3 read the same, but their "
                                                "netlists differ.")
                                     .arg(seed)

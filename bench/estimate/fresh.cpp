@@ -8,6 +8,7 @@
 #include <estimate/estimate.h>
 #include <rules/devicerules.h>
 #include <rules/randomoptions.h>
+#include <rules/retarget.h>
 #include <rules/tcmsizes.h>
 #include <utils/fileutils.h>
 
@@ -153,6 +154,91 @@ QVector<Piece> piecesOf(const QVector<QByteArray> &tokens)
     return pieces;
 }
 
+// The index behind the bracket that closes the one at `open`.
+int behindBracket(const QVector<QByteArray> &tokens, int open)
+{
+    int depth = 0;
+    int i = open;
+    for (; i < tokens.size(); ++i) {
+        depth += tokens.at(i) == "(" ? 1 : 0;
+        depth -= tokens.at(i) == ")" ? 1 : 0;
+        if (depth == 0)
+            return i + 1;
+    }
+    return i;
+}
+
+// Takes the value out of the declaration of a parameter that its module never reads, and returns
+// the parameter's name; null where there is none.
+QByteArray takeUnreadParameter(Piece *module)
+{
+    QVector<QByteArray> &tokens = module->tokens;
+    for (int i = 0; i < tokens.size(); ++i) {
+        const int equals = tokens.at(i) == "parameter" ? tokens.indexOf("=", i) : -1;
+        if (equals < 0 || tokens.count(tokens.at(equals - 1)) > 1)
+            continue;
+        int end = equals + 1;
+        while (end < tokens.size() && tokens.at(end) != "," && tokens.at(end) != ";" &&
+               tokens.at(end) != ")")
+            end = tokens.at(end) == "(" ? behindBracket(tokens, end) : end + 1;
+        const QByteArray name = tokens.at(equals - 1);
+        tokens.remove(i, end - i);
+        return name;
+    }
+    return {};
+}
+
+// Takes `parameter` out of the parameters that `piece` gives its instances of `module`.
+void takeConnection(const QByteArray &module, const QByteArray &parameter, Piece *piece)
+{
+    QVector<QByteArray> &tokens = piece->tokens;
+    for (int i = 0; i + 2 < tokens.size(); ++i) {
+        if (tokens.at(i) != module || tokens.at(i + 1) != "#" || tokens.at(i + 2) != "(")
+            continue;
+        for (int j = i + 3; j < behindBracket(tokens, i + 2); ++j) {
+            if (tokens.at(j) == "." && tokens.value(j + 1) == parameter)
+                tokens.remove(j, behindBracket(tokens, j + 2) - j);
+        }
+    }
+}
+
+// What a module is told and never reads is nothing to its netlist.
+void takeUnreadParameters(QVector<Piece> *pieces)
+{
+    for (bool changes = true; changes;) {
+        changes = false;
+        for (int i = 0; i < pieces->size(); ++i) {
+            if (!pieces->at(i).tokens.contains("endmodule"))
+                continue;
+            const QByteArray parameter = takeUnreadParameter(&(*pieces)[i]);
+            if (parameter.isNull())
+                continue;
+            changes = true;
+            for (Piece &piece : *pieces)
+                takeConnection(pieces->at(i).name, parameter, &piece);
+        }
+    }
+}
+
+// The name of a black box is only a label: those with the same ports and parameters get the same.
+void labelBlackBoxes(QVector<Piece> *pieces)
+{
+    QHash<QByteArray, QByteArray> labels;
+    for (const Piece &piece : qAsConst(*pieces)) {
+        if (piece.tokens.mid(0, 3) != QVector<QByteArray>{"(", "*", "blackbox"})
+            continue;
+        QCryptographicHash ports(QCryptographicHash::Sha256);
+        for (const QByteArray &token : piece.tokens)
+            ports.addData((token == piece.name ? QByteArray() : token) + '\n');
+        labels.insert(piece.name, "black box " + ports.result().toHex());
+    }
+    for (Piece &piece : *pieces) {
+        piece.name = labels.value(piece.name, piece.name);
+        for (QByteArray &token : piece.tokens)
+            token = labels.value(token, token);
+    }
+}
+
 // What tells a plan's sources from another's of the same RTL.
 QByteArray inputOf(const GenerationPlan &plan)
 {
@@ -259,12 +345,23 @@ QVector<Drawn> drawForEachSeries(int seed, const DEV::DeviceDb &devices)
     }
     std::mt19937_64 lots(quint64(seed) * 7919);
     const quint64 which = lots();
+    std::mt19937_64 order = lots;
+    for (int i = series.size() - 1; i > 0; --i)
+        std::swap(series[i], series[int(order() % quint64(i + 1))]);
     QVector<Drawn> result;
     for (const QString &name : qAsConst(series)) {
         const QVector<DEV::DeviceArg> &own = bySeries[name];
         const DEV::DeviceArg &device = own.at(int(which % quint64(own.size())));
         OptionMap options = randomOptions(quint64(seed), device);
         redrawMemories(device.device(), lots, &options);
+        for (const Drawn &drawn : qAsConst(result)) {
+            const Retargeted same =
+                retarget(drawn.options, devices.findDevice(drawn.device), device);
+            if (same.losses.isEmpty()) {
+                options = same.options;
+                break;
+            }
+        }
         result.append({device.id(), options});
     }
     return result;
@@ -319,7 +416,9 @@ Utils::Result<QString> textDigest(const DEV::DeviceArg &device, const OptionMap 
         return Utils::Failure{"Yosys told of "_l1 + QString::number(dumps) + " of "_l1 +
                               QString::number(plan->sources.size()) + " sources."_l1};
 
-    const QVector<Piece> pieces = piecesOf(tokens);
+    QVector<Piece> pieces = piecesOf(tokens);
+    takeUnreadParameters(&pieces);
+    labelBlackBoxes(&pieces);
     QSet<QByteArray> named = {QByteArray(topName.data(), topName.size())};
     QVector<bool> isReached(pieces.size(), false);
     for (bool grows = true; grows;) {

@@ -49,15 +49,18 @@ struct FreshMeasurements {
 Utils::Result<FreshMeasurements> readFresh(const QString &path);
 QByteArray lineOf(const FreshMeasurement &measurement);
 
-// One configuration for each series, legal for the device of the series that was drawn as well.
-// Each by itself is drawn at random from what its device allows; but all follow the same lots where
-// they may, so that many are the same for synthesis. In the order of the series.
+// One configuration for each series, legal for the device of the series that was drawn as well. The
+// series take their turns in an order that is drawn: each takes over what one before it has, if its
+// device loses nothing of it, and otherwise draws at random from what its device allows. So many
+// are the same for synthesis, and each series is among the first as often as any other.
 QVector<Drawn> drawForEachSeries(int seed, const DEV::DeviceDb &devices);
 
 // The digest of what synthesis reads of a configuration: the sources that it compiles after Yosys'
 // own preprocessor, without comments, and of them the modules that the top module can reach by name
-// and the parameters outside of modules that these name. Needs Yosys. `known` has the digests of
-// include files and sources that it was asked for before. A failure is a sentence.
+// and the parameters outside of modules that these name. Parameters that a module is given and
+// never reads are left out, and black boxes that differ in nothing but their names are the same.
+// Needs Yosys. `known` has the digests of include files and sources that it was asked for before. A
+// failure is a sentence.
 Utils::Result<QString> textDigest(const DEV::DeviceArg &device,
                                   const TARVOORIXM1::OptionMap &options,
                                   QHash<QByteArray, QString> *known);

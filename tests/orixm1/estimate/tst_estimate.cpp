@@ -33,6 +33,7 @@ private Q_SLOTS:
     void theRangeHoldsWhatWasMeasured();
     void knowsTheBlackBoxesOfTheNetlists();
     void freshConfigurationsAreLegalForTheirDevice();
+    void whatSynthesisReadsAlikeHasOneDigest();
     void everyTermOfEveryConfigurationIsMeasured();
     void aBlockThatIsSwitchedOffCostsNothing();
     void theSharesOfTheBlocksAddUp();
@@ -193,6 +194,31 @@ void tst_Estimate::freshConfigurationsAreLegalForTheirDevice()
     for (const Drawn &each : again)
         QVERIFY(checkOptions(each.options, device(each.device), QString()).isEmpty());
     QCOMPARE(drawForEachSeries(7, DEV::DeviceDb::bundled()).first().options, again.first().options);
+}
+
+void tst_Estimate::whatSynthesisReadsAlikeHasOneDigest()
+{
+    const auto digest = [this](const char *id, const OptionMap &options) {
+        QHash<QByteArray, QString> known;
+        const auto result = textDigest(device(QLatin1String(id)), options, &known);
+        if (!result)
+            qWarning("%s", qPrintable(result.reason()));
+        return result ? *result : QString();
+    };
+    // The series is a parameter that the Ethernet MAC is given and does not read, and the DDR3
+    // controllers are black boxes of two names.
+    OptionMap options{{Key::enableEthernet, true}, {Key::enableDdr3, true}};
+    const char *const smaller = "TV3K-50A-PBGA484-C8/I7";
+    const char *const larger = "TV5K-60B-PBGA256-C2/I1";
+    const QString first = digest(smaller, options);
+    QVERIFY(!first.isEmpty());
+    QCOMPARE(digest(larger, options), first);
+    // This controller has a pin less.
+    QVERIFY(digest("TV2K-55-PBGA484-C7/I6", options) != first);
+    // A parameter that is read.
+    options.insert(Key::itcmSize, 2);
+    const QString other = digest(smaller, options);
+    QVERIFY(!other.isEmpty() && other != first);
 }
 
 void tst_Estimate::theRangeHoldsWhatWasMeasured()
