@@ -7,11 +7,12 @@
 #include "config/optionvalue.h"
 
 #include <reading/jsontext.h>
+#include <reading/limits.h>
+#include <reading/plainfile.h>
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -21,8 +22,6 @@ namespace TARVOORIXM1
 
 namespace
 {
-
-constexpr int inputCount = 32; // of the processor
 
 QString nameOf(const QString &path)
 {
@@ -38,8 +37,8 @@ Utils::Result<void> checkEntry(const QJsonObject &entry, const InterruptSource &
         return Utils::Failure{source.name + ": "_l1 + reason};
     };
     if (!entry.value("number"_l1).isDouble() || source.number < 0 || source.count < 1 ||
-        source.number > inputCount - source.count)
-        return fail("the number is none from 0 to "_l1 + QString::number(inputCount - 1));
+        source.number > interruptInputs - source.count)
+        return fail("the number is none from 0 to "_l1 + QString::number(interruptInputs - 1));
     if (!isSwitch(source.option))
         return fail(u'"' + source.option + "\" is no switch of the configuration"_l1);
     for (auto it = entry.begin(); it != entry.end(); ++it) {
@@ -75,19 +74,22 @@ Utils::Result<QVector<InterruptSource>> readOtherInterrupts(const QString &dataP
     const auto fail = [&path](const QString &reason) {
         return Utils::Failure{nameOf(path) + ": "_l1 + reason};
     };
-    QFile file(path);
-    if (!file.exists())
+    if (!QFileInfo::exists(path))
         return sources;
-    if (!file.open(QIODevice::ReadOnly))
-        return fail("cannot be read: "_l1 + file.errorString());
-    const QByteArray bytes = file.readAll();
-    const Reading::JsonMistake mistake = Reading::findJsonMistake(bytes);
-    if (mistake.offset >= 0)
-        return fail("line "_l1 + QString::number(Reading::placeIn(bytes, mistake.offset).line) +
-                    ": "_l1 + mistake.reason);
-    const QJsonArray list =
-        QJsonDocument::fromJson(bytes).object().value("interrupts"_l1).toArray();
-    for (const QJsonValue &value : list) {
+    QByteArray bytes;
+    QString reason;
+    if (!Reading::readPlainFile(path, Reading::Limits::registerFile, &bytes, &reason))
+        return fail("cannot be read: "_l1 + reason);
+    const Reading::JsonText read = Reading::readJson(bytes);
+    if (read.mistake.offset >= 0)
+        return fail("line "_l1 +
+                    QString::number(Reading::placeIn(bytes, read.mistake.offset).line) + ": "_l1 +
+                    read.mistake.reason);
+    const QJsonValue list = read.document.object().value("interrupts"_l1);
+    if (!list.isArray())
+        return fail("\"interrupts\" is no list"_l1);
+    const QJsonArray entries = list.toArray();
+    for (const QJsonValue &value : entries) {
         const QJsonObject entry = value.toObject();
         InterruptSource source;
         source.name = entry.value("name"_l1).toString();

@@ -15,6 +15,9 @@ struct InterruptSource {
     bool isPolled = false; // what it interrupts for can wait
 };
 
+// The inputs for external interrupts that the processor has, numbered from 0.
+constexpr int interruptInputs = 32;
+
 // Reads "interrupts.json" of a data folder: the sources without register descriptions. A folder
 // without that file has none. One that cannot be read or contradicts itself is a failure, a
 // sentence that names file and place.

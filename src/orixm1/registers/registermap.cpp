@@ -87,11 +87,11 @@ public:
         QString reason;
         if (!Reading::readPlainFile(m_path, Reading::Limits::registerFile, &bytes, &reason))
             fail("cannot be read: "_l1 + reason);
-        else if (const auto mistake = Reading::findJsonMistake(bytes); mistake.offset >= 0)
-            fail("line "_l1 + QString::number(Reading::placeIn(bytes, mistake.offset).line) +
-                 ": "_l1 + mistake.reason);
+        else if (const auto json = Reading::readJson(bytes); json.mistake.offset >= 0)
+            fail("line "_l1 + QString::number(Reading::placeIn(bytes, json.mistake.offset).line) +
+                 ": "_l1 + json.mistake.reason);
         else
-            readPeripheral(QJsonDocument::fromJson(bytes).object(), &peripheral);
+            readPeripheral(json.document.object(), &peripheral);
         if (m_error.isEmpty())
             return peripheral;
         return Utils::Failure{m_error};
@@ -193,6 +193,13 @@ private:
             fail(QStringLiteral("\"text\" is empty"));
         instance.base = number(object, "base"_l1);
         instance.interrupt = text(object, "interrupt"_l1, false);
+        bool isNumber = false;
+        const int input = instance.interrupt.toInt(&isNumber);
+        if (isNumber ? input < 0 || input >= interruptInputs ||
+                           instance.interrupt != QString::number(input)
+                     : !instance.interrupt.isEmpty() && instance.interrupt != "NMI"_l1)
+            fail("the interrupt is neither \"NMI\" nor a number from 0 to "_l1 +
+                 QString::number(interruptInputs - 1));
         const QJsonValue polled = object.value("polled"_l1);
         instance.isPolled = polled.toBool();
         if (!polled.isUndefined() && (!polled.isBool() || instance.interrupt.isEmpty()))

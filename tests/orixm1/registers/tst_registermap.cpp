@@ -214,6 +214,11 @@ void tst_RegisterMap::namesFileAndPlaceOfAMistake_data()
         "\"0\", \"text\": \"b\" } ] },\n"
         "    { \"name\": \"OTHER\", \"offset\": \"0x06\", \"text\": \"c\", \"fields\": [",
         "LEVEL: \"words\" of a register that cannot be written");
+    for (const char *interrupt : {"32", "-1", "03", "three", "nmi"}) {
+        const QByteArray after = QByteArray("\"interrupt\": \"") + interrupt + '"';
+        row(interrupt, "\"interrupt\": \"3\"", after.constData(),
+            "LAMP: the interrupt is neither \"NMI\" nor a number from 0 to 31");
+    }
     row("polled neither true nor false", "\"interrupt\": \"3\"",
         "\"interrupt\": \"3\", \"polled\": \"yes\"", "LAMP: \"polled\" is neither true nor false");
     row("polled without an interrupt", "\"interrupt\": \"3\"", "\"polled\": true",
@@ -405,6 +410,10 @@ void tst_RegisterMap::namesMistakesInTheOtherInterrupts_data()
     QTest::newRow("no switch")
         << QByteArray(R"({"interrupts": [{"name": "A", "number": 3, "option": "ITCM_Size"}]})")
         << QStringLiteral("\"ITCM_Size\" is no switch");
+    QTest::newRow("not UTF-8") << QByteArray("{\"interrupts\": [],\n\"\xff\": 1}")
+                               << QStringLiteral("line 2: invalid UTF8");
+    QTest::newRow("no list") << QByteArray(R"({"interupts": []})")
+                             << QStringLiteral("\"interrupts\" is no list");
     QTest::newRow("unknown word")
         << QByteArray(
                R"({"interrupts": [{"name": "A", "numbre": 1, "number": 3, "option": "Enable CAN"}]})")
