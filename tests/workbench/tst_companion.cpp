@@ -132,6 +132,22 @@ private Q_SLOTS:
                  QRect(0, 0, 800, 600));
     }
 
+    // Where there is room, two texts can be read side by side.
+    void isAsWideAsThereIsRoomBesideTheDialog()
+    {
+        openDialog();
+        const QWidget *companion = m_desk->companion();
+        const QRect screen = m_dialog->screen()->availableGeometry();
+        const QRect dialog = m_dialog->frameGeometry();
+        const QRect place = companion->geometry();
+        const int needed = companion->sizeHint().width();
+        const int wide = companion->fontMetrics().averageCharWidth() * 100;
+        const int free = std::max(screen.right() - dialog.right(), dialog.left() - screen.left());
+        QVERIFY(needed < wide);
+        QCOMPARE(place.width(), std::max(needed, std::min(wide, free)));
+        QCOMPARE(place.intersects(dialog), free < needed);
+    }
+
     void comesBackWhereItWasPut()
     {
         openDialog();

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -276,6 +277,36 @@ private Q_SLOTS:
         m_panel->show();
         QCoreApplication::processEvents();
         QCOMPARE(m_dialog->asked, 3);
+    }
+
+    void namesOfFilesAreSeenWhereItIsNarrow()
+    {
+        m_panel->show();
+        m_panel->refresh();
+        const QTreeWidget *files = tree("Files");
+        const int margins =
+            2 * (files->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, files) + 1);
+        bool hasShortened = false;
+        for (int width = m_panel->minimumSizeHint().width(); width < 1200; width += 30) {
+            m_panel->resize(width, 500);
+            QCoreApplication::processEvents();
+            const int state = files->header()->sectionSize(1);
+            for (int i = 0; i < files->topLevelItemCount(); ++i) {
+                const QTreeWidgetItem *item = files->topLevelItem(i);
+                const QString shown = files->fontMetrics().elidedText(
+                    item->text(0), files->textElideMode(), files->columnWidth(0) - margins);
+                QVERIFY2(shown.endsWith(QFileInfo(item->text(0)).fileName()) || state < 40,
+                         qPrintable(QStringLiteral("%1 at %2").arg(shown).arg(width)));
+                QCOMPARE(item->toolTip(0), item->text(0));
+                QCOMPARE(item->toolTip(1), item->text(1));
+            }
+            hasShortened |= state < 80;
+            QVERIFY(state >= 32);
+        }
+        QVERIFY(hasShortened);
+        // Where there is room, nothing is shortened.
+        QVERIFY(files->header()->sectionSize(1) >
+                files->fontMetrics().horizontalAdvance(files->topLevelItem(4)->text(1)));
     }
 
     void theChosenFileStaysChosen()

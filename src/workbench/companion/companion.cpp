@@ -20,6 +20,13 @@
 namespace Workbench
 {
 
+namespace
+{
+
+constexpr int comfortableColumns = 100; // of a text
+
+} // namespace
+
 Companion::Companion(QDialog *ipDialog, QObject *pluginRoot, const QVector<CompanionPanel> &panels)
     : QWidget(ipDialog, Qt::Tool)
     , m_dialog(ipDialog)
@@ -91,10 +98,15 @@ void Companion::showBeside()
 
 void Companion::goBeside()
 {
-    const QSize room = IPCore::roomOnScreen(m_dialog);
-    const QSize size(sizeHint().width(), std::max(sizeHint().height(), m_dialog->height()));
-    const QRect screen(m_dialog->screen()->availableGeometry().topLeft(), room);
-    WindowPlace::put(this, placeBeside(m_dialog->frameGeometry(), size, screen));
+    const QRect screen(m_dialog->screen()->availableGeometry().topLeft(),
+                       IPCore::roomOnScreen(m_dialog));
+    const QRect dialog = m_dialog->frameGeometry();
+    // Wide enough for two texts side by side, where that hides nothing of the dialog.
+    const int free = std::max(screen.right() - dialog.right(), dialog.left() - screen.left());
+    const int wide = std::min(free, fontMetrics().averageCharWidth() * comfortableColumns);
+    const QSize size(std::max(sizeHint().width(), wide),
+                     std::max(sizeHint().height(), m_dialog->height()));
+    WindowPlace::put(this, placeBeside(dialog, size, screen));
 }
 
 void Companion::rememberPlace(QSettings &settings)

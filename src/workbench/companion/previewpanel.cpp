@@ -7,11 +7,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QEvent>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -103,7 +106,8 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
     m_files->setTextElideMode(Qt::ElideLeft); // the name matters more than the folder
     m_files->header()->setStretchLastSection(false);
     m_files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_files->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_files->header()->setSectionResizeMode(1, QHeaderView::Fixed);
+    m_files->viewport()->installEventFilter(this);
     m_texts->setMessage(tr("Choose a file."));
 
     auto *refreshButton = new QPushButton(tr("&Refresh"));
@@ -204,6 +208,23 @@ void PreviewPanel::refresh()
         showPreview(*preview);
 }
 
+bool PreviewPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize && watched == m_files->viewport())
+        shareFileColumns();
+    return QWidget::eventFilter(watched, event);
+}
+
+// Where it is narrow, a state is known by its symbol as well, a file by nothing but its name.
+void PreviewPanel::shareFileColumns()
+{
+    m_files->resizeColumnToContents(1);
+    QHeaderView *header = m_files->header();
+    const int left = m_files->viewport()->width() - m_nameWidth;
+    const int least = 2 * style()->pixelMetric(QStyle::PM_SmallIconSize);
+    header->resizeSection(1, std::max(std::min(left, header->sectionSize(1)), least));
+}
+
 void PreviewPanel::showProblem(const QString &problem)
 {
     m_preview = {};
@@ -228,12 +249,17 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
     {
         const QSignalBlocker blocker(m_files);
         m_files->clear();
+        m_nameWidth = 0;
         QTreeWidgetItem *firstChange = nullptr;
         for (const Answers::PreviewedFile &file : preview.files) {
             const ShownRow *row = shownRow(states, file.state);
             auto *item =
                 new QTreeWidgetItem(m_files, {file.path, row ? tr(row->text) : file.state});
             item->setIcon(1, symbolIcon(QLatin1String(row ? row->icon : "file")));
+            for (int column : {0, 1})
+                item->setToolTip(column, item->text(column));
+            const QString name = QStringLiteral("…/") + QFileInfo(file.path).fileName();
+            m_nameWidth = std::max(m_nameWidth, m_files->fontMetrics().horizontalAdvance(name));
             const bool isChange =
                 file.state != QLatin1String("equal") && file.state != QLatin1String("stays");
             changes += isChange && file.state != QLatin1String("removed");
@@ -246,6 +272,8 @@ void PreviewPanel::showPreview(const Answers::Preview &preview)
             next = firstChange ? firstChange : m_files->topLevelItem(0);
         m_files->setCurrentItem(next);
     }
+    m_nameWidth += 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_files) + 1);
+    shareFileColumns();
     QStringList summary{
         changes == 0
             ? tr("OK would change no file.")

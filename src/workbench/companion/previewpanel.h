@@ -41,6 +41,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private Q_SLOTS:
     void onConfigurationChanged();
@@ -48,6 +49,7 @@ private Q_SLOTS:
 private:
     void showPreview(const Answers::Preview &preview);
     void showFile();
+    void shareFileColumns();
     void showProblem(const QString &problem);
 
     QPointer<QDialog> m_dialog;
@@ -59,6 +61,7 @@ private:
 
     QLabel *m_summary;
     QTreeWidget *m_files;
+    int m_nameWidth = 0; // of the longest name in it, without folders
     QTreeWidget *m_differences;
     QLabel *m_note; // of the file
     SideBySide *m_texts;
