@@ -272,7 +272,7 @@ Utils::Result<QVector<FreshMeasurement>> plannedFresh(int seed, const DEV::Devic
 constexpr int firstFreshSeed = 5000000;
 
 // One of so many netlists is made for a second device as well, which has to give the same.
-constexpr int timesUntilAgain = 10;
+constexpr int timesUntilAgain = 40;
 
 int measureFresh(const QString &path, const DEV::DeviceDb &devices, int skip, int count)
 {

@@ -383,7 +383,7 @@ Utils::Result<QString> textDigest(const DEV::DeviceArg &device, const OptionMap 
     folders.removeDuplicates();
     QString script;
     for (const QString &source : plan->sources) {
-        script += "read_verilog -ppdump"_l1;
+        script += "read_verilog -defer -ppdump"_l1;
         for (const QString &include : qAsConst(folders))
             script += " -I"_l1 + include;
         script += u' ' + source + u'\n';
