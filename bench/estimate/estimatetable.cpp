@@ -11,10 +11,11 @@
 //     the estimates are off; fails where less than 98 % hold
 // estimatetable spot N [SEED]
 //     the same for N with few blocks
-// estimatetable fresh [COUNT [SKIP]]
+// estimatetable fresh [COUNT [SKIP [MOST]]]
 //     draws COUNT (200) configurations for each series and synthesises each different text once,
 //     into a file that the fit never reads; can be ended at any time and called again. The first
-//     SKIP (0) are left to another process, which writes into another file.
+//     SKIP (0) are left to another process, which writes into another file. With MOST, those of
+//     which more netlists would have to be made are passed over for another time.
 // estimatetable report
 //     prints for each series how the estimates fare in that file. A netlist counts for each series
 //     in which somebody could have the configuration, so the series' figures are not independent of
@@ -274,7 +275,9 @@ constexpr int firstFreshSeed = 5000000;
 // One of so many netlists is made for a second device as well, which has to give the same.
 constexpr int timesUntilAgain = 40;
 
-int measureFresh(const QString &path, const DEV::DeviceDb &devices, int skip, int count)
+// `count` seeds but for the first `skip`; and, where `most` is not 0, but for those that more
+// netlists stand for.
+int measureFresh(const QString &path, const DEV::DeviceDb &devices, int skip, int count, int most)
 {
     const Utils::Result<QString> rtl = rtlDigest();
     const Utils::Result<QString> synthesis = synthesisDigest();
@@ -305,6 +308,8 @@ int measureFresh(const QString &path, const DEV::DeviceDb &devices, int skip, in
         Utils::Result<QVector<FreshMeasurement>> plan = plannedFresh(seed, devices);
         if (!plan)
             return fail(plan.reason());
+        if (most > 0 && plan->size() > most)
+            continue;
         for (FreshMeasurement &one : *plan) {
             if (read->contains(seed, one.digest))
                 continue;
@@ -457,7 +462,8 @@ int main(int argc, char *argv[])
     if (command == "fresh"_l1)
         return measureFresh(isOtherPath ? path : QStringLiteral(TARVO_FRESH_MEASUREMENTS), devices,
                             arguments.value(2).toInt(),
-                            arguments.value(1, QStringLiteral("200")).toInt());
+                            arguments.value(1, QStringLiteral("200")).toInt(),
+                            arguments.value(3).toInt());
     if (command == "report"_l1)
         return reportFresh(isOtherPath ? path : QStringLiteral(TARVO_FRESH_MEASUREMENTS), devices);
     if (command == "fit"_l1)
@@ -468,5 +474,5 @@ int main(int argc, char *argv[])
                           command == "spot"_l1);
     return fail(QStringLiteral(
         "estimatetable [FILE=PATH] measure [LAST] | fit | check N [SEED] | spot N [SEED] | "
-        "fresh [COUNT [SKIP]] | report"));
+        "fresh [COUNT [SKIP [MOST]]] | report"));
 }
