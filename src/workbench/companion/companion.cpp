@@ -23,7 +23,7 @@ namespace Workbench
 namespace
 {
 
-constexpr int comfortableColumns = 100; // of a text
+constexpr int comfortableColumns = 100; // of two texts side by side
 
 } // namespace
 
@@ -70,6 +70,12 @@ QRect Companion::placeBeside(const QRect &dialog, const QSize &size, const QRect
     return at(screen.right() + 1 - seen.width(), std::min(seen.height(), dialog.height() * 2 / 3));
 }
 
+int Companion::widthBeside(const QRect &dialog, int width, const QRect &screen)
+{
+    return std::min(width,
+                    std::max(screen.right() - dialog.right(), dialog.left() - screen.left()));
+}
+
 void Companion::makePanels()
 {
     for (const CompanionPanel &panel : qAsConst(m_panels))
@@ -101,11 +107,9 @@ void Companion::goBeside()
     const QRect screen(m_dialog->screen()->availableGeometry().topLeft(),
                        IPCore::roomOnScreen(m_dialog));
     const QRect dialog = m_dialog->frameGeometry();
-    // Wide enough for two texts side by side, where that hides nothing of the dialog.
-    const int free = std::max(screen.right() - dialog.right(), dialog.left() - screen.left());
-    const int wide = std::min(free, fontMetrics().averageCharWidth() * comfortableColumns);
-    const QSize size(std::max(sizeHint().width(), wide),
-                     std::max(sizeHint().height(), m_dialog->height()));
+    QSize size(widthBeside(dialog, fontMetrics().averageCharWidth() * comfortableColumns, screen),
+               m_dialog->height());
+    size = size.expandedTo(sizeHint());
     WindowPlace::put(this, placeBeside(dialog, size, screen));
 }
 

@@ -32,6 +32,10 @@ public:
     // room, otherwise over the dialog's upper right corner, and then less high.
     static QRect placeBeside(const QRect &dialog, const QSize &size, const QRect &screen);
 
+    // As much of a width as there is room for at one side of `dialog`; nothing of it is hidden
+    // then.
+    static int widthBeside(const QRect &dialog, int width, const QRect &screen);
+
     // From now on; before it is shown. The settings must outlive it.
     void rememberPlace(QSettings &settings);
     // Beside the dialog, or where people have put it before. The dialog, which must be visible and
