@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>CloseButton</name>
+    <message>
+        <source>Close Tab</source>
+        <translation>Reiter schließen</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
@@ -14,6 +21,131 @@
     <message>
         <source>Step &amp;down</source>
         <translation>&amp;Niedriger</translation>
+    </message>
+</context>
+<context>
+    <name>QAccessibleActionInterface</name>
+    <message>
+        <source>Press</source>
+        <translation>Drücken</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Erhöhen</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Verringern</translation>
+    </message>
+    <message>
+        <source>ShowMenu</source>
+        <translation>Menü zeigen</translation>
+    </message>
+    <message>
+        <source>SetFocus</source>
+        <translation>Eingabe hierher</translation>
+    </message>
+    <message>
+        <source>Toggle</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>Scroll Left</source>
+        <translation>Nach links rollen</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>Nach rechts rollen</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>Nach oben rollen</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>Nach unten rollen</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Triggers the action</source>
+        <translation>Löst die Aktion aus</translation>
+    </message>
+    <message>
+        <source>Increase the value</source>
+        <translation>Erhöht den Wert</translation>
+    </message>
+    <message>
+        <source>Decrease the value</source>
+        <translation>Verringert den Wert</translation>
+    </message>
+    <message>
+        <source>Shows the menu</source>
+        <translation>Zeigt das Menü</translation>
+    </message>
+    <message>
+        <source>Sets the focus</source>
+        <translation>Nimmt hier die Eingaben an</translation>
+    </message>
+    <message>
+        <source>Toggles the state</source>
+        <translation>Schaltet den Zustand um</translation>
+    </message>
+    <message>
+        <source>Scrolls to the left</source>
+        <translation>Rollt nach links</translation>
+    </message>
+    <message>
+        <source>Scrolls to the right</source>
+        <translation>Rollt nach rechts</translation>
+    </message>
+    <message>
+        <source>Scrolls up</source>
+        <translation>Rollt nach oben</translation>
+    </message>
+    <message>
+        <source>Scrolls down</source>
+        <translation>Rollt nach unten</translation>
+    </message>
+    <message>
+        <source>Goes back a page</source>
+        <translation>Geht eine Seite zurück</translation>
+    </message>
+    <message>
+        <source>Goes to the next page</source>
+        <translation>Geht zur nächsten Seite</translation>
+    </message>
+</context>
+<context>
+    <name>QComboBox</name>
+    <message>
+        <source>Open the combo box selection popup</source>
+        <translation>Öffnet die Liste der Auswahl</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Herauslösen</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Löst den Bereich heraus oder fügt ihn wieder ein</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Schließt den Bereich</translation>
     </message>
 </context>
 <context>
@@ -78,6 +210,146 @@
         <source>%1 File</source>
         <translation>%1-Datei</translation>
     </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Find Directory</source>
+        <translation>Ordner suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>&amp;Verborgene Dateien zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Geht zurück</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Geht vorwärts</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Geht zum übergeordneten Ordner</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Legt einen neuen Ordner an</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Zeigt nur die Namen</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Zeigt auch Größe, Typ und Zeit</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Liste der Orte und Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Zuletzt besucht</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 gibt es schon.
+Soll die Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Die Datei gibt es nicht.
+Bitte prüfen Sie, ob der Name stimmt.</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Den Ordner gibt es nicht.
+Bitte prüfen Sie, ob der Name stimmt.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Soll „%1“ gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>„%1“ ist schreibgeschützt.
+Trotzdem löschen?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Der Ordner lässt sich nicht löschen.</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Zeige </translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -96,6 +368,41 @@
     <message>
         <source>Date Modified</source>
         <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Ungültiger Name</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;Der Name „%1“ ist nicht möglich.&lt;/b&gt;&lt;p&gt;Versuchen Sie einen anderen, mit weniger Zeichen oder ohne Satzzeichen.</translation>
+    </message>
+</context>
+<context>
+    <name>QGnomeTheme</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close without Saving</source>
+        <translation>Schließen ohne zu speichern</translation>
     </message>
 </context>
 <context>
@@ -319,6 +626,65 @@
     <message>
         <source>Return</source>
         <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Num</source>
+        <translation>Num</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Backtab</source>
+        <translation>Umschalt+Tab</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Ins</source>
+        <translation>Einfg</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Pos1</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>F%1</source>
+        <translation>F%1</translation>
+    </message>
+</context>
+<context>
+    <name>QTabBar</name>
+    <message>
+        <source>Scroll Left</source>
+        <translation>Nach links rollen</translation>
+    </message>
+    <message>
+        <source>Scroll Right</source>
+        <translation>Nach rechts rollen</translation>
     </message>
 </context>
 <context>
