@@ -1,5 +1,7 @@
 #include "hands.h"
 
+#include <shownitems.h>
+
 #include <workbench/editor/codeeditor.h>
 #include <workbench/editor/editorpage.h>
 #include <workbench/kept/keptconfigurations.h>
@@ -560,6 +562,9 @@ private Q_SLOTS:
             auto *list = modal->findChild<QTreeWidget *>(QStringLiteral("keptList"));
             QCOMPARE(list->topLevelItemCount(), 2);
             QVERIFY(list->topLevelItem(0)->text(0).endsWith(QLatin1String("b.ipc")));
+            const auto elideModes = elideModesOf(list);
+            QVERIFY(elideModes.size() > 2);
+            QCOMPARE(elideModes.keys(Qt::ElideLeft), QList<int>{0}); // its folders go, not its name
             modal->findChild<QPushButton *>(QStringLiteral("deleteButton"))->click();
             QCOMPARE(list->topLevelItemCount(), 1);
             qobject_cast<QDialog *>(modal)->reject();

@@ -1,3 +1,4 @@
+#include <shownitems.h>
 #include <testsupport.h>
 
 #include <workbench/catalogue/answers.h>
@@ -283,7 +284,11 @@ private Q_SLOTS:
     {
         m_panel->show();
         m_panel->refresh();
-        const QTreeWidget *files = tree("Files");
+        QTreeWidget *files = tree("Files");
+        const auto elideModes = TestSupport::elideModesOf(files);
+        QCOMPARE(elideModes.size(), 2);
+        QCOMPARE(elideModes.value(0), Qt::ElideLeft);
+        QCOMPARE(elideModes.value(1), Qt::ElideRight);
         const int margins =
             2 * (files->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, files) + 1);
         bool hasShortened = false;
@@ -294,7 +299,7 @@ private Q_SLOTS:
             for (int i = 0; i < files->topLevelItemCount(); ++i) {
                 const QTreeWidgetItem *item = files->topLevelItem(i);
                 const QString shown = files->fontMetrics().elidedText(
-                    item->text(0), files->textElideMode(), files->columnWidth(0) - margins);
+                    item->text(0), elideModes.value(0), files->columnWidth(0) - margins);
                 QVERIFY2(shown.endsWith(QFileInfo(item->text(0)).fileName()) || state < 40,
                          qPrintable(QStringLiteral("%1 at %2").arg(shown).arg(width)));
                 QCOMPARE(item->toolTip(0), item->text(0));

@@ -2,6 +2,7 @@
 
 #include "catalogue/pluginloader.h"
 #include "sidebyside.h"
+#include "widgets/pathdelegate.h"
 #include "widgets/symbolicon.h"
 
 #include <QApplication>
@@ -103,7 +104,7 @@ PreviewPanel::PreviewPanel(QDialog *ipDialog, QObject *pluginRoot, QWidget *pare
         label->setTextFormat(Qt::PlainText);
     }
     m_files->setRootIsDecorated(false);
-    m_files->setTextElideMode(Qt::ElideLeft); // the name matters more than the folder
+    m_files->setItemDelegateForColumn(0, new PathDelegate(this));
     m_files->header()->setStretchLastSection(false);
     m_files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_files->header()->setSectionResizeMode(1, QHeaderView::Fixed);

@@ -1,6 +1,7 @@
 #include "keptdialog.h"
 
 #include "keptconfigurations.h"
+#include "widgets/pathdelegate.h"
 #include "widgets/symbolicon.h"
 
 #include <ipcore/screenfit.h>
@@ -45,7 +46,7 @@ KeptDialog::KeptDialog(KeptConfigurations *kept, QWidget *parent)
     m_list->setRootIsDecorated(false);
     m_list->setAlternatingRowColors(true);
     m_list->setUniformRowHeights(true);
-    m_list->setTextElideMode(Qt::ElideLeft); // the name matters more than the folders
+    m_list->setItemDelegateForColumn(0, new PathDelegate(this));
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     connect(m_list, &QTreeWidget::itemSelectionChanged, this, &KeptDialog::showState);
     connect(m_list, &QTreeWidget::itemActivated, this, [this] { accept(); });
