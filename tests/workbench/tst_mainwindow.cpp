@@ -601,8 +601,14 @@ private Q_SLOTS:
         }
         QCOMPARE(window()->kept()->items().size(), 1);
         QVERIFY(!window()->infoBar()->isHidden());
-        QVERIFY(window()->infoBar()->text().contains(ipc));
+        QVERIFY(window()->infoBar()->text().contains(QLatin1String("\"lamp/lamp.ipc\"")));
         QCOMPARE(contentsOf(ipc), stored);
+        window()->closeProject();
+        {
+            const ModalWatcher watcher(drop(true));
+            window()->openPath(ipc);
+        }
+        QVERIFY(window()->infoBar()->text().contains(u'"' + QDir::toNativeSeparators(ipc) + u'"'));
 
         m_bench->reopen();
         window()->openProject(m_bench->folder() + QStringLiteral("/board/board.tvproj"));

@@ -37,13 +37,20 @@ IpActions::IpActions(const Surroundings &with, QWidget *window)
         if (!m_with.kept.keepFile(path, &error))
             tellKeepFailed(error);
     });
-    connect(&m_with.session, &IpSession::dropped, this,
-            [this](const QString &id, const QString &file) {
-                m_with.infoBar.showMessage(
-                    tr("The dialog of \"%1\" was closed without OK. Its changes are kept as a draft.")
-                        .arg(QDir::toNativeSeparators(file)),
-                    {{tr("&Bring Back…"), [this, id] { bringBack(id); }}});
-            });
+    connect(
+        &m_with.session, &IpSession::dropped, this, [this](const QString &id, const QString &file) {
+            m_with.infoBar.showMessage(
+                tr("The dialog of \"%1\" was closed without OK. Its changes are kept as a draft.")
+                    .arg(shownName(file)),
+                {{tr("&Bring Back…"), [this, id] { bringBack(id); }}});
+        });
+}
+
+QString IpActions::shownName(const QString &file) const
+{
+    const QString inside = m_project ? m_project->path() + u'/' : QString();
+    const bool isInside = m_project && file.startsWith(inside);
+    return QDir::toNativeSeparators(isInside ? file.mid(inside.size()) : file);
 }
 
 IpActions::~IpActions()

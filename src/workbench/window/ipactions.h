@@ -68,6 +68,8 @@ Q_SIGNALS:
     void showRequested(const QString &ipcFile);
 
 private:
+    // Short in the project, so that a line has room for what is said of it.
+    QString shownName(const QString &file) const;
     void tellKeepFailed(const QString &message);
     // What to do with a configuration of an unknown device; true: open it.
     bool settleUnknownDevice(const QString &ipcFile);
