@@ -27,6 +27,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTreeView>
 
@@ -702,6 +703,40 @@ private Q_SLOTS:
         QCOMPARE(access->text(QAccessible::Description),
                  QStringLiteral("not driven by the subsystem, the switch drives it high"));
         page->end();
+    }
+
+    void pinsStandInTwoRowsWhereThePageIsNarrow()
+    {
+        SimulationPage *page = openPage("echo\n");
+        const QVector<PinSwitch *> &pins = page->pins()->pins();
+        QCOMPARE(pins.size(), 16);
+        auto *area = page->findChild<QScrollArea *>();
+        const auto rows = [&pins](const PinSwitch *pin) {
+            return std::count_if(pins.begin(), pins.end(),
+                                 [pin](const PinSwitch *other) { return other->y() == pin->y(); });
+        };
+        bool hasTurned = false;
+        // Down and up again, without a window that has a least width.
+        page->setParent(nullptr);
+        page->show();
+        const int least = page->minimumSizeHint().width();
+        for (int step = -40; step <= 40; ++step) {
+            page->resize(least + qAbs(step) * 20, 300);
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents(); // what follows a change of the rows
+            QVERIFY2(area->horizontalScrollBar()->maximum() == 0,
+                     qPrintable(QString::number(page->width())));
+            const bool isOneRow = rows(pins.first()) == 16;
+            QVERIFY(isOneRow || rows(pins.first()) == 8);
+            QVERIFY(isOneRow || pins.at(8)->x() == pins.at(0)->x());
+            QVERIFY(pins.at(8)->y() >= pins.at(0)->y());
+            QCOMPARE(isOneRow, pins.at(8)->y() == pins.at(0)->y());
+            if (step == -40)
+                QVERIFY(isOneRow);
+            hasTurned |= !isOneRow;
+        }
+        QVERIFY(hasTurned);
+        delete page;
     }
 
     void aMessageOpensTheLineInC()

@@ -280,6 +280,7 @@ private Q_SLOTS:
             window->resize(window->size().boundedTo(doubledSmallScreen()));
             QCoreApplication::processEvents();
             QCOMPARE(cutOff(window, doubledSmallScreen()).join(u'\n'), QString());
+            QCOMPARE(sidewaysPages(window).join(u'\n'), QString());
         });
     }
 

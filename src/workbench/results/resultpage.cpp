@@ -114,6 +114,7 @@ ResultPage::ResultPage(QWidget *parent)
     });
 
     m_left->setObjectName(QStringLiteral("resultTabs"));
+    m_left->setMinimumWidth(fontMetrics().averageCharWidth() * 20); // its tabs scroll
     m_left->addTab(m_figure, tr("Ports"));
     m_left->addTab(m_cellTable, tr("Primitives"));
     auto *right = new QSplitter(Qt::Vertical);

@@ -1,6 +1,7 @@
 #include "pinpanel.h"
 
 #include "pinswitch.h"
+#include "widgets/arrangement.h"
 
 #include <QHBoxLayout>
 
@@ -9,13 +10,12 @@ namespace Workbench
 
 PinPanel::PinPanel(QWidget *parent)
     : QWidget(parent)
-    , m_row(new QHBoxLayout(this))
+    , m_eights(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
     setObjectName(QStringLiteral("pinPanel"));
     setAccessibleName(tr("Pins of the GPIO"));
-    m_row->setContentsMargins(0, 0, 0, 0);
-    m_row->setSpacing(0);
-    m_row->addStretch(1);
+    m_eights->setContentsMargins(0, 0, 0, 0);
+    m_eights->setSpacing(fontMetrics().averageCharWidth());
 }
 
 void PinPanel::setCount(int count)
@@ -24,12 +24,17 @@ void PinPanel::setCount(int count)
         return;
     qDeleteAll(m_pins);
     m_pins.clear();
-    // Counted in eights.
-    while (m_row->count() > 1)
-        delete m_row->takeAt(0);
+    while (QLayoutItem *eight = m_eights->takeAt(0))
+        delete eight;
+    QHBoxLayout *row = nullptr;
     for (int number = 0; number < count; ++number) {
-        if (number > 0 && number % 8 == 0)
-            m_row->insertSpacing(m_row->count() - 1, fontMetrics().averageCharWidth());
+        if (number % 8 == 0) {
+            row = new QHBoxLayout;
+            row->setSpacing(0);
+            const bool isLast = number + 8 >= count;
+            m_eights->addLayout(row, isLast ? 1 : 0);
+            m_eights->setAlignment(row, Qt::AlignLeft);
+        }
         auto *pin = new PinSwitch(number);
         pin->setObjectName(QStringLiteral("pin%1").arg(number));
         pin->setFocusPolicy(number == 0 ? Qt::StrongFocus : Qt::ClickFocus);
@@ -38,9 +43,14 @@ void PinPanel::setCount(int count)
             if (PinSwitch *next = m_pins.value(number + steps))
                 next->setFocus(Qt::TabFocusReason);
         });
-        m_row->insertWidget(m_row->count() - 1, pin);
+        row->addWidget(pin);
         m_pins.append(pin);
     }
+}
+
+void PinPanel::arrange(int room)
+{
+    arrangeIn(m_eights, room);
 }
 
 void PinPanel::showPins(quint32 levels, quint32 driven)

@@ -20,6 +20,8 @@ public:
     explicit PinPanel(QWidget *parent = nullptr);
 
     void setCount(int count);
+    // Puts each eight into a row of its own where they have no room beside one another; in pixels.
+    void arrange(int room);
     const QVector<PinSwitch *> &pins() const { return m_pins; }
     // A bit each; `driven` by the subsystem.
     void showPins(quint32 levels, quint32 driven);
@@ -31,7 +33,7 @@ Q_SIGNALS:
     void switched();
 
 private:
-    QBoxLayout *m_row;
+    QBoxLayout *m_eights;
     QVector<PinSwitch *> m_pins;
 };
 

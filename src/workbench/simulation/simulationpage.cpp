@@ -6,6 +6,7 @@
 #include "pinswitch.h"
 #include "simulationrun.h"
 #include "terminalview.h"
+#include "widgets/arrangement.h"
 #include "widgets/assistance.h"
 #include "widgets/infobar.h"
 #include "widgets/scrollingpage.h"
@@ -245,14 +246,14 @@ void SimulationPage::focusInEvent(QFocusEvent *event)
     next->setFocus(event->reason());
 }
 
-// What does not stand side by side stands in two rows.
 void SimulationPage::arrangeChoice()
 {
-    int needed = layout()->contentsMargins().left() + layout()->contentsMargins().right();
-    for (int i = 0; i < m_choiceRows->count(); ++i)
-        needed += m_choiceRows->itemAt(i)->minimumSize().width() + 2 * m_choiceRows->spacing();
-    m_choiceRows->setDirection(needed > width() ? QBoxLayout::TopToBottom
-                                                : QBoxLayout::LeftToRight);
+    const QMargins margins = m_choiceRows->parentWidget()->layout()->contentsMargins();
+    // Beside what scrolls a page that is too low for its parts.
+    const int room = width() - margins.left() - margins.right() -
+                     style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    arrangeIn(m_choiceRows, room);
+    m_pins->arrange(room);
 }
 
 void SimulationPage::resizeEvent(QResizeEvent *event)

@@ -58,7 +58,7 @@ ProgramPart::ProgramPart(const Source &source, const QString &ipcFile, QWidget *
     auto *grid = new QGridLayout;
     buildRow(grid, 0, tr("Progra&m:"), m_image, m_browseImage);
     buildRow(grid, 1, tr("Folde&r:"), m_folder, m_browseFolder);
-    grid->addWidget(m_initialize, 2, 1);
+    grid->addWidget(m_initialize, 2, 0, 1, 2); // a long text, in a narrow page as well
     grid->addWidget(m_write, 2, 2);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -42,7 +42,9 @@ QSize ScrollingPage::minimumSizeHint() const
     const QSize most(fontMetrics().averageCharWidth() * leastLetters,
                      fontMetrics().height() * leastLines);
     const QLayout *layout = widget()->layout();
-    return layout ? layout->totalMinimumSize().boundedTo(most) : most;
+    // A page that is lower than its parts has the bar beside them.
+    const QSize bar(verticalScrollBar()->sizeHint().width(), 0);
+    return layout ? (layout->totalMinimumSize() + bar).boundedTo(most) : most;
 }
 
 // The parts may have been laid out for the first time.
