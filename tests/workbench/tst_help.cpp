@@ -52,6 +52,29 @@ private Q_SLOTS:
         QCOMPARE(row, headings.size());
     }
 
+    void tablesKeepTheirWords()
+    {
+        HelpWindow *help = guide();
+        const HelpBrowser *browser = help->browser();
+        // Texts that are written without blanks break between their characters.
+        const auto isWord = [](QChar c) { return c.unicode() < 128 && c.isLetterOrNumber(); };
+        for (const int width : {500, 700, 1000}) {
+            help->resize(width, 500);
+            QCoreApplication::processEvents();
+            int lines = 0;
+            for (QTextBlock block = browser->document()->begin(); block.isValid();
+                 block = block.next()) {
+                for (int i = 1; i < block.layout()->lineCount(); ++i, ++lines) {
+                    const int start = block.layout()->lineAt(i).textStart();
+                    QVERIFY2(!isWord(block.text().at(start - 1)) || !isWord(block.text().at(start)),
+                             qPrintable(block.text().mid(start - 12, 24)));
+                }
+            }
+            QVERIFY(lines > 100);
+        }
+        QCOMPARE(browser->horizontalScrollBar()->maximum(), 0);
+    }
+
     void theContentsFollowTheText()
     {
         HelpWindow *help = guide();

@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QTextBlock>
 #include <QTreeView>
 
 using namespace Workbench;
@@ -523,6 +524,33 @@ private Q_SLOTS:
             chapters += page.count("Chapter");
         }
         QCOMPARE(chapters, 40);
+    }
+
+    void noWordIsBrokenInANarrowView()
+    {
+        QByteArray html = "<p>Registers of the block</p><table><tr>";
+        for (const char *word : {"register", "0x00000000", "GPIO_DATAOUT", "writing", "effects"})
+            html += QByteArray("<th>") + word + "</th>";
+        html += "</tr></table>";
+        SoftwareBrowser browser;
+        QString error;
+        QVERIFY(browser.showFile({file("a.html", html)}, QStringLiteral("a.html"), &error));
+        browser.show();
+        for (int width = 100; width < 600; width += 50) {
+            browser.resize(width, 300);
+            QCoreApplication::processEvents();
+            int lines = 0;
+            for (QTextBlock block = browser.document()->begin(); block.isValid();
+                 block = block.next()) {
+                for (int i = 0; i < block.layout()->lineCount(); ++i, ++lines) {
+                    const QTextLine line = block.layout()->lineAt(i);
+                    const int end = line.textStart() + line.textLength();
+                    QVERIFY2(end >= block.text().size() || block.text().at(end - 1).isSpace(),
+                             qPrintable(block.text().left(end)));
+                }
+            }
+            QVERIFY(lines >= 6);
+        }
     }
 
     // The page

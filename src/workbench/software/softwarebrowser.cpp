@@ -19,6 +19,7 @@ SoftwareBrowser::SoftwareBrowser(QWidget *parent)
     setOpenLinks(false);
     setOpenExternalLinks(false);
     setFrameShape(QFrame::NoFrame);
+    setWordWrapMode(QTextOption::WordWrap); // a view has its own for each document
     QPalette paper = palette();
     paper.setColor(QPalette::Base, Qt::white);
     paper.setColor(QPalette::Text, Qt::black);

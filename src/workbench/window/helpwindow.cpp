@@ -68,6 +68,7 @@ HelpBrowser::HelpBrowser(QWidget *parent)
     setObjectName(QStringLiteral("helpText"));
     setAccessibleName(tr("Help"));
     setOpenExternalLinks(false);
+    setWordWrapMode(QTextOption::WordWrap); // tables keep their words and numbers
     document()->setDocumentMargin(fontMetrics().height());
     // A bar that comes and goes while one document takes the place of another changes the width,
     // and with it the pictures.
