@@ -431,6 +431,16 @@ private Q_SLOTS:
         QTest::newRow("deep groups")
             << head + QByteArray("<g>").repeated(100) + QByteArray("</g>").repeated(100) + "</svg>";
         QTest::newRow("many shapes") << head + QByteArray("<g/>").repeated(200000) + "</svg>";
+        const QByteArray line = head + "<line x2=\"9\" ";
+        QTest::newRow("a line without end")
+            << head + "<path d=\"M0 0L3e30,4\" stroke=\"red\"/></svg>";
+        QTest::newRow("dashes without end") << line + "stroke-dasharray=\"1e-9\"/></svg>";
+        QTest::newRow("dashes in a style") << line + "style=\"stroke-dasharray:1e-9 0\"/></svg>";
+        QTest::newRow("dashes in a sheet")
+            << head + "<style>line{stroke-dasharray: 1e-9}</style><line x2=\"9\"/></svg>";
+        QTest::newRow("dashes backwards") << line + "stroke-dasharray=\"5 -4.9\"/></svg>";
+        QTest::newRow("dashes of another scale")
+            << line + "vector-effect=\"non-scaling-stroke\"/></svg>";
         QTest::newRow("no XML") << QByteArray("lamps");
         QTest::newRow("half of one") << picture.left(60);
         QTest::newRow("nothing") << QByteArray();

@@ -2,13 +2,9 @@
 
 #include "tr.h"
 
-#include <QStringList>
-
 #include <QMetaMethod>
 #include <QObject>
-
-#include "tr.h"
-
+#include <QStringList>
 #include <QVariantList>
 
 #include <algorithm>

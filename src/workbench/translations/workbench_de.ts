@@ -1736,6 +1736,10 @@ Trotzdem löschen?</translation>
         <source>Not counted are the contents of black boxes: %1.</source>
         <translation>Nicht gezählt ist der Inhalt der Blackboxes: %1.</translation>
     </message>
+    <message>
+        <source>its lines are longer than can be drawn</source>
+        <translation>ihre Linien sind länger, als sich zeichnen lässt</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>

@@ -1736,6 +1736,10 @@ Do you want to delete it anyway?</source>
         <source>Not counted are the contents of black boxes: %1.</source>
         <translation>未计入黑盒的内容：%1。</translation>
     </message>
+    <message>
+        <source>its lines are longer than can be drawn</source>
+        <translation>其中的线条长得无法绘制</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::AboutDialog</name>

@@ -4,10 +4,15 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSvgRenderer>
 #include <QTextDocument>
+#include <QVector>
 #include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Workbench
 {
@@ -37,12 +42,96 @@ bool isHarmless(const QStringRef &element)
     return elements.contains(element.toString());
 }
 
+// What numbers can make of a drawing: lines of a length that no paper has, cut into dashes without
+// end.
+class Measure
+{
+public:
+    void takeAttribute(const QString &name, const QString &value)
+    {
+        static const QSet<QString> sizes = {
+            QStringLiteral("x"),         QStringLiteral("y"),
+            QStringLiteral("x1"),        QStringLiteral("y1"),
+            QStringLiteral("x2"),        QStringLiteral("y2"),
+            QStringLiteral("cx"),        QStringLiteral("cy"),
+            QStringLiteral("r"),         QStringLiteral("rx"),
+            QStringLiteral("ry"),        QStringLiteral("fx"),
+            QStringLiteral("fy"),        QStringLiteral("width"),
+            QStringLiteral("height"),    QStringLiteral("d"),
+            QStringLiteral("points"),    QStringLiteral("viewBox"),
+            QStringLiteral("transform"), QStringLiteral("gradientTransform"),
+            QStringLiteral("font-size"), QStringLiteral("stroke-width")};
+        if (name == QLatin1String("stroke-dasharray"))
+            takeDashes(value);
+        else if (name == QLatin1String("style"))
+            takeStyle(value);
+        else if (name == QLatin1String("vector-effect"))
+            m_isSound = false; // dashes of another scale than their line
+        else if (sizes.contains(name))
+            takeSizes(value);
+    }
+
+    void takeStyle(QString style)
+    {
+        static const QRegularExpression colour(QStringLiteral("#[0-9A-Fa-f]+"));
+        static const QRegularExpression dashes(QStringLiteral("stroke-dasharray\\s*:([^;}]*)"));
+        m_isSound &= !style.contains(QLatin1String("vector-effect"));
+        for (auto all = dashes.globalMatch(style); all.hasNext();)
+            takeDashes(all.next().captured(1));
+        takeSizes(style.remove(colour));
+    }
+
+    bool isSound() const
+    {
+        return m_isSound && (m_shortest <= 0 || m_length / m_shortest <= dashLimit);
+    }
+
+private:
+    static constexpr double sizeLimit = 1e6;
+    static constexpr double dashLimit = 1e7; // of all lines together
+
+    static QVector<double> numbersIn(const QString &text)
+    {
+        static const QRegularExpression number(
+            QStringLiteral("[-+]?(?:\\d+\\.?\\d*|\\.\\d+)(?:[eE][-+]?\\d+)?"));
+        QVector<double> numbers;
+        for (auto all = number.globalMatch(text); all.hasNext();)
+            numbers.append(all.next().captured().toDouble());
+        return numbers;
+    }
+
+    void takeSizes(const QString &text)
+    {
+        for (const double number : numbersIn(text)) {
+            m_isSound &= std::abs(number) <= sizeLimit;
+            m_length += std::abs(number);
+        }
+    }
+
+    void takeDashes(const QString &text)
+    {
+        double sum = 0;
+        for (const double number : numbersIn(text)) {
+            m_isSound &= number >= 0 && number <= sizeLimit;
+            sum += number;
+        }
+        if (sum > 0)
+            m_shortest = m_shortest > 0 ? std::min(m_shortest, sum) : sum;
+    }
+
+    bool m_isSound = true;
+    double m_length = 0;   // at most, but for a small factor
+    double m_shortest = 0; // pattern; 0: there is none
+};
+
 // Why a drawing is not rendered, as a clause; empty if it may be.
 QString mistakeOf(const QByteArray &bytes)
 {
     QXmlStreamReader xml(bytes);
+    Measure measure;
     int elements = 0;
     int depth = 0;
+    bool isStyle = false;
     while (!xml.atEnd()) {
         switch (xml.readNext()) {
         case QXmlStreamReader::DTD:
@@ -54,15 +143,25 @@ QString mistakeOf(const QByteArray &bytes)
                 return Tr::tr("it is too large");
             if (!isHarmless(xml.name()))
                 return Tr::tr("it holds the element \"%1\"").arg(xml.name().toString().left(100));
+            isStyle = xml.name() == QLatin1String("style");
+            for (const QXmlStreamAttribute &attribute : xml.attributes())
+                measure.takeAttribute(attribute.name().toString(), attribute.value().toString());
+            break;
+        case QXmlStreamReader::Characters:
+            if (isStyle)
+                measure.takeStyle(xml.text().toString());
             break;
         case QXmlStreamReader::EndElement:
+            isStyle = false;
             --depth;
             break;
         default:
             break;
         }
     }
-    return xml.hasError() ? xml.errorString() : QString();
+    if (xml.hasError())
+        return xml.errorString();
+    return measure.isSound() ? QString() : Tr::tr("its lines are longer than can be drawn");
 }
 
 } // namespace
