@@ -455,10 +455,23 @@ private Q_SLOTS:
 
     void aDocumentThatIsNestedWithoutEndIsNotLaidOut()
     {
+        // Ends without a beginning first: they do not make room for more.
+        const auto deep = [](const QByteArray &opening, const QByteArray &closing) -> QByteArray {
+            return closing.repeated(5000) + opening.repeated(5000);
+        };
         const QVector<SoftwareFile> files = {
             file("a.html", QByteArray("<table><tr><td>").repeated(5000)),
             file("b.html", QByteArray("<ul><li>").repeated(5000)),
-            file("c.html", QByteArray("<p>x").repeated(2 << 20))};
+            file("c.html", QByteArray("<p>x").repeated(2 << 20)),
+            file("d.html", deep("<table><tr><td>", "</table>")),
+            file("e.html", deep("<UL><li>", "</UL>")),
+            file("f.html", deep("<blockquote>", "")),
+            file("g.html", deep("<unknown style=\"color: red\">", "")),
+            file("h.html", "<table>" + QByteArray("<tr><td>1").repeated(50000)),
+            file("i.html", "<ol>" + QByteArray("<li>1").repeated(30000)),
+            file("j.html", QByteArray("<img src=\"a.svg\">").repeated(30000)),
+            file("k.html",
+                 "<table><tr><td>" + QByteArray("<table><tr><td>1</table>").repeated(10000))};
         for (const SoftwareFile &entry : files) {
             SoftwareDocument document(files, entry.path);
             QVERIFY2(!document.mistake().isEmpty(), qPrintable(entry.path));

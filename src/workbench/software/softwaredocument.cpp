@@ -6,8 +6,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTextTable>
 #include <QUrl>
+
+#include <cctype>
 
 namespace Workbench
 {
@@ -15,23 +18,61 @@ namespace Workbench
 namespace
 {
 
-// Laying out takes the longer the deeper tables lie in each other, and the stack as well.
+// Laying out takes the longer the deeper elements lie in each other, and the stack as well; and for
+// some of them with the square of their number. Of what is too much, in one document:
 constexpr int sizeLimit = 4 << 20; // bytes
 constexpr int tableDepthLimit = 8;
 constexpr int elementDepthLimit = 1000;
+constexpr int elementLimit = 40000;
+constexpr int innerTableLimit = 500;
+constexpr int itemLimit = 4000;
+constexpr int pictureLimit = 1000;
 
-int depthOf(const QByteArray &html, const QByteArray &opening, const QByteArray &closing)
+enum class Excess { None, Size, Depth };
+
+Excess excessOf(const QByteArray &html)
 {
+    if (html.size() > sizeLimit)
+        return Excess::Size;
+    // These have no end, or need none where the next one begins.
+    static const QSet<QByteArray> unended = {
+        "area", "base", "br",    "col",   "dd", "dt",    "hr", "img",   "input", "li", "link",
+        "meta", "p",    "param", "tbody", "td", "tfoot", "th", "thead", "tr",    "wbr"};
     int depth = 0;
-    int deepest = 0;
+    int tableDepth = 0;
+    int elements = 0;
+    int innerTables = 0;
+    int items = 0;
+    int pictures = 0;
     for (int at = html.indexOf('<'); at >= 0; at = html.indexOf('<', at + 1)) {
-        const QByteArray tag = html.mid(at, closing.size()).toLower();
-        if (tag.startsWith(closing))
-            --depth;
-        else if (tag.startsWith(opening))
-            deepest = qMax(deepest, ++depth);
+        const bool isEnd = html.mid(at + 1, 1) == "/";
+        const int from = at + (isEnd ? 2 : 1);
+        int to = from;
+        while (to < html.size() && std::isalnum(static_cast<unsigned char>(html.at(to))))
+            ++to;
+        const QByteArray name = html.mid(from, to - from).toLower();
+        if (name.isEmpty())
+            continue;
+        const bool isTable = name == "table";
+        if (!isEnd) {
+            ++elements;
+            innerTables += isTable && tableDepth > 0;
+            items += name == "li";
+            pictures += name == "img";
+        }
+        if (elements > elementLimit || innerTables > innerTableLimit || items > itemLimit ||
+            pictures > pictureLimit)
+            return Excess::Size;
+        // An end without a beginning takes nothing off.
+        const int step = isEnd ? -1 : 1;
+        if (isTable)
+            tableDepth = qMax(0, tableDepth + step);
+        if (!unended.contains(name))
+            depth = qMax(0, depth + step);
+        if (depth > elementDepthLimit || tableDepth > tableDepthLimit)
+            return Excess::Depth;
     }
-    return deepest;
+    return Excess::None;
 }
 
 // A drawing that stands in the document itself; empty where the name is none.
@@ -66,8 +107,7 @@ void ruleTables(QTextFrame *frame)
         format.setBorder(1);
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         format.setBorderBrush(QColor(190, 190, 190));
-        format.setBorderCollapse(true);
-        format.setCellSpacing(0);
+        format.setCellSpacing(-1);
         format.setCellPadding(3);
         table->setFormat(format);
     }
@@ -88,14 +128,13 @@ SoftwareDocument::SoftwareDocument(const QVector<SoftwareFile> &files, const QSt
           this))
 {
     setUndoRedoEnabled(false);
+    // Before there is a picture, so that nothing else draws one.
     documentLayout()->registerHandler(QTextFormat::ImageObject, m_pictures);
     const QByteArray html = bytesOf(path);
-    if (html.size() > sizeLimit)
+    const Excess excess = excessOf(html);
+    if (excess == Excess::Size)
         m_mistake = tr("The document is too large to be laid out.");
-    else if (depthOf(html, "<table", "</table") > tableDepthLimit ||
-             depthOf(html, "<ul", "</ul") + depthOf(html, "<ol", "</ol") +
-                     depthOf(html, "<div", "</div") >
-                 elementDepthLimit)
+    else if (excess == Excess::Depth)
         m_mistake = tr("The document is nested too deep to be laid out.");
     else if (const SoftwareFile *file = SoftwareSet::find(m_files, path);
              file && SoftwareSet::isPicture(*file))
@@ -103,7 +142,10 @@ SoftwareDocument::SoftwareDocument(const QVector<SoftwareFile> &files, const QSt
                     .arg(QString::fromLatin1(QUrl::toPercentEncoding(QFileInfo(path).fileName()))));
     else
         setHtml(withoutStyles(html));
+    QTextCursor edit(this); // laid out once, not for each table
+    edit.beginEditBlock();
     ruleTables(rootFrame());
+    edit.endEditBlock();
     keepWords(true);
 }
 
