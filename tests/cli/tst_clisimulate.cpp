@@ -807,12 +807,12 @@ private Q_SLOTS:
     void aFloodIsCutOff()
     {
         TestSupport::write(path("main.c"), semihosting +
-                                               "static char text[4000];\nint main(void)\n{\n"
-                                               "    for (int i = 0; i < 3999; ++i)\n"
+                                               "static char text[1000];\nint main(void)\n{\n"
+                                               "    for (int i = 0; i < 999; ++i)\n"
                                                "        text[i] = i & 31 ? 'x' : '\\n';\n"
                                                "    for (;;)\n        call(4, text);\n}\n");
         const Run run =
-            simulate(QStringList{example} + words({"--c", "main.c", "--timeout", "60000"}));
+            simulate(QStringList{example} + words({"--c", "main.c", "--timeout", "15000"}));
         QCOMPARE(run.status, 124);
         QVERIFY2(run.out.size() > 500000 && run.out.size() < 2000000,
                  qPrintable(QString::number(run.out.size())));

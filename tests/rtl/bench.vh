@@ -1,9 +1,15 @@
-// Common part of every testbench, included inside its module: clock, reset, checks and the end of the run.
+// Common part of every testbench, included inside its module: clock, reset, checks and the end of the run, which is the first failure
+// where ENDS_AT_A_FAILURE says so.
     // How often something is done: in the whole testbench, and in the short form of it.
 `ifdef SHORT
 `define ROUNDS(whole, short) (short)
 `else
 `define ROUNDS(whole, short) (whole)
+`endif
+`ifdef ENDS_AT_A_FAILURE
+`define FAILED $finish;
+`else
+`define FAILED
 `endif
     reg clk = 1'b0;
     reg rstn = 1'b0;
@@ -17,6 +23,7 @@
             if (condition !== 1'b1) begin
                 errors = errors + 1;
                 $display("%0t: failed: %0s", $time, what);
+                `FAILED
             end
         end
     endtask
@@ -27,6 +34,7 @@
             if (actual !== expected) begin
                 errors = errors + 1;
                 $display("%0t: failed: %0s: %h, expected %h", $time, what, actual, expected);
+                `FAILED
             end
         end
     endtask

@@ -19,7 +19,7 @@ broken() { # TESTBENCH RULE FILE SED-SCRIPT
         sed -i -E "$4" "$file"
         ! cmp -s "$file" "$variants/$(basename "$(dirname "$file")")/$3" || fail "nothing to change: $3: $4"
     done
-    "$here/run-testbench.sh" "$orixm1" "$tmp/variants" "$1" > "$tmp/log" 2>&1 && fail "$1 passes with $3: $4"
+    UNTIL="failed: bus rule: $2 (" "$here/run-testbench.sh" "$orixm1" "$tmp/variants" "$1" > "$tmp/log" 2>&1 && fail "$1 passes with $3: $4"
     grep -qF "failed: bus rule: $2 (" "$tmp/log" || fail "$1 does not name the rule that $3 breaks ($4):
 $(head -n 10 "$tmp/log")"
 }

@@ -5,7 +5,7 @@
 # set, is replaced by its netlist in that language, as the synthesis of configurations makes it (synthesizemodule, in the build
 # folder of ORIXM1).  "netlist" leaves the netlists in FOLDER, from where "verilog" and "vhdl" take them; those make them themselves
 # without a FOLDER.  The testbench knows from the macro GATES that what is unknown goes through the module, and from SHORT that it
-# has to be done in seconds: fewer rounds of the same.
+# has to be done in seconds: fewer rounds of the same. With UNTIL in the environment the run ends behind the line with that text.
 set -u
 here=$(cd "$(dirname "$0")" && pwd)
 . "$here/configure.sh"
@@ -82,7 +82,13 @@ fi
 [[ $length == whole ]] || words+=(-DSHORT)
 iverilog -g2005 -Wall "${roots[@]}" -I "$here" -I "$checkers" -I "$variants/debug" "-DPROGRAM_DIR=\"$here/program\"" \
     -o "$tmp/bench" "${words[@]}" "${files[@]}" "$checkers"/*_checker.v "$here/$bench" || exit 1
-(cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
-status=$?
+if [[ -n ${UNTIL:-} ]]; then
+    # Line by line: whoever writes on when nobody reads is ended.
+    (cd "$tmp" && stdbuf -oL vvp -n bench) 2>&1 | awk -v until="$UNTIL" '{ print } index($0, until) { exit }' > "$tmp/log"
+    status=${PIPESTATUS[0]}
+else
+    (cd "$tmp" && vvp -n bench) > "$tmp/log" 2>&1
+    status=$?
+fi
 cat "$tmp/log"
 [[ $status -eq 0 ]] && grep -qx PASS "$tmp/log" && ! grep -qiE 'fail|error' "$tmp/log"

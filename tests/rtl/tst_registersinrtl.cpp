@@ -16,10 +16,16 @@ using namespace TARVOORIXM1;
 namespace
 {
 
+// Clock cycles in which a module works before it is looked at. All have the most with
+// TARVO_TEST_EVERY_BIT=1.
+constexpr int fewCycles = 500;
+constexpr int mostCycles = 1500;
+
 // How a module's pins outside of the bus rest, and how they move while `act` counts clock cycles.
 struct OuterPins {
     QString resting;
     QString moving;
+    int cycles = fewCycles;         // until they all have done what they do
     QVector<quint32> patterns = {}; // that bring it to life, beside those for all
 };
 
@@ -33,7 +39,8 @@ OuterPins outerPins(const QString &module)
           QStringLiteral(".flash_in({act[5], act[4], act[2], act[3]})")}},
         {QStringLiteral("apb_uart"),
          // Breaks and bytes, 16 clock cycles a bit.
-         {QStringLiteral(".rxd(1'b1)"), QStringLiteral(".rxd(act[9] ? act[7] : act[8])")}},
+         {QStringLiteral(".rxd(1'b1)"), QStringLiteral(".rxd(act[9] ? act[7] : act[8])"),
+          mostCycles}},
         {QStringLiteral("apb_timer"),
          {QStringLiteral(".extin(1'b0)"), QStringLiteral(".extin(act[2])")}},
         {QStringLiteral("apb_rtc"),
@@ -44,13 +51,14 @@ OuterPins outerPins(const QString &module)
          // master read two bytes before.
          {QStringLiteral(".scl_in(1'b1), .sda_in(1'b1)"),
           QStringLiteral(".scl_in(act < 16'd528 || !act[3]), .sda_in(act < 16'd512)"),
+          mostCycles,
           {0x00020001u}}},
         {QStringLiteral("apb_spi"),
          {QStringLiteral(".miso(1'b0)"), QStringLiteral(".miso(act[2])")}},
         {QStringLiteral("apb_sdcard"),
          {QStringLiteral(".sd_spiclk(1'b0), .sd_datain(1'b0), .sd_checkin(1'b1)"),
-          QStringLiteral(".sd_spiclk(act[2]), .sd_datain(act[4]), .sd_checkin(1'b0)")}},
-        {QStringLiteral("apb_dual_timer"), {}},
+          QStringLiteral(".sd_spiclk(act[2]), .sd_datain(act[4]), .sd_checkin(1'b0)"), mostCycles}},
+        {QStringLiteral("apb_dual_timer"), {{}, {}, mostCycles}},
         {QStringLiteral("apb_system"),
          // Two accesses that fail and one request of each reset, after everything was written.
          {QStringLiteral(".PORESETn(rstn), .HADDR(32'd0), .HTRANS(2'd0), .HSIZE(2'd0), "
@@ -59,7 +67,8 @@ OuterPins outerPins(const QString &module)
           QStringLiteral(".PORESETn(rstn), .HADDR({act, act}), .HTRANS(2'd2), .HSIZE(2'd2), "
                          ".HPROT(1'b1), .HWRITE(1'b1), .HREADY(1'b1), "
                          ".HRESP((act == 16'd900) | (act == 16'd950)), .error_cause(2'd2), "
-                         ".reset_cause({4{act == 16'd1000}}), .lockup(act[3])")}},
+                         ".reset_cause({4{act == 16'd1000}}), .lockup(act[3])"),
+          mostCycles}},
         {QStringLiteral("apb_watchdog"),
          {QStringLiteral(".halted(1'b0)"), QStringLiteral(".halted(1'b0)")}}};
     const QString unknown = QStringLiteral("unknown module");
@@ -148,11 +157,11 @@ QVector<quint32> patterns()
     return list;
 }
 
-// Whether behind a write of a single bit every other register is looked at too, which takes most of
-// the time: TARVO_TEST_EVERY_BIT=1.
-bool looksEverywhere(int pattern)
+// Whether behind a write of a single bit every other register is looked at too, and every module
+// works for the most cycles, which takes most of the time: TARVO_TEST_EVERY_BIT=1.
+bool looksEverywhere()
 {
-    return pattern < mixedPatterns || qEnvironmentVariableIsSet("TARVO_TEST_EVERY_BIT");
+    return qEnvironmentVariableIsSet("TARVO_TEST_EVERY_BIT");
 }
 
 class Bench
@@ -349,7 +358,7 @@ private:
             expect(entry.offset, afterWrite(entry, pattern),
                    entry.name + QStringLiteral(" after %1").arg(pattern, 8, 16, QLatin1Char('0')));
             for (const Register &other : m_peripheral.registers) {
-                if (looksEverywhere(i) && other.offset != entry.offset &&
+                if ((i < mixedPatterns || looksEverywhere()) && other.offset != entry.offset &&
                     !entry.changes.contains(other.name))
                     expectReset(other,
                                 other.name + QLatin1String(" after a write to ") + entry.name);
@@ -418,7 +427,8 @@ private:
                              .arg(word(address(entry.offset)), word(pattern)));
             }
         }
-        line(QStringLiteral("cycles(1500);"));
+        line(QStringLiteral("cycles(%1);")
+                 .arg(looksEverywhere() ? mostCycles : outerPins(m_peripheral.module).cycles));
         line(action);
         int n = 0;
         for (const bool isTried : {false, true}) {
@@ -677,6 +687,9 @@ QVector<QPair<QString, QString>> notesOfTop()
     return notes;
 }
 
+// For what must fail: the first failure ends the simulation.
+const QString endsAtAFailure = QStringLiteral("-DENDS_AT_A_FAILURE");
+
 // Compiles and runs under the rules of the buses; the text that is wrong about it, or nothing.
 QString simulate(const QString &bench, const QStringList &sources)
 {
@@ -689,8 +702,7 @@ QString simulate(const QString &bench, const QStringList &sources)
     process.start(QStringLiteral("iverilog"),
                   QStringList{QStringLiteral("-g2005"), QStringLiteral("-s"), QStringLiteral("tb"),
                               QStringLiteral("-y" RTL_DIR), QStringLiteral("-I" RTL_TESTS_DIR),
-                              QStringLiteral("-I" CHECKERS_DIR),
-                              QStringLiteral("-y" CHECKERS_DIR),
+                              QStringLiteral("-I" CHECKERS_DIR), QStringLiteral("-y" CHECKERS_DIR),
                               QStringLiteral("-I" RTL_DIR), QStringLiteral("-o"),
                               QStringLiteral("bench")} +
                       sources + QStringList{QStringLiteral("bench.v")});
@@ -977,7 +989,7 @@ void tst_RegistersInRtl::mistakesAreFound()
         peripheral.registers.remove(2);
     else
         peripheral.registers[0].changes.clear();
-    const QString wrong = simulate(Bench(peripheral).text(), {rtl("apb_timer.v")});
+    const QString wrong = simulate(Bench(peripheral).text(), {endsAtAFailure, rtl("apb_timer.v")});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 
@@ -1053,7 +1065,8 @@ void tst_RegistersInRtl::aFlagThatReadingClearsIsAsDescribed()
     const QTemporaryDir dir;
     const QString changed = dir.filePath(QStringLiteral("changed.v"));
     TestSupport::write(changed, text.toUtf8());
-    const QString unsaid = simulate(Bench(*timer).effects(QStringLiteral("PEND")), {changed});
+    const QString unsaid =
+        simulate(Bench(*timer).effects(QStringLiteral("PEND")), {endsAtAFailure, changed});
     QVERIFY2(unsaid.contains(QLatin1String("failed: reading changes nothing: PEND")),
              qPrintable(unsaid));
     Peripheral described = *timer;
@@ -1082,7 +1095,8 @@ void tst_RegistersInRtl::readsOfEveryRegisterAreTried()
                             .arg(entry.offset, 3, 16, QLatin1Char('0')) +
                         before);
         TestSupport::write(changed, faulty.toUtf8());
-        const QString wrong = simulate(Bench(*timer).effects(entry.name), {changed});
+        const QString wrong =
+            simulate(Bench(*timer).effects(entry.name), {endsAtAFailure, changed});
         QVERIFY2(wrong.contains(QLatin1String("failed: reading changes nothing: ") + entry.name),
                  qPrintable(entry.name + u'\n' + wrong));
     }
@@ -1122,7 +1136,7 @@ void tst_RegistersInRtl::faultsOfModulesAreFound()
     const QTemporaryDir dir;
     const QString changed = dir.filePath(QStringLiteral("changed.v"));
     TestSupport::write(changed, text.replace(from, to).toUtf8());
-    const QString wrong = simulate(Bench(*found).text(), {changed});
+    const QString wrong = simulate(Bench(*found).text(), {endsAtAFailure, changed});
     QVERIFY2(wrong.contains(QLatin1String("failed: ")), qPrintable(wrong));
 }
 
