@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStringList>
 #include <QSvgRenderer>
 #include <QTextDocument>
 #include <QVector>
@@ -49,18 +50,11 @@ class Measure
 public:
     void takeAttribute(const QString &name, const QString &value)
     {
-        static const QSet<QString> sizes = {
-            QStringLiteral("x"),         QStringLiteral("y"),
-            QStringLiteral("x1"),        QStringLiteral("y1"),
-            QStringLiteral("x2"),        QStringLiteral("y2"),
-            QStringLiteral("cx"),        QStringLiteral("cy"),
-            QStringLiteral("r"),         QStringLiteral("rx"),
-            QStringLiteral("ry"),        QStringLiteral("fx"),
-            QStringLiteral("fy"),        QStringLiteral("width"),
-            QStringLiteral("height"),    QStringLiteral("d"),
-            QStringLiteral("points"),    QStringLiteral("viewBox"),
-            QStringLiteral("transform"), QStringLiteral("gradientTransform"),
-            QStringLiteral("font-size"), QStringLiteral("stroke-width")};
+        static const QStringList sizes =
+            QStringLiteral("x y x1 y1 x2 y2 cx cy r rx ry fx fy width height d points viewBox "
+                           "transform gradientTransform font-size stroke-width "
+                           "stroke-dashoffset stroke-miterlimit")
+                .split(u' ');
         if (name == QLatin1String("stroke-dasharray"))
             takeDashes(value);
         else if (name == QLatin1String("style"))
