@@ -453,6 +453,43 @@ private Q_SLOTS:
         QVERIFY(page->isEditable());
     }
 
+    void aLineThatCannotBeLaidOutIsNotShown()
+    {
+        const QByteArray longest(EditorPage::lineLimit, 'a');
+        QString error;
+        write(m_path, "b\n" + longest + "\n" + longest);
+        {
+            EditorPage page(m_path);
+            QVERIFY2(page.load(&error), qPrintable(error));
+            QCOMPARE(page.editor()->document()->blockCount(), 3);
+        }
+        write(m_path, "b\n" + longest + "a\n");
+        EditorPage small(m_path);
+        QVERIFY(!small.load(&error));
+        QVERIFY2(error.contains(QDir::toNativeSeparators(m_path)) &&
+                     error.contains(QLatin1String("its line 2 has 200,001 characters")),
+                 qPrintable(error));
+        // Of a large one it comes out later; nothing of it can be written then.
+        const QByteArray bytes = manyLines(EditorPage::pieceLimit) + longest + longest + "\n";
+        write(m_path, bytes);
+        EditorPage large(m_path);
+        QVERIFY(large.load(&error));
+        QTRY_VERIFY_WITH_TIMEOUT(!large.isLoading(), 60000);
+        QVERIFY2(large.infoBar()->text().contains(QLatin1String("has 400,000 characters")),
+                 qPrintable(large.infoBar()->text()));
+        large.startEditing();
+        QVERIFY(!large.isEditable());
+        QVERIFY(!large.isModified());
+        // And of one that has got it since.
+        write(m_path, "short\n");
+        EditorPage *page = open();
+        write(m_path, bytes);
+        page->checkDisk();
+        QTRY_VERIFY_WITH_TIMEOUT(page->infoBar()->text().contains(QLatin1String("400,000")), 60000);
+        QCOMPARE(page->editor()->toPlainText(), QStringLiteral("short\n"));
+        QCOMPARE(contentsOf(m_path), bytes);
+    }
+
     void theEditorTakesNoMoreThanAPieceOfALargeFileInATurn()
     {
         write(m_path, manyLines(3 * EditorPage::pieceLimit));

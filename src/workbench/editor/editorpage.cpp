@@ -80,6 +80,24 @@ QByteArray EditorPage::digestOf(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
 }
 
+QString EditorPage::longLineOf(const QString &text)
+{
+    int line = 1;
+    for (int from = 0; from <= text.size(); ++line) {
+        const int end = text.indexOf(u'\n', from);
+        const int length = (end < 0 ? text.size() : end) - from;
+        if (length > lineLimit)
+            return tr("its line %L1 has %L2 characters, and more than %L3 cannot be shown in one")
+                .arg(line)
+                .arg(length)
+                .arg(lineLimit);
+        if (end < 0)
+            break;
+        from = end + 1;
+    }
+    return {};
+}
+
 EditorPage::Content EditorPage::read(const QString &path, const QByteArray &known)
 {
     Content content;
@@ -95,6 +113,11 @@ EditorPage::Content EditorPage::read(const QString &path, const QByteArray &know
         return content;
     content.format = TextFormat::of(bytes);
     content.text = content.format.decode(bytes);
+    content.mistake = longLineOf(content.text);
+    if (!content.mistake.isEmpty()) {
+        content.text.clear();
+        return content;
+    }
     if (content.isLarge)
         content.lines = 1 + content.text.count(u'\n');
     return content;

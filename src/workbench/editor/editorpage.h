@@ -24,7 +24,7 @@ class TextCopy;
 // One file in the editor. It can be read at first; startEditing() lets it be changed.
 //
 // Files above `pieceLimit` are shown piece by piece while the program goes on, and without colours;
-// those above `sizeLimit` are refused.
+// those above `sizeLimit`, or with a line above `lineLimit`, are refused.
 class EditorPage : public QWidget
 {
     Q_OBJECT
@@ -34,6 +34,8 @@ public:
     static constexpr int headSize = 1 << 17;   // in bytes, of what is seen first
     static constexpr int pieceLimit = 1 << 20; // in bytes
     static constexpr qint64 sizeLimit = 256 << 20;
+    // A line is laid out as a whole, at each change of it.
+    static constexpr int lineLimit = 200000; // in characters
 
     explicit EditorPage(const QString &path, QWidget *parent = nullptr);
     ~EditorPage() override;
@@ -130,6 +132,8 @@ private:
     };
     // Needs no page. With the digest `known` there is no more than that.
     static Content read(const QString &path, const QByteArray &known = {});
+    // A clause about the first line that is too long to be shown; empty if there is none.
+    static QString longLineOf(const QString &text);
     // What became of a save.
     struct Written {
         QString error;

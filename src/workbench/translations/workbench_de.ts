@@ -2101,6 +2101,10 @@ Trotzdem löschen?</translation>
         <source>&amp;Keep Mine</source>
         <translation>&amp;Meine behalten</translation>
     </message>
+    <message>
+        <source>its line %L1 has %L2 characters, and more than %L3 cannot be shown in one</source>
+        <translation>ihre Zeile %L1 hat %L2 Zeichen, und mehr als %L3 lassen sich in einer nicht zeigen</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::EditorTabs</name>

@@ -2101,6 +2101,10 @@ Do you want to delete it anyway?</source>
         <source>&amp;Keep Mine</source>
         <translation>保留我的修改(&amp;K)</translation>
     </message>
+    <message>
+        <source>its line %L1 has %L2 characters, and more than %L3 cannot be shown in one</source>
+        <translation>其第 %L1 行有 %L2 个字符，而一行最多能显示 %L3 个</translation>
+    </message>
 </context>
 <context>
     <name>Workbench::EditorTabs</name>
