@@ -58,7 +58,7 @@ private Q_SLOTS:
         const HelpBrowser *browser = help->browser();
         // Texts that are written without blanks break between their characters.
         const auto isWord = [](QChar c) { return c.unicode() < 128 && c.isLetterOrNumber(); };
-        for (const int width : {500, 700, 1000}) {
+        for (const int width : {500, 1000}) {
             help->resize(width, 500);
             QCoreApplication::processEvents();
             int lines = 0;
