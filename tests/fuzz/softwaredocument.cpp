@@ -1,9 +1,8 @@
-#include "fuzz.h"
+#include "display.h"
 
 #include <software/softwaredocument.h>
 
 #include <QAbstractTextDocumentLayout>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -11,15 +10,7 @@ using namespace Workbench;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "fuzz";
-    static char *arguments[] = {name, nullptr};
-    static const QGuiApplication application(count, arguments); // documents have fonts
-    REQUIRE(isOffscreen);
-    // The library tells of each number that it cannot read.
-    static const auto before = qInstallMessageHandler([](auto, const auto &, const auto &) {});
-    Q_UNUSED(before)
+    Fuzz::needDisplay();
 
     const SoftwareFile file{QStringLiteral("sheet/a.html"), QStringLiteral("sheet"),
                             Fuzz::bytesOf(data, size)};

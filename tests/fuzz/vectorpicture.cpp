@@ -1,8 +1,7 @@
-#include "fuzz.h"
+#include "display.h"
 
 #include <widgets/vectorpicture.h>
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 
@@ -10,15 +9,7 @@ using Workbench::VectorPicture;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const bool isOffscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "fuzz";
-    static char *arguments[] = {name, nullptr};
-    static const QGuiApplication application(count, arguments); // drawings have texts
-    REQUIRE(isOffscreen);
-    // The library tells of each number that it cannot read.
-    static const auto before = qInstallMessageHandler([](auto, const auto &, const auto &) {});
-    Q_UNUSED(before)
+    Fuzz::needDisplay();
 
     const auto picture = VectorPicture::read(Fuzz::bytesOf(data, size));
     if (!picture) {
