@@ -457,25 +457,39 @@ private Q_SLOTS:
     {
         const QByteArray longest(EditorPage::lineLimit, 'a');
         QString error;
-        write(m_path, "b\n" + longest + "\n" + longest);
+        write(m_path, "b\n" + longest);
         {
             EditorPage page(m_path);
             QVERIFY2(page.load(&error), qPrintable(error));
-            QCOMPARE(page.editor()->document()->blockCount(), 3);
+            QCOMPARE(page.editor()->document()->blockCount(), 2);
         }
         write(m_path, "b\n" + longest + "a\n");
         EditorPage small(m_path);
         QVERIFY(!small.load(&error));
         QVERIFY2(error.contains(QDir::toNativeSeparators(m_path)) &&
-                     error.contains(QLatin1String("its line 2 has 200,001 characters")),
+                     error.contains(QLatin1String("its line 2 has 1,000,001 characters")),
                  qPrintable(error));
+        {
+            // Such a line comes as one piece: each of its own pieces would lay it out again.
+            write(m_path, manyLines(EditorPage::pieceLimit / 2) + longest + "\nend\n");
+            EditorPage page(m_path);
+            QVERIFY(page.load(&error));
+            int changes = 0;
+            QPlainTextEdit *editor = page.editor();
+            connect(editor, &QPlainTextEdit::textChanged, editor, [&] {
+                changes += editor->document()->lastBlock().length() > EditorPage::pieceSize;
+            });
+            QTRY_VERIFY_WITH_TIMEOUT(!page.isLoading(), 60000);
+            QVERIFY(editor->toPlainText().endsWith(QLatin1String("a\nend\n")));
+            QVERIFY2(changes <= 1, qPrintable(QString::number(changes)));
+        }
         // Of a large one it comes out later; nothing of it can be written then.
         const QByteArray bytes = manyLines(EditorPage::pieceLimit) + longest + longest + "\n";
         write(m_path, bytes);
         EditorPage large(m_path);
         QVERIFY(large.load(&error));
         QTRY_VERIFY_WITH_TIMEOUT(!large.isLoading(), 60000);
-        QVERIFY2(large.infoBar()->text().contains(QLatin1String("has 400,000 characters")),
+        QVERIFY2(large.infoBar()->text().contains(QLatin1String("has 2,000,000 characters")),
                  qPrintable(large.infoBar()->text()));
         large.startEditing();
         QVERIFY(!large.isEditable());
@@ -485,7 +499,8 @@ private Q_SLOTS:
         EditorPage *page = open();
         write(m_path, bytes);
         page->checkDisk();
-        QTRY_VERIFY_WITH_TIMEOUT(page->infoBar()->text().contains(QLatin1String("400,000")), 60000);
+        QTRY_VERIFY_WITH_TIMEOUT(page->infoBar()->text().contains(QLatin1String("2,000,000")),
+                                 60000);
         QCOMPARE(page->editor()->toPlainText(), QStringLiteral("short\n"));
         QCOMPARE(contentsOf(m_path), bytes);
     }

@@ -306,12 +306,13 @@ void EditorPage::insertPieces()
     cursor.movePosition(QTextCursor::End);
     const bool first = m_inserted == 0;
     do {
-        // Whole lines: a piece never parts a line end from its line.
+        // Whole lines: each piece of one would have all of it laid out again.
         int end = qMin(m_rest.size(), m_inserted + pieceSize);
         if (end < m_rest.size()) {
-            const int lineEnd = m_rest.lastIndexOf(u'\n', end - 1);
-            if (lineEnd > m_inserted)
-                end = lineEnd + 1;
+            int lineEnd = m_rest.lastIndexOf(u'\n', end - 1);
+            if (lineEnd < m_inserted)
+                lineEnd = m_rest.indexOf(u'\n', end);
+            end = lineEnd < 0 ? m_rest.size() : lineEnd + 1;
         }
         cursor.insertText(m_rest.mid(m_inserted, end - m_inserted));
         m_inserted = end;

@@ -35,7 +35,7 @@ public:
     static constexpr int pieceLimit = 1 << 20; // in bytes
     static constexpr qint64 sizeLimit = 256 << 20;
     // A line is laid out as a whole, at each change of it.
-    static constexpr int lineLimit = 200000; // in characters
+    static constexpr int lineLimit = 1000000; // in characters
 
     explicit EditorPage(const QString &path, QWidget *parent = nullptr);
     ~EditorPage() override;
