@@ -438,6 +438,14 @@ private Q_SLOTS:
         QTest::newRow("dashes in a style") << line + "style=\"stroke-dasharray:1e-9 0\"/></svg>";
         QTest::newRow("dashes in a sheet")
             << head + "<style>line{stroke-dasharray: 1e-9}</style><line x2=\"9\"/></svg>";
+        const auto sheet = [&head](const QByteArray &text) -> QByteArray {
+            return head + "<style>" + text + "</style><line x2=\"9\"/></svg>";
+        };
+        QTest::newRow("dashes in parts of a sheet")
+            << sheet("line{stroke-dash<![CDATA[array:1e-9}]]>");
+        QTest::newRow("dashes behind a comment") << sheet("line{stroke-dasharray/*:*/: 1e-9}");
+        QTest::newRow("large dashes") << sheet("line{STROKE-dasharray: 1e-9}");
+        QTest::newRow("escaped dashes") << sheet("line{stroke-d\\61sharray: 1e-9}");
         QTest::newRow("dashes backwards") << line + "stroke-dasharray=\"5 -4.9\"/></svg>";
         QTest::newRow("dashes of another scale")
             << line + "vector-effect=\"non-scaling-stroke\"/></svg>";

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Workbench
 {
@@ -68,8 +69,14 @@ public:
     void takeStyle(QString style)
     {
         static const QRegularExpression colour(QStringLiteral("#[0-9A-Fa-f]+"));
-        static const QRegularExpression dashes(QStringLiteral("stroke-dasharray\\s*:([^;}]*)"));
-        m_isSound &= !style.contains(QLatin1String("vector-effect"));
+        static const QRegularExpression comment(QStringLiteral("/\\*.*?(\\*/|$)"),
+                                                QRegularExpression::DotMatchesEverythingOption);
+        static const QRegularExpression dashes(QStringLiteral("stroke-dasharray\\s*:([^;}]*)"),
+                                               QRegularExpression::CaseInsensitiveOption);
+        style.remove(comment);
+        // An escape would hide a name.
+        m_isSound &= !style.contains(QLatin1String("vector-effect"), Qt::CaseInsensitive) &&
+                     !style.contains(u'\\');
         for (auto all = dashes.globalMatch(style); all.hasNext();)
             takeDashes(all.next().captured(1));
         takeSizes(style.remove(colour));
@@ -125,6 +132,7 @@ QString mistakeOf(const QByteArray &bytes)
     Measure measure;
     int elements = 0;
     int depth = 0;
+    QString sheet;
     bool isStyle = false;
     while (!xml.atEnd()) {
         switch (xml.readNext()) {
@@ -141,11 +149,12 @@ QString mistakeOf(const QByteArray &bytes)
             for (const QXmlStreamAttribute &attribute : xml.attributes())
                 measure.takeAttribute(attribute.name().toString(), attribute.value().toString());
             break;
-        case QXmlStreamReader::Characters:
+        case QXmlStreamReader::Characters: // which may be a part of a text
             if (isStyle)
-                measure.takeStyle(xml.text().toString());
+                sheet += xml.text();
             break;
         case QXmlStreamReader::EndElement:
+            measure.takeStyle(std::exchange(sheet, QString()));
             isStyle = false;
             --depth;
             break;
