@@ -45,6 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     checkFiles(read->includeFiles, true);
     checkFiles(read->pendingFiles, false);
+    checkFiles(read->copies, true);
     for (const DigestedFile &input : read->origin.inputs)
         REQUIRE(!input.role.isEmpty() && (input.sha256.isEmpty() || input.sha256.size() == 64));
     if (read->synthesis)
@@ -59,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     REQUIRE(textOf(*again) == text);
     REQUIRE(again->isFinished == read->isFinished && again->origin == read->origin &&
             again->includeFiles == read->includeFiles &&
-            again->pendingFiles == read->pendingFiles &&
+            again->pendingFiles == read->pendingFiles && again->copies == read->copies &&
             again->synthesis.has_value() == read->synthesis.has_value());
     if (read->synthesis)
         REQUIRE(again->synthesis->origin == read->synthesis->origin &&

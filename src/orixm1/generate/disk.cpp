@@ -5,6 +5,7 @@
 #include <reading/limits.h>
 #include <reading/plainfile.h>
 #include <utils/fileutils.h>
+#include <utils/systemerror.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace TARVOORIXM1
 {
@@ -94,13 +96,16 @@ std::optional<QByteArray> ImaginedDisk::written(const QString &path) const
 
 bool ImaginedDisk::exists(const QString &path) const
 {
-    return m_written.contains(path) || Disk::exists(path);
+    return m_written.contains(path) || (!m_removed.contains(path) && Disk::exists(path));
 }
 
 Utils::Result<QByteArray> ImaginedDisk::read(const QString &path) const
 {
     if (const auto bytes = written(path))
         return *bytes;
+    if (m_removed.contains(path))
+        return Utils::Failure{Tr::tr("\"%1\" cannot be read: %2.")
+                                  .arg(QDir::toNativeSeparators(path), Utils::systemError(ENOENT))};
     return Disk::read(path);
 }
 
@@ -108,6 +113,8 @@ QByteArray ImaginedDisk::digestOf(const QString &path, Digest digest) const
 {
     if (const auto bytes = written(path))
         return digest(*bytes);
+    if (m_removed.contains(path))
+        return {};
     return m_memory ? m_memory->digestOf(path, digest) : Disk::digestOf(path, digest);
 }
 
@@ -122,10 +129,17 @@ bool ImaginedDisk::copy(const QString &from, const QString &to, QString *)
     return true;
 }
 
-// Of the disk nothing is removed but what was written before.
+void ImaginedDisk::write(const QString &path, const QByteArray &bytes)
+{
+    m_removed.removeAll(path);
+    m_written.insert(path, bytes);
+}
+
 void ImaginedDisk::remove(const QString &path)
 {
     m_written.remove(path);
+    if (Disk::exists(path) && !m_removed.contains(path))
+        m_removed.append(path);
 }
 
 } // namespace TARVOORIXM1

@@ -61,14 +61,17 @@ public:
     bool copy(const QString &from, const QString &to, QString *error) override;
     void remove(const QString &path) override;
 
-    void write(const QString &path, const QByteArray &bytes) { m_written.insert(path, bytes); }
+    void write(const QString &path, const QByteArray &bytes);
     // Nothing if the path was not written, or removed again.
     std::optional<QByteArray> written(const QString &path) const;
     QStringList paths() const { return m_written.keys(); } // that are written, in order
+    // Those of the disk that would be gone, in order.
+    const QStringList &removed() const { return m_removed; }
 
 private:
     DigestMemory *m_memory;
     QMap<QString, QByteArray> m_written;
+    QStringList m_removed;
 };
 
 } // namespace TARVOORIXM1

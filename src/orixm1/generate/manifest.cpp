@@ -51,6 +51,7 @@ constexpr QLatin1String options = "options"_l1;
 constexpr QLatin1String inputs = "inputs"_l1;
 constexpr QLatin1String files = "files"_l1;
 constexpr QLatin1String pending = "pending"_l1;
+constexpr QLatin1String copies = "copies"_l1;
 constexpr QLatin1String synthesis = "synthesis"_l1;
 constexpr QLatin1String madeFrom = "madeFrom"_l1;
 constexpr QLatin1String tool = "tool"_l1;
@@ -335,6 +336,8 @@ QStringList GenerationManifest::toLines() const
     insert(&object, origin);
     if (!pendingFiles.isEmpty())
         object.insert(Member::pending, arrayOf(pendingFiles));
+    if (!copies.isEmpty())
+        object.insert(Member::copies, arrayOf(copies));
     if (synthesis) {
         QJsonObject part{{Member::tool, synthesis->tool},
                          {Member::version, synthesis->toolVersion},
@@ -379,6 +382,8 @@ Utils::Result<GenerationManifest> GenerationManifest::fromText(const QByteArray 
     manifest.includeFiles = parts.files(object, Member::files, false);
     if (object.contains(Member::pending))
         manifest.pendingFiles = parts.files(object, Member::pending, false);
+    if (object.contains(Member::copies))
+        manifest.copies = parts.files(object, Member::copies, false);
     if (object.contains(Member::synthesis)) {
         const QJsonObject part = object.value(Member::synthesis).toObject();
         SynthesisRecord record;

@@ -76,6 +76,9 @@ struct GenerationManifest {
     // The same as a run that has not finished is about to leave them, and what such runs before it
     // have made and no run since has replaced. A file may stand here more than once.
     QVector<DigestedFile> pendingFiles;
+    // Copies that runs without results have made, or were about to, of what they found: NAME.edited
+    // or NAME.edited-2, …, as long as what is in them may turn out to be what a run makes.
+    QVector<DigestedFile> copies;
     std::optional<SynthesisRecord> synthesis;
 
     // The contents of the file, line by line; the same for equal manifests.

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <iterator>
@@ -50,26 +51,86 @@ Utils::Result<QByteArray> GenerationRecord::digestToKeep(const QString &path) co
                               .arg(QDir::toNativeSeparators(path), reason)};
 }
 
-bool GenerationRecord::keep(const QString &path, QString *error)
+bool GenerationRecord::keep(const QStringList &paths, const GenerationManifest &before,
+                            QString *error)
 {
-    const QByteArray sum = digestOf(path);
-    QString copy = path + ".edited"_l1;
-    for (int number = 2; m_disk->exists(copy) && digestOf(copy) != sum; ++number)
-        copy = path + ".edited-"_l1 + QString::number(number);
-    if (!m_disk->exists(copy)) {
-        if (!m_disk->copy(path, copy, error))
-            return false;
-        m_kept.append({path, copy});
+    const int keptBefore = m_kept.size();
+    const int editsBefore = m_edits.size();
+    for (const QString &path : paths) {
+        const QByteArray sum = digestOf(path);
+        QString copy = path + ".edited"_l1;
+        for (int number = 2; m_disk->exists(copy) && digestOf(copy) != sum; ++number)
+            copy = path + ".edited-"_l1 + QString::number(number);
+        m_edits.append({path, copy, sum});
+        if (!m_disk->exists(copy))
+            m_kept.append(m_edits.constLast());
     }
-    m_edits.append({path, copy});
-    const QString text =
-        m_before->isFinished
-            ? Tr::tr("\"%1\" was changed since the last run; what stood there is in \"%2\" now.")
-            : Tr::tr(
-                  "The last run did not end, and \"%1\" is not what one before it has left; what "
-                  "stood there is in \"%2\" now.");
-    m_messages.append(text.arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(copy)));
-    return true;
+    m_running->copies = digestedCopies();
+    const bool isTold = write(*m_running, error);
+    int next = keptBefore;
+    while (isTold && next < m_kept.size() &&
+           m_disk->copy(m_kept[next].path, m_kept[next].copy, error))
+        ++next;
+    if (isTold && next == m_kept.size())
+        return true;
+    while (next > keptBefore)
+        m_disk->remove(m_kept[--next].copy);
+    m_kept.resize(keptBefore);
+    m_edits.resize(editsBefore);
+    QString ignored;
+    if (isTold)
+        write(before, &ignored);
+    return false;
+}
+
+QStringList GenerationRecord::messages() const
+{
+    QStringList messages = m_messages;
+    for (const Kept &edit : m_edits) {
+        // One that turned out to be what the run has made is gone.
+        if (!m_disk->exists(edit.copy))
+            continue;
+        const QString text =
+            m_before->isFinished
+                ? Tr::tr(
+                      "\"%1\" was changed since the last run; what stood there is in \"%2\" now.")
+                : Tr::tr("The last run did not end, and \"%1\" is not what one before it has "
+                         "left; what stood there is in \"%2\" now.");
+        messages.append(
+            text.arg(QDir::toNativeSeparators(edit.path), QDir::toNativeSeparators(edit.copy)));
+    }
+    return messages;
+}
+
+// Those that runs before have told of. What somebody has changed since is his own.
+void GenerationRecord::findCopies(const QStringList &replaced)
+{
+    static const QRegularExpression nameOfCopy(QStringLiteral("^(.+)\\.edited(-[0-9]+)?$"));
+    const QVector<DigestedFile> copies = standing(m_before->copies);
+    for (const DigestedFile &file : copies) {
+        const QString copy = m_input.createInPath + u'/' + file.name;
+        const QString path = nameOfCopy.match(copy).captured(1);
+        if (replaced.contains(path))
+            m_kept.append({path, copy, file.sha256});
+    }
+}
+
+QVector<DigestedFile> GenerationRecord::digestedCopies() const
+{
+    QVector<DigestedFile> files;
+    for (const Kept &kept : m_kept)
+        files.append({QString(), belowOutput(kept.copy, m_input.createInPath), kept.sha256});
+    return files;
+}
+
+// What a run that did not end had made already was no edit.
+void GenerationRecord::dropNeedlessCopies()
+{
+    for (const Kept &kept : qAsConst(m_kept)) {
+        if (digestOf(kept.copy) == kept.sha256 && digestOf(kept.path) == kept.sha256)
+            m_disk->remove(kept.copy);
+    }
+    m_kept.clear();
 }
 
 bool GenerationRecord::begin(QString *error)
@@ -91,6 +152,7 @@ bool GenerationRecord::begin(QString *error)
     QStringList written = replaced;
     for (const DigestedFile &file : qAsConst(m_includeFiles))
         written.append(m_input.createInPath + u'/' + file.name);
+    findCopies(written);
     QHash<QString, QByteArray> sums;
     for (const QString &path : qAsConst(written)) {
         const auto sum = digestToKeep(path);
@@ -100,13 +162,13 @@ bool GenerationRecord::begin(QString *error)
         }
         sums.insert(path, *sum);
     }
+    QStringList edited;
     for (const DigestedFile &file : qAsConst(m_includeFiles)) {
         const QString path = m_input.createInPath + u'/' + file.name;
         const QByteArray present = sums.value(path);
         if (present.isEmpty() || present == file.sha256 || m_before->knows(file.name, present))
             continue;
-        if (!keep(path, error))
-            return false;
+        edited.append(path);
     }
     m_left = standing(m_before->pendingFiles);
     QStringList results = replaced;
@@ -128,17 +190,17 @@ bool GenerationRecord::begin(QString *error)
             m_left.append(left);
         // The tool replaces its own results, the project tool's too.
         const bool isTools = replaced.contains(path) && path.startsWith(m_plan.folder + u'/');
-        if (isTools && !keep(path, error))
-            return false;
+        if (isTools)
+            edited.append(path);
     }
-    GenerationManifest running = *m_before;
-    running.isFinished = false;
-    running.pendingFiles = m_includeFiles;
+    m_running = m_before;
+    m_running->isFinished = false;
+    m_running->pendingFiles = m_includeFiles;
     for (const DigestedFile &file : qAsConst(m_left)) {
-        if (!running.pendingFiles.contains(file))
-            running.pendingFiles.append(file);
+        if (!m_running->pendingFiles.contains(file))
+            m_running->pendingFiles.append(file);
     }
-    return write(running, error);
+    return keep(edited, *m_before, error);
 }
 
 bool GenerationRecord::isRecorded(const QString &name, const QByteArray &sha256) const
@@ -171,12 +233,15 @@ bool GenerationRecord::keepEditedOutputs(QString *error)
 {
     if (!m_before)
         return true;
+    QStringList edited;
     const auto keepUnless = [&](const QString &path, const QByteArray &next) {
         if (const auto present = digestToKeep(path); !present) {
             *error = present.reason();
             return false;
         }
-        return !isEditedResult(path, next) || keep(path, error);
+        if (isEditedResult(path, next))
+            edited.append(path);
+        return true;
     };
     for (const Output &output : qAsConst(m_plan.outputs.copied)) {
         if (output.isOptional && !m_disk->exists(output.source))
@@ -184,7 +249,9 @@ bool GenerationRecord::keepEditedOutputs(QString *error)
         if (!keepUnless(output.file, digestOf(output.source)))
             return false;
     }
-    return keepUnless(m_plan.outputs.decoded, QByteArray());
+    if (!keepUnless(m_plan.outputs.decoded, QByteArray()))
+        return false;
+    return edited.isEmpty() || keep(edited, GenerationManifest(*m_running), error);
 }
 
 bool GenerationRecord::finish(const Run *run, QString *error)
@@ -201,6 +268,7 @@ bool GenerationRecord::finish(const Run *run, QString *error)
                      [&manifest](const DigestedFile &file) {
                          return !manifest.includeFiles.contains(file);
                      });
+        manifest.copies = standing(digestedCopies());
         return write(manifest, error);
     }
     SynthesisRecord record;
@@ -216,19 +284,7 @@ bool GenerationRecord::finish(const Run *run, QString *error)
             record.files.append({QString(), belowOutput(path, m_input.createInPath), sum});
     }
     manifest.synthesis = record;
-    // What a run that did not end had made already was no edit.
-    for (const Kept &kept : qAsConst(m_kept)) {
-        if (digestOf(kept.path) == digestOf(kept.copy)) {
-            m_disk->remove(kept.copy);
-            m_messages.erase(std::remove_if(m_messages.begin(), m_messages.end(),
-                                            [&kept](const QString &text) {
-                                                return text.contains(
-                                                    QDir::toNativeSeparators(kept.copy));
-                                            }),
-                             m_messages.end());
-        }
-    }
-    m_kept.clear();
+    dropNeedlessCopies();
     return write(manifest, error);
 }
 

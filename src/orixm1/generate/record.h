@@ -45,9 +45,13 @@ public:
     struct Kept {
         QString path;
         QString copy;
+        QByteArray sha256; // of both, when the copy is made
     };
     // So far.
     const QVector<Kept> &edits() const { return m_edits; }
+    // Copies that finish() removes after a run that has made what is in them: of this generation,
+    // and of those before it that have left no results.
+    const QVector<Kept> &copies() const { return m_kept; }
     // Whether begin() or keepEditedOutputs() would keep what stands at the path of a result, unless
     // it is to hold contents with this sum.
     bool isEditedResult(const QString &path, const QByteArray &next) const;
@@ -55,12 +59,17 @@ public:
     // As it was at the beginning.
     const Origin &origin() const { return m_origin; }
     // On files that were edited and where their contents are.
-    QStringList messages() const { return m_messages; }
+    QStringList messages() const;
 
 private:
     Q_DISABLE_COPY(GenerationRecord)
 
-    bool keep(const QString &path, QString *error);
+    // Tells of them in the manifest first; when one cannot be kept, all is as before, the manifest
+    // as given.
+    bool keep(const QStringList &paths, const GenerationManifest &before, QString *error);
+    void findCopies(const QStringList &replaced);
+    QVector<DigestedFile> digestedCopies() const;
+    void dropNeedlessCopies();
     QByteArray digestOf(const QString &path) const; // empty: not there, or cannot be read
     // The same for a file that is about to be replaced: one that is there has to be read.
     Utils::Result<QByteArray> digestToKeep(const QString &path) const;
@@ -77,7 +86,8 @@ private:
     QVector<DigestedFile> m_includeFiles;
     std::optional<GenerationManifest> m_before;
     QVector<DigestedFile> m_left; // what runs that did not end have made, as far as it stands
-    QVector<Kept> m_kept;         // and made by this object
+    std::optional<GenerationManifest> m_running; // what the file says while it runs
+    QVector<Kept> m_kept; // copies made by this object, or before it without results
     QVector<Kept> m_edits;
     Disk m_own;
     Disk *m_disk;

@@ -324,6 +324,10 @@ private:
                 add(m_input.generation.createInPath + u'/' + file.name, PreviewFile::Stays);
         }
         listPrefixed();
+        for (const QString &path : m_disk.removed())
+            addRemoved(path);
+        if (isOpen())
+            listOpenCopies();
         // What else is written: copies of what was edited where the tool has its say are told at
         // the file, since it may make the same.
         const QStringList written = m_disk.paths();
@@ -335,6 +339,20 @@ private:
                                         });
             if (!isOpenCopy)
                 add(path, PreviewFile::Equal);
+        }
+    }
+
+    // Of runs before, which this one may turn out to need no more.
+    void listOpenCopies()
+    {
+        for (const GenerationRecord::Kept &kept : m_record.copies()) {
+            if (m_listed.contains(kept.copy) || !isThere(kept.copy))
+                continue;
+            PreviewFile file = begun(kept.copy);
+            file.isTools = true;
+            file.state = PreviewFile::Stays;
+            file.notes.append(Tr::tr("It will be removed if the run makes the same."));
+            m_preview.files.append(file);
         }
     }
 

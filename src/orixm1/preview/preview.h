@@ -80,7 +80,7 @@ struct PreviewFile {
         Edited, // by hand, since the last run: it will hold something else
         Remade, // by the tool, which alone can tell whether that changes it
         Stays,  // of an earlier run; this one leaves it as it is
-        Removed // of an earlier run; it belongs to a set that has no such file any more
+        Removed // of an earlier run: of a set that has no such file any more, or a needless copy
     };
 
     QString path; // below the output folder

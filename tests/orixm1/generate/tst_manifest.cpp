@@ -35,6 +35,7 @@ void compare(const GenerationManifest &one, const GenerationManifest &other)
     QVERIFY(one.origin == other.origin);
     QVERIFY(one.includeFiles == other.includeFiles);
     QVERIFY(one.pendingFiles == other.pendingFiles);
+    QVERIFY(one.copies == other.copies);
     QCOMPARE(one.synthesis.has_value(), other.synthesis.has_value());
     if (one.synthesis)
         compare(*one.synthesis, *other.synthesis);
@@ -135,6 +136,7 @@ public:
         manifest.origin = origin();
         manifest.includeFiles = files();
         manifest.pendingFiles = files();
+        manifest.copies = files();
         // Several runs may have been about to write one.
         if (!manifest.pendingFiles.isEmpty() && below(2) == 1)
             manifest.pendingFiles.append({QString(), manifest.pendingFiles.first().name, sum()});
@@ -203,8 +205,8 @@ void tst_Manifest::eachMemberCounts_data()
     QTest::addColumn<QByteArray>("member");
     for (const char *member :
          {"format", "finished", "program", "descriptor", "device", "options", "inputs", "files",
-          "pending", "synthesis", "synthesis/tool", "synthesis/version", "synthesis/outputs",
-          "synthesis/report", "synthesis/madeFrom"})
+          "pending", "copies", "synthesis", "synthesis/tool", "synthesis/version",
+          "synthesis/outputs", "synthesis/report", "synthesis/madeFrom"})
         QTest::newRow(member) << QByteArray(member);
 }
 
@@ -221,6 +223,7 @@ void tst_Manifest::eachMemberCounts()
                        {{QStringLiteral("source"), QStringLiteral("a.v"), sum}}};
     manifest.includeFiles = {{QString(), QStringLiteral("a.v"), sum}};
     manifest.pendingFiles = {{QString(), QStringLiteral("b.v"), sum}};
+    manifest.copies = {{QString(), QStringLiteral("b.v.edited"), sum}};
     Origin other = manifest.origin;
     other.device = QStringLiteral("E");
     manifest.synthesis = SynthesisRecord{other,

@@ -7,6 +7,7 @@
 #include <generate/state.h>
 #include <utils/fileutils.h>
 
+#include <QDirIterator>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -21,10 +22,15 @@ class tst_Record : public QObject
 
 private Q_SLOTS:
     void tellsTheTruthWhereverRunsEnd();
+    void leavesNoCopiesOfItsOwn();
+    void takesBackWhatItCouldNotKeep();
 
 private:
+    // A disk on which a process ends, or nothing more fits, after some copies.
+    class EndingDisk;
     GenerationInput input(bool gpio, Language language) const;
-    void runUpTo(int step, int end, const GenerationInput &input);
+    void runUpTo(int step, int end, const GenerationInput &input, Disk *disk = nullptr);
+    QStringList copies() const;
     void put(const QString &path, const QByteArray &bytes);
     bool isKeptSomewhere(const QString &path, const QByteArray &bytes) const;
 
@@ -33,6 +39,47 @@ private:
     QMap<QString, QByteArray> m_written; // edits that must be found again
     QStringList m_story;
 };
+
+class tst_Record::EndingDisk : public Disk
+{
+public:
+    struct End {
+    };
+
+    EndingDisk(int copies, bool isFull)
+        : m_left(copies)
+        , m_isFull(isFull)
+    {
+    }
+
+    bool copy(const QString &from, const QString &to, QString *error) override
+    {
+        if (m_left-- > 0)
+            return Disk::copy(from, to, error);
+        if (!m_isFull)
+            throw End();
+        *error = QStringLiteral("full");
+        return false;
+    }
+
+private:
+    int m_left;
+    bool m_isFull;
+};
+
+QStringList tst_Record::copies() const
+{
+    QStringList found;
+    QDirIterator files(m_dir.filePath(QStringLiteral("out")), QDir::Files | QDir::Hidden,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (path.contains(QLatin1String(".edited")))
+            found.append(path);
+    }
+    found.sort();
+    return found;
+}
 
 GenerationInput tst_Record::input(bool gpio, Language language) const
 {
@@ -70,10 +117,10 @@ bool tst_Record::isKeptSomewhere(const QString &path, const QByteArray &bytes) c
 
 // A run of which only the steps before `step` happen; `end`: 0 the tool succeeds, 1 it fails,
 // 2 none is run.
-void tst_Record::runUpTo(int step, int end, const GenerationInput &input)
+void tst_Record::runUpTo(int step, int end, const GenerationInput &input, Disk *disk)
 {
     const GenerationPlan plan = generationPlan(input);
-    GenerationRecord record(input, plan, sha256, Utils::FileUtils::writeLines);
+    GenerationRecord record(input, plan, sha256, Utils::FileUtils::writeLines, disk);
     QString error;
     const auto isOver = [&step] { return step-- <= 0; };
     QVERIFY(QDir().mkpath(plan.folder));
@@ -199,6 +246,97 @@ void tst_Record::tellsTheTruthWhereverRunsEnd()
     for (const FileState::State state :
          {FileState::Fresh, FileState::Stale, FileState::Edited, FileState::Missing})
         QVERIFY2(states[state] > 0, qPrintable(stateName(state)));
+}
+
+// Runs of one configuration that end after any of their steps, or between two copies. What they had
+// to keep, not knowing whose it was, goes with the first that ends; what somebody has written
+// stays.
+void tst_Record::leavesNoCopiesOfItsOwn()
+{
+    bool given = false;
+    uint seed = uint(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
+    if (!given)
+        seed = QRandomGenerator::global()->generate() & 0x7fffffff;
+    QRandomGenerator random(seed);
+    const GenerationInput input = this->input(true, Language::Vhdl);
+    const int whole = 40;
+    int kept = 0;
+    int ended = 0;
+    for (int sequence = 0; sequence < 100; ++sequence) {
+        QDir(m_dir.filePath(QStringLiteral("out"))).removeRecursively();
+        m_edited.clear();
+        m_story.clear();
+        const auto tell = [&] {
+            return QStringLiteral("TARVO_TEST_SEED=%1, sequence %2: %3; %4")
+                .arg(seed)
+                .arg(sequence)
+                .arg(m_story.join(QStringLiteral(", ")), copies().join(u' '))
+                .toUtf8();
+        };
+        // Nothing is known before a first manifest, here of a run without results.
+        runUpTo(whole, 1, input);
+        const QString edited = generationPlan(input).outputs.verilogNetlist;
+        const bool isEdited = sequence % 4 == 0;
+        if (isEdited) {
+            runUpTo(whole, 0, input);
+            QVERIFY(TestSupport::write(edited, "mine"));
+        }
+        for (int run = 0; run < 5; ++run) {
+            const int step = random.bounded(24);
+            const int end = random.bounded(3);
+            const int copies = random.bounded(6);
+            EndingDisk disk(copies, false);
+            m_story.append(QStringLiteral("run up to %1 with end %2 or %3 copies")
+                               .arg(step)
+                               .arg(end)
+                               .arg(copies));
+            try {
+                runUpTo(step, end, input, &disk);
+            } catch (const EndingDisk::End &) {
+                ++ended;
+            }
+            if (QTest::currentTestFailed())
+                qFatal("%s", tell().constData());
+        }
+        kept += copies().size();
+        runUpTo(whole, 0, input);
+        QCOMPARE(TestSupport::contentsOf(edited), QByteArray("with GPIO") + edited.toUtf8());
+        const QStringList left = copies();
+        if (!isEdited)
+            QVERIFY2(left.isEmpty(), tell().constData());
+        if (isEdited)
+            QVERIFY2(left.size() == 1 && TestSupport::contentsOf(left.first()) == "mine",
+                     tell().constData());
+    }
+    QVERIFY(kept > 50);
+    QVERIFY(ended > 5);
+}
+
+// The disk is full after some copies.
+void tst_Record::takesBackWhatItCouldNotKeep()
+{
+    QDir(m_dir.filePath(QStringLiteral("out"))).removeRecursively();
+    const GenerationInput input = this->input(true, Language::Vhdl);
+    const GenerationPlan plan = generationPlan(input);
+    runUpTo(40, 0, input);
+    const QStringList edited = {plan.pathOf(plan.includeFiles.first()),
+                                plan.outputs.verilogNetlist};
+    for (const QString &path : edited)
+        QVERIFY(TestSupport::write(path, "mine"));
+    const QString manifest = plan.folder + QLatin1String("/manifest.json");
+    const QByteArray before = TestSupport::contentsOf(manifest);
+    for (int fitting = 0; fitting < edited.size(); ++fitting) {
+        EndingDisk disk(fitting, true);
+        GenerationRecord record(input, plan, sha256, Utils::FileUtils::writeLines, &disk);
+        QString error;
+        QVERIFY(!record.begin(&error));
+        QCOMPARE(error, QStringLiteral("full"));
+        QCOMPARE(copies(), QStringList());
+        QCOMPARE(record.messages(), QStringList());
+        QCOMPARE(TestSupport::contentsOf(manifest), before);
+        for (const QString &path : edited)
+            QCOMPARE(TestSupport::contentsOf(path), QByteArray("mine"));
+    }
 }
 
 TARVO_TEST_MAIN(QCoreApplication, tst_Record)
