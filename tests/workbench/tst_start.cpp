@@ -20,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
 #include <utility>
 
 using namespace Workbench;
@@ -193,6 +194,36 @@ private Q_SLOTS:
         window.show();
         QVERIFY(window.tabs()->closeAll());
         QCOMPARE(since(), 0);
+    }
+
+    // Each writing waits for the disk, before anything is seen.
+    void theSameStartAgainWritesNoSettings()
+    {
+        const QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("settings.ini"));
+        QSettings settings(path, QSettings::IniFormat);
+        const QString project = makeProject(dir.filePath(QStringLiteral("p")), 1);
+        IpCatalogue catalogue;
+        const auto start = [&] {
+            MainWindow window(catalogue, settings);
+            QVERIFY(window.beginWith(project));
+            window.show();
+            QCoreApplication::processEvents();
+        };
+        start();
+        settings.sync();
+        // Whoever writes the settings puts another file in this one's place, whose number is
+        // another as long as this one is open.
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        struct stat before = {};
+        struct stat after = {};
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &before), 0);
+        start();
+        settings.sync();
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &after), 0);
+        QCOMPARE(after.st_ino, before.st_ino);
+        QVERIFY(settings.value(QStringLiteral("recentProjects")).toStringList().contains(project));
     }
 
     void aProjectThatCannotBeOpenedIsLeftForTheWindowToTell()

@@ -30,6 +30,9 @@ QStringList RecentProjects::files() const
 void RecentProjects::add(const QString &file)
 {
     QStringList all = files();
+    // What stands already is not written: the disk is waited for.
+    if (all.value(0) == file)
+        return;
     all.removeAll(file);
     all.prepend(file);
     m_settings.setValue(recentKey, QStringList(all.mid(0, recentCount)));

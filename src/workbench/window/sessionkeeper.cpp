@@ -51,6 +51,7 @@ SessionKeeper::SessionKeeper(QSettings &settings, const Surroundings &with, QObj
     : QObject(parent)
     , m_store(settings)
     , m_with(with)
+    , m_writtenWindow(m_store.windowState())
     , m_splitters(m_store.splitters())
 {
     m_timer.setSingleShot(true);
