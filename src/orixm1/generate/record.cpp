@@ -123,12 +123,21 @@ QVector<DigestedFile> GenerationRecord::digestedCopies() const
     return files;
 }
 
-// What a run that did not end had made already was no edit.
+// What a run that did not end had made already was no edit. Such a run could not tell of what it
+// has kept.
 void GenerationRecord::dropNeedlessCopies()
 {
     for (const Kept &kept : qAsConst(m_kept)) {
+        const bool isTold = std::any_of(m_edits.begin(), m_edits.end(), [&kept](const Kept &edit) {
+            return edit.copy == kept.copy;
+        });
         if (digestOf(kept.copy) == kept.sha256 && digestOf(kept.path) == kept.sha256)
             m_disk->remove(kept.copy);
+        else if (!isTold)
+            m_messages.append(
+                Tr::tr("A run that did not end has found something else in \"%1\" than what a run "
+                       "has left; it is in \"%2\".")
+                    .arg(QDir::toNativeSeparators(kept.path), QDir::toNativeSeparators(kept.copy)));
     }
     m_kept.clear();
 }
