@@ -5,7 +5,7 @@
 #                             prints what it has to
 #   all:CONFIGURATION[:OPTION…]   the same for all programs of a configuration, one after the other; with storage-node files, too
 #   table                     the guide's table has each program once
-#   mutants:PROGRAM           bits that are stuck in the RTL of the blocks that it uses are noticed by the program
+#   mutants:PROGRAM[:COUNT]   bits that are stuck in the RTL of the blocks that it uses are noticed by the program; the first COUNT
 #   files[:OPTION…]           what a program leaves in a file is there for its next run; a card's files in several pieces
 #   own                       the guide's way to a program of one's own
 #   elf                       the guide's way to end a program that is compiled already
@@ -146,6 +146,7 @@ case ${case[0]} in
             grep -qE '^orixm1: (Passed|Failed|Time limit reached) after ' err || fail "$expression in $file: $(cat err)"
             ! passes "$program" || fail "$program does not notice $expression in $file"
             count=$((count + 1))
+            [[ $count != "${case[2]-}" ]] || break
         done <<'END'
 hello ahb_to_apb.v s/(assign PWDATA += HWDATA)/\1 \& 32'hFFFFFFEF/
 hello apb_uart.v s/tx_shift  <= [{]HAS_FORMAT.*[}]/& | 9'h004/
