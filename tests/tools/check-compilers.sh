@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# The compilers of simulations with another allocator run what comes next on PATH, with everything that they are given.
+# The compilers of simulations with another allocator, and the players with quicker casts, run what comes next on PATH, with everything
+# that they are given.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 tmp=$(mktemp -d)
@@ -17,6 +18,7 @@ exit 3
 END
 chmod +x real/iverilog
 cp real/iverilog real/verilator
+cp real/iverilog real/vvp
 printf '#!/bin/sh\nexec "%s/iverilog" before "$@"\n' "$here" > before/iverilog
 chmod +x before/iverilog
 export PRELOADED=$tmp/preloaded
@@ -44,6 +46,13 @@ runs "<iverilog><x>" "$allocator" "$tmp/links:$here:$tmp/real:$tools" iverilog x
 LD_PRELOAD=$allocator runs "<iverilog><x>" "$allocator" "$here:$tmp/real:$tools" iverilog x
 mapfile -t other < <(ldconfig -p | sed -n 's/.*libdl\.so\.2.* => //p')
 LD_PRELOAD=${other[0]} runs "<iverilog><x>" "${other[0]}" "$here:$tmp/real:$tools" iverilog x
+casts=${other[0]} # any library
+unset TARVO_TEST_CASTS
+runs "<vvp><-n><x>" "" "$here:$tmp/real:$tools" vvp -n x
+TARVO_TEST_CASTS=$tmp/none runs "<vvp><x>" "" "$here:$tmp/real:$tools" vvp x
+TARVO_TEST_CASTS=$casts runs "<vvp><x>" "$casts" "$here:$tmp/real:$tools" vvp x
+TARVO_TEST_CASTS=$casts runs "<iverilog><x>" "$allocator" "$here:$tmp/real:$tools" iverilog x
+LD_PRELOAD=$allocator TARVO_TEST_CASTS=$casts runs "<vvp><x>" "$allocator:$casts" "$here:$tmp/real:$tools" vvp x
 ln -s "$here/iverilog" links/a-tool-that-is-nowhere
 status=0
 (PATH=$tmp/links:$tools && a-tool-that-is-nowhere x) > out 2>&1 || status=$?
