@@ -33,7 +33,7 @@ runs() { # SAID PRELOADED PATH COMMAND…
     # shellcheck disable=SC2053
     [[ $(<preloaded) == $preloaded ]] || fail "preloaded: $(cat preloaded)"
 }
-unset LD_PRELOAD
+unset LD_PRELOAD TARVO_TEST_CASTS
 allocator=
 for file in /usr/lib/*/libtcmalloc_minimal.so.4; do
     [[ ! -f $file ]] || allocator=$file
@@ -47,11 +47,10 @@ LD_PRELOAD=$allocator runs "<iverilog><x>" "$allocator" "$here:$tmp/real:$tools"
 mapfile -t other < <(ldconfig -p | sed -n 's/.*libdl\.so\.2.* => //p')
 LD_PRELOAD=${other[0]} runs "<iverilog><x>" "${other[0]}" "$here:$tmp/real:$tools" iverilog x
 casts=${other[0]} # any library
-unset TARVO_TEST_CASTS
 runs "<vvp><-n><x>" "" "$here:$tmp/real:$tools" vvp -n x
 TARVO_TEST_CASTS=$tmp/none runs "<vvp><x>" "" "$here:$tmp/real:$tools" vvp x
 TARVO_TEST_CASTS=$casts runs "<vvp><x>" "$casts" "$here:$tmp/real:$tools" vvp x
-TARVO_TEST_CASTS=$casts runs "<iverilog><x>" "$allocator" "$here:$tmp/real:$tools" iverilog x
+TARVO_TEST_CASTS=$casts runs "<iverilog><x>" "${allocator:+$allocator:}$casts" "$here:$tmp/real:$tools" iverilog x
 LD_PRELOAD=$allocator TARVO_TEST_CASTS=$casts runs "<vvp><x>" "$allocator:$casts" "$here:$tmp/real:$tools" vvp x
 ln -s "$here/iverilog" links/a-tool-that-is-nowhere
 status=0

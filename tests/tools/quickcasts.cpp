@@ -1,7 +1,8 @@
-// Preloaded into vvp, which asks for the class of an object at each step that it simulates and
-// spends half of its time on the answer: the answers are kept. By the C++ ABI for Itanium (2.9.7)
-// an object's pointer to its table of virtual functions tells its class and its place in the whole
-// object, so for the same table and classes a cast moves a pointer by the same distance, or fails.
+// Preloaded into Icarus Verilog, whose vvp asks for the class of an object at each step that it
+// simulates and spends half of its time on the answer: the answers are kept. By the C++ ABI for
+// Itanium (2.9.7) an object's pointer to its table of virtual functions tells its class and its
+// place in the whole object, so for the same table and classes a cast moves a pointer by the same
+// distance, or fails.
 
 #include <cstddef>
 #include <cstdint>
