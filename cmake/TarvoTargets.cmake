@@ -176,15 +176,18 @@ function(tarvo_add_test name)
         tarvo_add_meta_objects(${name} ${ARG_SOURCES} ${name}.moc)
     endif()
     set_property(GLOBAL APPEND PROPERTY TARVO_TESTS ${name})
-    add_test(NAME ${name} COMMAND ${name})
+    set(launcher)
+    if(TARVO_SANITIZE)
+        set(launcher ${PROJECT_SOURCE_DIR}/tests/tools/sanitized)
+    endif()
+    add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${name}>)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
     # The test's own limit counts, not that of a function of it, in milliseconds.
     set(environment QT_QPA_PLATFORM=offscreen "QT_LOGGING_RULES=qt.qpa.*=false" QTEST_FUNCTION_TIMEOUT=1800000)
     if(TARVO_SANITIZE)
-        # Qt has no frame pointers: without the slow unwinder a leak's call stack ends in Qt.
-        list(APPEND environment ASAN_OPTIONS=fast_unwind_on_malloc=0
+        list(APPEND environment
             LSAN_OPTIONS=print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp)
     endif()
     if(ARG_OWN_TOOLS)

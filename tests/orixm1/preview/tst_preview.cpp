@@ -265,7 +265,7 @@ void tst_Preview::saysWhatAGenerationThenWrites()
     OptionMap options;
     QString device = devices.first().id();
 #ifdef __SANITIZE_ADDRESS__
-    constexpr int rounds = 300; // a round takes ten times as long there
+    constexpr int rounds = 600; // a round takes ten times as long there
 #else
     constexpr int rounds = 1000;
 #endif
