@@ -57,6 +57,34 @@ private Q_SLOTS:
         QVERIFY(seen > 0 && hidden > 0);
     }
 
+    void scrollsATextThatWasSetWhileItWasHidden_data() { scrollsOnlyWhereSomethingIsHidden_data(); }
+
+    // Where there is no more room for it than for the one before.
+    void scrollsATextThatWasSetWhileItWasHidden()
+    {
+        QFETCH(bool, isWrapped);
+        const QString brief = QStringLiteral("short");
+        auto *label = isWrapped ? new WrappedLabel(brief) : new QLabel(brief);
+        QWidget around;
+        auto *text = new ScrollingText(label, QStringLiteral("About"));
+        text->setParent(&around);
+        text->setGeometry(0, 0, 200, 40);
+        around.resize(200, 40);
+        around.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&around));
+        for (QWidget *hidden : {static_cast<QWidget *>(text), &around}) {
+            for (const QString &said : {longText(), brief, longText().repeated(2), brief}) {
+                hidden->hide();
+                label->setText(said);
+                QCoreApplication::processEvents();
+                hidden->show();
+                QCoreApplication::processEvents();
+                QCOMPARE(text->verticalScrollBar()->isVisible(), said != brief);
+                QVERIFY(label->height() >= label->heightForWidth(label->width()));
+            }
+        }
+    }
+
     void takesWhatItsTextNeedsAndNoMore()
     {
         QWidget window;

@@ -41,8 +41,13 @@ QSize ScrollingText::minimumSizeHint() const
 
 bool ScrollingText::event(QEvent *event)
 {
+    // Another text is told by a request, unless it was set before this was shown.
+    if (event->type() == QEvent::Show) {
+        QEvent request(QEvent::LayoutRequest);
+        ScrollingText::event(&request);
+    }
     const bool isResized = event->type() == QEvent::Resize;
-    if (isResized || event->type() == QEvent::LayoutRequest) { // another text
+    if (isResized || event->type() == QEvent::LayoutRequest) {
         // QScrollArea would keep a bar because the text is longer beside it.
         const bool isSeen = m_label->heightForWidth(width()) <= height();
         setVerticalScrollBarPolicy(isSeen ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
