@@ -366,6 +366,7 @@ void askFileDialogs()
 {
     const QTemporaryDir folder;
     write(folder.filePath(QStringLiteral("there.v")), "");
+    write(folder.filePath(QStringLiteral("plain")), ""); // of a type of its own
     QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("full/below")));
     const auto accept = [&folder](QFileDialog::FileMode mode, QFileDialog::AcceptMode accepting,
                                   const QString &name) {
@@ -398,6 +399,7 @@ void askFileDialogs()
         return QModelIndex();
     };
     QTRY_VERIFY(indexOf("there.v").isValid());
+    QTRY_VERIFY(indexOf("plain").isValid());
     files->setCurrentIndex(indexOf("there.v"));
     QVERIFY(!textsOfMenu(files->viewport()).isEmpty());
     QVERIFY(!textsOfBoxes([&dialog] {

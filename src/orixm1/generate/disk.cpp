@@ -5,7 +5,6 @@
 #include <reading/limits.h>
 #include <reading/plainfile.h>
 #include <utils/fileutils.h>
-#include <utils/systemerror.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -105,7 +104,7 @@ Utils::Result<QByteArray> ImaginedDisk::read(const QString &path) const
         return *bytes;
     if (m_removed.contains(path))
         return Utils::Failure{Tr::tr("\"%1\" cannot be read: %2.")
-                                  .arg(QDir::toNativeSeparators(path), Utils::systemError(ENOENT))};
+                                  .arg(QDir::toNativeSeparators(path), qt_error_string(ENOENT))};
     return Disk::read(path);
 }
 

@@ -35,7 +35,8 @@ QSize ScrollingText::sizeHint() const
 
 QSize ScrollingText::minimumSizeHint() const
 {
-    const int lines = 2 * fontMetrics().lineSpacing() + 4; // and what a label leaves around
+    const QFontMetrics metrics = m_label->fontMetrics();
+    const int lines = metrics.lineSpacing() + metrics.height();
     return {fontMetrics().averageCharWidth() * 8, qMin(lines, sizeHint().height())};
 }
 
