@@ -127,13 +127,13 @@ function(tarvo_add_program name)
 endfunction()
 
 # What tests share: results, which are known by what they were made from, a synthesis tool that takes those of equal designs, quicker
-# compilers and players of simulations, and a C++ compiler that takes what it has made too and spares the optimising. It gets the many sources of a
-# design in one: most of its time goes into the headers that all of them include.
+# compilers and players of simulations, and a C++ compiler that takes what it has made too and spares the optimising. It gets the many
+# sources of a design in one: most of its time goes into the headers that all of them include.
 set(TARVO_TEST_CACHE ${CMAKE_BINARY_DIR}/tests/cache)
 set(TARVO_TEST_ENVIRONMENT XDG_CACHE_HOME=${TARVO_TEST_CACHE} TARVO_TEST_CACHE=${TARVO_TEST_CACHE} OPT_FAST=-O0 OPT_GLOBAL=-O0
     MAKEFLAGS=VM_PARALLEL_BUILDS=0)
 # The sanitizers' library has to be the first.
-if(NOT TARVO_SANITIZE)
+if(NOT TARVO_SANITIZE AND NOT TARVO_FUZZ)
     set(TARVO_TEST_CASTS ${CMAKE_BINARY_DIR}/tests/lib/libquickcasts.so)
     list(APPEND TARVO_TEST_ENVIRONMENT TARVO_TEST_CASTS=${TARVO_TEST_CASTS})
 endif()

@@ -2,11 +2,8 @@
 # The compilers of simulations with another allocator, and the players with quicker casts, run what comes next on PATH, with everything
 # that they are given.
 set -euo pipefail
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
-cd "$tmp"
-fail() { echo "FAILED: $*"; exit 1; }
+# shellcheck source=tests/tools/scratch.sh
+source "$(dirname "${BASH_SOURCE[0]}")/scratch.sh"
 
 mkdir real before links empty
 cat > real/iverilog <<'END'

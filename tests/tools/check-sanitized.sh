@@ -1,11 +1,8 @@
 #!/usr/bin/env bash
 # A test with sanitizers is run again, with whole call stacks, if and only if anything seems to leak; other reports are shown.
 set -euo pipefail
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
-cd "$tmp"
-fail() { echo "FAILED: $*"; exit 1; }
+# shellcheck source=tests/tools/scratch.sh
+source "$(dirname "${BASH_SOURCE[0]}")/scratch.sh"
 
 # What a sanitizer does: "reports TEXT" while stacks are short, and the status of the run.
 cat > test <<'END'

@@ -1,11 +1,8 @@
 #!/usr/bin/env bash
 # The Yosys that remembers, with a tool behind it that counts its runs.
 set -euo pipefail
-here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-tmp=$(mktemp -d)
-trap 'rm -rf "$tmp"' EXIT
-cd "$tmp"
-fail() { echo "FAILED: $*"; exit 1; }
+# shellcheck source=tests/tools/scratch.sh
+source "$(dirname "${BASH_SOURCE[0]}")/scratch.sh"
 
 mkdir real .tarvo-run scratch
 cat > real/yosys <<'END'

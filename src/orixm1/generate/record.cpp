@@ -133,7 +133,7 @@ void GenerationRecord::dropNeedlessCopies()
         });
         if (digestOf(kept.copy) == kept.sha256 && digestOf(kept.path) == kept.sha256)
             m_disk->remove(kept.copy);
-        else if (!isTold)
+        else if (!isTold && m_disk->exists(kept.copy))
             m_messages.append(
                 Tr::tr("A run that did not end has found something else in \"%1\" than what a run "
                        "has left; it is in \"%2\".")

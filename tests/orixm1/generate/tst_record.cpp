@@ -41,6 +41,18 @@ private:
     QStringList m_messages; // of all runs that ended
 };
 
+namespace
+{
+
+uint chosenSeed()
+{
+    bool given = false;
+    const uint seed = uint(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
+    return given ? seed : QRandomGenerator::global()->generate() & 0x7fffffff;
+}
+
+} // namespace
+
 class tst_Record::EndingDisk : public Disk
 {
 public:
@@ -168,10 +180,7 @@ void tst_Record::runUpTo(int step, int end, const GenerationInput &input, Disk *
 
 void tst_Record::tellsTheTruthWhereverRunsEnd()
 {
-    bool given = false;
-    uint seed = uint(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
-    if (!given)
-        seed = QRandomGenerator::global()->generate() & 0x7fffffff;
+    const uint seed = chosenSeed();
     QRandomGenerator random(seed);
     const auto tell = [&](const QString &more = QString()) {
         return QStringLiteral("TARVO_TEST_SEED=%1: %2")
@@ -256,10 +265,7 @@ void tst_Record::tellsTheTruthWhereverRunsEnd()
 // stays.
 void tst_Record::leavesNoCopiesOfItsOwn()
 {
-    bool given = false;
-    uint seed = uint(qEnvironmentVariableIntValue("TARVO_TEST_SEED", &given));
-    if (!given)
-        seed = QRandomGenerator::global()->generate() & 0x7fffffff;
+    const uint seed = chosenSeed();
     QRandomGenerator random(seed);
     const GenerationInput input = this->input(true, Language::Vhdl);
     const int whole = 40;
